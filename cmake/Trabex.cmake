@@ -1,0 +1,64 @@
+# What every target of the house shares: warnings, floating-point rules, folders.
+
+# The program folder: executables with Imagen/, Reportes/, Normas/ and Manual/ beside them.
+set(TRABEX_PROGRAMA ${CMAKE_BINARY_DIR}/programa)
+
+add_library(trabex_opciones INTERFACE)
+if(MSVC)
+    target_compile_options(trabex_opciones INTERFACE /W4 /WX /utf-8 /permissive- /fp:precise)
+else()
+    # No contraction and no reassociation: results are the same bits in debug and release.
+    target_compile_options(trabex_opciones INTERFACE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror
+        -ffp-contract=off)
+endif()
+if(TRABEX_SANEAR)
+    target_compile_options(trabex_opciones INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(trabex_opciones INTERFACE -fsanitize=address,undefined)
+endif()
+
+# trabex_biblioteca(<name> [<library below> ...]): the folder's sources as the static library trabex_<name>.
+# It links only what is named; tools/capas checks that its includes reach no further.
+function(trabex_biblioteca nombre)
+    file(GLOB fuentes CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+    add_library(trabex_${nombre} STATIC ${fuentes})
+    set_target_properties(trabex_${nombre} PROPERTIES LINKER_LANGUAGE CXX)
+    target_include_directories(trabex_${nombre} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+    target_link_libraries(trabex_${nombre} PUBLIC trabex_opciones)
+    foreach(otra IN LISTS ARGN)
+        target_link_libraries(trabex_${nombre} PUBLIC trabex_${otra})
+    endforeach()
+endfunction()
+
+# trabex_prueba(<name> <library> ...): the folder's tests as the program and the ctest prueba_<name>.
+function(trabex_prueba nombre)
+    file(GLOB fuentes CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+    add_executable(prueba_${nombre} ${fuentes})
+    target_include_directories(prueba_${nombre} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+    target_link_libraries(prueba_${nombre} PRIVATE GTest::gtest GTest::gmock)
+    if(NOT nombre MATCHES "_qt$")
+        target_link_libraries(prueba_${nombre} PRIVATE GTest::gtest_main)
+    endif()
+    foreach(otra IN LISTS ARGN)
+        target_link_libraries(prueba_${nombre} PRIVATE trabex_${otra})
+    endforeach()
+    add_test(NAME prueba_${nombre} COMMAND prueba_${nombre})
+    set_tests_properties(prueba_${nombre} PROPERTIES TIMEOUT 600)
+endfunction()
+
+# trabex_biblioteca_qt(<name> [<library below> ...]): the same for a folder named qt/, the only ones that know Qt.
+function(trabex_biblioteca_qt nombre)
+    trabex_biblioteca(${nombre} ${ARGN})
+    set_target_properties(trabex_${nombre} PROPERTIES AUTOMOC ON AUTORCC ON)
+    target_compile_definitions(trabex_${nombre} PUBLIC QT_NO_KEYWORDS)
+    target_link_libraries(trabex_${nombre} PUBLIC Qt6::Widgets)
+endfunction()
+
+# trabex_prueba_qt(<name> <library> ...): tests of windows, run without a display; <name> ends in _qt.
+function(trabex_prueba_qt nombre)
+    trabex_prueba(${nombre} ${ARGN})
+    set_target_properties(prueba_${nombre} PROPERTIES AUTOMOC ON)
+    target_sources(prueba_${nombre} PRIVATE ${CMAKE_SOURCE_DIR}/tests/support/qt/main.cpp)
+    set_tests_properties(prueba_${nombre} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+endfunction()

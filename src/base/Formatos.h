@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "base/Fecha.h"
+
+namespace trabex {
+
+/// The marks with which the locale writes numbers, in UTF-8.
+struct Separadores {
+    std::string Miles = ".";
+    std::string Decimal = ",";
+};
+
+/// `valor` in one of the formats "0", "0.00", "#,##0", "#,##0.00" (any count of decimals after the point).
+///
+/// Halves of the last digit shown go away from zero, as printed numbers do, and are judged on the 15
+/// significant digits that a double holds: 2.675 shows as 2.68. A value that rounds to zero has no sign.
+/// An infinity or NaN shows as an empty text.
+std::string Formato(double valor, std::string_view formato, const Separadores& separadores);
+
+/// `fecha` in the format "dd/MM/yyyy".
+std::string FormatoFecha(const Fecha& fecha);
+
+}  // namespace trabex

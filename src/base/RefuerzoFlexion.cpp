@@ -1,0 +1,47 @@
+#include "base/RefuerzoFlexion.h"
+
+#include <cmath>
+
+namespace trabex {
+
+namespace {
+
+/// Steel in tension alone, at or below the limit moment.
+double SoloTraccion(double Mu, double b, double d, double fc, double fy) {
+    const double q = Mu / (d * d * (fc * b));
+    const double r = 1 - (q + q) / 0.85;
+    if (r < 0) return 0;
+    const double w = (1 - std::sqrt(r)) * 0.85;
+    const double j = 1 - w * 0.59;
+    return Mu / ((fy * j) * d);
+}
+
+/// Depth of the neutral axis at the limit moment.
+double EjeNeutroLimite(double d, std::int16_t FC) {
+    double beta = 0.85;
+    if (FC > 280) beta = 0.85 - ((FC - 280) * 0.05) / 70;
+    const double a = (d * 0.2) / 0.85;
+    return a / beta;
+}
+
+}  // namespace
+
+AcerosFlexion RefuerzoFlexion(double Mu, const SeccionFlexion& seccion, const Materiales& materiales) {
+    const double fc = materiales.FC;
+    const double fy = materiales.FY;
+    const double rec = seccion.Recubrimiento;
+    const double b = seccion.b;
+    const double d = seccion.h - rec;
+    const double Mlim = d * d * (((fc * 0.2) * 0.882) * b);
+    if (!(Mu > Mlim)) return {SoloTraccion(Mu, b, d, fc, fy), 0};
+
+    const double As1 = Mlim / ((fy * 0.882) * d);
+    const double Mr = Mu - Mlim;
+    const double As2 = Mr / ((d - rec) * fy);
+    const double c = EjeNeutroLimite(d, materiales.FC);
+    double fs = ((c - rec) * 6300) / c;
+    if (fs > fy) fs = fy;
+    return {As1 + As2, Mr / ((d - rec) * fs)};
+}
+
+}  // namespace trabex

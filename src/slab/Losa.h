@@ -1,0 +1,86 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace trabex {
+
+/// Materials and factors that hold for every slab of a project: the one row of its table `LosaG`.
+struct DatosGenerales {
+    std::int16_t FC = 250;   ///< concrete strength, kgf/cm²
+    std::int16_t FY = 4200;  ///< steel yield strength, kgf/cm²
+    double D8 = 0.025;       ///< cover to the bar centre, m
+    double FCP = 1.2;        ///< load factor on permanent load
+    double FCV = 1.6;        ///< load factor on live load
+    double FiMomento = 0.9;  ///< strength reduction factor in flexure
+    double FiCorte = 0.75;   ///< strength reduction factor in shear
+};
+
+/// One span, with its service loads. Loads of a ribbed slab are per rib, those of a solid slab per metre.
+struct Tramo {
+    double LT = 0;        ///< length between its joints before any of them is displaced, m
+    std::int32_t Wp = 0;  ///< permanent uniform load, kgf/m
+    std::int32_t WV = 0;  ///< live uniform load, kgf/m
+    std::int32_t p1 = 0;  ///< permanent point load, kgf
+    double L1 = 0;        ///< distance of p1 from the span's first joint, along the horizontal, m
+};
+
+/// Support types of a joint. Any other number restrains nothing.
+enum TipoApoyo : std::int16_t {
+    ApoyoFijo = 1,      ///< X and Y
+    RodilloEnX = 2,     ///< Y
+    RodilloEnY = 3,     ///< X
+    Empotramiento = 4,  ///< X, Y and rotation
+    SinApoyo = 5,       ///< nothing
+};
+
+/// One joint: the axis that the engineer sees, and its support.
+struct EjeLosa {
+    std::string Eje;        ///< axis name
+    std::int16_t Tipo = 0;  ///< see TipoApoyo
+    double Lizq = 0;        ///< carried with the slab; no calculation reads it
+    double Lder = 0;        ///< carried with the slab; no calculation reads it
+    double HV = 0;          ///< carried with the slab; no calculation reads it
+};
+
+/// A shift of a joint's position. It is geometry, not a settlement; several on one joint add up.
+struct JuntaD {
+    std::int16_t Junta = 0;  ///< joint number, from 1
+    double x = 0;            ///< shift along the slab, m
+    double y = 0;            ///< shift across it, m
+};
+
+/// The open slab. The three arrays count from 1: slot 0 exists, stays zero, and some formulas read it.
+struct Losa {
+    std::string Nombre;
+    bool OpcionMaciza = false;  ///< solid, or else ribbed
+    double Bo = 0.1;            ///< rib width, m
+    double Ho = 0.25;           ///< depth of the ribbed slab, m
+    double So = 0.5;            ///< rib spacing between centres, m
+    double Bm = 1;              ///< width of the solid strip, m
+    double Hm = 0.2;            ///< depth of the solid slab, m
+    double Loseta = 0.05;       ///< depth of the ribbed slab's topping, m
+    std::vector<Tramo> Tramos = std::vector<Tramo>(1);
+    std::vector<EjeLosa> Ejes = std::vector<EjeLosa>(1);
+    std::vector<JuntaD> JuntasD = std::vector<JuntaD>(1);
+};
+
+/// Number of spans. Throws ErrorEjecucion 6 past 32767.
+std::int16_t NumeroTramos(const Losa& losa);
+
+/// Number of displaced-joint records. Throws ErrorEjecucion 6 past 32767.
+std::int16_t NumeroJuntasD(const Losa& losa);
+
+/// The rectangular section that is analysed and designed: (Bm, Hm) of a solid slab, (Bo, Ho) of a ribbed one.
+struct SeccionLosa {
+    double Ancho;  ///< m
+    double Alto;   ///< m
+};
+SeccionLosa SeccionDeCalculo(const Losa& losa);
+
+/// Erases spans, axes and displaced joints, leaving their slot 0.
+void VaciarLosa(Losa& losa);
+
+}  // namespace trabex

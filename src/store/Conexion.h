@@ -1,0 +1,67 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string_view>
+
+namespace trabex {
+
+/// A connection to a project, shared, scratch or exchange database: one SQLite file, without side files.
+///
+/// Nothing here throws. A connection that could not be opened is closed and says so by `ConexionFallida`;
+/// whatever is then asked of it fails in silence. Closing happens at destruction too.
+class Conexion {
+  public:
+    Conexion();
+    ~Conexion();
+    Conexion(Conexion&&) noexcept;
+    Conexion& operator=(Conexion&&) noexcept;
+
+    bool Abierta() const;
+    bool ConexionFallida() const;
+
+    /// Runs one statement of the system's dialect: `DELETE * FROM t …` is understood, texts stand in single
+    /// quotes, comments and further statements are refused. False when it failed; the tables then stand as
+    /// they stood.
+    bool Ejecutar(std::string_view sentencia);
+
+    void Cerrar();
+
+    struct Interna;  ///< the engine's side, private to the store
+    Interna* interna() const { return interna_.get(); }
+
+  private:
+    friend void AbrirConexion(Conexion& conexion, const std::filesystem::path& camino);
+    friend void AbrirCopiaEnMemoria(Conexion& conexion, const std::filesystem::path& camino);
+    std::unique_ptr<Interna> interna_;
+    bool fallida_ = false;
+};
+
+/// Makes `conexion` a new connection to the database at `camino`; an earlier one is dropped. The file must
+/// exist and be a sound database: otherwise ConexionFallida is set and the file is left as it is.
+void AbrirConexion(Conexion& conexion, const std::filesystem::path& camino);
+
+/// As AbrirConexion, on a private copy in memory with its names indexed: what is written to it never reaches
+/// the file. For programs that only read whole projects.
+void AbrirCopiaEnMemoria(Conexion& conexion, const std::filesystem::path& camino);
+
+/// One save: what runs between its making and `Confirmar` is stored together or not at all.
+///
+/// The destructor takes back what was not confirmed. A statement that its own text breaks does not spoil the
+/// save; a refused value, a full disk, a lock or damage does, and `Confirmar` then answers false. Nests: only
+/// the outermost one counts.
+class Transaccion {
+  public:
+    explicit Transaccion(Conexion& conexion);
+    ~Transaccion();
+    Transaccion(const Transaccion&) = delete;
+    Transaccion& operator=(const Transaccion&) = delete;
+
+    bool Confirmar();
+
+  private:
+    Conexion& conexion_;
+    bool abierta_ = false;
+};
+
+}  // namespace trabex

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+namespace trabex {
+
+/// Writes the database at `origen` whole into a new file `destino`, without the room that deleted rows left.
+/// Of a damaged database it saves what can be read. False, and no file at `destino`, when `origen` is no
+/// database, `destino` exists, or the disk refuses.
+bool CompactarBaseDatos(const std::filesystem::path& origen, const std::filesystem::path& destino);
+
+/// Makes a new database file from schema text (several statements). False and no file when it fails or
+/// `camino` exists. For building templates.
+bool CrearBaseDatos(const std::filesystem::path& camino, std::string_view esquema);
+
+}  // namespace trabex

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string_view>
+
+#include "slab/Losa.h"
+#include "store/TablasProyecto.h"
+
+namespace trabex {
+
+/// The text that opens the slab list on RegistrosProyecto.
+inline constexpr std::string_view ConsultaListaLosas = "SELECT * FROM LosaDatos  ORDER BY Nombre";
+
+/// Loads the slab on which the list stands. A depth of topping of 0 reads as 0.05; null p1 and L1 read as 0.
+void LeerLosa(ProyectoAbierto& proyecto, Losa& losa);
+
+/// Writes `losa` over the stored slab on which the list stands, child rows and all, as one save. False when
+/// it could not be stored; the stored slab then stands as it stood. A depth of topping of 0 becomes 0.05.
+bool GuardarLosa(ProyectoAbierto& proyecto, Losa& losa);
+
+}  // namespace trabex

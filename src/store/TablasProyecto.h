@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string_view>
+
+#include "base/Proyecto.h"
+#include "slab/Losa.h"
+#include "store/Conexion.h"
+#include "store/Recordset.h"
+
+namespace trabex {
+
+/// A project while a workspace is up: the connection and the list of the workspace's elements, whose position
+/// is the selected element. They open together and close together.
+struct ProyectoAbierto {
+    Conexion ConexionProyecto;
+    Recordset RegistrosProyecto;
+};
+
+/// Reads table `Proyecto`; when it is empty it first gets its seed row: `usuario` as engineer, today as date.
+void LeerProyecto(Conexion& conexion, std::string_view usuario, DatosDelProyecto& datos);
+
+/// Reads `Proyecto` and `LosaG`, seeding each when empty. When the tables can't be reached the values become
+/// the seeds.
+void LeerDatosGenerales(Conexion& conexion, std::string_view usuario, DatosDelProyecto& datos,
+                        DatosGenerales& generales);
+
+}  // namespace trabex
