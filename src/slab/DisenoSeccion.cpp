@@ -1,0 +1,40 @@
+#include "slab/DisenoSeccion.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace trabex {
+
+DisenoSeccion::DisenoSeccion(const Losa& losa, const DatosGenerales& generales)
+    : losa_(losa), generales_(generales) {
+    const SeccionLosa seccion = SeccionDeCalculo(losa);
+    const double r = generales.D8 * 100;
+    seccion_ = {seccion.Ancho * 100, seccion.Alto * 100, r};
+
+    const double fc = generales.FC;
+    const double b = losa.Bo * 100;
+    const double d = losa.Ho * 100 - r;
+    Vc_ = 0.5830000000000001 * std::sqrt(fc) * b * d * generales.FiCorte;
+    Mlim_ = 0.2 * fc * 0.882 * b * (d * d);
+}
+
+AceroCaras DisenoSeccion::CalcularAcero(double M) const {
+    const double Mu = std::fabs(M) / generales_.FiMomento * 100;
+    const AcerosFlexion As = RefuerzoFlexion(Mu, seccion_, {generales_.FC, generales_.FY});
+    if (M > 0) return {As.Compresion, As.Traccion};
+    return {As.Traccion, As.Compresion};
+}
+
+double DisenoSeccion::CalcularMacizado(std::size_t junta, double V, double M, double C) const {
+    const double Ma = std::fabs(M);
+    const double Va = std::fabs(V);
+    const Tramo& izquierdo = losa_.Tramos[junta - 1];
+    const double w = (izquierdo.WV * generales_.FCV + izquierdo.Wp * generales_.FCP) * C;
+    const double x1 = w != 0 ? (Va - Vc_) / w : 0;
+    const double x0 = w != 0 ? Va / w : 0;
+    const double t = w != 0 ? 2 * (Ma - Mlim_ / 100) / w : 0;
+    const double x2 = x0 * x0 < t ? losa_.Tramos[junta].LT : x0 - std::sqrt(x0 * x0 - t);
+    return std::max({x1, x2, 0.0});
+}
+
+}  // namespace trabex

@@ -1,0 +1,233 @@
+#include <cmath>
+
+#include <gtest/gtest.h>
+
+#include "slab/Analizar.h"
+#include "slab/CalcularLosa.h"
+#include "support/LosasDePrueba.h"
+#include "support/PorticoDenso.h"
+
+namespace trabex {
+namespace {
+
+using prueba::LosaContinua;
+using prueba::LosaUniforme;
+
+ResultadosLosa Calculada(const Losa& losa, const DatosGenerales& generales = {}) {
+    ResultadosLosa r;
+    CalcularLosa(losa, generales, r);
+    return r;
+}
+
+double ModuloElastico(const DatosGenerales& generales) {
+    return 15100 * std::sqrt(generales.FC) * 1e4;
+}
+
+struct Coeficientes {
+    std::size_t tramos;
+    std::vector<double> momentos;  // over w·L², at each inner support
+};
+
+class TramosIguales : public testing::TestWithParam<Coeficientes> {};
+
+TEST_P(TramosIguales, CoeficientesPublicados) {
+    const auto& [tramos, momentos] = GetParam();
+    const ResultadosLosa r = Calculada(LosaUniforme(tramos, 4, 1000, 250));
+    for (std::size_t k = 0; k < momentos.size(); ++k) {
+        EXPECT_NEAR(r.ResultadoTramo[1][k + 2].MomentoA / 16000, momentos[k], 5e-5);
+        EXPECT_NEAR(r.ResultadoTramo[2][k + 1].MomentoB / 4000, momentos[k], 5e-5);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Vigas, TramosIguales,
+                         testing::Values(Coeficientes{2, {-0.125}}, Coeficientes{3, {-0.1, -0.1}},
+                                         Coeficientes{4, {-0.10714, -0.07143, -0.10714}},
+                                         Coeficientes{5, {-0.10526, -0.07895, -0.07895, -0.10526}}));
+
+TEST(Analizar, DiezTramosIguales) {
+    const ResultadosLosa r = Calculada(LosaUniforme(10, 5, 300));
+    EXPECT_NEAR(r.ResultadoTramo[1][2].MomentoA, -792.472, 5e-4);
+    EXPECT_NEAR(r.ResultadoTramo[1][3].MomentoA, -580.110, 5e-4);
+    EXPECT_NEAR(r.ResultadoTramo[1][4].MomentoA, -637.086, 5e-4);
+}
+
+TEST(Analizar, TresMomentosEnLucesDesiguales) {
+    std::mt19937 azar(7);
+    std::uniform_real_distribution<> luz(2, 8);
+    for (int vez = 0; vez < 20; ++vez) {
+        Losa losa = LosaUniforme(6, 1, 0);
+        for (std::size_t i = 1; i <= 6; ++i)
+            losa.Tramos[i] = {luz(azar), static_cast<int>(i) * 130, 90, 0, 0};
+        const ResultadosLosa r = Calculada(losa);
+        for (std::size_t j = 2; j <= 6; ++j) {
+            const auto& I = losa.Tramos[j - 1];
+            const auto& D = losa.Tramos[j];
+            const auto& t = r.ResultadoTramo[1];
+            const double clapeyron =
+                t[j - 1].MomentoA * I.LT + 2 * t[j].MomentoA * (I.LT + D.LT) + t[j].MomentoB * D.LT;
+            const double cargas = -(I.Wp * std::pow(I.LT, 3) + D.Wp * std::pow(D.LT, 3)) / 4;
+            EXPECT_NEAR(clapeyron / cargas, 1, 2e-5);
+            EXPECT_NEAR(t[j - 1].MomentoB, t[j].MomentoA, 0.02);
+        }
+    }
+}
+
+TEST(Analizar, TramoEmpotradoConCargaPuntual) {
+    Losa losa = LosaContinua({5}, 0);
+    losa.Ejes[1].Tipo = losa.Ejes[2].Tipo = Empotramiento;
+    losa.Tramos[1].p1 = 1000;
+    losa.Tramos[1].L1 = 2;
+    const auto& t = Calculada(losa).ResultadoTramo[1][1];
+    EXPECT_NEAR(t.MomentoA, -1000.0 * 2 * 9 / 25, 1e-6);
+    EXPECT_NEAR(t.MomentoB, -1000.0 * 3 * 4 / 25, 1e-6);
+    EXPECT_NEAR(t.CorteA, 1000.0 * 3 * 3 * (3 * 2 + 3) / 125, 1e-6);
+}
+
+TEST(Analizar, CargaPuntualEnUnExtremo) {
+    Losa losa = LosaContinua({4, 1.5}, 0);
+    losa.Ejes[3].Tipo = SinApoyo;
+    losa.Tramos[2].p1 = 800;
+    losa.Tramos[2].L1 = 1.5;  // at the free end: it works
+    EXPECT_NEAR(Calculada(losa).ResultadoTramo[1][1].MomentoB, -1200, 1e-3);
+    losa.Tramos[2].L1 = 0;  // right over a support: it vanishes, from the reactions too
+    EXPECT_EQ(Calculada(losa).ResultadoJunta[1][2].RV, 0);
+    losa.Tramos[2].L1 = 1.6;  // past the span: no load at all
+    EXPECT_EQ(Calculada(losa).ResultadoTramo[1][1].MomentoB, 0);
+}
+
+TEST(Analizar, PorticoInclinadoContraOtroResolvedor) {
+    std::mt19937 azar(11);
+    const DatosGenerales generales;
+    for (int vez = 0; vez < 200; ++vez) {
+        const Losa losa = prueba::LosaAlAzar(azar, vez % 4 != 0);
+        const ResultadosLosa r = Calculada(losa, generales);
+        ASSERT_FALSE(r.Error) << vez;
+        for (const std::size_t caso : {CasoPermanente, CasoVariable}) {
+            prueba::PorticoDenso denso(losa, ModuloElastico(generales), caso == CasoVariable);
+            const auto extremos = denso.Resolver();
+            for (std::size_t i = 1; i < losa.Tramos.size(); ++i) {
+                const EsfuerzosTramo& t = r.ResultadoTramo[caso][i];
+                const auto& e = extremos[i];
+                const double tolerancia = 2e-5 * (1 + std::fabs(e.MA) + std::fabs(e.VA) + std::fabs(e.NA));
+                EXPECT_NEAR(t.MomentoA, e.MA, tolerancia) << vez << ' ' << i;
+                EXPECT_NEAR(t.CorteA, e.VA, tolerancia);
+                EXPECT_NEAR(t.AxialA, e.NA, tolerancia);
+                EXPECT_NEAR(t.MomentoB, e.MB, tolerancia);
+                EXPECT_NEAR(t.CorteB, e.VB, tolerancia);
+                EXPECT_NEAR(t.AxialB, e.NB, tolerancia);
+            }
+        }
+    }
+}
+
+TEST(Analizar, ReaccionesEquilibranLasCargas) {
+    std::mt19937 azar(23);
+    for (int vez = 0; vez < 200; ++vez) {
+        const Losa losa = prueba::LosaAlAzar(azar, vez % 2 == 0);
+        const ResultadosLosa r = Calculada(losa);
+        for (const std::size_t caso : {CasoPermanente, CasoVariable}) {
+            double cargas = 0;
+            double RV = 0;
+            double RH = 0;
+            const auto& juntas = r.ResultadoJunta[caso];
+            for (std::size_t i = 1; i < losa.Tramos.size(); ++i) {
+                const Tramo& t = losa.Tramos[i];
+                const double L = std::hypot(juntas[i + 1].x - juntas[i].x, juntas[i + 1].y - juntas[i].y);
+                cargas += (caso == CasoPermanente ? t.Wp : t.WV) * L + (caso == CasoPermanente ? t.p1 : 0);
+            }
+            for (const EstadoJunta& junta : juntas) {
+                RV += junta.RV;
+                RH += junta.RH;
+            }
+            // Displacements under 1e-8 count as none: a tenth of a kgf a span goes with them.
+            EXPECT_NEAR(RV, cargas, 0.15 * static_cast<double>(losa.Tramos.size())) << vez;
+            EXPECT_NEAR(RH, 0, 0.5 * static_cast<double>(losa.Tramos.size())) << vez;
+        }
+    }
+}
+
+TEST(Analizar, ElEspejoDaLoMismoAlReves) {
+    std::mt19937 azar(31);
+    for (int vez = 0; vez < 50; ++vez) {
+        const Losa losa = prueba::LosaAlAzar(azar, false);
+        const ResultadosLosa r = Calculada(losa);
+        const ResultadosLosa e = Calculada(prueba::Espejo(losa));
+        const std::size_t N = losa.Tramos.size() - 1;
+        for (std::size_t i = 1; i <= N; ++i) {
+            EXPECT_NEAR(r.ResultadoTramo[1][i].MomentoA, e.ResultadoTramo[1][N + 1 - i].MomentoB, 0.03);
+            EXPECT_NEAR(r.ResultadoTramo[2][i].CorteB, e.ResultadoTramo[2][N + 1 - i].CorteA, 0.03);
+        }
+    }
+}
+
+TEST(Analizar, LosaSinCalculoNoTocaLosResultados) {
+    ResultadosLosa r = Calculada(LosaUniforme(3, 5, 300, 200));
+    const double antes = r.ResultadoTramo[1][2].MomentoA;
+    CalcularLosa(Losa{}, {}, r);
+    CalcularLosa(LosaContinua({4, 0, 4}, 300), {}, r);
+    EXPECT_EQ(r.ResultadoTramo[1][2].MomentoA, antes);
+    EXPECT_EQ(r.DisenoEje.size(), 5U);
+    EXPECT_FALSE(r.Error);
+}
+
+int CodigoDe(const Losa& losa, const DatosGenerales& generales = {}) {
+    const ResultadosLosa r = Calculada(losa, generales);
+    return r.Error ? r.Error->Codigo() : 0;
+}
+
+TEST(Analizar, ErroresDeEjecucion) {
+    EXPECT_EQ(CodigoDe(LosaUniforme(10919, 5, 300)), 0);
+    EXPECT_EQ(CodigoDe(LosaUniforme(10920, 5, 300)), 6);
+    EXPECT_EQ(CodigoDe(LosaUniforme(40000, 5, 300)), 6);
+
+    Losa corrida = LosaContinua({4, 4}, 300);
+    corrida.JuntasD.push_back({4, 0, 0.5});
+    EXPECT_EQ(CodigoDe(corrida), 9);
+    corrida.JuntasD.back().Junta = -1;
+    EXPECT_EQ(CodigoDe(corrida), 9);
+
+    Losa vertical = LosaContinua({4, 4}, 300);
+    vertical.JuntasD.push_back({2, -4, 3});
+    vertical.Tramos[1].p1 = 100;
+    vertical.Tramos[1].L1 = 1;
+    EXPECT_EQ(CodigoDe(vertical), 11);
+
+    Losa coincidente = LosaContinua({4, 4}, 300);
+    coincidente.JuntasD.push_back({2, -4, 0});
+    EXPECT_EQ(CodigoDe(coincidente), 11);
+
+    Losa incompleta = LosaContinua({4, 4}, 300);
+    incompleta.Ejes.pop_back();
+    EXPECT_EQ(CodigoDe(incompleta), 9);
+
+    DatosGenerales sinConcreto;
+    sinConcreto.FC = -250;
+    EXPECT_EQ(CodigoDe(LosaContinua({4}, 300), sinConcreto), 5);
+}
+
+TEST(Analizar, NumerosAbsurdosNoRompenNada) {
+    for (const double luz : {1e-300, 1e-9, -5.0, 1e12, 1e200, 1e308}) {
+        for (const std::int32_t carga : {0, 2147483647, -2147483647 - 1}) {
+            Losa losa = LosaContinua({luz, 3, luz}, carga, carga);
+            losa.Tramos[2].p1 = carga;
+            losa.Tramos[2].L1 = 1;
+            Calculada(losa);
+            losa.Tramos[1] = losa.Tramos[2];
+            losa.Tramos[1].LT = luz;
+            losa.Tramos[1].L1 = luz / 2;
+            Calculada(losa);
+        }
+    }
+    Losa suelta = LosaContinua({4, 5}, 300);
+    for (EjeLosa& eje : suelta.Ejes) eje.Tipo = SinApoyo;
+    Calculada(suelta);
+}
+
+TEST(Analizar, TodosLosApoyosSobreRodillosSeSostienenSinCargaHorizontal) {
+    Losa losa = LosaUniforme(2, 5, 300);
+    losa.Ejes[1].Tipo = RodilloEnX;
+    EXPECT_NEAR(Calculada(losa).ResultadoTramo[1][2].MomentoA, -300 * 25.0 / 8, 1e-3);
+}
+
+}  // namespace
+}  // namespace trabex
