@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cmath>
+#include <cstddef>
 
 namespace trabex {
 
@@ -15,11 +16,10 @@ inline double Round(double valor, int decimales = 0) {
                                               1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
     constexpr double sinFraccion = 6755399441055744.0;
     constexpr double limite = 2251799813685248.0;
-    if (!(std::fabs(valor) < limite)) return valor;
     const double factor = potencia[static_cast<std::size_t>(decimales)];
     const double escalado = valor * factor;
-    if (!(std::fabs(escalado) < limite)) return valor;
-    return ((escalado + sinFraccion) - sinFraccion) / factor;
+    const double redondeado = ((escalado + sinFraccion) - sinFraccion) / factor;
+    return std::fabs(escalado) < limite ? redondeado : valor;
 }
 
 }  // namespace trabex

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <span>
 
 #include "base/Enteros.h"
 #include "base/Round.h"
@@ -20,12 +19,19 @@ constexpr double Penalidad = 1e12;
 constexpr double DesplazamientoNulo = 1e-8;  // m or rad: anything smaller is taken as 0
 constexpr int DecimalesEsfuerzo = 8;
 
-/// A span as a bar: geometry, stiffness and fixed-end terms, the load cases side by side.
+using Banda = MatrizBanda<AnchoBanda>;
+
+/// A span as a bar.
 struct Barra {
     double L, CX, CY;
+    double L2_12;            // L²/12
     double axial;            // EA/L
-    double k12, k6, k4, k2;  // 12EI/L³, 6EI/L², 4EI/L, 2EI/L
-    ParDeCasos M0A, M0B, VA0, VB0, NA0, NB0;
+    double k2, k4, k6, k12;  // 2EI/L, 4EI/L, 6EI/L², 12EI/L³
+};
+
+/// Fixed-end terms of a bar under one load case, in its axes.
+struct ExtremosFijos {
+    double M0A, M0B, VA0, VB0, NA0, NB0;
 };
 
 /// What a support type restrains.
@@ -49,14 +55,24 @@ class Analisis {
     Analisis(const Losa& losa, const DatosGenerales& generales, ResultadosLosa& resultados)
         : losa_(losa), generales_(generales), resultados_(resultados), N_(losa.Tramos.size() - 1) {}
 
+    /// What the analysis did not reach holds nothing.
+    ~Analisis() {
+        for (std::size_t caso = CasoVariable; caso > casosLlenos_; --caso)
+            resultados_.ResultadoJunta[caso].clear();
+        for (std::size_t caso = CasoVariable; caso > casosEmpezados_; --caso)
+            resultados_.ResultadoTramo[caso].clear();
+    }
+    Analisis(const Analisis&) = delete;
+    Analisis& operator=(const Analisis&) = delete;
+
     void Ejecutar() {
         Reservar();
         juntas_ = CoordenarJuntas(losa_, 0);
         FormarRestricciones();
-        MatrizBanda K(NDOF() + AnchoBanda, AnchoBanda);
+        Banda K(NDOF() + AnchoBanda);
         FormarBarras(K);
         PonerApoyos(K);
-        CalculoDPZ(K, F_, NDOF(), AnchoBanda);
+        CalculoDPZ(K, F_, NDOF());
         AnularDesplazamientosMinimos();
         for (const std::size_t caso : {CasoPermanente, CasoVariable}) {
             CalcularEsfuerzos(caso);
@@ -74,17 +90,21 @@ class Analisis {
 
     void Reservar();
     void FormarRestricciones();
-    void FormarBarras(MatrizBanda& K);
-    void GeometriaYRigidez(std::size_t i, double EI, double EA, Barra& barra) const;
-    void CargaUniforme(const Tramo& tramo, Barra& barra) const;
-    void CargaPuntual(const Tramo& tramo, Barra& barra) const;
-    void CargarNudos(std::size_t i, const Barra& barra);
-    void PonerApoyos(MatrizBanda& K);
+    void FormarBarras(Banda& K);
+    Barra FormarBarra(std::size_t i, double EI, double EA) const;
+    void CargarNudos(std::size_t i, std::size_t caso);
+    void PonerApoyos(Banda& K);
     void AnularDesplazamientosMinimos();
     void CalcularEsfuerzos(std::size_t caso);
-    EsfuerzosTramo EsfuerzosDe(std::size_t i, std::size_t c) const;
+    EsfuerzosTramo EsfuerzosDe(std::size_t i, std::size_t caso) const;
     void LlenarJuntas(std::size_t caso);
     void SumarReacciones(std::size_t caso);
+    struct Maximos {
+        ExtremosMayorados Extremos;
+        MomentoDeTramo Interior;
+    };
+    Maximos MaximosDe(std::size_t i) const;
+    void GuardarMaximos(std::size_t i, const Maximos& maximos);
     void CalcularMaximos();
 
     const Losa& losa_;
@@ -95,29 +115,23 @@ class Analisis {
     CoordenadasJuntas juntas_;
     std::vector<Restriccion> restricciones_;
     std::vector<Barra> barras_;
-    std::vector<ParDeCasos> F_;  // loads, then displacements, of degree of freedom k + 1
+    std::size_t casosEmpezados_ = 0;  // load cases whose spans are at least partly filled
+    std::size_t casosLlenos_ = 0;     // load cases whose joints are filled
+    std::vector<ParDeCasos> F_;       // loads, then displacements, of degree of freedom k + 1
 };
 
 /// Rebuilds the results from nothing; the rows of the band matrix are a 16-bit count.
 void Analisis::Reservar() {
-    for (const std::size_t caso : {CasoPermanente, CasoVariable}) {
-        resultados_.ResultadoJunta[caso].clear();
-        resultados_.ResultadoTramo[caso].clear();
-    }
     resultados_.DisenoEje.clear();
     resultados_.DisenoTramo.clear();
     resultados_.MaxMomentoApoyo = resultados_.MaxCorte = resultados_.MaxMomentoTramo = 0;
     resultados_.Error.reset();
 
     Entero16(static_cast<std::int64_t>(NDOF() + AnchoBanda));
-    for (const std::size_t caso : {CasoPermanente, CasoVariable}) {
-        resultados_.ResultadoJunta[caso].resize(N_ + 2);
-        resultados_.ResultadoTramo[caso].resize(N_ + 1);
-    }
-    resultados_.DisenoTramo.resize(N_ + 1);
     restricciones_.resize(N_ + 2);
-    barras_.resize(N_ + 1);
-    F_.resize(NDOF());
+    barras_.reserve(N_ + 1);
+    barras_.emplace_back();
+    F_.resize(NDOF() + AnchoBanda);
 }
 
 void Analisis::FormarRestricciones() {
@@ -139,83 +153,74 @@ MatrizElemento RigidezGlobal(const Barra& b) {
              {k13, k23, b.k2, -k13, -k23, b.k4}}};
 }
 
-void Analisis::FormarBarras(MatrizBanda& K) {
+void Analisis::FormarBarras(Banda& K) {
     const double E = 15100 * std::sqrt(static_cast<double>(generales_.FC)) * 10000;
     const auto [b, h] = SeccionDeCalculo(losa_);
     const double EA = E * (b * h);
     const double EI = E * (h * h * h * b / 12);
     for (std::size_t i = 1; i <= N_; ++i) {
-        Barra& barra = barras_[i];
-        GeometriaYRigidez(i, EI, EA, barra);
-        CargaUniforme(losa_.Tramos[i], barra);
-        CargaPuntual(losa_.Tramos[i], barra);
-        CargarNudos(i, barra);
-        EnsamblaM(K, RigidezGlobal(barra), 3 * i - 3, 3 * i);
-        vigilancia_.Comprobar();
+        barras_.push_back(FormarBarra(i, EI, EA));
+        CargarNudos(i, CasoPermanente);
+        CargarNudos(i, CasoVariable);
+        EnsamblaM(K, RigidezGlobal(barras_[i]), 3 * i - 3, 3 * i);
     }
+    vigilancia_.Comprobar();
 }
 
-void Analisis::GeometriaYRigidez(std::size_t i, double EI, double EA, Barra& barra) const {
+Barra Analisis::FormarBarra(std::size_t i, double EI, double EA) const {
     const double dx = juntas_.X[i + 1] - juntas_.X[i];
     const double dy = juntas_.Y[i + 1] - juntas_.Y[i];
     const double L = std::sqrt(dx * dx + dy * dy);
-    barra.L = L;
-    barra.CX = L > 0 ? dx / L : 0;
-    barra.CY = L > 0 ? dy / L : 0;
-    const double flexion = 2 * EI / L;
-    barra.axial = EA / L;
-    barra.k2 = flexion;
-    barra.k4 = 2 * flexion;
-    barra.k6 = 3 * flexion / L;
-    barra.k12 = 2 * barra.k6 / L;
+    const double k2 = 2 * EI / L;
+    const double k6 = 3 * k2 / L;
+    return {L, L > 0 ? dx / L : 0, L > 0 ? dy / L : 0, L * L / 12, EA / L, k2, 2 * k2, k6, 2 * k6 / L};
 }
 
-void Analisis::CargaUniforme(const Tramo& tramo, Barra& barra) const {
-    const std::array<double, 2> w0{static_cast<double>(tramo.Wp), static_cast<double>(tramo.WV)};
-    for (std::size_t c = 0; c < 2; ++c) {
-        const double w = w0[c] * barra.CX;
-        const double wa = w0[c] * barra.CY;
-        barra.VA0[c] = barra.VB0[c] = w * barra.L / 2;
-        barra.M0A[c] = barra.M0B[c] = w * (barra.L * barra.L) / 12;
-        barra.NA0[c] = barra.NB0[c] = wa * barra.L / 2;
-    }
-}
-
-/// A point load strictly between the joints; it is always permanent.
-void Analisis::CargaPuntual(const Tramo& tramo, Barra& barra) const {
-    if (tramo.p1 == 0 || !(0 < tramo.L1 && tramo.L1 < tramo.LT)) return;
+/// Adds a point load strictly between the joints to the fixed-end terms of the uniform load.
+void SumarPuntual(const Tramo& tramo, const Barra& barra, ExtremosFijos& f) {
     const double L = barra.L;
     const double P = tramo.p1 * barra.CX;
     const double Pa = tramo.p1 * barra.CY;
     const double a = tramo.L1 / barra.CX;
     const double c = L - a;
-    double& M0A = barra.M0A[0];
-    double& M0B = barra.M0B[0];
-    M0A += a * P * (c * c) / (L * L);
-    M0B += P * c * (a * a) / (L * L);
-    barra.VA0[0] += P * c / L - (M0B - M0A) / L;
-    barra.VB0[0] += a * P / L + (M0B - M0A) / L;
-    barra.NA0[0] += Pa * c / L;
-    barra.NB0[0] += a * Pa / L;
+    f.M0A += a * P * (c * c) / (L * L);
+    f.M0B += P * c * (a * a) / (L * L);
+    f.VA0 += P * c / L - (f.M0B - f.M0A) / L;
+    f.VB0 += a * P / L + (f.M0B - f.M0A) / L;
+    f.NA0 += Pa * c / L;
+    f.NB0 += a * Pa / L;
 }
 
-void Analisis::CargarNudos(std::size_t i, const Barra& b) {
-    ParDeCasos* a = &F_[3 * i - 3];
-    for (std::size_t c = 0; c < 2; ++c) {
-        a[0][c] += b.CX * b.NA0[c] - b.CY * b.VA0[c];
-        a[1][c] += b.CY * b.NA0[c] + b.CX * b.VA0[c];
-        a[2][c] += -b.M0A[c];
-        a[3][c] += b.CX * b.NB0[c] - b.CY * b.VB0[c];
-        a[4][c] += b.CY * b.NB0[c] + b.CX * b.VB0[c];
-        a[5][c] += b.M0B[c];
-    }
+/// The point load is always permanent.
+ExtremosFijos ExtremosFijosDe(const Tramo& tramo, const Barra& barra, std::size_t caso) {
+    const double w0 = caso == CasoPermanente ? tramo.Wp : tramo.WV;
+    const double corte = w0 * barra.CX * barra.L / 2;
+    const double momento = w0 * barra.CX * barra.L2_12;
+    const double axial = w0 * barra.CY * barra.L / 2;
+    ExtremosFijos f{momento, momento, corte, corte, axial, axial};
+    if (caso == CasoPermanente && tramo.p1 != 0 && 0 < tramo.L1 && tramo.L1 < tramo.LT)
+        SumarPuntual(tramo, barra, f);
+    return f;
+}
+
+void Analisis::CargarNudos(std::size_t i, std::size_t caso) {
     const Tramo& tramo = losa_.Tramos[i];
-    if (tramo.p1 == 0) return;
-    if (tramo.L1 == 0) a[1][0] += tramo.p1;
-    if (tramo.L1 == tramo.LT) a[4][0] += tramo.p1;
+    const Barra& b = barras_[i];
+    const ExtremosFijos f = ExtremosFijosDe(tramo, b, caso);
+    const std::size_t c = caso - 1;
+    ParDeCasos* a = &F_[3 * i - 3];
+    a[0][c] += b.CX * f.NA0 - b.CY * f.VA0;
+    a[1][c] += b.CY * f.NA0 + b.CX * f.VA0;
+    a[2][c] -= f.M0A;
+    a[3][c] += b.CX * f.NB0 - b.CY * f.VB0;
+    a[4][c] += b.CY * f.NB0 + b.CX * f.VB0;
+    a[5][c] += f.M0B;
+    if (caso != CasoPermanente || tramo.p1 == 0) return;
+    if (tramo.L1 == 0) a[1][c] += tramo.p1;
+    if (tramo.L1 == tramo.LT) a[4][c] += tramo.p1;
 }
 
-void Analisis::PonerApoyos(MatrizBanda& K) {
+void Analisis::PonerApoyos(Banda& K) {
     const auto restringir = [&](std::size_t r) {
         K(r, 1) = K(r, 1) * Penalidad + Penalidad;
         F_[r - 1] = {0, 0};
@@ -229,15 +234,15 @@ void Analisis::PonerApoyos(MatrizBanda& K) {
 
 void Analisis::AnularDesplazamientosMinimos() {
     for (ParDeCasos& d : F_) {
-        for (double& valor : d) {
-            if (std::fabs(valor) < DesplazamientoNulo) valor = 0;
-        }
+        for (double& valor : d) valor = std::fabs(valor) < DesplazamientoNulo ? 0 : valor;
     }
 }
 
 /// End forces of span i: displacements turned to the bar's axes, times its stiffness, plus fixed-end terms.
-EsfuerzosTramo Analisis::EsfuerzosDe(std::size_t i, std::size_t c) const {
+EsfuerzosTramo Analisis::EsfuerzosDe(std::size_t i, std::size_t caso) const {
     const Barra& b = barras_[i];
+    const ExtremosFijos f = ExtremosFijosDe(losa_.Tramos[i], b, caso);
+    const std::size_t c = caso - 1;
     const ParDeCasos* d = &F_[3 * i - 3];
     const double u1 = b.CX * d[0][c] + b.CY * d[1][c];
     const double v1 = -b.CY * d[0][c] + b.CX * d[1][c];
@@ -248,39 +253,41 @@ EsfuerzosTramo Analisis::EsfuerzosDe(std::size_t i, std::size_t c) const {
     const double axial = b.axial * (u2 - u1);
     const double desnivel = b.k6 * (v1 - v2);
     const double corte = b.k12 * (v1 - v2) - b.k6 * (giro1 + giro2);
-    const auto redondear = [](double valor) { return Round(valor, DecimalesEsfuerzo); };
-    return {redondear(desnivel - b.k4 * giro1 - b.k2 * giro2 - b.M0A[c]),
-            redondear(b.VA0[c] - corte),
-            redondear(axial + b.NA0[c]),
-            redondear(b.k2 * giro1 + b.k4 * giro2 - desnivel - b.M0B[c]),
-            redondear(b.VB0[c] + corte),
-            redondear(axial - b.NB0[c])};
+    std::array<double, 6> e{desnivel - b.k4 * giro1 - b.k2 * giro2 - f.M0A, f.VA0 - corte, axial + f.NA0,
+                            b.k2 * giro1 + b.k4 * giro2 - desnivel - f.M0B, f.VB0 + corte, axial - f.NB0};
+    for (double& valor : e) valor = Round(valor, DecimalesEsfuerzo);
+    return {e[0], e[1], e[2], e[3], e[4], e[5]};
 }
 
 void Analisis::CalcularEsfuerzos(std::size_t caso) {
     std::vector<EsfuerzosTramo>& esfuerzos = resultados_.ResultadoTramo[caso];
-    for (std::size_t i = 1; i <= N_; ++i) {
-        const EsfuerzosTramo calculados = EsfuerzosDe(i, caso - 1);
-        vigilancia_.Comprobar();
-        esfuerzos[i] = calculados;
-    }
+    esfuerzos.resize(N_ + 1);
+    casosEmpezados_ = caso;
+    vigilancia_.Recorrer(
+        1, N_, [&](std::size_t i) { return EsfuerzosDe(i, caso); },
+        [&](std::size_t i, const EsfuerzosTramo& calculados) { esfuerzos[i] = calculados; },
+        [&] { esfuerzos.assign(N_ + 1, {}); });
 }
 
 void Analisis::LlenarJuntas(std::size_t caso) {
     std::vector<EstadoJunta>& estados = resultados_.ResultadoJunta[caso];
+    estados.resize(N_ + 2);
+    const auto uno = [](bool restringida) { return restringida ? 1.0 : 0.0; };
     for (std::size_t j = 1; j <= N_ + 1; ++j) {
         EstadoJunta& junta = estados[j];
         const Restriccion& restriccion = restricciones_[j];
         junta.Eje = losa_.Ejes[j].Eje;
         junta.x = juntas_.X[j];
         junta.y = juntas_.Y[j];
-        junta.RestringidaY = restriccion.Y ? 1 : 0;
-        junta.RestringidaX = restriccion.X ? 1 : 0;
-        junta.RestringidoGiro = restriccion.Giro ? 1 : 0;
+        junta.RestringidaY = uno(restriccion.Y);
+        junta.RestringidaX = uno(restriccion.X);
+        junta.RestringidoGiro = uno(restriccion.Giro);
         junta.DX = F_[3 * j - 3][caso - 1];
         junta.DY = F_[3 * j - 2][caso - 1];
         junta.Giro = F_[3 * j - 1][caso - 1];
+        junta.RV = junta.RH = 0;
     }
+    casosLlenos_ = caso;
     SumarReacciones(caso);
 }
 
@@ -299,21 +306,33 @@ void Analisis::SumarReacciones(std::size_t caso) {
     }
 }
 
+Analisis::Maximos Analisis::MaximosDe(std::size_t i) const {
+    const Tramo& tramo = losa_.Tramos[i];
+    const TramoMayorado mayorado = MayorarTramo(tramo, generales_, barras_[i].CX);
+    const ExtremosMayorados extremos = MayorarExtremos(resultados_, generales_, i);
+    if (tramo.p1 != 0) vigilancia_.Comprobar();  // a walk along the span must have an end
+    return {extremos, MomentoMaximo(tramo, mayorado, extremos)};
+}
+
+void Analisis::GuardarMaximos(std::size_t i, const Maximos& m) {
+    ResultadosLosa& r = resultados_;
+    r.DisenoTramo[i].MT = m.Interior.MT;
+    r.DisenoTramo[i].x = m.Interior.x;
+    r.MaxCorte = std::max(r.MaxCorte, std::max(std::fabs(m.Extremos.Vi), std::fabs(m.Extremos.Vj)));
+    r.MaxMomentoApoyo =
+        std::max(r.MaxMomentoApoyo, std::max(std::fabs(m.Extremos.Mi), std::fabs(m.Extremos.Mj)));
+    r.MaxMomentoTramo = std::max(r.MaxMomentoTramo, std::fabs(m.Interior.MT));
+}
+
 void Analisis::CalcularMaximos() {
-    for (std::size_t i = 1; i <= N_; ++i) {
-        const Tramo& tramo = losa_.Tramos[i];
-        const TramoMayorado mayorado = MayorarTramo(tramo, generales_, barras_[i].CX);
-        const ExtremosMayorados e = MayorarExtremos(resultados_, generales_, i);
-        vigilancia_.Comprobar();
-        const MomentoDeTramo maximo = MomentoMaximo(tramo, mayorado, e);
-        vigilancia_.Comprobar();
-        resultados_.DisenoTramo[i].MT = maximo.MT;
-        resultados_.DisenoTramo[i].x = maximo.x;
-        resultados_.MaxCorte = std::max({resultados_.MaxCorte, std::fabs(e.Vi), std::fabs(e.Vj)});
-        resultados_.MaxMomentoApoyo =
-            std::max({resultados_.MaxMomentoApoyo, std::fabs(e.Mi), std::fabs(e.Mj)});
-        resultados_.MaxMomentoTramo = std::max(resultados_.MaxMomentoTramo, std::fabs(maximo.MT));
-    }
+    const auto borrar = [this] {
+        resultados_.DisenoTramo.assign(N_ + 1, {});
+        resultados_.MaxMomentoApoyo = resultados_.MaxCorte = resultados_.MaxMomentoTramo = 0;
+    };
+    borrar();
+    vigilancia_.Recorrer(
+        1, N_, [this](std::size_t i) { return MaximosDe(i); },
+        [this](std::size_t i, const Maximos& maximos) { GuardarMaximos(i, maximos); }, borrar);
 }
 
 }  // namespace

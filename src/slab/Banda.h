@@ -2,24 +2,23 @@
 
 #include <array>
 #include <cstddef>
-#include <span>
 #include <vector>
 
 namespace trabex {
 
-/// Upper band of a symmetric matrix, by rows: K(r, 1) is the diagonal and K(r, c) the entry in column r + c
-/// − 1. Rows and band columns count from 1; everything starts at zero.
+/// Upper band of a symmetric matrix, by rows of B entries: K(r, 1) is the diagonal and K(r, c) the entry in
+/// column r + c − 1. Rows and band columns count from 1; everything starts at zero.
+template <std::size_t B>
 class MatrizBanda {
   public:
-    MatrizBanda(std::size_t filas, std::size_t ancho) : ancho_(ancho), valores_(filas * ancho) {}
+    explicit MatrizBanda(std::size_t filas) : filas_(filas) {}
 
-    double& operator()(std::size_t r, std::size_t c) { return valores_[(r - 1) * ancho_ + (c - 1)]; }
-    double operator()(std::size_t r, std::size_t c) const { return valores_[(r - 1) * ancho_ + (c - 1)]; }
-    double* Fila(std::size_t r) { return &valores_[(r - 1) * ancho_]; }
+    double& operator()(std::size_t r, std::size_t c) { return filas_[r - 1][c - 1]; }
+    double operator()(std::size_t r, std::size_t c) const { return filas_[r - 1][c - 1]; }
+    std::array<double, B>& Fila(std::size_t r) { return filas_[r - 1]; }
 
   private:
-    std::size_t ancho_;
-    std::vector<double> valores_;
+    std::vector<std::array<double, B>> filas_;
 };
 
 /// Stiffness of a bar in global axes: (X, Y, rotation) at joint a, then at joint b.
@@ -29,15 +28,64 @@ using MatrizElemento = std::array<std::array<double, 6>, 6>;
 using ParDeCasos = std::array<double, 2>;
 
 /// Adds a bar's stiffness to K. Local rows 1 to 3 go to offsetA + 1 … offsetA + 3, local rows 4 to 6 to
-/// offsetB + 1 … offsetB + 3; what falls below the diagonal is not stored.
-void EnsamblaM(MatrizBanda& K, const MatrizElemento& ke, std::size_t offsetA, std::size_t offsetB);
+/// offsetB + 1 … offsetB + 3, with offsetA < offsetB; what falls below the diagonal is not stored.
+template <std::size_t B>
+void EnsamblaM(MatrizBanda<B>& K, const MatrizElemento& ke, std::size_t offsetA, std::size_t offsetB) {
+    for (std::size_t p = 0; p < 3; ++p) {
+        std::array<double, B>& filaA = K.Fila(offsetA + p + 1);
+        std::array<double, B>& filaB = K.Fila(offsetB + p + 1);
+        for (std::size_t q = p; q < 3; ++q) filaA[q - p] += ke[p][q];
+        for (std::size_t q = 0; q < 3; ++q) filaA[offsetB - offsetA + q - p] += ke[p][q + 3];
+        for (std::size_t q = p; q < 3; ++q) filaB[q - p] += ke[p + 3][q + 3];
+    }
+}
+
+/// Eliminates row r + 1 of K, whose entries past `ancho` are zero, with its part of F := Uᵀ⁻¹·F. The row is
+/// left as its factors, led by the inverse of its pivot (0 when the pivot is 0).
+template <std::size_t B, std::size_t ancho>
+void EliminarFila(MatrizBanda<B>& K, std::vector<ParDeCasos>& F, std::size_t r) {
+    const std::array<double, B> fila = K.Fila(r + 1);
+    const ParDeCasos f = F[r];
+    std::array<double, B> factor{};
+    factor[0] = fila[0] == 0 ? 0 : 1 / fila[0];
+    for (std::size_t i = 1; i < ancho; ++i) factor[i] = fila[i] * factor[0];
+    for (std::size_t i = 1; i < ancho; ++i) {
+        std::array<double, B>& abajo = K.Fila(r + 1 + i);
+        for (std::size_t j = i; j < ancho; ++j) abajo[j - i] -= factor[i] * fila[j];
+        F[r + i][0] -= factor[i] * f[0];
+        F[r + i][1] -= factor[i] * f[1];
+    }
+    K.Fila(r + 1) = factor;
+}
 
 /// Solves K·d = F for both load cases with one factorisation, K = UᵀDU in the band (Gaussian elimination of a
-/// symmetric matrix, no pivoting). K (NDOF + B rows, band B) is overwritten; F comes in as the
-/// loads of degrees of freedom 1 … NDOF and goes out as the displacements.
+/// symmetric matrix, no pivoting). K has NDOF + B rows and is overwritten. F has as many, zero past NDOF; it
+/// comes in as the loads, F[0] being that of degree of freedom 1, and goes out as the displacements.
 ///
 /// K is positive definite for a stable structure, and nothing tests for that. A direction whose stiffness
 /// vanishes exactly and that carries no load stays where it is; under a load it divides by zero.
-void CalculoDPZ(MatrizBanda& K, std::span<ParDeCasos> F, std::size_t NDOF, std::size_t B);
+template <std::size_t B>
+void CalculoDPZ(MatrizBanda<B>& K, std::vector<ParDeCasos>& F, std::size_t NDOF) {
+    for (std::size_t r = 0; r < NDOF; ++r) {
+        // Two rows in three of a chain of joints end in zeros, which elimination leaves zero.
+        const std::array<double, B>& fila = K.Fila(r + 1);
+        if (fila[B - 1] != 0)
+            EliminarFila<B, B>(K, F, r);
+        else if (fila[B - 2] != 0)
+            EliminarFila<B, B - 1>(K, F, r);
+        else
+            EliminarFila<B, B - 2>(K, F, r);
+    }
+    // F := U⁻¹·D⁻¹·F.
+    for (std::size_t r = NDOF; r-- > 0;) {
+        const std::array<double, B>& factor = K.Fila(r + 1);
+        for (std::size_t c = 0; c < 2; ++c) {
+            const double carga = F[r][c];
+            double d = factor[0] == 0 && carga != 0 ? carga / factor[0] : carga * factor[0];
+            for (std::size_t i = B - 1; i > 0; --i) d -= factor[i] * F[r + i][c];
+            F[r][c] = d;
+        }
+    }
+}
 
 }  // namespace trabex

@@ -25,23 +25,26 @@ class Diseno {
           dibujo_(CoordenarJuntas(losa, total / 2)) {}
 
     void Ejecutar() {
-        resultados_.DisenoEje.assign(N_ + 2, {});
-        for (std::size_t i = 1; i <= N_; ++i) DisenarJunta(i);
-        for (std::size_t i = 1; i <= N_; ++i) {
-            DisenoDeTramo& tramo = resultados_.DisenoTramo[i];
-            const AceroCaras As = seccion_.CalcularAcero(tramo.MT);
-            vigilancia_.Comprobar();
-            tramo.AS1 = As.AsSup;
-            tramo.AS2 = As.AsInf;
-        }
+        DisenarJuntas();
+        DisenarTramos();
     }
 
   private:
+    /// What span i gives to its joints. Zones that are not judged stay 0.
+    struct Juntas {
+        AceroCaras Acero;        // of joint i
+        AceroCaras AceroUltimo;  // of joint N + 1, when i = N
+        double MczI = 0, MczD = 0, MczIUltimo = 0;
+        double PtoD, PtoI;  // of joint i and of joint i + 1
+    };
+
+    void DisenarJuntas();
+    void DisenarTramos();
+    Juntas JuntasDe(std::size_t i) const;
     double Coseno(std::size_t i) const;
-    void DisenarJunta(std::size_t i);
-    void PonerAcero(std::size_t junta, double M);
-    void PonerMacizados(std::size_t i, double C, const ExtremosMayorados& tramo);
-    void PonerInflexiones(std::size_t i, double C, const ExtremosMayorados& tramo);
+    void CalcularMacizados(std::size_t i, double C, const ExtremosMayorados& tramo, Juntas& juntas) const;
+    void CalcularInflexiones(std::size_t i, double C, const ExtremosMayorados& tramo, Juntas& juntas) const;
+    void Guardar(std::size_t i, const Juntas& juntas);
 
     const Losa& losa_;
     const DatosGenerales& generales_;
@@ -61,44 +64,70 @@ double Diseno::Coseno(std::size_t i) const {
 
 /// Joint i and span i, which starts there. The steel of a joint comes from the moment at the start of the
 /// span to its right; only the last joint reads the end of a span.
-void Diseno::DisenarJunta(std::size_t i) {
+Diseno::Juntas Diseno::JuntasDe(std::size_t i) const {
     const double C = Coseno(i);
     const ExtremosMayorados tramo = MayorarExtremos(resultados_, generales_, i);
-    PonerAcero(i, tramo.Mi);
-    if (i == N_) PonerAcero(N_ + 1, tramo.Mj);
-    if (!losa_.OpcionMaciza && losa_.Ejes[i].Tipo != SinApoyo) PonerMacizados(i, C, tramo);
-    PonerInflexiones(i, C, tramo);
-}
-
-void Diseno::PonerAcero(std::size_t junta, double M) {
-    const AceroCaras As = seccion_.CalcularAcero(M);
-    vigilancia_.Comprobar();
-    resultados_.DisenoEje[junta].AS1 = As.AsSup;
-    resultados_.DisenoEje[junta].AS2 = As.AsInf;
+    Juntas juntas{};
+    juntas.Acero = seccion_.CalcularAcero(tramo.Mi);
+    if (i == N_) juntas.AceroUltimo = seccion_.CalcularAcero(tramo.Mj);
+    if (!losa_.OpcionMaciza && losa_.Ejes[i].Tipo != SinApoyo) CalcularMacizados(i, C, tramo, juntas);
+    CalcularInflexiones(i, C, tramo, juntas);
+    return juntas;
 }
 
 /// The cosine of span i serves both sides of its joint, and the last joint is judged with the number and the
 /// support of the one before it.
-void Diseno::PonerMacizados(std::size_t i, double C, const ExtremosMayorados& tramo) {
+void Diseno::CalcularMacizados(std::size_t i, double C, const ExtremosMayorados& tramo,
+                               Juntas& juntas) const {
     const ExtremosMayorados izquierdo = MayorarExtremos(resultados_, generales_, i - 1);
-    std::vector<DisenoDeEje>& ejes = resultados_.DisenoEje;
-    const auto poner = [&](double& longitud, double V, double M) {
-        const double calculada = seccion_.CalcularMacizado(i, V, M, C);
-        vigilancia_.Comprobar();
-        longitud = calculada;
-    };
-    poner(ejes[i].MczI, izquierdo.Vj, izquierdo.Mj);
-    poner(ejes[i].MczD, tramo.Vi, tramo.Mi);
-    if (i == N_) poner(ejes[N_ + 1].MczI, tramo.Vj, tramo.Mj);
+    juntas.MczI = seccion_.CalcularMacizado(i, izquierdo.Vj, izquierdo.Mj, C);
+    juntas.MczD = seccion_.CalcularMacizado(i, tramo.Vi, tramo.Mi, C);
+    if (i == N_) juntas.MczIUltimo = seccion_.CalcularMacizado(N_, tramo.Vj, tramo.Mj, C);
 }
 
-void Diseno::PonerInflexiones(std::size_t i, double C, const ExtremosMayorados& tramo) {
+void Diseno::CalcularInflexiones(std::size_t i, double C, const ExtremosMayorados& tramo,
+                                 Juntas& juntas) const {
     const PuntosInflexion p = CalcularInflexion(losa_.Tramos[i], generales_, tramo.Vi, tramo.Mi, C);
     const double Ls = losa_.Tramos[i].LT / C;
-    vigilancia_.Comprobar();
     const auto dentro = [Ls](double x) { return x > 0 && Round(x, 2) < Round(Ls, 2); };
-    resultados_.DisenoEje[i].PtoD = dentro(p.salida2) ? p.salida2 : 0;
-    resultados_.DisenoEje[i + 1].PtoI = dentro(p.salida1) ? Ls - p.salida1 : 0;
+    juntas.PtoD = dentro(p.salida2) ? p.salida2 : 0;
+    juntas.PtoI = dentro(p.salida1) ? Ls - p.salida1 : 0;
+}
+
+void Diseno::Guardar(std::size_t i, const Juntas& juntas) {
+    DisenoDeEje& eje = resultados_.DisenoEje[i];
+    DisenoDeEje& siguiente = resultados_.DisenoEje[i + 1];
+    eje.AS1 = juntas.Acero.AsSup;
+    eje.AS2 = juntas.Acero.AsInf;
+    eje.MczI = juntas.MczI;
+    eje.MczD = juntas.MczD;
+    eje.PtoD = juntas.PtoD;
+    siguiente.PtoI = juntas.PtoI;
+    if (i != N_) return;
+    siguiente.AS1 = juntas.AceroUltimo.AsSup;
+    siguiente.AS2 = juntas.AceroUltimo.AsInf;
+    siguiente.MczI = juntas.MczIUltimo;
+}
+
+void Diseno::DisenarJuntas() {
+    const auto borrar = [this] { resultados_.DisenoEje.assign(N_ + 2, {}); };
+    borrar();
+    vigilancia_.Recorrer(
+        1, N_, [this](std::size_t i) { return JuntasDe(i); },
+        [this](std::size_t i, const Juntas& juntas) { Guardar(i, juntas); }, borrar);
+}
+
+void Diseno::DisenarTramos() {
+    std::vector<DisenoDeTramo>& tramos = resultados_.DisenoTramo;
+    vigilancia_.Recorrer(
+        1, N_, [&](std::size_t i) { return seccion_.CalcularAcero(tramos[i].MT); },
+        [&](std::size_t i, const AceroCaras& As) {
+            tramos[i].AS1 = As.AsSup;
+            tramos[i].AS2 = As.AsInf;
+        },
+        [&] {
+            for (DisenoDeTramo& tramo : tramos) tramo.AS1 = tramo.AS2 = 0;
+        });
 }
 
 }  // namespace

@@ -1,0 +1,87 @@
+// A slab's calculation beside LAPACK's band Cholesky alone on the same matrix, in the same run.
+
+#include <cmath>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+#include "slab/Analizar.h"
+#include "slab/CalcularLosa.h"
+#include "support/LosasDePrueba.h"
+
+extern "C" void dpbsv_(const char* uplo, const int* n, const int* kd, const int* nrhs, double* ab,
+                       const int* ldab, double* b, const int* ldb, int* info, std::size_t uplo_len);
+
+namespace {
+
+using namespace trabex;
+
+Losa LosaLarga(std::int64_t tramos) {
+    return prueba::LosaUniforme(static_cast<std::size_t>(tramos), 5, 290, 90);
+}
+
+/// The stiffness of `tramos` horizontal spans of 5 m on a pin and rollers, as LAPACK's upper band.
+struct SistemaBanda {
+    int n, kd = 5, ldab = 6, nrhs = 2;
+    std::vector<double> AB, B;
+
+    explicit SistemaBanda(std::int64_t tramos) : n(static_cast<int>(3 * (tramos + 1))) {
+        const double L = 5, b = 0.1, h = 0.25, E = 15100 * std::sqrt(250.0) * 1e4;
+        const double EA = E * b * h / L, EI = E * b * h * h * h / 12;
+        const double p = 12 * EI / (L * L * L), q = 6 * EI / (L * L), r = 4 * EI / L, t = 2 * EI / L;
+        AB.assign(static_cast<std::size_t>(n) * 6, 0);
+        B.assign(static_cast<std::size_t>(n) * 2, 1);
+        const auto sumar = [&](std::int64_t i, std::int64_t j, double valor) {
+            AB[static_cast<std::size_t>(j * 6 + 5 + i - j)] += valor;
+        };
+        for (std::int64_t s = 0; s < tramos; ++s) {
+            const std::int64_t a = 3 * s, c = a + 3;
+            sumar(a, a, EA), sumar(a, c, -EA), sumar(c, c, EA);
+            sumar(a + 1, a + 1, p), sumar(a + 1, a + 2, -q), sumar(a + 1, c + 1, -p), sumar(a + 1, c + 2, -q);
+            sumar(a + 2, a + 2, r), sumar(a + 2, c + 1, q), sumar(a + 2, c + 2, t);
+            sumar(c + 1, c + 1, p), sumar(c + 1, c + 2, q), sumar(c + 2, c + 2, r);
+        }
+        sumar(0, 0, AB[5] * 1e12 + 1e12);
+        for (std::int64_t j = 0; j <= tramos; ++j)
+            sumar(3 * j + 1, 3 * j + 1, AB[static_cast<std::size_t>((3 * j + 1) * 6 + 5)] * 1e12 + 1e12);
+    }
+};
+
+void Dpbsv(benchmark::State& estado) {
+    const SistemaBanda original(estado.range(0));
+    SistemaBanda copia = original;
+    for (auto _ : estado) {
+        estado.PauseTiming();
+        copia.AB = original.AB;
+        copia.B = original.B;
+        estado.ResumeTiming();
+        int info = 0;
+        dpbsv_("U", &copia.n, &copia.kd, &copia.nrhs, copia.AB.data(), &copia.ldab, copia.B.data(), &copia.n,
+               &info, 1);
+        if (info != 0) estado.SkipWithError("dpbsv failed");
+    }
+}
+BENCHMARK(Dpbsv)->Arg(10919)->Unit(benchmark::kMicrosecond);
+
+void MedirAnalizar(benchmark::State& estado) {
+    const Losa losa = LosaLarga(estado.range(0));
+    ResultadosLosa resultados;
+    for (auto _ : estado) benchmark::DoNotOptimize(Analizar(losa, {}, resultados));
+}
+BENCHMARK(MedirAnalizar)->Arg(10919)->Unit(benchmark::kMicrosecond);
+
+void MedirCalcularLosa(benchmark::State& estado) {
+    const Losa losa = LosaLarga(estado.range(0));
+    ResultadosLosa resultados;
+    for (auto _ : estado) CalcularLosa(losa, {}, resultados);
+    estado.SetComplexityN(estado.range(0));
+}
+BENCHMARK(MedirCalcularLosa)
+    ->Arg(10)
+    ->Arg(100)
+    ->Arg(1000)
+    ->Arg(10919)
+    ->Unit(benchmark::kMicrosecond)
+    ->Complexity();
+
+}  // namespace
