@@ -6,17 +6,14 @@
 
 namespace trabex {
 
+class Motor;
+
 /// A connection to a project, shared, scratch or exchange database: one SQLite file, without side files.
 ///
 /// Nothing here throws. A connection that could not be opened is closed and says so by `ConexionFallida`;
 /// whatever is then asked of it fails in silence. Closing happens at destruction too.
 class Conexion {
   public:
-    Conexion();
-    ~Conexion();
-    Conexion(Conexion&&) noexcept;
-    Conexion& operator=(Conexion&&) noexcept;
-
     bool Abierta() const;
     bool ConexionFallida() const;
 
@@ -27,13 +24,13 @@ class Conexion {
 
     void Cerrar();
 
-    struct Interna;  ///< the engine's side, private to the store
-    Interna* interna() const { return interna_.get(); }
+    /// The engine's side, for the store's own use; null when closed.
+    const std::shared_ptr<Motor>& motor() const { return motor_; }
 
   private:
     friend void AbrirConexion(Conexion& conexion, const std::filesystem::path& camino);
     friend void AbrirCopiaEnMemoria(Conexion& conexion, const std::filesystem::path& camino);
-    std::unique_ptr<Interna> interna_;
+    std::shared_ptr<Motor> motor_;
     bool fallida_ = false;
 };
 
@@ -60,8 +57,7 @@ class Transaccion {
     bool Confirmar();
 
   private:
-    Conexion& conexion_;
-    bool abierta_ = false;
+    std::shared_ptr<Motor> motor_;  // null once confirmed
 };
 
 }  // namespace trabex

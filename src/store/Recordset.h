@@ -15,17 +15,12 @@ enum class Direccion { Adelante = 1, Atras = -1 };
 /// A static, client-side, optimistic recordset: its rows are read at opening; add-new, set and update write
 /// through by row identity; a new row stands at the end until the set is opened again.
 ///
-/// Nothing here throws. A set that could not be opened is closed, has no records, and does nothing.
-/// Positions count from 1; 0 is before the first record (BOF) and NumeroRegistros() + 1 past the last (EOF).
-/// The connection must outlive the set or be closed first; a set whose connection is gone keeps its rows and
-/// refuses writes.
+/// Nothing here throws. A set that could not be opened is closed, has no records, and does nothing. When a
+/// save is taken back, the sets it touched stand as before it. Positions count from 1; 0 is before the first
+/// record (BOF) and NumeroRegistros() + 1 past the last (EOF). The connection must outlive the set or be
+/// closed first; a set whose connection is gone keeps its rows and refuses writes.
 class Recordset {
   public:
-    Recordset();
-    ~Recordset();
-    Recordset(Recordset&&) noexcept;
-    Recordset& operator=(Recordset&&) noexcept;
-
     bool Abierto() const;
     int NumeroRegistros() const;
     bool BOF() const;
@@ -39,9 +34,9 @@ class Recordset {
     void MoverAlSiguiente();
     void MoverAlAnterior();
 
-    /// Searches for the first record, from the current one on in a direction and after skipping `saltar`
+    /// Searches for the first record, from the current one on in a direction, after skipping `saltar`
     /// records, that meets "column=value" (value: a text in single quotes or a number). Not found: stands at
-    /// EOF, or at BOF when searching backward.
+    /// EOF, or at BOF when searching backward. A criterion that its own text breaks moves nothing.
     void Buscar(std::string_view criterio, int saltar, Direccion direccion);
 
     /// Field of the current record; null when there is no such record or field, or its content does not
@@ -78,7 +73,7 @@ class Recordset {
     friend void AbrirRecordset(Conexion&, Recordset&, std::string_view);
     friend void BuscarRegistro(Recordset&, std::string_view);
     struct Interna;
-    std::unique_ptr<Interna> interna_;
+    std::shared_ptr<Interna> interna_;  // null when closed
     bool encontrado_ = false;
 };
 
@@ -87,7 +82,8 @@ class Recordset {
 void AbrirRecordset(Conexion& conexion, Recordset& registros, std::string_view fuente);
 
 /// Looks for "column=value" from the current record forward and then backward, so that it finds the record
-/// wherever it stands. Leaves Encontrado, and the set on the record when it was found.
+/// wherever it stands. Encontrado is clear only when both ways ended past the records: a criterion that its
+/// own text breaks leaves it set on a set that has records.
 void BuscarRegistro(Recordset& registros, std::string_view criterio);
 
 /// A text between single quotes, as statements take it. Nothing inside is escaped: a name that holds a quote

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "slab/Losa.h"
@@ -9,6 +10,12 @@ namespace trabex {
 
 /// The text that opens the slab list on RegistrosProyecto.
 inline constexpr std::string_view ConsultaListaLosas = "SELECT * FROM LosaDatos  ORDER BY Nombre";
+
+/// Sets the section fields of a slab's record, without storing it. A depth of topping of 0 becomes 0.05.
+void PonerSeccion(Recordset& registros, Losa& losa);
+
+/// Writes spans, axes (N + 1) and displaced joints under `nombre` over those stored there.
+void EscribirElementos(Conexion& conexion, const std::string& nombre, const Losa& losa);
 
 /// Loads the slab on which the list stands. A depth of topping of 0 reads as 0.05; null p1 and L1 read as 0.
 void LeerLosa(ProyectoAbierto& proyecto, Losa& losa);

@@ -16,6 +16,10 @@ struct ProyectoAbierto {
     Recordset RegistrosProyecto;
 };
 
+/// Adds the row of table `Proyecto`, and of `LosaG`, to its opened set. False when it could not be stored.
+bool AgregarProyecto(Recordset& registros, const DatosDelProyecto& datos);
+bool AgregarGenerales(Recordset& registros, const DatosGenerales& generales);
+
 /// Reads table `Proyecto`; when it is empty it first gets its seed row: `usuario` as engineer, today as date.
 void LeerProyecto(Conexion& conexion, std::string_view usuario, DatosDelProyecto& datos);
 

@@ -17,6 +17,6 @@ using Valor =
     std::variant<std::monostate, bool, std::int16_t, std::int32_t, double, std::string, Fecha, Bytes>;
 
 /// Types of a table's columns, as the schema declares them.
-enum class TipoColumna { Booleano, Entero16, Entero32, Doble, Texto, Fecha, Binario };
+enum class TipoColumna { Booleano, Entero16, Entero32, Doble, Texto, Dia, Binario };
 
 }  // namespace trabex

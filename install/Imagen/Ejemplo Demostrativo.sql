@@ -1,0 +1,112 @@
+-- The example project: a residential building of five storeys. Loads of ribbed slabs are per rib.
+
+INSERT INTO Proyecto VALUES ('EDIFICIO RESIDENCIAS LA CEIBA', 'INVERSIONES LA CEIBA, C.A.', 'ING. MARÍA NÚÑEZ',
+    '2024-03-15', 'CONDOMINIO LA CEIBA', 'Cinco plantas y techo; losas nervadas en una dirección');
+
+INSERT INTO LosaG VALUES (250, 4200, 0.025, 1.2, 1.6, 0.9, 0.75);
+
+INSERT INTO LosaDatos VALUES ('L-1 PLANTA BAJA', 0, 0.1, 0.25, 0.5, 1, 0.2, 0.05);
+INSERT INTO LosaTramos VALUES
+    ('L-1 PLANTA BAJA', 1, 5.2, 290, 90, NULL, NULL),
+    ('L-1 PLANTA BAJA', 2, 4.8, 290, 90, NULL, NULL),
+    ('L-1 PLANTA BAJA', 3, 5.2, 290, 90, NULL, NULL);
+INSERT INTO LosaEjes VALUES
+    ('L-1 PLANTA BAJA', 1, 'A', 1, 0, 0, 0),
+    ('L-1 PLANTA BAJA', 2, 'B', 2, 0, 0, 0),
+    ('L-1 PLANTA BAJA', 3, 'C', 2, 0, 0, 0),
+    ('L-1 PLANTA BAJA', 4, 'D', 2, 0, 0, 0);
+
+INSERT INTO LosaDatos VALUES ('L-2 NIVEL 1, EJES 1 A 5', 0, 0.1, 0.25, 0.5, 1, 0.2, 0.05);
+INSERT INTO LosaTramos VALUES
+    ('L-2 NIVEL 1, EJES 1 A 5', 1, 4.6, 300, 90, NULL, NULL),
+    ('L-2 NIVEL 1, EJES 1 A 5', 2, 5.4, 300, 90, NULL, NULL),
+    ('L-2 NIVEL 1, EJES 1 A 5', 3, 5.4, 300, 90, 450, 2.1),
+    ('L-2 NIVEL 1, EJES 1 A 5', 4, 4.6, 300, 90, NULL, NULL);
+INSERT INTO LosaEjes VALUES
+    ('L-2 NIVEL 1, EJES 1 A 5', 1, '1', 1, 0, 0, 0),
+    ('L-2 NIVEL 1, EJES 1 A 5', 2, '2', 2, 0, 0, 0),
+    ('L-2 NIVEL 1, EJES 1 A 5', 3, '3', 2, 0, 0, 0),
+    ('L-2 NIVEL 1, EJES 1 A 5', 4, '4', 2, 0, 0, 0),
+    ('L-2 NIVEL 1, EJES 1 A 5', 5, '5', 2, 0, 0, 0);
+
+INSERT INTO LosaDatos VALUES ('L-3 NIVEL 1, BALCÓN', 1, 0.1, 0.25, 0.5, 1, 0.15, 0.05);
+INSERT INTO LosaTramos VALUES
+    ('L-3 NIVEL 1, BALCÓN', 1, 3.6, 520, 300, NULL, NULL),
+    ('L-3 NIVEL 1, BALCÓN', 2, 1.4, 560, 300, 180, 1.4);
+INSERT INTO LosaEjes VALUES
+    ('L-3 NIVEL 1, BALCÓN', 1, 'B', 1, 0, 0, 0),
+    ('L-3 NIVEL 1, BALCÓN', 2, 'C', 2, 0, 0, 0),
+    ('L-3 NIVEL 1, BALCÓN', 3, 'C''', 5, 0, 0, 0);
+
+INSERT INTO LosaDatos VALUES ('L-4 NIVEL 2, OCHO TRAMOS', 0, 0.1, 0.3, 0.5, 1, 0.2, 0.05);
+INSERT INTO LosaTramos VALUES
+    ('L-4 NIVEL 2, OCHO TRAMOS', 1, 4.2, 310, 100, NULL, NULL),
+    ('L-4 NIVEL 2, OCHO TRAMOS', 2, 5.0, 310, 100, NULL, NULL),
+    ('L-4 NIVEL 2, OCHO TRAMOS', 3, 5.0, 310, 100, NULL, NULL),
+    ('L-4 NIVEL 2, OCHO TRAMOS', 4, 6.2, 310, 100, NULL, NULL),
+    ('L-4 NIVEL 2, OCHO TRAMOS', 5, 6.2, 310, 100, NULL, NULL),
+    ('L-4 NIVEL 2, OCHO TRAMOS', 6, 5.0, 310, 100, NULL, NULL),
+    ('L-4 NIVEL 2, OCHO TRAMOS', 7, 5.0, 310, 100, NULL, NULL),
+    ('L-4 NIVEL 2, OCHO TRAMOS', 8, 4.2, 310, 100, NULL, NULL);
+INSERT INTO LosaEjes VALUES
+    ('L-4 NIVEL 2, OCHO TRAMOS', 1, '1', 1, 0, 0, 0),
+    ('L-4 NIVEL 2, OCHO TRAMOS', 2, '2', 2, 0, 0, 0),
+    ('L-4 NIVEL 2, OCHO TRAMOS', 3, '3', 2, 0, 0, 0),
+    ('L-4 NIVEL 2, OCHO TRAMOS', 4, '4', 2, 0, 0, 0),
+    ('L-4 NIVEL 2, OCHO TRAMOS', 5, '5', 2, 0, 0, 0),
+    ('L-4 NIVEL 2, OCHO TRAMOS', 6, '6', 2, 0, 0, 0),
+    ('L-4 NIVEL 2, OCHO TRAMOS', 7, '7', 2, 0, 0, 0),
+    ('L-4 NIVEL 2, OCHO TRAMOS', 8, '8', 2, 0, 0, 0),
+    ('L-4 NIVEL 2, OCHO TRAMOS', 9, '9', 2, 0, 0, 0);
+
+INSERT INTO LosaDatos VALUES ('L-5 NIVEL 3, DESNIVEL', 0, 0.1, 0.25, 0.5, 1, 0.2, 0.05);
+INSERT INTO LosaTramos VALUES
+    ('L-5 NIVEL 3, DESNIVEL', 1, 4.5, 290, 90, NULL, NULL),
+    ('L-5 NIVEL 3, DESNIVEL', 2, 1.2, 290, 90, NULL, NULL),
+    ('L-5 NIVEL 3, DESNIVEL', 3, 4.5, 290, 90, NULL, NULL);
+INSERT INTO LosaEjes VALUES
+    ('L-5 NIVEL 3, DESNIVEL', 1, 'A', 1, 0, 0, 0),
+    ('L-5 NIVEL 3, DESNIVEL', 2, 'B', 2, 0, 0, 0),
+    ('L-5 NIVEL 3, DESNIVEL', 3, 'B1', 2, 0, 0, 0),
+    ('L-5 NIVEL 3, DESNIVEL', 4, 'C', 2, 0, 0, 0);
+INSERT INTO LosaJuntasD VALUES
+    ('L-5 NIVEL 3, DESNIVEL', 3, 0, 0.45),
+    ('L-5 NIVEL 3, DESNIVEL', 4, 0, 0.45);
+
+INSERT INTO LosaDatos VALUES ('L-6 NIVEL 4, EMPOTRADA', 1, 0.1, 0.25, 0.5, 1, 0.2, 0.05);
+INSERT INTO LosaTramos VALUES
+    ('L-6 NIVEL 4, EMPOTRADA', 1, 4.0, 600, 250, NULL, NULL),
+    ('L-6 NIVEL 4, EMPOTRADA', 2, 4.4, 600, 250, NULL, NULL);
+INSERT INTO LosaEjes VALUES
+    ('L-6 NIVEL 4, EMPOTRADA', 1, '1', 4, 0, 0, 0),
+    ('L-6 NIVEL 4, EMPOTRADA', 2, '2', 2, 0, 0, 0),
+    ('L-6 NIVEL 4, EMPOTRADA', 3, '3', 2, 0, 0, 0);
+
+INSERT INTO LosaDatos VALUES ('L-7 TECHO', 0, 0.1, 0.2, 0.5, 1, 0.2, 0.05);
+INSERT INTO LosaTramos VALUES
+    ('L-7 TECHO', 1, 5.0, 240, 50, NULL, NULL),
+    ('L-7 TECHO', 2, 5.0, 240, 50, NULL, NULL);
+INSERT INTO LosaEjes VALUES
+    ('L-7 TECHO', 1, 'A', 1, 0, 0, 0),
+    ('L-7 TECHO', 2, 'B', 2, 0, 0, 0),
+    ('L-7 TECHO', 3, 'C', 2, 0, 0, 0);
+
+INSERT INTO LosaDatos VALUES ('L-8 SALA DE MÁQUINAS', 1, 0.1, 0.25, 0.5, 1, 0.2, 0.05);
+INSERT INTO LosaTramos VALUES
+    ('L-8 SALA DE MÁQUINAS', 1, 3.2, 680, 500, 2500, 1.6);
+INSERT INTO LosaEjes VALUES
+    ('L-8 SALA DE MÁQUINAS', 1, '2', 1, 0, 0, 0),
+    ('L-8 SALA DE MÁQUINAS', 2, '3', 2, 0, 0, 0);
+
+INSERT INTO LosaDatos VALUES ('L-9 RAMPA DE ACCESO', 1, 0.1, 0.25, 0.5, 1, 0.18, 0.05);
+INSERT INTO LosaTramos VALUES
+    ('L-9 RAMPA DE ACCESO', 1, 4.0, 560, 500, NULL, NULL),
+    ('L-9 RAMPA DE ACCESO', 2, 4.0, 560, 500, NULL, NULL);
+INSERT INTO LosaEjes VALUES
+    ('L-9 RAMPA DE ACCESO', 1, 'R1', 1, 0, 0, 0),
+    ('L-9 RAMPA DE ACCESO', 2, 'R2', 2, 0, 0, 0),
+    ('L-9 RAMPA DE ACCESO', 3, 'R3', 2, 0, 0, 0);
+INSERT INTO LosaJuntasD VALUES
+    ('L-9 RAMPA DE ACCESO', 2, 0, -0.5),
+    ('L-9 RAMPA DE ACCESO', 3, 0, -1.0);
+

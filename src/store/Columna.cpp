@@ -1,0 +1,119 @@
+#include "store/Columna.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+#include <utility>
+
+#include "base/Enteros.h"
+
+namespace trabex {
+
+namespace {
+
+constexpr std::array<std::pair<std::string_view, TipoColumna>, 7> Declaraciones{{
+    {"SMALLINT", TipoColumna::Entero16},
+    {"INTEGER", TipoColumna::Entero32},
+    {"DOUBLE", TipoColumna::Doble},
+    {"BOOLEAN", TipoColumna::Booleano},
+    {"TEXT", TipoColumna::Texto},
+    {"DATE", TipoColumna::Dia},
+    {"BLOB", TipoColumna::Binario},
+}};
+
+/// A number of any kind as a double.
+std::optional<double> Numero(const Valor& valor) {
+    if (const auto* b = std::get_if<bool>(&valor)) return *b ? 1 : 0;
+    if (const auto* corto = std::get_if<std::int16_t>(&valor)) return *corto;
+    if (const auto* largo = std::get_if<std::int32_t>(&valor)) return *largo;
+    if (const auto* doble = std::get_if<double>(&valor)) return *doble;
+    return std::nullopt;
+}
+
+template <class Entero>
+std::optional<Valor> AdmitirEntero(double numero) {
+    try {
+        return EstrecharRedondeando<Entero>(numero);
+    } catch (const ErrorEjecucion&) {
+        return std::nullopt;
+    }
+}
+
+std::optional<Valor> AdmitirNumero(TipoColumna tipo, double numero) {
+    if (!std::isfinite(numero)) return std::nullopt;
+    switch (tipo) {
+        case TipoColumna::Booleano:
+            return numero != 0;
+        case TipoColumna::Entero16:
+            return AdmitirEntero<std::int16_t>(numero);
+        case TipoColumna::Entero32:
+            return AdmitirEntero<std::int32_t>(numero);
+        case TipoColumna::Doble:
+            return numero;
+        default:
+            return std::nullopt;
+    }
+}
+
+/// Characters of a UTF-8 text: every byte but those that continue one.
+std::size_t Caracteres(std::string_view texto) {
+    return static_cast<std::size_t>(
+        std::count_if(texto.begin(), texto.end(), [](char c) { return (c & 0xC0) != 0x80; }));
+}
+
+}  // namespace
+
+Columna LeerDeclaracion(std::string_view nombre, std::string_view declaracion) {
+    Columna columna{std::string(nombre), TipoColumna::Texto, 0};
+    const std::size_t parentesis = declaracion.find('(');
+    std::string tipo(declaracion.substr(0, parentesis));
+    std::transform(tipo.begin(), tipo.end(), tipo.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+    for (const auto& [texto, conocido] : Declaraciones) {
+        if (tipo == texto) columna.Tipo = conocido;
+    }
+    if (parentesis != std::string_view::npos)
+        std::from_chars(declaracion.data() + parentesis + 1, declaracion.data() + declaracion.size(),
+                        columna.Ancho);
+    return columna;
+}
+
+std::optional<Valor> Admitir(const Columna& columna, const Valor& valor) {
+    if (std::holds_alternative<std::monostate>(valor)) return valor;
+    if (const auto numero = Numero(valor)) return AdmitirNumero(columna.Tipo, *numero);
+    if (const auto* texto = std::get_if<std::string>(&valor)) {
+        if (columna.Tipo != TipoColumna::Texto) return std::nullopt;
+        if (columna.Ancho != 0 && Caracteres(*texto) > columna.Ancho) return std::nullopt;
+        return valor;
+    }
+    if (const auto* fecha = std::get_if<Fecha>(&valor)) {
+        if (columna.Tipo != TipoColumna::Dia || !fecha->ok()) return std::nullopt;
+        return valor;
+    }
+    if (columna.Tipo != TipoColumna::Binario) return std::nullopt;
+    return valor;
+}
+
+std::optional<Fecha> FechaDeTexto(std::string_view texto) {
+    int ano = 0;
+    unsigned mes = 0;
+    unsigned dia = 0;
+    char resto = 0;
+    if (std::sscanf(std::string(texto).c_str(), "%4d-%2u-%2u%c", &ano, &mes, &dia, &resto) != 3)
+        return std::nullopt;
+    const Fecha fecha = std::chrono::year(ano) / std::chrono::month(mes) / std::chrono::day(dia);
+    if (!fecha.ok()) return std::nullopt;
+    return fecha;
+}
+
+std::string TextoDeFecha(const Fecha& fecha) {
+    std::array<char, 32> texto{};
+    std::snprintf(texto.data(), texto.size(), "%04d-%02u-%02u", static_cast<int>(fecha.year()),
+                  static_cast<unsigned>(fecha.month()), static_cast<unsigned>(fecha.day()));
+    return texto.data();
+}
+
+}  // namespace trabex
