@@ -1,0 +1,252 @@
+#include <algorithm>
+#include <limits>
+
+#include <gtest/gtest.h>
+
+#include "store/Comparacion.h"
+#include "support/CarpetaTemporal.h"
+#include "support/LosasDePrueba.h"
+#include "support/ProyectoDePrueba.h"
+
+namespace trabex {
+namespace {
+
+class Acceso : public testing::Test {
+  protected:
+    Acceso() : camino(carpeta / "Proyecto Año 1.los") {
+        EXPECT_TRUE(CrearBaseDatos(camino, prueba::EsquemaDeProyecto()));
+        EXPECT_TRUE(prueba::Abrir(proyecto, camino));
+    }
+
+    Recordset Abierto(std::string_view fuente) {
+        Recordset registros;
+        AbrirRecordset(proyecto.ConexionProyecto, registros, fuente);
+        return registros;
+    }
+    int Filas(const std::string& fuente) { return Abierto(fuente).NumeroRegistros(); }
+    void Crear(const std::string& nombre) {
+        Losa losa = prueba::LosaContinua({4, 5}, 300, 200);
+        losa.Nombre = nombre;
+        ASSERT_TRUE(prueba::AgregarLosa(proyecto, losa)) << nombre;
+    }
+
+    prueba::CarpetaTemporal carpeta;
+    std::filesystem::path camino;
+    ProyectoAbierto proyecto;
+};
+
+TEST_F(Acceso, LosGeneralesVaciosSeSiembran) {
+    DatosDelProyecto datos;
+    DatosGenerales generales;
+    generales.FC = 1;
+    LeerDatosGenerales(proyecto.ConexionProyecto, "ING. NÚÑEZ", datos, generales);
+    EXPECT_EQ(generales.FC, 250);
+    EXPECT_EQ(generales.FiCorte, 0.75);
+    EXPECT_EQ(datos.Calculista, "ING. NÚÑEZ");
+    EXPECT_EQ(datos.Fecha, Hoy());
+    LeerDatosGenerales(proyecto.ConexionProyecto, "OTRO", datos, generales);
+    EXPECT_EQ(datos.Calculista, "ING. NÚÑEZ");
+    EXPECT_EQ(Filas("Proyecto"), 1);
+    EXPECT_EQ(Filas("LosaG"), 1);
+    EXPECT_EQ(Abierto("LosaG").Entero16("FY"), 4200);
+}
+
+TEST_F(Acceso, LaLosaGuardadaEsLaLeida) {
+    std::mt19937 azar(17);
+    for (int vez = 0; vez < 10; ++vez) {
+        Losa losa = prueba::LosaAlAzar(azar, true);
+        losa.Nombre = "L-" + std::to_string(vez);
+        losa.Loseta = vez == 0 ? 0 : 0.06;
+        losa.Ejes[1].Eje = "Á1";
+        std::sort(losa.JuntasD.begin() + 1, losa.JuntasD.end(),
+                  [](auto& a, auto& b) { return a.Junta < b.Junta; });
+        ASSERT_TRUE(prueba::AgregarLosa(proyecto, losa));
+        ASSERT_TRUE(GuardarLosa(proyecto, losa));  // a second save leaves no second rows
+        Losa leida;
+        LeerLosa(proyecto, leida);
+        EXPECT_EQ(leida.Loseta, vez == 0 ? 0.05 : 0.06);
+        EXPECT_EQ(leida.OpcionMaciza, losa.OpcionMaciza);
+        ASSERT_EQ(leida.Tramos.size(), losa.Tramos.size());
+        ASSERT_EQ(leida.Ejes.size(), losa.Ejes.size());
+        ASSERT_EQ(leida.JuntasD.size(), losa.JuntasD.size());
+        for (std::size_t i = 1; i < losa.Tramos.size(); ++i) {
+            EXPECT_EQ(leida.Tramos[i].LT, losa.Tramos[i].LT);
+            EXPECT_EQ(leida.Tramos[i].WV, losa.Tramos[i].WV);
+            EXPECT_EQ(leida.Tramos[i].p1, losa.Tramos[i].p1);
+            EXPECT_EQ(leida.Tramos[i].L1, losa.Tramos[i].L1);
+            EXPECT_EQ(leida.Ejes[i].Eje, losa.Ejes[i].Eje);
+            EXPECT_EQ(leida.Ejes[i].Tipo, losa.Ejes[i].Tipo);
+        }
+        for (std::size_t k = 1; k < losa.JuntasD.size(); ++k)
+            EXPECT_EQ(leida.JuntasD[k].Junta, losa.JuntasD[k].Junta);
+    }
+}
+
+TEST_F(Acceso, NulosYHuecosDeNumeroSeCierranAlGuardar) {
+    Crear("L-1");
+    Conexion& conexion = proyecto.ConexionProyecto;
+    EXPECT_TRUE(conexion.Ejecutar("UPDATE LosaTramos SET Numero = 10 * Numero, p1 = NULL, L1 = NULL"));
+    Losa losa;
+    LeerLosa(proyecto, losa);
+    ASSERT_EQ(losa.Tramos.size(), 3U);
+    EXPECT_EQ(losa.Tramos[1].p1, 0);
+    losa.Tramos.pop_back();
+    EXPECT_TRUE(GuardarLosa(proyecto, losa));
+    Recordset tramos = Abierto("LosaTramos");
+    ASSERT_EQ(tramos.NumeroRegistros(), 1);
+    EXPECT_EQ(tramos.Entero16("Numero"), 1);
+    EXPECT_TRUE(std::holds_alternative<std::int32_t>(tramos.Leer("p1")));
+    EXPECT_EQ(Filas("LosaEjes"), 2);
+}
+
+TEST_F(Acceso, ElRecordsetEsEstatico) {
+    for (const char* nombre : {"C", "A", "B"}) Crear(nombre);
+    Recordset& lista = proyecto.RegistrosProyecto;
+    EXPECT_EQ(lista.Posicion(), 3);  // new rows stand at the end until it opens again
+    EXPECT_EQ(lista.Texto("Nombre"), "B");
+    EXPECT_TRUE(prueba::Abrir(proyecto, camino));
+    EXPECT_EQ(lista.Texto("Nombre"), "A");
+    Crear("0");
+    EXPECT_EQ(lista.Posicion(), 4);
+    lista.MoverA(2);
+    EXPECT_TRUE(lista.Borrar());
+    EXPECT_EQ(lista.Texto("Nombre"), "C");
+    lista.MoverAlUltimo();
+    EXPECT_TRUE(lista.Borrar());
+    EXPECT_EQ(lista.Texto("Nombre"), "C");
+    lista.MoverAlSiguiente();
+    EXPECT_TRUE(lista.EOF_());
+    EXPECT_FALSE(lista.Borrar());
+    lista.MoverA(99);
+    EXPECT_TRUE(lista.EOF_());
+    EXPECT_EQ(Filas("LosaDatos"), 2);
+}
+
+TEST_F(Acceso, BuscarRegistroMiraEnLosDosSentidos) {
+    for (const char* nombre : {"LOSA 1", "LOSA Ñ", "LOSÁ 2"}) Crear(nombre);
+    Recordset& lista = proyecto.RegistrosProyecto;
+    lista.MoverAlUltimo();
+    BuscarRegistro(lista, "Nombre=" + EntreComillas("losa ñ"));
+    EXPECT_TRUE(lista.Encontrado());
+    EXPECT_EQ(lista.Texto("Nombre"), "LOSA Ñ");
+    BuscarRegistro(lista, "Nombre='losa 2'");
+    EXPECT_FALSE(lista.Encontrado());
+    BuscarRegistro(lista, "Nombre='losá 2'");
+    EXPECT_TRUE(lista.Encontrado());
+    lista.Buscar("OpcionMaciza=0", 1, Direccion::Atras);
+    EXPECT_EQ(lista.Posicion(), 2);
+    Recordset vacia = Abierto("LosaG");
+    BuscarRegistro(vacia, "FC=250");
+    EXPECT_FALSE(vacia.Encontrado());
+}
+
+TEST_F(Acceso, LosNombresSeOrdenanComoEnEspanol) {
+    for (const char* nombre : {"z", "Ñandú", "nube", "Ábaco", "abeja", "oro"}) Crear(nombre);
+    prueba::Abrir(proyecto, camino);
+    std::vector<std::string> nombres;
+    for (int i = 1; i <= 6; ++i) {
+        proyecto.RegistrosProyecto.MoverA(i);
+        nombres.push_back(proyecto.RegistrosProyecto.Texto("Nombre"));
+    }
+    EXPECT_EQ(nombres, (std::vector<std::string>{"Ábaco", "abeja", "nube", "Ñandú", "oro", "z"}));
+    const Comparador comparador;
+    EXPECT_NE(comparador.Comparar("m²", "M2"), 0);
+    EXPECT_EQ(comparador.Comparar("Ç-É", "ç-é"), 0);
+    EXPECT_NE(comparador.Comparar("\xFF\xC3", "a"), 0);
+}
+
+TEST_F(Acceso, UnNombreConComillaSoloRompeSusSentencias) {
+    Crear("L-1");
+    for (const char* nombre : {"O'Brien", "x' --", "x'; DELETE FROM LosaTramos; --", "y' /*"}) {
+        const std::string comillas = EntreComillas(nombre);
+        EXPECT_FALSE(proyecto.ConexionProyecto.Ejecutar("DELETE * FROM LosaTramos WHERE Nombre=" + comillas));
+        EXPECT_FALSE(Abierto("SELECT * FROM LosaTramos WHERE Nombre=" + comillas).Abierto());
+    }
+    EXPECT_EQ(Filas("LosaTramos"), 2);
+    Losa rota = prueba::LosaContinua({3}, 100);
+    rota.Nombre = "O'Brien";
+    EXPECT_TRUE(prueba::AgregarLosa(proyecto, rota));  // its deletes fail, the next steps run all the same
+    LeerLosa(proyecto, rota);
+    EXPECT_EQ(rota.Tramos.size(), 1U);
+    EXPECT_EQ(Filas("SELECT * FROM LosaTramos WHERE Nombre='l-1'"), 2);
+}
+
+TEST_F(Acceso, UnaSentenciaPorLlamada) {
+    Conexion& conexion = proyecto.ConexionProyecto;
+    Crear("L-1");
+    EXPECT_FALSE(conexion.Ejecutar("DELETE * FROM LosaEjes; DELETE * FROM LosaTramos"));
+    EXPECT_FALSE(conexion.Ejecutar("DELETE * FROM LosaEjes -- todo"));
+    EXPECT_FALSE(conexion.Ejecutar("DELETE * FROM NoExiste"));
+    EXPECT_TRUE(conexion.Ejecutar("delete  * from LosaEjes WHERE Nombre='L-1' ;"));
+    EXPECT_EQ(Filas("LosaEjes"), 0);
+    EXPECT_FALSE(Abierto("DROP TABLE LosaTramos").Abierto());
+    EXPECT_EQ(Filas("LosaTramos"), 2);
+}
+
+TEST_F(Acceso, LasColumnasGuardanSuTipo) {
+    Crear("L-1");
+    Recordset tramos = Abierto("LosaTramos");
+    EXPECT_FALSE(tramos.Poner("Numero", 32768.0));
+    EXPECT_FALSE(tramos.Poner("Wp", 3e9));
+    EXPECT_FALSE(tramos.Poner("LT", std::numeric_limits<double>::quiet_NaN()));
+    EXPECT_FALSE(tramos.Poner("LT", "cuatro"));
+    EXPECT_FALSE(tramos.Poner("Nombre", std::string(61, 'x')));
+    EXPECT_FALSE(tramos.Poner("Otro", 1.0));
+    EXPECT_TRUE(tramos.Poner("Wp", 2.5));
+    EXPECT_TRUE(tramos.Poner("Nombre", Valor{std::string("L-1")}));
+    EXPECT_TRUE(tramos.Actualizar());
+    EXPECT_EQ(tramos.Entero32("Wp"), 2);
+    // What another program stored against the types reads as null.
+    EXPECT_TRUE(proyecto.ConexionProyecto.Ejecutar("UPDATE LosaTramos SET Wp = 'mucho', Numero = 70000"));
+    tramos = Abierto("LosaTramos");
+    EXPECT_EQ(tramos.Entero32("Wp"), 0);
+    EXPECT_TRUE(std::holds_alternative<std::monostate>(tramos.Leer("Numero")));
+
+    Recordset datos = Abierto("Proyecto");
+    datos.AgregarNuevo();
+    using namespace std::chrono;
+    EXPECT_FALSE(datos.Poner("Fecha", Fecha{2024y / February / 30d}));
+    EXPECT_TRUE(datos.Poner("Fecha", Fecha{2024y / February / 29d}));
+    EXPECT_TRUE(datos.Actualizar());
+    EXPECT_EQ(Abierto("Proyecto").LeerFecha("Fecha"), (Fecha{2024y / February / 29d}));
+}
+
+TEST_F(Acceso, UnGuardadoEstropeadoDejaLaLosaQueHabia) {
+    Crear("L-1");
+    Losa losa;
+    LeerLosa(proyecto, losa);
+    losa.Ho = 0.9;
+    losa.Ejes[2].Eje = std::string(500, 'x');  // refused by its column
+    EXPECT_FALSE(GuardarLosa(proyecto, losa));
+    EXPECT_EQ(proyecto.RegistrosProyecto.Doble("Ho"), 0.25);  // the open list stands as the file does
+    LeerLosa(proyecto, losa);
+    EXPECT_EQ(losa.Tramos.size(), 3U);
+    EXPECT_EQ(losa.Ejes[2].Eje, "2");
+
+    EXPECT_TRUE(proyecto.ConexionProyecto.Ejecutar("PRAGMA max_page_count = 1"));  // a full disk
+    losa.Ho = 0.8;
+    losa.Tramos.resize(3000);
+    losa.Ejes.resize(3001);
+    EXPECT_FALSE(GuardarLosa(proyecto, losa));
+    LeerLosa(proyecto, losa);
+    EXPECT_EQ(losa.Ho, 0.25);
+    EXPECT_EQ(losa.Tramos.size(), 3U);
+    EXPECT_EQ(Filas("LosaEjes"), 3);
+}
+
+TEST_F(Acceso, UnaConexionCerradaNoHaceNada) {
+    Crear("L-1");
+    proyecto.ConexionProyecto.Cerrar();
+    Losa losa = prueba::LosaContinua({3}, 100);
+    EXPECT_FALSE(GuardarLosa(proyecto, losa));
+    EXPECT_FALSE(proyecto.RegistrosProyecto.Borrar());
+    EXPECT_EQ(proyecto.RegistrosProyecto.Texto("Nombre"), "L-1");
+    EXPECT_FALSE(Abierto("LosaDatos").Abierto());
+    DatosDelProyecto datos;
+    DatosGenerales generales;
+    LeerDatosGenerales(proyecto.ConexionProyecto, "YO", datos, generales);
+    EXPECT_EQ(generales.FY, 4200);
+}
+
+}  // namespace
+}  // namespace trabex
