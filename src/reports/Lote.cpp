@@ -1,0 +1,127 @@
+#include "reports/Lote.h"
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <thread>
+
+#include "reports/ResultadosJson.h"
+#include "slab/CalcularLosa.h"
+#include "store/TablasLosa.h"
+
+namespace trabex {
+
+namespace {
+
+/// Reads every slab. The engine's connection serves one thread, so this comes before the calculations.
+std::vector<Losa> LeerLosas(ProyectoAbierto& proyecto) {
+    std::vector<Losa> losas(static_cast<std::size_t>(proyecto.RegistrosProyecto.NumeroRegistros()));
+    for (std::size_t i = 0; i < losas.size(); ++i) {
+        proyecto.RegistrosProyecto.MoverA(static_cast<int>(i) + 1);
+        LeerLosa(proyecto, losas[i]);
+    }
+    return losas;
+}
+
+ResumenLosa Resumir(const Losa& losa, const ResultadosLosa& r) {
+    ResumenLosa resumen;
+    resumen.Nombre = losa.Nombre;
+    resumen.OpcionMaciza = losa.OpcionMaciza;
+    resumen.Tramos = losa.Tramos.size() - 1;
+    for (const Tramo& tramo : losa.Tramos) resumen.Longitud += tramo.LT;
+    resumen.MaxMomentoApoyo = r.MaxMomentoApoyo;
+    resumen.MaxMomentoTramo = r.MaxMomentoTramo;
+    resumen.MaxCorte = r.MaxCorte;
+    for (const DisenoDeEje& eje : r.DisenoEje)
+        resumen.AceroSuperior = std::max(resumen.AceroSuperior, eje.AS1);
+    for (const DisenoDeTramo& tramo : r.DisenoTramo)
+        resumen.AceroInferior = std::max(resumen.AceroInferior, tramo.AS2);
+    if (r.Error) resumen.Error = r.Error->Texto();
+    return resumen;
+}
+
+/// Characters of a UTF-8 text, for columns that align.
+std::size_t Ancho(const std::string& texto) {
+    return static_cast<std::size_t>(
+        std::count_if(texto.begin(), texto.end(), [](char c) { return (c & 0xC0) != 0x80; }));
+}
+
+using FilaDeTabla = std::array<std::string, 9>;
+
+const FilaDeTabla Encabezado{
+    "Losa",        "Tipo",         "Tramos",      "Longitud (m)", "M apoyo (kgf-m)", "M tramo (kgf-m)",
+    "Corte (kgf)", "As sup (cm2)", "As inf (cm2)"};
+
+FilaDeTabla FilaDe(const ResumenLosa& losa, const Separadores& separadores) {
+    const auto numero = [&](double valor, const char* formato) {
+        return Formato(valor, formato, separadores);
+    };
+    return {losa.Nombre,
+            losa.OpcionMaciza ? "MACIZA" : "NERVADA",
+            std::to_string(losa.Tramos),
+            numero(losa.Longitud, "0.00"),
+            numero(losa.MaxMomentoApoyo, "#,##0"),
+            numero(losa.MaxMomentoTramo, "#,##0"),
+            numero(losa.MaxCorte, "#,##0"),
+            numero(losa.AceroSuperior, "0.00"),
+            numero(losa.AceroInferior, "0.00")};
+}
+
+}  // namespace
+
+bool CalcularProyecto(const std::filesystem::path& camino, unsigned hilos, ProyectoCalculado& calculado) {
+    ProyectoAbierto proyecto;
+    AbrirCopiaEnMemoria(proyecto.ConexionProyecto, camino);
+    AbrirRecordset(proyecto.ConexionProyecto, proyecto.RegistrosProyecto, ConsultaListaLosas);
+    if (!proyecto.RegistrosProyecto.Abierto()) return false;
+    LeerDatosGenerales(proyecto.ConexionProyecto, "", calculado.Datos, calculado.Generales);
+    const std::vector<Losa> losas = LeerLosas(proyecto);
+    calculado.LosasJson.resize(losas.size());
+    calculado.Losas.resize(losas.size());
+
+    std::atomic<std::size_t> siguiente{0};
+    const auto trabajar = [&] {
+        for (std::size_t i = siguiente++; i < losas.size(); i = siguiente++) {
+            ResultadosLosa resultados;
+            CalcularLosa(losas[i], calculado.Generales, resultados);
+            calculado.LosasJson[i] = LosaJson(losas[i], resultados);
+            calculado.Losas[i] = Resumir(losas[i], resultados);
+        }
+    };
+    std::vector<std::jthread> equipo;
+    for (unsigned h = 1; h < hilos; ++h) equipo.emplace_back(trabajar);
+    trabajar();
+    return true;
+}
+
+std::string DocumentoJson(const ProyectoCalculado& calculado) {
+    std::string json = "{\"Proyecto\":" + ProyectoJson(calculado.Datos) +
+                       ",\n\"LosaG\":" + GeneralesJson(calculado.Generales) + ",\n\"losas\":[";
+    for (std::size_t i = 0; i < calculado.LosasJson.size(); ++i) {
+        json += i == 0 ? "\n" : ",\n";
+        json += calculado.LosasJson[i];
+    }
+    return json + "\n]}\n";
+}
+
+std::string TablaResumen(const ProyectoCalculado& calculado, const Separadores& separadores) {
+    std::vector<FilaDeTabla> filas{Encabezado};
+    for (const ResumenLosa& losa : calculado.Losas) filas.push_back(FilaDe(losa, separadores));
+    std::array<std::size_t, std::tuple_size_v<FilaDeTabla>> anchos{};
+    for (const FilaDeTabla& fila : filas) {
+        for (std::size_t c = 0; c < fila.size(); ++c) anchos[c] = std::max(anchos[c], Ancho(fila[c]));
+    }
+    std::string tabla;
+    for (std::size_t f = 0; f < filas.size(); ++f) {
+        for (std::size_t c = 0; c < anchos.size(); ++c) {
+            const std::string relleno(anchos[c] - Ancho(filas[f][c]), ' ');
+            tabla += c < 2 ? filas[f][c] + relleno : relleno + filas[f][c];
+            tabla += c + 1 < anchos.size() ? "  " : "";
+        }
+        if (f > 0 && !calculado.Losas[f - 1].Error.empty()) tabla += "  " + calculado.Losas[f - 1].Error;
+        tabla += '\n';
+    }
+    return tabla;
+}
+
+}  // namespace trabex

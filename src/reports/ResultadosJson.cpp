@@ -1,0 +1,203 @@
+#include "reports/ResultadosJson.h"
+
+#include <cmath>
+#include <cstdio>
+#include <tuple>
+#include <type_traits>
+
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
+
+namespace trabex {
+
+namespace {
+
+using Escritor = rapidjson::Writer<rapidjson::StringBuffer>;
+
+/// A field of a record, by the name under which it is written.
+template <class Registro, class Tipo>
+struct Campo {
+    const char* Nombre;
+    Tipo Registro::*Dato;
+};
+template <class Registro, class Tipo>
+Campo(const char*, Tipo Registro::*) -> Campo<Registro, Tipo>;
+
+constexpr std::tuple CamposGenerales{
+    Campo{"FC", &DatosGenerales::FC},          Campo{"FY", &DatosGenerales::FY},
+    Campo{"D8", &DatosGenerales::D8},          Campo{"FCP", &DatosGenerales::FCP},
+    Campo{"FCV", &DatosGenerales::FCV},        Campo{"FiMomento", &DatosGenerales::FiMomento},
+    Campo{"FiCorte", &DatosGenerales::FiCorte}};
+
+constexpr std::tuple CamposProyecto{
+    Campo{"Proyecto", &DatosDelProyecto::Proyecto},     Campo{"Propietario", &DatosDelProyecto::Propietario},
+    Campo{"Calculista", &DatosDelProyecto::Calculista}, Campo{"Fecha", &DatosDelProyecto::Fecha},
+    Campo{"Cliente", &DatosDelProyecto::Cliente},       Campo{"Comentario", &DatosDelProyecto::Comentario}};
+
+constexpr std::tuple CamposLosa{Campo{"Nombre", &Losa::Nombre}, Campo{"OpcionMaciza", &Losa::OpcionMaciza},
+                                Campo{"Bo", &Losa::Bo},         Campo{"Ho", &Losa::Ho},
+                                Campo{"So", &Losa::So},         Campo{"Bm", &Losa::Bm},
+                                Campo{"Hm", &Losa::Hm},         Campo{"Loseta", &Losa::Loseta}};
+
+constexpr std::tuple CamposTramo{Campo{"LT", &Tramo::LT}, Campo{"Wp", &Tramo::Wp}, Campo{"WV", &Tramo::WV},
+                                 Campo{"p1", &Tramo::p1}, Campo{"L1", &Tramo::L1}};
+
+constexpr std::tuple CamposEje{Campo{"Eje", &EjeLosa::Eje}, Campo{"Tipo", &EjeLosa::Tipo},
+                               Campo{"Lizq", &EjeLosa::Lizq}, Campo{"Lder", &EjeLosa::Lder},
+                               Campo{"HV", &EjeLosa::HV}};
+
+constexpr std::tuple CamposJuntaD{Campo{"Junta", &JuntaD::Junta}, Campo{"x", &JuntaD::x},
+                                  Campo{"y", &JuntaD::y}};
+
+constexpr std::tuple CamposEstadoJunta{Campo{"Eje", &EstadoJunta::Eje}, Campo{"x", &EstadoJunta::x},
+                                       Campo{"y", &EstadoJunta::y},     Campo{"DX", &EstadoJunta::DX},
+                                       Campo{"DY", &EstadoJunta::DY},   Campo{"Giro", &EstadoJunta::Giro},
+                                       Campo{"RV", &EstadoJunta::RV},   Campo{"RH", &EstadoJunta::RH}};
+
+constexpr std::tuple CamposEsfuerzos{
+    Campo{"MomentoA", &EsfuerzosTramo::MomentoA}, Campo{"CorteA", &EsfuerzosTramo::CorteA},
+    Campo{"AxialA", &EsfuerzosTramo::AxialA},     Campo{"MomentoB", &EsfuerzosTramo::MomentoB},
+    Campo{"CorteB", &EsfuerzosTramo::CorteB},     Campo{"AxialB", &EsfuerzosTramo::AxialB}};
+
+constexpr std::tuple CamposDisenoEje{Campo{"AS1", &DisenoDeEje::AS1},   Campo{"AS2", &DisenoDeEje::AS2},
+                                     Campo{"MczI", &DisenoDeEje::MczI}, Campo{"MczD", &DisenoDeEje::MczD},
+                                     Campo{"PtoI", &DisenoDeEje::PtoI}, Campo{"PtoD", &DisenoDeEje::PtoD}};
+
+constexpr std::tuple CamposDisenoTramo{Campo{"MT", &DisenoDeTramo::MT}, Campo{"x", &DisenoDeTramo::x},
+                                       Campo{"AS1", &DisenoDeTramo::AS1}, Campo{"AS2", &DisenoDeTramo::AS2}};
+
+constexpr std::tuple CamposMaximos{Campo{"MaxMomentoApoyo", &ResultadosLosa::MaxMomentoApoyo},
+                                   Campo{"MaxCorte", &ResultadosLosa::MaxCorte},
+                                   Campo{"MaxMomentoTramo", &ResultadosLosa::MaxMomentoTramo}};
+
+/// A text whose bytes are valid UTF-8, as JSON wants it: what is not becomes U+FFFD.
+std::string TextoValido(const std::string& texto) {
+    std::string salida;
+    for (std::size_t i = 0; i < texto.size();) {
+        const auto primero = static_cast<unsigned char>(texto[i]);
+        const std::size_t largo = primero < 0x80   ? 1
+                                  : primero < 0xC2 ? 0
+                                  : primero < 0xE0 ? 2
+                                  : primero < 0xF0 ? 3
+                                  : primero < 0xF5 ? 4
+                                                   : 0;
+        std::size_t bien = largo == 0 ? 0 : 1;
+        while (bien != 0 && bien < largo && i + bien < texto.size() && (texto[i + bien] & 0xC0) == 0x80)
+            ++bien;
+        const bool valido = largo != 0 && bien == largo;
+        salida += valido ? texto.substr(i, largo) : "\xEF\xBF\xBD";
+        i += valido ? largo : 1;
+    }
+    return salida;
+}
+
+void Escribir(Escritor& json, double valor) {
+    if (std::isfinite(valor))
+        json.Double(valor);
+    else
+        json.Null();
+}
+void Escribir(Escritor& json, bool valor) {
+    json.Bool(valor);
+}
+void Escribir(Escritor& json, std::int16_t valor) {
+    json.Int(valor);
+}
+void Escribir(Escritor& json, std::int32_t valor) {
+    json.Int(valor);
+}
+void Escribir(Escritor& json, const std::string& texto) {
+    const std::string valido = TextoValido(texto);
+    json.String(valido.data(), static_cast<rapidjson::SizeType>(valido.size()));
+}
+void Escribir(Escritor& json, const Fecha& fecha) {
+    char texto[32];
+    std::snprintf(texto, sizeof texto, "%04d-%02u-%02u", static_cast<int>(fecha.year()),
+                  static_cast<unsigned>(fecha.month()), static_cast<unsigned>(fecha.day()));
+    json.String(texto);
+}
+
+template <class Registro, class Campos>
+void EscribirCampos(Escritor& json, const Registro& registro, const Campos& campos) {
+    std::apply(
+        [&](const auto&... campo) {
+            ((json.Key(campo.Nombre), Escribir(json, registro.*(campo.Dato))), ...);
+        },
+        campos);
+}
+
+template <class Registro, class Campos>
+void EscribirArreglo(Escritor& json, const std::vector<Registro>& arreglo, const Campos& campos) {
+    json.StartArray();
+    for (std::size_t i = 1; i < arreglo.size(); ++i) {
+        json.StartObject();
+        EscribirCampos(json, arreglo[i], campos);
+        json.EndObject();
+    }
+    json.EndArray();
+}
+
+template <class PorCaso, class Campos>
+void EscribirPorCaso(Escritor& json, const PorCaso& porCaso, const Campos& campos) {
+    json.StartArray();
+    for (const std::size_t caso : {CasoPermanente, CasoVariable})
+        EscribirArreglo(json, porCaso[caso], campos);
+    json.EndArray();
+}
+
+void EscribirError(Escritor& json, const ErrorEjecucion& error) {
+    json.Key("error");
+    json.StartObject();
+    json.Key("codigo");
+    json.Int(error.Codigo());
+    json.Key("texto");
+    Escribir(json, error.Texto());
+    json.EndObject();
+}
+
+template <class Registro, class Campos>
+std::string ObjetoJson(const Registro& registro, const Campos& campos) {
+    rapidjson::StringBuffer texto;
+    Escritor json(texto);
+    json.StartObject();
+    EscribirCampos(json, registro, campos);
+    json.EndObject();
+    return {texto.GetString(), texto.GetSize()};
+}
+
+}  // namespace
+
+std::string ProyectoJson(const DatosDelProyecto& datos) {
+    return ObjetoJson(datos, CamposProyecto);
+}
+
+std::string GeneralesJson(const DatosGenerales& generales) {
+    return ObjetoJson(generales, CamposGenerales);
+}
+
+std::string LosaJson(const Losa& losa, const ResultadosLosa& resultados) {
+    rapidjson::StringBuffer texto;
+    Escritor json(texto);
+    json.StartObject();
+    EscribirCampos(json, losa, CamposLosa);
+    json.Key("Tramos");
+    EscribirArreglo(json, losa.Tramos, CamposTramo);
+    json.Key("Ejes");
+    EscribirArreglo(json, losa.Ejes, CamposEje);
+    json.Key("JuntasD");
+    EscribirArreglo(json, losa.JuntasD, CamposJuntaD);
+    json.Key("ResultadoJunta");
+    EscribirPorCaso(json, resultados.ResultadoJunta, CamposEstadoJunta);
+    json.Key("ResultadoTramo");
+    EscribirPorCaso(json, resultados.ResultadoTramo, CamposEsfuerzos);
+    json.Key("DisenoEje");
+    EscribirArreglo(json, resultados.DisenoEje, CamposDisenoEje);
+    json.Key("DisenoTramo");
+    EscribirArreglo(json, resultados.DisenoTramo, CamposDisenoTramo);
+    EscribirCampos(json, resultados, CamposMaximos);
+    if (resultados.Error) EscribirError(json, *resultados.Error);
+    json.EndObject();
+    return {texto.GetString(), texto.GetSize()};
+}
+
+}  // namespace trabex
