@@ -22,6 +22,14 @@ if(TRABEX_SANEAR)
     target_link_options(trabex_opciones INTERFACE -fsanitize=address,undefined)
 endif()
 
+# trabex_revisar(<target>): clang-tidy on its sources while they compile, where the preset asks for it.
+function(trabex_revisar objetivo)
+    if(TRABEX_SANEAR)
+        set_target_properties(${objetivo} PROPERTIES
+            CXX_CLANG_TIDY "clang-tidy;--quiet;--extra-arg=-Wno-unknown-warning-option")
+    endif()
+endfunction()
+
 # trabex_biblioteca(<name> [<library below> ...]): the folder's sources as the static library trabex_<name>.
 # It links only what is named; tools/capas checks that its includes reach no further.
 function(trabex_biblioteca nombre)
@@ -30,6 +38,7 @@ function(trabex_biblioteca nombre)
     set_target_properties(trabex_${nombre} PROPERTIES LINKER_LANGUAGE CXX)
     target_include_directories(trabex_${nombre} PUBLIC ${CMAKE_SOURCE_DIR}/src)
     target_link_libraries(trabex_${nombre} PUBLIC trabex_opciones)
+    trabex_revisar(trabex_${nombre})
     foreach(otra IN LISTS ARGN)
         target_link_libraries(trabex_${nombre} PUBLIC trabex_${otra})
     endforeach()

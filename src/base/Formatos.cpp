@@ -1,9 +1,11 @@
 #include "base/Formatos.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
 #include <cstdio>
+#include <cstdlib>
 
 namespace trabex {
 
@@ -65,6 +67,13 @@ std::string FormatoFecha(const Fecha& fecha) {
     std::array<char, 32> texto{};
     std::snprintf(texto.data(), texto.size(), "%02u/%02u/%04d", static_cast<unsigned>(fecha.day()),
                   static_cast<unsigned>(fecha.month()), static_cast<int>(fecha.year()));
+    return texto.data();
+}
+
+std::string FechaIso(const Fecha& fecha) {
+    std::array<char, 32> texto{};
+    std::snprintf(texto.data(), texto.size(), "%04d-%02u-%02u", static_cast<int>(fecha.year()),
+                  static_cast<unsigned>(fecha.month()), static_cast<unsigned>(fecha.day()));
     return texto.data();
 }
 

@@ -23,4 +23,7 @@ std::string Formato(double valor, std::string_view formato, const Separadores& s
 /// `fecha` in the format "dd/MM/yyyy".
 std::string FormatoFecha(const Fecha& fecha);
 
+/// `fecha` as ISO 8601, "yyyy-MM-dd": for files that programs read.
+std::string FechaIso(const Fecha& fecha);
+
 }  // namespace trabex

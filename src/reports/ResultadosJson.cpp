@@ -1,12 +1,13 @@
 #include "reports/ResultadosJson.h"
 
 #include <cmath>
-#include <cstdio>
 #include <tuple>
 #include <type_traits>
 
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
+
+#include "base/Formatos.h"
 
 namespace trabex {
 
@@ -111,10 +112,7 @@ void Escribir(Escritor& json, const std::string& texto) {
     json.String(valido.data(), static_cast<rapidjson::SizeType>(valido.size()));
 }
 void Escribir(Escritor& json, const Fecha& fecha) {
-    char texto[32];
-    std::snprintf(texto, sizeof texto, "%04d-%02u-%02u", static_cast<int>(fecha.year()),
-                  static_cast<unsigned>(fecha.month()), static_cast<unsigned>(fecha.day()));
-    json.String(texto);
+    Escribir(json, FechaIso(fecha));
 }
 
 template <class Registro, class Campos>

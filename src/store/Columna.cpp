@@ -109,11 +109,4 @@ std::optional<Fecha> FechaDeTexto(std::string_view texto) {
     return fecha;
 }
 
-std::string TextoDeFecha(const Fecha& fecha) {
-    std::array<char, 32> texto{};
-    std::snprintf(texto.data(), texto.size(), "%04d-%02u-%02u", static_cast<int>(fecha.year()),
-                  static_cast<unsigned>(fecha.month()), static_cast<unsigned>(fecha.day()));
-    return texto.data();
-}
-
 }  // namespace trabex

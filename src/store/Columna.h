@@ -23,8 +23,7 @@ Columna LeerDeclaracion(std::string_view nombre, std::string_view declaracion);
 /// even. Nothing when the column refuses it: past the range or the width, not a number, of another kind.
 std::optional<Valor> Admitir(const Columna& columna, const Valor& valor);
 
-/// A stored date ("yyyy-MM-dd") and back. Nothing when the text is no date.
+/// The date of an ISO 8601 text, as dates are stored. Nothing when the text is no date.
 std::optional<Fecha> FechaDeTexto(std::string_view texto);
-std::string TextoDeFecha(const Fecha& fecha);
 
 }  // namespace trabex

@@ -6,6 +6,7 @@
 #include <type_traits>
 #include <vector>
 
+#include "base/Formatos.h"
 #include "store/Columna.h"
 #include "store/Conexion.h"
 #include "store/Dialecto.h"
@@ -64,7 +65,7 @@ void Ligar(sqlite3_stmt* sentencia, int i, const Valor& valor) {
             else if constexpr (std::is_same_v<T, std::string>)
                 ligarTexto(v);
             else if constexpr (std::is_same_v<T, Fecha>)
-                ligarTexto(TextoDeFecha(v));
+                ligarTexto(FechaIso(v));
             else if constexpr (std::is_same_v<T, Bytes>)
                 sqlite3_bind_blob(sentencia, i, v.data(), static_cast<int>(v.size()), SQLITE_TRANSIENT);
             else
