@@ -18,7 +18,8 @@ else()
 endif()
 if(TRABEX_SANEAR)
     target_compile_options(trabex_opciones INTERFACE
-        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer
+        -Wno-maybe-uninitialized)   # GCC loses track of std::variant under the sanitizers
     target_link_options(trabex_opciones INTERFACE -fsanitize=address,undefined)
 endif()
 

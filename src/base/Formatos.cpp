@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <cstddef>
 #include <cstdio>
-#include <cstdlib>
 
 namespace trabex {
 
@@ -18,7 +18,10 @@ std::string DigitosRedondeados(double valor, int decimales) {
     std::snprintf(texto.data(), texto.size(), "%.*e", significativos - 1, std::fabs(valor));
     std::string digitos{texto[0]};
     digitos.append(&texto[2], significativos - 1);
-    const int exponente = std::atoi(&texto[significativos + 2]);
+    int exponente = 0;
+    const char* cifras =
+        &texto[significativos + 2];  // after "e", a sign that from_chars takes only as a minus
+    std::from_chars(cifras + (*cifras == '+' ? 1 : 0), texto.data() + texto.size(), exponente);
 
     // Digits to keep: the whole part has exponente + 1 of them.
     const int conservar = exponente + 1 + decimales;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
+#include <memory>
 #include <thread>
 
 #include "reports/ResultadosJson.h"
@@ -13,14 +14,11 @@ namespace trabex {
 
 namespace {
 
-/// Reads every slab. The engine's connection serves one thread, so this comes before the calculations.
-std::vector<Losa> LeerLosas(ProyectoAbierto& proyecto) {
-    std::vector<Losa> losas(static_cast<std::size_t>(proyecto.RegistrosProyecto.NumeroRegistros()));
-    for (std::size_t i = 0; i < losas.size(); ++i) {
-        proyecto.RegistrosProyecto.MoverA(static_cast<int>(i) + 1);
-        LeerLosa(proyecto, losas[i]);
-    }
-    return losas;
+constexpr std::size_t LosasPorHilo = 32;  // fewer do not pay for a thread
+
+bool AbrirLista(ProyectoAbierto& proyecto) {
+    AbrirRecordset(proyecto.ConexionProyecto, proyecto.RegistrosProyecto, ConsultaListaLosas);
+    return proyecto.RegistrosProyecto.Abierto();
 }
 
 ResumenLosa Resumir(const Losa& losa, const ResultadosLosa& r) {
@@ -72,25 +70,36 @@ FilaDeTabla FilaDe(const ResumenLosa& losa, const Separadores& separadores) {
 bool CalcularProyecto(const std::filesystem::path& camino, unsigned hilos, ProyectoCalculado& calculado) {
     ProyectoAbierto proyecto;
     AbrirCopiaEnMemoria(proyecto.ConexionProyecto, camino);
-    AbrirRecordset(proyecto.ConexionProyecto, proyecto.RegistrosProyecto, ConsultaListaLosas);
-    if (!proyecto.RegistrosProyecto.Abierto()) return false;
+    if (!AbrirLista(proyecto)) return false;
     LeerDatosGenerales(proyecto.ConexionProyecto, "", calculado.Datos, calculado.Generales);
-    const std::vector<Losa> losas = LeerLosas(proyecto);
-    calculado.LosasJson.resize(losas.size());
-    calculado.Losas.resize(losas.size());
+    const auto losas = static_cast<std::size_t>(proyecto.RegistrosProyecto.NumeroRegistros());
+    calculado.LosasJson.resize(losas);
+    calculado.Losas.resize(losas);
 
     std::atomic<std::size_t> siguiente{0};
-    const auto trabajar = [&] {
-        for (std::size_t i = siguiente++; i < losas.size(); i = siguiente++) {
-            ResultadosLosa resultados;
-            CalcularLosa(losas[i], calculado.Generales, resultados);
-            calculado.LosasJson[i] = LosaJson(losas[i], resultados);
-            calculado.Losas[i] = Resumir(losas[i], resultados);
+    const auto trabajar = [&](ProyectoAbierto& copia) {
+        Losa losa;
+        ResultadosLosa resultados;
+        for (std::size_t i = siguiente++; i < losas; i = siguiente++) {
+            copia.RegistrosProyecto.MoverA(static_cast<int>(i) + 1);
+            losa = {};
+            resultados = {};
+            LeerLosa(copia, losa);
+            CalcularLosa(losa, calculado.Generales, resultados);
+            calculado.LosasJson[i] = LosaJson(losa, resultados);
+            calculado.Losas[i] = Resumir(losa, resultados);
         }
     };
+    // A connection serves one thread: each further one reads a copy of the same copy.
+    std::vector<std::unique_ptr<ProyectoAbierto>> copias;
+    for (unsigned h = 1; h < hilos && h * LosasPorHilo < losas; ++h) {
+        copias.push_back(std::make_unique<ProyectoAbierto>());
+        CopiarEnMemoria(proyecto.ConexionProyecto, copias.back()->ConexionProyecto);
+        if (!AbrirLista(*copias.back())) copias.pop_back();
+    }
     std::vector<std::jthread> equipo;
-    for (unsigned h = 1; h < hilos; ++h) equipo.emplace_back(trabajar);
-    trabajar();
+    for (const auto& copia : copias) equipo.emplace_back([&trabajar, &copia] { trabajar(*copia); });
+    trabajar(proyecto);
     return true;
 }
 

@@ -5,7 +5,6 @@
 #include <cctype>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <utility>
 
 #include "base/Enteros.h"
@@ -98,15 +97,18 @@ std::optional<Valor> Admitir(const Columna& columna, const Valor& valor) {
 }
 
 std::optional<Fecha> FechaDeTexto(std::string_view texto) {
-    int ano = 0;
-    unsigned mes = 0;
-    unsigned dia = 0;
-    char resto = 0;
-    if (std::sscanf(std::string(texto).c_str(), "%4d-%2u-%2u%c", &ano, &mes, &dia, &resto) != 3)
-        return std::nullopt;
-    const Fecha fecha = std::chrono::year(ano) / std::chrono::month(mes) / std::chrono::day(dia);
-    if (!fecha.ok()) return std::nullopt;
-    return fecha;
+    if (texto.size() != 10 || texto[4] != '-' || texto[7] != '-') return std::nullopt;
+    const auto entero = [&](std::size_t desde, std::size_t cifras) {
+        int valor = -1;
+        const char* fin = texto.data() + desde + cifras;
+        return std::from_chars(texto.data() + desde, fin, valor).ptr == fin ? valor : -1;
+    };
+    const int ano = entero(0, 4);
+    const int mes = entero(5, 2);
+    const int dia = entero(8, 2);
+    if (ano < 0 || mes < 0 || dia < 0) return std::nullopt;
+    const Fecha fecha = std::chrono::year(ano) / mes / dia;
+    return fecha.ok() ? std::optional(fecha) : std::nullopt;
 }
 
 }  // namespace trabex

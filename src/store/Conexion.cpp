@@ -10,7 +10,7 @@ namespace {
 /// Opens an existing, sound database; null otherwise. A file that can't be written opens for reading.
 std::shared_ptr<Motor> AbrirSano(const std::filesystem::path& camino) {
     if (!TieneCabecera(camino)) return nullptr;
-    auto motor = std::make_shared<Motor>(camino, SQLITE_OPEN_READWRITE);
+    auto motor = std::make_shared<Motor>(camino, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX);
     if (!motor->Abierto() || motor->Consultar("PRAGMA quick_check(1)") != "ok") return nullptr;
     return motor;
 }
@@ -62,16 +62,19 @@ void AbrirConexion(Conexion& conexion, const std::filesystem::path& camino) {
     conexion.fallida_ = conexion.motor_ == nullptr;
 }
 
+void CopiarEnMemoria(Conexion& origen, Conexion& copia) {
+    constexpr int banderas = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
+    auto motor = std::make_shared<Motor>(":memory:", banderas);
+    const bool hecha = origen.Abierta() && motor->Abierto() && CopiarBase(*motor, *origen.motor());
+    copia.motor_ = hecha ? std::move(motor) : nullptr;
+    copia.fallida_ = !hecha;
+}
+
 void AbrirCopiaEnMemoria(Conexion& conexion, const std::filesystem::path& camino) {
-    conexion.motor_.reset();
-    if (const std::shared_ptr<Motor> origen = AbrirSano(camino)) {
-        auto copia = std::make_shared<Motor>(":memory:", SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
-        if (copia->Abierto() && CopiarBase(*copia, *origen)) {
-            IndexarNombres(*copia);
-            conexion.motor_ = std::move(copia);
-        }
-    }
-    conexion.fallida_ = conexion.motor_ == nullptr;
+    Conexion archivo;
+    AbrirConexion(archivo, camino);
+    CopiarEnMemoria(archivo, conexion);
+    if (conexion.Abierta()) IndexarNombres(*conexion.motor());
 }
 
 Transaccion::Transaccion(Conexion& conexion) : motor_(conexion.motor()) {

@@ -11,7 +11,8 @@ class Motor;
 /// A connection to a project, shared, scratch or exchange database: one SQLite file, without side files.
 ///
 /// Nothing here throws. A connection that could not be opened is closed and says so by `ConexionFallida`;
-/// whatever is then asked of it fails in silence. Closing happens at destruction too.
+/// whatever is then asked of it fails in silence. Closing happens at destruction too. A connection and the
+/// sets opened on it serve one thread.
 class Conexion {
   public:
     bool Abierta() const;
@@ -29,7 +30,7 @@ class Conexion {
 
   private:
     friend void AbrirConexion(Conexion& conexion, const std::filesystem::path& camino);
-    friend void AbrirCopiaEnMemoria(Conexion& conexion, const std::filesystem::path& camino);
+    friend void CopiarEnMemoria(Conexion& origen, Conexion& copia);
     std::shared_ptr<Motor> motor_;
     bool fallida_ = false;
 };
@@ -38,8 +39,11 @@ class Conexion {
 /// exist and be a sound database: otherwise ConexionFallida is set and the file is left as it is.
 void AbrirConexion(Conexion& conexion, const std::filesystem::path& camino);
 
-/// As AbrirConexion, on a private copy in memory with its names indexed: what is written to it never reaches
-/// the file. For programs that only read whole projects.
+/// Makes `copia` a connection to a private copy in memory of what `origen` holds: what is written to it
+/// reaches no file. When `origen` is not open, or can't be read, ConexionFallida is set.
+void CopiarEnMemoria(Conexion& origen, Conexion& copia);
+
+/// As AbrirConexion, on such a copy with its names indexed. For programs that only read whole projects.
 void AbrirCopiaEnMemoria(Conexion& conexion, const std::filesystem::path& camino);
 
 /// One save: what runs between its making and `Confirmar` is stored together or not at all.

@@ -105,7 +105,7 @@ bool Motor::TerminarGuardado(bool confirmar) {
 }
 
 bool TieneCabecera(const std::filesystem::path& camino) {
-    constexpr std::string_view marca("SQLite format 3", 16);
+    constexpr std::array<char, 16> marca{"SQLite format 3"};
     std::error_code error;
     if (!std::filesystem::is_regular_file(camino, error)) return false;
     std::ifstream archivo(camino, std::ios::binary);
