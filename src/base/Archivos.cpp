@@ -27,6 +27,16 @@ constexpr std::array<std::pair<std::errc, CodigoError>, 9> Equivalencias{{
     throw ErrorEjecucion(ErrorDeSistema(causa));
 }
 
+std::filesystem::path Provisional(std::filesystem::path camino) {
+    return camino += ".nuevo";
+}
+
+void Colocar(const std::filesystem::path& nuevo, const std::filesystem::path& camino) {
+    std::error_code error;
+    std::filesystem::rename(nuevo, camino, error);
+    if (error) Abandonar(nuevo, error);
+}
+
 std::error_code UltimoError() {
     return {errno, std::generic_category()};
 }
@@ -41,17 +51,47 @@ CodigoError ErrorDeSistema(const std::error_code& error) {
 }
 
 void EscribirArchivo(const std::filesystem::path& camino, std::string_view bytes) {
-    std::filesystem::path nuevo = camino;
-    nuevo += ".nuevo";
+    const std::filesystem::path nuevo = Provisional(camino);
     errno = 0;
     std::ofstream archivo(nuevo, std::ios::binary | std::ios::trunc);
     if (!archivo) throw ErrorEjecucion(ErrorDeSistema(UltimoError()));
     archivo.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     archivo.close();
     if (!archivo) Abandonar(nuevo, UltimoError());
+    Colocar(nuevo, camino);
+}
+
+void CopiarArchivo(const std::filesystem::path& origen, const std::filesystem::path& destino) {
     std::error_code error;
-    std::filesystem::rename(nuevo, camino, error);
+    if (!std::filesystem::is_regular_file(origen, error))
+        throw ErrorEjecucion(CodigoError::ArchivoNoEncontrado);
+    const std::filesystem::path nuevo = Provisional(destino);
+    std::filesystem::copy_file(origen, nuevo, std::filesystem::copy_options::overwrite_existing, error);
     if (error) Abandonar(nuevo, error);
+    // A delivered file may be read-only where the program is installed; its copy is the engineer's.
+    std::filesystem::permissions(nuevo, std::filesystem::perms::owner_write,
+                                 std::filesystem::perm_options::add, error);
+    Colocar(nuevo, destino);
+}
+
+void BorrarArchivo(const std::filesystem::path& camino) {
+    std::error_code error;
+    const std::filesystem::file_status estado = std::filesystem::status(camino, error);
+    if (!std::filesystem::exists(estado)) throw ErrorEjecucion(CodigoError::ArchivoNoEncontrado);
+    const bool escribible =
+        (estado.permissions() & std::filesystem::perms::owner_write) != std::filesystem::perms::none;
+    if (!std::filesystem::is_regular_file(estado) || !escribible)
+        throw ErrorEjecucion(CodigoError::ErrorAccesoRuta);
+    if (!std::filesystem::remove(camino, error)) throw ErrorEjecucion(ErrorDeSistema(error));
+}
+
+std::string TextoDeCamino(const std::filesystem::path& camino) {
+    const std::u8string texto = camino.u8string();
+    return {texto.begin(), texto.end()};
+}
+
+std::filesystem::path CaminoDeTexto(std::string_view texto) {
+    return std::filesystem::path(std::u8string(texto.begin(), texto.end()));
 }
 
 }  // namespace trabex

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 #include <string_view>
 #include <system_error>
 
@@ -14,5 +15,15 @@ CodigoError ErrorDeSistema(const std::error_code& error);
 /// Writes a whole file beside its place and then renames it: `camino` holds its old bytes or the new ones,
 /// never a part. Throws ErrorEjecucion when it can't.
 void EscribirArchivo(const std::filesystem::path& camino, std::string_view bytes);
+
+/// Copies a whole file in the same way. Throws ErrorEjecucion 53 when `origen` is no file, and as above.
+void CopiarArchivo(const std::filesystem::path& origen, const std::filesystem::path& destino);
+
+/// Deletes a file. Throws ErrorEjecucion: 53 when there is none, 75 when it is read-only or a folder.
+void BorrarArchivo(const std::filesystem::path& camino);
+
+/// A path as the UTF-8 that texts are made of, and back.
+std::string TextoDeCamino(const std::filesystem::path& camino);
+std::filesystem::path CaminoDeTexto(std::string_view texto);
 
 }  // namespace trabex

@@ -20,6 +20,8 @@ const char* TextoDeError(CodigoError codigo) {
             return "Error de E/S de dispositivo";
         case CodigoError::ArchivoYaExiste:
             return "El archivo ya existe";
+        case CodigoError::LongitudDeRegistro:
+            return "Longitud de registro incorrecta";
         case CodigoError::DiscoLleno:
             return "Disco lleno";
         case CodigoError::PermisoDenegado:

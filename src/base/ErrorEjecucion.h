@@ -15,6 +15,7 @@ enum class CodigoError {
     ArchivoNoEncontrado = 53,
     ErrorDispositivo = 57,
     ArchivoYaExiste = 58,
+    LongitudDeRegistro = 59,
     DiscoLleno = 61,
     PermisoDenegado = 70,
     ErrorAccesoRuta = 75,

@@ -98,6 +98,7 @@ bool CalcularProyecto(const std::filesystem::path& camino, unsigned hilos, Proye
         if (!AbrirLista(*copias.back())) copias.pop_back();
     }
     std::vector<std::jthread> equipo;
+    equipo.reserve(copias.size());
     for (const auto& copia : copias) equipo.emplace_back([&trabajar, &copia] { trabajar(*copia); });
     trabajar(proyecto);
     return true;

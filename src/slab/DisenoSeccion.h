@@ -32,7 +32,7 @@ class DisenoSeccion {
 
   private:
     const Losa& losa_;
-    const DatosGenerales& generales_;
+    const DatosGenerales generales_;
     SeccionFlexion seccion_;
     double Vc_;    ///< shear capacity of a rib, kgf
     double Mlim_;  ///< limit moment of a rib, kgf·cm

@@ -77,7 +77,7 @@ TEST(Analizar, TramoEmpotradoConCargaPuntual) {
     losa.Ejes[1].Tipo = losa.Ejes[2].Tipo = Empotramiento;
     losa.Tramos[1].p1 = 1000;
     losa.Tramos[1].L1 = 2;
-    const auto& t = Calculada(losa).ResultadoTramo[1][1];
+    const EsfuerzosTramo t = Calculada(losa).ResultadoTramo[1][1];
     EXPECT_NEAR(t.MomentoA, -1000.0 * 2 * 9 / 25, 1e-6);
     EXPECT_NEAR(t.MomentoB, -1000.0 * 3 * 4 / 25, 1e-6);
     EXPECT_NEAR(t.CorteA, 1000.0 * 3 * 3 * (3 * 2 + 3) / 125, 1e-6);

@@ -163,7 +163,8 @@ TEST(CalcularLosa, ElUltimoMacizadoMiraLaCargaDelTramoAnterior) {
     EXPECT_EQ(Calculada(losa).DisenoEje[4].MczI, 0);
     losa.OpcionMaciza = true;
     losa.Ejes[3].Tipo = RodilloEnX;
-    for (const DisenoDeEje& eje : Calculada(losa).DisenoEje) EXPECT_EQ(eje.MczI + eje.MczD, 0);
+    const ResultadosLosa maciza = Calculada(losa);
+    for (const DisenoDeEje& eje : maciza.DisenoEje) EXPECT_EQ(eje.MczI + eje.MczD, 0);
 }
 
 TEST(CalcularLosa, ElAceroDelEjeVieneDelTramoDeSuDerecha) {
