@@ -29,10 +29,13 @@ struct Barra {
     double k2, k4, k6, k12;  // 2EI/L, 4EI/L, 6EI/L², 12EI/L³
 };
 
-/// Fixed-end terms of a bar under one load case, in its axes.
+/// Fixed-end terms of a bar, in its axes.
 struct ExtremosFijos {
-    double M0A, M0B, VA0, VB0, NA0, NB0;
+    ParDeCasos M0A, M0B, VA0, VB0, NA0, NB0;
 };
+
+/// End forces of a bar under both load cases.
+using EsfuerzosPorCaso = std::array<EsfuerzosTramo, 2>;
 
 /// What a support type restrains.
 struct Restriccion {
@@ -57,10 +60,10 @@ class Analisis {
 
     /// What the analysis did not reach holds nothing.
     ~Analisis() {
-        for (std::size_t caso = CasoVariable; caso > casosLlenos_; --caso)
-            resultados_.ResultadoJunta[caso].clear();
-        for (std::size_t caso = CasoVariable; caso > casosEmpezados_; --caso)
-            resultados_.ResultadoTramo[caso].clear();
+        for (const std::size_t caso : {CasoPermanente, CasoVariable}) {
+            if (!esfuerzosEmpezados_) resultados_.ResultadoTramo[caso].clear();
+            if (!juntasEmpezadas_) resultados_.ResultadoJunta[caso].clear();
+        }
     }
     Analisis(const Analisis&) = delete;
     Analisis& operator=(const Analisis&) = delete;
@@ -71,13 +74,11 @@ class Analisis {
         FormarRestricciones();
         Banda K(NDOF() + AnchoBanda);
         FormarBarras(K);
-        PonerApoyos(K);
-        CalculoDPZ(K, F_, NDOF());
+        CalculoDPZ(K, F_, NDOF(), 3 * N_);
+        vigilancia_.Comprobar();
         AnularDesplazamientosMinimos();
-        for (const std::size_t caso : {CasoPermanente, CasoVariable}) {
-            CalcularEsfuerzos(caso);
-            LlenarJuntas(caso);
-        }
+        CalcularEsfuerzos();
+        LlenarJuntas();
         CalcularMaximos();
     }
 
@@ -92,13 +93,13 @@ class Analisis {
     void FormarRestricciones();
     void FormarBarras(Banda& K);
     Barra FormarBarra(std::size_t i, double EI, double EA) const;
-    void CargarNudos(std::size_t i, std::size_t caso);
-    void PonerApoyos(Banda& K);
+    void CargarNudos(std::size_t i);
+    void PonerApoyos(Banda& K, std::size_t j);
     void AnularDesplazamientosMinimos();
-    void CalcularEsfuerzos(std::size_t caso);
-    EsfuerzosTramo EsfuerzosDe(std::size_t i, std::size_t caso) const;
-    void LlenarJuntas(std::size_t caso);
-    void SumarReacciones(std::size_t caso);
+    void CalcularEsfuerzos();
+    EsfuerzosPorCaso EsfuerzosDe(std::size_t i) const;
+    void LlenarJuntas();
+    void SumarReacciones(std::size_t caso, std::size_t j, EstadoJunta& junta) const;
     struct Maximos {
         ExtremosMayorados Extremos;
         MomentoDeTramo Interior;
@@ -115,9 +116,9 @@ class Analisis {
     CoordenadasJuntas juntas_;
     std::vector<Restriccion> restricciones_;
     std::vector<Barra> barras_;
-    std::size_t casosEmpezados_ = 0;  // load cases whose spans are at least partly filled
-    std::size_t casosLlenos_ = 0;     // load cases whose joints are filled
-    std::vector<ParDeCasos> F_;       // loads, then displacements, of degree of freedom k + 1
+    bool esfuerzosEmpezados_ = false;
+    bool juntasEmpezadas_ = false;
+    std::vector<ParDeCasos> F_;  // loads, then displacements, of degree of freedom k + 1
 };
 
 /// Rebuilds the results from nothing; the rows of the band matrix are a 16-bit count.
@@ -160,11 +161,13 @@ void Analisis::FormarBarras(Banda& K) {
     const double EI = E * (h * h * h * b / 12);
     for (std::size_t i = 1; i <= N_; ++i) {
         barras_.push_back(FormarBarra(i, EI, EA));
-        CargarNudos(i, CasoPermanente);
-        CargarNudos(i, CasoVariable);
+        CargarNudos(i);
         EnsamblaM(K, RigidezGlobal(barras_[i]), 3 * i - 3, 3 * i);
+        // Nothing more adds to joint i: it is restrained and eliminated while its rows are at hand.
+        PonerApoyos(K, i);
+        EliminarFilas(K, F_, 3 * i - 3, 3 * i);
     }
-    vigilancia_.Comprobar();
+    PonerApoyos(K, N_ + 1);
 }
 
 Barra Analisis::FormarBarra(std::size_t i, double EI, double EA) const {
@@ -176,60 +179,57 @@ Barra Analisis::FormarBarra(std::size_t i, double EI, double EA) const {
     return {L, L > 0 ? dx / L : 0, L > 0 ? dy / L : 0, L * L / 12, EA / L, k2, 2 * k2, k6, 2 * k6 / L};
 }
 
-/// Adds a point load strictly between the joints to the fixed-end terms of the uniform load.
+/// Adds a point load strictly between the joints, always permanent, to the fixed-end terms of the uniform
+/// load.
 void SumarPuntual(const Tramo& tramo, const Barra& barra, ExtremosFijos& f) {
     const double L = barra.L;
     const double P = tramo.p1 * barra.CX;
     const double Pa = tramo.p1 * barra.CY;
     const double a = tramo.L1 / barra.CX;
     const double c = L - a;
-    f.M0A += a * P * (c * c) / (L * L);
-    f.M0B += P * c * (a * a) / (L * L);
-    f.VA0 += P * c / L - (f.M0B - f.M0A) / L;
-    f.VB0 += a * P / L + (f.M0B - f.M0A) / L;
-    f.NA0 += Pa * c / L;
-    f.NB0 += a * Pa / L;
+    f.M0A[0] += a * P * (c * c) / (L * L);
+    f.M0B[0] += P * c * (a * a) / (L * L);
+    f.VA0[0] += P * c / L - (f.M0B[0] - f.M0A[0]) / L;
+    f.VB0[0] += a * P / L + (f.M0B[0] - f.M0A[0]) / L;
+    f.NA0[0] += Pa * c / L;
+    f.NB0[0] += a * Pa / L;
 }
 
-/// The point load is always permanent.
-ExtremosFijos ExtremosFijosDe(const Tramo& tramo, const Barra& barra, std::size_t caso) {
-    const double w0 = caso == CasoPermanente ? tramo.Wp : tramo.WV;
-    const double corte = w0 * barra.CX * barra.L / 2;
-    const double momento = w0 * barra.CX * barra.L2_12;
-    const double axial = w0 * barra.CY * barra.L / 2;
+inline ExtremosFijos ExtremosFijosDe(const Tramo& tramo, const Barra& barra) {
+    const ParDeCasos w0{static_cast<double>(tramo.Wp), static_cast<double>(tramo.WV)};
+    const ParDeCasos w = barra.CX * w0;
+    const ParDeCasos corte = (barra.L / 2) * w;
+    const ParDeCasos momento = barra.L2_12 * w;
+    const ParDeCasos axial = (barra.CY * barra.L / 2) * w0;
     ExtremosFijos f{momento, momento, corte, corte, axial, axial};
-    if (caso == CasoPermanente && tramo.p1 != 0 && 0 < tramo.L1 && tramo.L1 < tramo.LT)
-        SumarPuntual(tramo, barra, f);
+    if (tramo.p1 != 0 && 0 < tramo.L1 && tramo.L1 < tramo.LT) SumarPuntual(tramo, barra, f);
     return f;
 }
 
-void Analisis::CargarNudos(std::size_t i, std::size_t caso) {
+void Analisis::CargarNudos(std::size_t i) {
     const Tramo& tramo = losa_.Tramos[i];
     const Barra& b = barras_[i];
-    const ExtremosFijos f = ExtremosFijosDe(tramo, b, caso);
-    const std::size_t c = caso - 1;
+    const ExtremosFijos f = ExtremosFijosDe(tramo, b);
     ParDeCasos* a = &F_[3 * i - 3];
-    a[0][c] += b.CX * f.NA0 - b.CY * f.VA0;
-    a[1][c] += b.CY * f.NA0 + b.CX * f.VA0;
-    a[2][c] -= f.M0A;
-    a[3][c] += b.CX * f.NB0 - b.CY * f.VB0;
-    a[4][c] += b.CY * f.NB0 + b.CX * f.VB0;
-    a[5][c] += f.M0B;
-    if (caso != CasoPermanente || tramo.p1 == 0) return;
-    if (tramo.L1 == 0) a[1][c] += tramo.p1;
-    if (tramo.L1 == tramo.LT) a[4][c] += tramo.p1;
+    a[0] += b.CX * f.NA0 - b.CY * f.VA0;
+    a[1] += b.CY * f.NA0 + b.CX * f.VA0;
+    a[2] -= f.M0A;
+    a[3] += b.CX * f.NB0 - b.CY * f.VB0;
+    a[4] += b.CY * f.NB0 + b.CX * f.VB0;
+    a[5] += f.M0B;
+    if (tramo.p1 == 0) return;
+    if (tramo.L1 == 0) a[1][0] += tramo.p1;
+    if (tramo.L1 == tramo.LT) a[4][0] += tramo.p1;
 }
 
-void Analisis::PonerApoyos(Banda& K) {
+void Analisis::PonerApoyos(Banda& K, std::size_t j) {
     const auto restringir = [&](std::size_t r) {
         K(r, 1) = K(r, 1) * Penalidad + Penalidad;
         F_[r - 1] = {0, 0};
     };
-    for (std::size_t j = 1; j <= N_ + 1; ++j) {
-        if (restricciones_[j].X) restringir(3 * j - 2);
-        if (restricciones_[j].Y) restringir(3 * j - 1);
-        if (restricciones_[j].Giro) restringir(3 * j);
-    }
+    if (restricciones_[j].X) restringir(3 * j - 2);
+    if (restricciones_[j].Y) restringir(3 * j - 1);
+    if (restricciones_[j].Giro) restringir(3 * j);
 }
 
 void Analisis::AnularDesplazamientosMinimos() {
@@ -239,70 +239,86 @@ void Analisis::AnularDesplazamientosMinimos() {
 }
 
 /// End forces of span i: displacements turned to the bar's axes, times its stiffness, plus fixed-end terms.
-EsfuerzosTramo Analisis::EsfuerzosDe(std::size_t i, std::size_t caso) const {
+EsfuerzosPorCaso Analisis::EsfuerzosDe(std::size_t i) const {
     const Barra& b = barras_[i];
-    const ExtremosFijos f = ExtremosFijosDe(losa_.Tramos[i], b, caso);
-    const std::size_t c = caso - 1;
+    const ExtremosFijos f = ExtremosFijosDe(losa_.Tramos[i], b);
     const ParDeCasos* d = &F_[3 * i - 3];
-    const double u1 = b.CX * d[0][c] + b.CY * d[1][c];
-    const double v1 = -b.CY * d[0][c] + b.CX * d[1][c];
-    const double u2 = b.CX * d[3][c] + b.CY * d[4][c];
-    const double v2 = -b.CY * d[3][c] + b.CX * d[4][c];
-    const double giro1 = d[2][c];
-    const double giro2 = d[5][c];
-    const double axial = b.axial * (u2 - u1);
-    const double desnivel = b.k6 * (v1 - v2);
-    const double corte = b.k12 * (v1 - v2) - b.k6 * (giro1 + giro2);
-    std::array<double, 6> e{desnivel - b.k4 * giro1 - b.k2 * giro2 - f.M0A, f.VA0 - corte, axial + f.NA0,
-                            b.k2 * giro1 + b.k4 * giro2 - desnivel - f.M0B, f.VB0 + corte, axial - f.NB0};
-    for (double& valor : e) valor = Round(valor, DecimalesEsfuerzo);
-    return {e[0], e[1], e[2], e[3], e[4], e[5]};
+    const ParDeCasos u1 = b.CX * d[0] + b.CY * d[1];
+    const ParDeCasos v1 = b.CX * d[1] - b.CY * d[0];
+    const ParDeCasos u2 = b.CX * d[3] + b.CY * d[4];
+    const ParDeCasos v2 = b.CX * d[4] - b.CY * d[3];
+    const ParDeCasos axial = b.axial * (u2 - u1);
+    const ParDeCasos desnivel = b.k6 * (v1 - v2);
+    const ParDeCasos corte = b.k12 * (v1 - v2) - b.k6 * (d[2] + d[5]);
+    const ParDeCasos MA = desnivel - b.k4 * d[2] - b.k2 * d[5] - f.M0A;
+    const ParDeCasos VA = f.VA0 - corte;
+    const ParDeCasos NA = axial + f.NA0;
+    const ParDeCasos MB = b.k2 * d[2] + b.k4 * d[5] - desnivel - f.M0B;
+    const ParDeCasos VB = f.VB0 + corte;
+    const ParDeCasos NB = axial - f.NB0;
+    std::array<double, 12> e{MA[0], VA[0], NA[0], MB[0], VB[0], NB[0],
+                             MA[1], VA[1], NA[1], MB[1], VB[1], NB[1]};
+    RoundTodos(e, DecimalesEsfuerzo);
+    return {{{e[0], e[1], e[2], e[3], e[4], e[5]}, {e[6], e[7], e[8], e[9], e[10], e[11]}}};
 }
 
-void Analisis::CalcularEsfuerzos(std::size_t caso) {
-    std::vector<EsfuerzosTramo>& esfuerzos = resultados_.ResultadoTramo[caso];
-    esfuerzos.resize(N_ + 1);
-    casosEmpezados_ = caso;
+void Analisis::CalcularEsfuerzos() {
+    std::vector<EsfuerzosTramo>& permanentes = resultados_.ResultadoTramo[CasoPermanente];
+    std::vector<EsfuerzosTramo>& variables = resultados_.ResultadoTramo[CasoVariable];
+    permanentes.resize(N_ + 1);
+    variables.resize(N_ + 1);
+    esfuerzosEmpezados_ = true;
     vigilancia_.Recorrer(
-        1, N_, [&](std::size_t i) { return EsfuerzosDe(i, caso); },
-        [&](std::size_t i, const EsfuerzosTramo& calculados) { esfuerzos[i] = calculados; },
-        [&] { esfuerzos.assign(N_ + 1, {}); });
+        1, N_, [&](std::size_t i) { return EsfuerzosDe(i); },
+        [&](std::size_t i, const EsfuerzosPorCaso& calculados) {
+            permanentes[i] = calculados[0];
+            variables[i] = calculados[1];
+        },
+        [&] {
+            permanentes.assign(N_ + 1, {});
+            variables.assign(N_ + 1, {});
+        });
 }
 
-void Analisis::LlenarJuntas(std::size_t caso) {
-    std::vector<EstadoJunta>& estados = resultados_.ResultadoJunta[caso];
-    estados.resize(N_ + 2);
+void Analisis::LlenarJuntas() {
+    for (const std::size_t caso : {CasoPermanente, CasoVariable})
+        resultados_.ResultadoJunta[caso].resize(N_ + 2);
+    juntasEmpezadas_ = true;
     const auto uno = [](bool restringida) { return restringida ? 1.0 : 0.0; };
     for (std::size_t j = 1; j <= N_ + 1; ++j) {
-        EstadoJunta& junta = estados[j];
         const Restriccion& restriccion = restricciones_[j];
-        junta.Eje = losa_.Ejes[j].Eje;
-        junta.x = juntas_.X[j];
-        junta.y = juntas_.Y[j];
-        junta.RestringidaY = uno(restriccion.Y);
-        junta.RestringidaX = uno(restriccion.X);
-        junta.RestringidoGiro = uno(restriccion.Giro);
-        junta.DX = F_[3 * j - 3][caso - 1];
-        junta.DY = F_[3 * j - 2][caso - 1];
-        junta.Giro = F_[3 * j - 1][caso - 1];
-        junta.RV = junta.RH = 0;
+        for (const std::size_t caso : {CasoPermanente, CasoVariable}) {
+            EstadoJunta& junta = resultados_.ResultadoJunta[caso][j];
+            junta.Eje = losa_.Ejes[j].Eje;
+            junta.x = juntas_.X[j];
+            junta.y = juntas_.Y[j];
+            junta.RestringidaY = uno(restriccion.Y);
+            junta.RestringidaX = uno(restriccion.X);
+            junta.RestringidoGiro = uno(restriccion.Giro);
+            junta.DX = F_[3 * j - 3][caso - 1];
+            junta.DY = F_[3 * j - 2][caso - 1];
+            junta.Giro = F_[3 * j - 1][caso - 1];
+            junta.RV = junta.RH = 0;
+            SumarReacciones(caso, j, junta);
+        }
     }
-    casosLlenos_ = caso;
-    SumarReacciones(caso);
 }
 
-/// Reactions, from the rounded end forces of the spans that meet at each restrained joint.
-void Analisis::SumarReacciones(std::size_t caso) {
-    std::vector<EstadoJunta>& estados = resultados_.ResultadoJunta[caso];
-    for (std::size_t i = 1; i <= N_; ++i) {
-        const EsfuerzosTramo& e = resultados_.ResultadoTramo[caso][i];
-        const Barra& b = barras_[i];
-        EstadoJunta& juntaA = estados[i];
-        EstadoJunta& juntaB = estados[i + 1];
-        if (restricciones_[i].Y) juntaA.RV += b.CY * e.AxialA + b.CX * e.CorteA;
-        if (restricciones_[i].X) juntaA.RH += b.CX * e.AxialA - b.CY * e.CorteA;
-        if (restricciones_[i + 1].Y) juntaB.RV += -b.CY * e.AxialB + b.CX * e.CorteB;
-        if (restricciones_[i + 1].X) juntaB.RH += -b.CX * e.AxialB - b.CY * e.CorteB;
+/// Reactions of joint j where it is restrained, from the rounded end forces of the spans that meet there.
+void Analisis::SumarReacciones(std::size_t caso, std::size_t j, EstadoJunta& junta) const {
+    const std::vector<EsfuerzosTramo>& esfuerzos = resultados_.ResultadoTramo[caso];
+    const Restriccion& r = restricciones_[j];
+    if (j > 1) {
+        const EsfuerzosTramo& e = esfuerzos[j - 1];
+        const Barra& b = barras_[j - 1];
+        if (r.Y) junta.RV += -b.CY * e.AxialB + b.CX * e.CorteB;
+        if (r.X) junta.RH += -b.CX * e.AxialB - b.CY * e.CorteB;
+    }
+    if (j <= N_) {
+        const EsfuerzosTramo& e = esfuerzos[j];
+        const Barra& b = barras_[j];
+        if (r.Y) junta.RV += b.CY * e.AxialA + b.CX * e.CorteA;
+        if (r.X) junta.RH += b.CX * e.AxialA - b.CY * e.CorteA;
     }
 }
 

@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <vector>
 
+#include "slab/ParDeCasos.h"
+
 namespace trabex {
 
 /// Upper band of a symmetric matrix, by rows of B entries: K(r, 1) is the diagonal and K(r, c) the entry in
@@ -23,9 +25,6 @@ class MatrizBanda {
 
 /// Stiffness of a bar in global axes: (X, Y, rotation) at joint a, then at joint b.
 using MatrizElemento = std::array<std::array<double, 6>, 6>;
-
-/// The two load cases of one degree of freedom, side by side.
-using ParDeCasos = std::array<double, 2>;
 
 /// Adds a bar's stiffness to K. Local rows 1 to 3 go to offsetA + 1 … offsetA + 3, local rows 4 to 6 to
 /// offsetB + 1 … offsetB + 3, with offsetA < offsetB; what falls below the diagonal is not stored.
@@ -52,21 +51,16 @@ void EliminarFila(MatrizBanda<B>& K, std::vector<ParDeCasos>& F, std::size_t r) 
     for (std::size_t i = 1; i < ancho; ++i) {
         std::array<double, B>& abajo = K.Fila(r + 1 + i);
         for (std::size_t j = i; j < ancho; ++j) abajo[j - i] -= factor[i] * fila[j];
-        F[r + i][0] -= factor[i] * f[0];
-        F[r + i][1] -= factor[i] * f[1];
+        F[r + i] -= factor[i] * f;
     }
     K.Fila(r + 1) = factor;
 }
 
-/// Solves K·d = F for both load cases with one factorisation, K = UᵀDU in the band (Gaussian elimination of a
-/// symmetric matrix, no pivoting). K has NDOF + B rows and is overwritten. F has as many, zero past NDOF; it
-/// comes in as the loads, F[0] being that of degree of freedom 1, and goes out as the displacements.
-///
-/// K is positive definite for a stable structure, and nothing tests for that. A direction whose stiffness
-/// vanishes exactly and that carries no load stays where it is; under a load it divides by zero.
+/// Eliminates rows desde + 1 … hasta of K, once all that adds to them has been added. Rows in front that a
+/// bar does not reach yet may still be open.
 template <std::size_t B>
-void CalculoDPZ(MatrizBanda<B>& K, std::vector<ParDeCasos>& F, std::size_t NDOF) {
-    for (std::size_t r = 0; r < NDOF; ++r) {
+void EliminarFilas(MatrizBanda<B>& K, std::vector<ParDeCasos>& F, std::size_t desde, std::size_t hasta) {
+    for (std::size_t r = desde; r < hasta; ++r) {
         // Two rows in three of a chain of joints end in zeros, which elimination leaves zero.
         const std::array<double, B>& fila = K.Fila(r + 1);
         if (fila[B - 1] != 0)
@@ -76,16 +70,31 @@ void CalculoDPZ(MatrizBanda<B>& K, std::vector<ParDeCasos>& F, std::size_t NDOF)
         else
             EliminarFila<B, B - 2>(K, F, r);
     }
-    // F := U⁻¹·D⁻¹·F.
+}
+
+/// Back substitution on an eliminated K: F := U⁻¹·D⁻¹·F.
+template <std::size_t B>
+void SustituirAtras(MatrizBanda<B>& K, std::vector<ParDeCasos>& F, std::size_t NDOF) {
     for (std::size_t r = NDOF; r-- > 0;) {
         const std::array<double, B>& factor = K.Fila(r + 1);
-        for (std::size_t c = 0; c < 2; ++c) {
-            const double carga = F[r][c];
-            double d = factor[0] == 0 && carga != 0 ? carga / factor[0] : carga * factor[0];
-            for (std::size_t i = B - 1; i > 0; --i) d -= factor[i] * F[r + i][c];
-            F[r][c] = d;
-        }
+        ParDeCasos d = factor[0] * F[r];
+        if (factor[0] == 0 && F[r] != ParDeCasos{}) d = {F[r][0] / factor[0], F[r][1] / factor[0]};
+        for (std::size_t i = B - 1; i > 0; --i) d -= factor[i] * F[r + i];
+        F[r] = d;
     }
+}
+
+/// Solves K·d = F for both load cases with one factorisation, K = UᵀDU in the band (Gaussian elimination of a
+/// symmetric matrix, no pivoting). K has NDOF + B rows and is overwritten. F has as many, zero past NDOF; it
+/// comes in as the loads, F[0] being that of degree of freedom 1, and goes out as the displacements. The
+/// first `eliminadas` rows have been eliminated already.
+///
+/// K is positive definite for a stable structure, and nothing tests for that. A direction whose stiffness
+/// vanishes exactly and that carries no load stays where it is; under a load it divides by zero.
+template <std::size_t B>
+void CalculoDPZ(MatrizBanda<B>& K, std::vector<ParDeCasos>& F, std::size_t NDOF, std::size_t eliminadas = 0) {
+    EliminarFilas(K, F, eliminadas, NDOF);
+    SustituirAtras(K, F, NDOF);
 }
 
 }  // namespace trabex

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "base/Archivos.h"
 #include "store/Dialecto.h"
 #include "store/Motor.h"
 
@@ -121,9 +122,8 @@ bool Salvar(Motor& origen, const std::filesystem::path& destino) {
 bool Reescribir(Motor& origen, const std::filesystem::path& destino) {
     const SentenciaSqlite sentencia = origen.Preparar("VACUUM INTO ?");
     if (!sentencia) return false;
-    const std::u8string ruta = destino.u8string();
-    sqlite3_bind_text(sentencia.get(), 1, reinterpret_cast<const char*>(ruta.data()),
-                      static_cast<int>(ruta.size()), SQLITE_TRANSIENT);
+    const std::string ruta = TextoDeCamino(destino);
+    sqlite3_bind_text(sentencia.get(), 1, ruta.data(), static_cast<int>(ruta.size()), SQLITE_TRANSIENT);
     bool hayFila = false;
     return origen.Avanzar(sentencia.get(), hayFila);
 }

@@ -4,6 +4,8 @@
 #include <cstring>
 #include <fstream>
 
+#include "base/Archivos.h"
+
 namespace trabex {
 
 namespace {
@@ -17,15 +19,17 @@ int CompararNombres(void* comparador, int largoA, const void* a, int largoB, con
     return static_cast<const Comparador*>(comparador)->Comparar(texto(a, largoA), texto(b, largoB));
 }
 
-std::string RutaUtf8(const std::filesystem::path& camino) {
-    const std::u8string utf8 = camino.u8string();
-    return {utf8.begin(), utf8.end()};
+/// The engine's count of its memory takes a lock that all threads share, and nobody reads it.
+void ApagarEstadisticas() {
+    static const int hecho = sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
+    static_cast<void>(hecho);
 }
 
 }  // namespace
 
 Motor::Motor(const std::filesystem::path& camino, int banderas) {
-    if (sqlite3_open_v2(RutaUtf8(camino).c_str(), &base_, banderas, nullptr) != SQLITE_OK) {
+    ApagarEstadisticas();
+    if (sqlite3_open_v2(TextoDeCamino(camino).c_str(), &base_, banderas, nullptr) != SQLITE_OK) {
         sqlite3_close_v2(base_);
         base_ = nullptr;
         return;
