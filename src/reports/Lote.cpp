@@ -6,6 +6,7 @@
 #include <memory>
 #include <thread>
 
+#include "base/Texto.h"
 #include "reports/ResultadosJson.h"
 #include "slab/CalcularLosa.h"
 #include "store/TablasLosa.h"
@@ -36,12 +37,6 @@ ResumenLosa Resumir(const Losa& losa, const ResultadosLosa& r) {
         resumen.AceroInferior = std::max(resumen.AceroInferior, tramo.AS2);
     if (r.Error) resumen.Error = r.Error->Texto();
     return resumen;
-}
-
-/// Characters of a UTF-8 text, for columns that align.
-std::size_t Ancho(const std::string& texto) {
-    return static_cast<std::size_t>(
-        std::count_if(texto.begin(), texto.end(), [](char c) { return (c & 0xC0) != 0x80; }));
 }
 
 using FilaDeTabla = std::array<std::string, 9>;
@@ -119,12 +114,13 @@ std::string TablaResumen(const ProyectoCalculado& calculado, const Separadores& 
     for (const ResumenLosa& losa : calculado.Losas) filas.push_back(FilaDe(losa, separadores));
     std::array<std::size_t, std::tuple_size_v<FilaDeTabla>> anchos{};
     for (const FilaDeTabla& fila : filas) {
-        for (std::size_t c = 0; c < fila.size(); ++c) anchos[c] = std::max(anchos[c], Ancho(fila[c]));
+        for (std::size_t c = 0; c < fila.size(); ++c)
+            anchos[c] = std::max(anchos[c], NumeroDeCaracteres(fila[c]));
     }
     std::string tabla;
     for (std::size_t f = 0; f < filas.size(); ++f) {
         for (std::size_t c = 0; c < anchos.size(); ++c) {
-            const std::string relleno(anchos[c] - Ancho(filas[f][c]), ' ');
+            const std::string relleno(anchos[c] - NumeroDeCaracteres(filas[f][c]), ' ');
             tabla += c < 2 ? filas[f][c] + relleno : relleno + filas[f][c];
             tabla += c + 1 < anchos.size() ? "  " : "";
         }

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/Enteros.h"
+#include "base/Texto.h"
 
 namespace trabex {
 
@@ -57,12 +58,6 @@ std::optional<Valor> AdmitirNumero(TipoColumna tipo, double numero) {
     }
 }
 
-/// Characters of a UTF-8 text: every byte but those that continue one.
-std::size_t Caracteres(std::string_view texto) {
-    return static_cast<std::size_t>(
-        std::count_if(texto.begin(), texto.end(), [](char c) { return (c & 0xC0) != 0x80; }));
-}
-
 }  // namespace
 
 Columna LeerDeclaracion(std::string_view nombre, std::string_view declaracion) {
@@ -85,7 +80,7 @@ std::optional<Valor> Admitir(const Columna& columna, const Valor& valor) {
     if (const auto numero = Numero(valor)) return AdmitirNumero(columna.Tipo, *numero);
     if (const auto* texto = std::get_if<std::string>(&valor)) {
         if (columna.Tipo != TipoColumna::Texto) return std::nullopt;
-        if (columna.Ancho != 0 && Caracteres(*texto) > columna.Ancho) return std::nullopt;
+        if (columna.Ancho != 0 && NumeroDeCaracteres(*texto) > columna.Ancho) return std::nullopt;
         return valor;
     }
     if (const auto* fecha = std::get_if<Fecha>(&valor)) {

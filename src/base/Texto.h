@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace trabex {
+
+/// Characters (code points) of a UTF-8 text.
+std::size_t NumeroDeCaracteres(std::string_view texto);
+
+/// `texto` in capitals, the accented letters of Spanish and its neighbours included.
+std::string Mayusculas(std::string texto);
+
+/// `texto` without the blanks around it.
+std::string Recortar(std::string_view texto);
+
+}  // namespace trabex

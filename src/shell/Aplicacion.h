@@ -1,0 +1,42 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "base/Formatos.h"
+#include "base/Proyecto.h"
+#include "shell/Tapiz.h"
+#include "slab/Losa.h"
+#include "store/TablasProyecto.h"
+
+namespace trabex {
+
+/// The state of the program, one instance for the life of the process, passed by reference.
+struct Aplicacion {
+    std::filesystem::path CaminoPrograma;    ///< folder of the executable
+    std::filesystem::path CaminoUsuario;     ///< folder of the user's data
+    std::filesystem::path CaminoTemporales;  ///< scratch folder of file maintenance
+    std::filesystem::path ArchivoProyecto;   ///< the current project's file
+    std::string NombreProyecto;              ///< its name with extension; empty while no project is chosen
+    bool ProyectoNuevo = false;              ///< only while a new project's data window is shown
+    bool EscaleraHelicoidal = false;         ///< sub-mode of the windows that serve both kinds of stair
+    std::filesystem::path ArchivoAyuda;      ///< the help file, where there is one
+    std::string Usuario;                     ///< the user's name, as reports print it
+    Separadores SeparadoresLocales;
+    Tapiz Preferencias;
+
+    ProyectoAbierto Proyecto;  ///< connected while a workspace is up
+    DatosDelProyecto Datos;
+    DatosGenerales Generales;
+};
+
+/// Version of the program, "24.0.0".
+inline constexpr const char* VersionPrograma = TRABEX_VERSION;
+
+/// The title bar, "Trabex 2024   Proyecto:[" and the project's name in brackets.
+std::string TituloConProyecto(const std::string& nombre);
+
+/// Separators of the locale, from 1234.56 as it writes it: its second and its sixth character.
+Separadores LeerSeparadores(const std::string& muestra);
+
+}  // namespace trabex

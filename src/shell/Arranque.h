@@ -1,0 +1,19 @@
+#pragma once
+
+#include <filesystem>
+
+#include "shell/Aplicacion.h"
+#include "shell/Plataforma.h"
+
+namespace trabex {
+
+/// Finds the folders, makes those that are missing, copies the example project, the wallpaper and the shared
+/// load database where they are absent, and reads the settings. What can't be made shows up later, where it
+/// is used.
+void PrepararArranque(Plataforma& plataforma, Aplicacion& aplicacion);
+
+/// The settings file and the wallpaper of a new installation.
+std::filesystem::path ArchivoTapiz(const Aplicacion& aplicacion);
+std::filesystem::path ImagenPorDefecto(const Aplicacion& aplicacion);
+
+}  // namespace trabex

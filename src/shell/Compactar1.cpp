@@ -1,0 +1,121 @@
+#include "shell/Compactar1.h"
+
+#include <algorithm>
+#include <array>
+#include <ctime>
+
+#include "base/Archivos.h"
+#include "base/Texto.h"
+#include "store/Comparacion.h"
+#include "store/Mantenimiento.h"
+
+namespace trabex {
+
+namespace {
+
+/// "DBT_" with the minute and the second of now.
+std::string NombreTemporal() {
+    const std::time_t ahora = std::time(nullptr);
+    std::array<char, 32> texto{};
+    std::strftime(texto.data(), texto.size(), "DBT_%M%S.mdb", std::localtime(&ahora));
+    return texto.data();
+}
+
+}  // namespace
+
+std::vector<std::string> ListarProyectos(const std::filesystem::path& carpeta) {
+    std::vector<std::string> nombres;
+    std::error_code error;
+    for (const auto& entrada : std::filesystem::directory_iterator(carpeta, error)) {
+        std::error_code ignorado;
+        if (Mayusculas(TextoDeCamino(entrada.path().extension())) == ".LOS" &&
+            entrada.is_regular_file(ignorado))
+            nombres.push_back(TextoDeCamino(entrada.path().filename()));
+    }
+    const Comparador comparador;
+    std::sort(nombres.begin(), nombres.end(),
+              [&](const std::string& a, const std::string& b) { return comparador.Comparar(a, b) < 0; });
+    return nombres;
+}
+
+void Compactar1::Avisar(const std::string& texto, const std::string& encabezado) {
+    Mensaje mensaje;
+    mensaje.Texto = texto;
+    mensaje.Encabezado = encabezado;
+    caja_.Mostrar(mensaje);
+}
+
+void Compactar1::VaciarTemporales() const {
+    std::error_code error;
+    for (const auto& entrada : std::filesystem::directory_iterator(aplicacion_.CaminoTemporales, error)) {
+        std::error_code ignorado;
+        if (entrada.is_regular_file(ignorado)) std::filesystem::remove(entrada.path(), ignorado);
+    }
+}
+
+void Compactar1::Compactar(const std::filesystem::path& archivo) {
+    const std::filesystem::path destino = aplicacion_.CaminoTemporales / NombreTemporal();
+    std::error_code error;
+    if (std::filesystem::exists(destino, error)) BorrarArchivo(destino);
+    if (!CompactarBaseDatos(archivo, destino)) {
+        Mensaje fallo;
+        fallo.Texto = " Error: " + std::to_string(static_cast<int>(CodigoError::ErrorAccesoRuta));
+        fallo.Encabezado = "Error Inesperado";
+        fallo.Titulo = "Error Inesperado";
+        fallo.Icono = IconoCaja::Error;
+        caja_.Mostrar(fallo);
+    }
+    BorrarArchivo(archivo);
+    CopiarArchivo(destino, archivo);
+}
+
+int Compactar1::CompactarTodos(const std::filesystem::path& carpeta,
+                               const std::vector<std::string>& elegidos) {
+    int reparados = 0;
+    for (const std::string& nombre : elegidos) {
+        vista_.PunteroDeEspera(true);
+        vista_.Avanzar(100.0 * reparados / static_cast<double>(elegidos.size()),
+                       "Archivo: " + Mayusculas(nombre));
+        Compactar(carpeta / CaminoDeTexto(nombre));
+        ++reparados;
+        vista_.Avanzar(100.0 * reparados / static_cast<double>(elegidos.size()),
+                       "Archivo: " + Mayusculas(nombre));
+    }
+    return reparados;
+}
+
+void Compactar1::Aceptar(const std::filesystem::path& carpeta, const std::vector<std::string>& elegidos) {
+    if (elegidos.empty()) {
+        Mensaje ninguno;
+        ninguno.Texto = "No ha Seleccionado ningún Archivo...";
+        ninguno.Encabezado = "Reparar Archivos...";
+        ninguno.Titulo = "Reparar y Compactar Archivos";
+        ninguno.Icono = IconoCaja::Advertencia;
+        caja_.Mostrar(ninguno);
+        return;
+    }
+    aplicacion_.Proyecto.ConexionProyecto.Cerrar();
+    VaciarTemporales();
+    vista_.MostrarProgreso(true);
+    try {
+        const int reparados = CompactarTodos(carpeta, elegidos);
+        vista_.MostrarProgreso(false);
+        vista_.RefrescarLista();
+        vista_.PunteroDeEspera(false);
+        Avisar(reparados > 0
+                   ? "¡Se Repararon Y Compactaron ( " + std::to_string(reparados) + " ) Archivos con Exito!"
+                   : "No se Reparó ni Compactó Nigún Archivo...",
+               "Mantenimiento de Archivos...");
+    } catch (const ErrorEjecucion& error) {
+        vista_.MostrarProgreso(false);
+        vista_.RefrescarLista();
+        vista_.PunteroDeEspera(false);
+        Mensaje mensaje = MensajeDeError(error, "¡Falló la Acción de Reparar Y Compactar el Archivo!");
+        mensaje.Texto = "Número de Error: " + std::to_string(error.Codigo()) + "\n" + error.Texto();
+        caja_.Mostrar(mensaje);
+        return;
+    }
+    vista_.Cerrar();
+}
+
+}  // namespace trabex

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "shell/Aplicacion.h"
+#include "shell/CajaMensajes.h"
+
+namespace trabex {
+
+/// What " Aceptar " of the settings window came to.
+enum class ResultadoConfiguracion { SigueAbierta, Guardada, SinGuardar };
+
+/// Asks whether to keep the chosen settings. On yes they are stored and become the current ones. A file that
+/// can't be written shows the fixed error form and leaves the window open.
+ResultadoConfiguracion AceptarConfiguracion(Aplicacion& aplicacion, CajaMensajes& caja, const Tapiz& elegida);
+
+}  // namespace trabex

@@ -1,0 +1,251 @@
+#include "shell/MenuPrincipal.h"
+
+#include <array>
+#include <utility>
+
+#include "base/Archivos.h"
+#include "base/Texto.h"
+#include "shell/Arranque.h"
+#include "store/Comparacion.h"
+
+namespace trabex {
+
+namespace {
+
+constexpr const char* FiltroProyectos = "Archivos de Proyectos (.los)|*.los";
+constexpr const char* FiltroAbrir = "Archivos de Proyectos (.losa)|*.los";
+constexpr std::int16_t RespuestaQueReemplaza = 6;  // the box yields only 0, 1 and 2
+constexpr const char* ErrorInesperado = "Error Inesperado...";
+
+std::string NombreDe(const std::filesystem::path& archivo) {
+    return TextoDeCamino(archivo.filename());
+}
+
+bool Existe(const std::filesystem::path& camino) {
+    std::error_code error;
+    return std::filesystem::exists(camino, error);
+}
+
+/// The pointer of long work, for as long as this stands.
+class Espera {
+  public:
+    explicit Espera(VistaMenuPrincipal& vista) : vista_(vista) { vista_.PunteroDeEspera(true); }
+    ~Espera() { vista_.PunteroDeEspera(false); }
+    Espera(const Espera&) = delete;
+    Espera& operator=(const Espera&) = delete;
+
+  private:
+    VistaMenuPrincipal& vista_;
+};
+
+}  // namespace
+
+MenuPrincipal::MenuPrincipal(Aplicacion& aplicacion, VistaMenuPrincipal& vista, CajaMensajes& caja,
+                             DialogosArchivo& dialogos, Plataforma& plataforma)
+    : aplicacion_(aplicacion), vista_(vista), caja_(caja), dialogos_(dialogos), plataforma_(plataforma) {}
+
+void MenuPrincipal::Iniciar() {
+    vista_.HabilitarSalvarComo(false);
+    vista_.PonerTitulo(TituloConProyecto(""));
+    vista_.PonerRevision(std::string("Revisión del Programa: ") + VersionPrograma);
+    aplicacion_.SeparadoresLocales = LeerSeparadores(plataforma_.NumeroDeMuestra());
+    const std::filesystem::path ayuda = aplicacion_.CaminoPrograma / "AyudaLosas2024.chm";
+    if (Existe(ayuda)) aplicacion_.ArchivoAyuda = ayuda;
+    ColoqueTapiz();
+    vista_.PunteroDeEspera(false);
+}
+
+void MenuPrincipal::Ejecutar(std::string_view clave) {
+    using Operacion = void (MenuPrincipal::*)();
+    constexpr std::array<std::pair<std::string_view, Operacion>, 17> operaciones{{
+        {"ID_Nuevo", &MenuPrincipal::CrearNuevoProyecto},
+        {"ID_Abrir", &MenuPrincipal::AbrirProyecto},
+        {"ID_Modificar", &MenuPrincipal::ModificarProyecto},
+        {"ID_SalvarComo", &MenuPrincipal::SalvarComo},
+        {"ID_ConfigurarPantalla", &MenuPrincipal::ConfigurarTapiz},
+        {"ID_Salida", &MenuPrincipal::Salida},
+        {"ID_LosasD", &MenuPrincipal::AnalisisLosas},
+        {"ID_Marcus", &MenuPrincipal::CoeficientesMarcus},
+        {"ID_CargaP", &MenuPrincipal::VerAnalisisCargaP},
+        {"ID_Tijera", &MenuPrincipal::EjecutarEscalerasTijera},
+        {"ID_EscaleraH", &MenuPrincipal::EjecutarEscaleraH},
+        {"ID_Carga", &MenuPrincipal::VerAnalisisCarga},
+        {"ID_Reparar", &MenuPrincipal::Reparar},
+        {"ID_Temas", &MenuPrincipal::TemasAyuda},
+        {"ID_Manual", &MenuPrincipal::ManualLosas},
+        {"ID_Sobre", &MenuPrincipal::Sobre},
+        {"ID_Explorador", &MenuPrincipal::AbreExplorador},
+    }};
+    for (const auto& [conocida, operacion] : operaciones) {
+        if (conocida == clave) (this->*operacion)();
+    }
+}
+
+std::filesystem::path MenuPrincipal::CarpetaProyectos() const {
+    return aplicacion_.CaminoUsuario / "Proyectos";
+}
+
+void MenuPrincipal::HacerActual(const std::filesystem::path& archivo) {
+    aplicacion_.ArchivoProyecto = archivo;
+    aplicacion_.NombreProyecto = NombreDe(archivo);
+    vista_.PonerTitulo(TituloConProyecto(aplicacion_.NombreProyecto));
+}
+
+/// The question on replacing an existing file is an announcement: both of its answers go on, and only a third
+/// one, which the box does not have, would come back to the dialog.
+void MenuPrincipal::CrearNuevoProyecto() {
+    std::optional<std::filesystem::path> archivo;
+    do {
+        archivo = dialogos_.Elegir(
+            {"Crear un Nuevo Proyecto", FiltroProyectos, CarpetaProyectos(), true, true, false});
+        if (!archivo) return vista_.PunteroDeEspera(false);
+    } while (Existe(*archivo) &&
+             caja_.Mostrar(Pregunta(
+                 "Proyecto: " + NombreDe(*archivo) + "\n¿Esta Seguro de Reemplazar el Proyecto Existente?",
+                 "Crear un Nuevo Proyecto...")) == RespuestaCancelar);
+    aplicacion_.Proyecto.RegistrosProyecto.Cerrar();
+    aplicacion_.Proyecto.ConexionProyecto.Cerrar();
+    try {
+        HacerActual(*archivo);
+        Reemplazar(*archivo);
+    } catch (const ErrorEjecucion& error) {
+        caja_.Mostrar(MensajeDeError(error, ErrorInesperado));
+        return vista_.PunteroDeEspera(false);
+    }
+    const Espera espera(vista_);
+    aplicacion_.ProyectoNuevo = true;
+    vista_.MostrarDatosProyecto();
+    aplicacion_.ProyectoNuevo = false;
+    vista_.HabilitarSalvarComo(true);
+}
+
+void MenuPrincipal::Reemplazar(const std::filesystem::path& archivo) {
+    if (Existe(archivo)) BorrarArchivo(archivo);
+    CopiarArchivo(aplicacion_.CaminoPrograma / "Imagen" / "LosaImagen.tbx", archivo);
+}
+
+void MenuPrincipal::AbrirProyecto() {
+    const auto archivo = dialogos_.Elegir(
+        {"Abrir un Proyecto Existente", FiltroAbrir, CarpetaProyectos(), false, false, true});
+    vista_.PunteroDeEspera(false);
+    if (!archivo) return;
+    HacerActual(*archivo);
+    vista_.HabilitarSalvarComo(true);
+    vista_.Repintar();
+}
+
+/// The target of a save-as. An existing file is never taken: the box does not yield the answer that would.
+std::optional<std::filesystem::path> MenuPrincipal::ElegirDestino() {
+    const auto normal = [](const std::filesystem::path& camino) { return Recortar(TextoDeCamino(camino)); };
+    for (;;) {
+        const auto archivo = dialogos_.Elegir(
+            {"Salvar el Proyecto Como...", FiltroProyectos, CarpetaProyectos(), true, false, false});
+        if (!archivo) return std::nullopt;
+        const std::string titulo = NombreDe(*archivo);
+        if (Comparador().Comparar(normal(*archivo), normal(aplicacion_.ArchivoProyecto)) == 0) {
+            Mensaje mismo;
+            mismo.Texto = "Proyecto: " + titulo + "\n!No se puede Salvar el Proyecto con el mismo Nombre!";
+            mismo.Encabezado = "Salvar el Proyecto Como...";
+            mismo.Icono = IconoCaja::Advertencia;
+            caja_.Mostrar(mismo);
+            continue;
+        }
+        if (!Existe(*archivo)) return archivo;
+        const Mensaje pregunta =
+            Pregunta("El Proyecto: " + titulo + "  Ya Existe...\n¿Desea Usted Reemplazarlo?",
+                     "Salvar el Proyecto Como...");
+        if (caja_.Mostrar(pregunta) == RespuestaQueReemplaza) return archivo;
+    }
+}
+
+void MenuPrincipal::SalvarComo() {
+    const auto archivo = ElegirDestino();
+    if (!archivo) return;
+    const Espera espera(vista_);
+    try {
+        CopiarArchivo(aplicacion_.ArchivoProyecto, *archivo);
+        HacerActual(*archivo);
+    } catch (const ErrorEjecucion& error) {
+        caja_.Mostrar(MensajeDeError(error, ErrorInesperado));
+    }
+}
+
+template <class Mostrar>
+void MenuPrincipal::ConProyecto(Mostrar mostrar) {
+    if (Recortar(aplicacion_.NombreProyecto).empty()) AbrirProyecto();
+    if (Recortar(aplicacion_.NombreProyecto).empty()) return;
+    const Espera espera(vista_);
+    mostrar();
+}
+
+void MenuPrincipal::ModificarProyecto() {
+    ConProyecto([this] {
+        aplicacion_.ProyectoNuevo = false;
+        vista_.MostrarDatosProyecto();
+    });
+}
+
+void MenuPrincipal::AnalisisLosas() {
+    ConProyecto([this] { vista_.MostrarEspacio(Espacio::Losas); });
+}
+
+void MenuPrincipal::CoeficientesMarcus() {
+    ConProyecto([this] { vista_.MostrarEspacio(Espacio::Marcus); });
+}
+
+void MenuPrincipal::VerAnalisisCargaP() {
+    ConProyecto([this] { vista_.MostrarEspacio(Espacio::AnalisisCargaP); });
+}
+
+void MenuPrincipal::EjecutarEscalerasTijera() {
+    ConProyecto([this] {
+        aplicacion_.EscaleraHelicoidal = false;
+        vista_.MostrarEspacio(Espacio::EscaleraT);
+    });
+}
+
+void MenuPrincipal::EjecutarEscaleraH() {
+    ConProyecto([this] {
+        aplicacion_.EscaleraHelicoidal = true;
+        vista_.MostrarEspacio(Espacio::EscaleraH);
+    });
+}
+
+void MenuPrincipal::VerAnalisisCarga() {
+    vista_.MostrarEspacio(Espacio::AnalisisCarga);
+}
+
+void MenuPrincipal::ConfigurarTapiz() {
+    vista_.MostrarConfiguracion();
+}
+
+void MenuPrincipal::Reparar() {
+    vista_.MostrarReparacion();
+}
+
+void MenuPrincipal::Sobre() {
+    vista_.MostrarSobre();
+}
+
+void MenuPrincipal::TemasAyuda() {
+    if (!aplicacion_.ArchivoAyuda.empty()) plataforma_.AbrirArchivo(aplicacion_.ArchivoAyuda);
+}
+
+void MenuPrincipal::ManualLosas() {
+    plataforma_.AbrirArchivo(aplicacion_.CaminoPrograma / "Manual" / "ManualLosas2024.pdf");
+}
+
+void MenuPrincipal::AbreExplorador() {
+    plataforma_.AbrirCarpeta(CarpetaProyectos());
+}
+
+void MenuPrincipal::Salida() {
+    vista_.Cerrar();
+}
+
+void MenuPrincipal::ColoqueTapiz() {
+    aplicacion_.Preferencias = LeerTapiz(ArchivoTapiz(aplicacion_), ImagenPorDefecto(aplicacion_));
+    vista_.PonerTapiz(aplicacion_.Preferencias);
+}
+
+}  // namespace trabex

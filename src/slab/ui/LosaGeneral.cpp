@@ -1,0 +1,28 @@
+#include "slab/ui/LosaGeneral.h"
+
+#include <array>
+
+#include "store/TablasProyecto.h"
+
+namespace trabex {
+
+std::optional<CampoLosaGeneral> LosaGeneral::PrimerCero(const DatosGenerales& e) {
+    const std::array<double, 7> valores{
+        static_cast<double>(e.FC), static_cast<double>(e.FY), e.D8, e.FCP, e.FCV, e.FiMomento, e.FiCorte};
+    for (std::size_t i = 0; i < valores.size(); ++i) {
+        if (valores[i] == 0) return static_cast<CampoLosaGeneral>(i);
+    }
+    return std::nullopt;
+}
+
+bool LosaGeneral::Aceptar(const DatosGenerales& entrados) {
+    generales_ = entrados;
+    Transaccion guardado(conexion_);
+    conexion_.Ejecutar("DELETE * FROM LosaG");
+    Recordset registros;
+    AbrirRecordset(conexion_, registros, "LosaG");
+    const bool agregado = AgregarGenerales(registros, entrados);
+    return guardado.Confirmar() && agregado;
+}
+
+}  // namespace trabex

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+
+#include "slab/Losa.h"
+#include "store/Conexion.h"
+
+namespace trabex {
+
+/// Fields of the design parameters, in the order in which they are checked.
+enum class CampoLosaGeneral : std::size_t { FC, FY, D8, FCP, FCV, FiMomento, FiCorte };
+
+/// Operations of the window that edits the design parameters of all slabs.
+class LosaGeneral {
+  public:
+    /// `conexion` is the workspace's; `generales` its working values.
+    LosaGeneral(Conexion& conexion, DatosGenerales& generales) : conexion_(conexion), generales_(generales) {}
+
+    const DatosGenerales& Valores() const { return generales_; }
+
+    /// The first field that is 0: it takes the focus and nothing is saved.
+    static std::optional<CampoLosaGeneral> PrimerCero(const DatosGenerales& entrados);
+
+    /// " Aceptar " on entries without a zero: they become the working values and the table's one row. False
+    /// when they could not be stored; the working values hold all the same.
+    bool Aceptar(const DatosGenerales& entrados);
+
+  private:
+    Conexion& conexion_;
+    DatosGenerales& generales_;
+};
+
+}  // namespace trabex
