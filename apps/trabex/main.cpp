@@ -1,0 +1,47 @@
+// The desktop program: wiring, nothing else.
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
+#include <memory>
+
+#include "shell/Arranque.h"
+#include "shell/qt/CajaMensajesQt.h"
+#include "shell/qt/DialogosArchivoQt.h"
+#include "shell/qt/PlataformaQt.h"
+#include "shell/qt/VentanaMenuPrincipal.h"
+#include "shell/qt/VentanaSplash.h"
+
+namespace {
+
+/// No element has its window yet; their commands are disabled.
+class SinEspacios : public trabex::EspaciosDeTrabajo {
+  public:
+    void Mostrar(trabex::Espacio, QWidget*) override {}
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication programa(argc, argv);
+    QApplication::setOrganizationName("Nodara Software");
+    QApplication::setApplicationName("Trabex24");
+    QTranslator textosDelToolkit;
+    if (textosDelToolkit.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&textosDelToolkit);
+
+    trabex::Aplicacion aplicacion;
+    trabex::PlataformaQt plataforma;
+    trabex::CajaMensajesQt caja;
+    trabex::DialogosArchivoQt dialogos;
+    SinEspacios espacios;
+    std::unique_ptr<trabex::VentanaMenuPrincipal> menu;
+    trabex::VentanaSplash splash([&] {
+        menu =
+            std::make_unique<trabex::VentanaMenuPrincipal>(aplicacion, caja, dialogos, plataforma, espacios);
+        menu->show();
+    });
+    splash.show();
+    trabex::PrepararArranque(plataforma, aplicacion);
+    return QApplication::exec();
+}

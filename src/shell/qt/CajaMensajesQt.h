@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QDialog>
+
+#include "shell/CajaMensajes.h"
+
+class QWidget;
+
+namespace trabex {
+
+/// The message box as a window: heading, text, picture, one to three buttons.
+class VentanaMensaje : public QDialog {
+  public:
+    VentanaMensaje(const Mensaje& mensaje, QWidget* padre);
+    std::int16_t Respuesta() const { return respuesta_; }
+
+  protected:
+    /// Escape and the window's cross: by the layout.
+    void reject() override;
+
+  private:
+    void Armar(const Mensaje& mensaje);
+    void PonerBotones(const Mensaje& mensaje);
+
+    DisenoCaja diseno_;
+    std::int16_t respuesta_ = RespuestaAceptarONo;
+};
+
+class CajaMensajesQt : public CajaMensajes {
+  public:
+    std::int16_t Mostrar(const Mensaje& mensaje) override;
+};
+
+}  // namespace trabex

@@ -1,0 +1,72 @@
+#include "shell/qt/ComunVentanas.h"
+
+#include <QEvent>
+#include <QPushButton>
+#include <QSettings>
+#include <QWidget>
+
+#include "shell/qt/Iconos.h"
+
+namespace trabex {
+
+namespace {
+
+QString Color(std::uint32_t bgr) {
+    return QString("rgb(%1, %2, %3)").arg(bgr & 0xFF).arg((bgr >> 8) & 0xFF).arg((bgr >> 16) & 0xFF);
+}
+
+/// Keeps a window's geometry from one opening to the next, and its tool tips from showing when they are off.
+class Guardian : public QObject {
+  public:
+    Guardian(QWidget* ventana, bool ocultarAyudas)
+        : QObject(ventana), ventana_(ventana), ocultar_(ocultarAyudas) {
+        ventana->installEventFilter(this);
+        if (!ocultar_) return;
+        for (QWidget* control : ventana->findChildren<QWidget*>()) control->installEventFilter(this);
+    }
+
+  protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override {
+        if (ocultar_ && evento->type() == QEvent::ToolTip) return true;
+        if (objeto == ventana_ && evento->type() == QEvent::Hide && !ventana_->objectName().isEmpty())
+            QSettings().setValue("geometria/" + ventana_->objectName(), ventana_->saveGeometry());
+        return QObject::eventFilter(objeto, evento);
+    }
+
+  private:
+    QWidget* ventana_;
+    bool ocultar_;
+};
+
+}  // namespace
+
+void PonerAyuda(QWidget* control, const QString& titulo, const QString& texto) {
+    control->setToolTip("<b>" + titulo.toHtmlEscaped() + "</b><br>" +
+                        texto.toHtmlEscaped().replace('\n', "<br>"));
+    control->setAccessibleDescription(texto);
+}
+
+QString EstiloDeAyudas(const Tapiz& p) {
+    return QString(
+               "QToolTip { background-color: %1; color: %2; font-family: Arial; font-size: %3pt;"
+               " border: 1px solid %2; padding: 3px; border-radius: %4px; }")
+        .arg(Color(p.FondoAyuda), Color(p.ColorAyuda))
+        .arg(PuntosDeAyuda(p.TamanoAyuda))
+        .arg(p.AyudaEnGlobo ? 8 : 0);
+}
+
+void PrepararVentana(QWidget* ventana, const Tapiz& preferencias) {
+    ventana->setStyleSheet(EstiloDeAyudas(preferencias));
+    ventana->setWindowIcon(Figura("trabex", 48));
+    new Guardian(ventana, preferencias.OcultarAyuda);
+    const QByteArray geometria = QSettings().value("geometria/" + ventana->objectName()).toByteArray();
+    if (!ventana->objectName().isEmpty() && !geometria.isEmpty()) ventana->restoreGeometry(geometria);
+}
+
+QPushButton* Boton(const QString& texto, const QString& icono, QWidget* padre) {
+    auto* boton = new QPushButton(texto, padre);
+    if (!icono.isEmpty()) boton->setIcon(Icono(icono));
+    return boton;
+}
+
+}  // namespace trabex

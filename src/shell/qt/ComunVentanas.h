@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+#include <string>
+
+#include "shell/Tapiz.h"
+
+class QPushButton;
+class QWidget;
+
+namespace trabex {
+
+inline QString Q(const std::string& texto) {
+    return QString::fromStdString(texto);
+}
+inline std::string S(const QString& texto) {
+    return texto.toStdString();
+}
+
+/// Sets a tool tip: a title over its text.
+void PonerAyuda(QWidget* control, const QString& titulo, const QString& texto);
+
+/// The set-up that every window calls when it loads: the user's tool-tip settings on all that the window
+/// holds, and the geometry that a window of the same name had when it last closed.
+void PrepararVentana(QWidget* ventana, const Tapiz& preferencias);
+
+/// Tool tips in the user's settings, as a style sheet.
+QString EstiloDeAyudas(const Tapiz& preferencias);
+
+/// A button with a line icon.
+QPushButton* Boton(const QString& texto, const QString& icono, QWidget* padre);
+
+}  // namespace trabex

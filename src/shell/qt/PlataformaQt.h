@@ -1,0 +1,20 @@
+#pragma once
+
+#include "shell/Plataforma.h"
+
+namespace trabex {
+
+/// The operating system by the toolkit's means.
+class PlataformaQt : public Plataforma {
+  public:
+    std::filesystem::path CarpetaDelPrograma() const override;
+    std::filesystem::path CarpetaDeDocumentos() const override;
+    std::optional<std::filesystem::path> RaizComun() const override;
+    std::string NombreDelUsuario() const override;
+    std::string NumeroDeMuestra() const override;
+    bool AbrirArchivo(const std::filesystem::path& archivo) override;
+    bool AbrirCarpeta(const std::filesystem::path& carpeta) override;
+    bool InformacionDelSistema() override;
+};
+
+}  // namespace trabex

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QDialog>
+
+#include "shell/Aplicacion.h"
+#include "shell/CajaMensajes.h"
+#include "shell/DialogosArchivo.h"
+#include "shell/qt/LienzoTapiz.h"
+
+class QButtonGroup;
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+
+namespace trabex {
+
+/// The user's settings, with a live preview: the wallpaper on one tab, the tool tips on the other.
+class VentanaConfigurar : public QDialog {
+  public:
+    VentanaConfigurar(Aplicacion& aplicacion, CajaMensajes& caja, DialogosArchivo& dialogos, QWidget* padre);
+    bool Guardada() const { return guardada_; }
+
+  private:
+    QWidget* PaginaImagen();
+    QWidget* PaginaAyudas();
+    QButtonGroup* Opciones(QLayout* donde, const QString& titulo, const QStringList& textos,
+                           std::uint8_t actual);
+    QLabel* MuestraDeColor(std::uint32_t& color);
+    void ElegirImagen();
+    void CapturarImagen();
+    void ElegirColor(std::uint32_t& color);
+    void Refrescar();
+    void Aceptar();
+
+    Aplicacion& aplicacion_;
+    CajaMensajes& caja_;
+    DialogosArchivo& dialogos_;
+    Tapiz elegida_;
+    bool guardada_ = false;
+    QLineEdit* ruta_;
+    QButtonGroup* horizontal_;
+    QButtonGroup* vertical_;
+    QCheckBox* ajustar_;
+    LienzoTapiz* muestra_;
+    QComboBox* tamano_;
+    QLabel* fondo_;
+    QLabel* color_;
+    QCheckBox* ocultar_;
+    QCheckBox* globo_;
+    QLabel* ejemplo_;
+};
+
+}  // namespace trabex

@@ -1,0 +1,179 @@
+#include "shell/qt/VentanaMenuPrincipal.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include "base/Archivos.h"
+#include "shell/Arranque.h"
+#include "shell/Comandos.h"
+#include "shell/qt/ComunVentanas.h"
+#include "shell/qt/Iconos.h"
+#include "shell/qt/VentanaCompactar.h"
+#include "shell/qt/VentanaConfigurar.h"
+#include "shell/qt/VentanaDatosProyecto.h"
+#include "shell/qt/VentanaSobre.h"
+
+namespace trabex {
+
+namespace {
+
+QString Texto(std::string_view texto) {
+    return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
+}
+
+}  // namespace
+
+VentanaMenuPrincipal::VentanaMenuPrincipal(Aplicacion& aplicacion, CajaMensajes& caja,
+                                           DialogosArchivo& dialogos, Plataforma& plataforma,
+                                           EspaciosDeTrabajo& espacios)
+    : aplicacion_(aplicacion),
+      caja_(caja),
+      dialogos_(dialogos),
+      plataforma_(plataforma),
+      espacios_(espacios),
+      operaciones_(aplicacion, *this, caja, dialogos, plataforma),
+      tapiz_(new LienzoTapiz(this)) {
+    setObjectName("MenuPrincipal");
+    resize(1100, 700);
+    setCentralWidget(tapiz_);
+    CrearAcciones();
+    CrearMenus();
+    CrearBarra();
+    CrearPanelEstado();
+    PrepararVentana(this, aplicacion_.Preferencias);
+    operaciones_.Iniciar();
+}
+
+void VentanaMenuPrincipal::CrearAcciones() {
+    for (const Comando& comando : Comandos) {
+        auto* accion = new QAction(Icono(Texto(comando.Icono)), Texto(comando.Texto), this);
+        accion->setObjectName(Texto(comando.Clave));
+        accion->setEnabled(comando.Construido);
+        QString rotulo = Texto(comando.Texto).remove('&');
+        if (!comando.Construido) rotulo += "\n(no disponible en esta edición)";
+        accion->setToolTip(rotulo);
+        connect(accion, &QAction::triggered, this,
+                [this, clave = comando.Clave] { operaciones_.Ejecutar(clave); });
+        acciones_[comando.Clave] = accion;
+    }
+    Accion("ID_Nuevo")->setShortcut(QKeySequence::New);
+    Accion("ID_Abrir")->setShortcut(QKeySequence::Open);
+    Accion("ID_SalvarComo")->setShortcut(QKeySequence::SaveAs);
+    Accion("ID_Temas")->setShortcut(QKeySequence::HelpContents);
+}
+
+void VentanaMenuPrincipal::CrearMenus() {
+    for (std::size_t m = 0; m < TitulosDeMenu.size(); ++m) {
+        QMenu* menu = menuBar()->addMenu(Texto(TitulosDeMenu[m]));
+        for (const Comando& comando : Comandos) {
+            if (comando.En != static_cast<Menu>(m)) continue;
+            if (comando.Clave == "ID_Salida") menu->addSeparator();
+            menu->addAction(Accion(comando.Clave));
+        }
+    }
+}
+
+void VentanaMenuPrincipal::CrearBarra() {
+    QToolBar* barra = addToolBar("Comandos");
+    barra->setObjectName("Comandos");
+    barra->setMovable(false);
+    barra->setIconSize({24, 24});
+    Menu anterior = Menu::Proyecto;
+    for (const Comando& comando : Comandos) {
+        if (!comando.EnBarra) continue;
+        if (comando.En != anterior) barra->addSeparator();
+        anterior = comando.En;
+        barra->addAction(Accion(comando.Clave));
+    }
+}
+
+void VentanaMenuPrincipal::CrearPanelEstado() {
+    revision_ = new QLabel(this);
+    proyecto_ = new QLabel(this);
+    statusBar()->addWidget(proyecto_, 1);
+    statusBar()->addPermanentWidget(revision_);
+}
+
+QAction* VentanaMenuPrincipal::Accion(std::string_view clave) const {
+    const auto hallada = acciones_.find(clave);
+    return hallada == acciones_.end() ? nullptr : hallada->second;
+}
+
+void VentanaMenuPrincipal::PonerTitulo(const std::string& titulo) {
+    setWindowTitle(Q(titulo));
+    proyecto_->setText(Q(TextoDeCamino(aplicacion_.ArchivoProyecto)));
+}
+
+void VentanaMenuPrincipal::PonerRevision(const std::string& texto) {
+    revision_->setText(Q(texto));
+}
+
+void VentanaMenuPrincipal::HabilitarSalvarComo(bool habilitado) {
+    Accion("ID_SalvarComo")->setEnabled(habilitado);
+}
+
+void VentanaMenuPrincipal::PunteroDeEspera(bool espera) {
+    if (espera == esperando_) return;
+    esperando_ = espera;
+    if (espera)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+/// A picture that can't be loaded brings the default one back.
+void VentanaMenuPrincipal::PonerTapiz(const Tapiz& tapiz) {
+    if (tapiz_->Poner(tapiz)) return;
+    Tapiz porDefecto = tapiz;
+    porDefecto.Imagen = TextoDeCamino(ImagenPorDefecto(aplicacion_));
+    aplicacion_.Preferencias = porDefecto;
+    tapiz_->Poner(porDefecto);
+    try {
+        GuardarTapiz(ArchivoTapiz(aplicacion_), porDefecto);
+    } catch (const ErrorEjecucion&) {
+        return;  // the default holds for this run
+    }
+}
+
+void VentanaMenuPrincipal::Repintar() {
+    update();
+}
+
+void VentanaMenuPrincipal::Cerrar() {
+    close();
+}
+
+void VentanaMenuPrincipal::MostrarDatosProyecto() {
+    VentanaDatosProyecto ventana(aplicacion_, caja_, this);
+    PunteroDeEspera(false);
+    ventana.exec();
+}
+
+void VentanaMenuPrincipal::MostrarConfiguracion() {
+    VentanaConfigurar ventana(aplicacion_, caja_, dialogos_, this);
+    ventana.exec();
+    if (ventana.Guardada()) {
+        setStyleSheet(EstiloDeAyudas(aplicacion_.Preferencias));
+        PonerTapiz(aplicacion_.Preferencias);
+    }
+}
+
+void VentanaMenuPrincipal::MostrarReparacion() {
+    VentanaCompactar ventana(aplicacion_, caja_, this);
+    ventana.exec();
+}
+
+void VentanaMenuPrincipal::MostrarSobre() {
+    VentanaSobre ventana(aplicacion_, plataforma_, this);
+    ventana.exec();
+}
+
+void VentanaMenuPrincipal::MostrarEspacio(Espacio espacio) {
+    PunteroDeEspera(false);
+    espacios_.Mostrar(espacio, this);
+}
+
+}  // namespace trabex

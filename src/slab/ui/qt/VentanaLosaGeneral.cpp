@@ -1,0 +1,117 @@
+#include "slab/ui/qt/VentanaLosaGeneral.h"
+
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QIntValidator>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRegularExpressionValidator>
+#include <QVBoxLayout>
+
+#include "shell/qt/ComunVentanas.h"
+
+namespace trabex {
+
+namespace {
+
+/// A field that takes numbers with comma or point.
+QLineEdit* CampoNumerico(QWidget* padre) {
+    auto* campo = new QLineEdit(padre);
+    campo->setAlignment(Qt::AlignRight);
+    campo->setMaximumWidth(120);
+    campo->setValidator(
+        new QRegularExpressionValidator(QRegularExpression("-?\\d{0,10}([.,]\\d{0,8})?"), campo));
+    return campo;
+}
+
+QString TextoDe(double valor, const Separadores& separadores) {
+    return QString::number(valor, 'g', 15).replace('.', Q(separadores.Decimal));
+}
+
+}  // namespace
+
+VentanaLosaGeneral::VentanaLosaGeneral(Aplicacion& aplicacion, CajaMensajes& caja, QWidget* padre)
+    : QDialog(padre),
+      aplicacion_(aplicacion),
+      caja_(caja),
+      operaciones_(aplicacion.Proyecto.ConexionProyecto, aplicacion.Generales) {
+    setObjectName("LosaGeneral");
+    setWindowTitle("DATOS GENERALES");
+    Armar();
+    Mostrar(operaciones_.Valores());
+    PrepararVentana(this, aplicacion_.Preferencias);
+}
+
+void VentanaLosaGeneral::Armar() {
+    struct Marco {
+        const char* Titulo;
+        std::array<const char*, 3> Rotulos;
+    };
+    constexpr std::array<Marco, 3> marcos{{
+        {"Materiales", {"Concreto (kgf/cm2)  F'c =", "Refuerzo (kgf/cm2)  Fy =", "Recubrimiento (m)  R ="}},
+        {"Factores de Mayoración", {"Carga Permanente FCP =", "Carga Variable FCV =", nullptr}},
+        {"Factores de Minoración", {"Por Momentos Fi =", "Por Corte Fi =", nullptr}},
+    }};
+    auto* columna = new QVBoxLayout(this);
+    std::size_t campo = 0;
+    for (const Marco& marco : marcos) {
+        auto* caja = new QGroupBox(marco.Titulo, this);
+        auto* formulario = new QFormLayout(caja);
+        for (const char* rotulo : marco.Rotulos) {
+            if (rotulo == nullptr) continue;
+            campos_[campo] = CampoNumerico(caja);
+            formulario->addRow(rotulo, campos_[campo++]);
+        }
+        columna->addWidget(caja);
+    }
+    for (const CampoLosaGeneral entero : {CampoLosaGeneral::FC, CampoLosaGeneral::FY})
+        campos_[static_cast<std::size_t>(entero)]->setValidator(new QIntValidator(-32768, 32767, this));
+    auto* aceptar = Boton(" Aceptar ", "", this);
+    auto* cancelar = Boton(" Cancelar ", "", this);
+    aceptar->setDefault(true);
+    connect(aceptar, &QPushButton::clicked, this, [this] { Aceptar(); });
+    connect(cancelar, &QPushButton::clicked, this, &QDialog::reject);
+    auto* botones = new QHBoxLayout;
+    botones->addStretch(1);
+    botones->addWidget(aceptar);
+    botones->addWidget(cancelar);
+    columna->addStretch(1);
+    columna->addLayout(botones);
+}
+
+void VentanaLosaGeneral::Mostrar(const DatosGenerales& g) {
+    const std::array<double, 7> valores{
+        static_cast<double>(g.FC), static_cast<double>(g.FY), g.D8, g.FCP, g.FCV, g.FiMomento, g.FiCorte};
+    for (std::size_t i = 0; i < valores.size(); ++i)
+        campos_[i]->setText(TextoDe(valores[i], aplicacion_.SeparadoresLocales));
+}
+
+double VentanaLosaGeneral::Numero(CampoLosaGeneral campo) const {
+    return campos_[static_cast<std::size_t>(campo)]->text().replace(',', '.').toDouble();
+}
+
+DatosGenerales VentanaLosaGeneral::Entrados() const {
+    using enum CampoLosaGeneral;
+    return {static_cast<std::int16_t>(Numero(FC)),
+            static_cast<std::int16_t>(Numero(FY)),
+            Numero(D8),
+            Numero(FCP),
+            Numero(FCV),
+            Numero(FiMomento),
+            Numero(FiCorte)};
+}
+
+void VentanaLosaGeneral::Aceptar() {
+    const DatosGenerales entrados = Entrados();
+    if (const auto cero = LosaGeneral::PrimerCero(entrados)) {
+        QLineEdit* campo = campos_[static_cast<std::size_t>(*cero)];
+        campo->setFocus();
+        campo->selectAll();
+        return;
+    }
+    if (!operaciones_.Aceptar(entrados))
+        caja_.Mostrar(MensajeDeError(ErrorEjecucion(CodigoError::ErrorAccesoRuta), "Error Inesperado..."));
+    accept();
+}
+
+}  // namespace trabex

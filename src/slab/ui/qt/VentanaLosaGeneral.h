@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QDialog>
+#include <array>
+
+#include "shell/Aplicacion.h"
+#include "shell/CajaMensajes.h"
+#include "slab/ui/LosaGeneral.h"
+
+class QLineEdit;
+
+namespace trabex {
+
+/// Edits the design parameters of all slabs of the project that is connected.
+class VentanaLosaGeneral : public QDialog {
+  public:
+    VentanaLosaGeneral(Aplicacion& aplicacion, CajaMensajes& caja, QWidget* padre);
+
+  private:
+    void Armar();
+    void Mostrar(const DatosGenerales& generales);
+    DatosGenerales Entrados() const;
+    double Numero(CampoLosaGeneral campo) const;
+    void Aceptar();
+
+    Aplicacion& aplicacion_;
+    CajaMensajes& caja_;
+    LosaGeneral operaciones_;
+    std::array<QLineEdit*, 7> campos_{};
+};
+
+}  // namespace trabex
