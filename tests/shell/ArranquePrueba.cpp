@@ -1,0 +1,184 @@
+#include <gtest/gtest.h>
+
+#include "base/Archivos.h"
+#include "shell/Arranque.h"
+#include "shell/Compactar1.h"
+#include "shell/ConfigurarPrograma.h"
+#include "support/CarpetaTemporal.h"
+#include "support/LosasDePrueba.h"
+#include "support/ProyectoDePrueba.h"
+#include "support/ShellGuiado.h"
+
+namespace trabex {
+namespace {
+
+using prueba::EscribirArchivo;
+using prueba::LeerArchivo;
+
+class Arranque : public testing::Test {
+  protected:
+    Arranque() : plataforma(carpeta.Camino()) {
+        for (const char* nombre : {"Ejemplo Demostrativo.tbx", "TapizTBX.jpg", "AnalisisCarga.tbx"})
+            EscribirArchivo(carpeta / "programa" / "Imagen" / nombre, std::string("entregado: ") + nombre);
+    }
+    void Arrancar() { PrepararArranque(plataforma, aplicacion); }
+    std::filesystem::path Usuario(const std::string& camino) const {
+        return aplicacion.CaminoUsuario / camino;
+    }
+
+    prueba::CarpetaTemporal carpeta;
+    prueba::PlataformaGuiada plataforma;
+    prueba::CajaGuiada caja;
+    Aplicacion aplicacion;
+};
+
+TEST_F(Arranque, HaceLoQueFaltaYRespetaLoQueEsta) {
+    Arrancar();
+    EXPECT_EQ(aplicacion.CaminoUsuario, carpeta / "Documentos" / "Nodara Software" / "Trabex24");
+    for (const char* nombre : {"ReportesExportados", "Trabajo", "Temporales"})
+        EXPECT_TRUE(std::filesystem::is_directory(Usuario(nombre))) << nombre;
+    EXPECT_EQ(LeerArchivo(Usuario("Proyectos/AnalisisCarga.mdb")), "entregado: AnalisisCarga.tbx");
+    EscribirArchivo(Usuario("Proyectos/Ejemplo Demostrativo.los"), "trabajado");
+    EscribirArchivo(Usuario("Tapices/TapizTBX.jpg"), std::string(500, 'x'));
+    Arrancar();
+    EXPECT_EQ(LeerArchivo(Usuario("Proyectos/Ejemplo Demostrativo.los")), "trabajado");
+    EXPECT_EQ(LeerArchivo(Usuario("Tapices/TapizTBX.jpg")), "entregado: TapizTBX.jpg");
+    std::filesystem::create_directories(carpeta / "C" / "Nodara Software");
+    Arrancar();
+    EXPECT_EQ(aplicacion.CaminoUsuario, carpeta / "C" / "Nodara Software" / "Trabex24");
+}
+
+TEST_F(Arranque, LasPreferenciasSonRegistrosDe128Bytes) {
+    Arrancar();
+    const std::string bytes = LeerArchivo(Usuario("Tapiz.tbx"));
+    const std::string imagen = TextoDeCamino(Usuario("Tapices/TapizTBX.jpg"));
+    ASSERT_EQ(bytes.size(), 1280U);
+    EXPECT_EQ(static_cast<unsigned char>(bytes[0]), imagen.size());
+    EXPECT_EQ(bytes.substr(2, imagen.size()), imagen);
+    EXPECT_EQ(bytes[5 * 128], 4);
+    EXPECT_EQ(bytes.substr(6 * 128, 4), std::string("\xFF\xF4\xD6\0", 4));
+
+    std::string otros = bytes;
+    otros[1 * 128] = 2;
+    otros[1 * 128 + 1] = 1;  // 258 as it is read: out of range
+    otros[2 * 128] = 1;
+    otros[4 * 128] = 40;
+    otros[5 * 128] = 9;
+    otros.replace(6 * 128, 4, std::string(4, '\0'));
+    Tapiz leido = LeerRegistros(otros);
+    EXPECT_EQ(leido.Horizontal, 0);
+    EXPECT_EQ(leido.Vertical, 1);
+    EXPECT_EQ(leido.Efecto, 0);
+    EXPECT_EQ(leido.TamanoAyuda, 4);
+    EXPECT_EQ(leido.FondoAyuda, 0xD6F4FFU);
+    leido.Horizontal = 1;
+    PonerRegistros(leido, otros);  // one byte is written, the other stays
+    EXPECT_EQ(otros.substr(128, 2), "\x01\x01");
+    EXPECT_EQ(LeerRegistros(bytes.substr(0, 300)).TamanoAyuda, 4);
+    EXPECT_EQ(LeerRegistros("").Imagen, "");
+    leido.Imagen = std::string(127, 'x');
+    EXPECT_THROW(PonerRegistros(leido, otros), ErrorEjecucion);
+}
+
+TEST_F(Arranque, UnaImagenPerdidaDevuelveLasPreferenciasDeFabrica) {
+    Arrancar();
+    Tapiz propia = aplicacion.Preferencias;
+    propia.Imagen = TextoDeCamino(Usuario("Tapices/mía.jpg"));
+    propia.Ajustar = true;
+    EscribirArchivo(Usuario("Tapices/mía.jpg"), "x");
+    GuardarTapiz(ArchivoTapiz(aplicacion), propia);
+    Arrancar();
+    EXPECT_TRUE(aplicacion.Preferencias.Ajustar);
+    std::filesystem::remove(Usuario("Tapices/mía.jpg"));
+    Arrancar();
+    EXPECT_FALSE(aplicacion.Preferencias.Ajustar);
+    EXPECT_EQ(aplicacion.Preferencias.Imagen, TextoDeCamino(Usuario("Tapices/TapizTBX.jpg")));
+}
+
+TEST_F(Arranque, AceptarLaConfiguracionPorRespuestas) {
+    Arrancar();
+    Tapiz elegida = aplicacion.Preferencias;
+    elegida.TamanoAyuda = 7;
+    caja.Respuestas = {RespuestaCancelar, RespuestaAceptarONo, RespuestaSi};
+    EXPECT_EQ(AceptarConfiguracion(aplicacion, caja, elegida), ResultadoConfiguracion::SigueAbierta);
+    EXPECT_EQ(AceptarConfiguracion(aplicacion, caja, elegida), ResultadoConfiguracion::SinGuardar);
+    EXPECT_EQ(aplicacion.Preferencias.TamanoAyuda, 4);
+    EXPECT_EQ(AceptarConfiguracion(aplicacion, caja, elegida), ResultadoConfiguracion::Guardada);
+    EXPECT_EQ(LeerRegistros(LeerArchivo(Usuario("Tapiz.tbx"))).TamanoAyuda, 7);
+    EXPECT_EQ(caja.Mensajes[0].Botones, BotonesCaja::SiNoCancelar);
+}
+
+struct VistaReparacion : VistaCompactar {
+    void MostrarProgreso(bool visible) override { Progreso = visible; }
+    void Avanzar(double porcentaje, const std::string& rotulo) override {
+        Avance = porcentaje;
+        Rotulos.push_back(rotulo);
+    }
+    void PunteroDeEspera(bool espera) override { Espera = espera; }
+    void RefrescarLista() override { ++Refrescos; }
+    void Cerrar() override { Cerrada = true; }
+    bool Progreso = false, Espera = false, Cerrada = false;
+    double Avance = 0;
+    int Refrescos = 0;
+    std::vector<std::string> Rotulos;
+};
+
+TEST_F(Arranque, RepararRehaceCadaArchivoElegido) {
+    Arrancar();
+    const auto proyectos = Usuario("Proyectos");
+    for (const char* nombre : {"b.los", "Á.LOS"}) {
+        ASSERT_TRUE(CrearBaseDatos(proyectos / nombre, prueba::EsquemaDeProyecto()));
+        ProyectoAbierto proyecto;
+        prueba::Abrir(proyecto, proyectos / nombre);
+        Losa losa = prueba::LosaContinua({4, 5}, 100);
+        ASSERT_TRUE(prueba::AgregarLosa(proyecto, losa));
+    }
+    EscribirArchivo(Usuario("Temporales/resto.txt"), "x");
+    EXPECT_EQ(ListarProyectos(proyectos),
+              (std::vector<std::string>{"Á.LOS", "b.los", "Ejemplo Demostrativo.los"}));
+    VistaReparacion vista;
+    Compactar1 reparacion(aplicacion, vista, caja);
+    reparacion.Aceptar(proyectos, {});
+    EXPECT_EQ(caja.Mensajes.back().Texto, "No ha Seleccionado ningún Archivo...");
+    EXPECT_EQ(caja.Mensajes.back().Titulo, "Reparar y Compactar Archivos");
+    EXPECT_FALSE(vista.Cerrada);
+    reparacion.Aceptar(proyectos, {"Á.LOS", "b.los"});
+    EXPECT_EQ(caja.Mensajes.back().Texto, "¡Se Repararon Y Compactaron ( 2 ) Archivos con Exito!");
+    EXPECT_EQ(vista.Rotulos[0], "Archivo: Á.LOS");
+    EXPECT_EQ(vista.Avance, 100);
+    EXPECT_TRUE(vista.Cerrada);
+    EXPECT_FALSE(vista.Espera || vista.Progreso || std::filesystem::exists(Usuario("Temporales/resto.txt")));
+    ProyectoAbierto proyecto;
+    ASSERT_TRUE(prueba::Abrir(proyecto, proyectos / "b.los"));
+    EXPECT_EQ(proyecto.RegistrosProyecto.NumeroRegistros(), 1);
+    proyecto.ConexionProyecto.Cerrar();
+
+    // A read-only file stops the run; what was done before stays done, and the file stays as it was.
+    std::filesystem::permissions(proyectos / "b.los", std::filesystem::perms(0444));
+    const std::string antes = LeerArchivo(proyectos / "b.los");
+    vista.Cerrada = false;
+    reparacion.Aceptar(proyectos, {"Á.LOS", "b.los"});
+    EXPECT_EQ(caja.Mensajes.back().Texto, "Número de Error: 75\nError de acceso a la ruta o al archivo");
+    EXPECT_EQ(caja.Mensajes.back().Encabezado, "¡Falló la Acción de Reparar Y Compactar el Archivo!");
+    EXPECT_EQ(LeerArchivo(proyectos / "b.los"), antes);
+    EXPECT_FALSE(vista.Cerrada);
+
+    // What is no database: the engine's box, then the failure of the copy.
+    caja.Mensajes.clear();
+    reparacion.Aceptar(proyectos, {"Ejemplo Demostrativo.los"});
+    ASSERT_EQ(caja.Mensajes.size(), 2U);
+    EXPECT_EQ(caja.Mensajes[0].Titulo, "Error Inesperado");
+    EXPECT_EQ(caja.Mensajes[1].Texto, "Número de Error: 53\nNo se encontró el archivo");
+}
+
+TEST(CajaMensajes, MedidasYTeclas) {
+    EXPECT_EQ(AnchoCaja(BotonesCaja::Aceptar, 100, 100), 3900);
+    EXPECT_EQ(AnchoCaja(BotonesCaja::SiNo, 5000, 100), 5200);
+    EXPECT_EQ(AnchoCaja(BotonesCaja::SiNoCancelar, 100, 20000), 10850);
+    EXPECT_EQ(DisenoDe(BotonesCaja::Aceptar).Escape, RespuestaAceptarONo);
+    EXPECT_EQ(DisenoDe(BotonesCaja::SiNo).Escape, std::nullopt);
+    EXPECT_EQ(DisenoDe(BotonesCaja::SiNoCancelar).Escape, RespuestaCancelar);
+}
+
+}  // namespace
+}  // namespace trabex

@@ -1,0 +1,216 @@
+#include <gtest/gtest.h>
+
+#include "shell/Arranque.h"
+#include "shell/Comandos.h"
+#include "shell/DatosProyecto.h"
+#include "shell/MenuPrincipal.h"
+#include "slab/ui/LosaGeneral.h"
+#include "support/CarpetaTemporal.h"
+#include "support/ProyectoDePrueba.h"
+#include "support/ShellGuiado.h"
+
+namespace trabex {
+namespace {
+
+using prueba::EscribirArchivo;
+using prueba::LeerArchivo;
+
+struct VistaGuiada : VistaMenuPrincipal {
+    void PonerTitulo(const std::string& titulo) override { Titulo = titulo; }
+    void PonerRevision(const std::string& texto) override { Revision = texto; }
+    void HabilitarSalvarComo(bool habilitado) override { SalvarComo = habilitado; }
+    void PunteroDeEspera(bool espera) override { Espera = espera; }
+    void PonerTapiz(const Tapiz&) override {}
+    void Repintar() override {}
+    void Cerrar() override { Cerrada = true; }
+    void MostrarDatosProyecto() override {
+        Mostradas.push_back("DatosProyecto");
+        if (AlMostrar) AlMostrar();
+    }
+    void MostrarConfiguracion() override { Mostradas.push_back("Configuracion"); }
+    void MostrarReparacion() override { Mostradas.push_back("Reparacion"); }
+    void MostrarSobre() override { Mostradas.push_back("Sobre"); }
+    void MostrarEspacio(Espacio espacio) override {
+        Mostradas.push_back("Espacio " + std::to_string(static_cast<int>(espacio)));
+    }
+    std::string Titulo, Revision;
+    bool SalvarComo = true, Espera = true, Cerrada = false;
+    std::vector<std::string> Mostradas;
+    std::function<void()> AlMostrar;
+};
+
+class Menu_ : public testing::Test {
+  protected:
+    Menu_() : plataforma(carpeta.Camino()) {
+        CrearBaseDatos(Plantilla(), prueba::EsquemaDeProyecto());
+        PrepararArranque(plataforma, aplicacion);
+        menu.Iniciar();
+    }
+    std::filesystem::path Plantilla() const { return carpeta / "programa" / "Imagen" / "LosaImagen.tbx"; }
+
+    prueba::CarpetaTemporal carpeta;
+    prueba::PlataformaGuiada plataforma;
+    prueba::CajaGuiada caja;
+    prueba::DialogosGuiados dialogos;
+    VistaGuiada vista;
+    Aplicacion aplicacion;
+    MenuPrincipal menu{aplicacion, vista, caja, dialogos, plataforma};
+};
+
+TEST_F(Menu_, Empieza) {
+    EXPECT_EQ(vista.Titulo, "Trabex 2024   Proyecto:[]");
+    EXPECT_EQ(vista.Revision, "Revisión del Programa: 24.0.0");
+    EXPECT_FALSE(vista.SalvarComo);
+    EXPECT_FALSE(vista.Espera);
+    EXPECT_EQ(aplicacion.SeparadoresLocales.Miles, ".");
+    EXPECT_EQ(LeerSeparadores("1 234.56").Decimal, ".");
+    EXPECT_EQ(LeerSeparadores("1234.56").Decimal, ",");
+}
+
+TEST_F(Menu_, NuevoSobreUnoExistenteReemplazaSeRespondaLoQueSeResponda) {
+    const auto archivo = aplicacion.CaminoUsuario / "Proyectos" / "Año Ñ 1.los";
+    for (const std::int16_t respuesta : {RespuestaSi, RespuestaAceptarONo}) {
+        EscribirArchivo(archivo, "lo que había");
+        caja.Mensajes.clear();
+        caja.Respuestas = {RespuestaCancelar, respuesta};  // 2 alone comes back to the dialog
+        dialogos.Elegidos = {archivo, archivo};
+        bool nuevo = false;
+        vista.AlMostrar = [&] { nuevo = aplicacion.ProyectoNuevo; };
+        menu.Ejecutar("ID_Nuevo");
+        ASSERT_EQ(caja.Mensajes.size(), 2U);
+        EXPECT_EQ(caja.Mensajes[0].Texto,
+                  "Proyecto: Año Ñ 1.los\n¿Esta Seguro de Reemplazar el Proyecto Existente?");
+        EXPECT_EQ(caja.Mensajes[0].Encabezado, "Crear un Nuevo Proyecto...");
+        EXPECT_EQ(LeerArchivo(archivo), LeerArchivo(Plantilla()));
+        EXPECT_TRUE(nuevo);
+        EXPECT_FALSE(aplicacion.ProyectoNuevo);
+        EXPECT_TRUE(vista.SalvarComo);
+        EXPECT_EQ(vista.Titulo, "Trabex 2024   Proyecto:[Año Ñ 1.los]");
+    }
+    EXPECT_TRUE(dialogos.Peticiones[0].AvisarReemplazo);
+}
+
+TEST_F(Menu_, SinPlantillaElNuevoFallaConSuCodigo) {
+    const auto archivo = aplicacion.CaminoUsuario / "Proyectos" / "obra.los";
+    EscribirArchivo(archivo, "viejo");
+    std::filesystem::remove(Plantilla());
+    dialogos.Elegidos = {archivo};
+    menu.Ejecutar("ID_Nuevo");
+    EXPECT_EQ(caja.Mensajes.back().Texto, "Error Número: 53\nNo se encontró el archivo");
+    EXPECT_EQ(caja.Mensajes.back().Encabezado, "Error Inesperado...");
+    EXPECT_FALSE(std::filesystem::exists(archivo));
+    EXPECT_EQ(vista.Titulo, "Trabex 2024   Proyecto:[obra.los]");
+    EXPECT_TRUE(vista.Mostradas.empty());
+    EXPECT_FALSE(vista.Espera);
+    dialogos.Elegidos = {carpeta / "no hay" / "x.los"};
+    CrearBaseDatos(Plantilla(), prueba::EsquemaDeProyecto());
+    menu.Ejecutar("ID_Nuevo");
+    EXPECT_EQ(caja.Mensajes.back().Texto, "Error Número: 76\nNo se encontró la ruta de acceso");
+}
+
+TEST_F(Menu_, SalvarComoNuncaPisaUnArchivo) {
+    const auto proyectos = aplicacion.CaminoUsuario / "Proyectos";
+    EscribirArchivo(proyectos / "Obra Ñ.los", "mío");
+    EscribirArchivo(proyectos / "otra.los", "ajeno");
+    std::filesystem::create_symlink(proyectos / "Obra Ñ.los", proyectos / "enlace.los");
+    dialogos.Elegidos = {proyectos / "Obra Ñ.los"};
+    menu.Ejecutar("ID_Abrir");
+    EXPECT_EQ(dialogos.Peticiones.back().Filtro, "Archivos de Proyectos (.losa)|*.los");
+
+    caja.Respuestas = {0, RespuestaSi, RespuestaSi};
+    dialogos.Elegidos = {proyectos / "OBRA ñ.los", proyectos / "otra.los", proyectos / "enlace.los",
+                         proyectos / "copia.los"};
+    menu.Ejecutar("ID_SalvarComo");
+    ASSERT_EQ(caja.Mensajes.size(), 3U);
+    EXPECT_EQ(caja.Mensajes[0].Texto,
+              "Proyecto: OBRA ñ.los\n!No se puede Salvar el Proyecto con el mismo Nombre!");
+    EXPECT_EQ(caja.Mensajes[1].Texto, "El Proyecto: otra.los  Ya Existe...\n¿Desea Usted Reemplazarlo?");
+    EXPECT_EQ(LeerArchivo(proyectos / "otra.los"), "ajeno");
+    EXPECT_EQ(LeerArchivo(proyectos / "Obra Ñ.los"), "mío");
+    EXPECT_EQ(LeerArchivo(proyectos / "copia.los"), "mío");
+    EXPECT_EQ(aplicacion.ArchivoProyecto, proyectos / "copia.los");
+
+    std::filesystem::remove(proyectos / "copia.los");
+    dialogos.Elegidos = {proyectos / "última.los"};
+    menu.Ejecutar("ID_SalvarComo");
+    EXPECT_EQ(caja.Mensajes.back().Texto, "Error Número: 53\nNo se encontró el archivo");
+    EXPECT_EQ(aplicacion.NombreProyecto, "copia.los");
+}
+
+TEST_F(Menu_, LosComandosDeUnProyectoPrimeroLoAbren) {
+    for (const auto& [clave, espacio] : {std::pair{"ID_LosasD", "Espacio 0"},
+                                         {"ID_Marcus", "Espacio 1"},
+                                         {"ID_CargaP", "Espacio 2"},
+                                         {"ID_Tijera", "Espacio 3"},
+                                         {"ID_EscaleraH", "Espacio 4"},
+                                         {"ID_Modificar", "DatosProyecto"}}) {
+        aplicacion.NombreProyecto = "  ";
+        vista.Mostradas.clear();
+        menu.Ejecutar(clave);  // the dialog is cancelled
+        EXPECT_TRUE(vista.Mostradas.empty()) << clave;
+        EXPECT_EQ(dialogos.Peticiones.back().Titulo, "Abrir un Proyecto Existente");
+        dialogos.Elegidos = {carpeta / "x.los"};
+        menu.Ejecutar(clave);
+        EXPECT_EQ(vista.Mostradas, std::vector<std::string>{espacio});
+        EXPECT_FALSE(vista.Espera);
+    }
+    EXPECT_FALSE(aplicacion.EscaleraHelicoidal && aplicacion.NombreProyecto.empty());
+    aplicacion.NombreProyecto.clear();
+    menu.Ejecutar("ID_Carga");
+    EXPECT_EQ(vista.Mostradas.back(), "Espacio 5");
+    menu.Ejecutar("ID_Normas");  // known to the menu, dispatched by none
+    menu.Ejecutar("ID_Explorador");
+    EXPECT_EQ(plataforma.Abiertos.back(), aplicacion.CaminoUsuario / "Proyectos");
+    menu.Ejecutar("ID_Salida");
+    EXPECT_TRUE(vista.Cerrada);
+}
+
+TEST_F(Menu_, LosDatosDelProyectoQuedanEnSuUnicaFila) {
+    const auto archivo = aplicacion.CaminoUsuario / "Proyectos" / "obra.los";
+    dialogos.Elegidos = {archivo};
+    menu.Ejecutar("ID_Nuevo");
+    DatosProyecto datos(aplicacion, caja);
+    EXPECT_EQ(datos.Leer().Calculista, "ING. NÚÑEZ");
+    DatosDelProyecto nuevos = aplicacion.Datos;
+    nuevos.Proyecto = "EDIFICIO";
+    EXPECT_TRUE(datos.Salvar(nuevos));
+    EXPECT_TRUE(datos.Salvar(nuevos));
+    ProyectoAbierto proyecto;
+    ASSERT_TRUE(prueba::Abrir(proyecto, archivo));
+    Recordset filas;
+    AbrirRecordset(proyecto.ConexionProyecto, filas, "Proyecto");
+    EXPECT_EQ(filas.NumeroRegistros(), 1);
+    EXPECT_EQ(filas.Texto("Proyecto"), "EDIFICIO");
+
+    DatosGenerales generales;
+    LosaGeneral general(proyecto.ConexionProyecto, generales);
+    DatosGenerales entrados;
+    entrados.FCV = 0;
+    entrados.FiCorte = 0;
+    EXPECT_EQ(LosaGeneral::PrimerCero(entrados), CampoLosaGeneral::FCV);
+    entrados = {};
+    entrados.FC = 280;
+    EXPECT_TRUE(general.Aceptar(entrados) && general.Aceptar(entrados));
+    AbrirRecordset(proyecto.ConexionProyecto, filas, "LosaG");
+    EXPECT_EQ(filas.NumeroRegistros(), 1);
+    EXPECT_EQ(filas.Entero16("FC"), 280);
+    EXPECT_EQ(generales.FC, 280);
+
+    EscribirArchivo(archivo, "ya no es un proyecto");
+    EXPECT_FALSE(datos.Salvar(nuevos));
+    EXPECT_EQ(LeerArchivo(archivo), "ya no es un proyecto");
+}
+
+TEST(Comandos, CadaUnoUnaVezYConSuIcono) {
+    std::vector<std::string_view> claves;
+    for (const Comando& comando : Comandos) {
+        EXPECT_EQ(std::count(claves.begin(), claves.end(), comando.Clave), 0);
+        claves.push_back(comando.Clave);
+        const auto icono =
+            std::filesystem::path(TRABEX_INSTALL) / "iconos" / (std::string(comando.Icono) + ".svg");
+        EXPECT_TRUE(std::filesystem::exists(icono)) << icono;
+    }
+}
+
+}  // namespace
+}  // namespace trabex

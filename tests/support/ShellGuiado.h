@@ -1,0 +1,67 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "shell/CajaMensajes.h"
+#include "shell/DialogosArchivo.h"
+#include "shell/Plataforma.h"
+
+namespace trabex::prueba {
+
+/// Answers the message box from a script and keeps what was asked; past the script it answers 0.
+class CajaGuiada : public CajaMensajes {
+  public:
+    std::int16_t Mostrar(const Mensaje& mensaje) override {
+        Mensajes.push_back(mensaje);
+        if (Respuestas.empty()) return RespuestaAceptarONo;
+        const std::int16_t respuesta = Respuestas.front();
+        Respuestas.pop_front();
+        return respuesta;
+    }
+    std::vector<Mensaje> Mensajes;
+    std::deque<std::int16_t> Respuestas;
+};
+
+/// Chooses files from a script; past it the user cancels.
+class DialogosGuiados : public DialogosArchivo {
+  public:
+    std::optional<std::filesystem::path> Elegir(const PeticionArchivo& peticion) override {
+        Peticiones.push_back(peticion);
+        if (Elegidos.empty()) return std::nullopt;
+        const auto elegido = Elegidos.front();
+        Elegidos.pop_front();
+        return elegido;
+    }
+    std::vector<PeticionArchivo> Peticiones;
+    std::deque<std::filesystem::path> Elegidos;
+};
+
+/// A machine whose folders are all below one.
+class PlataformaGuiada : public Plataforma {
+  public:
+    explicit PlataformaGuiada(std::filesystem::path raiz) : raiz_(std::move(raiz)) {
+        std::filesystem::create_directories(raiz_ / "programa" / "Imagen");
+        std::filesystem::create_directories(raiz_ / "Documentos");
+    }
+    std::filesystem::path CarpetaDelPrograma() const override { return raiz_ / "programa"; }
+    std::filesystem::path CarpetaDeDocumentos() const override { return raiz_ / "Documentos"; }
+    std::optional<std::filesystem::path> RaizComun() const override { return raiz_ / "C"; }
+    std::string NombreDelUsuario() const override { return "ING. NÚÑEZ"; }
+    std::string NumeroDeMuestra() const override { return "1.234,56"; }
+    bool AbrirArchivo(const std::filesystem::path& archivo) override {
+        Abiertos.push_back(archivo);
+        return true;
+    }
+    bool AbrirCarpeta(const std::filesystem::path& carpeta) override { return AbrirArchivo(carpeta); }
+    bool InformacionDelSistema() override { return true; }
+
+    std::vector<std::filesystem::path> Abiertos;
+
+  private:
+    std::filesystem::path raiz_;
+};
+
+}  // namespace trabex::prueba
