@@ -3,6 +3,7 @@
 #include <QDate>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
 #include <QPlainTextEdit>
@@ -68,7 +69,9 @@ void VentanaDatosProyecto::Armar() {
     filaFecha->addWidget(fechaTexto_);
     filaFecha->addWidget(calendario);
     filaFecha->addStretch(1);
-    formulario->addRow("&Fecha:", filaFecha);
+    auto* rotuloFecha = new QLabel("&Fecha:", this);
+    rotuloFecha->setBuddy(fechaTexto_);
+    formulario->addRow(rotuloFecha, filaFecha);
     formulario->addRow("C&liente:", cliente_);
     formulario->addRow("Co&mentario:", comentario_);
 

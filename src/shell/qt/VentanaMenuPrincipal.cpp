@@ -61,8 +61,8 @@ void VentanaMenuPrincipal::CrearAcciones() {
     }
     Accion("ID_Nuevo")->setShortcut(QKeySequence::New);
     Accion("ID_Abrir")->setShortcut(QKeySequence::Open);
-    Accion("ID_SalvarComo")->setShortcut(QKeySequence::SaveAs);
-    Accion("ID_Temas")->setShortcut(QKeySequence::HelpContents);
+    Accion("ID_SalvarComo")->setShortcut(QKeySequence("Ctrl+Shift+S"));
+    Accion("ID_Temas")->setShortcut(QKeySequence("F1"));
 }
 
 void VentanaMenuPrincipal::CrearMenus() {

@@ -1,0 +1,98 @@
+"""A private virtual desktop with the real program on it, driven by mouse and keyboard."""
+
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+
+ESPERA = 20
+
+
+def exigir(*programas):
+    faltan = [programa for programa in programas if shutil.which(programa) is None]
+    if faltan:
+        print("skipped: not installed:", *faltan)
+        sys.exit(77)
+
+
+class Escritorio:
+    def __init__(self, programa, tamano="1280x800", fotos=None):
+        exigir("Xvfb", "xdotool", "openbox")
+        self.carpeta = pathlib.Path(tempfile.mkdtemp(prefix="trabex e2e ñ "))
+        self.fotos = fotos
+        self.procesos = []
+        hogar = self.carpeta / "hogar"
+        (hogar / ".config").mkdir(parents=True)
+        (hogar / ".config" / "user-dirs.dirs").write_text('XDG_DOCUMENTS_DIR="$HOME/Documentos"\n')
+        entorno = {clave: valor for clave, valor in os.environ.items() if not clave.startswith(("XDG_", "QT_"))}
+        self.entorno = entorno | {"HOME": str(hogar), "XDG_RUNTIME_DIR": str(hogar), "QT_QPA_PLATFORM": "xcb",
+                                  "LC_ALL": "C.UTF-8"}
+        self.usuario = hogar / "Documentos" / "Nodara Software" / "Trabex24"
+        self._pantalla(tamano)
+        self.lanzar("openbox")
+        self.programa = self.lanzar(programa)
+
+    def _pantalla(self, tamano):
+        lectura, escritura = os.pipe()
+        self.procesos.append(subprocess.Popen(
+            ["Xvfb", "-displayfd", str(escritura), "-screen", "0", tamano + "x24"], pass_fds=[escritura],
+            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
+        os.close(escritura)
+        with os.fdopen(lectura) as tubo:
+            self.entorno["DISPLAY"] = ":" + tubo.readline().strip()
+
+    def lanzar(self, *orden):
+        proceso = subprocess.Popen(orden, env=self.entorno, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self.procesos.append(proceso)
+        return proceso
+
+    def xdotool(self, *argumentos):
+        return subprocess.run(["xdotool", *map(str, argumentos)], env=self.entorno, capture_output=True, text=True)
+
+    def hasta(self, condicion, que):
+        limite = time.monotonic() + ESPERA
+        while time.monotonic() < limite:
+            valor = condicion()
+            if valor:
+                return valor
+            time.sleep(0.1)
+        raise AssertionError(f"did not come: {que}; windows: {self.titulos()}")
+
+    def titulos(self):
+        ids = self.xdotool("search", "--onlyvisible", "--name", ".+").stdout.split()
+        return [self.xdotool("getwindowname", i).stdout.strip() for i in ids]
+
+    def ventana(self, titulo):
+        """Waits for a window of that exact title, and until it has the keyboard."""
+        def activa():
+            actual = self.xdotool("getactivewindow").stdout.strip()
+            return actual and self.xdotool("getwindowname", actual).stdout.strip() == titulo and actual
+        numero = self.hasta(activa, titulo)
+        time.sleep(0.25)
+        if self.fotos:
+            nombre = "".join(c if c.isalnum() else "-" for c in titulo)
+            subprocess.run(["import", "-window", "root", f"{self.fotos}/{len(os.listdir(self.fotos)):02}-{nombre}.png"],
+                           env=self.entorno)
+        return numero
+
+    def teclas(self, *teclas):
+        self.xdotool("key", "--clearmodifiers", "--delay", 40, *teclas)
+
+    @staticmethod
+    def respiro():
+        time.sleep(0.5)
+
+    def escribir(self, texto):
+        self.xdotool("type", "--clearmodifiers", "--delay", 8, texto)
+
+    def pulsar(self, ventana, x, y):
+        self.xdotool("mousemove", "--window", ventana, x, y, "click", 1)
+
+    def cerrar(self):
+        for proceso in reversed(self.procesos):
+            proceso.kill()
+            proceso.wait()
+        shutil.rmtree(self.carpeta, ignore_errors=True)

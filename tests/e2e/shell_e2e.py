@@ -1,0 +1,81 @@
+"""The life of a project in the real program: new, its data, save as, open, repair, exit."""
+
+import contextlib
+import sqlite3
+import sys
+
+from escritorio import Escritorio
+
+SIN_PROYECTO = "Trabex 2024   Proyecto:[]"
+BOTON_NUEVO = (20, 50)   # first of the tool bar
+
+
+def filas(archivo, consulta):
+    with contextlib.closing(sqlite3.connect(archivo)) as base:
+        return base.execute(consulta).fetchall()
+
+
+def recorrer(e):
+    proyectos = e.usuario / "Proyectos"
+    principal = e.ventana(SIN_PROYECTO)
+    assert (proyectos / "Ejemplo Demostrativo.los").exists()
+    assert (e.usuario / "Tapiz.tbx").stat().st_size == 1280
+
+    e.pulsar(principal, *BOTON_NUEVO)
+    e.ventana("Crear un Nuevo Proyecto")
+    e.escribir("obra uno")
+    e.teclas("Return")
+    e.ventana("DATOS DEL PROYECTO")
+    e.escribir("EDIFICIO LA CEIBA")
+    e.teclas("Tab")
+    e.escribir("INVERSIONES")
+    e.teclas("Return")
+    e.ventana("Trabex 2024   Proyecto:[obra uno.los]")
+    obra = proyectos / "obra uno.los"
+    assert filas(obra, "SELECT Proyecto, Propietario FROM Proyecto") == [("EDIFICIO LA CEIBA", "INVERSIONES")]
+
+    e.teclas("ctrl+shift+s")
+    e.ventana("Salvar el Proyecto Como...")
+    e.escribir("obra uno")
+    e.teclas("Return")
+    e.ventana("Trabex 2024")   # refused: the same name
+    e.teclas("Return")
+    e.ventana("Salvar el Proyecto Como...")
+    e.escribir("obra dos")
+    e.teclas("Return")
+    e.ventana("Trabex 2024   Proyecto:[obra dos.los]")
+    assert (proyectos / "obra dos.los").read_bytes() == obra.read_bytes()
+
+    e.teclas("ctrl+o")
+    e.ventana("Abrir un Proyecto Existente")
+    e.escribir("obra uno.los")
+    e.teclas("Return")
+    e.ventana("Trabex 2024   Proyecto:[obra uno.los]")
+
+    e.teclas("alt+m", "Down", "Return")
+    e.ventana("Reparar y Compactar Archivos")
+    e.teclas("alt+t")
+    e.respiro()   # a button pressed by its letter takes a moment
+    e.teclas("Return")
+    e.ventana("Trabex 2024")   # so many files repaired
+    e.teclas("Return")
+    e.ventana("Trabex 2024   Proyecto:[obra uno.los]")
+    assert filas(obra, "SELECT Proyecto FROM Proyecto") == [("EDIFICIO LA CEIBA",)]
+    assert len(filas(proyectos / "Ejemplo Demostrativo.los", "SELECT * FROM LosaDatos")) >= 8
+    assert list((e.usuario / "Temporales").glob("DBT_*.mdb"))
+
+    e.teclas("alt+p", "s")
+    assert e.programa.wait(timeout=10) == 0
+
+
+def main():
+    escritorio = Escritorio(sys.argv[1], fotos=sys.argv[2] if len(sys.argv) > 2 else None)
+    try:
+        recorrer(escritorio)
+    finally:
+        escritorio.cerrar()
+    print("1 passed, 0 failed")
+
+
+if __name__ == "__main__":
+    main()
