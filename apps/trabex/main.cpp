@@ -8,6 +8,7 @@
 #include "shell/Arranque.h"
 #include "shell/qt/CajaMensajesQt.h"
 #include "shell/qt/DialogosArchivoQt.h"
+#include "shell/qt/Iconos.h"
 #include "shell/qt/PlataformaQt.h"
 #include "shell/qt/VentanaMenuPrincipal.h"
 #include "shell/qt/VentanaSplash.h"
@@ -26,6 +27,7 @@ int main(int argc, char** argv) {
     QApplication programa(argc, argv);
     QApplication::setOrganizationName("Nodara Software");
     QApplication::setApplicationName("Trabex24");
+    QApplication::setWindowIcon(trabex::Figura("trabex", 48));
     QTranslator textosDelToolkit;
     if (textosDelToolkit.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&textosDelToolkit);

@@ -8,6 +8,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSplitter>
+#include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -34,8 +35,12 @@ VentanaCompactar::VentanaCompactar(Aplicacion& aplicacion, CajaMensajes& caja, Q
     carpetas_->scrollTo(inicio, QAbstractItemView::PositionAtCenter);
     connect(carpetas_->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this] { RefrescarLista(); });
+    // The tree fills while the model reads the folders above: each time, the current one is brought back to
+    // sight.
     connect(modelo_, &QFileSystemModel::directoryLoaded, this, [this] {
-        if (archivos_->selectedItems().isEmpty()) carpetas_->scrollTo(carpetas_->currentIndex());
+        QTimer::singleShot(50, this, [this] {
+            carpetas_->scrollTo(carpetas_->currentIndex(), QAbstractItemView::PositionAtCenter);
+        });
     });
     RefrescarLista();
     PrepararVentana(this, aplicacion_.Preferencias);

@@ -1,0 +1,174 @@
+// What wiring can break: real widgets, pressed and typed into without a display.
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include "shell/Arranque.h"
+#include "shell/Comandos.h"
+#include "shell/qt/CajaMensajesQt.h"
+#include "shell/qt/ComunVentanas.h"
+#include "shell/qt/VentanaCompactar.h"
+#include "shell/qt/VentanaConfigurar.h"
+#include "shell/qt/VentanaDatosProyecto.h"
+#include "shell/qt/VentanaMenuPrincipal.h"
+#include "slab/ui/qt/VentanaLosaGeneral.h"
+#include "support/CarpetaTemporal.h"
+#include "support/ProyectoDePrueba.h"
+#include "support/ShellGuiado.h"
+
+namespace trabex {
+namespace {
+
+QAbstractButton* BotonDe(QWidget& ventana, const QString& texto) {
+    for (QAbstractButton* boton : ventana.findChildren<QAbstractButton*>()) {
+        if (boton->text().remove('&').trimmed() == texto) return boton;
+    }
+    ADD_FAILURE() << texto.toStdString();
+    return nullptr;
+}
+
+struct EspaciosGuiados : EspaciosDeTrabajo {
+    void Mostrar(Espacio espacio, QWidget*) override { Mostrados.push_back(espacio); }
+    std::vector<Espacio> Mostrados;
+};
+
+class Ventanas : public testing::Test {
+  protected:
+    Ventanas() : plataforma(carpeta.Camino()) {
+        QPixmap mapa(40, 30);
+        mapa.fill(Qt::gray);
+        mapa.save(Q((carpeta / "programa" / "Imagen" / "TapizTBX.jpg").string()));
+        PrepararArranque(plataforma, aplicacion);
+        aplicacion.ArchivoProyecto = aplicacion.CaminoUsuario / "Proyectos" / "obra.los";
+        aplicacion.NombreProyecto = "obra.los";
+        CrearBaseDatos(aplicacion.ArchivoProyecto, prueba::EsquemaDeProyecto());
+    }
+    prueba::CarpetaTemporal carpeta;
+    prueba::PlataformaGuiada plataforma;
+    prueba::CajaGuiada caja;
+    prueba::DialogosGuiados dialogos;
+    Aplicacion aplicacion;
+};
+
+TEST_F(Ventanas, LaCajaRespondePorBotonYPorEscape) {
+    struct Caso {
+        BotonesCaja botones;
+        int tecla;
+        const char* boton;
+        std::int16_t respuesta;
+        bool cierra;
+    };
+    for (const Caso& caso :
+         {Caso{BotonesCaja::Aceptar, Qt::Key_Escape, "", 0, true},
+          Caso{BotonesCaja::SiNo, Qt::Key_Escape, "", 0, false},
+          Caso{BotonesCaja::SiNoCancelar, Qt::Key_Escape, "", 2, true},
+          Caso{BotonesCaja::SiNo, 0, "Sí", 1, true}, Caso{BotonesCaja::SiNo, 0, "No", 0, true},
+          Caso{BotonesCaja::SiNoCancelar, Qt::Key_Return, "", 0, true}}) {
+        Mensaje mensaje = Pregunta("Una línea\nOtra línea", "Encabezado...");
+        mensaje.Botones = caso.botones;
+        mensaje.PorDefecto = 1;
+        VentanaMensaje ventana(mensaje, nullptr);
+        ventana.show();
+        if (caso.tecla != 0)
+            QTest::keyClick(&ventana, static_cast<Qt::Key>(caso.tecla));
+        else
+            BotonDe(ventana, caso.boton)->click();
+        EXPECT_EQ(ventana.isVisible(), !caso.cierra);
+        EXPECT_EQ(ventana.Respuesta(), caso.respuesta);
+        EXPECT_GE(ventana.width(), caso.botones == BotonesCaja::Aceptar ? 260 : 286);
+    }
+}
+
+TEST_F(Ventanas, ElMenuMandaLosComandos) {
+    EspaciosGuiados espacios;
+    VentanaMenuPrincipal menu(aplicacion, caja, dialogos, plataforma, espacios);
+    EXPECT_EQ(menu.windowTitle(), "Trabex 2024   Proyecto:[]");
+    for (const Comando& comando : Comandos) {
+        ASSERT_NE(menu.Accion(comando.Clave), nullptr);
+        EXPECT_FALSE(menu.Accion(comando.Clave)->icon().isNull());
+        EXPECT_EQ(menu.Accion(comando.Clave)->isEnabled(),
+                  comando.Construido && comando.Clave != "ID_SalvarComo");
+    }
+    dialogos.Elegidos = {carpeta / "otra.los"};
+    menu.Accion("ID_Abrir")->trigger();
+    EXPECT_EQ(menu.windowTitle(), "Trabex 2024   Proyecto:[otra.los]");
+    EXPECT_TRUE(menu.Accion("ID_SalvarComo")->isEnabled());
+    menu.Accion("ID_LosasD")->setEnabled(true);  // as when its window exists
+    menu.Accion("ID_LosasD")->trigger();
+    EXPECT_EQ(espacios.Mostrados, std::vector<Espacio>{Espacio::Losas});
+    menu.Accion("ID_Explorador")->trigger();
+    EXPECT_EQ(plataforma.Abiertos.size(), 1U);
+}
+
+TEST_F(Ventanas, LosDatosTecleadosLleganAlArchivo) {
+    VentanaDatosProyecto ventana(aplicacion, caja, nullptr);
+    ventana.show();
+    QTest::keyClicks(ventana.findChild<QLineEdit*>("Proyecto"), "EDIFICIO 1");
+    auto* fecha = ventana.findChild<QLineEdit*>("Fecha");
+    fecha->setText("31/02/2024");
+    BotonDe(ventana, "Salvar")->click();
+    EXPECT_TRUE(ventana.isVisible());  // no such day: the field takes the focus
+    fecha->setText("29/02/2024");
+    BotonDe(ventana, "Salvar")->click();
+    EXPECT_FALSE(ventana.isVisible());
+    Conexion conexion;
+    DatosDelProyecto datos;
+    AbrirConexion(conexion, aplicacion.ArchivoProyecto);
+    LeerProyecto(conexion, "", datos);
+    EXPECT_EQ(datos.Proyecto, "EDIFICIO 1");
+    EXPECT_EQ(FormatoFecha(datos.Fecha), "29/02/2024");
+}
+
+TEST_F(Ventanas, UnCeroEnLosGeneralesTomaElFoco) {
+    AbrirConexion(aplicacion.Proyecto.ConexionProyecto, aplicacion.ArchivoProyecto);
+    VentanaLosaGeneral ventana(aplicacion, caja, nullptr);
+    ventana.show();
+    const auto campos = ventana.findChildren<QLineEdit*>();
+    ASSERT_EQ(campos.size(), 7);
+    EXPECT_EQ(campos[2]->text(), "0,025");
+    campos[6]->setText("0");
+    BotonDe(ventana, "Aceptar")->click();
+    EXPECT_TRUE(ventana.isVisible());
+    EXPECT_EQ(ventana.focusWidget(), campos[6]);
+    campos[6]->setText("0.85");  // a point does for a comma
+    BotonDe(ventana, "Aceptar")->click();
+    EXPECT_FALSE(ventana.isVisible());
+    EXPECT_EQ(aplicacion.Generales.FiCorte, 0.85);
+}
+
+TEST_F(Ventanas, LaConfiguracionSeGuardaAlAceptar) {
+    caja.Respuestas = {RespuestaSi};
+    VentanaConfigurar ventana(aplicacion, caja, dialogos, nullptr);
+    BotonDe(ventana, "Ajustar la Imagen")->click();
+    BotonDe(ventana, "Al fondo")->click();
+    ventana.findChild<QComboBox*>()->setCurrentIndex(6);
+    BotonDe(ventana, "Aceptar")->click();
+    EXPECT_TRUE(ventana.Guardada());
+    const Tapiz guardada = LeerTapiz(ArchivoTapiz(aplicacion), ImagenPorDefecto(aplicacion));
+    EXPECT_TRUE(guardada.Ajustar);
+    EXPECT_EQ(guardada.Vertical, 2);
+    EXPECT_EQ(guardada.TamanoAyuda, 7);
+}
+
+TEST_F(Ventanas, LaReparacionTomaLoElegido) {
+    VentanaCompactar ventana(aplicacion, caja, nullptr);
+    ventana.show();
+    ASSERT_EQ(ventana.findChild<QListWidget*>()->count(), 1);
+    BotonDe(ventana, "Aceptar")->click();
+    EXPECT_EQ(caja.Mensajes.back().Encabezado, "Reparar Archivos...");
+    BotonDe(ventana, "Seleccionar Todos")->click();
+    BotonDe(ventana, "Aceptar")->click();
+    EXPECT_EQ(caja.Mensajes.back().Texto, "¡Se Repararon Y Compactaron ( 1 ) Archivos con Exito!");
+    EXPECT_FALSE(ventana.isVisible());
+}
+
+}  // namespace
+}  // namespace trabex
