@@ -28,6 +28,7 @@ struct Aplicacion {
     ProyectoAbierto Proyecto;  ///< connected while a workspace is up
     DatosDelProyecto Datos;
     DatosGenerales Generales;
+    bool LosaModificada = false;  ///< a window saved something: the workspace calculates again
 };
 
 /// Version of the program, "24.0.0".

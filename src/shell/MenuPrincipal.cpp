@@ -138,7 +138,7 @@ void MenuPrincipal::AbrirProyecto() {
 std::optional<std::filesystem::path> MenuPrincipal::ElegirDestino() {
     const auto normal = [](const std::filesystem::path& camino) { return Recortar(TextoDeCamino(camino)); };
     for (;;) {
-        const auto archivo = dialogos_.Elegir(
+        auto archivo = dialogos_.Elegir(
             {"Salvar el Proyecto Como...", FiltroProyectos, CarpetaProyectos(), true, false, false});
         if (!archivo) return std::nullopt;
         const std::string titulo = NombreDe(*archivo);

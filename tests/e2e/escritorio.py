@@ -66,10 +66,16 @@ class Escritorio:
         return [self.xdotool("getwindowname", i).stdout.strip() for i in ids]
 
     def ventana(self, titulo):
-        """Waits for a window of that exact title, and until it has the keyboard."""
+        """Waits for a window of that exact title, and until it has the keyboard. Where two windows closed at once the
+        window manager may leave it without; it then gets it as by a click on its title."""
         def activa():
             actual = self.xdotool("getactivewindow").stdout.strip()
-            return actual and self.xdotool("getwindowname", actual).stdout.strip() == titulo and actual
+            if actual and self.xdotool("getwindowname", actual).stdout.strip() == titulo:
+                return actual
+            visibles = self.xdotool("search", "--onlyvisible", "--name", ".+").stdout.split()
+            if len(self.titulos()) == 1 and self.titulos()[0] == titulo:
+                self.xdotool("windowactivate", visibles[0])
+            return None
         numero = self.hasta(activa, titulo)
         time.sleep(0.25)
         if self.fotos:

@@ -92,6 +92,7 @@ VentanaConfigurar::VentanaConfigurar(Aplicacion& aplicacion, CajaMensajes& caja,
     auto* columna = new QVBoxLayout(this);
     columna->addWidget(paginas, 1);
     columna->addLayout(botones);
+    setMinimumWidth(540);
     resize(620, 460);
     Refrescar();
     PrepararVentana(this, aplicacion_.Preferencias);

@@ -13,7 +13,7 @@ namespace {
 constexpr int Milisegundos = 900;
 
 QPixmap Caratula() {
-    QPixmap mapa(460, 220);
+    QPixmap mapa(540, 220);
     mapa.fill(QColor(223, 233, 236));
     QPainter pintor(&mapa);
     pintor.setPen(QColor(226, 232, 239).darker(108));

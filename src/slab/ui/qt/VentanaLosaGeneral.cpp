@@ -3,6 +3,7 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QIntValidator>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpressionValidator>
@@ -18,7 +19,7 @@ namespace {
 QLineEdit* CampoNumerico(QWidget* padre) {
     auto* campo = new QLineEdit(padre);
     campo->setAlignment(Qt::AlignRight);
-    campo->setMaximumWidth(120);
+    campo->setFixedWidth(110);
     campo->setValidator(
         new QRegularExpressionValidator(QRegularExpression("-?\\d{0,10}([.,]\\d{0,8})?"), campo));
     return campo;
@@ -60,7 +61,9 @@ void VentanaLosaGeneral::Armar() {
         for (const char* rotulo : marco.Rotulos) {
             if (rotulo == nullptr) continue;
             campos_[campo] = CampoNumerico(caja);
-            formulario->addRow(rotulo, campos_[campo++]);
+            auto* etiqueta = new QLabel(rotulo, caja);
+            etiqueta->setMinimumWidth(etiqueta->fontMetrics().horizontalAdvance(marcos[0].Rotulos[0]) + 8);
+            formulario->addRow(etiqueta, campos_[campo++]);
         }
         columna->addWidget(caja);
     }
@@ -111,6 +114,7 @@ void VentanaLosaGeneral::Aceptar() {
     }
     if (!operaciones_.Aceptar(entrados))
         caja_.Mostrar(MensajeDeError(ErrorEjecucion(CodigoError::ErrorAccesoRuta), "Error Inesperado..."));
+    aplicacion_.LosaModificada = true;
     accept();
 }
 
