@@ -42,7 +42,7 @@ VentanaCompactar::VentanaCompactar(Aplicacion& aplicacion, CajaMensajes& caja, Q
             carpetas_->scrollTo(carpetas_->currentIndex(), QAbstractItemView::PositionAtCenter);
         });
     });
-    RefrescarLista();
+    VentanaCompactar::RefrescarLista();
     PrepararVentana(this, aplicacion_.Preferencias);
 }
 

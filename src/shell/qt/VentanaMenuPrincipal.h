@@ -22,7 +22,6 @@ class EspaciosDeTrabajo {
 
 /// The main window: menus, tool bar, wallpaper and status panel over the operations of MenuPrincipal.
 class VentanaMenuPrincipal : public QMainWindow, public VistaMenuPrincipal {
-    Q_OBJECT
   public:
     VentanaMenuPrincipal(Aplicacion& aplicacion, CajaMensajes& caja, DialogosArchivo& dialogos,
                          Plataforma& plataforma, EspaciosDeTrabajo& espacios);
