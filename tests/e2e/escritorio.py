@@ -33,6 +33,7 @@ class Escritorio:
         self.usuario = hogar / "Documentos" / "Nodara Software" / "Trabex24"
         self._pantalla(tamano)
         self.lanzar("openbox")
+        self.hasta(lambda: self.xdotool("get_num_desktops").returncode == 0, "the window manager")
         self.programa = self.lanzar(programa)
 
     def _pantalla(self, tamano):
