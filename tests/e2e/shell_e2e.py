@@ -7,7 +7,7 @@ import sys
 from escritorio import Escritorio
 
 SIN_PROYECTO = "Trabex 2024   Proyecto:[]"
-BOTON_NUEVO = (20, 50)   # first of the tool bar
+BOTON_NUEVO, BOTON_EDITAR = (20, 50), (84, 50)   # first and third of the tool bar
 
 
 def filas(archivo, consulta):
@@ -51,6 +51,14 @@ def recorrer(e):
     e.escribir("obra uno.los")
     e.teclas("Return")
     e.ventana("Trabex 2024   Proyecto:[obra uno.los]")
+
+    e.pulsar(e.ventana("Trabex 2024   Proyecto:[obra uno.los]"), *BOTON_EDITAR)
+    e.ventana("DATOS DEL PROYECTO")
+    e.teclas("Tab", "Tab")
+    e.escribir("ING. PEREZ")
+    e.teclas("Return")
+    e.ventana("Trabex 2024   Proyecto:[obra uno.los]")
+    assert filas(obra, "SELECT Propietario, Calculista FROM Proyecto") == [("INVERSIONES", "ING. PEREZ")]
 
     e.teclas("alt+m", "Down", "Return")
     e.ventana("Reparar y Compactar Archivos")

@@ -1,6 +1,9 @@
 #include "shell/qt/ComunVentanas.h"
 
+#include <QApplication>
+#include <QDialog>
 #include <QEvent>
+#include <QHBoxLayout>
 #include <QPushButton>
 #include <QSettings>
 #include <QWidget>
@@ -67,6 +70,28 @@ QPushButton* Boton(const QString& texto, const QString& icono, QWidget* padre) {
     auto* boton = new QPushButton(texto, padre);
     if (!icono.isEmpty()) boton->setIcon(Icono(icono));
     return boton;
+}
+
+QLayout* FilaAceptarCancelar(QDialog* dialogo, const std::function<void()>& alAceptar) {
+    auto* aceptar = Boton(" Aceptar ", "", dialogo);
+    auto* cancelar = Boton(" Cancelar ", "", dialogo);
+    aceptar->setDefault(true);
+    QObject::connect(aceptar, &QPushButton::clicked, dialogo, alAceptar);
+    QObject::connect(cancelar, &QPushButton::clicked, dialogo, &QDialog::reject);
+    auto* fila = new QHBoxLayout;
+    fila->addStretch(1);
+    fila->addWidget(aceptar);
+    fila->addWidget(cancelar);
+    return fila;
+}
+
+void PunteroDeTrabajo::Poner(bool espera) {
+    if (espera == esperando_) return;
+    esperando_ = espera;
+    if (espera)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
 }
 
 }  // namespace trabex

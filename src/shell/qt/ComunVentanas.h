@@ -1,10 +1,13 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 #include <string>
 
 #include "shell/Tapiz.h"
 
+class QDialog;
+class QLayout;
 class QPushButton;
 class QWidget;
 
@@ -29,5 +32,17 @@ QString EstiloDeAyudas(const Tapiz& preferencias);
 
 /// A button with a line icon.
 QPushButton* Boton(const QString& texto, const QString& icono, QWidget* padre);
+
+/// The row of " Aceptar " and " Cancelar " at a dialog's foot; the second closes it without change.
+QLayout* FilaAceptarCancelar(QDialog* dialogo, const std::function<void()>& alAceptar);
+
+/// The pointer of long work, on or off, however often it is asked for.
+class PunteroDeTrabajo {
+  public:
+    void Poner(bool espera);
+
+  private:
+    bool esperando_ = false;
+};
 
 }  // namespace trabex

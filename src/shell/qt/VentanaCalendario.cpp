@@ -20,18 +20,9 @@ VentanaCalendario::VentanaCalendario(const Fecha& fecha, const Tapiz& preferenci
                                 static_cast<int>(static_cast<unsigned>(fecha.day()))));
     connect(mes_, &QCalendarWidget::activated, this, &QDialog::accept);
 
-    auto* aceptar = Boton(" Aceptar ", "", this);
-    auto* cancelar = Boton(" Cancelar ", "", this);
-    aceptar->setDefault(true);
-    connect(aceptar, &QPushButton::clicked, this, &QDialog::accept);
-    connect(cancelar, &QPushButton::clicked, this, &QDialog::reject);
-    auto* botones = new QHBoxLayout;
-    botones->addStretch(1);
-    botones->addWidget(aceptar);
-    botones->addWidget(cancelar);
     auto* columna = new QVBoxLayout(this);
     columna->addWidget(mes_);
-    columna->addLayout(botones);
+    columna->addLayout(FilaAceptarCancelar(this, [this] { accept(); }));
     PrepararVentana(this, preferencias);
 }
 

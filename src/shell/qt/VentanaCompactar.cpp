@@ -114,12 +114,7 @@ void VentanaCompactar::Avanzar(double porcentaje, const std::string& rotulo) {
 }
 
 void VentanaCompactar::PunteroDeEspera(bool espera) {
-    if (espera == esperando_) return;
-    esperando_ = espera;
-    if (espera)
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-    else
-        QApplication::restoreOverrideCursor();
+    puntero_.Poner(espera);
 }
 
 void VentanaCompactar::RefrescarLista() {

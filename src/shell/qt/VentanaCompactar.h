@@ -3,6 +3,7 @@
 #include <QDialog>
 
 #include "shell/Compactar1.h"
+#include "shell/qt/ComunVentanas.h"
 
 class QFileSystemModel;
 class QLabel;
@@ -37,7 +38,7 @@ class VentanaCompactar : public QDialog, public VistaCompactar {
     QWidget* panel_;
     QProgressBar* barra_;
     QLabel* rotulo_;
-    bool esperando_ = false;
+    PunteroDeTrabajo puntero_;
 };
 
 }  // namespace trabex

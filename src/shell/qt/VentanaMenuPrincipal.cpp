@@ -116,12 +116,7 @@ void VentanaMenuPrincipal::HabilitarSalvarComo(bool habilitado) {
 }
 
 void VentanaMenuPrincipal::PunteroDeEspera(bool espera) {
-    if (espera == esperando_) return;
-    esperando_ = espera;
-    if (espera)
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-    else
-        QApplication::restoreOverrideCursor();
+    puntero_.Poner(espera);
 }
 
 /// A picture that can't be loaded brings the default one back.

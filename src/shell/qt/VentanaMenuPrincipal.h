@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "shell/MenuPrincipal.h"
+#include "shell/qt/ComunVentanas.h"
 #include "shell/qt/LienzoTapiz.h"
 
 class QLabel;
@@ -58,7 +59,7 @@ class VentanaMenuPrincipal : public QMainWindow, public VistaMenuPrincipal {
     LienzoTapiz* tapiz_;
     QLabel* revision_;
     QLabel* proyecto_;
-    bool esperando_ = false;
+    PunteroDeTrabajo puntero_;
 };
 
 }  // namespace trabex

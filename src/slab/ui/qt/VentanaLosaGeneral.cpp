@@ -69,17 +69,8 @@ void VentanaLosaGeneral::Armar() {
     }
     for (const CampoLosaGeneral entero : {CampoLosaGeneral::FC, CampoLosaGeneral::FY})
         campos_[static_cast<std::size_t>(entero)]->setValidator(new QIntValidator(-32768, 32767, this));
-    auto* aceptar = Boton(" Aceptar ", "", this);
-    auto* cancelar = Boton(" Cancelar ", "", this);
-    aceptar->setDefault(true);
-    connect(aceptar, &QPushButton::clicked, this, [this] { Aceptar(); });
-    connect(cancelar, &QPushButton::clicked, this, &QDialog::reject);
-    auto* botones = new QHBoxLayout;
-    botones->addStretch(1);
-    botones->addWidget(aceptar);
-    botones->addWidget(cancelar);
     columna->addStretch(1);
-    columna->addLayout(botones);
+    columna->addLayout(FilaAceptarCancelar(this, [this] { Aceptar(); }));
 }
 
 void VentanaLosaGeneral::Mostrar(const DatosGenerales& g) {
