@@ -60,11 +60,12 @@ class Escritorio:
             if valor:
                 return valor
             time.sleep(0.1)
-        raise AssertionError(f"did not come: {que}; windows: {self.titulos()}")
+        raise AssertionError(f"did not come: {que}; windows: {self.visibles()}")
 
-    def titulos(self):
-        ids = self.xdotool("search", "--onlyvisible", "--name", ".+").stdout.split()
-        return [self.xdotool("getwindowname", i).stdout.strip() for i in ids]
+    def visibles(self):
+        """Titles of the windows on the screen, by their numbers."""
+        numeros = self.xdotool("search", "--onlyvisible", "--name", ".+").stdout.split()
+        return {numero: self.xdotool("getwindowname", numero).stdout.strip() for numero in numeros}
 
     def ventana(self, titulo):
         """Waits for a window of that exact title, and until it has the keyboard. Where two windows closed at once the
@@ -73,9 +74,9 @@ class Escritorio:
             actual = self.xdotool("getactivewindow").stdout.strip()
             if actual and self.xdotool("getwindowname", actual).stdout.strip() == titulo:
                 return actual
-            visibles = self.xdotool("search", "--onlyvisible", "--name", ".+").stdout.split()
-            if len(self.titulos()) == 1 and self.titulos()[0] == titulo:
-                self.xdotool("windowactivate", visibles[0])
+            visibles = self.visibles()
+            if list(visibles.values()) == [titulo]:
+                self.xdotool("windowactivate", *visibles)
             return None
         numero = self.hasta(activa, titulo)
         time.sleep(0.25)
