@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string_view>
+
+namespace trabex {
+
+/// How a sheet's world is placed on its surface.
+///
+/// The base scale is width × k / L, with k by the total length L of the spans; further limits below.
+struct ReglaDeEscala {
+    double KHasta10;            ///< k for 5 < L ≤ 10
+    double KHasta10Escalonada;  ///< the same with an axis above the first one's level
+    bool LimiteVertical;        ///< the height limits the scale too
+    double EscalaMaxima;        ///< cap of the base scale; 0 when there is none
+    double OrigenVertical;      ///< row of the world's origin, as a part of the height
+};
+
+/// Texts of the sheets that are shorter on paper.
+struct TextosHoja {
+    std::string_view VU, MU;
+    std::string_view CP, CV, Total;
+    std::string_view Macizados, MuSup, MuInf;
+    std::string_view AsSup, AsSupMetro, AsInf, AsInfMetro;
+    std::string_view PuntosInflexion;
+    std::string_view Espesor;          ///< before the depth in the geometry's title
+    std::string_view TituloGeometria;  ///< after the depth, on the same line
+    std::string_view LineaGeometria;   ///< a title line of its own; empty when there is none
+    std::string_view TituloDiseno;     ///< after the depth
+};
+
+/// All in which a sheet on paper differs from the same sheet on the screen.
+struct EstiloHoja {
+    std::string_view FuenteNombre;
+    bool ConCuadricula;
+    ReglaDeEscala Escala;
+    TextosHoja Textos;
+};
+
+inline constexpr EstiloHoja HojaEnPantalla{
+    "Tahoma",
+    true,
+    {0.65, 0.55, true, 0, 0.18},
+    {"VU (kgf):", "MU (kgf-m):", "CP (kgf/metro):", "CV (kgf/metro):", "Total (kgf/metro):", "Macizados (m):",
+     "Mu Sup (kgf-m):", "Mu Inf (kgf-m):", "As Sup (cm2):", "As Sup (cm2/m):", "As Inf (cm2):",
+     "As Inf (cm2/m):", "Puntos Inflexión (m):", "E = ", " m", "(GEOMETRIA DE LA LOSA)",
+     " m   (DISEÑO Y REACCIONES DE SERVICIO POR METRO LINEAL SOBRE LAS VIGAS)"}};
+
+}  // namespace trabex

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QImage>
+#include <cstdint>
+#include <functional>
+
+#include "drawing/Lienzo.h"
+
+namespace trabex {
+
+/// Size of the hidden surfaces of reports and pictures: 14100 by 8700 twips at 96 units an inch.
+inline constexpr std::int32_t AnchoSuperficie = 14100 / 15;
+inline constexpr std::int32_t AltoSuperficie = 8700 / 15;
+
+/// A drawing on a hidden surface of `ancho` by `alto` units, `finura` pixels to a unit.
+QImage DibujarImagen(std::int32_t ancho, std::int32_t alto, double finura,
+                     const std::function<void(Lienzo&)>& dibujar);
+
+}  // namespace trabex

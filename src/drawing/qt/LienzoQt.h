@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QFontMetricsF>
+#include <QHash>
+#include <QImage>
+#include <QPainter>
+#include <QStaticText>
+#include <memory>
+
+#include "drawing/Lienzo.h"
+
+namespace trabex {
+
+/// Shaped texts of earlier redraws: a drawing that is panned shows the same ones again. One per surface.
+class MemoriaDeTextos {
+  public:
+    const QStaticText& Buscar(std::string_view texto, const QFont& fuente);
+    void Vaciar() { textos_.clear(); }
+
+  private:
+    QHash<QString, QStaticText> textos_;
+};
+
+/// A drawing surface on any painter: a picture, a printer's page, a PDF. The painter's device is `ancho` by
+/// `alto` units, and its resolution turns points of fonts into units.
+class LienzoQt : public Lienzo {
+  public:
+    LienzoQt(QPainter& pintor, std::int32_t ancho, std::int32_t alto, MemoriaDeTextos* memoria = nullptr);
+
+    /// Ground and colour of texts; white and black to begin with.
+    void PonerColores(const QColor& fondo, const QColor& textoDeBotones);
+
+    std::int32_t ScaleWidth() const override { return ancho_; }
+    std::int32_t ScaleHeight() const override { return alto_; }
+    void Limpiar() override;
+    void PonerFuente(const Fuente& fuente) override;
+    void PonerColorTexto(Color color) override;
+    Color ColorTextoDeBotones() const override;
+    MedidaTexto Medir(std::string_view texto) override;
+    void Texto(std::string_view texto, PuntoLienzo lugar, std::int32_t decimasDeGrado) override;
+    void Linea(PuntoLienzo desde, PuntoLienzo hasta, const Pluma& pluma) override;
+    void Poligono(std::span<const PuntoLienzo> puntos, const std::optional<Pluma>& pluma,
+                  const std::optional<Color>& relleno) override;
+    void Circulo(PuntoLienzo centro, std::int32_t radio, const std::optional<Pluma>& pluma,
+                 const std::optional<Color>& relleno) override;
+    void Pixel(PuntoLienzo lugar, Color color) override;
+
+  private:
+    QPainter& pintor_;
+    std::int32_t ancho_;
+    std::int32_t alto_;
+    MemoriaDeTextos* memoria_;
+    QColor fondo_ = Qt::white;
+    QColor textoDeBotones_ = Qt::black;
+    QColor texto_ = Qt::black;
+    QFont fuente_;
+    std::unique_ptr<QFontMetricsF> metrica_;
+};
+
+}  // namespace trabex
