@@ -1,12 +1,16 @@
 // trabex-lote PROYECTO.los CARPETA: calculates every element of a project and writes what it finds.
 
+#include <QGuiApplication>
 #include <algorithm>
+#include <array>
 #include <filesystem>
+#include <functional>
 #include <iostream>
 #include <thread>
 
 #include "base/Archivos.h"
 #include "reports/Lote.h"
+#include "reports/qt/HojasLote.h"
 
 namespace {
 
@@ -15,18 +19,32 @@ constexpr int NoSePuedeEscribir = 1;
 constexpr int MalUso = 2;
 constexpr int NoSePuedeAbrir = 3;
 
-int EscribirResultados(const trabex::ProyectoCalculado& calculado, const std::filesystem::path& carpeta) {
+int EscribirTodo(const trabex::ProyectoCalculado& calculado, const std::filesystem::path& proyecto,
+                 const std::filesystem::path& carpeta) {
     const std::filesystem::path archivo = carpeta / "resultados.json";
+    const std::filesystem::path hojas = carpeta / "losas";
     try {
         std::error_code error;
         std::filesystem::create_directories(carpeta, error);
         trabex::EscribirArchivo(archivo, trabex::DocumentoJson(calculado));
+        trabex::EscribirHojas(proyecto, hojas);
     } catch (const trabex::ErrorEjecucion& error) {
-        std::cerr << "trabex-lote: no se puede escribir " << archivo << ": " << error.Texto() << '\n';
+        std::cerr << "trabex-lote: no se puede escribir en " << carpeta << ": " << error.Texto() << '\n';
         return NoSePuedeEscribir;
     }
-    std::cout << trabex::TablaResumen(calculado, {}) << "\nResultados: " << archivo.string() << '\n';
+    std::cout << trabex::TablaResumen(calculado, {}) << "\nResultados: " << archivo.string()
+              << "\nHojas de las losas: " << hojas.string() << '\n';
     return Hecho;
+}
+
+/// Pictures need the toolkit's fonts, not a display.
+int SinPantalla(char** argv, const std::function<int()>& trabajo) {
+    std::string plataforma = "-platform";
+    std::string ninguna = "offscreen";
+    std::array<char*, 4> argumentos{argv[0], plataforma.data(), ninguna.data(), nullptr};
+    int cuantos = 3;
+    const QGuiApplication grafica(cuantos, argumentos.data());
+    return trabajo();
 }
 
 }  // namespace
@@ -42,5 +60,5 @@ int main(int argc, char** argv) {
         std::cerr << "trabex-lote: no se puede abrir el proyecto " << std::filesystem::path(argv[1]) << '\n';
         return NoSePuedeAbrir;
     }
-    return EscribirResultados(calculado, argv[2]);
+    return SinPantalla(argv, [&] { return EscribirTodo(calculado, argv[1], argv[2]); });
 }

@@ -12,6 +12,10 @@ namespace trabex {
 inline constexpr std::int32_t AnchoSuperficie = 14100 / 15;
 inline constexpr std::int32_t AltoSuperficie = 8700 / 15;
 
+/// Resolution of canvases on a screen and of pictures: 96 units an inch, so that points of fonts turn into
+/// units alike on every machine.
+inline constexpr int PuntosPorMetro = 3780;
+
 /// A drawing on a hidden surface of `ancho` by `alto` units, `finura` pixels to a unit.
 QImage DibujarImagen(std::int32_t ancho, std::int32_t alto, double finura,
                      const std::function<void(Lienzo&)>& dibujar);

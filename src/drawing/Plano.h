@@ -1,0 +1,73 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "drawing/Lienzo.h"
+#include "drawing/Visor.h"
+
+namespace trabex {
+
+enum class Ancla { Izquierda, Centro, Derecha };
+
+/// A place taken on the canvas, in its units: top left corner and size.
+struct CajaTexto {
+    double x = 0;
+    double y = 0;
+    double Ancho = 0;
+    double Alto = 0;
+};
+
+/// The centre of a possible place.
+struct Centro {
+    double x = 0;
+    double y = 0;
+};
+
+/// A canvas seen in metres: maps the world's points, sizes texts with the zoom, and knows where it has
+/// written, so that labels do not overprint one another.
+class Plano {
+  public:
+    Plano(Lienzo& lienzo, const EstadoVista& vista, std::string_view fuente)
+        : lienzo_(lienzo), vista_(vista), fuente_(fuente) {}
+
+    Lienzo& lienzo() const { return lienzo_; }
+    double Escala() const { return vista_.Escala; }
+
+    std::int32_t X(double x) const;
+    std::int32_t Y(double y) const;
+    /// Row of a point `abajo` m below the world's level `y`.
+    std::int32_t Fila(double abajo, double y = 0) const { return Y(y - abajo); }
+
+    /// Sets the font: `base` is its size in points at zoom 1. A title is never smaller than 8 points.
+    void Letra(double base, bool negrita = false) const;
+    void LetraDeTitulo(double base) const;
+
+    /// A line of text, `y` being its top.
+    void Escribir(std::string_view texto, Ancla ancla, std::int32_t x, std::int32_t y) const;
+    /// Text centred on a point, turned anticlockwise.
+    void EscribirCentrado(std::string_view texto, double x, double y, double grados = 0) const;
+
+    /// Takes a place, so that no label is put there.
+    void Reservar(const CajaTexto& caja);
+    /// The first centre at which a box of this size meets no taken place; the last resort is the one that is
+    /// overprinted least. Takes the place.
+    CajaTexto Colocar(double ancho, double alto, const std::vector<Centro>& centros);
+    /// Places a text by its possible centres and writes it. `grados`: 0 or 90.
+    void Rotular(std::string_view texto, const std::vector<Centro>& centros, double grados = 0);
+
+    /// A thin line with an arrowhead at each end and its text above the middle.
+    void Acotar(double x1, double x2, std::int32_t y, std::string_view texto, EstiloLinea estilo) const;
+
+  private:
+    double Solape(const CajaTexto& caja) const;
+
+    Lienzo& lienzo_;
+    const EstadoVista& vista_;
+    std::string_view fuente_;
+    std::unordered_map<std::int64_t, std::vector<CajaTexto>> ocupadas_;  // by column of the canvas
+};
+
+}  // namespace trabex

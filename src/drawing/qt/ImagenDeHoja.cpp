@@ -1,0 +1,24 @@
+#include "drawing/qt/ImagenDeHoja.h"
+
+#include <QPainter>
+#include <cmath>
+
+#include "drawing/qt/LienzoQt.h"
+
+namespace trabex {
+
+QImage DibujarImagen(std::int32_t ancho, std::int32_t alto, double finura,
+                     const std::function<void(Lienzo&)>& dibujar) {
+    QImage imagen(static_cast<int>(std::ceil(ancho * finura)), static_cast<int>(std::ceil(alto * finura)),
+                  QImage::Format_RGB32);
+    imagen.setDotsPerMeterX(PuntosPorMetro);
+    imagen.setDotsPerMeterY(PuntosPorMetro);
+    imagen.setDevicePixelRatio(finura);
+    imagen.fill(Qt::white);
+    QPainter pintor(&imagen);
+    LienzoQt lienzo(pintor, ancho, alto);
+    dibujar(lienzo);
+    return imagen;
+}
+
+}  // namespace trabex

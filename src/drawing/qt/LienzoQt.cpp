@@ -1,0 +1,168 @@
+#include "drawing/qt/LienzoQt.h"
+
+#include <QPolygon>
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace trabex {
+
+namespace {
+
+QColor ColorQt(Color color) {
+    return {color.R, color.G, color.B};
+}
+
+/// Fonts to fall back on where the drawings' own are not installed, of like widths.
+QStringList FamiliasDe(const QString& nombre) {
+    return {nombre, "Verdana", "DejaVu Sans", "Arial", "Liberation Sans"};
+}
+
+QPen PlumaQt(const Pluma& pluma) {
+    QPen lapiz(ColorQt(pluma.Tinta), pluma.Ancho,
+               pluma.Estilo == EstiloLinea::Punteada ? Qt::DotLine : Qt::SolidLine);
+    lapiz.setJoinStyle(Qt::MiterJoin);
+    lapiz.setCapStyle(Qt::FlatCap);
+    return lapiz;
+}
+
+/// Smooths what is drawn while it stands, with the points at the middle of their pixels.
+class Suavizado {
+  public:
+    Suavizado(QPainter& pintor, bool suavizar) : pintor_(pintor), suavizar_(suavizar) {
+        if (!suavizar_) return;
+        pintor_.setRenderHint(QPainter::Antialiasing, true);
+        pintor_.translate(0.5, 0.5);
+    }
+    ~Suavizado() {
+        if (!suavizar_) return;
+        pintor_.translate(-0.5, -0.5);
+        pintor_.setRenderHint(QPainter::Antialiasing, false);
+    }
+    Suavizado(const Suavizado&) = delete;
+    Suavizado& operator=(const Suavizado&) = delete;
+
+  private:
+    QPainter& pintor_;
+    bool suavizar_;
+};
+
+bool DeEjes(PuntoLienzo a, PuntoLienzo b) {
+    return a.x == b.x || a.y == b.y;
+}
+
+bool DeEjes(std::span<const PuntoLienzo> puntos) {
+    for (std::size_t k = 0; k < puntos.size(); ++k) {
+        if (!DeEjes(puntos[k], puntos[(k + 1) % puntos.size()])) return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+const QStaticText& MemoriaDeTextos::Buscar(std::string_view texto, const QFont& fuente) {
+    constexpr int limite = 4096;
+    const QString llave =
+        fuente.key() + '\n' + QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
+    const auto hallado = textos_.constFind(llave);
+    if (hallado != textos_.constEnd()) return *hallado;
+    if (textos_.size() >= limite) textos_.clear();
+    QStaticText preparado(QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size())));
+    preparado.setTextFormat(Qt::PlainText);
+    preparado.setPerformanceHint(QStaticText::AggressiveCaching);
+    preparado.prepare(QTransform(), fuente);
+    return *textos_.insert(llave, preparado);
+}
+
+LienzoQt::LienzoQt(QPainter& pintor, std::int32_t ancho, std::int32_t alto, MemoriaDeTextos* memoria)
+    : pintor_(pintor), ancho_(ancho), alto_(alto), memoria_(memoria) {
+    pintor_.setRenderHint(QPainter::Antialiasing, false);
+    pintor_.setRenderHint(QPainter::TextAntialiasing, true);
+    PonerFuente({"Tahoma", 8, false});
+}
+
+void LienzoQt::PonerColores(const QColor& fondo, const QColor& textoDeBotones) {
+    fondo_ = fondo;
+    textoDeBotones_ = textoDeBotones;
+}
+
+void LienzoQt::Limpiar() {
+    pintor_.fillRect(QRect(0, 0, ancho_, alto_), fondo_);
+}
+
+void LienzoQt::PonerFuente(const Fuente& fuente) {
+    fuente_ = QFont(FamiliasDe(QString::fromStdString(fuente.Nombre)));
+    fuente_.setPointSizeF(std::clamp(fuente.Puntos, 0.5, 5000.0));
+    fuente_.setBold(fuente.Negrita);
+    metrica_ = std::make_unique<QFontMetricsF>(fuente_, pintor_.device());
+    pintor_.setFont(fuente_);
+}
+
+void LienzoQt::PonerColorTexto(Color color) {
+    texto_ = ColorQt(color);
+}
+
+Color LienzoQt::ColorTextoDeBotones() const {
+    return {static_cast<std::uint8_t>(textoDeBotones_.red()),
+            static_cast<std::uint8_t>(textoDeBotones_.green()),
+            static_cast<std::uint8_t>(textoDeBotones_.blue())};
+}
+
+MedidaTexto LienzoQt::Medir(std::string_view texto) {
+    const double ancho =
+        metrica_->horizontalAdvance(QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size())));
+    return {static_cast<std::int32_t>(std::ceil(ancho)),
+            static_cast<std::int32_t>(std::ceil(metrica_->height()))};
+}
+
+void LienzoQt::Texto(std::string_view texto, PuntoLienzo lugar, std::int32_t decimasDeGrado) {
+    const double alcance = metrica_->height() * (static_cast<double>(texto.size()) + 2);
+    if (lugar.x + alcance < 0 || lugar.y + alcance < 0 || lugar.x - alcance > ancho_ ||
+        lugar.y - alcance > alto_)
+        return;
+    pintor_.setPen(texto_);
+    const bool girado = decimasDeGrado != 0;
+    if (girado) {
+        pintor_.save();
+        pintor_.translate(lugar.x, lugar.y);
+        pintor_.rotate(-decimasDeGrado / 10.0);
+        lugar = {0, 0};
+    }
+    if (memoria_ != nullptr)
+        pintor_.drawStaticText(QPointF(lugar.x, lugar.y), memoria_->Buscar(texto, fuente_));
+    else
+        pintor_.drawText(QPointF(lugar.x, lugar.y + metrica_->ascent()),
+                         QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size())));
+    if (girado) pintor_.restore();
+}
+
+void LienzoQt::Linea(PuntoLienzo desde, PuntoLienzo hasta, const Pluma& pluma) {
+    const Suavizado suave(pintor_, !DeEjes(desde, hasta));
+    pintor_.setPen(PlumaQt(pluma));
+    pintor_.drawLine(desde.x, desde.y, hasta.x, hasta.y);
+}
+
+void LienzoQt::Poligono(std::span<const PuntoLienzo> puntos, const std::optional<Pluma>& pluma,
+                        const std::optional<Color>& relleno) {
+    const Suavizado suave(pintor_, !DeEjes(puntos));
+    pintor_.setPen(pluma ? PlumaQt(*pluma) : QPen(Qt::NoPen));
+    pintor_.setBrush(relleno ? QBrush(ColorQt(*relleno)) : QBrush(Qt::NoBrush));
+    QPolygon figura;
+    figura.reserve(static_cast<qsizetype>(puntos.size()));
+    for (const PuntoLienzo& punto : puntos) figura << QPoint(punto.x, punto.y);
+    pintor_.drawPolygon(figura);
+}
+
+void LienzoQt::Circulo(PuntoLienzo centro, std::int32_t radio, const std::optional<Pluma>& pluma,
+                       const std::optional<Color>& relleno) {
+    const Suavizado suave(pintor_, true);
+    pintor_.setPen(pluma ? PlumaQt(*pluma) : QPen(Qt::NoPen));
+    pintor_.setBrush(relleno ? QBrush(ColorQt(*relleno)) : QBrush(Qt::NoBrush));
+    pintor_.drawEllipse(QPoint(centro.x, centro.y), radio, radio);
+}
+
+void LienzoQt::Pixel(PuntoLienzo lugar, Color color) {
+    pintor_.fillRect(lugar.x, lugar.y, 1, 1, ColorQt(color));
+}
+
+}  // namespace trabex

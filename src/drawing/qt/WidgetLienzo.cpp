@@ -1,0 +1,150 @@
+#include "drawing/qt/WidgetLienzo.h"
+
+#include <QBitmap>
+#include <QCursor>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+#include <optional>
+
+#include "drawing/qt/ImagenDeHoja.h"
+
+namespace trabex {
+
+namespace {
+
+BotonRaton BotonDe(Qt::MouseButton boton) {
+    switch (boton) {
+        case Qt::LeftButton:
+            return BotonRaton::Izquierdo;
+        case Qt::RightButton:
+            return BotonRaton::Derecho;
+        case Qt::MiddleButton:
+            return BotonRaton::Central;
+        default:
+            return BotonRaton::Ninguno;
+    }
+}
+
+BotonRaton BotonDe(Qt::MouseButtons botones) {
+    if (botones & Qt::LeftButton) return BotonRaton::Izquierdo;
+    if (botones & Qt::MiddleButton) return BotonRaton::Central;
+    if (botones & Qt::RightButton) return BotonRaton::Derecho;
+    return BotonRaton::Ninguno;
+}
+
+std::optional<TeclaVista> TeclaDe(const QKeyEvent& evento) {
+    switch (evento.key()) {
+        case Qt::Key_Plus:
+            return TeclaVista::Mas;
+        case Qt::Key_Minus:
+            return TeclaVista::Menos;
+        case Qt::Key_Escape:
+            return TeclaVista::Escape;
+        case Qt::Key_Left:
+            return TeclaVista::Izquierda;
+        case Qt::Key_Right:
+            return TeclaVista::Derecha;
+        case Qt::Key_Up:
+            return TeclaVista::Arriba;
+        case Qt::Key_Down:
+            return TeclaVista::Abajo;
+        default:
+            return std::nullopt;
+    }
+}
+
+}  // namespace
+
+WidgetLienzo::WidgetLienzo(EstadoVista& estado, std::function<void(Lienzo&)> dibujar, QWidget* padre)
+    : QWidget(padre), visor_(estado, *this), dibujar_(std::move(dibujar)) {
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void WidgetLienzo::RedibujeVista() {
+    const qreal finura = devicePixelRatioF();
+    const QSize pixeles = (QSizeF(size()) * finura).toSize();
+    if (imagen_.size() != pixeles) {
+        imagen_ = QImage(pixeles, QImage::Format_RGB32);
+        imagen_.setDotsPerMeterX(PuntosPorMetro);
+        imagen_.setDotsPerMeterY(PuntosPorMetro);
+        imagen_.setDevicePixelRatio(finura);
+    }
+    if (imagen_.isNull()) return;
+    QPainter pintor(&imagen_);
+    LienzoQt lienzo(pintor, width(), height(), &memoria_);
+    // Sheets are paper: white, with the platform's colour of text unless it is made for a dark ground.
+    const QColor texto = palette().color(QPalette::ButtonText);
+    lienzo.PonerColores(Qt::white, texto.lightness() < 128 ? texto : QColor(Qt::black));
+    dibujar_(lienzo);
+    pintor.end();
+    update();
+}
+
+void WidgetLienzo::paintEvent(QPaintEvent*) {
+    if (imagen_.isNull()) RedibujeVista();
+    QPainter(this).drawImage(0, 0, imagen_);
+}
+
+void WidgetLienzo::resizeEvent(QResizeEvent*) {
+    RedibujeVista();
+}
+
+void WidgetLienzo::changeEvent(QEvent* evento) {
+    QWidget::changeEvent(evento);
+    if (evento->type() == QEvent::PaletteChange && !imagen_.isNull()) RedibujeVista();
+}
+
+void WidgetLienzo::mousePressEvent(QMouseEvent* evento) {
+    visor_.BajarBoton(BotonDe(evento->button()), evento->pos().x(), evento->pos().y());
+}
+
+void WidgetLienzo::mouseReleaseEvent(QMouseEvent* evento) {
+    visor_.SubirBoton(BotonDe(evento->button()));
+}
+
+void WidgetLienzo::mouseMoveEvent(QMouseEvent* evento) {
+    visor_.Mover(BotonDe(evento->buttons()), evento->pos().x(), evento->pos().y());
+}
+
+void WidgetLienzo::wheelEvent(QWheelEvent* evento) {
+    if (evento->angleDelta().y() == 0) return;
+    visor_.ZoomMouseWheel(evento->angleDelta().y() > 0);
+    evento->accept();
+}
+
+void WidgetLienzo::keyPressEvent(QKeyEvent* evento) {
+    if (const auto tecla = TeclaDe(*evento))
+        visor_.Teclear(*tecla);
+    else
+        QWidget::keyPressEvent(evento);
+}
+
+void WidgetLienzo::PonerPuntero(PunteroVista puntero) {
+    switch (puntero) {
+        case PunteroVista::Normal:
+            return unsetCursor();
+        case PunteroVista::ManoAbierta:
+            return setCursor(Qt::OpenHandCursor);
+        case PunteroVista::ManoCerrada:
+            return setCursor(Qt::ClosedHandCursor);
+    }
+}
+
+void WidgetLienzo::SoltarPanRealtime() {
+    if (alSoltarPan_) alSoltarPan_();
+}
+
+void WidgetLienzo::DetenerAyuda() {
+    if (alDetenerAyuda_) alDetenerAyuda_();
+}
+
+void WidgetLienzo::AbrirMenuPantalla(std::int32_t x, std::int32_t y) {
+    if (menu_ != nullptr) menu_->popup(mapToGlobal(QPoint(x, y)));
+}
+
+}  // namespace trabex
