@@ -13,9 +13,8 @@ namespace {
 
 using namespace hoja;
 
-constexpr double PrimeraFila = 2.97;  // m below the slab
-constexpr double FilaEscalonada =
-    7.8;  // m below the origin: where the last row of a stepped slab's table lies
+constexpr double PrimeraFila = 2.97;    // m below the slab
+constexpr double FilaEscalonada = 7.8;  // m below the origin: where the table of a stepped slab ends
 constexpr double AltoDeFila = 0.42;
 constexpr std::size_t FilasDeTabla = 10;
 constexpr double SobreTitulos = 0.25;
@@ -48,9 +47,9 @@ class Tabla {
   private:
     void RepartirLineas(Fila& fila) const;
     double AltoDe(const Fila& fila) const;
-    double MargenIzquierdo(const std::vector<Fila>& filas) const;
-    void DibujarFondo(const Fila& fila, double y, double alto, double margen) const;
-    void DibujarFila(const Fila& fila, double y, double alto, double margen) const;
+    double BordeIzquierdo(const std::vector<Fila>& filas) const;
+    void DibujarFondo(const Fila& fila, double y, double alto, double borde) const;
+    void DibujarFila(const Fila& fila, double y, double alto, double borde) const;
     double Marca() const { return std::max(5.0, 0.12 * p_.Escala()); }
 
     const Hoja& h_;
@@ -78,36 +77,36 @@ double Tabla::AltoDe(const Fila& fila) const {
     return std::max(AltoDeFila * p_.Escala(), texto);
 }
 
-/// Room for the values that stand at the first axis.
-double Tabla::MargenIzquierdo(const std::vector<Fila>& filas) const {
+/// Left edge of the labels: each stands clear of its row's first value and of the first axis.
+double Tabla::BordeIzquierdo(const std::vector<Fila>& filas) const {
     const double primero = p_.X(h_.EjeX(1));
-    double margen = 0.3 * p_.Escala();
+    double borde = primero;
     for (const Fila& fila : filas) {
-        if (fila.Celdas.empty()) continue;
-        const Celda& celda = fila.Celdas.front();
-        margen = std::max(margen, primero - celda.x + p_.lienzo().Medir(celda.Texto).Ancho / 2.0);
+        double hasta = primero;
+        for (const Celda& celda : fila.Celdas)
+            hasta = std::min(hasta, celda.x - p_.lienzo().Medir(celda.Texto).Ancho / 2.0);
+        borde = std::min(borde, hasta - 2 * Separacion - p_.lienzo().Medir(fila.Rotulo).Ancho);
     }
-    return margen + 2 * Separacion;
+    return borde;
 }
 
-void Tabla::DibujarFondo(const Fila& fila, double y, double alto, double margen) const {
+void Tabla::DibujarFondo(const Fila& fila, double y, double alto, double borde) const {
     if (!fila.Fondo) return;
-    const std::int32_t izquierda =
-        p_.X(h_.EjeX(1)) - Pixeles(margen) - p_.lienzo().Medir(fila.Rotulo).Ancho - Separacion;
-    const std::int32_t derecha = p_.X(h_.EjeX(h_.N + 1)) + Pixeles(margen);
+    const std::int32_t izquierda = Pixeles(borde) - Separacion;
+    const std::int32_t derecha = p_.X(h_.EjeX(h_.N + 1)) + Pixeles(0.3 * p_.Escala()) + 4 * Separacion;
     const std::int32_t y1 = Pixeles(y);
     const std::int32_t y2 = Pixeles(y + alto);
     const std::array<PuntoLienzo, 4> banda{{{izquierda, y1}, {derecha, y1}, {derecha, y2}, {izquierda, y2}}};
     p_.lienzo().Poligono(banda, std::nullopt, fila.Fondo);
 }
 
-void Tabla::DibujarFila(const Fila& fila, double y, double alto, double margen) const {
+void Tabla::DibujarFila(const Fila& fila, double y, double alto, double borde) const {
     if (fila.EntreReglas) {
         for (const double regla : {y, y + alto})
             DibujeLinea(p_.lienzo(), p_.X(h_.EjeX(1)), Pixeles(regla), p_.X(h_.EjeX(h_.N + 1)),
                         Pixeles(regla), 1, EstiloLinea::Solida, Contorno);
     }
-    RotularFila(h_, fila.Rotulo, Pixeles(y + alto / 2), margen);
+    p_.Escribir(fila.Rotulo, Ancla::Izquierda, Pixeles(borde), Pixeles(y + (alto - alto_) / 2));
     const double marca = fila.Marcas.empty() ? 0 : Marca();
     for (const double x : fila.Marcas) {
         const std::array<PuntoLienzo, 3> punta{{{Pixeles(x), Pixeles(y)},
@@ -123,11 +122,11 @@ void Tabla::DibujarFila(const Fila& fila, double y, double alto, double margen) 
 
 std::int32_t Tabla::Dibujar(std::vector<Fila>& filas, std::int32_t desde) {
     for (Fila& fila : filas) RepartirLineas(fila);
-    const double margen = MargenIzquierdo(filas);
+    const double borde = BordeIzquierdo(filas);
     double y = desde;
     for (const Fila& fila : filas) {
-        DibujarFondo(fila, y, AltoDe(fila), margen);
-        DibujarFila(fila, y, AltoDe(fila), margen);
+        DibujarFondo(fila, y, AltoDe(fila), borde);
+        DibujarFila(fila, y, AltoDe(fila), borde);
         y += AltoDe(fila);
     }
     return Pixeles(y);
@@ -226,12 +225,12 @@ std::vector<Fila> FilasDeDiseno(const Hoja& h) {
     return filas;
 }
 
-/// Canvas row of the table's first row. The table of a slab with an axis above the others is set from the row
-/// where its last one lies.
+/// Canvas row of the table's first row. The table of a slab with an axis above the others is set upward from
+/// the row where it ends.
 std::int32_t InicioDeTabla(const Hoja& h) {
     const double E = h.Papel.Escala();
     if (h.Datos.Ejes.YMaximo == 0) return h.Datos.Vista.OrigenY + Pixeles(E * PrimeraFila);
-    return Pixeles(h.Datos.Vista.OrigenY + E * FilaEscalonada - E * AltoDeFila * (FilasDeTabla - 1));
+    return Pixeles(h.Datos.Vista.OrigenY + E * FilaEscalonada - E * AltoDeFila * FilasDeTabla);
 }
 
 }  // namespace

@@ -63,13 +63,22 @@ void DibujeFranjas(const Hoja& h, const Diagrama& diagrama, std::size_t i, doubl
                 eje(puntos.back()), 1, EstiloLinea::Solida, Contorno);
 }
 
+/// A value that is written at the diagram's ordinate. The shear at a span's end is written as the support's
+/// push on it, upward like the one at its start; the diagram ends with the opposite sign.
+struct ValorDeTramo {
+    double d;  ///< from the first axis along the horizontal, m
+    double Ordenada;
+    double Valor;
+    double Lado;
+};
+
 /// A value at the end of a diagram's ordinate: the block arrow that points to it from outside, and its text
-/// beside the arrow. A text stays in its diagram's band; `lado` is the side of the arrow that it prefers.
-void RotularExtremo(Hoja& h, const Diagrama& diagrama, double x, double eje, double valor, double lado) {
-    const std::string texto = h.Numero(valor, "0");
+/// beside the arrow. A text stays in its diagram's band; `Lado` is the side of the arrow that it prefers.
+void RotularExtremo(Hoja& h, const Diagrama& diagrama, double x, double eje, const ValorDeTramo& v) {
+    const std::string texto = h.Numero(v.Valor, "0");
     if (texto == "0" || texto.empty()) return;
     Plano& p = h.Papel;
-    const double subida = diagrama.Subida(valor);
+    const double subida = diagrama.Subida(v.Ordenada);
     const double fuera = subida < 0 ? -1 : 1;
     DibujeFlecha(p.lienzo(), Pixeles(x), Pixeles(eje + subida), subida < 0 ? HaciaAbajo : HaciaArriba,
                  FlechaBloque, p.Escala());
@@ -82,7 +91,7 @@ void RotularExtremo(Hoja& h, const Diagrama& diagrama, double x, double eje, dou
     for (const double distancia : {std::min(alto + 0.6 * LargoDeFlecha * p.Escala(), limite),
                                    std::min(alto + medio, limite), medio, limite, limite + 2 * medio}) {
         for (const double corrimiento :
-             {lado * junto, -lado * junto, 0.0, lado * 2 * junto, -lado * 2 * junto})
+             {v.Lado * junto, -v.Lado * junto, 0.0, v.Lado * 2 * junto, -v.Lado * 2 * junto})
             centros.push_back({x + corrimiento, eje + fuera * std::max(distancia, medio)});
     }
     p.Rotular(texto, centros);
@@ -96,18 +105,12 @@ void DibujeDiagrama(Hoja& h, const Diagrama& diagrama) {
     }
 }
 
-struct ValorDeTramo {
-    double d;  ///< from the first axis along the horizontal, m
-    double Valor;
-    double Lado;
-};
-
 void RotularDiagrama(Hoja& h, const Diagrama& diagrama, std::size_t i,
                      const std::vector<ValorDeTramo>& valores) {
     const double tangente = std::tan(PendienteDeTramo(h.Datos.Ejes, i));
     for (const ValorDeTramo& v : valores)
         RotularExtremo(h, diagrama, h.Papel.X(h.EjeX(i) + v.d), EjeDelDiagrama(h, diagrama, i, v.d, tangente),
-                       v.Valor, v.Lado);
+                       v);
 }
 
 /// Factored reaction under each axis.
@@ -125,6 +128,13 @@ void DibujeReacciones(Hoja& h, std::int32_t fila) {
         p.Rotular(texto,
                   {{x + lado, y}, {x - lado, y}, {x + lado, y + medida.Alto}, {x - lado, y + medida.Alto}});
     }
+}
+
+/// A text at the left of the first axis and its values, centred on a row.
+void RotularFila(const Hoja& h, std::string_view texto, std::int32_t fila) {
+    const double margen = 0.5 * h.Papel.Escala() + h.Papel.lienzo().Medir("00000").Ancho;
+    h.Papel.Escribir(texto, Ancla::Derecha, h.Papel.X(h.EjeX(1)) - Pixeles(margen),
+                     fila - h.Papel.lienzo().Medir("WW").Alto / 2);
 }
 
 double Unidades(double escala, double maximo) {
@@ -145,21 +155,20 @@ void DibujeFuerzas(Lienzo& lienzo, HojaLosa& hoja, const LosaCalculada& losa, co
                             Unidades(p.Escala(), std::max(r.MaxMomentoApoyo, r.MaxMomentoTramo)), 1,
                             FondoMomento, &PuntoDiagrama::M};
     p.Letra(LetraNormal);
-    const double margen = 0.5 * p.Escala() + lienzo.Medir("00000").Ancho;
-    RotularFila(h, estilo.Textos.VU, p.Fila(0, h.EjeY(1)) + cortes.Desfase, margen);
-    RotularFila(h, estilo.Textos.MU, p.Fila(0, h.EjeY(1)) + momentos.Desfase, margen);
+    RotularFila(h, estilo.Textos.VU, p.Fila(0, h.EjeY(1)) + cortes.Desfase);
+    RotularFila(h, estilo.Textos.MU, p.Fila(0, h.EjeY(1)) + momentos.Desfase);
     DibujeDiagrama(h, cortes);
     DibujeDiagrama(h, momentos);
     for (std::size_t i = 1; i <= h.N; ++i) {
         const ExtremosDeTramo e = ExtremosDe(losa, i);
         const double LT = losa.Datos.Tramos[i].LT;
-        RotularDiagrama(h, cortes, i, {{0, e.VA, 1}, {LT, e.VB, -1}});
+        RotularDiagrama(h, cortes, i, {{0, e.VA, e.VA, 1}, {LT, -e.VB, e.VB, -1}});
         const double C = std::cos(PendienteDeTramo(hoja.Ejes, i));
-        RotularDiagrama(h, momentos, i, {{0, e.MA, 1}, {LT, e.MB, -1}, {e.x * C, e.MT, 1}});
+        RotularDiagrama(h, momentos, i, {{0, e.MA, e.MA, 1}, {LT, e.MB, e.MB, -1}, {e.x * C, e.MT, e.MT, 1}});
     }
     const std::int32_t filaReacciones = hoja.Vista.OrigenY + momentos.Desfase + franja / 2;
     RotularFila(h, losa.Datos.OpcionMaciza ? "(kgf/metro):" : "(kgf/Nervio):",
-                filaReacciones + lienzo.Medir("WW").Alto / 2, margen);
+                filaReacciones + lienzo.Medir("WW").Alto / 2);
     DibujeReacciones(h, filaReacciones);
 
     const DatosGenerales& g = losa.Generales;

@@ -17,15 +17,12 @@ using namespace hoja;
 
 constexpr Color FondoBanda{156, 177, 182};
 constexpr std::array<Color, 3> FondoCarga{{{248, 199, 199}, {248, 199, 199}, {255, 242, 217}}};
-constexpr Color FondoTriangulo{255, 219, 117};
-constexpr Color FondoRodillo{253, 192, 160};
 constexpr Pluma PlumaContorno{1, EstiloLinea::Solida, Contorno};
 
 constexpr double PieDeLinea = 0.75;  // end of an axis's vertical line, below the joint
 constexpr double DiametroDeEje = 0.52;
 constexpr double TopeDeCirculo = 0.3;  // below the line's end
 constexpr double LetraDeEje = 11.5;
-constexpr double LadoDeApoyo = 0.2;
 
 /// Fit of the total length in the width.
 double FactorDeAjuste(const EjesDeHoja& ejes, const ReglaDeEscala& regla) {
@@ -89,7 +86,8 @@ void DibujeCargaUniforme(Hoja& h, std::size_t i) {
     const std::string texto = TextoDeCarga(h.Losa.Datos.Tramos[i], h.Datos.OpcionCarga);
     const MedidaTexto medida = p.lienzo().Medir(texto);
     const double x = p.X(mitad.x);
-    const double enBanda = p.Y(mitad.y + (MediaBanda + BordeCarga) / 2);
+    const double enBanda = std::min<double>(p.Y(mitad.y + (MediaBanda + BordeCarga) / 2),
+                                            p.Y(mitad.y + MediaBanda) - medida.Alto / 2.0);
     std::vector<Centro> centros{{x, enBanda}};
     for (int nivel = 1; nivel <= 4; ++nivel)
         centros.push_back(
@@ -137,55 +135,6 @@ void DibujeJuntaDesplazada(Hoja& h, const JuntaD& junta) {
     p.Rotular(texto, centros);
 }
 
-void DibujeTriangulo(const Hoja& h, PuntoLienzo punta, PuntoLienzo base1, PuntoLienzo base2) {
-    const std::array<PuntoLienzo, 3> figura{punta, base1, base2};
-    h.Papel.lienzo().Poligono(figura, PlumaContorno, FondoTriangulo);
-}
-
-/// A pin stands on the ground, a roller along X on two wheels, a roller along Y leans on a wall by two
-/// wheels.
-void DibujeApoyo(const Hoja& h, std::size_t eje) {
-    if (eje >= h.Losa.Datos.Ejes.size()) return;
-    const Plano& p = h.Papel;
-    Lienzo& lienzo = p.lienzo();
-    const std::int32_t lado = Pixeles(p.Escala() * LadoDeApoyo);
-    const std::int32_t radio = std::max(1, Pixeles(p.Escala() * LadoDeApoyo / 4));
-    const std::int32_t x = p.X(h.EjeX(eje));
-    const std::int32_t y = p.Fila(MediaBanda, h.EjeY(eje));
-    const std::int32_t medio = Pixeles(lado / 2.0);
-    switch (h.Losa.Datos.Ejes[eje].Tipo) {
-        case ApoyoFijo:
-            DibujeTriangulo(h, {x, y}, {x - lado, y + lado}, {x + lado, y + lado});
-            DibujeLinea(lienzo, x - lado - medio, y + lado, x + lado + medio, y + lado, 2,
-                        EstiloLinea::Solida, Contorno);
-            return;
-        case RodilloEnX:
-            DibujeTriangulo(h, {x, y}, {x - lado, y + lado}, {x + lado, y + lado});
-            for (const std::int32_t centro : {x - medio, x + medio})
-                lienzo.Circulo({centro, y + lado + radio}, radio, PlumaContorno, FondoRodillo);
-            return;
-        case RodilloEnY:
-            DibujeTriangulo(h, {x, y + lado}, {x - lado, y}, {x - lado, y + 2 * lado});
-            for (const std::int32_t centro : {y + lado - medio, y + lado + medio})
-                lienzo.Circulo({x - lado - radio, centro}, radio, PlumaContorno, FondoRodillo);
-            DibujeLinea(lienzo, x - lado - 2 * radio, y, x - lado - 2 * radio, y + 2 * lado, 1,
-                        EstiloLinea::Solida, Contorno);
-            return;
-        case Empotramiento: {
-            const std::int32_t alto = Pixeles(p.Escala() * 0.25);
-            const std::int32_t centro = p.Y(h.EjeY(eje));
-            const std::array<PuntoLienzo, 4> figura{{{x - medio, centro - alto},
-                                                     {x + medio, centro - alto},
-                                                     {x + medio, centro + alto},
-                                                     {x - medio, centro + alto}}};
-            lienzo.Poligono(figura, PlumaContorno, FondoTriangulo);
-            return;
-        }
-        default:
-            return;
-    }
-}
-
 void Preparar(Hoja& h) {
     h.Papel.lienzo().PonerColorTexto(h.Papel.lienzo().ColorTextoDeBotones());
     h.Papel.Letra(LetraNormal);
@@ -231,7 +180,8 @@ static void DibujeBase(Hoja& h) {
     p.Letra(LetraNormal);
     for (std::size_t k = 1; k < h.Losa.Datos.JuntasD.size(); ++k)
         DibujeJuntaDesplazada(h, h.Losa.Datos.JuntasD[k]);
-    for (std::size_t eje = 1; eje <= h.N + 1; ++eje) DibujeApoyo(h, eje);
+    for (std::size_t eje = 1; eje <= h.N + 1 && eje < h.Losa.Datos.Ejes.size(); ++eje)
+        DibujeApoyo(p, h.EjeX(eje), h.EjeY(eje), h.Losa.Datos.Ejes[eje].Tipo);
 }
 
 Hoja EmpezarHoja(Lienzo& lienzo, HojaLosa& datos, const LosaCalculada& losa, const EstiloHoja& estilo) {
@@ -254,11 +204,6 @@ void DibujeTitulos(const Hoja& h, std::int32_t fila, const std::vector<std::stri
         h.Papel.Escribir(linea, Ancla::Centro, h.Papel.X(0), fila);
         fila += alto;
     }
-}
-
-void RotularFila(const Hoja& h, std::string_view texto, std::int32_t fila, double margen) {
-    const std::int32_t alto = h.Papel.lienzo().Medir("WW").Alto;
-    h.Papel.Escribir(texto, Ancla::Derecha, h.Papel.X(h.EjeX(1)) - Pixeles(margen), fila - alto / 2);
 }
 
 std::int16_t DibujeBaseLosa(Lienzo& lienzo, HojaLosa& hoja, const LosaCalculada& losa,

@@ -47,10 +47,11 @@ void UbicarVista(const Lienzo& lienzo, HojaLosa& hoja, const EstiloHoja& estilo)
 /// nothing to draw.
 Hoja EmpezarHoja(Lienzo& lienzo, HojaLosa& datos, const LosaCalculada& losa, const EstiloHoja& estilo);
 
+/// Symbol of a support at a joint of the world: a pin stands on the ground, a roller along X on two wheels, a
+/// roller along Y leans on a wall by two wheels, a fixed joint is a block about it; no support has none.
+void DibujeApoyo(const Plano& plano, double x, double y, std::int16_t tipo);
+
 /// Bold lines of the sheet's title, centred below each other from a row on.
 void DibujeTitulos(const Hoja& hoja, std::int32_t fila, const std::vector<std::string>& lineas);
-
-/// Text at the left of the first axis, centred on a row and `margen` canvas units clear of the axis.
-void RotularFila(const Hoja& hoja, std::string_view texto, std::int32_t fila, double margen);
 
 }  // namespace trabex

@@ -15,7 +15,7 @@ QColor ColorQt(Color color) {
 
 /// Fonts to fall back on where the drawings' own are not installed, of like widths.
 QStringList FamiliasDe(const QString& nombre) {
-    return {nombre, "Verdana", "DejaVu Sans", "Arial", "Liberation Sans"};
+    return {nombre, "Arial", "Liberation Sans", "DejaVu Sans"};
 }
 
 QPen PlumaQt(const Pluma& pluma) {
