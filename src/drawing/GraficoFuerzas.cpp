@@ -84,15 +84,15 @@ void RotularExtremo(Hoja& h, const Diagrama& diagrama, double x, double eje, con
                  FlechaBloque, p.Escala());
     const MedidaTexto medida = p.lienzo().Medir(texto);
     const double medio = medida.Alto / 2.0;
-    const double limite = p.Escala() * MediaFranja - medio;
+    const double limite = std::max(p.Escala() * MediaFranja - medio, medio);
     const double junto = 0.06 * p.Escala() + 2 + medida.Ancho / 2.0;
     const double alto = std::fabs(subida);
     std::vector<Centro> centros;
-    for (const double distancia : {std::min(alto + 0.6 * LargoDeFlecha * p.Escala(), limite),
-                                   std::min(alto + medio, limite), medio, limite, limite + 2 * medio}) {
-        for (const double corrimiento :
-             {v.Lado * junto, -v.Lado * junto, 0.0, v.Lado * 2 * junto, -v.Lado * 2 * junto})
-            centros.push_back({x + corrimiento, eje + fuera * std::max(distancia, medio)});
+    for (const double distancia :
+         {std::min(alto + 0.6 * LargoDeFlecha * p.Escala(), limite), std::min(alto + medio, limite), medio,
+          limite, limite + 2 * medio, -medio}) {
+        for (const double corrimiento : {1.0, -1.0, 0.0, 2.0, -2.0, 3.0})
+            centros.push_back({x + corrimiento * v.Lado * junto, eje + fuera * distancia});
     }
     p.Rotular(texto, centros);
 }

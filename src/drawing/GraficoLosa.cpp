@@ -89,9 +89,13 @@ void DibujeCargaUniforme(Hoja& h, std::size_t i) {
     const double enBanda = std::min<double>(p.Y(mitad.y + (MediaBanda + BordeCarga) / 2),
                                             p.Y(mitad.y + MediaBanda) - medida.Alto / 2.0);
     std::vector<Centro> centros{{x, enBanda}};
-    for (int nivel = 1; nivel <= 4; ++nivel)
-        centros.push_back(
-            {x, std::min(enBanda, p.Y(mitad.y + BordeCarga) + medida.Alto / 2.0) - nivel * medida.Alto});
+    const double cuarto = (h.EjeX(i + 1) - h.EjeX(i)) * p.Escala() / 4;
+    if (pendiente == 0 && medida.Ancho < 2 * cuarto) {
+        centros.push_back({x - cuarto, enBanda});
+        centros.push_back({x + cuarto, enBanda});
+    }
+    const double sobreBanda = std::min(enBanda, p.Y(mitad.y + BordeCarga) + medida.Alto / 2.0);
+    for (int nivel = 1; nivel <= 4; ++nivel) centros.push_back({x, sobreBanda - nivel * medida.Alto});
     const CajaTexto caja = p.Colocar(medida.Ancho, medida.Alto, centros);
     p.EscribirCentrado(texto, caja.x + caja.Ancho / 2, caja.y + caja.Alto / 2,
                        pendiente * 180 / std::numbers::pi);
@@ -117,7 +121,12 @@ void DibujeEje(Hoja& h, std::size_t eje) {
     const std::int32_t y = p.Fila(PieDeLinea + TopeDeCirculo + DiametroDeEje / 2, h.EjeY(eje));
     p.lienzo().Circulo({x, y}, radio, PlumaContorno, FondoTexto);
     p.Letra(LetraDeEje, true);
-    p.EscribirCentrado(eje < h.Losa.Datos.Ejes.size() ? h.Losa.Datos.Ejes[eje].Eje : "", x, y);
+    const std::string nombre = eje < h.Losa.Datos.Ejes.size() ? h.Losa.Datos.Ejes[eje].Eje : "";
+    const MedidaTexto medida = p.lienzo().Medir(nombre);
+    const double ancho = std::max(medida.Ancho, 2 * radio);
+    const double alto = std::max(medida.Alto, 2 * radio);
+    p.Reservar({x - ancho / 2, y - alto / 2, ancho, alto});
+    p.EscribirCentrado(nombre, x, y);
 }
 
 void DibujeJuntaDesplazada(Hoja& h, const JuntaD& junta) {

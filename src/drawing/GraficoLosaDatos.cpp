@@ -222,8 +222,11 @@ void DibujeCargasDeTramo(Plano& p, const Boceto& b, std::size_t i) {
     }
     const std::string texto = TextoDeCarga(tramo, CargaPorCasos);
     const double alto = p.lienzo().Medir(texto).Alto;
+    const double cuarto = (p.X(b.Ejes.EjesX[i + 1]) - p.X(b.Ejes.EjesX[i])) / 4.0;
     const double enBanda = p.Y(nivel + (hoja::MediaBanda + hoja::BordeCarga) / 2);
     p.Rotular(texto, {{medio, enBanda},
+                      {medio - cuarto, enBanda},
+                      {medio + cuarto, enBanda},
                       {medio, enBanda - alto},
                       {medio, enBanda - 2 * alto},
                       {medio, enBanda - 3 * alto}});
