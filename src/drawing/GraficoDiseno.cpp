@@ -19,7 +19,7 @@ constexpr double AltoDeFila = 0.42;
 constexpr std::size_t FilasDeTabla = 10;
 constexpr double SobreTitulos = 0.25;
 constexpr Color MarcaInflexion{255, 170, 170};
-constexpr std::int32_t Separacion = 4;  // between values of a row, canvas units
+constexpr std::int32_t PixelesEntreValores = 4;
 
 struct Celda {
     double x;  ///< of its centre, canvas units
@@ -39,7 +39,11 @@ struct Fila {
 
 class Tabla {
   public:
-    explicit Tabla(const Hoja& h) : h_(h), p_(h.Papel), alto_(h.Papel.lienzo().Medir("WW").Alto) {}
+    explicit Tabla(const Hoja& h)
+        : h_(h),
+          p_(h.Papel),
+          alto_(h.Papel.lienzo().Medir("WW").Alto),
+          separacion_(h.Papel.Unidades(PixelesEntreValores)) {}
 
     /// Draws the rows from a canvas row on and returns the row below them.
     std::int32_t Dibujar(std::vector<Fila>& filas, std::int32_t desde);
@@ -50,11 +54,12 @@ class Tabla {
     double BordeIzquierdo(const std::vector<Fila>& filas) const;
     void DibujarFondo(const Fila& fila, double y, double alto, double borde) const;
     void DibujarFila(const Fila& fila, double y, double alto, double borde) const;
-    double Marca() const { return std::max(5.0, 0.12 * p_.Escala()); }
+    double Marca() const { return std::max<double>(p_.Unidades(5), 0.12 * p_.Escala()); }
 
     const Hoja& h_;
     const Plano& p_;
     std::int32_t alto_;
+    std::int32_t separacion_;
 };
 
 void Tabla::RepartirLineas(Fila& fila) const {
@@ -64,7 +69,7 @@ void Tabla::RepartirLineas(Fila& fila) const {
     for (Celda& celda : fila.Celdas) {
         const double medio = p_.lienzo().Medir(celda.Texto).Ancho / 2.0;
         const auto libre = std::find_if(finales.begin(), finales.end(),
-                                        [&](double final) { return celda.x - medio >= final + Separacion; });
+                                        [&](double final) { return celda.x - medio >= final + separacion_; });
         celda.Linea = static_cast<std::size_t>(libre - finales.begin());
         if (libre == finales.end()) finales.push_back(0);
         finales[celda.Linea] = celda.x + medio;
@@ -85,15 +90,15 @@ double Tabla::BordeIzquierdo(const std::vector<Fila>& filas) const {
         double hasta = primero;
         for (const Celda& celda : fila.Celdas)
             hasta = std::min(hasta, celda.x - p_.lienzo().Medir(celda.Texto).Ancho / 2.0);
-        borde = std::min(borde, hasta - 2 * Separacion - p_.lienzo().Medir(fila.Rotulo).Ancho);
+        borde = std::min(borde, hasta - 2 * separacion_ - p_.lienzo().Medir(fila.Rotulo).Ancho);
     }
     return borde;
 }
 
 void Tabla::DibujarFondo(const Fila& fila, double y, double alto, double borde) const {
     if (!fila.Fondo) return;
-    const std::int32_t izquierda = Pixeles(borde) - Separacion;
-    const std::int32_t derecha = p_.X(h_.EjeX(h_.N + 1)) + Pixeles(0.3 * p_.Escala()) + 4 * Separacion;
+    const std::int32_t izquierda = Pixeles(borde) - separacion_;
+    const std::int32_t derecha = p_.X(h_.EjeX(h_.N + 1)) + Pixeles(0.3 * p_.Escala()) + 4 * separacion_;
     const std::int32_t y1 = Pixeles(y);
     const std::int32_t y2 = Pixeles(y + alto);
     const std::array<PuntoLienzo, 4> banda{{{izquierda, y1}, {derecha, y1}, {derecha, y2}, {izquierda, y2}}};
@@ -164,7 +169,8 @@ Fila FilaDeMacizados(const Hoja& h) {
     const auto agregar = [&](std::size_t eje, double longitud, double lado) {
         if (MacizadoVisible(longitud) == 0) return;
         const std::string texto = h.Numero(longitud, "0.00");
-        const double aparte = h.Papel.lienzo().Medir(texto).Ancho / 2.0 + Separacion;
+        const double aparte =
+            h.Papel.lienzo().Medir(texto).Ancho / 2.0 + h.Papel.Unidades(PixelesEntreValores);
         fila.Celdas.push_back({h.Papel.X(h.EjeX(eje)) + lado * aparte, texto});
     };
     for (std::size_t eje = 1; eje <= h.N + 1; ++eje) {

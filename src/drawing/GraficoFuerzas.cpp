@@ -85,7 +85,7 @@ void RotularExtremo(Hoja& h, const Diagrama& diagrama, double x, double eje, con
     const MedidaTexto medida = p.lienzo().Medir(texto);
     const double medio = medida.Alto / 2.0;
     const double limite = std::max(p.Escala() * MediaFranja - medio, medio);
-    const double junto = 0.06 * p.Escala() + 2 + medida.Ancho / 2.0;
+    const double junto = 0.06 * p.Escala() + p.Unidades(2) + medida.Ancho / 2.0;
     const double alto = std::fabs(subida);
     std::vector<Centro> centros;
     for (const double distancia :
@@ -123,7 +123,7 @@ void DibujeReacciones(Hoja& h, std::int32_t fila) {
         const std::int32_t x = p.X(h.EjeX(eje));
         DibujeFlecha(p.lienzo(), x, fila, HaciaArriba, FlechaBloque, tamano);
         const MedidaTexto medida = p.lienzo().Medir(texto);
-        const double lado = 0.06 * p.Escala() + 2 + medida.Ancho / 2.0;
+        const double lado = 0.06 * p.Escala() + p.Unidades(2) + medida.Ancho / 2.0;
         const double y = fila + std::max(0.32 * tamano, medida.Alto / 2.0);
         p.Rotular(texto,
                   {{x + lado, y}, {x - lado, y}, {x + lado, y + medida.Alto}, {x - lado, y + medida.Alto}});
@@ -173,7 +173,7 @@ void DibujeFuerzas(Lienzo& lienzo, HojaLosa& hoja, const LosaCalculada& losa, co
 
     const DatosGenerales& g = losa.Generales;
     const std::int32_t titulos =
-        std::max(p.Fila(FilaDeTitulos), filaReacciones + 2 * lienzo.Medir("WW").Alto + 4);
+        std::max(p.Fila(FilaDeTitulos), filaReacciones + 2 * lienzo.Medir("WW").Alto + p.Unidades(4));
     DibujeTitulos(h, titulos,
                   {RotuloDeLosa(losa.Datos) + "E = " + h.Espesor() + " m", losa.Datos.Nombre,
                    "(DIAGRAMAS DE CORTES Y MOMENTOS MAYORADOS)",

@@ -75,7 +75,7 @@ void DibujeCargaPuntual(Hoja& h, std::size_t i) {
     const std::string valor = h.Numero(tramo.p1, "0");
     const MedidaTexto medida = p.lienzo().Medir(valor);
     const double lado = 0.15 * p.Escala() + medida.Alto / 2.0;
-    const double centro = y - medida.Ancho / 2.0 - 2;
+    const double centro = y - medida.Ancho / 2.0 - p.Unidades(2);
     p.Rotular(valor, {{x + lado, centro}, {x - lado, centro}, {x + lado, centro - medida.Ancho}}, 90);
 }
 
@@ -105,7 +105,7 @@ void DibujeLongitud(Hoja& h, std::size_t i) {
     Plano& p = h.Papel;
     const Lugar mitad = MitadDeTramo(h, i);
     const double alto = p.lienzo().Medir("WW").Alto;
-    const double primera = p.Fila(MediaBanda, mitad.y) + 2 + alto / 2;
+    const double primera = p.Fila(MediaBanda, mitad.y) + p.Unidades(2) + alto / 2;
     std::vector<Centro> centros;
     for (int nivel = 0; nivel < 4; ++nivel)
         centros.push_back({static_cast<double>(p.X(mitad.x)), primera + nivel * alto});
@@ -140,7 +140,8 @@ void DibujeJuntaDesplazada(Hoja& h, const JuntaD& junta) {
     const MedidaTexto medida = p.lienzo().Medir(texto);
     std::vector<Centro> centros;
     for (int nivel = 0; nivel < 5; ++nivel)
-        centros.push_back({static_cast<double>(x), p.Y(y + BordeCarga) - 2 - (nivel + 0.5) * medida.Alto});
+        centros.push_back(
+            {static_cast<double>(x), p.Y(y + BordeCarga) - p.Unidades(2) - (nivel + 0.5) * medida.Alto});
     p.Rotular(texto, centros);
 }
 
@@ -169,10 +170,13 @@ void UbicarVista(const Lienzo& lienzo, HojaLosa& hoja, const EstiloHoja& estilo)
     if (regla.EscalaMaxima > 0) base = std::min(base, regla.EscalaMaxima);
     EstadoVista& vista = hoja.Vista;
     if (!(vista.Zoom > 0)) vista.Zoom = 1;
+    const double enPantalla = vista.Escala;
     vista.Escala = vista.Zoom * base;
+    const double pan = regla.DePagina && enPantalla > 0 ? vista.Escala / enPantalla : 1;
     if (vista.Zoom == 1.0) vista.EscalaBase = 1 / vista.Escala;
-    vista.OrigenX = Pixeles(W / 2 + vista.PanX);
-    vista.OrigenY = Pixeles(ejes.YMaximo / 2 * vista.Escala + H * regla.OrigenVertical + vista.PanY);
+    if (regla.DePagina) vista.EscalaBase = 1 / base;
+    vista.OrigenX = Pixeles(W / 2 + pan * vista.PanX);
+    vista.OrigenY = Pixeles(ejes.YMaximo / 2 * vista.Escala + H * regla.OrigenVertical + pan * vista.PanY);
 }
 
 /// Labels are placed after the figures whose places they must leave free.

@@ -50,6 +50,9 @@ class Lienzo {
 
     virtual std::int32_t ScaleWidth() const = 0;
     virtual std::int32_t ScaleHeight() const = 0;
+    /// Side of a plotted pixel in the canvas's units: 1 on a screen, more on finer devices, so that what is
+    /// told in pixels is seen there too.
+    virtual std::int32_t LadoDePixel() const { return 1; }
     virtual void Limpiar() = 0;
 
     virtual void PonerFuente(const Fuente& fuente) = 0;

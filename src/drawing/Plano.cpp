@@ -103,7 +103,7 @@ void Plano::Acotar(double x1, double x2, std::int32_t y, std::string_view texto,
     DibujeLinea(lienzo_, desde, y, hasta, y, 1, estilo, {});
     DibujeFlechaPixel(lienzo_, desde, y, HaciaIzquierda, {});
     DibujeFlechaPixel(lienzo_, hasta, y, HaciaDerecha, {});
-    Escribir(texto, Ancla::Centro, (desde + hasta) / 2, y - lienzo_.Medir("WW").Alto - 1);
+    Escribir(texto, Ancla::Centro, (desde + hasta) / 2, y - lienzo_.Medir("WW").Alto - Unidades(1));
 }
 
 }  // namespace trabex

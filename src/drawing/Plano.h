@@ -36,6 +36,9 @@ class Plano {
     Lienzo& lienzo() const { return lienzo_; }
     double Escala() const { return vista_.Escala; }
 
+    /// A length in pixels as canvas units: the same number on a screen.
+    std::int32_t Unidades(std::int32_t pixeles) const { return pixeles * lienzo_.LadoDePixel(); }
+
     std::int32_t X(double x) const;
     std::int32_t Y(double y) const;
     /// Row of a point `abajo` m below the world's level `y`.

@@ -66,11 +66,12 @@ void DibujeTexto(Lienzo& lienzo, std::string_view texto, std::int32_t x, std::in
 
 void DibujeFlechaPixel(Lienzo& lienzo, std::int32_t x, std::int32_t y, const Sentidos& sentidos,
                        Color color) {
+    const std::int32_t lado = lienzo.LadoDePixel();
     PorSentido(sentidos, [&](auto girar) {
         for (std::int32_t fila = 0; fila < FilasDePunta; ++fila) {
-            for (std::int32_t lado = -fila; lado <= fila; ++lado) {
-                const PuntoLienzo p = girar(PuntoLienzo{lado, -fila});
-                lienzo.Pixel({x + p.x, y + p.y}, color);
+            for (std::int32_t columna = -fila; columna <= fila; ++columna) {
+                const PuntoLienzo p = girar(PuntoLienzo{columna, -fila});
+                lienzo.Pixel({x + p.x * lado, y + p.y * lado}, color);
             }
         }
     });

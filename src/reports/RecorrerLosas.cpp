@@ -21,7 +21,7 @@ bool RecorrerLosas(const std::filesystem::path& camino,
         ResultadosLosa resultados;
         LeerLosa(proyecto, losa);
         CalcularLosa(losa, generales, resultados);
-        accion({static_cast<std::size_t>(numero), losa, generales, resultados});
+        accion({static_cast<std::size_t>(numero), datos, losa, generales, resultados});
     }
     return true;
 }

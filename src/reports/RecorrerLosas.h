@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <functional>
 
+#include "base/Proyecto.h"
 #include "slab/Losa.h"
 #include "slab/ResultadosLosa.h"
 
@@ -12,6 +13,7 @@ namespace trabex {
 /// A slab of a project with its results; `Numero` is its place in the list, from 1.
 struct LosaDelProyecto {
     std::size_t Numero;
+    const DatosDelProyecto& Proyecto;
     const Losa& Datos;
     const DatosGenerales& Generales;
     const ResultadosLosa& Resultados;

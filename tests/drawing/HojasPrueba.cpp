@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "drawing/GraficoLosa.h"
 #include "drawing/GraficoLosaDatos.h"
+#include "drawing/GraficoLosasPrinter.h"
 #include "slab/CalcularLosa.h"
 #include "support/LienzoGrabador.h"
 #include "support/LosasDePrueba.h"
@@ -248,6 +248,49 @@ TEST(Hojas, UnaLosaSinTramosSoloLimpiaElLienzo) {
     caso.Dibujar(VistaDiseno);
     EXPECT_TRUE(caso.Lienzo.Lineas.empty());
 }
+
+struct Pagina {
+    double Longitud;
+    std::int32_t Ancho, Alto;  ///< A4 and Letter within their margins, 600 units to an inch
+    double Escala;
+};
+
+class PapelPrueba : public testing::TestWithParam<Pagina> {};
+
+TEST_P(PapelPrueba, LaEscalaTieneTopeYNoLaLimitaElAlto) {
+    const auto [longitud, ancho, alto, escala] = GetParam();
+    Caso caso(prueba::LosaContinua({longitud / 3, longitud / 3, longitud / 3}, 310, 120));
+    caso.Hoja.Vista.Escala = 50;  // as it stands on the screen, with a pan of one metre
+    caso.Hoja.Vista.PanX = 50;
+    LienzoGrabador pagina(ancho, alto);
+    for (const std::uint8_t vista : {VistaGeometria, VistaFuerzas, VistaDiseno}) {
+        caso.Hoja.VistaActual = vista;
+        GuardeGraficos1(pagina, caso.Hoja, caso.Calculada(), {"MARÍA", "LA CEIBA", "ING. NÚÑEZ"});
+        const auto& circulos = pagina.Circulos;
+        const double x1 = circulos.front().Puntos[0].x;
+        EXPECT_NEAR(x1, ancho / 2.0 + escala * (1 - longitud / 2), 2 + escala);
+        for (const char* texto :
+             {"Usuario: MARÍA", "PROYECTO: LA CEIBA", "CALCULISTA: ING. NÚÑEZ", "Trabex  versión: 2024"})
+            EXPECT_NE(pagina.Hallar(texto), nullptr);
+        for (const TextoGrabado& texto : pagina.Textos) EXPECT_EQ(texto.Letra.Nombre, "Arial");
+        EXPECT_DOUBLE_EQ(pagina.Hallar(Formato(longitud / 3, "0.00", {}))->Letra.Puntos, 8.5);
+        EXPECT_EQ(caso.Hoja.Vista.Escala, 50);
+    }
+    EXPECT_NE(pagina.Hallar("CP (kgf/ml):"), nullptr);
+    EXPECT_NE(pagina.Hallar("As Sup(cm2):"), nullptr);
+    EXPECT_NE(pagina.Hallar("LOSA NERVADA: E = 0,25 m   (ANALISIS Y DISEÑO)"), nullptr);
+    HojaLosa papel = caso.Hoja;
+    RedibujeVista(pagina, papel, caso.Calculada(), HojaEnPapel);
+    EXPECT_DOUBLE_EQ(papel.Vista.Escala, escala);
+    EXPECT_EQ(papel.Vista.OrigenX, std::nearbyint(ancho / 2.0 + escala));
+    EXPECT_EQ(papel.Vista.OrigenY, std::nearbyint(alto * 0.25));
+}
+
+INSTANTIATE_TEST_SUITE_P(Paginas, PapelPrueba,
+                         testing::Values(Pagina{3, 4393, 6449, 350}, Pagina{12, 4393, 6449, 0.7 * 4393 / 12},
+                                         Pagina{12, 6449, 4393, 350},
+                                         Pagina{40, 4533, 6033, 0.75 * 4533 / 40},
+                                         Pagina{40, 6033, 4533, 0.75 * 6033 / 40}));
 
 TEST(Bocetos, SeDibujanConDatosAMedioEntrar) {
     Losa losa = prueba::LosaContinua({5, 0, 4}, 0);

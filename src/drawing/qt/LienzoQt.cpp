@@ -9,6 +9,8 @@ namespace trabex {
 
 namespace {
 
+constexpr int PuntosPorPulgadaDePantalla = 96;
+
 QColor ColorQt(Color color) {
     return {color.R, color.G, color.B};
 }
@@ -18,8 +20,8 @@ QStringList FamiliasDe(const QString& nombre) {
     return {nombre, "Arial", "Liberation Sans", "DejaVu Sans"};
 }
 
-QPen PlumaQt(const Pluma& pluma) {
-    QPen lapiz(ColorQt(pluma.Tinta), pluma.Ancho,
+QPen PlumaQt(const Pluma& pluma, std::int32_t lado) {
+    QPen lapiz(ColorQt(pluma.Tinta), pluma.Ancho * lado,
                pluma.Estilo == EstiloLinea::Punteada ? Qt::DotLine : Qt::SolidLine);
     lapiz.setJoinStyle(Qt::MiterJoin);
     lapiz.setCapStyle(Qt::FlatCap);
@@ -75,7 +77,11 @@ const QStaticText& MemoriaDeTextos::Buscar(std::string_view texto, const QFont& 
 }
 
 LienzoQt::LienzoQt(QPainter& pintor, std::int32_t ancho, std::int32_t alto, MemoriaDeTextos* memoria)
-    : pintor_(pintor), ancho_(ancho), alto_(alto), memoria_(memoria) {
+    : pintor_(pintor),
+      ancho_(ancho),
+      alto_(alto),
+      lado_(std::max(1, pintor.device()->logicalDpiX() / PuntosPorPulgadaDePantalla)),
+      memoria_(memoria) {
     pintor_.setRenderHint(QPainter::Antialiasing, false);
     pintor_.setRenderHint(QPainter::TextAntialiasing, true);
     PonerFuente({"Tahoma", 8, false});
@@ -138,14 +144,14 @@ void LienzoQt::Texto(std::string_view texto, PuntoLienzo lugar, std::int32_t dec
 
 void LienzoQt::Linea(PuntoLienzo desde, PuntoLienzo hasta, const Pluma& pluma) {
     const Suavizado suave(pintor_, !DeEjes(desde, hasta));
-    pintor_.setPen(PlumaQt(pluma));
+    pintor_.setPen(PlumaQt(pluma, lado_));
     pintor_.drawLine(desde.x, desde.y, hasta.x, hasta.y);
 }
 
 void LienzoQt::Poligono(std::span<const PuntoLienzo> puntos, const std::optional<Pluma>& pluma,
                         const std::optional<Color>& relleno) {
     const Suavizado suave(pintor_, !DeEjes(puntos));
-    pintor_.setPen(pluma ? PlumaQt(*pluma) : QPen(Qt::NoPen));
+    pintor_.setPen(pluma ? PlumaQt(*pluma, lado_) : QPen(Qt::NoPen));
     pintor_.setBrush(relleno ? QBrush(ColorQt(*relleno)) : QBrush(Qt::NoBrush));
     QPolygon figura;
     figura.reserve(static_cast<qsizetype>(puntos.size()));
@@ -156,13 +162,13 @@ void LienzoQt::Poligono(std::span<const PuntoLienzo> puntos, const std::optional
 void LienzoQt::Circulo(PuntoLienzo centro, std::int32_t radio, const std::optional<Pluma>& pluma,
                        const std::optional<Color>& relleno) {
     const Suavizado suave(pintor_, true);
-    pintor_.setPen(pluma ? PlumaQt(*pluma) : QPen(Qt::NoPen));
+    pintor_.setPen(pluma ? PlumaQt(*pluma, lado_) : QPen(Qt::NoPen));
     pintor_.setBrush(relleno ? QBrush(ColorQt(*relleno)) : QBrush(Qt::NoBrush));
     pintor_.drawEllipse(QPoint(centro.x, centro.y), radio, radio);
 }
 
 void LienzoQt::Pixel(PuntoLienzo lugar, Color color) {
-    pintor_.fillRect(lugar.x, lugar.y, 1, 1, ColorQt(color));
+    pintor_.fillRect(lugar.x, lugar.y, lado_, lado_, ColorQt(color));
 }
 
 }  // namespace trabex

@@ -34,6 +34,7 @@ class LienzoQt : public Lienzo {
 
     std::int32_t ScaleWidth() const override { return ancho_; }
     std::int32_t ScaleHeight() const override { return alto_; }
+    std::int32_t LadoDePixel() const override { return lado_; }
     void Limpiar() override;
     void PonerFuente(const Fuente& fuente) override;
     void PonerColorTexto(Color color) override;
@@ -51,6 +52,7 @@ class LienzoQt : public Lienzo {
     QPainter& pintor_;
     std::int32_t ancho_;
     std::int32_t alto_;
+    std::int32_t lado_;
     MemoriaDeTextos* memoria_;
     QColor fondo_ = Qt::white;
     QColor textoDeBotones_ = Qt::black;

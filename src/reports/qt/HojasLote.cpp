@@ -1,12 +1,14 @@
 #include "reports/qt/HojasLote.h"
 
 #include <QBuffer>
+#include <QPdfWriter>
 #include <array>
 #include <string>
 
 #include "base/Archivos.h"
-#include "drawing/GraficoLosa.h"
+#include "drawing/GraficoLosasPrinter.h"
 #include "drawing/qt/ImagenDeHoja.h"
+#include "drawing/qt/PapelQt.h"
 #include "reports/RecorrerLosas.h"
 
 namespace trabex {
@@ -30,6 +32,33 @@ void EscribirPng(const QImage& imagen, const std::filesystem::path& archivo) {
     EscribirArchivo(archivo, {bytes.data().constData(), static_cast<std::size_t>(bytes.data().size())});
 }
 
+/// The three sheets, each on its page of A4 across.
+void EscribirPapel(const LosaDelProyecto& losa, const DatosDePagina& pagina,
+                   const std::filesystem::path& archivo) {
+    QBuffer bytes;
+    bytes.open(QIODevice::WriteOnly);
+    QPdfWriter papel(&bytes);
+    papel.setResolution(UnidadesPorPulgadaDePapel);
+    papel.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape,
+                                    QMarginsF(12, 12, 12, 12), QPageLayout::Millimeter));
+    papel.setTitle(QString::fromStdString(losa.Datos.Nombre));
+    papel.setCreator("Trabex 2024");
+    std::vector<std::function<void(Lienzo&)>> paginas;
+    for (const std::uint8_t vista : {VistaGeometria, VistaFuerzas, VistaDiseno}) {
+        paginas.emplace_back([&losa, &pagina, vista](Lienzo& lienzo) {
+            HojaLosa hoja;
+            hoja.VistaActual = vista;
+            GuardeGraficos1(lienzo, hoja, {losa.Datos, losa.Generales, losa.Resultados}, pagina);
+        });
+    }
+    ImprimirPaginas(papel, paginas);
+    EscribirArchivo(archivo, {bytes.data().constData(), static_cast<std::size_t>(bytes.data().size())});
+}
+
+std::string NombreDeHoja(const LosaDelProyecto& losa, const std::string& final) {
+    return std::to_string(losa.Numero) + "-" + ParaArchivo(losa.Datos.Nombre) + "-" + final;
+}
+
 }  // namespace
 
 std::size_t EscribirHojas(const std::filesystem::path& proyecto, const std::filesystem::path& carpeta) {
@@ -45,11 +74,12 @@ std::size_t EscribirHojas(const std::filesystem::path& proyecto, const std::file
             const QImage imagen = DibujarImagen(AnchoSuperficie, AltoSuperficie, 1, [&](Lienzo& lienzo) {
                 RedibujeVista(lienzo, hoja, {losa.Datos, losa.Generales, losa.Resultados});
             });
-            const std::string nombre = std::to_string(losa.Numero) + "-" + ParaArchivo(losa.Datos.Nombre) +
-                                       "-" + vistas[vista] + ".png";
-            EscribirPng(imagen, carpeta / CaminoDeTexto(nombre));
+            EscribirPng(imagen,
+                        carpeta / CaminoDeTexto(NombreDeHoja(losa, std::string(vistas[vista]) + ".png")));
             ++escritas;
         }
+        EscribirPapel(losa, {"", losa.Proyecto.Proyecto, losa.Proyecto.Calculista},
+                      carpeta / CaminoDeTexto(NombreDeHoja(losa, "papel.pdf")));
     });
     return escritas;
 }
