@@ -44,4 +44,9 @@ AcerosFlexion RefuerzoFlexion(double Mu, const SeccionFlexion& seccion, const Ma
     return {As1 + As2, Mr / ((d - rec) * fs)};
 }
 
+AceroCaras RepartirEnCaras(double M, const AcerosFlexion& As) {
+    if (M > 0) return {As.Compresion, As.Traccion};
+    return {As.Traccion, As.Compresion};
+}
+
 }  // namespace trabex

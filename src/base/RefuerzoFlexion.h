@@ -32,4 +32,14 @@ struct AcerosFlexion {
 /// as in ACI 318-63 and its successors. A section too small for its cover yields what the formulas yield.
 AcerosFlexion RefuerzoFlexion(double Mu, const SeccionFlexion& seccion, const Materiales& materiales);
 
+/// Theoretical steel at the two faces of a section, cm².
+struct AceroCaras {
+    double AsSup = 0;
+    double AsInf = 0;
+};
+
+/// The steels of a moment M at their faces: a positive one pulls the bottom face, a negative or zero one the
+/// top.
+AceroCaras RepartirEnCaras(double M, const AcerosFlexion& As);
+
 }  // namespace trabex

@@ -21,8 +21,7 @@ DisenoSeccion::DisenoSeccion(const Losa& losa, const DatosGenerales& generales)
 AceroCaras DisenoSeccion::CalcularAcero(double M) const {
     const double Mu = std::fabs(M) / generales_.FiMomento * 100;
     const AcerosFlexion As = RefuerzoFlexion(Mu, seccion_, {generales_.FC, generales_.FY});
-    if (M > 0) return {As.Compresion, As.Traccion};
-    return {As.Traccion, As.Compresion};
+    return RepartirEnCaras(M, As);
 }
 
 double DisenoSeccion::CalcularMacizado(std::size_t junta, double V, double M, double C) const {

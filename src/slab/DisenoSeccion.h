@@ -7,12 +7,6 @@
 
 namespace trabex {
 
-/// Theoretical steel at the two faces of the slab, cm².
-struct AceroCaras {
-    double AsSup;
-    double AsInf;
-};
-
 /// Section design of one slab, with what its section and materials fix worked out once.
 class DisenoSeccion {
   public:

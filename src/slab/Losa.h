@@ -5,18 +5,9 @@
 #include <string>
 #include <vector>
 
-namespace trabex {
+#include "base/DatosGenerales.h"
 
-/// Materials and factors that hold for every slab of a project: the one row of its table `LosaG`.
-struct DatosGenerales {
-    std::int16_t FC = 250;   ///< concrete strength, kgf/cm²
-    std::int16_t FY = 4200;  ///< steel yield strength, kgf/cm²
-    double D8 = 0.025;       ///< cover to the bar centre, m
-    double FCP = 1.2;        ///< load factor on permanent load
-    double FCV = 1.6;        ///< load factor on live load
-    double FiMomento = 0.9;  ///< strength reduction factor in flexure
-    double FiCorte = 0.75;   ///< strength reduction factor in shear
-};
+namespace trabex {
 
 /// One span, with its service loads. Loads of a ribbed slab are per rib, those of a solid slab per metre.
 struct Tramo {

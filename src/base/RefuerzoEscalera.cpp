@@ -1,0 +1,13 @@
+#include "base/RefuerzoEscalera.h"
+
+#include <cmath>
+
+namespace trabex {
+
+AceroCaras RefuerzoEscalera(double M, double Ancho, double Alto, const DatosGenerales& generales) {
+    const double Mu = ((std::fabs(M) * generales.FS) / generales.FiMomento) * 100;
+    const SeccionFlexion seccion{Ancho * 100, Alto * 100, generales.D8 * 100};
+    return RepartirEnCaras(M, RefuerzoFlexion(Mu, seccion, {generales.FC, generales.FY}));
+}
+
+}  // namespace trabex
