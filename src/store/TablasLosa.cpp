@@ -2,17 +2,13 @@
 
 #include <functional>
 
+#include "store/Filas.h"
+
 namespace trabex {
 
 namespace {
 
 constexpr double LosetaPorDefecto = 0.05;
-
-std::string ConsultaDe(std::string_view tabla, const std::string& nombre, std::string_view orden) {
-    std::string consulta = "SELECT * FROM " + std::string(tabla) + " WHERE Nombre=" + EntreComillas(nombre);
-    if (!orden.empty()) consulta += " ORDER BY " + std::string(orden);
-    return consulta;
-}
 
 /// Reads a slab's rows of one table into an array that counts from 1.
 template <class Registro>
@@ -29,7 +25,7 @@ void LeerFilas(Conexion& conexion, const std::string& consulta, std::vector<Regi
 
 void LeerSeccion(Conexion& conexion, Losa& losa) {
     Recordset registros;
-    AbrirRecordset(conexion, registros, ConsultaDe("LosaDatos", losa.Nombre, ""));
+    AbrirRecordset(conexion, registros, ConsultaDe("LosaDatos", losa.Nombre));
     if (registros.NumeroRegistros() == 0) return;
     losa.OpcionMaciza = registros.Booleano("OpcionMaciza");
     losa.Bo = registros.Doble("Bo");
@@ -39,25 +35,6 @@ void LeerSeccion(Conexion& conexion, Losa& losa) {
     losa.Hm = registros.Doble("Hm");
     losa.Loseta = registros.Doble("Loseta");
     if (losa.Loseta == 0) losa.Loseta = LosetaPorDefecto;
-}
-
-/// Writes a slab's rows of one table over its stored ones: `poner` fills row k of 1 … filas.
-void EscribirFilas(Conexion& conexion, const char* tabla, const std::string& nombre, std::size_t filas,
-                   const std::function<void(Recordset&, std::size_t)>& poner) {
-    conexion.Ejecutar("DELETE * FROM " + std::string(tabla) + " WHERE Nombre=" + EntreComillas(nombre));
-    Recordset registros;
-    AbrirRecordset(conexion, registros, tabla);
-    for (std::size_t k = 1; k <= filas; ++k) {
-        registros.AgregarNuevo();
-        registros.Poner("Nombre", nombre);
-        poner(registros, k);
-        registros.Actualizar();
-    }
-}
-
-/// A row's number; one past the column's 16 bits is refused there.
-Valor Numero(std::size_t k) {
-    return static_cast<double>(k);
 }
 
 }  // namespace

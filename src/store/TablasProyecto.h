@@ -2,8 +2,8 @@
 
 #include <string_view>
 
+#include "base/DatosGenerales.h"
 #include "base/Proyecto.h"
-#include "slab/Losa.h"
 #include "store/Conexion.h"
 #include "store/Recordset.h"
 

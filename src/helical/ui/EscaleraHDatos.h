@@ -1,0 +1,75 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+#include "helical/DatosEscaleraH.h"
+#include "stairs/ui/CamposEscalera.h"
+#include "store/TablasProyecto.h"
+
+namespace trabex {
+
+/// Fields of a helical stair.
+enum class CampoEscaleraH : std::size_t { B, T, H, R, Angulo, W, Inter };
+
+/// A helical stair as it is typed: the interval may be past the 16 bits that hold it.
+struct EntradaEscaleraH {
+    double B;
+    double T;
+    double H;
+    double R;
+    double Angulo;
+    std::int32_t W;
+    std::int32_t Inter;
+};
+
+class VistaEscaleraHDatos : public VistaDeCampos<CampoEscaleraH> {
+  public:
+    virtual void Pitar() = 0;
+};
+
+/// What the data window of helical stairs works on; the workspace owns it all.
+struct TrabajoEscaleraH {
+    ProyectoAbierto& Proyecto;  ///< its list stands on the selected stair
+    DatosEscaleraH& Actual;     ///< the current stair
+    bool& Nueva;                ///< set by the creation of a stair until the window has saved it
+    bool& DatosCambiados;       ///< raised by a save: the workspace calculates again
+};
+
+/// Operations of the window that edits a helical stair.
+class EscaleraHDatos {
+  public:
+    EscaleraHDatos(TrabajoEscaleraH trabajo, CajaMensajes& caja, VistaEscaleraHDatos& vista)
+        : trabajo_(trabajo), caja_(caja), vista_(vista) {}
+
+    /// Name of the stair on which the list stands.
+    std::string Nombre() const;
+
+    /// The values to show on opening: the current stair's, or the seeds of a new one.
+    EntradaEscaleraH Mostrar();
+
+    /// A field was edited.
+    void Cambiar() { modificada_ = true; }
+    bool Modificada() const { return modificada_; }
+
+    /// " Salvar ". B, T, R, the angle or the interval at 0 beep and take the focus, but that the interval
+    /// gives it to the angle; an angle over 360 is told by a message. The rise and the load may be 0. An
+    /// interval past 32767 is an overflow. False when nothing was stored.
+    bool Salvar(const EntradaEscaleraH& entrados);
+
+    /// Whether the window may close; asks when there are changes. A save that did not go through keeps it
+    /// open.
+    bool Cerrar(const EntradaEscaleraH& entrados);
+
+  private:
+    bool Admitir(const EntradaEscaleraH& entrados);
+    bool Guardar(const EntradaEscaleraH& entrados);
+
+    TrabajoEscaleraH trabajo_;
+    CajaMensajes& caja_;
+    VistaEscaleraHDatos& vista_;
+    bool modificada_ = false;
+};
+
+}  // namespace trabex

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+
+#include "shell/CajaMensajes.h"
+
+namespace trabex {
+
+/// The side of a data window that gives a field the focus.
+template <class Campo>
+class VistaDeCampos {
+  public:
+    virtual ~VistaDeCampos() = default;
+    virtual void Enfocar(Campo campo) = 0;
+};
+
+/// What closing a stair's data window with changes asks.
+Mensaje PreguntaDeSalvar(const std::string& nombre);
+
+/// Tells that a save did not reach the project.
+Mensaje AvisoDeNoSalvado();
+
+/// Tells of the run-time error that ended a save.
+Mensaje AvisoDeError(const ErrorEjecucion& error);
+
+}  // namespace trabex

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+#include "base/DatosGenerales.h"
+#include "stairs/ui/CamposEscalera.h"
+#include "store/TablasEscalera.h"
+
+namespace trabex {
+
+/// Fields of the design parameters of stairs, in the order in which they stand and are checked.
+enum class CampoEscaleraTG : std::size_t { FC, FY, D8, FS, FiMomento, FiCorte };
+
+/// The parameters as they are typed: the strengths may be past what the table holds.
+struct EntradaEscaleraTG {
+    std::int32_t FC;
+    std::int32_t FY;
+    double D8;
+    double FS;
+    double FiMomento;
+    double FiCorte;
+};
+
+/// Operations of the window that edits the design parameters of all stairs of one kind.
+class EscaleraTG {
+  public:
+    /// `conexion` is the workspace's, `generales` its working values; a save raises `datosCambiados`.
+    EscaleraTG(Conexion& conexion, ClaseEscalera clase, DatosGenerales& generales, bool& datosCambiados,
+               CajaMensajes& caja, VistaDeCampos<CampoEscaleraTG>& vista)
+        : conexion_(conexion),
+          clase_(clase),
+          generales_(generales),
+          datosCambiados_(datosCambiados),
+          caja_(caja),
+          vista_(vista) {}
+
+    EntradaEscaleraTG Mostrar() const;
+
+    /// The first field that is exactly 0.
+    static std::optional<CampoEscaleraTG> PrimerCero(const EntradaEscaleraTG& entrados);
+
+    /// " Aceptar ": whether the window closes. A 0 takes the focus, without a message. A strength past 32767
+    /// is an overflow: nothing is stored, and the working values before it in the order of the fields have
+    /// changed.
+    bool Aceptar(const EntradaEscaleraTG& entrados);
+
+  private:
+    void Copiar(const EntradaEscaleraTG& entrados);
+
+    Conexion& conexion_;
+    ClaseEscalera clase_;
+    DatosGenerales& generales_;
+    bool& datosCambiados_;
+    CajaMensajes& caja_;
+    VistaDeCampos<CampoEscaleraTG>& vista_;
+};
+
+}  // namespace trabex
