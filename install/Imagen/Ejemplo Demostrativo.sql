@@ -110,3 +110,35 @@ INSERT INTO LosaJuntasD VALUES
     ('L-9 RAMPA DE ACCESO', 2, 0, -0.5),
     ('L-9 RAMPA DE ACCESO', 3, 0, -1.0);
 
+
+-- Stairs of the building: the main one, in two flights, and the service one; a spiral to the roof and another
+-- in the lobby.
+
+INSERT INTO EscaleraTG VALUES (250, 4200, 0.025, 0.9, 0.75, 1.55);
+INSERT INTO EscaleraTDatos VALUES
+    ('E-1 PRINCIPAL', 'ESCALERA PRINCIPAL, PLANTA TIPO'),
+    ('E-2 SERVICIO', 'ESCALERA DE SERVICIO, PLANTA BAJA');
+INSERT INTO EscaleraT VALUES
+    ('E-1 PRINCIPAL', 2.7, 1.5, 3, 0.2, 0.2, 2076, 1865, 1040),
+    ('E-2 SERVICIO', 2.4, 1.2, 3, 0.18, 0.18, 1340, 1190, 640);
+
+INSERT INTO EscaleraHG VALUES (250, 4200, 0.025, 0.9, 0.75, 1.55);
+INSERT INTO EscaleraHDatos VALUES
+    ('H-1 VESTÍBULO', 'ESCALERA HELICOIDAL DEL VESTÍBULO'),
+    ('H-2 AZOTEA', 'CARACOL DE ACCESO A LA AZOTEA');
+INSERT INTO EscaleraH VALUES
+    ('H-1 VESTÍBULO', 1.5, 0.25, 3.2, 2.5, 260, 1650, 5),
+    ('H-2 AZOTEA', 0.9, 0.2, 2.7, 1.2, 210, 980, 10);
+
+-- Two-way panels of two levels.
+
+INSERT INTO MarcusDatos VALUES ('NIVEL 1', 5), ('TECHO', 3);
+INSERT INTO Marcus VALUES
+    ('NIVEL 1', 1, 840, 4, 4.6, 5.2),
+    ('NIVEL 1', 2, 840, 5, 5.4, 5.2),
+    ('NIVEL 1', 3, 840, 7, 5.4, 4.8),
+    ('NIVEL 1', 4, 910, 1, 4.6, 4.6),
+    ('NIVEL 1', 5, 910, 9, 4.6, 3.8),
+    ('TECHO', 1, 560, 1, 5, 5),
+    ('TECHO', 2, 560, 6, 5, 4.2),
+    ('TECHO', 3, 620, 8, 3.6, 4.2);

@@ -93,6 +93,7 @@ void Calculo::LlenarEstaciones(const CalculoEstaticoH& estatico, Estaciones& tra
     std::size_t cuantas = 0;
     for (int c = primera; c >= 0 && c <= Rp_; c += paso) ++cuantas;
     const std::size_t caben = std::min(cuantas, tramo.size() - 1);
+    r_.NEst = caben;
     vigilancia_.Recorrer(
         1, caben,
         [&](std::size_t i) {
@@ -102,7 +103,6 @@ void Calculo::LlenarEstaciones(const CalculoEstaticoH& estatico, Estaciones& tra
         [&](std::size_t i, const EstacionEscaleraH& estacion) { tramo[i] = estacion; },
         [&] { tramo.assign(tramo.size(), {}); });
     if (caben < cuantas) throw ErrorEjecucion(CodigoError::SubindiceFueraDeIntervalo);
-    r_.NEst = cuantas;
 }
 
 /// At the support's own angle, which no station need reach.

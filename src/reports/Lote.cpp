@@ -1,96 +1,53 @@
 #include "reports/Lote.h"
 
-#include <algorithm>
-#include <array>
 #include <atomic>
 #include <memory>
+#include <optional>
+#include <string_view>
 #include <thread>
 
-#include "base/Texto.h"
+#include "helical/CalcularEscaleraH.h"
+#include "reports/EscalerasJson.h"
 #include "reports/ResultadosJson.h"
 #include "slab/CalcularLosa.h"
+#include "stairs/CalcularEscaleraT.h"
+#include "store/TablasEscalera.h"
 #include "store/TablasLosa.h"
+#include "store/TablasMarcus.h"
 
 namespace trabex {
 
 namespace {
 
-constexpr std::size_t LosasPorHilo = 32;  // fewer do not pay for a thread
+constexpr std::size_t ElementosPorHilo = 32;  // fewer do not pay for a thread
 
-bool AbrirLista(ProyectoAbierto& proyecto) {
-    AbrirRecordset(proyecto.ConexionProyecto, proyecto.RegistrosProyecto, ConsultaListaLosas);
+bool AbrirLista(ProyectoAbierto& proyecto, std::string_view consulta) {
+    AbrirRecordset(proyecto.ConexionProyecto, proyecto.RegistrosProyecto, consulta);
     return proyecto.RegistrosProyecto.Abierto();
 }
 
-ResumenLosa Resumir(const Losa& losa, const ResultadosLosa& r) {
-    ResumenLosa resumen;
-    resumen.Nombre = losa.Nombre;
-    resumen.OpcionMaciza = losa.OpcionMaciza;
-    resumen.Tramos = losa.Tramos.size() - 1;
-    for (const Tramo& tramo : losa.Tramos) resumen.Longitud += tramo.LT;
-    resumen.MaxMomentoApoyo = r.MaxMomentoApoyo;
-    resumen.MaxMomentoTramo = r.MaxMomentoTramo;
-    resumen.MaxCorte = r.MaxCorte;
-    for (const DisenoDeEje& eje : r.DisenoEje)
-        resumen.AceroSuperior = std::max(resumen.AceroSuperior, eje.AS1);
-    for (const DisenoDeTramo& tramo : r.DisenoTramo)
-        resumen.AceroInferior = std::max(resumen.AceroInferior, tramo.AS2);
-    if (r.Error) resumen.Error = r.Error->Texto();
-    return resumen;
-}
-
-using FilaDeTabla = std::array<std::string, 9>;
-
-const FilaDeTabla Encabezado{
-    "Losa",        "Tipo",         "Tramos",      "Longitud (m)", "M apoyo (kgf-m)", "M tramo (kgf-m)",
-    "Corte (kgf)", "As sup (cm2)", "As inf (cm2)"};
-
-FilaDeTabla FilaDe(const ResumenLosa& losa, const Separadores& separadores) {
-    const auto numero = [&](double valor, const char* formato) {
-        return Formato(valor, formato, separadores);
-    };
-    return {losa.Nombre,
-            losa.OpcionMaciza ? "MACIZA" : "NERVADA",
-            std::to_string(losa.Tramos),
-            numero(losa.Longitud, "0.00"),
-            numero(losa.MaxMomentoApoyo, "#,##0"),
-            numero(losa.MaxMomentoTramo, "#,##0"),
-            numero(losa.MaxCorte, "#,##0"),
-            numero(losa.AceroSuperior, "0.00"),
-            numero(losa.AceroInferior, "0.00")};
-}
-
-}  // namespace
-
-bool CalcularProyecto(const std::filesystem::path& camino, unsigned hilos, ProyectoCalculado& calculado) {
-    ProyectoAbierto proyecto;
-    AbrirCopiaEnMemoria(proyecto.ConexionProyecto, camino);
-    if (!AbrirLista(proyecto)) return false;
-    LeerDatosGenerales(proyecto.ConexionProyecto, "", calculado.Datos, calculado.Generales);
-    const auto losas = static_cast<std::size_t>(proyecto.RegistrosProyecto.NumeroRegistros());
-    calculado.LosasJson.resize(losas);
-    calculado.Losas.resize(losas);
-
+/// Calculates every element of a list, each with `calcular` on a project whose list stands on it. False when
+/// the list can't be opened.
+template <class Resumen, class Calcular>
+bool CalcularLista(ProyectoAbierto& proyecto, std::string_view consulta, unsigned hilos,
+                   ElementosCalculados<Resumen>& elementos, Calcular calcular) {
+    if (!AbrirLista(proyecto, consulta)) return false;
+    const auto cuantos = static_cast<std::size_t>(proyecto.RegistrosProyecto.NumeroRegistros());
+    elementos.Json.resize(cuantos);
+    elementos.Resumenes.resize(cuantos);
     std::atomic<std::size_t> siguiente{0};
     const auto trabajar = [&](ProyectoAbierto& copia) {
-        Losa losa;
-        ResultadosLosa resultados;
-        for (std::size_t i = siguiente++; i < losas; i = siguiente++) {
+        for (std::size_t i = siguiente++; i < cuantos; i = siguiente++) {
             copia.RegistrosProyecto.MoverA(static_cast<int>(i) + 1);
-            losa = {};
-            resultados = {};
-            LeerLosa(copia, losa);
-            CalcularLosa(losa, calculado.Generales, resultados);
-            calculado.LosasJson[i] = LosaJson(losa, resultados);
-            calculado.Losas[i] = Resumir(losa, resultados);
+            calcular(copia, elementos.Json[i], elementos.Resumenes[i]);
         }
     };
     // A connection serves one thread: each further one reads a copy of the same copy.
     std::vector<std::unique_ptr<ProyectoAbierto>> copias;
-    for (unsigned h = 1; h < hilos && h * LosasPorHilo < losas; ++h) {
+    for (unsigned h = 1; h < hilos && h * ElementosPorHilo < cuantos; ++h) {
         copias.push_back(std::make_unique<ProyectoAbierto>());
         CopiarEnMemoria(proyecto.ConexionProyecto, copias.back()->ConexionProyecto);
-        if (!AbrirLista(*copias.back())) copias.pop_back();
+        if (!AbrirLista(*copias.back(), consulta)) copias.pop_back();
     }
     std::vector<std::jthread> equipo;
     equipo.reserve(copias.size());
@@ -99,35 +56,104 @@ bool CalcularProyecto(const std::filesystem::path& camino, unsigned hilos, Proye
     return true;
 }
 
-std::string DocumentoJson(const ProyectoCalculado& calculado) {
-    std::string json = "{\"Proyecto\":" + ProyectoJson(calculado.Datos) +
-                       ",\n\"LosaG\":" + GeneralesJson(calculado.Generales) + ",\n\"losas\":[";
-    for (std::size_t i = 0; i < calculado.LosasJson.size(); ++i) {
+bool CalcularLosas(ProyectoAbierto& proyecto, unsigned hilos, ProyectoCalculado& calculado) {
+    return CalcularLista(proyecto, ConsultaListaLosas, hilos, calculado.Losas,
+                         [&](ProyectoAbierto& copia, std::string& json, ResumenLosa& resumen) {
+                             Losa losa;
+                             ResultadosLosa resultados;
+                             LeerLosa(copia, losa);
+                             CalcularLosa(losa, calculado.Generales, resultados);
+                             json = LosaJson(losa, resultados);
+                             resumen = Resumir(losa, resultados);
+                         });
+}
+
+void CalcularEscalerasT(ProyectoAbierto& proyecto, unsigned hilos, ProyectoCalculado& calculado) {
+    CalcularLista(proyecto, ConsultaListaEscalerasT, hilos, calculado.EscalerasT,
+                  [&](ProyectoAbierto& copia, std::string& json, ResumenEscaleraT& resumen) {
+                      DatosEscaleraT escalera;
+                      ResultadosEscaleraT resultados;
+                      LeaDatosEscalera(copia, escalera);
+                      CalcularEscaleraT(escalera, calculado.GeneralesEscaleraT, resultados);
+                      json = EscaleraTJson(escalera, resultados);
+                      resumen = Resumir(escalera, resultados);
+                  });
+}
+
+/// A helical stair without stored data is not calculated at all.
+void CalcularEscalerasH(ProyectoAbierto& proyecto, unsigned hilos, ProyectoCalculado& calculado) {
+    CalcularLista(proyecto, ConsultaListaEscalerasH, hilos, calculado.EscalerasH,
+                  [&](ProyectoAbierto& copia, std::string& json, ResumenEscaleraH& resumen) {
+                      DatosEscaleraH escalera;
+                      ResultadosEscaleraH resultados;
+                      if (LeaDatosEscalera(copia, escalera))
+                          CalcularEscaleraH(escalera, calculado.GeneralesEscaleraH, resultados);
+                      json = EscaleraHJson(escalera, resultados);
+                      resumen = Resumir(escalera, resultados);
+                  });
+}
+
+void CalcularNivelesMarcus(ProyectoAbierto& proyecto, unsigned hilos, ProyectoCalculado& calculado) {
+    CalcularLista(proyecto, ConsultaListaMarcus, hilos, calculado.Marcus,
+                  [&](ProyectoAbierto& copia, std::string& json, ResumenMarcus& resumen) {
+                      NivelMarcus nivel;
+                      std::optional<ErrorEjecucion> error;
+                      LeerMarcus(copia, nivel);
+                      try {
+                          CalculePanos(nivel.Filas);
+                      } catch (const ErrorEjecucion& hallado) {
+                          error = hallado;
+                      }
+                      json = MarcusJson(nivel, error);
+                      resumen = Resumir(nivel, error ? error->Texto() : "");
+                  });
+}
+
+std::string ListaJson(const std::string& clave, const std::vector<std::string>& objetos) {
+    std::string json = ",\n\"" + clave + "\":[";
+    for (std::size_t i = 0; i < objetos.size(); ++i) {
         json += i == 0 ? "\n" : ",\n";
-        json += calculado.LosasJson[i];
+        json += objetos[i];
     }
-    return json + "\n]}\n";
+    return json + "\n]";
+}
+
+template <class Resumen>
+std::string TablaSiHay(const ElementosCalculados<Resumen>& elementos, const Separadores& separadores) {
+    return elementos.Resumenes.empty() ? "" : "\n" + TablaDe(elementos.Resumenes, separadores);
+}
+
+}  // namespace
+
+bool CalcularProyecto(const std::filesystem::path& camino, unsigned hilos, ProyectoCalculado& calculado) {
+    ProyectoAbierto proyecto;
+    AbrirCopiaEnMemoria(proyecto.ConexionProyecto, camino);
+    if (!AbrirLista(proyecto, ConsultaListaLosas)) return false;
+    Conexion& conexion = proyecto.ConexionProyecto;
+    LeerDatosGenerales(conexion, "", calculado.Datos, calculado.Generales);
+    LeaDatosGenerales(conexion, ClaseEscalera::Autoportante, "", calculado.Datos,
+                      calculado.GeneralesEscaleraT);
+    LeaDatosGenerales(conexion, ClaseEscalera::Helicoidal, "", calculado.Datos, calculado.GeneralesEscaleraH);
+    if (!CalcularLosas(proyecto, hilos, calculado)) return false;
+    CalcularEscalerasT(proyecto, hilos, calculado);
+    CalcularEscalerasH(proyecto, hilos, calculado);
+    CalcularNivelesMarcus(proyecto, hilos, calculado);
+    return true;
+}
+
+std::string DocumentoJson(const ProyectoCalculado& calculado) {
+    return "{\"Proyecto\":" + ProyectoJson(calculado.Datos) +
+           ",\n\"LosaG\":" + GeneralesJson(calculado.Generales) + ListaJson("losas", calculado.Losas.Json) +
+           ",\n\"EscaleraTG\":" + GeneralesEscaleraJson(calculado.GeneralesEscaleraT) +
+           ListaJson("escalerasT", calculado.EscalerasT.Json) +
+           ",\n\"EscaleraHG\":" + GeneralesEscaleraJson(calculado.GeneralesEscaleraH) +
+           ListaJson("escalerasH", calculado.EscalerasH.Json) + ListaJson("marcus", calculado.Marcus.Json) +
+           "}\n";
 }
 
 std::string TablaResumen(const ProyectoCalculado& calculado, const Separadores& separadores) {
-    std::vector<FilaDeTabla> filas{Encabezado};
-    for (const ResumenLosa& losa : calculado.Losas) filas.push_back(FilaDe(losa, separadores));
-    std::array<std::size_t, std::tuple_size_v<FilaDeTabla>> anchos{};
-    for (const FilaDeTabla& fila : filas) {
-        for (std::size_t c = 0; c < fila.size(); ++c)
-            anchos[c] = std::max(anchos[c], NumeroDeCaracteres(fila[c]));
-    }
-    std::string tabla;
-    for (std::size_t f = 0; f < filas.size(); ++f) {
-        for (std::size_t c = 0; c < anchos.size(); ++c) {
-            const std::string relleno(anchos[c] - NumeroDeCaracteres(filas[f][c]), ' ');
-            tabla += c < 2 ? filas[f][c] + relleno : relleno + filas[f][c];
-            tabla += c + 1 < anchos.size() ? "  " : "";
-        }
-        if (f > 0 && !calculado.Losas[f - 1].Error.empty()) tabla += "  " + calculado.Losas[f - 1].Error;
-        tabla += '\n';
-    }
-    return tabla;
+    return TablaDe(calculado.Losas.Resumenes, separadores) + TablaSiHay(calculado.EscalerasT, separadores) +
+           TablaSiHay(calculado.EscalerasH, separadores) + TablaSiHay(calculado.Marcus, separadores);
 }
 
 }  // namespace trabex

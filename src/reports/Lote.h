@@ -4,42 +4,41 @@
 #include <string>
 #include <vector>
 
+#include "base/DatosGenerales.h"
 #include "base/Formatos.h"
 #include "base/Proyecto.h"
-#include "slab/Losa.h"
+#include "reports/Resumen.h"
 
 namespace trabex {
 
-/// What the summary says of one slab: its extremes, moments in kgf·m, shear in kgf, steel in cm².
-struct ResumenLosa {
-    std::string Nombre;
-    bool OpcionMaciza = false;
-    std::size_t Tramos = 0;
-    double Longitud = 0;  ///< sum of the span lengths, m
-    double MaxMomentoApoyo = 0;
-    double MaxMomentoTramo = 0;
-    double MaxCorte = 0;
-    double AceroSuperior = 0;  ///< the largest at an axis
-    double AceroInferior = 0;  ///< the largest of a span
-    std::string Error;         ///< text of the run-time error that ended the calculation
+/// The elements of one kind, in list order: their results as JSON objects, and their summaries.
+template <class Resumen>
+struct ElementosCalculados {
+    std::vector<std::string> Json;
+    std::vector<Resumen> Resumenes;
 };
 
 /// A whole project, read and calculated.
 struct ProyectoCalculado {
     DatosDelProyecto Datos;
-    DatosGenerales Generales;
-    std::vector<std::string> LosasJson;  ///< in list order
-    std::vector<ResumenLosa> Losas;
+    DatosGenerales Generales;           ///< of the slabs
+    DatosGenerales GeneralesEscaleraT;  ///< of the self-supporting stairs
+    DatosGenerales GeneralesEscaleraH;  ///< of the helical stairs
+    ElementosCalculados<ResumenLosa> Losas;
+    ElementosCalculados<ResumenEscaleraT> EscalerasT;
+    ElementosCalculados<ResumenEscaleraH> EscalerasH;
+    ElementosCalculados<ResumenMarcus> Marcus;
 };
 
 /// Reads a project and calculates every element of it on `hilos` threads; the project is not written to.
-/// Results and their order do not depend on how many threads there are. False when the file is no project.
+/// Results and their order do not depend on how many threads there are. False when the file is no project;
+/// one without the tables of an element has no such elements.
 bool CalcularProyecto(const std::filesystem::path& camino, unsigned hilos, ProyectoCalculado& calculado);
 
-/// The results as one JSON document, a slab a line.
+/// The results as one JSON document, an element a line.
 std::string DocumentoJson(const ProyectoCalculado& calculado);
 
-/// The summary as a table of plain text, a slab a line.
+/// The summary as tables of plain text: one for the slabs, and one for each other kind that there is.
 std::string TablaResumen(const ProyectoCalculado& calculado, const Separadores& separadores);
 
 }  // namespace trabex

@@ -1,28 +1,12 @@
 #include "reports/ResultadosJson.h"
 
-#include <cmath>
 #include <tuple>
-#include <type_traits>
 
-#include <rapidjson/stringbuffer.h>
-#include <rapidjson/writer.h>
-
-#include "base/Formatos.h"
+#include "reports/EscritorJson.h"
 
 namespace trabex {
 
 namespace {
-
-using Escritor = rapidjson::Writer<rapidjson::StringBuffer>;
-
-/// A field of a record, by the name under which it is written.
-template <class Registro, class Tipo>
-struct Campo {
-    const char* Nombre;
-    Tipo Registro::*Dato;
-};
-template <class Registro, class Tipo>
-Campo(const char*, Tipo Registro::*) -> Campo<Registro, Tipo>;
 
 constexpr std::tuple CamposGenerales{
     Campo{"FC", &DatosGenerales::FC},          Campo{"FY", &DatosGenerales::FY},
@@ -71,96 +55,12 @@ constexpr std::tuple CamposMaximos{Campo{"MaxMomentoApoyo", &ResultadosLosa::Max
                                    Campo{"MaxCorte", &ResultadosLosa::MaxCorte},
                                    Campo{"MaxMomentoTramo", &ResultadosLosa::MaxMomentoTramo}};
 
-/// A text whose bytes are valid UTF-8, as JSON wants it: what is not becomes U+FFFD.
-std::string TextoValido(const std::string& texto) {
-    std::string salida;
-    for (std::size_t i = 0; i < texto.size();) {
-        const auto primero = static_cast<unsigned char>(texto[i]);
-        const std::size_t largo = primero < 0x80   ? 1
-                                  : primero < 0xC2 ? 0
-                                  : primero < 0xE0 ? 2
-                                  : primero < 0xF0 ? 3
-                                  : primero < 0xF5 ? 4
-                                                   : 0;
-        std::size_t bien = largo == 0 ? 0 : 1;
-        while (bien != 0 && bien < largo && i + bien < texto.size() && (texto[i + bien] & 0xC0) == 0x80)
-            ++bien;
-        const bool valido = largo != 0 && bien == largo;
-        salida += valido ? texto.substr(i, largo) : "\xEF\xBF\xBD";
-        i += valido ? largo : 1;
-    }
-    return salida;
-}
-
-void Escribir(Escritor& json, double valor) {
-    if (std::isfinite(valor))
-        json.Double(valor);
-    else
-        json.Null();
-}
-void Escribir(Escritor& json, bool valor) {
-    json.Bool(valor);
-}
-void Escribir(Escritor& json, std::int16_t valor) {
-    json.Int(valor);
-}
-void Escribir(Escritor& json, std::int32_t valor) {
-    json.Int(valor);
-}
-void Escribir(Escritor& json, const std::string& texto) {
-    const std::string valido = TextoValido(texto);
-    json.String(valido.data(), static_cast<rapidjson::SizeType>(valido.size()));
-}
-void Escribir(Escritor& json, const Fecha& fecha) {
-    Escribir(json, FechaIso(fecha));
-}
-
-template <class Registro, class Campos>
-void EscribirCampos(Escritor& json, const Registro& registro, const Campos& campos) {
-    std::apply(
-        [&](const auto&... campo) {
-            ((json.Key(campo.Nombre), Escribir(json, registro.*(campo.Dato))), ...);
-        },
-        campos);
-}
-
-template <class Registro, class Campos>
-void EscribirArreglo(Escritor& json, const std::vector<Registro>& arreglo, const Campos& campos) {
-    json.StartArray();
-    for (std::size_t i = 1; i < arreglo.size(); ++i) {
-        json.StartObject();
-        EscribirCampos(json, arreglo[i], campos);
-        json.EndObject();
-    }
-    json.EndArray();
-}
-
 template <class PorCaso, class Campos>
 void EscribirPorCaso(Escritor& json, const PorCaso& porCaso, const Campos& campos) {
     json.StartArray();
     for (const std::size_t caso : {CasoPermanente, CasoVariable})
         EscribirArreglo(json, porCaso[caso], campos);
     json.EndArray();
-}
-
-void EscribirError(Escritor& json, const ErrorEjecucion& error) {
-    json.Key("error");
-    json.StartObject();
-    json.Key("codigo");
-    json.Int(error.Codigo());
-    json.Key("texto");
-    Escribir(json, error.Texto());
-    json.EndObject();
-}
-
-template <class Registro, class Campos>
-std::string ObjetoJson(const Registro& registro, const Campos& campos) {
-    rapidjson::StringBuffer texto;
-    Escritor json(texto);
-    json.StartObject();
-    EscribirCampos(json, registro, campos);
-    json.EndObject();
-    return {texto.GetString(), texto.GetSize()};
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 """Runs the batch program as a script would and reads what it writes with another JSON parser."""
 
 import json
+import math
 import os
 import pathlib
 import shutil
@@ -61,6 +62,73 @@ class Lote(unittest.TestCase):
                 if caso == 0:
                     total += sum(t["p1"] for t in losa["Tramos"])
                 self.assertAlmostEqual(sum(j["RV"] for j in juntas), total, delta=0.5)
+
+    def test_las_escaleras_del_ejemplo_equilibran_sus_cargas(self):
+        documento, resumen = self.resultados()
+        self.assertEqual(documento["EscaleraTG"]["FS"], 1.55)
+        self.assertEqual(set(documento["EscaleraHG"]), {"FC", "FY", "D8", "FiMomento", "FiCorte", "FS"})
+        self.assertGreaterEqual(min(len(documento["escalerasT"]), len(documento["escalerasH"])), 2)
+        for e in documento["escalerasT"]:
+            self.assertIn(e["Nombre"], resumen)
+            self.assertTrue(e["Titulo"])
+            self.assertNotIn("error", e)
+            self.assertEqual((len(e["TramoT"]), len(e["DescansoT"])), (11, 7))
+            self.assertAlmostEqual(e["ReaccionVertical"], e["WT"] * e["L"] + e["Wd"] * e["B"], places=6)
+            self.assertAlmostEqual(e["TramoT"][10]["MomentoTotal"], e["MomentoApoyoTotal"], places=6)
+            self.assertAlmostEqual(e["DescansoT"][6]["MomentoTotal"], e["TramoT"][0]["MomentoTotal"], places=6)
+            self.assertEqual({punto["FallaCorte"] for punto in e["DescansoT"]}, {""})
+            self.assertLess(max(punto["AsSuperior"] for punto in e["TramoT"]), 15)  # believable
+        for e in documento["escalerasH"]:
+            self.assertIn(e["Nombre"], resumen)
+            self.assertNotIn("error", e)
+            estaciones = round(e["Angulo"] / 2) // e["Inter"] + 1
+            self.assertEqual([len(e["TramoSuperior"]), len(e["TramoInferior"])], [estaciones] * 2)
+            self.assertAlmostEqual(e["FV"], e["W"] * e["R"] * math.radians(e["Angulo"] / 2), delta=0.51)
+            self.assertGreaterEqual(min(estacion["SEP"] for estacion in e["TramoSuperior"]), 8)
+            if e["Angulo"] / 2 % e["Inter"] == 0:  # elsewhere the halves are no mirror of each other
+                for arriba, abajo in zip(e["TramoSuperior"], reversed(e["TramoInferior"])):
+                    self.assertEqual((arriba["QX"], arriba["MX"]), (-abajo["QX"], abajo["MX"]))
+
+    def test_los_panos_del_ejemplo_reparten_su_carga(self):
+        documento, resumen = self.resultados()
+        self.assertEqual([nivel["Nombre"] for nivel in documento["marcus"]], ["NIVEL 1", "TECHO"])
+        for nivel in documento["marcus"]:
+            self.assertIn(nivel["Nombre"], resumen)
+            self.assertEqual(nivel["Paños"], len(nivel["Filas"]))
+            for fila in nivel["Filas"]:
+                self.assertAlmostEqual(fila["CX"] + fila["CY"], 1)
+                self.assertAlmostEqual(fila["WX"] + fila["WY"], fila["Carga"])
+
+    def test_escaleras_sin_datos_y_tablas_que_faltan(self):
+        self.sql("INSERT INTO EscaleraTDatos VALUES ('E-9', 'SIN DATOS')",
+                 "INSERT INTO EscaleraHDatos VALUES ('H-9', NULL)",
+                 "UPDATE EscaleraT SET HT = 0.025 WHERE Nombre LIKE 'E-2%'",
+                 "UPDATE EscaleraH SET R = 0 WHERE Nombre LIKE 'H-2%'",
+                 "UPDATE Marcus SET LX = 1e-200 WHERE Numero = 3",
+                 "DELETE FROM EscaleraHG")
+        documento, resumen = self.resultados()
+        vacia = documento["escalerasT"][2]
+        self.assertEqual((vacia["L"], vacia["WT"], vacia["TramoT"], vacia["Alfa"]), (0, 0, [], 0))
+        helice = documento["escalerasH"][2]
+        self.assertEqual((helice["Inter"], helice["TramoSuperior"], helice["L"]), (5, [], 0))
+        self.assertNotIn("error", vacia | helice)
+        self.assertEqual(documento["EscaleraHG"]["FC"], 250)
+        fallida = documento["escalerasT"][1]
+        self.assertIn("error", fallida)
+        self.assertLess(fallida["TramoT"][0]["MomentoTotal"], 0)  # what stood before the fault
+        self.assertEqual(documento["escalerasH"][1]["error"]["codigo"], 11)
+        nivel = documento["marcus"][0]
+        self.assertEqual(nivel["error"]["codigo"], 6)
+        self.assertEqual([fila["CX"] > 0 for fila in nivel["Filas"]], [True, True, False, False, False])
+        self.assertIn("División por cero", resumen)
+
+        self.sql(*(f"DROP TABLE {tabla}" for tabla in (
+            "EscaleraT", "EscaleraTG", "EscaleraHDatos", "EscaleraH", "EscaleraHG", "MarcusDatos", "Marcus")))
+        documento, _ = self.resultados()
+        self.assertEqual([len(documento[clave]) for clave in ("escalerasT", "escalerasH", "marcus")], [3, 0, 0])
+        self.assertEqual([e["L"] for e in documento["escalerasT"]], [0, 0, 0])
+        self.assertEqual(documento["EscaleraTG"]["FS"], 1.55)
+        self.assertGreaterEqual(len(documento["losas"]), 8)
 
     def test_los_errores_quedan_escritos(self):
         self.sql("DELETE FROM LosaDatos WHERE Nombre <> 'L-1 PLANTA BAJA'",

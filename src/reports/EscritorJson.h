@@ -1,0 +1,75 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
+
+#include "base/ErrorEjecucion.h"
+#include "base/Fecha.h"
+
+// How records become JSON objects: a tuple of their fields and names, written in order. For the library's own
+// sources.
+
+namespace trabex {
+
+using Escritor = rapidjson::Writer<rapidjson::StringBuffer>;
+
+/// A field of a record, by the name under which it is written.
+template <class Registro, class Tipo>
+struct Campo {
+    const char* Nombre;
+    Tipo Registro::*Dato;
+};
+template <class Registro, class Tipo>
+Campo(const char*, Tipo Registro::*) -> Campo<Registro, Tipo>;
+
+/// A value: a number that is none is null, a text is made valid UTF-8, a date is ISO 8601.
+void Escribir(Escritor& json, double valor);
+void Escribir(Escritor& json, bool valor);
+void Escribir(Escritor& json, std::int16_t valor);
+void Escribir(Escritor& json, std::int32_t valor);
+void Escribir(Escritor& json, const std::string& texto);
+void Escribir(Escritor& json, const Fecha& fecha);
+
+/// The key `error` with its code and its text.
+void EscribirError(Escritor& json, const ErrorEjecucion& error);
+
+template <class Registro, class Campos>
+void EscribirCampos(Escritor& json, const Registro& registro, const Campos& campos) {
+    std::apply(
+        [&](const auto&... campo) {
+            ((json.Key(campo.Nombre), Escribir(json, registro.*(campo.Dato))), ...);
+        },
+        campos);
+}
+
+/// The records of slots `desde` to `hasta`, both included, as far as there are any.
+template <class Registro, class Campos>
+void EscribirArreglo(Escritor& json, const std::vector<Registro>& arreglo, const Campos& campos,
+                     std::size_t desde = 1, std::size_t hasta = std::numeric_limits<std::size_t>::max()) {
+    json.StartArray();
+    for (std::size_t i = desde; i < arreglo.size() && i <= hasta; ++i) {
+        json.StartObject();
+        EscribirCampos(json, arreglo[i], campos);
+        json.EndObject();
+    }
+    json.EndArray();
+}
+
+template <class Registro, class Campos>
+std::string ObjetoJson(const Registro& registro, const Campos& campos) {
+    rapidjson::StringBuffer texto;
+    Escritor json(texto);
+    json.StartObject();
+    EscribirCampos(json, registro, campos);
+    json.EndObject();
+    return {texto.GetString(), texto.GetSize()};
+}
+
+}  // namespace trabex
