@@ -14,8 +14,8 @@ struct EstribosHelice {
     double Longitudinal = 0;      ///< longitudinal steel for torsion, cm²
 };
 
-/// Stirrups and longitudinal steel for a service shear (kgf) and the area of the torsion diagram (ACI 318-71
-/// and its successors, with a fixed reduction factor of 0.85); width and height in m.
+/// Stirrups and longitudinal steel for a service shear (kgf) and the area of the torsion diagram (ACI 318-83
+/// and its like, with a fixed reduction factor of 0.85); width and height in m.
 ///
 /// The spacing is a whole number. A spacing under 8 cm is worked out once more with the larger bar, and that
 /// result stands. A spacing of 0 raises a division by zero.

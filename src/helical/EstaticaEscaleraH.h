@@ -31,10 +31,10 @@ struct HiperestaticasHelice {
 
 /// Forces in a helicoidal bar of section B by T, fixed at both ends, under W per metre of plan arc.
 ///
-/// Force method (A. M. C. Morgan, "Design of helical staircases", 1960): by symmetry about the centre only
-/// the horizontal shear and the moment about the radial axis are unknown there. Bending about both axes and
-/// torsion deform the bar, axial force and shear do not; the torsional stiffness is 2·E·I1·I2/(I1 + I2). The
-/// load acts at the centroid of the annular sector, B²/(12·R) outside the axis.
+/// Force method (V. A. Morgan, "Comparison of analysis of helical staircases", 1960): by symmetry about the
+/// centre only the horizontal shear and the moment about the radial axis are unknown there. Bending about
+/// both axes and torsion deform the bar, axial force and shear do not; the torsional stiffness is
+/// 2·E·I1·I2/(I1 + I2). The load acts at the centroid of the annular sector, B²/(12·R) outside the axis.
 class CalculoEstaticoH {
   public:
     /// `Alfa` in degrees.

@@ -18,7 +18,7 @@ struct EstribosTramo {
     double AsLongitudinal = 0;  ///< cm² on each face
 };
 
-/// Stirrups and longitudinal steel of the flight for shear and torsion (ACI 318-71 and its successors, with a
+/// Stirrups and longitudinal steel of the flight for shear and torsion (ACI 318-83, with a
 /// fixed reduction factor of 0.85), for the service shear (kgf) and torsion (kgf·m) of a station.
 ///
 /// The torsion is taken as building up along the sloping length, less a share of the horizontal moment; X is
