@@ -20,6 +20,9 @@ class Calculo {
   public:
     Calculo(const DatosEscaleraT& escalera, const DatosGenerales& generales, ResultadosEscaleraT& resultados)
         : escalera_(escalera), generales_(generales), resultados_(resultados), estatico_(escalera) {
+        resultados_.Estatica = {};
+        resultados_.TramoT.assign(UltimaEstacion + 1, {});
+        resultados_.DescansoT.assign(UltimoDescanso + 1, {});
         vigilancia_.Comprobar();
         resultados_.Estatica = estatico_.Estatica();
     }
@@ -54,7 +57,6 @@ double EnvolventeDeCorte(const EscaleraTramoPunto& punto) {
 }
 
 void Calculo::CalcularTramo() {
-    resultados_.TramoT.assign(UltimaEstacion + 1, {});
     const double dX = PasoDeEstacion();
     double X = 0;
     for (EscaleraTramoPunto& punto : resultados_.TramoT) {
@@ -87,7 +89,6 @@ void Calculo::CalcularEstribos() {
 }
 
 void Calculo::CalcularDescanso() {
-    resultados_.DescansoT.assign(UltimoDescanso + 1, {});
     for (std::size_t j = 1; j <= UltimoDescanso; ++j) {
         const int grados = (static_cast<int>(j) - 1) * GradosPorEstacion;
         EscaleraDescansoPunto calculado = estatico_.EsfuerzosDescanso((grados * 3.14159265358979) / 180);

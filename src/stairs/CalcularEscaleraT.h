@@ -11,7 +11,7 @@ namespace trabex {
 ///
 /// A stair with `L`, `B` or `H` of exactly 0 leaves the results untouched. A run-time error ends the
 /// calculation with the results as far as they were filled (a station's forces, then its steel) and the error
-/// in `resultados.Error`; arrays that were not reached keep what they held.
+/// in `resultados.Error`: stations that were not reached are zeros, the reactions keep what they held.
 void CalcularEscaleraT(const DatosEscaleraT& escalera, const DatosGenerales& generales,
                        ResultadosEscaleraT& resultados);
 

@@ -168,7 +168,7 @@ TEST(EscaleraT, SinGeometriaQuedaLoAnterior) {
     EXPECT_TRUE(vacia.TramoT.empty() && vacia.DescansoT.empty());
 }
 
-/// A run-time error leaves what stood: forces of the first station, and the landing of the stair before.
+/// A run-time error leaves what stood, the forces of the first station, and nothing of the stair before.
 TEST(EscaleraT, UnErrorDejaLoQueHabia) {
     ResultadosEscaleraT r = Calculada(Modelo());
     const double momento = r.TramoT[0].MomentoTotal;
@@ -182,13 +182,13 @@ TEST(EscaleraT, UnErrorDejaLoQueHabia) {
     EXPECT_EQ(r.TramoT[0].MomentoTotal, momento);  // the landing's load alone
     EXPECT_EQ(r.TramoT[0].AsSuperior, 0);
     EXPECT_EQ(r.TramoT[1].MomentoTotal, 0);
-    EXPECT_NEAR(r.DescansoT[1].MomentoTotal, -940.59, 5e-3);
+    EXPECT_EQ(r.DescansoT.at(1).MomentoTotal, 0);
 
-    d.L = 1e-200;  // the coefficients can't be formed: nothing is dimensioned anew
+    d.L = 1e-200;  // the coefficients can't be formed
     r = Calculada(Modelo());
     CalcularEscaleraT(d, {}, r);
     EXPECT_TRUE(r.Error);
-    EXPECT_EQ(r.TramoT[0].MomentoTotal, momento);
+    EXPECT_EQ(r.TramoT.at(0).MomentoTotal, 0);
     CalcularEscaleraT(Modelo(), {}, r);
     EXPECT_FALSE(r.Error);
 }
