@@ -20,14 +20,14 @@ constexpr int MalUso = 2;
 constexpr int NoSePuedeAbrir = 3;
 
 int EscribirTodo(const trabex::ProyectoCalculado& calculado, const std::filesystem::path& proyecto,
-                 const std::filesystem::path& carpeta) {
+                 unsigned hilos, const std::filesystem::path& carpeta) {
     const std::filesystem::path archivo = carpeta / "resultados.json";
     const std::filesystem::path hojas = carpeta / "losas";
     try {
         std::error_code error;
         std::filesystem::create_directories(carpeta, error);
         trabex::EscribirArchivo(archivo, trabex::DocumentoJson(calculado));
-        trabex::EscribirHojas(proyecto, hojas);
+        trabex::EscribirHojas(proyecto, hilos, hojas);
     } catch (const trabex::ErrorEjecucion& error) {
         std::cerr << "trabex-lote: no se puede escribir en " << carpeta << ": " << error.Texto() << '\n';
         return NoSePuedeEscribir;
@@ -37,8 +37,10 @@ int EscribirTodo(const trabex::ProyectoCalculado& calculado, const std::filesyst
     return Hecho;
 }
 
-/// Pictures need the toolkit's fonts, not a display.
+/// Pictures need the toolkit's fonts, not a display; what the toolkit remarks on the machine is no concern of
+/// whoever reads standard error.
 int SinPantalla(char** argv, const std::function<int()>& trabajo) {
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     std::string plataforma = "-platform";
     std::string ninguna = "offscreen";
     std::array<char*, 4> argumentos{argv[0], plataforma.data(), ninguna.data(), nullptr};
@@ -60,5 +62,5 @@ int main(int argc, char** argv) {
         std::cerr << "trabex-lote: no se puede abrir el proyecto " << std::filesystem::path(argv[1]) << '\n';
         return NoSePuedeAbrir;
     }
-    return SinPantalla(argv, [&] { return EscribirTodo(calculado, argv[1], argv[2]); });
+    return SinPantalla(argv, [&] { return EscribirTodo(calculado, argv[1], hilos, argv[2]); });
 }

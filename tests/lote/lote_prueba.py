@@ -6,6 +6,7 @@ import os
 import pathlib
 import shutil
 import sqlite3
+import struct
 import subprocess
 import sys
 import tempfile
@@ -142,6 +143,19 @@ class Lote(unittest.TestCase):
         self.assertIn("El subíndice", resumen)
         self.assertEqual(losas["SIN TRAMOS"]["DisenoEje"], [])
         self.assertIn('O\'Brien "x"\n', losas)
+
+    def test_cada_losa_tiene_sus_hojas(self):
+        self.sql("UPDATE LosaDatos SET Nombre='L/8: \"TECHO\"' WHERE Nombre='L-8 SALA DE MÁQUINAS'")
+        documento, _ = self.resultados()
+        hojas = self.carpeta / "salida" / "losas"
+        for numero, losa in enumerate(documento["losas"], 1):
+            nombre = "".join("_" if c in '\\/:*?"<>|' else c for c in losa["Nombre"])
+            for vista in ("geometria", "fuerzas", "diseno"):
+                png = (hojas / f"{numero}-{nombre}-{vista}.png").read_bytes()
+                self.assertEqual(struct.unpack(">4s2I", png[12:24]), (b"IHDR", 940, 580))
+            papel = (hojas / f"{numero}-{nombre}-papel.pdf").read_bytes()
+            self.assertEqual(papel.count(b"/Type /Page\n"), 3)
+        self.assertEqual(len(os.listdir(hojas)), 4 * len(documento["losas"]))
 
     def test_lo_que_no_se_puede(self):
         self.assertEqual(correr().returncode, 2)

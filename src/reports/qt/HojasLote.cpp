@@ -3,7 +3,11 @@
 #include <QBuffer>
 #include <QPdfWriter>
 #include <array>
+#include <atomic>
+#include <exception>
 #include <string>
+#include <thread>
+#include <vector>
 
 #include "base/Archivos.h"
 #include "drawing/GraficoLosasPrinter.h"
@@ -59,29 +63,60 @@ std::string NombreDeHoja(const LosaDelProyecto& losa, const std::string& final) 
     return std::to_string(losa.Numero) + "-" + ParaArchivo(losa.Datos.Nombre) + "-" + final;
 }
 
+/// The pictures and the pages of one slab.
+void EscribirLosa(const LosaDelProyecto& losa, const std::filesystem::path& carpeta) {
+    constexpr std::array<const char*, 3> vistas{"geometria", "fuerzas", "diseno"};
+    HojaLosa hoja;
+    hoja.Vista.ExportandoGrafico = true;
+    for (std::uint8_t vista = 0; vista < vistas.size(); ++vista) {
+        hoja.VistaActual = vista;
+        const QImage imagen = DibujarImagen(AnchoSuperficie, AltoSuperficie, 1, [&](Lienzo& lienzo) {
+            RedibujeVista(lienzo, hoja, {losa.Datos, losa.Generales, losa.Resultados});
+        });
+        EscribirPng(imagen, carpeta / CaminoDeTexto(NombreDeHoja(losa, std::string(vistas[vista]) + ".png")));
+    }
+    EscribirPapel(losa, {"", losa.Proyecto.Proyecto, losa.Proyecto.Calculista},
+                  carpeta / CaminoDeTexto(NombreDeHoja(losa, "papel.pdf")));
+}
+
+struct LosaGuardada {
+    DatosDelProyecto Proyecto;
+    Losa Datos;
+    DatosGenerales Generales;
+    ResultadosLosa Resultados;
+};
+
 }  // namespace
 
-std::size_t EscribirHojas(const std::filesystem::path& proyecto, const std::filesystem::path& carpeta) {
-    constexpr std::array<const char*, 3> vistas{"geometria", "fuerzas", "diseno"};
+void EscribirHojas(const std::filesystem::path& proyecto, unsigned hilos,
+                   const std::filesystem::path& carpeta) {
+    std::vector<LosaGuardada> losas;
+    RecorrerLosas(proyecto, [&](const LosaDelProyecto& losa) {
+        losas.push_back({losa.Proyecto, losa.Datos, losa.Generales, losa.Resultados});
+    });
     std::error_code error;
     std::filesystem::create_directories(carpeta, error);
-    std::size_t escritas = 0;
-    RecorrerLosas(proyecto, [&](const LosaDelProyecto& losa) {
-        HojaLosa hoja;
-        hoja.Vista.ExportandoGrafico = true;
-        for (std::uint8_t vista = 0; vista < vistas.size(); ++vista) {
-            hoja.VistaActual = vista;
-            const QImage imagen = DibujarImagen(AnchoSuperficie, AltoSuperficie, 1, [&](Lienzo& lienzo) {
-                RedibujeVista(lienzo, hoja, {losa.Datos, losa.Generales, losa.Resultados});
-            });
-            EscribirPng(imagen,
-                        carpeta / CaminoDeTexto(NombreDeHoja(losa, std::string(vistas[vista]) + ".png")));
-            ++escritas;
+
+    std::atomic<std::size_t> siguiente{0};
+    std::vector<std::exception_ptr> faltas(hilos);
+    const auto trabajar = [&](unsigned hilo) {
+        try {
+            for (std::size_t i = siguiente++; i < losas.size(); i = siguiente++) {
+                const LosaGuardada& losa = losas[i];
+                EscribirLosa({i + 1, losa.Proyecto, losa.Datos, losa.Generales, losa.Resultados}, carpeta);
+            }
+        } catch (...) {
+            faltas[hilo] = std::current_exception();
         }
-        EscribirPapel(losa, {"", losa.Proyecto.Proyecto, losa.Proyecto.Calculista},
-                      carpeta / CaminoDeTexto(NombreDeHoja(losa, "papel.pdf")));
-    });
-    return escritas;
+    };
+    {
+        std::vector<std::jthread> equipo;
+        for (unsigned hilo = 1; hilo < hilos; ++hilo) equipo.emplace_back(trabajar, hilo);
+        trabajar(0);
+    }
+    for (const std::exception_ptr& falta : faltas) {
+        if (falta) std::rethrow_exception(falta);
+    }
 }
 
 }  // namespace trabex

@@ -5,8 +5,9 @@
 namespace trabex {
 
 /// Writes the three sheets of every slab of a project as `<number>-<name>-{geometria,fuerzas,diseno}.png`
-/// into a folder, on the surface of reports. Needs the toolkit's application. Returns how many pictures;
-/// throws ErrorEjecucion when one can't be written.
-std::size_t EscribirHojas(const std::filesystem::path& proyecto, const std::filesystem::path& carpeta);
+/// into a folder, on the surface of reports, and as the pages of `<number>-<name>-papel.pdf`. Draws on
+/// `hilos` threads; needs the toolkit's application. Throws ErrorEjecucion when one can't be written.
+void EscribirHojas(const std::filesystem::path& proyecto, unsigned hilos,
+                   const std::filesystem::path& carpeta);
 
 }  // namespace trabex
