@@ -37,6 +37,7 @@ TEST_F(VentanasCAD, LoMarcadoEnLaListaLlegaAlArchivo) {
     {
         VentanaExportarCAD ventana(aplicacion, Planex2023, caja, dialogos, plataforma, nullptr);
         ventana.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&ventana));
         auto* lista = ventana.findChild<QTableWidget*>();
         ASSERT_EQ(lista->rowCount(), 3);
         EXPECT_EQ(lista->currentRow(), 1);  // the slab selected in the workspace

@@ -1,6 +1,5 @@
 #include "reports/qt/VentanaExportarCAD.h"
 
-#include <QFrame>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -12,6 +11,9 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "drawing/GraficoLosaDatos.h"
+#include "drawing/ValoresHoja.h"
+#include "drawing/qt/WidgetLienzo.h"
 #include "reports/qt/VentanaCuadroCAD.h"
 
 namespace trabex {
@@ -95,9 +97,12 @@ QWidget* VentanaExportarCAD::CrearVista(QWidget* padre) {
     auto* panel = new QWidget(padre);
     titulo_ = new QLabel(panel);
     titulo_->setTextFormat(Qt::PlainText);
-    croquis_ = new QFrame(panel);
-    croquis_->setFrameShape(QFrame::StyledPanel);
-    croquis_->setMinimumSize(240, 160);
+    croquis_ = new WidgetLienzo(
+        vistaCroquis_,
+        [this](Lienzo& lienzo) {
+            DibujeLosaExportar(lienzo, vistaCroquis_, losa_, aplicacion_.SeparadoresLocales);
+        },
+        panel);
     auto* columna = new QVBoxLayout(panel);
     columna->setContentsMargins(0, 0, 0, 0);
     columna->addWidget(titulo_);
@@ -166,8 +171,10 @@ void VentanaExportarCAD::CambiarMarca(int fila) {
 
 void VentanaExportarCAD::MostrarLosa(int fila) {
     if (fila < 0) return;
-    const Losa losa = operaciones_.LosaDe(FilaDeLista(fila));
-    titulo_->setText((losa.OpcionMaciza ? "LOSA MACIZA: " : "LOSA NERVADA: ") + Q(losa.Nombre));
+    losa_ = operaciones_.LosaDe(FilaDeLista(fila));
+    titulo_->setText(Q(RotuloDeLosa(losa_) + losa_.Nombre));
+    croquis_->Comandos().Restablecer();
+    croquis_->RedibujeVista();
 }
 
 void MostrarExportarCAD(Aplicacion& aplicacion, CajaMensajes& caja, DialogosArchivo& dialogos,

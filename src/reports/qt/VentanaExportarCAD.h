@@ -2,15 +2,17 @@
 
 #include <QDialog>
 
+#include "drawing/Visor.h"
 #include "reports/ui/ExportarCAD.h"
 #include "shell/qt/ComunVentanas.h"
 
-class QFrame;
 class QLabel;
 class QRadioButton;
 class QTableWidget;
 
 namespace trabex {
+
+class WidgetLienzo;
 
 /// Chooses slabs of the connected project and hands them to Planex.
 class VentanaExportarCAD : public QDialog, public VistaExportarCAD {
@@ -37,7 +39,9 @@ class VentanaExportarCAD : public QDialog, public VistaExportarCAD {
     ExportarCAD operaciones_;
     QTableWidget* lista_;
     QLabel* titulo_;
-    QFrame* croquis_;
+    Losa losa_;  // the one under the cursor, sketched
+    EstadoVista vistaCroquis_;
+    WidgetLienzo* croquis_;
     QRadioButton* anexar_;
     PunteroDeTrabajo puntero_;
 };
