@@ -34,9 +34,9 @@ int EscribirTodo(const trabex::ProyectoCalculado& calculado, const std::filesyst
         std::error_code error;
         std::filesystem::create_directories(planex.parent_path(), error);
         trabex::EscribirArchivo(archivo, trabex::DocumentoJson(calculado));
+        trabex::EscribirHojas(proyecto, hojas);
         trabex::EscribirArchivoPlanex(PlantillaPlanex(), planex, proyecto, calculado.Datos,
                                       calculado.Generales);
-        trabex::EscribirHojas(proyecto, hojas);
     } catch (const trabex::ErrorEjecucion& error) {
         std::cerr << "trabex-lote: no se puede escribir en " << carpeta << ": " << error.Texto() << '\n';
         return NoSePuedeEscribir;
