@@ -9,6 +9,7 @@
 #include <thread>
 
 #include "base/Archivos.h"
+#include "reports/ArchivoPlanex.h"
 #include "reports/Lote.h"
 #include "reports/qt/HojasLote.h"
 
@@ -19,21 +20,30 @@ constexpr int NoSePuedeEscribir = 1;
 constexpr int MalUso = 2;
 constexpr int NoSePuedeAbrir = 3;
 
+std::filesystem::path PlantillaPlanex() {
+    const std::string programa = QCoreApplication::applicationDirPath().toStdString();
+    return trabex::CaminoDeTexto(programa) / "Imagen" / "ImagenCAD23.tbx";
+}
+
 int EscribirTodo(const trabex::ProyectoCalculado& calculado, const std::filesystem::path& proyecto,
                  unsigned hilos, const std::filesystem::path& carpeta) {
     const std::filesystem::path archivo = carpeta / "resultados.json";
     const std::filesystem::path hojas = carpeta / "losas";
+    const std::filesystem::path planex = carpeta / "planex" / proyecto.filename().replace_extension(".cad");
     try {
         std::error_code error;
-        std::filesystem::create_directories(carpeta, error);
+        std::filesystem::create_directories(planex.parent_path(), error);
         trabex::EscribirArchivo(archivo, trabex::DocumentoJson(calculado));
         trabex::EscribirHojas(proyecto, hilos, hojas);
+        trabex::EscribirArchivoPlanex(PlantillaPlanex(), planex, proyecto, calculado.Datos,
+                                      calculado.Generales);
     } catch (const trabex::ErrorEjecucion& error) {
         std::cerr << "trabex-lote: no se puede escribir en " << carpeta << ": " << error.Texto() << '\n';
         return NoSePuedeEscribir;
     }
     std::cout << trabex::TablaResumen(calculado, {}) << "\nResultados: " << archivo.string()
-              << "\nHojas de las losas: " << hojas.string() << '\n';
+              << "\nProyecto de Planex: " << planex.string() << "\nHojas de las losas: " << hojas.string()
+              << '\n';
     return Hecho;
 }
 

@@ -21,22 +21,6 @@ constexpr std::array<std::pair<std::errc, CodigoError>, 9> Equivalencias{{
     {std::errc::file_exists, CodigoError::ArchivoYaExiste},
 }};
 
-[[noreturn]] void Abandonar(const std::filesystem::path& aMedias, const std::error_code& causa) {
-    std::error_code ignorado;
-    std::filesystem::remove(aMedias, ignorado);
-    throw ErrorEjecucion(ErrorDeSistema(causa));
-}
-
-std::filesystem::path Provisional(std::filesystem::path camino) {
-    return camino += ".nuevo";
-}
-
-void Colocar(const std::filesystem::path& nuevo, const std::filesystem::path& camino) {
-    std::error_code error;
-    std::filesystem::rename(nuevo, camino, error);
-    if (error) Abandonar(nuevo, error);
-}
-
 std::error_code UltimoError() {
     return {errno, std::generic_category()};
 }
@@ -50,28 +34,44 @@ CodigoError ErrorDeSistema(const std::error_code& error) {
     return CodigoError::ErrorDispositivo;
 }
 
+ArchivoNuevo::ArchivoNuevo(std::filesystem::path camino) : camino_(std::move(camino)), provisional_(camino_) {
+    provisional_ += ".nuevo";
+}
+
+ArchivoNuevo::~ArchivoNuevo() {
+    std::error_code ignorado;
+    std::filesystem::remove(provisional_, ignorado);
+}
+
+void ArchivoNuevo::Colocar() const {
+    std::error_code error;
+    std::filesystem::rename(provisional_, camino_, error);
+    if (error) throw ErrorEjecucion(ErrorDeSistema(error));
+}
+
 void EscribirArchivo(const std::filesystem::path& camino, std::string_view bytes) {
-    const std::filesystem::path nuevo = Provisional(camino);
+    const ArchivoNuevo nuevo(camino);
     errno = 0;
-    std::ofstream archivo(nuevo, std::ios::binary | std::ios::trunc);
+    std::ofstream archivo(nuevo.Provisional(), std::ios::binary | std::ios::trunc);
     if (!archivo) throw ErrorEjecucion(ErrorDeSistema(UltimoError()));
     archivo.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     archivo.close();
-    if (!archivo) Abandonar(nuevo, UltimoError());
-    Colocar(nuevo, camino);
+    if (!archivo) throw ErrorEjecucion(ErrorDeSistema(UltimoError()));
+    nuevo.Colocar();
 }
 
 void CopiarArchivo(const std::filesystem::path& origen, const std::filesystem::path& destino) {
     std::error_code error;
     if (!std::filesystem::is_regular_file(origen, error))
         throw ErrorEjecucion(CodigoError::ArchivoNoEncontrado);
-    const std::filesystem::path nuevo = Provisional(destino);
-    std::filesystem::copy_file(origen, nuevo, std::filesystem::copy_options::overwrite_existing, error);
-    if (error) Abandonar(nuevo, error);
+    const ArchivoNuevo nuevo(destino);
+    std::filesystem::copy_file(origen, nuevo.Provisional(), std::filesystem::copy_options::overwrite_existing,
+                               error);
+    if (error) throw ErrorEjecucion(ErrorDeSistema(error));
     // A delivered file may be read-only where the program is installed; its copy is the engineer's.
-    std::filesystem::permissions(nuevo, std::filesystem::perms::owner_write,
+    std::filesystem::permissions(nuevo.Provisional(), std::filesystem::perms::owner_write,
                                  std::filesystem::perm_options::add, error);
-    Colocar(nuevo, destino);
+    nuevo.Colocar();
 }
 
 void BorrarArchivo(const std::filesystem::path& camino) {

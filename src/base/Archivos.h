@@ -12,8 +12,26 @@ namespace trabex {
 /// The run-time error that stands for what the operating system answered.
 CodigoError ErrorDeSistema(const std::error_code& error);
 
-/// Writes a whole file beside its place and then renames it: `camino` holds its old bytes or the new ones,
-/// never a part. Throws ErrorEjecucion when it can't.
+/// A file that is written beside its place and then takes it: `camino` holds its old bytes or the new ones,
+/// never a part. What was not placed is removed at the end.
+class ArchivoNuevo {
+  public:
+    explicit ArchivoNuevo(std::filesystem::path camino);
+    ~ArchivoNuevo();
+    ArchivoNuevo(const ArchivoNuevo&) = delete;
+    ArchivoNuevo& operator=(const ArchivoNuevo&) = delete;
+
+    /// Where it is written until then.
+    const std::filesystem::path& Provisional() const { return provisional_; }
+    /// Throws ErrorEjecucion when it can't.
+    void Colocar() const;
+
+  private:
+    std::filesystem::path camino_;
+    std::filesystem::path provisional_;
+};
+
+/// Writes a whole file in that way. Throws ErrorEjecucion when it can't.
 void EscribirArchivo(const std::filesystem::path& camino, std::string_view bytes);
 
 /// Copies a whole file in the same way. Throws ErrorEjecucion 53 when `origen` is no file, and as above.

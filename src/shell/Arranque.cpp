@@ -8,7 +8,6 @@ namespace trabex {
 
 namespace {
 
-constexpr const char* CarpetaComun = "Nodara Software";
 constexpr const char* CarpetaPropia = "Trabex24";
 constexpr std::uintmax_t DiferenciaDeTapiz = 10;  // bytes by which a picture may differ and still be the same
 

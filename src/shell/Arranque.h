@@ -7,6 +7,9 @@
 
 namespace trabex {
 
+/// Folder of the company's programs, in the documents folder or in the root that machines share.
+inline constexpr const char* CarpetaComun = "Nodara Software";
+
 /// Finds the folders, makes those that are missing, copies the example project, the wallpaper and the shared
 /// load database where they are absent, and reads the settings. What can't be made shows up later, where it
 /// is used.

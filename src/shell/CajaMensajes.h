@@ -27,6 +27,13 @@ enum class IconoCaja : std::int16_t {
 /// Answers of the message box, the same in all layouts.
 enum RespuestaCaja : std::int16_t { RespuestaAceptarONo = 0, RespuestaSi = 1, RespuestaCancelar = 2 };
 
+/// The answer by which a question on an existing file lets it be replaced. The box never gives it: such a
+/// file is never replaced.
+inline constexpr std::int16_t RespuestaQueReemplaza = 6;
+
+/// The heading over an error that no rule foresees.
+inline constexpr const char* ErrorInesperado = "Error Inesperado...";
+
 struct Mensaje {
     std::string Texto;       ///< a line feed breaks a line
     std::string Encabezado;  ///< the bold line at the top

@@ -16,7 +16,7 @@ ResultadoConfiguracion AceptarConfiguracion(Aplicacion& aplicacion, CajaMensajes
     try {
         GuardarTapiz(ArchivoTapiz(aplicacion), elegida);
     } catch (const ErrorEjecucion& error) {
-        caja.Mostrar(MensajeDeError(error, "Error Inesperado..."));
+        caja.Mostrar(MensajeDeError(error, ErrorInesperado));
         return ResultadoConfiguracion::SigueAbierta;
     }
     aplicacion.Preferencias = elegida;

@@ -6,7 +6,7 @@
 
 namespace trabex {
 
-/// What a file dialog is asked for. It opens with an empty file name.
+/// What a file dialog is asked for.
 struct PeticionArchivo {
     std::string Titulo;
     std::string Filtro;  ///< label and pattern, "Archivos de Proyectos (.los)|*.los"
@@ -14,6 +14,7 @@ struct PeticionArchivo {
     bool Guardar = false;          ///< a save dialog, or else an open one
     bool AvisarReemplazo = false;  ///< the dialog itself warns of an existing file
     bool DebeExistir = false;
+    std::string Nombre = {};  ///< file name with which it opens
 };
 
 class DialogosArchivo {

@@ -6,6 +6,7 @@
 #include "base/Archivos.h"
 #include "base/Texto.h"
 #include "shell/Arranque.h"
+#include "shell/Espera.h"
 #include "store/Comparacion.h"
 
 namespace trabex {
@@ -14,8 +15,6 @@ namespace {
 
 constexpr const char* FiltroProyectos = "Archivos de Proyectos (.los)|*.los";
 constexpr const char* FiltroAbrir = "Archivos de Proyectos (.losa)|*.los";
-constexpr std::int16_t RespuestaQueReemplaza = 6;  // the box yields only 0, 1 and 2
-constexpr const char* ErrorInesperado = "Error Inesperado...";
 
 std::string NombreDe(const std::filesystem::path& archivo) {
     return TextoDeCamino(archivo.filename());
@@ -25,18 +24,6 @@ bool Existe(const std::filesystem::path& camino) {
     std::error_code error;
     return std::filesystem::exists(camino, error);
 }
-
-/// The pointer of long work, for as long as this stands.
-class Espera {
-  public:
-    explicit Espera(VistaMenuPrincipal& vista) : vista_(vista) { vista_.PunteroDeEspera(true); }
-    ~Espera() { vista_.PunteroDeEspera(false); }
-    Espera(const Espera&) = delete;
-    Espera& operator=(const Espera&) = delete;
-
-  private:
-    VistaMenuPrincipal& vista_;
-};
 
 }  // namespace
 

@@ -42,7 +42,7 @@ class Lote(unittest.TestCase):
         antes = self.proyecto.read_bytes()
         documento, resumen = self.resultados()
         self.assertEqual(self.proyecto.read_bytes(), antes)
-        self.assertEqual(sorted(os.listdir(self.carpeta / "salida")), ["losas", "resultados.json"])
+        self.assertEqual(sorted(os.listdir(self.carpeta / "salida")), ["losas", "planex", "resultados.json"])
         self.assertEqual(documento["Proyecto"]["Calculista"], "ING. MARÍA NÚÑEZ")
         self.assertEqual(documento["LosaG"]["FC"], 250)
         self.assertGreaterEqual(len(documento["losas"]), 8)
@@ -130,6 +130,59 @@ class Lote(unittest.TestCase):
         self.assertEqual([e["L"] for e in documento["escalerasT"]], [0, 0, 0])
         self.assertEqual(documento["EscaleraTG"]["FS"], 1.55)
         self.assertGreaterEqual(len(documento["losas"]), 8)
+    def planex(self):
+        """The exchange file's rows by table, as a program that only knows SQLite reads them."""
+        archivo = self.carpeta / "salida" / "planex" / "Obra Año 1.cad"
+        self.assertEqual([entrada.name for entrada in archivo.parent.iterdir()], [archivo.name])
+        base = sqlite3.connect(archivo)
+        base.row_factory = sqlite3.Row
+        self.addCleanup(base.close)
+        return {tabla: [dict(fila) for fila in base.execute(f"SELECT * FROM {tabla}")]
+                for (tabla,) in base.execute("SELECT name FROM sqlite_master WHERE type = 'table'").fetchall()}
+
+    def test_el_archivo_de_planex(self):
+        self.sql("UPDATE LosaTramos SET LT = 6 WHERE Nombre = 'L-1 PLANTA BAJA' AND Numero = 1",
+                 "UPDATE LosaTramos SET LT = 5.99 WHERE Nombre = 'L-1 PLANTA BAJA' AND Numero = 2",
+                 "INSERT INTO LosaDatos (Nombre) VALUES ('Z SIN TRAMOS')")
+        self.resultados()
+        documento, _ = self.resultados()  # over an earlier output of its own
+        tablas = self.planex()
+        self.assertEqual(tablas["Proyecto"], [{
+            "Proyecto": "EDIFICIO RESIDENCIAS LA CEIBA", "Cliente": "CONDOMINIO LA CEIBA",
+            "Propietario": "INVERSIONES LA CEIBA, C.A.", "Responsable": "ING. MARÍA NÚÑEZ",
+            "Comentario": "Cinco plantas y techo; losas nervadas en una dirección", "Fecha": "15/03/2024",
+            "FC": 250, "FY": 4200, "RLosas": 0.025, "RVigas": 0.025, "RColumnas": 0.025, "DVigas": 0.05,
+            "NormaSolape": 1, "RVigasR": 0.05, "RLosasR": 0.04, "OpcionDiametro": 0, "OpcionEspesor": 1,
+            "ValorDatum": 0, "NMAX": 0, "LMax": 12}])
+        fijos = {"EscLosa": 50, "EscPlano": 50, "Nervios": 1, "Ancho": 1, "Repeticiones": 0, "OK": 0,
+                 "OpcionLosaF": 0}
+        self.assertEqual(tablas["LosaDatos"], [{
+            "Nombre": losa["Nombre"], "NT": len(losa["Tramos"]), "OpcionMaciza": int(losa["OpcionMaciza"]),
+            "H": losa["Hm" if losa["OpcionMaciza"] else "Ho"],
+            **{campo: None if losa["OpcionMaciza"] else losa[campo] for campo in ("Bo", "So", "Loseta")},
+            **fijos} for losa in documento["losas"]])
+        nervios = {(n["Nombre"], n["Tramo"]): (n["Opcion"], n["Diametro"], n["Ancho"])
+                   for n in tablas["LosaNervios"]}
+        self.assertEqual(nervios["L-1 PLANTA BAJA", 1], (1, "1/2", 0.15))
+        self.assertEqual(nervios["L-1 PLANTA BAJA", 2], (0, "", 0))
+        self.assertEqual(
+            [(fila["Nombre"], fila["Eje"], fila["AsEje"], fila["AsTramo"]) for fila in tablas["LosaRefTeorico"]],
+            [(losa["Nombre"], i, diseno["AS1"], tramo["AS2"])
+             for losa in documento["losas"]
+             for i, (diseno, tramo) in enumerate(zip(losa["DisenoEje"] or [{"AS1": 0}],
+                                                     losa["DisenoTramo"] + [{"AS2": None}]), 1)])
+        self.assertEqual([(e["Numero"], e["Apoyo"], e["MczIzq"], e["MczDer"]) for e in tablas["LosaEjes"]
+                          if e["Nombre"] == "Z SIN TRAMOS"], [(1, 1, 0, 0.15)])
+        for tabla in ("LosaComputos", "LosaDefecto", "LosaIguales", "LosaNM", "LosaReparticion"):
+            self.assertEqual(tablas[tabla], [])
+
+    def test_un_archivo_de_planex_que_no_se_completa_deja_el_anterior(self):
+        self.resultados()
+        antes = self.planex()
+        self.sql("UPDATE LosaEjes SET Eje = 'un eje de nombre más largo que su columna' WHERE Nombre = 'L-7 TECHO'",
+                 "UPDATE LosaTramos SET LT = 4")
+        self.assertEqual(correr(self.proyecto, self.carpeta / "salida").returncode, 1)
+        self.assertEqual(self.planex(), antes)
 
     def test_los_errores_quedan_escritos(self):
         self.sql("DELETE FROM LosaDatos WHERE Nombre <> 'L-1 PLANTA BAJA'",

@@ -19,17 +19,26 @@ QString FiltroDe(const std::string& filtro) {
     return partes.value(0) + " (" + patrones.simplified() + ")";
 }
 
+/// The folder, or the nearest one above it that exists.
+std::filesystem::path CarpetaExistente(std::filesystem::path carpeta) {
+    std::error_code error;
+    while (carpeta.has_relative_path() && !std::filesystem::is_directory(carpeta, error))
+        carpeta = carpeta.parent_path();
+    return carpeta;
+}
+
 }  // namespace
 
 std::optional<std::filesystem::path> DialogosArchivoQt::Elegir(const PeticionArchivo& peticion) {
-    QFileDialog dialogo(QApplication::activeWindow(), Q(peticion.Titulo), Q(TextoDeCamino(peticion.Carpeta)),
-                        FiltroDe(peticion.Filtro));
+    QFileDialog dialogo(QApplication::activeWindow(), Q(peticion.Titulo),
+                        Q(TextoDeCamino(CarpetaExistente(peticion.Carpeta))), FiltroDe(peticion.Filtro));
     dialogo.setAcceptMode(peticion.Guardar ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialogo.setFileMode(peticion.DebeExistir ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     dialogo.setOption(QFileDialog::DontConfirmOverwrite, !peticion.AvisarReemplazo);
     const QString patron =
         Q(peticion.Filtro).section("*.", 1, 1).section(QRegularExpression("[^a-zA-Z0-9]"), 0, 0);
     if (peticion.Guardar) dialogo.setDefaultSuffix(patron);
+    if (!peticion.Nombre.empty()) dialogo.selectFile(Q(peticion.Nombre));
     if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return std::nullopt;
     return CaminoDeTexto(S(dialogo.selectedFiles().constFirst()));
 }

@@ -191,7 +191,7 @@ void VentanaConfigurar::CapturarImagen() {
     const QString nombre = "Captura " + QDateTime::currentDateTime().toString("yyyyMMdd-HHmmss") + ".jpg";
     const QString archivo = Q(TextoDeCamino(aplicacion_.CaminoUsuario / "Tapices")) + "/" + nombre;
     if (!captura.save(archivo, "JPG", 95)) {
-        caja_.Mostrar(MensajeDeError(ErrorEjecucion(CodigoError::ErrorAccesoRuta), "Error Inesperado..."));
+        caja_.Mostrar(MensajeDeError(ErrorEjecucion(CodigoError::ErrorAccesoRuta), ErrorInesperado));
         return;
     }
     elegida_.Imagen = S(archivo);

@@ -104,7 +104,7 @@ void VentanaLosaGeneral::Aceptar() {
         return;
     }
     if (!operaciones_.Aceptar(entrados))
-        caja_.Mostrar(MensajeDeError(ErrorEjecucion(CodigoError::ErrorAccesoRuta), "Error Inesperado..."));
+        caja_.Mostrar(MensajeDeError(ErrorEjecucion(CodigoError::ErrorAccesoRuta), ErrorInesperado));
     aplicacion_.LosaModificada = true;
     accept();
 }
