@@ -7,6 +7,7 @@
 #include "base/Texto.h"
 #include "shell/Arranque.h"
 #include "store/Comparacion.h"
+#include "store/Mantenimiento.h"
 
 namespace trabex {
 
@@ -121,6 +122,7 @@ void MenuPrincipal::CrearNuevoProyecto() {
 
 void MenuPrincipal::Reemplazar(const std::filesystem::path& archivo) {
     if (Existe(archivo)) BorrarArchivo(archivo);
+    OlvidarGuardado(archivo);
     CopiarArchivo(aplicacion_.CaminoPrograma / "Imagen" / "LosaImagen.tbx", archivo);
 }
 
@@ -163,6 +165,8 @@ void MenuPrincipal::SalvarComo() {
     if (!archivo) return;
     const Espera espera(vista_);
     try {
+        AsentarBaseDatos(aplicacion_.ArchivoProyecto);
+        OlvidarGuardado(*archivo);
         CopiarArchivo(aplicacion_.ArchivoProyecto, *archivo);
         HacerActual(*archivo);
     } catch (const ErrorEjecucion& error) {
