@@ -5,6 +5,13 @@
 #include <fstream>
 #include <utility>
 
+#include <fcntl.h>
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
 namespace trabex {
 
 namespace {
@@ -21,6 +28,10 @@ constexpr std::array<std::pair<std::errc, CodigoError>, 9> Equivalencias{{
     {std::errc::file_exists, CodigoError::ArchivoYaExiste},
 }};
 
+std::error_code UltimoError() {
+    return {errno, std::generic_category()};
+}
+
 [[noreturn]] void Abandonar(const std::filesystem::path& aMedias, const std::error_code& causa) {
     std::error_code ignorado;
     std::filesystem::remove(aMedias, ignorado);
@@ -32,13 +43,10 @@ std::filesystem::path Provisional(std::filesystem::path camino) {
 }
 
 void Colocar(const std::filesystem::path& nuevo, const std::filesystem::path& camino) {
-    std::error_code error;
+    std::error_code error = LlevarAlDisco(nuevo);
+    if (error) Abandonar(nuevo, error);
     std::filesystem::rename(nuevo, camino, error);
     if (error) Abandonar(nuevo, error);
-}
-
-std::error_code UltimoError() {
-    return {errno, std::generic_category()};
 }
 
 }  // namespace
@@ -48,6 +56,22 @@ CodigoError ErrorDeSistema(const std::error_code& error) {
         if (error == condicion) return codigo;
     }
     return CodigoError::ErrorDispositivo;
+}
+
+std::error_code LlevarAlDisco(const std::filesystem::path& camino) {
+#ifdef _WIN32
+    const int archivo = _wopen(camino.c_str(), _O_WRONLY | _O_BINARY);
+    const bool hecho = archivo >= 0 && _commit(archivo) == 0;
+    const std::error_code error = hecho ? std::error_code() : UltimoError();
+    if (archivo >= 0) _close(archivo);
+#else
+    const int archivo = open(camino.c_str(), O_RDONLY | O_CLOEXEC);
+    // EINVAL: a file system that has nothing to wait for.
+    const bool hecho = archivo >= 0 && (fsync(archivo) == 0 || errno == EINVAL);
+    const std::error_code error = hecho ? std::error_code() : UltimoError();
+    if (archivo >= 0) close(archivo);
+#endif
+    return error;
 }
 
 void EscribirArchivo(const std::filesystem::path& camino, std::string_view bytes) {

@@ -12,8 +12,11 @@ namespace trabex {
 /// The run-time error that stands for what the operating system answered.
 CodigoError ErrorDeSistema(const std::error_code& error);
 
+/// Waits until what was written to a file is on the disk, out of a power cut's reach.
+std::error_code LlevarAlDisco(const std::filesystem::path& camino);
+
 /// Writes a whole file beside its place and then renames it: `camino` holds its old bytes or the new ones,
-/// never a part. Throws ErrorEjecucion when it can't.
+/// never a part, also after a power cut. Throws ErrorEjecucion when it can't.
 void EscribirArchivo(const std::filesystem::path& camino, std::string_view bytes);
 
 /// Copies a whole file in the same way. Throws ErrorEjecucion 53 when `origen` is no file, and as above.
