@@ -4,6 +4,7 @@
 #include <array>
 #include <atomic>
 #include <memory>
+#include <string_view>
 #include <thread>
 
 #include "base/Texto.h"
@@ -22,9 +23,17 @@ bool AbrirLista(ProyectoAbierto& proyecto) {
     return proyecto.RegistrosProyecto.Abierto();
 }
 
+/// A name as one line of a table shows it.
+std::string EnUnaLinea(std::string_view nombre) {
+    std::string linea = TextoValido(nombre);
+    std::replace_if(
+        linea.begin(), linea.end(), [](unsigned char c) { return c < ' '; }, ' ');
+    return linea;
+}
+
 ResumenLosa Resumir(const Losa& losa, const ResultadosLosa& r) {
     ResumenLosa resumen;
-    resumen.Nombre = losa.Nombre;
+    resumen.Nombre = EnUnaLinea(losa.Nombre);
     resumen.OpcionMaciza = losa.OpcionMaciza;
     resumen.Tramos = losa.Tramos.size() - 1;
     for (const Tramo& tramo : losa.Tramos) resumen.Longitud += tramo.LT;

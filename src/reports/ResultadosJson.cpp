@@ -1,8 +1,6 @@
 #include "reports/ResultadosJson.h"
 
-#include <algorithm>
 #include <cmath>
-#include <string_view>
 #include <tuple>
 #include <type_traits>
 
@@ -10,6 +8,7 @@
 #include <rapidjson/writer.h>
 
 #include "base/Formatos.h"
+#include "base/Texto.h"
 
 namespace trabex {
 
@@ -72,36 +71,6 @@ constexpr std::tuple CamposDisenoTramo{Campo{"MT", &DisenoDeTramo::MT}, Campo{"x
 constexpr std::tuple CamposMaximos{Campo{"MaxMomentoApoyo", &ResultadosLosa::MaxMomentoApoyo},
                                    Campo{"MaxCorte", &ResultadosLosa::MaxCorte},
                                    Campo{"MaxMomentoTramo", &ResultadosLosa::MaxMomentoTramo}};
-
-/// Bytes of the UTF-8 character that begins at `i`; 0 when none does (RFC 3629: no overlong forms, no halves of
-/// a surrogate pair, nothing past U+10FFFF).
-std::size_t LargoDeCaracter(std::string_view texto, std::size_t i) {
-    const auto byte = [&](std::size_t k) {
-        return i + k < texto.size() ? static_cast<unsigned char>(texto[i + k]) : 0U;
-    };
-    const unsigned primero = byte(0);
-    if (primero < 0x80) return 1;
-    if (primero < 0xC2 || primero > 0xF4) return 0;
-    const std::size_t largo = primero < 0xE0 ? 2 : primero < 0xF0 ? 3 : 4;
-    const unsigned menor = primero == 0xE0 ? 0xA0 : primero == 0xF0 ? 0x90 : 0x80;
-    const unsigned mayor = primero == 0xED ? 0x9F : primero == 0xF4 ? 0x8F : 0xBF;
-    if (byte(1) < menor || byte(1) > mayor) return 0;
-    for (std::size_t k = 2; k < largo; ++k) {
-        if ((byte(k) & 0xC0) != 0x80) return 0;
-    }
-    return largo;
-}
-
-/// A text whose bytes are valid UTF-8, as JSON wants it: what is not becomes U+FFFD.
-std::string TextoValido(const std::string& texto) {
-    std::string salida;
-    for (std::size_t i = 0; i < texto.size();) {
-        const std::size_t largo = LargoDeCaracter(texto, i);
-        salida += largo != 0 ? texto.substr(i, largo) : "\xEF\xBF\xBD";
-        i += std::max<std::size_t>(largo, 1);
-    }
-    return salida;
-}
 
 void Escribir(Escritor& json, double valor) {
     if (std::isfinite(valor))
