@@ -5,6 +5,13 @@
 #include <fstream>
 #include <utility>
 
+#include <fcntl.h>
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
 namespace trabex {
 
 namespace {
@@ -44,9 +51,25 @@ ArchivoNuevo::~ArchivoNuevo() {
 }
 
 void ArchivoNuevo::Colocar() const {
-    std::error_code error;
-    std::filesystem::rename(provisional_, camino_, error);
+    std::error_code error = LlevarAlDisco(provisional_);
+    if (!error) std::filesystem::rename(provisional_, camino_, error);
     if (error) throw ErrorEjecucion(ErrorDeSistema(error));
+}
+
+std::error_code LlevarAlDisco(const std::filesystem::path& camino) {
+#ifdef _WIN32
+    const int archivo = _wopen(camino.c_str(), _O_WRONLY | _O_BINARY);
+    const bool hecho = archivo >= 0 && _commit(archivo) == 0;
+    const std::error_code error = hecho ? std::error_code() : UltimoError();
+    if (archivo >= 0) _close(archivo);
+#else
+    const int archivo = open(camino.c_str(), O_RDONLY | O_CLOEXEC);
+    // EINVAL: a file system that has nothing to wait for.
+    const bool hecho = archivo >= 0 && (fsync(archivo) == 0 || errno == EINVAL);
+    const std::error_code error = hecho ? std::error_code() : UltimoError();
+    if (archivo >= 0) close(archivo);
+#endif
+    return error;
 }
 
 void EscribirArchivo(const std::filesystem::path& camino, std::string_view bytes) {
@@ -83,6 +106,17 @@ void BorrarArchivo(const std::filesystem::path& camino) {
     if (!std::filesystem::is_regular_file(estado) || !escribible)
         throw ErrorEjecucion(CodigoError::ErrorAccesoRuta);
     if (!std::filesystem::remove(camino, error)) throw ErrorEjecucion(ErrorDeSistema(error));
+}
+
+std::vector<std::filesystem::path> ArchivosDe(const std::filesystem::path& carpeta) {
+    std::vector<std::filesystem::path> archivos;
+    std::error_code error;
+    std::filesystem::directory_iterator entrada(carpeta, error);
+    for (; !error && entrada != std::filesystem::directory_iterator(); entrada.increment(error)) {
+        std::error_code ignorado;
+        if (entrada->is_regular_file(ignorado)) archivos.push_back(entrada->path());
+    }
+    return archivos;
 }
 
 std::string TextoDeCamino(const std::filesystem::path& camino) {

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 #include "base/ErrorEjecucion.h"
 
@@ -12,8 +13,11 @@ namespace trabex {
 /// The run-time error that stands for what the operating system answered.
 CodigoError ErrorDeSistema(const std::error_code& error);
 
+/// Waits until what was written to a file is on the disk, out of a power cut's reach.
+std::error_code LlevarAlDisco(const std::filesystem::path& camino);
+
 /// A file that is written beside its place and then takes it: `camino` holds its old bytes or the new ones,
-/// never a part. What was not placed is removed at the end.
+/// never a part, also after a power cut. What was not placed is removed at the end.
 class ArchivoNuevo {
   public:
     explicit ArchivoNuevo(std::filesystem::path camino);
@@ -39,6 +43,9 @@ void CopiarArchivo(const std::filesystem::path& origen, const std::filesystem::p
 
 /// Deletes a file. Throws ErrorEjecucion: 53 when there is none, 75 when it is read-only or a folder.
 void BorrarArchivo(const std::filesystem::path& camino);
+
+/// The files of a folder, in no order; none where it can't be read.
+std::vector<std::filesystem::path> ArchivosDe(const std::filesystem::path& carpeta);
 
 /// A path as the UTF-8 that texts are made of, and back.
 std::string TextoDeCamino(const std::filesystem::path& camino);
