@@ -130,6 +130,7 @@ class Lote(unittest.TestCase):
         self.assertEqual([e["L"] for e in documento["escalerasT"]], [0, 0, 0])
         self.assertEqual(documento["EscaleraTG"]["FS"], 1.55)
         self.assertGreaterEqual(len(documento["losas"]), 8)
+
     def planex(self):
         """The exchange file's rows by table, as a program that only knows SQLite reads them."""
         archivo = self.carpeta / "salida" / "planex" / "Obra Año 1.cad"
