@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "base/Archivos.h"
+#include "store/Mantenimiento.h"
 
 namespace trabex {
 
@@ -46,6 +47,7 @@ void RefrescarTapiz(const std::filesystem::path& entregado, const std::filesyste
 void CopiarSiFalta(const std::filesystem::path& origen, const std::filesystem::path& destino) {
     if (Existe(destino)) return;
     try {
+        OlvidarGuardado(destino);
         CopiarArchivo(origen, destino);
     } catch (const ErrorEjecucion&) {
         return;  // it shows where the file is needed

@@ -66,6 +66,7 @@ void Compactar1::Compactar(const std::filesystem::path& archivo) {
         caja_.Mostrar(fallo);
     }
     BorrarArchivo(archivo);
+    OlvidarGuardado(archivo);
     CopiarArchivo(destino, archivo);
 }
 

@@ -8,6 +8,7 @@
 #include "shell/Arranque.h"
 #include "shell/Espera.h"
 #include "store/Comparacion.h"
+#include "store/Mantenimiento.h"
 
 namespace trabex {
 
@@ -108,6 +109,7 @@ void MenuPrincipal::CrearNuevoProyecto() {
 
 void MenuPrincipal::Reemplazar(const std::filesystem::path& archivo) {
     if (Existe(archivo)) BorrarArchivo(archivo);
+    OlvidarGuardado(archivo);
     CopiarArchivo(aplicacion_.CaminoPrograma / "Imagen" / "LosaImagen.tbx", archivo);
 }
 
@@ -150,6 +152,8 @@ void MenuPrincipal::SalvarComo() {
     if (!archivo) return;
     const Espera espera(vista_);
     try {
+        AsentarBaseDatos(aplicacion_.ArchivoProyecto);
+        OlvidarGuardado(*archivo);
         CopiarArchivo(aplicacion_.ArchivoProyecto, *archivo);
         HacerActual(*archivo);
     } catch (const ErrorEjecucion& error) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/Archivos.h"
+#include "store/Conexion.h"
 #include "store/Dialecto.h"
 #include "store/Motor.h"
 
@@ -106,7 +107,10 @@ std::vector<TablaDeclarada> LeerTablas(Motor& origen) {
 }
 
 /// A new database that saves what can be read of a damaged one. False when nothing could be.
+///
+/// One read lock spans it all: a table that another program has locked must not pass for a lost one.
 bool Salvar(Motor& origen, const std::filesystem::path& destino) {
+    if (!origen.Correr("BEGIN")) return false;
     const std::vector<TablaDeclarada> tablas = LeerTablas(origen);
     if (tablas.empty()) return false;
     Motor nuevo(destino, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
@@ -136,10 +140,20 @@ bool Existe(const std::filesystem::path& camino) {
 void Quitar(const std::filesystem::path& camino) {
     std::error_code error;
     std::filesystem::remove(camino, error);
-    std::filesystem::remove(std::filesystem::path(camino) += "-journal", error);
+    OlvidarGuardado(camino);
 }
 
 }  // namespace
+
+void AsentarBaseDatos(const std::filesystem::path& camino) {
+    Conexion conexion;
+    AbrirConexion(conexion, camino);
+}
+
+void OlvidarGuardado(const std::filesystem::path& camino) {
+    std::error_code error;
+    std::filesystem::remove(std::filesystem::path(camino) += "-journal", error);
+}
 
 bool CompactarBaseDatos(const std::filesystem::path& origen, const std::filesystem::path& destino) {
     if (!TieneCabecera(origen) || Existe(destino)) return false;
