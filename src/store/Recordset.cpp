@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <optional>
+#include <system_error>
 #include <type_traits>
 #include <vector>
 
@@ -210,7 +211,9 @@ bool Recordset::Interna::Cumple(const Fila& fila, int columna, const Criterio& c
         return criterio.EsTexto && comparador.Comparar(*texto, criterio.Valor) == 0;
     double numero = 0;
     const char* fin = criterio.Valor.data() + criterio.Valor.size();
-    if (criterio.EsTexto || std::from_chars(criterio.Valor.data(), fin, numero).ptr != fin) return false;
+    if (criterio.EsTexto) return false;
+    const auto [resto, error] = std::from_chars(criterio.Valor.data(), fin, numero);
+    if (resto != fin || error != std::errc{}) return false;
     const auto guardado = Admitir({"", TipoColumna::Doble, 0}, valor);
     return guardado && std::holds_alternative<double>(*guardado) && std::get<double>(*guardado) == numero;
 }

@@ -188,6 +188,7 @@ class Lote(unittest.TestCase):
         self.sql("DELETE FROM LosaDatos WHERE Nombre <> 'L-1 PLANTA BAJA'",
                  "INSERT INTO LosaDatos (Nombre) VALUES ('SIN TRAMOS')",
                  "INSERT INTO LosaDatos (Nombre) VALUES ('O''Brien \"x\"' || char(10))",
+                 "INSERT INTO LosaDatos (Nombre) VALUES (CAST(x'4CEDA080' AS TEXT))",  # half a surrogate pair
                  "INSERT INTO LosaJuntasD VALUES ('L-1 PLANTA BAJA', 9, 0, 0)")
         documento, resumen = self.resultados()
         losas = {losa["Nombre"]: losa for losa in documento["losas"]}
@@ -196,6 +197,7 @@ class Lote(unittest.TestCase):
         self.assertIn("El subíndice", resumen)
         self.assertEqual(losas["SIN TRAMOS"]["DisenoEje"], [])
         self.assertIn('O\'Brien "x"\n', losas)
+        self.assertIn("L\uFFFD\uFFFD\uFFFD", losas)
 
     def test_cada_losa_tiene_sus_hojas(self):
         self.sql("UPDATE LosaDatos SET Nombre='L/8: \"TECHO\"' WHERE Nombre='L-8 SALA DE MÁQUINAS'")
