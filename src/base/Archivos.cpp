@@ -5,6 +5,13 @@
 #include <fstream>
 #include <utility>
 
+#include <fcntl.h>
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
 namespace trabex {
 
 namespace {
@@ -34,6 +41,22 @@ CodigoError ErrorDeSistema(const std::error_code& error) {
     return CodigoError::ErrorDispositivo;
 }
 
+std::error_code LlevarAlDisco(const std::filesystem::path& camino) {
+#ifdef _WIN32
+    const int archivo = _wopen(camino.c_str(), _O_WRONLY | _O_BINARY);
+    const bool hecho = archivo >= 0 && _commit(archivo) == 0;
+    const std::error_code error = hecho ? std::error_code() : UltimoError();
+    if (archivo >= 0) _close(archivo);
+#else
+    const int archivo = open(camino.c_str(), O_RDONLY | O_CLOEXEC);
+    // EINVAL: a file system that has nothing to wait for.
+    const bool hecho = archivo >= 0 && (fsync(archivo) == 0 || errno == EINVAL);
+    const std::error_code error = hecho ? std::error_code() : UltimoError();
+    if (archivo >= 0) close(archivo);
+#endif
+    return error;
+}
+
 ArchivoNuevo::ArchivoNuevo(std::filesystem::path camino) : camino_(std::move(camino)), provisional_(camino_) {
     provisional_ += ".nuevo";
 }
@@ -44,7 +67,8 @@ ArchivoNuevo::~ArchivoNuevo() {
 }
 
 void ArchivoNuevo::Colocar() const {
-    std::error_code error;
+    std::error_code error = LlevarAlDisco(provisional_);
+    if (error) throw ErrorEjecucion(ErrorDeSistema(error));
     std::filesystem::rename(provisional_, camino_, error);
     if (error) throw ErrorEjecucion(ErrorDeSistema(error));
 }

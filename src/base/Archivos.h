@@ -12,8 +12,11 @@ namespace trabex {
 /// The run-time error that stands for what the operating system answered.
 CodigoError ErrorDeSistema(const std::error_code& error);
 
+/// Waits until what was written to a file is on the disk, out of a power cut's reach.
+std::error_code LlevarAlDisco(const std::filesystem::path& camino);
+
 /// A file that is written beside its place and then takes it: `camino` holds its old bytes or the new ones,
-/// never a part. What was not placed is removed at the end.
+/// never a part, also after a power cut. What was not placed is removed at the end.
 class ArchivoNuevo {
   public:
     explicit ArchivoNuevo(std::filesystem::path camino);

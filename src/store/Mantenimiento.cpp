@@ -160,7 +160,8 @@ bool CompactarBaseDatos(const std::filesystem::path& origen, const std::filesyst
     Motor motor(origen, SQLITE_OPEN_READWRITE);
     if (!motor.Abierto()) return false;
     const bool sano = motor.Consultar("PRAGMA quick_check(1)") == "ok";
-    const bool hecho = sano ? Reescribir(motor, destino) : Salvar(motor, destino);
+    const bool escrito = sano ? Reescribir(motor, destino) : Salvar(motor, destino);
+    const bool hecho = escrito && !LlevarAlDisco(destino);
     if (!hecho) Quitar(destino);
     return hecho;
 }
