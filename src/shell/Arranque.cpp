@@ -32,6 +32,10 @@ void CrearCarpetas(const std::filesystem::path& base, const Aplicacion& aplicaci
     }
 }
 
+std::filesystem::path ImagenEntregada(const Aplicacion& aplicacion) {
+    return aplicacion.CaminoPrograma / "Imagen" / "TapizTBX.jpg";
+}
+
 /// A wallpaper of the default name that differs from the delivered one goes, so that a new edition's replaces
 /// it.
 void RefrescarTapiz(const std::filesystem::path& entregado, const std::filesystem::path& tapiz) {
@@ -57,9 +61,8 @@ void CopiarSiFalta(const std::filesystem::path& origen, const std::filesystem::p
 void CopiarArchivos(const Aplicacion& aplicacion) {
     const std::filesystem::path imagen = aplicacion.CaminoPrograma / "Imagen";
     const std::filesystem::path& usuario = aplicacion.CaminoUsuario;
-    RefrescarTapiz(imagen / "TapizTBX.jpg", ImagenPorDefecto(aplicacion));
     CopiarSiFalta(imagen / "Ejemplo Demostrativo.tbx", usuario / "Proyectos" / "Ejemplo Demostrativo.los");
-    CopiarSiFalta(imagen / "TapizTBX.jpg", ImagenPorDefecto(aplicacion));
+    CopiarSiFalta(ImagenEntregada(aplicacion), ImagenPorDefecto(aplicacion));
     CopiarSiFalta(imagen / "AnalisisCarga.tbx", usuario / "Proyectos" / "AnalisisCarga.mdb");
 }
 
@@ -81,7 +84,13 @@ void PrepararArranque(Plataforma& plataforma, Aplicacion& aplicacion) {
     aplicacion.Usuario = plataforma.NombreDelUsuario();
     CrearCarpetas(base, aplicacion);
     CopiarArchivos(aplicacion);
-    aplicacion.Preferencias = LeerTapiz(ArchivoTapiz(aplicacion), ImagenPorDefecto(aplicacion));
+    LeerPreferencias(aplicacion);
+}
+
+void LeerPreferencias(Aplicacion& aplicacion) {
+    const std::filesystem::path imagen = ImagenPorDefecto(aplicacion);
+    RefrescarTapiz(ImagenEntregada(aplicacion), imagen);
+    aplicacion.Preferencias = LeerTapiz(ArchivoTapiz(aplicacion), imagen);
 }
 
 }  // namespace trabex

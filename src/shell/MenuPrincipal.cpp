@@ -235,7 +235,7 @@ void MenuPrincipal::Salida() {
 }
 
 void MenuPrincipal::ColoqueTapiz() {
-    aplicacion_.Preferencias = LeerTapiz(ArchivoTapiz(aplicacion_), ImagenPorDefecto(aplicacion_));
+    LeerPreferencias(aplicacion_);
     vista_.PonerTapiz(aplicacion_.Preferencias);
 }
 

@@ -96,7 +96,8 @@ Tapiz LeerTapiz(const std::filesystem::path& archivo, const std::filesystem::pat
     porDefecto.Imagen = TextoDeCamino(imagenPorDefecto);
     std::error_code error;
     const bool existe = std::filesystem::exists(archivo, error);
-    Tapiz tapiz = existe ? LeerRegistros(LeerBytes(archivo)) : porDefecto;
+    const std::string bytes = LeerBytes(archivo);
+    Tapiz tapiz = bytes.empty() ? porDefecto : LeerRegistros(bytes);
     const bool imagenPerdida =
         !tapiz.Imagen.empty() && !std::filesystem::exists(CaminoDeTexto(tapiz.Imagen), error);
     if (existe && imagenPerdida) tapiz = porDefecto;

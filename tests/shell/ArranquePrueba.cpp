@@ -42,7 +42,12 @@ TEST_F(Arranque, HaceLoQueFaltaYRespetaLoQueEsta) {
     EscribirArchivo(Usuario("Tapices/TapizTBX.jpg"), std::string(500, 'x'));
     Arrancar();
     EXPECT_EQ(LeerArchivo(Usuario("Proyectos/Ejemplo Demostrativo.los")), "trabajado");
+    EXPECT_FALSE(std::filesystem::exists(Usuario("Tapices/TapizTBX.jpg")));  // the next start brings it
+    Arrancar();
     EXPECT_EQ(LeerArchivo(Usuario("Tapices/TapizTBX.jpg")), "entregado: TapizTBX.jpg");
+    EscribirArchivo(Usuario("Tapices/TapizTBX.jpg"), std::string(33, 'x'));  // 10 bytes more: the same
+    Arrancar();
+    EXPECT_TRUE(std::filesystem::exists(Usuario("Tapices/TapizTBX.jpg")));
     std::filesystem::create_directories(carpeta / "C" / "Nodara Software");
     Arrancar();
     EXPECT_EQ(aplicacion.CaminoUsuario, carpeta / "C" / "Nodara Software" / "Trabex24");
