@@ -10,6 +10,9 @@ namespace trabex {
 /// Characters (code points) of a UTF-8 text.
 std::size_t NumeroDeCaracteres(std::string_view texto);
 
+/// `texto` as valid UTF-8, for files that programs read: what is not becomes U+FFFD.
+std::string TextoValido(std::string_view texto);
+
 /// `texto` in capitals, the accented letters of Spanish and its neighbours included.
 std::string Mayusculas(std::string texto);
 

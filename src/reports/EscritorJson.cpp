@@ -3,33 +3,9 @@
 #include <cmath>
 
 #include "base/Formatos.h"
+#include "base/Texto.h"
 
 namespace trabex {
-
-namespace {
-
-/// A text whose bytes are valid UTF-8, as JSON wants it: what is not becomes U+FFFD.
-std::string TextoValido(const std::string& texto) {
-    std::string salida;
-    for (std::size_t i = 0; i < texto.size();) {
-        const auto primero = static_cast<unsigned char>(texto[i]);
-        const std::size_t largo = primero < 0x80   ? 1
-                                  : primero < 0xC2 ? 0
-                                  : primero < 0xE0 ? 2
-                                  : primero < 0xF0 ? 3
-                                  : primero < 0xF5 ? 4
-                                                   : 0;
-        std::size_t bien = largo == 0 ? 0 : 1;
-        while (bien != 0 && bien < largo && i + bien < texto.size() && (texto[i + bien] & 0xC0) == 0x80)
-            ++bien;
-        const bool valido = largo != 0 && bien == largo;
-        salida += valido ? texto.substr(i, largo) : "\xEF\xBF\xBD";
-        i += valido ? largo : 1;
-    }
-    return salida;
-}
-
-}  // namespace
 
 void Escribir(Escritor& json, double valor) {
     if (std::isfinite(valor))

@@ -20,6 +20,14 @@ struct ColumnaResumen {
 
 using Linea = std::vector<std::string>;
 
+/// A name as one line of a table shows it.
+std::string EnUnaLinea(const std::string& nombre) {
+    std::string linea = TextoValido(nombre);
+    std::replace_if(
+        linea.begin(), linea.end(), [](unsigned char c) { return c < ' '; }, ' ');
+    return linea;
+}
+
 /// Lines with their columns aligned: the first `deTexto` to the left, the others to the right.
 std::string Alinear(const std::vector<Linea>& lineas, std::size_t deTexto,
                     const std::vector<std::string>& errores) {
@@ -52,6 +60,7 @@ std::string Tabla(const std::vector<Resumen>& resumenes, Linea encabezado, Linea
     std::vector<std::string> errores;
     for (const Resumen& resumen : resumenes) {
         Linea linea = textos(resumen);
+        std::transform(linea.begin(), linea.end(), linea.begin(), EnUnaLinea);
         for (const ColumnaResumen<Resumen>& columna : columnas)
             linea.push_back(Formato(columna.Valor(resumen), columna.Formato, separadores));
         lineas.push_back(std::move(linea));

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QTest>
 #include <QTimer>
 
@@ -112,6 +113,10 @@ TEST_F(Ventanas, LosDatosTecleadosLleganAlArchivo) {
     VentanaDatosProyecto ventana(aplicacion, caja, nullptr);
     ventana.show();
     QTest::keyClicks(ventana.findChild<QLineEdit*>("Proyecto"), "EDIFICIO 1");
+    auto* comentario = ventana.findChild<QPlainTextEdit*>("Comentario");
+    comentario->setPlainText(QString(250, 'a'));
+    comentario->moveCursor(QTextCursor::End);
+    QTest::keyClicks(comentario, "bcdefghij");  // past the column's 255
     auto* fecha = ventana.findChild<QLineEdit*>("Fecha");
     fecha->setText("31/02/2024");
     BotonDe(ventana, "Salvar")->click();
@@ -124,6 +129,7 @@ TEST_F(Ventanas, LosDatosTecleadosLleganAlArchivo) {
     AbrirConexion(conexion, aplicacion.ArchivoProyecto);
     LeerProyecto(conexion, "", datos);
     EXPECT_EQ(datos.Proyecto, "EDIFICIO 1");
+    EXPECT_EQ(datos.Comentario, std::string(250, 'a') + "bcdef");
     EXPECT_EQ(FormatoFecha(datos.Fecha), "29/02/2024");
 }
 
@@ -134,6 +140,12 @@ TEST_F(Ventanas, UnCeroEnLosGeneralesTomaElFoco) {
     const auto campos = ventana.findChildren<QLineEdit*>();
     ASSERT_EQ(campos.size(), 7);
     EXPECT_EQ(campos[2]->text(), "0,025");
+    campos[1]->clear();
+    QTest::keyClicks(campos[1], "40.000");  // marks of thousands are not taken, nor what passes 16 bits
+    EXPECT_EQ(campos[1]->text(), "40000");
+    BotonDe(ventana, "Aceptar")->click();
+    EXPECT_EQ(ventana.focusWidget(), campos[1]);
+    campos[1]->setText("4200");
     campos[6]->setText("0");
     BotonDe(ventana, "Aceptar")->click();
     EXPECT_TRUE(ventana.isVisible());

@@ -1,5 +1,7 @@
 // Files that are no project, are damaged, locked or cut short while they are written.
 
+#include <array>
+#include <chrono>
 #include <csignal>
 #include <random>
 #include <thread>
@@ -46,27 +48,40 @@ int EnOtroProceso(const std::function<int()>& tarea) {
     return WIFEXITED(estado) ? WEXITSTATUS(estado) : -1;
 }
 
+/// How long a save takes on this machine today.
+std::chrono::duration<double> Duracion(const std::filesystem::path& camino) {
+    ProyectoAbierto proyecto;
+    prueba::Abrir(proyecto, camino);
+    Losa losa = Version('A', 24);
+    const auto inicio = std::chrono::steady_clock::now();
+    for (int vez = 0; vez < 4; ++vez) GuardarLosa(proyecto, losa);
+    return (std::chrono::steady_clock::now() - inicio) / 4;
+}
+
 TEST(Archivos, UnProcesoMuertoAlGuardarDejaLaViejaOLaNueva) {
     const prueba::CarpetaTemporal carpeta;
     const auto camino = carpeta / "obra.los";
     CrearProyecto(camino);
     std::mt19937 azar(1);
     int versionB = 0;
+    const auto unGuardado = Duracion(camino);
     for (int vez = 0; vez < 60; ++vez) {
+        std::array<int, 2> tubo{};
+        ASSERT_EQ(pipe(tubo.data()), 0);
         const pid_t hijo = fork();
         if (hijo == 0) {
             ProyectoAbierto proyecto;
             prueba::Abrir(proyecto, camino);
-            Losa a = Version('A', 24);
-            Losa b = Version('B', 37);
-            for (;;) {
-                GuardarLosa(proyecto, b);
-                GuardarLosa(proyecto, a);
-            }
+            std::array<Losa, 2> versiones{Version('A', 24), Version('B', 37)};
+            if (write(tubo[1], "", 1) != 1) _exit(1);
+            for (std::size_t k = static_cast<std::size_t>(vez);; ++k) GuardarLosa(proyecto, versiones[k % 2]);
         }
-        std::this_thread::sleep_for(
-            std::chrono::microseconds(std::uniform_int_distribution<>(3000, 40000)(azar)));
+        char listo = 0;
+        ASSERT_EQ(read(tubo[0], &listo, 1), 1);
+        std::this_thread::sleep_for(unGuardado * std::uniform_real_distribution<>(0, 3)(azar));
         kill(hijo, SIGKILL);
+        close(tubo[0]);
+        close(tubo[1]);
         waitpid(hijo, nullptr, 0);
 
         ProyectoAbierto proyecto;

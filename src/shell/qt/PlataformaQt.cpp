@@ -67,7 +67,9 @@ std::string PlataformaQt::NombreDelUsuario() const {
 }
 
 std::string PlataformaQt::NumeroDeMuestra() const {
-    return S(QLocale::system().toString(1234.56, 'f', 2));
+    // The toolkit leaves four figures together where the locale's usage does.
+    const QLocale local = QLocale::system();
+    return S("1" + local.groupSeparator() + "234" + local.decimalPoint() + "56");
 }
 
 bool PlataformaQt::AbrirArchivo(const std::filesystem::path& archivo) {

@@ -8,6 +8,7 @@
 #include <QLocale>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTextCursor>
 
 #include "shell/qt/ComunVentanas.h"
 #include "shell/qt/VentanaCalendario.h"
@@ -24,6 +25,17 @@ QLineEdit* Campo(QWidget* padre, const char* nombre) {
     campo->setObjectName(nombre);
     campo->setMaxLength(AnchoTexto);
     return campo;
+}
+
+/// Takes back what is typed or pasted past the width of a column, in sight, so that nothing is cut on saving.
+void Limitar(QPlainTextEdit* campo, int ancho) {
+    QObject::connect(campo, &QPlainTextEdit::textChanged, campo, [campo, ancho] {
+        if (campo->toPlainText().size() <= ancho) return;
+        QTextCursor sobra = campo->textCursor();
+        sobra.setPosition(ancho);
+        sobra.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
+        sobra.removeSelectedText();
+    });
 }
 
 /// The date of a text as the day, month and year, or as the locale's short form.
@@ -55,6 +67,7 @@ void VentanaDatosProyecto::Armar() {
     comentario_->setObjectName("Comentario");
     comentario_->setTabChangesFocus(true);
     comentario_->setMinimumHeight(72);
+    Limitar(comentario_, AnchoComentario);
     auto* calendario = Boton("", "calendario", this);
     calendario->setObjectName("Calendario");
     calendario->setAutoDefault(false);
@@ -122,7 +135,7 @@ void VentanaDatosProyecto::Salvar() {
                                  .Calculista = S(calculista_->text()),
                                  .Fecha = *fecha,
                                  .Cliente = S(cliente_->text()),
-                                 .Comentario = S(comentario_->toPlainText().left(AnchoComentario))};
+                                 .Comentario = S(comentario_->toPlainText())};
     if (operaciones_.Salvar(datos)) accept();
 }
 

@@ -5,6 +5,7 @@
 #include <QIntValidator>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPushButton>
 #include <QRegularExpressionValidator>
 #include <QVBoxLayout>
@@ -23,6 +24,12 @@ QLineEdit* CampoNumerico(QWidget* padre) {
     campo->setValidator(
         new QRegularExpressionValidator(QRegularExpression("-?\\d{0,10}([.,]\\d{0,8})?"), campo));
     return campo;
+}
+
+QLocale SinMiles() {
+    QLocale local = QLocale::c();
+    local.setNumberOptions(QLocale::RejectGroupSeparator);
+    return local;
 }
 
 QString TextoDe(double valor, const Separadores& separadores) {
@@ -67,8 +74,11 @@ void VentanaLosaGeneral::Armar() {
         }
         columna->addWidget(caja);
     }
+    // Whole numbers of 16 bits, without marks of thousands: "4.200" must not be taken for 4.
+    auto* entero16 = new QIntValidator(-32768, 32767, this);
+    entero16->setLocale(SinMiles());
     for (const CampoLosaGeneral entero : {CampoLosaGeneral::FC, CampoLosaGeneral::FY})
-        campos_[static_cast<std::size_t>(entero)]->setValidator(new QIntValidator(-32768, 32767, this));
+        campos_[static_cast<std::size_t>(entero)]->setValidator(entero16);
     columna->addStretch(1);
     columna->addLayout(FilaAceptarCancelar(this, [this] { Aceptar(); }));
 }
@@ -80,8 +90,10 @@ void VentanaLosaGeneral::Mostrar(const DatosGenerales& g) {
         campos_[i]->setText(TextoDe(valores[i], aplicacion_.SeparadoresLocales));
 }
 
+/// A field's number; 0, which takes the focus, when it holds none or one out of its range.
 double VentanaLosaGeneral::Numero(CampoLosaGeneral campo) const {
-    return campos_[static_cast<std::size_t>(campo)]->text().replace(',', '.').toDouble();
+    const QLineEdit* entrada = campos_[static_cast<std::size_t>(campo)];
+    return entrada->hasAcceptableInput() ? entrada->text().replace(',', '.').toDouble() : 0;
 }
 
 DatosGenerales VentanaLosaGeneral::Entrados() const {
