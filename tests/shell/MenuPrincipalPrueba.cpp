@@ -6,6 +6,7 @@
 #include "shell/MenuPrincipal.h"
 #include "slab/ui/LosaGeneral.h"
 #include "support/CarpetaTemporal.h"
+#include "support/LosasDePrueba.h"
 #include "support/ProyectoDePrueba.h"
 #include "support/ShellGuiado.h"
 
@@ -135,6 +136,46 @@ TEST_F(Menu_, SalvarComoNuncaPisaUnArchivo) {
     menu.Ejecutar("ID_SalvarComo");
     EXPECT_EQ(caja.Mensajes.back().Texto, "Error Número: 53\nNo se encontró el archivo");
     EXPECT_EQ(aplicacion.NombreProyecto, "copia.los");
+}
+
+/// Leaves at `camino` the project and the journal of a process that died in the middle of a save: half of the
+/// new rows are in the file, and what takes them back stands beside it.
+void CortarGuardado(const std::filesystem::path& camino) {
+    const std::filesystem::path vivo = std::filesystem::path(camino) += ".vivo";
+    ASSERT_TRUE(CrearBaseDatos(vivo, prueba::EsquemaDeProyecto()));
+    ProyectoAbierto proyecto;
+    ASSERT_TRUE(prueba::Abrir(proyecto, vivo));
+    Losa losa = prueba::LosaUniforme(3, 4, 100);
+    losa.Nombre = "L-1";
+    ASSERT_TRUE(prueba::AgregarLosa(proyecto, losa));
+    proyecto.ConexionProyecto.Ejecutar("PRAGMA cache_size=1");  // pages reach the file before the end
+    const Transaccion guardado(proyecto.ConexionProyecto);
+    losa = prueba::LosaUniforme(2000, 5, 200);
+    losa.Nombre = "L-1";
+    EscribirElementos(proyecto.ConexionProyecto, losa.Nombre, losa);
+    std::filesystem::copy_file(vivo, camino);
+    std::filesystem::copy_file(std::filesystem::path(vivo) += "-journal",
+                               std::filesystem::path(camino) += "-journal");
+}
+
+TEST_F(Menu_, UnGuardadoCortadoNoPasaALaCopiaNiAlQueLoReemplaza) {
+    const auto proyectos = aplicacion.CaminoUsuario / "Proyectos";
+    CortarGuardado(proyectos / "obra.los");
+    dialogos.Elegidos = {proyectos / "obra.los", proyectos / "copia.los"};
+    menu.Ejecutar("ID_Abrir");
+    menu.Ejecutar("ID_SalvarComo");
+    ProyectoAbierto proyecto;
+    ASSERT_TRUE(prueba::Abrir(proyecto, proyectos / "copia.los"));
+    Losa losa;
+    LeerLosa(proyecto, losa);
+    EXPECT_EQ(losa.Tramos.size(), 4U);
+
+    CortarGuardado(proyectos / "otra.los");
+    dialogos.Elegidos = {proyectos / "otra.los"};
+    menu.Ejecutar("ID_Nuevo");
+    ASSERT_TRUE(prueba::Abrir(proyecto, proyectos / "otra.los"));
+    EXPECT_EQ(proyecto.RegistrosProyecto.NumeroRegistros(), 0);
+    EXPECT_EQ(LeerArchivo(proyectos / "otra.los"), LeerArchivo(Plantilla()));
 }
 
 TEST_F(Menu_, LosComandosDeUnProyectoPrimeroLoAbren) {
