@@ -44,6 +44,8 @@ int main(int argc, char** argv) {
         menu->show();
     });
     splash.show();
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     trabex::PrepararArranque(plataforma, aplicacion);
+    splash.Contar();
     return QApplication::exec();
 }

@@ -10,7 +10,7 @@ namespace trabex {
 
 namespace {
 
-constexpr int Milisegundos = 900;
+constexpr int Milisegundos = 60;  // the splash covers the start and adds nothing to it
 
 QPixmap Caratula() {
     QPixmap mapa(540, 220);
@@ -37,7 +37,9 @@ QPixmap Caratula() {
 }  // namespace
 
 VentanaSplash::VentanaSplash(std::function<void()> alTerminar)
-    : QSplashScreen(Caratula()), alTerminar_(std::move(alTerminar)) {
+    : QSplashScreen(Caratula()), alTerminar_(std::move(alTerminar)) {}
+
+void VentanaSplash::Contar() {
     QTimer::singleShot(Milisegundos, this, [this] { Terminar(); });
 }
 

@@ -5,11 +5,13 @@
 
 namespace trabex {
 
-/// The first window: the edition, for a short while. A click or a key ends it at once.
+/// The first window: the edition, while the start is prepared. A click or a key ends it at once.
 class VentanaSplash : public QSplashScreen {
   public:
     /// `alTerminar` runs once, when the splash ends.
     explicit VentanaSplash(std::function<void()> alTerminar);
+    /// Ends by itself a moment after this: the start is prepared.
+    void Contar();
 
   protected:
     void mousePressEvent(QMouseEvent* evento) override;
