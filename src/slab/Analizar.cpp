@@ -173,6 +173,9 @@ void Analisis::FormarBarras(Banda& K) {
 Barra Analisis::FormarBarra(std::size_t i, double EI, double EA) const {
     const double dx = juntas_.X[i + 1] - juntas_.X[i];
     const double dy = juntas_.Y[i + 1] - juntas_.Y[i];
+    // A span like the one before it is the same bar, without its divisions.
+    if (i > 1 && dx == juntas_.X[i] - juntas_.X[i - 1] && dy == juntas_.Y[i] - juntas_.Y[i - 1])
+        return barras_[i - 1];
     const double L = std::sqrt(dx * dx + dy * dy);
     const double k2 = 2 * EI / L;
     const double k6 = 3 * k2 / L;
@@ -298,7 +301,6 @@ void Analisis::LlenarJuntas() {
             junta.DX = F_[3 * j - 3][caso - 1];
             junta.DY = F_[3 * j - 2][caso - 1];
             junta.Giro = F_[3 * j - 1][caso - 1];
-            junta.RV = junta.RH = 0;
             SumarReacciones(caso, j, junta);
         }
     }
@@ -308,18 +310,22 @@ void Analisis::LlenarJuntas() {
 void Analisis::SumarReacciones(std::size_t caso, std::size_t j, EstadoJunta& junta) const {
     const std::vector<EsfuerzosTramo>& esfuerzos = resultados_.ResultadoTramo[caso];
     const Restriccion& r = restricciones_[j];
+    double RV = 0;
+    double RH = 0;
     if (j > 1) {
         const EsfuerzosTramo& e = esfuerzos[j - 1];
         const Barra& b = barras_[j - 1];
-        if (r.Y) junta.RV += -b.CY * e.AxialB + b.CX * e.CorteB;
-        if (r.X) junta.RH += -b.CX * e.AxialB - b.CY * e.CorteB;
+        if (r.Y) RV += -b.CY * e.AxialB + b.CX * e.CorteB;
+        if (r.X) RH += -b.CX * e.AxialB - b.CY * e.CorteB;
     }
     if (j <= N_) {
         const EsfuerzosTramo& e = esfuerzos[j];
         const Barra& b = barras_[j];
-        if (r.Y) junta.RV += b.CY * e.AxialA + b.CX * e.CorteA;
-        if (r.X) junta.RH += b.CX * e.AxialA - b.CY * e.CorteA;
+        if (r.Y) RV += b.CY * e.AxialA + b.CX * e.CorteA;
+        if (r.X) RH += b.CX * e.AxialA - b.CY * e.CorteA;
     }
+    junta.RV = RV;
+    junta.RH = RH;
 }
 
 Analisis::Maximos Analisis::MaximosDe(std::size_t i) const {
