@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScreen>
 #include <QSettings>
 #include <QWidget>
 
@@ -41,6 +42,13 @@ class Guardian : public QObject {
     bool ocultar_;
 };
 
+/// A window that opens for the first time is no larger than the screen, its frame included.
+void CaberEnPantalla(QWidget* ventana) {
+    constexpr QSize marco(16, 48);
+    const QSize libre = ventana->screen()->availableSize() - marco;
+    ventana->resize(ventana->size().boundedTo(libre.expandedTo(ventana->minimumSizeHint())));
+}
+
 }  // namespace
 
 void PonerAyuda(QWidget* control, const QString& titulo, const QString& texto) {
@@ -63,7 +71,8 @@ void PrepararVentana(QWidget* ventana, const Tapiz& preferencias) {
     ventana->setWindowIcon(Figura("trabex", 48));
     new Guardian(ventana, preferencias.OcultarAyuda);
     const QByteArray geometria = QSettings().value("geometria/" + ventana->objectName()).toByteArray();
-    if (!ventana->objectName().isEmpty() && !geometria.isEmpty()) ventana->restoreGeometry(geometria);
+    const bool recordada = !ventana->objectName().isEmpty() && !geometria.isEmpty();
+    if (!recordada || !ventana->restoreGeometry(geometria)) CaberEnPantalla(ventana);
 }
 
 QPushButton* Boton(const QString& texto, const QString& icono, QWidget* padre) {

@@ -17,21 +17,30 @@ bool LienzoTapiz::Poner(const Tapiz& tapiz) {
     return !imagen_.isNull();
 }
 
+void LienzoTapiz::Representar(const QSize& ventana) {
+    ventana_ = ventana;
+}
+
 /// Alignments: 0 centred, 1 at the near side, 2 at the far side.
-QRect LienzoTapiz::Lugar() const {
-    if (tapiz_.Ajustar) return rect();
+QRect LienzoTapiz::Lugar(const QSize& ventana) const {
+    if (tapiz_.Ajustar) return {QPoint(), ventana};
     const auto margen = [](int hueco, std::uint8_t alineacion) {
         return alineacion == 0 ? hueco / 2 : alineacion == 1 ? 0 : hueco;
     };
-    return {margen(width() - imagen_.width(), tapiz_.Horizontal),
-            margen(height() - imagen_.height(), tapiz_.Vertical), imagen_.width(), imagen_.height()};
+    return {margen(ventana.width() - imagen_.width(), tapiz_.Horizontal),
+            margen(ventana.height() - imagen_.height(), tapiz_.Vertical), imagen_.width(), imagen_.height()};
 }
 
 void LienzoTapiz::paintEvent(QPaintEvent*) {
     QPainter pintor(this);
-    pintor.fillRect(rect(), palette().color(QPalette::Mid));
     pintor.setRenderHint(QPainter::SmoothPixmapTransform);
-    if (!imagen_.isNull()) pintor.drawPixmap(Lugar(), imagen_);
+    const QSize ventana = ventana_.isEmpty() ? size() : ventana_;
+    const QSize lugar = ventana.scaled(size(), Qt::KeepAspectRatio);
+    pintor.translate((width() - lugar.width()) / 2, (height() - lugar.height()) / 2);
+    pintor.scale(1.0 * lugar.width() / ventana.width(), 1.0 * lugar.height() / ventana.height());
+    pintor.setClipRect(QRect(QPoint(), ventana));
+    pintor.fillRect(QRect(QPoint(), ventana), palette().color(QPalette::Mid));
+    if (!imagen_.isNull()) pintor.drawPixmap(Lugar(ventana), imagen_);
 }
 
 }  // namespace trabex

@@ -14,14 +14,17 @@ class LienzoTapiz : public QWidget {
 
     /// False when the picture could not be loaded; the plain ground then shows.
     bool Poner(const Tapiz& tapiz);
+    /// Shows, at its scale, what a window of that size would: for previews.
+    void Representar(const QSize& ventana);
 
   protected:
     void paintEvent(QPaintEvent* evento) override;
 
   private:
-    QRect Lugar() const;
+    QRect Lugar(const QSize& ventana) const;
 
     QPixmap imagen_;
+    QSize ventana_;  // empty when it shows itself
     Tapiz tapiz_;
 };
 

@@ -20,6 +20,7 @@ VentanaCalendario::VentanaCalendario(const Fecha& fecha, const Tapiz& preferenci
                                 static_cast<int>(static_cast<unsigned>(fecha.day()))));
     connect(mes_, &QCalendarWidget::activated, this, &QDialog::accept);
 
+    setMinimumWidth(340);
     auto* columna = new QVBoxLayout(this);
     columna->addWidget(mes_);
     columna->addLayout(FilaAceptarCancelar(this, [this] { accept(); }));

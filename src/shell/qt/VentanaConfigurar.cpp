@@ -10,6 +10,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
@@ -114,6 +115,8 @@ QWidget* VentanaConfigurar::PaginaImagen() {
     ajustar_ = new QCheckBox("&Ajustar la Imagen", pagina);
     ajustar_->setChecked(elegida_.Ajustar);
     muestra_ = new LienzoTapiz(pagina);
+    if (const auto* menu = qobject_cast<QMainWindow*>(parentWidget()))
+        muestra_->Representar(menu->centralWidget()->size());
     connect(elegir, &QPushButton::clicked, this, [this] { ElegirImagen(); });
     connect(capturar, &QPushButton::clicked, this, [this] { CapturarImagen(); });
     connect(ajustar_, &QCheckBox::toggled, this, [this] { Refrescar(); });
