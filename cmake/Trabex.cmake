@@ -23,6 +23,12 @@ if(TRABEX_SANEAR)
     target_link_options(trabex_opciones INTERFACE -fsanitize=address,undefined)
 endif()
 
+if(TRABEX_FUZZ)
+    target_compile_options(trabex_opciones INTERFACE -fsanitize=fuzzer-no-link,address,undefined
+        -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(trabex_opciones INTERFACE -fsanitize=address,undefined)
+endif()
+
 # trabex_revisar(<target>): clang-tidy on its sources while they compile, where the preset asks for it.
 function(trabex_revisar objetivo)
     if(TRABEX_SANEAR)
