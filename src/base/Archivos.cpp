@@ -109,6 +109,17 @@ void BorrarArchivo(const std::filesystem::path& camino) {
     if (!std::filesystem::remove(camino, error)) throw ErrorEjecucion(ErrorDeSistema(error));
 }
 
+std::vector<std::filesystem::path> ArchivosDe(const std::filesystem::path& carpeta) {
+    std::vector<std::filesystem::path> archivos;
+    std::error_code error;
+    std::filesystem::directory_iterator entrada(carpeta, error);
+    for (; !error && entrada != std::filesystem::directory_iterator(); entrada.increment(error)) {
+        std::error_code ignorado;
+        if (entrada->is_regular_file(ignorado)) archivos.push_back(entrada->path());
+    }
+    return archivos;
+}
+
 std::string TextoDeCamino(const std::filesystem::path& camino) {
     const std::u8string texto = camino.u8string();
     return {texto.begin(), texto.end()};

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 #include "base/ErrorEjecucion.h"
 
@@ -42,6 +43,9 @@ void CopiarArchivo(const std::filesystem::path& origen, const std::filesystem::p
 
 /// Deletes a file. Throws ErrorEjecucion: 53 when there is none, 75 when it is read-only or a folder.
 void BorrarArchivo(const std::filesystem::path& camino);
+
+/// The files of a folder, in no order; none where it can't be read.
+std::vector<std::filesystem::path> ArchivosDe(const std::filesystem::path& carpeta);
 
 /// A path as the UTF-8 that texts are made of, and back.
 std::string TextoDeCamino(const std::filesystem::path& camino);

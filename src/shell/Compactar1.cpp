@@ -25,12 +25,9 @@ std::string NombreTemporal() {
 
 std::vector<std::string> ListarProyectos(const std::filesystem::path& carpeta) {
     std::vector<std::string> nombres;
-    std::error_code error;
-    for (const auto& entrada : std::filesystem::directory_iterator(carpeta, error)) {
-        std::error_code ignorado;
-        if (Mayusculas(TextoDeCamino(entrada.path().extension())) == ".LOS" &&
-            entrada.is_regular_file(ignorado))
-            nombres.push_back(TextoDeCamino(entrada.path().filename()));
+    for (const std::filesystem::path& archivo : ArchivosDe(carpeta)) {
+        if (Mayusculas(TextoDeCamino(archivo.extension())) == ".LOS")
+            nombres.push_back(TextoDeCamino(archivo.filename()));
     }
     const Comparador comparador;
     std::sort(nombres.begin(), nombres.end(),
@@ -46,10 +43,9 @@ void Compactar1::Avisar(const std::string& texto, const std::string& encabezado)
 }
 
 void Compactar1::VaciarTemporales() const {
-    std::error_code error;
-    for (const auto& entrada : std::filesystem::directory_iterator(aplicacion_.CaminoTemporales, error)) {
+    for (const std::filesystem::path& archivo : ArchivosDe(aplicacion_.CaminoTemporales)) {
         std::error_code ignorado;
-        if (entrada.is_regular_file(ignorado)) std::filesystem::remove(entrada.path(), ignorado);
+        std::filesystem::remove(archivo, ignorado);
     }
 }
 

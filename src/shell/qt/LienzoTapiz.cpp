@@ -36,7 +36,7 @@ void LienzoTapiz::paintEvent(QPaintEvent*) {
     pintor.setRenderHint(QPainter::SmoothPixmapTransform);
     const QSize ventana = ventana_.isEmpty() ? size() : ventana_;
     const QSize lugar = ventana.scaled(size(), Qt::KeepAspectRatio);
-    pintor.translate((width() - lugar.width()) / 2, (height() - lugar.height()) / 2);
+    pintor.translate((width() - lugar.width()) / 2.0, (height() - lugar.height()) / 2.0);
     pintor.scale(1.0 * lugar.width() / ventana.width(), 1.0 * lugar.height() / ventana.height());
     pintor.setClipRect(QRect(QPoint(), ventana));
     pintor.fillRect(QRect(QPoint(), ventana), palette().color(QPalette::Mid));
