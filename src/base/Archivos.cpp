@@ -41,21 +41,6 @@ CodigoError ErrorDeSistema(const std::error_code& error) {
     return CodigoError::ErrorDispositivo;
 }
 
-ArchivoNuevo::ArchivoNuevo(std::filesystem::path camino) : camino_(std::move(camino)), provisional_(camino_) {
-    provisional_ += ".nuevo";
-}
-
-ArchivoNuevo::~ArchivoNuevo() {
-    std::error_code ignorado;
-    std::filesystem::remove(provisional_, ignorado);
-}
-
-void ArchivoNuevo::Colocar() const {
-    std::error_code error = LlevarAlDisco(provisional_);
-    if (!error) std::filesystem::rename(provisional_, camino_, error);
-    if (error) throw ErrorEjecucion(ErrorDeSistema(error));
-}
-
 std::error_code LlevarAlDisco(const std::filesystem::path& camino) {
 #ifdef _WIN32
     const int archivo = _wopen(camino.c_str(), _O_WRONLY | _O_BINARY);
@@ -70,6 +55,22 @@ std::error_code LlevarAlDisco(const std::filesystem::path& camino) {
     if (archivo >= 0) close(archivo);
 #endif
     return error;
+}
+
+ArchivoNuevo::ArchivoNuevo(std::filesystem::path camino) : camino_(std::move(camino)), provisional_(camino_) {
+    provisional_ += ".nuevo";
+}
+
+ArchivoNuevo::~ArchivoNuevo() {
+    std::error_code ignorado;
+    std::filesystem::remove(provisional_, ignorado);
+}
+
+void ArchivoNuevo::Colocar() const {
+    std::error_code error = LlevarAlDisco(provisional_);
+    if (error) throw ErrorEjecucion(ErrorDeSistema(error));
+    std::filesystem::rename(provisional_, camino_, error);
+    if (error) throw ErrorEjecucion(ErrorDeSistema(error));
 }
 
 void EscribirArchivo(const std::filesystem::path& camino, std::string_view bytes) {

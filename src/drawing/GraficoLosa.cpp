@@ -101,15 +101,17 @@ void DibujeCargaUniforme(Hoja& h, std::size_t i) {
                        pendiente * 180 / std::numbers::pi);
 }
 
+/// Places one above or below another, `paso` apart.
+std::vector<Centro> Niveles(double x, double primera, double paso) {
+    return {{x, primera}, {x, primera + paso}, {x, primera + 2 * paso}, {x, primera + 3 * paso}};
+}
+
 void DibujeLongitud(Hoja& h, std::size_t i) {
     Plano& p = h.Papel;
     const Lugar mitad = MitadDeTramo(h, i);
     const double alto = p.lienzo().Medir("WW").Alto;
     const double primera = p.Fila(MediaBanda, mitad.y) + p.Unidades(2) + alto / 2;
-    std::vector<Centro> centros;
-    for (int nivel = 0; nivel < 4; ++nivel)
-        centros.push_back({static_cast<double>(p.X(mitad.x)), primera + nivel * alto});
-    p.Rotular(h.Numero(h.Losa.Datos.Tramos[i].LT, "0.00"), centros);
+    p.Rotular(h.Numero(h.Losa.Datos.Tramos[i].LT, "0.00"), Niveles(p.X(mitad.x), primera, alto));
 }
 
 void DibujeEje(Hoja& h, std::size_t eje) {
@@ -138,11 +140,8 @@ void DibujeJuntaDesplazada(Hoja& h, const JuntaD& junta) {
     DibujeLinea(p.lienzo(), x, p.Fila(0.1, y), x, p.Y(y + 0.16), 2, EstiloLinea::Solida, Contorno);
     const std::string texto = TextoDeCorrimiento(junta, h.Datos.Numeros);
     const MedidaTexto medida = p.lienzo().Medir(texto);
-    std::vector<Centro> centros;
-    for (int nivel = 0; nivel < 5; ++nivel)
-        centros.push_back(
-            {static_cast<double>(x), p.Y(y + BordeCarga) - p.Unidades(2) - (nivel + 0.5) * medida.Alto});
-    p.Rotular(texto, centros);
+    const double primera = p.Y(y + BordeCarga) - p.Unidades(2) - 0.5 * medida.Alto;
+    p.Rotular(texto, Niveles(x, primera, -medida.Alto));
 }
 
 void Preparar(Hoja& h) {

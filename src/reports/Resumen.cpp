@@ -20,6 +20,14 @@ struct ColumnaResumen {
 
 using Linea = std::vector<std::string>;
 
+/// A name as one line of a table shows it.
+std::string EnUnaLinea(const std::string& nombre) {
+    std::string linea = TextoValido(nombre);
+    std::replace_if(
+        linea.begin(), linea.end(), [](unsigned char c) { return c < ' '; }, ' ');
+    return linea;
+}
+
 /// Lines with their columns aligned: the first `deTexto` to the left, the others to the right.
 std::string Alinear(const std::vector<Linea>& lineas, std::size_t deTexto,
                     const std::vector<std::string>& errores) {
@@ -42,14 +50,6 @@ std::string Alinear(const std::vector<Linea>& lineas, std::size_t deTexto,
     return tabla;
 }
 
-/// A text as one line of a table shows it.
-std::string EnUnaLinea(std::string_view texto) {
-    std::string linea = TextoValido(texto);
-    std::replace_if(
-        linea.begin(), linea.end(), [](unsigned char c) { return c < ' '; }, ' ');
-    return linea;
-}
-
 /// A table whose first columns are texts, made by `textos`, and the rest `columnas`.
 template <class Resumen, std::size_t N>
 std::string Tabla(const std::vector<Resumen>& resumenes, Linea encabezado, Linea (*textos)(const Resumen&),
@@ -59,8 +59,8 @@ std::string Tabla(const std::vector<Resumen>& resumenes, Linea encabezado, Linea
     std::vector<Linea> lineas{std::move(encabezado)};
     std::vector<std::string> errores;
     for (const Resumen& resumen : resumenes) {
-        Linea linea;
-        for (const std::string& texto : textos(resumen)) linea.push_back(EnUnaLinea(texto));
+        Linea linea = textos(resumen);
+        std::transform(linea.begin(), linea.end(), linea.begin(), EnUnaLinea);
         for (const ColumnaResumen<Resumen>& columna : columnas)
             linea.push_back(Formato(columna.Valor(resumen), columna.Formato, separadores));
         lineas.push_back(std::move(linea));

@@ -15,8 +15,8 @@ inline constexpr const char* CarpetaComun = "Nodara Software";
 /// is used.
 void PrepararArranque(Plataforma& plataforma, Aplicacion& aplicacion);
 
-/// Deletes a wallpaper of the default name that is not the delivered one, and reads the settings. The start does
-/// it after its copies: a new edition's picture comes with those of the next start.
+/// Deletes a wallpaper of the default name that is not the delivered one, and reads the settings. The start
+/// does it after its copies: a new edition's picture comes with those of the next start.
 void LeerPreferencias(Aplicacion& aplicacion);
 
 /// The settings file and the wallpaper of a new installation.

@@ -84,7 +84,7 @@ LienzoQt::LienzoQt(QPainter& pintor, std::int32_t ancho, std::int32_t alto, Memo
       memoria_(memoria) {
     pintor_.setRenderHint(QPainter::Antialiasing, false);
     pintor_.setRenderHint(QPainter::TextAntialiasing, true);
-    PonerFuente({"Tahoma", 8, false});
+    LienzoQt::PonerFuente({"Tahoma", 8, false});
 }
 
 void LienzoQt::PonerColores(const QColor& fondo, const QColor& textoDeBotones) {

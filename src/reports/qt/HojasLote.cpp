@@ -68,7 +68,7 @@ void EscribirLosa(const LosaDelProyecto& losa, const std::filesystem::path& carp
     constexpr std::array<const char*, 3> vistas{"geometria", "fuerzas", "diseno"};
     HojaLosa hoja;
     hoja.Vista.ExportandoGrafico = true;
-    for (std::uint8_t vista = 0; vista < vistas.size(); ++vista) {
+    for (const std::uint8_t vista : {VistaGeometria, VistaFuerzas, VistaDiseno}) {
         hoja.VistaActual = vista;
         const QImage imagen = DibujarImagen(AnchoSuperficie, AltoSuperficie, 1, [&](Lienzo& lienzo) {
             RedibujeVista(lienzo, hoja, {losa.Datos, losa.Generales, losa.Resultados});
