@@ -12,6 +12,47 @@ std::size_t NumeroDeCaracteres(std::string_view texto) {
         std::count_if(texto.begin(), texto.end(), [](char c) { return (c & 0xC0) != 0x80; }));
 }
 
+char32_t TomarCaracter(std::string_view& resto) {
+    constexpr char32_t reemplazo = 0xFFFD;
+    const auto primero = static_cast<unsigned char>(resto.front());
+    const std::size_t largo = primero < 0x80   ? 1
+                              : primero < 0xC2 ? 0
+                              : primero < 0xE0 ? 2
+                              : primero < 0xF0 ? 3
+                              : primero < 0xF5 ? 4
+                                               : 0;
+    char32_t caracter = largo < 2 ? primero : primero & (0xFFU >> (largo + 1));
+    bool sano = largo > 0 && largo <= resto.size();
+    for (std::size_t i = 1; sano && i < largo; ++i) {
+        const auto byte = static_cast<unsigned char>(resto[i]);
+        sano = (byte & 0xC0) == 0x80;
+        caracter = caracter << 6 | (byte & 0x3FU);
+    }
+    const bool corto = (largo == 3 && caracter < 0x800) || (largo == 4 && caracter < 0x10000);
+    if (!sano || corto || caracter > 0x10FFFF || (caracter >= 0xD800 && caracter < 0xE000)) {
+        resto.remove_prefix(1);
+        return reemplazo;
+    }
+    resto.remove_prefix(largo);
+    return caracter;
+}
+
+std::string TextoImprimible(std::string_view texto) {
+    std::string salida;
+    salida.reserve(texto.size());
+    while (!texto.empty()) {
+        const std::string_view antes = texto;
+        const char32_t caracter = TomarCaracter(texto);
+        if (caracter == 0xFFFD)
+            salida += "\xEF\xBF\xBD";
+        else if ((caracter < 0x20 && caracter != '\n') || caracter == 0x7F)
+            salida += ' ';
+        else
+            salida += antes.substr(0, antes.size() - texto.size());
+    }
+    return salida;
+}
+
 std::string Mayusculas(std::string texto) {
     // In Latin-1's half of UTF-8, C3 A0 … C3 BE, the capitals lie 0x20 below; C3 B7 is the division sign.
     for (std::size_t i = 0; i < texto.size(); ++i) {

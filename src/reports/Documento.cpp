@@ -38,6 +38,19 @@ MedidaHoja MedidaDe(const Pagina& pagina) {
     return pagina.Apaisada ? MedidaHoja{vertical.Alto, vertical.Ancho} : vertical;
 }
 
+MedidaHoja MedidaUtil(const Pagina& pagina) {
+    const MedidaHoja hoja = MedidaDe(pagina);
+    return {hoja.Ancho - pagina.MargenIzquierdo - pagina.MargenDerecho,
+            hoja.Alto - pagina.MargenSuperior - pagina.MargenInferior};
+}
+
+MedidaHoja MedidaDe(const Imagen& imagen, double pixelesAncho, double pixelesAlto, const MedidaHoja& sitio) {
+    const double ancho = imagen.Ancho > 0 ? std::min(imagen.Ancho, sitio.Ancho) : sitio.Ancho;
+    const double alto = imagen.Alto > 0 ? std::min(imagen.Alto, sitio.Alto) : sitio.Alto;
+    const double escala = std::min(ancho / pixelesAncho, alto / pixelesAlto);
+    return {pixelesAncho * escala, pixelesAlto * escala};
+}
+
 std::optional<double> NumeroDe(const Valor& valor) {
     return std::visit(
         [](const auto& v) -> std::optional<double> {
@@ -62,6 +75,27 @@ std::string TextoDeValor(const Valor& valor, const std::string& formato, const S
 bool Tabla::TieneGrupos() const {
     return std::any_of(Columnas.begin(), Columnas.end(),
                        [](const auto& columna) { return !columna.Grupo.empty(); });
+}
+
+std::vector<double> Tabla::Anchos(double ancho) const {
+    double suma = 0;
+    for (const ColumnaDeTabla& columna : Columnas) suma += columna.Ancho;
+    const double factor = suma > ancho ? ancho / suma : 1;
+    std::vector<double> anchos;
+    for (const ColumnaDeTabla& columna : Columnas) anchos.push_back(columna.Ancho * factor);
+    return anchos;
+}
+
+std::vector<GrupoDeColumnas> GruposDe(const Tabla& tabla) {
+    std::vector<GrupoDeColumnas> grupos;
+    for (std::size_t i = 0; i < tabla.Columnas.size(); ++i) {
+        const std::string& titulo = tabla.Columnas[i].Grupo;
+        if (!grupos.empty() && !titulo.empty() && grupos.back().Titulo == titulo)
+            ++grupos.back().Cuantas;
+        else
+            grupos.push_back({titulo, i, 1});
+    }
+    return grupos;
 }
 
 }  // namespace trabex

@@ -49,6 +49,8 @@ struct MedidaHoja {
     double Alto;
 };
 MedidaHoja MedidaDe(const Pagina& pagina);
+/// The part of the sheet within its margins, without the room of header and footer.
+MedidaHoja MedidaUtil(const Pagina& pagina);
 
 /// A heading, of level 1 to 3. It stays on the page of what follows it.
 struct Titulo {
@@ -102,7 +104,17 @@ struct Tabla {
     std::vector<FilaDeTabla> Filas;
 
     bool TieneGrupos() const;
+    /// The columns' widths, made narrower in proportion when they do not fit in `ancho`.
+    std::vector<double> Anchos(double ancho) const;
 };
+
+/// The titles above the columns' titles: neighbours of one group are one cell. Without group: an empty text.
+struct GrupoDeColumnas {
+    std::string Titulo;
+    std::size_t Desde = 0;
+    std::size_t Cuantas = 1;
+};
+std::vector<GrupoDeColumnas> GruposDe(const Tabla& tabla);
 
 /// A picture: the bytes of a Windows bitmap or a PNG. They are read when a writer needs them and not kept, so
 /// that a document of many drawings takes the memory of one.
@@ -112,6 +124,12 @@ struct Imagen {
     double Alto = 0;              ///< 0: the height of the text
     std::string Pie;              ///< caption, on the same page
 };
+
+/// The size at which a picture of so many pixels fills its room, within the room that there is.
+MedidaHoja MedidaDe(const Imagen& imagen, double pixelesAncho, double pixelesAlto, const MedidaHoja& sitio);
+
+/// What stands in the place of a picture that can't be read.
+inline constexpr const char* ImagenIlegible = "(El gráfico no se pudo leer)";
 
 struct SaltoDePagina {};
 

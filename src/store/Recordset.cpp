@@ -279,6 +279,11 @@ void Recordset::Buscar(std::string_view criterio, int saltar, Direccion direccio
     interna_->LimpiarPuestos();
 }
 
+const std::vector<Columna>& Recordset::Columnas() const {
+    static const std::vector<Columna> ninguna;
+    return interna_ ? interna_->columnas : ninguna;
+}
+
 Valor Recordset::Leer(std::string_view campo) const {
     const int columna = interna_ && interna_->HayActual() ? interna_->NumeroDe(campo) : -1;
     return columna < 0 ? Valor{} : interna_->Actual().Valores[static_cast<std::size_t>(columna)];
