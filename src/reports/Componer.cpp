@@ -228,7 +228,8 @@ class Compositor {
             std::visit([&](const auto& e) { Escribir(e, alrededor); }, elemento.Contenido);
     }
     void Agregar(Bloque bloque) {
-        if (documento_.Secciones.empty()) documento_.Secciones.push_back({documento_.Titulo, false, {}});
+        if (documento_.Secciones.empty())
+            documento_.Secciones.push_back({documento_.Titulo, false, false, {}});
         documento_.Secciones.back().Bloques.push_back(std::move(bloque));
     }
     Valor Leer(const Referencia& referencia, const FilaActual* alrededor) {
@@ -264,7 +265,7 @@ class Compositor {
     void Escribir(const ElementoTabla& e, const FilaActual* alrededor);
     void Escribir(const ElementoImagen& e, const FilaActual* alrededor);
     void Escribir(const ElementoSeccion& e, const FilaActual* alrededor) {
-        documento_.Secciones.push_back({Texto(e.Nombre, alrededor), e.PaginaNueva, {}});
+        documento_.Secciones.push_back({Texto(e.Nombre, alrededor), e.PaginaNueva, e.Junta, {}});
         Escribir(e.Dentro, alrededor);
     }
     void Escribir(const ElementoGrupo& e, const FilaActual* alrededor) {

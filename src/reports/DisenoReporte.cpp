@@ -477,6 +477,7 @@ void Lector::LeerSeccion(Argumentos& linea, Elementos& destino) {
     ElementoSeccion seccion;
     seccion.Nombre = linea.Texto("el nombre de la sección");
     seccion.PaginaNueva = linea.Si("pagina");
+    seccion.Junta = linea.Si("junta");
     linea.Terminar();
     LeerBloque(linea, seccion.Dentro, false);
     destino.push_back({std::move(seccion)});

@@ -91,6 +91,7 @@ struct ElementoImagen {
 struct ElementoSeccion {
     Plantilla Nombre;
     bool PaginaNueva = false;
+    bool Junta = false;
     Elementos Dentro;
 };
 struct ElementoGrupo {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 
@@ -28,6 +29,23 @@ std::string TextoLogico(bool valor, const std::string& formato) {
     const std::size_t barra = textos.find('|');
     if (valor) return textos.substr(0, barra);
     return barra == std::string::npos ? std::string() : textos.substr(barra + 1);
+}
+
+/// The text at a place among those between bars; nothing past the last.
+std::optional<std::string> TextoDeOpcion(double numero, const std::string& formato) {
+    std::string_view resto = formato;
+    for (double i = 0;; ++i) {
+        const std::size_t barra = resto.find('|');
+        if (i == numero) return std::string(resto.substr(0, barra));
+        if (barra == std::string_view::npos) return std::nullopt;
+        resto.remove_prefix(barra + 1);
+    }
+}
+
+std::string TextoDeNumero(double numero, const std::string& formato, const Separadores& separadores) {
+    if (formato.find('|') != std::string::npos)
+        return TextoDeOpcion(numero, formato).value_or(TextoGeneral(numero, separadores));
+    return formato.empty() ? TextoGeneral(numero, separadores) : Formato(numero, formato, separadores);
 }
 
 }  // namespace
@@ -64,8 +82,7 @@ std::optional<double> NumeroDe(const Valor& valor) {
 }
 
 std::string TextoDeValor(const Valor& valor, const std::string& formato, const Separadores& separadores) {
-    if (const auto numero = NumeroDe(valor))
-        return formato.empty() ? TextoGeneral(*numero, separadores) : Formato(*numero, formato, separadores);
+    if (const auto numero = NumeroDe(valor)) return TextoDeNumero(*numero, formato, separadores);
     if (const auto* texto = std::get_if<std::string>(&valor)) return *texto;
     if (const auto* fecha = std::get_if<Fecha>(&valor)) return FormatoFecha(*fecha);
     if (const auto* logico = std::get_if<bool>(&valor)) return TextoLogico(*logico, formato);

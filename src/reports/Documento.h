@@ -49,7 +49,7 @@ struct MedidaHoja {
     double Alto;
 };
 MedidaHoja MedidaDe(const Pagina& pagina);
-/// The part of the sheet within its margins, without the room of header and footer.
+/// The part of the sheet within its margins; header and footer stand in the margins.
 MedidaHoja MedidaUtil(const Pagina& pagina);
 
 /// A heading, of level 1 to 3. It stays on the page of what follows it.
@@ -67,6 +67,7 @@ struct Parrafo {
 ///   number    "0", "0.00", "#,##0.00"… as in base/Formatos.h; empty: as many digits as it has
 ///   date      always dd/MM/yyyy
 ///   boolean   the texts of true and false, "Maciza|Nervada"; empty: "Sí|No"
+/// A number whose format holds bars is a choice: the text that stands at its place, counted from 0.
 /// A null shows as nothing.
 std::string TextoDeValor(const Valor& valor, const std::string& formato, const Separadores& separadores);
 
@@ -139,6 +140,7 @@ using Bloque = std::variant<Titulo, Parrafo, Ficha, Tabla, Imagen, SaltoDePagina
 struct Seccion {
     std::string Nombre;
     bool PaginaNueva = false;  ///< begins on a page of its own
+    bool Junta = false;        ///< is not broken over pages while it fits on one
     std::vector<Bloque> Bloques;
 };
 
