@@ -142,7 +142,7 @@ std::string PaginaHtml::Indice() const {
 
 std::string PaginaHtml::De(const Ficha& ficha) const {
     if (ficha.Datos.empty()) return {};
-    std::string salida = "<table class=\"ficha\">\n";
+    std::string salida = "<table class=\"ficha\" summary=\"Datos\">\n";
     const auto columnas = static_cast<std::size_t>(ficha.Columnas);
     for (std::size_t i = 0; i < ficha.Datos.size(); ++i) {
         const Ficha::Dato& dato = ficha.Datos[i];
@@ -168,7 +168,7 @@ std::string PaginaHtml::Fila(const Tabla& tabla, const FilaDeTabla& fila) const 
 }
 
 std::string PaginaHtml::De(const Tabla& tabla) const {
-    std::string salida = "<table class=\"datos\">\n<thead>\n";
+    std::string salida = "<table class=\"datos\" summary=\"Resultados\">\n<thead>\n";
     if (tabla.TieneGrupos()) {
         salida += "<tr>";
         for (const GrupoDeColumnas& grupo : GruposDe(tabla))
