@@ -1,5 +1,6 @@
 #include "reports/EscritorRtf.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <string>
@@ -84,10 +85,11 @@ class TextoRico {
     std::string De(const Imagen& imagen) const;
 
     std::string Letra(double proporcion) const {
-        return Orden("fs", static_cast<int>(std::lround(2 * documento_.Letra * proporcion)));
+        return "\\f0" + Orden("fs", static_cast<int>(std::lround(2 * documento_.Letra * proporcion)));
     }
     std::string Banda(std::string_view destino, const BandaDePagina& banda) const;
     std::string Cabecera(const Tabla& tabla, const std::vector<int>& limites) const;
+    double AnchoDeRotulos(const Ficha& ficha, std::size_t columna, double paso) const;
 
     const Documento& documento_;
     MedidaHoja util_;
@@ -100,7 +102,9 @@ constexpr std::string_view BordesDeTitulo =
     "\\clcbpat1\\clvertalb";
 constexpr std::string_view BordeDeFila = "\\clbrdrb\\brdrs\\brdrw5\\brdrcf2";
 constexpr std::string_view BordeDeTotal = "\\clbrdrt\\brdrs\\brdrw10";
+constexpr std::string_view Celda = "\\pard\\intbl\\sb15\\sa15";
 constexpr std::string_view FinDeTabla = "\\pard\\fs8\\par}\n";
+constexpr double AnchoDeCaracter = 0.19;  // of a point of font size, in mm, generously
 constexpr std::array<double, 3> ProporcionDeTitulo{1.5, 1.2, 1.05};
 
 std::string TextoRico::Principio() const {
@@ -138,25 +142,38 @@ std::string TextoRico::De(const Titulo& titulo) const {
            Escapado(titulo.Texto) + "\\par}\n";
 }
 
+/// Room for the names of a column of pairs: as the longest needs, less what its values need.
+double TextoRico::AnchoDeRotulos(const Ficha& ficha, std::size_t columna, double paso) const {
+    double rotulo = 0;
+    double valor = 0;
+    const double caracter = AnchoDeCaracter * documento_.Letra;
+    for (std::size_t i = columna; i < ficha.Datos.size(); i += static_cast<std::size_t>(ficha.Columnas)) {
+        const Ficha::Dato& dato = ficha.Datos[i];
+        const std::string texto =
+            TextoDeValor(dato.Contenido, dato.Formato, documento_.Locales) + dato.Unidad;
+        rotulo = std::max(rotulo, caracter * static_cast<double>(NumeroDeCaracteres(dato.Rotulo) + 2));
+        valor = std::max(valor, 1.15 * caracter * static_cast<double>(NumeroDeCaracteres(texto) + 2));
+    }
+    return std::min(rotulo, std::max(paso - valor, 0.4 * paso));
+}
+
 std::string TextoRico::De(const Ficha& ficha) const {
     const auto columnas = static_cast<std::size_t>(ficha.Columnas);
+    const double paso = util_.Ancho / static_cast<double>(columnas);
     std::string salida = "{" + Letra(1) + "\n";
     for (std::size_t primero = 0; primero < ficha.Datos.size(); primero += columnas) {
         std::string celdas;
         salida += FilaNueva;
         for (std::size_t k = 0; k < columnas; ++k) {
-            const double paso = util_.Ancho / static_cast<double>(columnas);
             const double izquierda = paso * static_cast<double>(k);
-            salida += Orden("cellx", Twips(izquierda + paso * 0.5)) + Orden("cellx", Twips(izquierda + paso));
-            if (primero + k >= ficha.Datos.size()) {
-                celdas += "\\pard\\intbl\\cell\\pard\\intbl\\cell";
-                continue;
-            }
-            const Ficha::Dato& dato = ficha.Datos[primero + k];
+            salida += Orden("cellx", Twips(izquierda + AnchoDeRotulos(ficha, k, paso))) +
+                      Orden("cellx", Twips(izquierda + paso));
+            const bool hay = primero + k < ficha.Datos.size();
+            const Ficha::Dato dato = hay ? ficha.Datos[primero + k] : Ficha::Dato{};
             std::string valor = TextoDeValor(dato.Contenido, dato.Formato, documento_.Locales);
             if (!valor.empty() && !dato.Unidad.empty()) valor += " " + dato.Unidad;
-            celdas += "\\pard\\intbl\\ql " + Escapado(dato.Rotulo) + "\\cell\\pard\\intbl\\ql{\\b " +
-                      Escapado(valor) + "}\\cell";
+            celdas += std::string(Celda) + "\\ql " + Escapado(dato.Rotulo) + "\\cell" + std::string(Celda) +
+                      "\\ql{\\b " + Escapado(valor) + "}\\cell";
         }
         salida += celdas + "\\row\n";
     }
@@ -170,7 +187,7 @@ std::string TextoRico::Cabecera(const Tabla& tabla, const std::vector<int>& limi
         salida += std::string(FilaNueva) + "\\trhdr";
         for (const GrupoDeColumnas& grupo : GruposDe(tabla)) {
             salida += std::string(BordesDeTitulo) + Orden("cellx", limites[grupo.Desde + grupo.Cuantas - 1]);
-            celdas += "\\pard\\intbl\\keepn\\qc{\\b " + Escapado(grupo.Titulo) + "}\\cell";
+            celdas += "\\pard\\intbl\\keepn\\sb15\\sa15\\qc{\\b " + Escapado(grupo.Titulo) + "}\\cell";
         }
         salida += celdas + "\\row\n";
     }
@@ -178,7 +195,8 @@ std::string TextoRico::Cabecera(const Tabla& tabla, const std::vector<int>& limi
     salida += std::string(FilaNueva) + "\\trhdr";
     for (std::size_t i = 0; i < limites.size(); ++i) {
         salida += std::string(BordesDeTitulo) + Orden("cellx", limites[i]);
-        celdas += "\\pard\\intbl\\keepn\\qc{\\b " + Escapado(tabla.Columnas[i].Titulo) + "}\\cell";
+        celdas +=
+            "\\pard\\intbl\\keepn\\sb15\\sa15\\qc{\\b " + Escapado(tabla.Columnas[i].Titulo) + "}\\cell";
     }
     return salida + celdas + "\\row\n";
 }
@@ -198,8 +216,8 @@ std::string TextoRico::De(const Tabla& tabla) const {
                 i < fila.Celdas.size()
                     ? Escapado(TextoDeValor(fila.Celdas[i], columna.Formato, documento_.Locales))
                     : std::string();
-            celdas += "\\pard\\intbl" + std::string(Lados[static_cast<std::size_t>(columna.Lado)]) +
-                      (fila.Destacada ? "{\\b " : "{ ") + texto + "}\\cell";
+            celdas += std::string(Celda) + std::string(Lados[static_cast<std::size_t>(columna.Lado)]) +
+                      (fila.Destacada ? "{\\b " : "{") + texto + "}\\cell";
         }
         salida += celdas + "\\row\n";
     }
@@ -226,8 +244,10 @@ void EscribirRtf(const Documento& documento, const std::filesystem::path& destin
     const TextoRico texto(documento);
     archivo.Escribir(texto.Principio());
     for (std::size_t i = 0; i < documento.Secciones.size(); ++i) {
-        if (i > 0 && documento.Secciones[i].PaginaNueva) archivo.Escribir(texto.De(SaltoDePagina{}));
-        for (const Bloque& bloque : documento.Secciones[i].Bloques) archivo.Escribir(texto.Bloque(bloque));
+        const Seccion& seccion = documento.Secciones[i];
+        // No word processor keeps several tables together: a section that must stay whole begins a page.
+        if (i > 0 && (seccion.PaginaNueva || seccion.Junta)) archivo.Escribir(texto.De(SaltoDePagina{}));
+        for (const Bloque& bloque : seccion.Bloques) archivo.Escribir(texto.Bloque(bloque));
     }
     archivo.Escribir("}\n");
     archivo.Colocar();

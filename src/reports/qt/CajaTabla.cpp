@@ -36,16 +36,17 @@ std::vector<double> Repartir(const std::vector<double>& deseados, const std::vec
 
 }  // namespace
 
-CajaTabla::CajaTabla(const Tabla& tabla, const Separadores& separadores, double puntos, double ancho)
-    : tabla_(tabla), separadores_(separadores) {
-    ElegirLetra(puntos);
-    MedirColumnas(puntos, ancho);
+CajaTabla::CajaTabla(const Tabla& tabla, const Documento& documento, const Letras& letras, double ancho)
+    : tabla_(tabla), separadores_(documento.Locales), normal_(&letras.Normal), negrita_(&letras.Negrita) {
+    MedirColumnas(documento.Letra, ancho);
     MedirFilas();
 }
 
-void CajaTabla::ElegirLetra(double puntos) {
-    normal_ = std::make_shared<const TipoDeLetra>(puntos, false);
-    negrita_ = std::make_shared<const TipoDeLetra>(puntos, true);
+void CajaTabla::Achicar(double puntos) {
+    chica_ = std::make_unique<const TipoDeLetra>(puntos, false);
+    chicaNegrita_ = std::make_unique<const TipoDeLetra>(puntos, true);
+    normal_ = chica_.get();
+    negrita_ = chicaNegrita_.get();
 }
 
 QString CajaTabla::Celda(std::size_t fila, std::size_t columna) const {
@@ -78,7 +79,7 @@ void CajaTabla::MedirColumnas(double puntos, double ancho) {
     for (double& deseado : deseados) deseado *= Milimetro;
     std::vector<double> minimos = AnchosMinimos();
     if (Suma(minimos) > ancho) {
-        ElegirLetra(puntos * std::max(LetraMenor, 0.99 * ancho / Suma(minimos)));
+        Achicar(puntos * std::max(LetraMenor, 0.99 * ancho / Suma(minimos)));
         minimos = AnchosMinimos();
     }
     anchos_ = Repartir(deseados, minimos, ancho);

@@ -14,7 +14,7 @@ namespace trabex {
 /// those that have room to spare; when none has, the letters get smaller. No number is ever cut or broken.
 class CajaTabla : public Caja {
   public:
-    CajaTabla(const Tabla& tabla, const Separadores& separadores, double puntos, double ancho);
+    CajaTabla(const Tabla& tabla, const Documento& documento, const Letras& letras, double ancho);
 
     double Antes() const override { return 0.2 * normal_->Alto(); }
     double Despues() const override { return 0.6 * normal_->Alto(); }
@@ -24,9 +24,9 @@ class CajaTabla : public Caja {
     void Pintar(Tinta& tinta, const QPointF& esquina, std::size_t desde, std::size_t hasta) const override;
 
   private:
-    void ElegirLetra(double puntos);
     std::vector<double> AnchosMinimos() const;
     void MedirColumnas(double puntos, double ancho);
+    void Achicar(double puntos);
     void MedirFilas();
     bool SeParte(std::size_t columna) const { return tabla_.Columnas[columna].Lado == Alineacion::Izquierda; }
     QString Celda(std::size_t fila, std::size_t columna) const;
@@ -39,8 +39,10 @@ class CajaTabla : public Caja {
 
     const Tabla& tabla_;
     const Separadores& separadores_;
-    std::shared_ptr<const TipoDeLetra> normal_;
-    std::shared_ptr<const TipoDeLetra> negrita_;
+    std::unique_ptr<const TipoDeLetra> chica_;  // of a table that does not fit in the document's letters
+    std::unique_ptr<const TipoDeLetra> chicaNegrita_;
+    const TipoDeLetra* normal_;
+    const TipoDeLetra* negrita_;
     std::vector<double> anchos_;
     std::vector<double> altos_;  // of the rows
     double altoGrupos_ = 0;

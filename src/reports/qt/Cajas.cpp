@@ -219,7 +219,7 @@ std::unique_ptr<Caja> CajaDe(const Bloque& bloque, const Documento& documento, c
     if (const auto* ficha = std::get_if<Ficha>(&bloque))
         return std::make_unique<CajaFicha>(*ficha, documento.Locales, letras, util.width());
     if (const auto* tabla = std::get_if<Tabla>(&bloque))
-        return std::make_unique<CajaTabla>(*tabla, documento.Locales, documento.Letra, util.width());
+        return std::make_unique<CajaTabla>(*tabla, documento, letras, util.width());
     if (const auto* imagen = std::get_if<Imagen>(&bloque))
         return std::make_unique<CajaImagen>(*imagen, letras, util);
     return nullptr;
