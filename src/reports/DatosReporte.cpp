@@ -55,7 +55,7 @@ std::unique_ptr<TablaDeDatos> TablaDeDatos::Leer(Conexion& conexion, const std::
     AbrirRecordset(conexion, registros, consulta + calificador + "rowid");
     for (int i = 1; i <= registros.NumeroRegistros(); ++i) {
         registros.MoverA(i);
-        tabla->identidades_.push_back(registros.Texto(ColumnaIdentidad));
+        tabla->identidades_.push_back(TextoDeValor(registros.Leer(ColumnaIdentidad), {}, {}));
         std::vector<Valor>& fila = tabla->filas_.emplace_back();
         fila.reserve(tabla->columnas_.size());
         for (const std::string& columna : tabla->columnas_)

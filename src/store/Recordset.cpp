@@ -39,7 +39,9 @@ Valor LeerColumna(sqlite3_stmt* sentencia, int i, const Columna& columna) {
         }
         case SQLITE_BLOB: {
             const auto* datos = static_cast<const std::byte*>(sqlite3_column_blob(sentencia, i));
-            return admitir(Bytes(datos, datos + sqlite3_column_bytes(sentencia, i)));
+            // Pictures are long: one goes into its column without further copies.
+            Valor bytes(std::in_place_type<Bytes>, datos, datos + sqlite3_column_bytes(sentencia, i));
+            return columna.Tipo == TipoColumna::Binario ? std::move(bytes) : admitir(bytes);
         }
         default:
             return {};
