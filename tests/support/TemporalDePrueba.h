@@ -61,8 +61,8 @@ inline std::string FilasDeLosa(const Losa& losa) {
         const DisenoDeEje& d = r.DisenoEje[i];
         filas += FilaSql("LosaEjes", nombre + ", " + std::to_string(i) + ", " + TextoSql(losa.Ejes[i].Eje),
                          {static_cast<double>(losa.Ejes[i].Tipo), p.x, p.y, p.DX + v.DX, p.DY + v.DY,
-                          p.Giro + v.Giro, d.AS1, d.AS2, d.MczI > 0.3 ? d.MczI : 0,
-                          d.MczD > 0.3 ? d.MczD : 0, d.PtoI, d.PtoD, p.RV + v.RV, p.RH + v.RH});
+                          p.Giro + v.Giro, d.AS1, d.AS2, d.MczI > 0.3 ? d.MczI : 0, d.MczD > 0.3 ? d.MczD : 0,
+                          d.PtoI, d.PtoD, p.RV + v.RV, p.RH + v.RH});
     }
     for (std::size_t i = 1; i < losa.Tramos.size(); ++i) {
         const EsfuerzosTramo& p = r.ResultadoTramo[1][i];
@@ -74,17 +74,40 @@ inline std::string FilasDeLosa(const Losa& losa) {
         const DisenoDeEje& a = r.DisenoEje[i];
         const DisenoDeEje& b = r.DisenoEje[i + 1];
         const DisenoDeTramo& t = r.DisenoTramo[i];
-        filas += FilaSql(
-            "LosaTramos",
-            nombre + ", " + std::to_string(i) + ", " + TextoSql(losa.Ejes[i].Eje) + ", " +
-                TextoSql(losa.Ejes[i + 1].Eje),
-            {static_cast<double>(losa.Ejes[i].Tipo), static_cast<double>(losa.Ejes[i + 1].Tipo),
-             1.2 * p.MomentoA + 1.6 * v.MomentoA, 1.2 * p.MomentoB + 1.6 * v.MomentoB,
-             1.2 * p.CorteA + 1.6 * v.CorteA, 1.2 * p.CorteB + 1.6 * v.CorteB, (pa.RV + va.RV) / ancho,
-             (pa.RH + va.RH) / ancho, (pb.RV + vb.RV) / ancho, (pb.RH + vb.RH) / ancho, pa.RV / ancho,
-             pa.RH / ancho, pb.RV / ancho, pb.RH / ancho, va.RV / ancho, va.RH / ancho, vb.RV / ancho,
-             vb.RH / ancho, t.MT, t.x, t.AS1, t.AS2, a.AS1, a.AS2, b.AS1, b.AS2, a.PtoD, b.PtoI,
-             a.MczD > 0.3 ? a.MczD : 0, b.MczI > 0.3 ? b.MczI : 0, losa.Tramos[i].LT});
+        filas += FilaSql("LosaTramos",
+                         nombre + ", " + std::to_string(i) + ", " + TextoSql(losa.Ejes[i].Eje) + ", " +
+                             TextoSql(losa.Ejes[i + 1].Eje),
+                         {static_cast<double>(losa.Ejes[i].Tipo),
+                          static_cast<double>(losa.Ejes[i + 1].Tipo),
+                          1.2 * p.MomentoA + 1.6 * v.MomentoA,
+                          1.2 * p.MomentoB + 1.6 * v.MomentoB,
+                          1.2 * p.CorteA + 1.6 * v.CorteA,
+                          1.2 * p.CorteB + 1.6 * v.CorteB,
+                          (pa.RV + va.RV) / ancho,
+                          (pa.RH + va.RH) / ancho,
+                          (pb.RV + vb.RV) / ancho,
+                          (pb.RH + vb.RH) / ancho,
+                          pa.RV / ancho,
+                          pa.RH / ancho,
+                          pb.RV / ancho,
+                          pb.RH / ancho,
+                          va.RV / ancho,
+                          va.RH / ancho,
+                          vb.RV / ancho,
+                          vb.RH / ancho,
+                          t.MT,
+                          t.x,
+                          t.AS1,
+                          t.AS2,
+                          a.AS1,
+                          a.AS2,
+                          b.AS1,
+                          b.AS2,
+                          a.PtoD,
+                          b.PtoI,
+                          a.MczD > 0.3 ? a.MczD : 0,
+                          b.MczI > 0.3 ? b.MczI : 0,
+                          losa.Tramos[i].LT});
     }
     return filas;
 }
