@@ -12,11 +12,11 @@
 #include <QTimer>
 
 #include "ReportePreparado.h"
-#include "reports/ui/qt/ImpresorasQt.h"
-#include "reports/ui/qt/VentanaSalidaReporte.h"
-#include "reports/ui/qt/VentanaSeleccionarImpresora.h"
-#include "reports/ui/qt/VentanaVerReportes.h"
-#include "reports/ui/qt/VistaPaginas.h"
+#include "reports/qt/ImpresorasQt.h"
+#include "reports/qt/VentanaSalidaReporte.h"
+#include "reports/qt/VentanaSeleccionarImpresora.h"
+#include "reports/qt/VentanaVerReportes.h"
+#include "reports/qt/VistaPaginas.h"
 #include "support/ShellGuiado.h"
 
 namespace trabex {

@@ -83,7 +83,7 @@ void EscribirPdf(const Documento& documento, const std::filesystem::path& destin
     Dispositivo dispositivo(archivo);
     Pintar(documento, dispositivo);
     if (dispositivo.Error()) throw ErrorEjecucion(*dispositivo.Error());
-    archivo.Confirmar();
+    archivo.Colocar();
 }
 
 }  // namespace trabex

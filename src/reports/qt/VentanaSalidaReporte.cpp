@@ -1,4 +1,4 @@
-#include "reports/ui/qt/VentanaSalidaReporte.h"
+#include "reports/qt/VentanaSalidaReporte.h"
 
 #include <QButtonGroup>
 #include <QGroupBox>
@@ -7,7 +7,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "reports/ui/qt/VentanaVerReportes.h"
+#include "reports/qt/VentanaVerReportes.h"
 
 namespace trabex {
 

@@ -1,4 +1,4 @@
-#include "reports/ui/qt/VentanaVerReportes.h"
+#include "reports/qt/VentanaVerReportes.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -12,7 +12,7 @@
 #include <QVBoxLayout>
 #include <cmath>
 
-#include "reports/ui/qt/VistaPaginas.h"
+#include "reports/qt/VistaPaginas.h"
 #include "shell/qt/ComunVentanas.h"
 #include "shell/qt/Iconos.h"
 

@@ -1,4 +1,4 @@
-#include "reports/ui/qt/VistaPaginas.h"
+#include "reports/qt/VistaPaginas.h"
 
 #include <QKeyEvent>
 #include <QPainter>

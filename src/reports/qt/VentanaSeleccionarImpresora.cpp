@@ -1,4 +1,4 @@
-#include "reports/ui/qt/VentanaSeleccionarImpresora.h"
+#include "reports/qt/VentanaSeleccionarImpresora.h"
 
 #include <QLabel>
 #include <QListWidget>

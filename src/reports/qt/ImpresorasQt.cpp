@@ -1,4 +1,4 @@
-#include "reports/ui/qt/ImpresorasQt.h"
+#include "reports/qt/ImpresorasQt.h"
 
 #include <QApplication>
 #include <QPainter>
