@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPrinter>
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QTest>
@@ -201,6 +202,25 @@ TEST_F(SalidasDeReporte, ElVisorRecorreBuscaYAmplia) {
         if (accion->text() == "Microsoft Word (RTF)...") accion->trigger();
     }
     EXPECT_TRUE(std::filesystem::exists(carpeta / "desde el visor.rtf"));
+}
+
+TEST_F(SalidasDeReporte, LoImpresoEsLoMismoQueElPdf) {
+    Reporte reporte = Abrir("ResultadosLosa.rpt");
+    QPrinter impresora(QPrinter::HighResolution);
+    impresora.setOutputFormat(QPrinter::PdfFormat);
+    impresora.setFullPage(true);
+    impresora.setPageSize(QPageSize(QPageSize::Letter));
+    const auto impreso = [&] {
+        impresora.setOutputFileName(prueba::Ruta(carpeta / "impreso.pdf"));
+        ImprimirPaginas(reporte.Contenido(), impresora);
+        return prueba::Correr("pdftotext", {"-layout", prueba::Ruta(carpeta / "impreso.pdf"), "-"})
+            .split('\f');
+    };
+    const QString pdf = prueba::Ruta(Exportar(reporte, FormatoPdf, "exportado.pdf"));
+    const QStringList esperado = prueba::Correr("pdftotext", {"-layout", pdf, "-"}).split('\f');
+    EXPECT_EQ(impreso(), esperado);
+    impresora.setFromTo(2, 2);
+    EXPECT_EQ(impreso(), (QStringList{esperado[1], ""}));
 }
 
 TEST_F(SalidasDeReporte, LaImpresoraSeMarcaYCambiaHastaElFinal) {

@@ -20,13 +20,15 @@ QPageLayout HojaDe(const Pagina& pagina) {
     return {tamano, orientacion, QMarginsF()};
 }
 
-/// Pages of the copy that is sent, from 0. The system makes the copies where it can.
-void PintarPaginas(QPrinter& impresora, const Documento& documento) {
+}  // namespace
+
+void ImprimirPaginas(const Documento& documento, QPrinter& impresora) {
     const QRectF papel = impresora.paperRect(QPrinter::Millimeter);
     const Paginador paginas(documento, {papel.width(), papel.height()});
     const int primera = impresora.fromPage() > 0 ? impresora.fromPage() - 1 : 0;
     const int ultima = std::min(impresora.toPage() > 0 ? impresora.toPage() : paginas.NumeroPaginas(),
                                 paginas.NumeroPaginas());
+    // The system makes the copies where it can.
     const int copias = impresora.supportsMultipleCopies() ? 1 : impresora.copyCount();
     QPainter pintor;
     if (!pintor.begin(&impresora)) throw ErrorEjecucion(CodigoError::ErrorImpresora);
@@ -42,8 +44,6 @@ void PintarPaginas(QPrinter& impresora, const Documento& documento) {
         }
     }
 }
-
-}  // namespace
 
 std::vector<std::string> ImpresorasQt::Disponibles() const {
     std::vector<std::string> nombres;
@@ -69,7 +69,7 @@ bool ImpresorasQt::Imprimir(const Documento& documento, const std::string& impre
         if (dialogo.exec() != QDialog::Accepted) return false;
         salida.setFullPage(true);
     }
-    PintarPaginas(salida, documento);
+    ImprimirPaginas(documento, salida);
     return true;
 }
 
