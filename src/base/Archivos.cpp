@@ -62,11 +62,22 @@ ArchivoNuevo::ArchivoNuevo(std::filesystem::path camino) : camino_(std::move(cam
 }
 
 ArchivoNuevo::~ArchivoNuevo() {
+    archivo_.close();
     std::error_code ignorado;
     std::filesystem::remove(provisional_, ignorado);
 }
 
-void ArchivoNuevo::Colocar() const {
+void ArchivoNuevo::Escribir(std::string_view bytes) {
+    errno = 0;
+    if (!archivo_.is_open()) archivo_.open(provisional_, std::ios::binary | std::ios::trunc);
+    archivo_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    if (!archivo_) throw ErrorEjecucion(ErrorDeSistema(UltimoError()));
+}
+
+void ArchivoNuevo::Colocar() {
+    errno = 0;
+    if (archivo_.is_open()) archivo_.close();
+    if (!archivo_) throw ErrorEjecucion(ErrorDeSistema(UltimoError()));
     std::error_code error = LlevarAlDisco(provisional_);
     if (error) throw ErrorEjecucion(ErrorDeSistema(error));
     std::filesystem::rename(provisional_, camino_, error);
@@ -74,13 +85,8 @@ void ArchivoNuevo::Colocar() const {
 }
 
 void EscribirArchivo(const std::filesystem::path& camino, std::string_view bytes) {
-    const ArchivoNuevo nuevo(camino);
-    errno = 0;
-    std::ofstream archivo(nuevo.Provisional(), std::ios::binary | std::ios::trunc);
-    if (!archivo) throw ErrorEjecucion(ErrorDeSistema(UltimoError()));
-    archivo.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    archivo.close();
-    if (!archivo) throw ErrorEjecucion(ErrorDeSistema(UltimoError()));
+    ArchivoNuevo nuevo(camino);
+    nuevo.Escribir(bytes);
     nuevo.Colocar();
 }
 
@@ -88,7 +94,7 @@ void CopiarArchivo(const std::filesystem::path& origen, const std::filesystem::p
     std::error_code error;
     if (!std::filesystem::is_regular_file(origen, error))
         throw ErrorEjecucion(CodigoError::ArchivoNoEncontrado);
-    const ArchivoNuevo nuevo(destino);
+    ArchivoNuevo nuevo(destino);
     std::filesystem::copy_file(origen, nuevo.Provisional(), std::filesystem::copy_options::overwrite_existing,
                                error);
     if (error) throw ErrorEjecucion(ErrorDeSistema(error));

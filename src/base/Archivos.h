@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <fstream>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -27,12 +28,15 @@ class ArchivoNuevo {
 
     /// Where it is written until then.
     const std::filesystem::path& Provisional() const { return provisional_; }
+    /// Adds bytes to it. Throws ErrorEjecucion when it can't.
+    void Escribir(std::string_view bytes);
     /// Throws ErrorEjecucion when it can't.
-    void Colocar() const;
+    void Colocar();
 
   private:
     std::filesystem::path camino_;
     std::filesystem::path provisional_;
+    std::ofstream archivo_;  // open from the first bytes on
 };
 
 /// Writes a whole file in that way. Throws ErrorEjecucion when it can't.

@@ -30,6 +30,10 @@ const char* TextoDeError(CodigoError codigo) {
             return "Error de acceso a la ruta o al archivo";
         case CodigoError::RutaNoEncontrada:
             return "No se encontró la ruta de acceso";
+        case CodigoError::FormatoNoValido:
+            return "Formato de archivo no válido";
+        case CodigoError::ErrorImpresora:
+            return "Error de impresora";
     }
     return "Error definido por la aplicación o el objeto";
 }

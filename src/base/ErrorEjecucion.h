@@ -1,7 +1,9 @@
 #pragma once
 
 #include <exception>
+#include <memory>
 #include <string>
+#include <utility>
 
 namespace trabex {
 
@@ -20,6 +22,8 @@ enum class CodigoError {
     PermisoDenegado = 70,
     ErrorAccesoRuta = 75,
     RutaNoEncontrada = 76,
+    FormatoNoValido = 321,
+    ErrorImpresora = 482,
 };
 
 /// The Spanish text of a code, as a message shows it below "Error Número: ".
@@ -29,13 +33,17 @@ const char* TextoDeError(CodigoError codigo);
 class ErrorEjecucion : public std::exception {
   public:
     explicit ErrorEjecucion(CodigoError codigo) : codigo_(codigo) {}
+    /// One that tells more than its code: `texto` stands in the place of the code's own.
+    ErrorEjecucion(CodigoError codigo, std::string texto)
+        : codigo_(codigo), texto_(std::make_shared<const std::string>(std::move(texto))) {}
 
     int Codigo() const { return static_cast<int>(codigo_); }
-    std::string Texto() const { return TextoDeError(codigo_); }
-    const char* what() const noexcept override { return TextoDeError(codigo_); }
+    std::string Texto() const { return what(); }
+    const char* what() const noexcept override { return texto_ ? texto_->c_str() : TextoDeError(codigo_); }
 
   private:
     CodigoError codigo_;
+    std::shared_ptr<const std::string> texto_;  // shared, so that copying an error cannot fail
 };
 
 }  // namespace trabex

@@ -7,41 +7,52 @@
 
 namespace trabex {
 
-namespace {
-
-/// Bytes of the UTF-8 character that begins at `i`; 0 when none does (RFC 3629: no overlong forms, no halves
-/// of a surrogate pair, nothing past U+10FFFF).
-std::size_t LargoDeCaracter(std::string_view texto, std::size_t i) {
-    const auto byte = [&](std::size_t k) {
-        return i + k < texto.size() ? static_cast<unsigned char>(texto[i + k]) : 0U;
-    };
-    const unsigned primero = byte(0);
-    if (primero < 0x80) return 1;
-    if (primero < 0xC2 || primero > 0xF4) return 0;
-    const std::size_t largo = primero < 0xE0 ? 2 : primero < 0xF0 ? 3 : 4;
-    const unsigned menor = primero == 0xE0 ? 0xA0 : primero == 0xF0 ? 0x90 : 0x80;
-    const unsigned mayor = primero == 0xED ? 0x9F : primero == 0xF4 ? 0x8F : 0xBF;
-    if (byte(1) < menor || byte(1) > mayor) return 0;
-    for (std::size_t k = 2; k < largo; ++k) {
-        if ((byte(k) & 0xC0) != 0x80) return 0;
-    }
-    return largo;
-}
-
-}  // namespace
-
 std::size_t NumeroDeCaracteres(std::string_view texto) {
     return static_cast<std::size_t>(
         std::count_if(texto.begin(), texto.end(), [](char c) { return (c & 0xC0) != 0x80; }));
 }
 
+char32_t TomarCaracter(std::string_view& resto) {
+    constexpr char32_t reemplazo = 0xFFFD;
+    const auto primero = static_cast<unsigned char>(resto.front());
+    const std::size_t largo = primero < 0x80   ? 1
+                              : primero < 0xC2 ? 0
+                              : primero < 0xE0 ? 2
+                              : primero < 0xF0 ? 3
+                              : primero < 0xF5 ? 4
+                                               : 0;
+    char32_t caracter = largo < 2 ? primero : primero & (0xFFU >> (largo + 1));
+    bool sano = largo > 0 && largo <= resto.size();
+    for (std::size_t i = 1; sano && i < largo; ++i) {
+        const auto byte = static_cast<unsigned char>(resto[i]);
+        sano = (byte & 0xC0) == 0x80;
+        caracter = caracter << 6 | (byte & 0x3FU);
+    }
+    const bool corto = (largo == 3 && caracter < 0x800) || (largo == 4 && caracter < 0x10000);
+    if (!sano || corto || caracter > 0x10FFFF || (caracter >= 0xD800 && caracter < 0xE000)) {
+        resto.remove_prefix(1);
+        return reemplazo;
+    }
+    resto.remove_prefix(largo);
+    return caracter;
+}
+
 std::string TextoValido(std::string_view texto) {
     std::string salida;
-    for (std::size_t i = 0; i < texto.size();) {
-        const std::size_t largo = LargoDeCaracter(texto, i);
-        salida += largo != 0 ? texto.substr(i, largo) : std::string_view("\xEF\xBF\xBD");
-        i += std::max<std::size_t>(largo, 1);
+    salida.reserve(texto.size());
+    while (!texto.empty()) {
+        const std::string_view antes = texto;
+        const bool sano = TomarCaracter(texto) != 0xFFFD;
+        salida += sano ? antes.substr(0, antes.size() - texto.size()) : std::string_view("\xEF\xBF\xBD");
     }
+    return salida;
+}
+
+std::string TextoImprimible(std::string_view texto) {
+    std::string salida = TextoValido(texto);
+    std::replace_if(
+        salida.begin(), salida.end(), [](unsigned char c) { return (c < 0x20 && c != '\n') || c == 0x7F; },
+        ' ');
     return salida;
 }
 

@@ -206,7 +206,7 @@ bool ReemplazarLosaPlanex(Conexion& destino, const Losa& losa, const ResultadosL
 void EscribirArchivoPlanex(const std::filesystem::path& plantilla, const std::filesystem::path& destino,
                            const std::filesystem::path& proyecto, const DatosDelProyecto& datos,
                            const DatosGenerales& generales) {
-    const ArchivoNuevo archivo(destino);
+    ArchivoNuevo archivo(destino);
     CopiarArchivo(plantilla, archivo.Provisional());
     Conexion conexion;
     AbrirConexion(conexion, archivo.Provisional());

@@ -40,7 +40,9 @@ Valor LeerColumna(sqlite3_stmt* sentencia, int i, const Columna& columna) {
         }
         case SQLITE_BLOB: {
             const auto* datos = static_cast<const std::byte*>(sqlite3_column_blob(sentencia, i));
-            return admitir(Bytes(datos, datos + sqlite3_column_bytes(sentencia, i)));
+            // Pictures are long: one goes into its column without further copies.
+            Valor bytes(std::in_place_type<Bytes>, datos, datos + sqlite3_column_bytes(sentencia, i));
+            return columna.Tipo == TipoColumna::Binario ? std::move(bytes) : admitir(bytes);
         }
         default:
             return {};
@@ -280,6 +282,11 @@ void Recordset::Buscar(std::string_view criterio, int saltar, Direccion direccio
         donde += paso;
     interna_->posicion = std::clamp(donde, 0, n + 1);
     interna_->LimpiarPuestos();
+}
+
+const std::vector<Columna>& Recordset::Columnas() const {
+    static const std::vector<Columna> ninguna;
+    return interna_ ? interna_->columnas : ninguna;
 }
 
 Valor Recordset::Leer(std::string_view campo) const {

@@ -3,7 +3,9 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "store/Columna.h"
 #include "store/Valor.h"
 
 namespace trabex {
@@ -25,6 +27,9 @@ class Recordset {
     int NumeroRegistros() const;
     bool BOF() const;
     bool EOF_() const;
+
+    /// The columns of its rows; none when closed.
+    const std::vector<Columna>& Columnas() const;
 
     int Posicion() const;
     /// Moves to a record; a position out of 1 … NumeroRegistros() changes nothing.

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "store/Valor.h"
+
+namespace trabex {
+
+/// The pixels of a picture, three bytes each (red, green, blue), row by row from the top.
+struct MapaDeBits {
+    std::uint32_t Ancho = 0;
+    std::uint32_t Alto = 0;
+    std::vector<std::uint8_t> Pixeles;
+};
+
+/// Reads a Windows bitmap file without compression: 1, 4, 8, 24 or 32 bits a pixel, of either direction.
+/// Nothing when the bytes are not one.
+std::optional<MapaDeBits> LeerMapaDeBits(const Bytes& archivo);
+
+/// A picture as the bytes of a PNG file, and its size in pixels.
+struct ImagenPng {
+    std::uint32_t Ancho = 0;
+    std::uint32_t Alto = 0;
+    Bytes Archivo;
+};
+
+/// The bytes of a Windows bitmap or a PNG as a PNG. A drawing of up to 256 colours takes a palette, which
+/// makes it a fraction of the bitmap. Nothing when the bytes are neither.
+std::optional<ImagenPng> ComoPng(const Bytes& archivo);
+
+}  // namespace trabex

@@ -1,0 +1,40 @@
+#include "reports/qt/Tinta.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QPen>
+
+#include "reports/Documento.h"
+
+namespace trabex {
+
+void TintaDePintor::Texto(const QPointF& base, const QString& texto, const TipoDeLetra& letra,
+                          const QColor& color) {
+    if (letra_ != &letra) {
+        pintor_.setFont(letra.Fuente());
+        letra_ = &letra;
+    }
+    pintor_.setPen(color);
+    pintor_.drawText(base, texto);
+}
+
+void TintaDePintor::Raya(const QPointF& desde, const QPointF& hasta, double grosor, const QColor& color) {
+    pintor_.setPen(QPen(color, grosor, Qt::SolidLine, Qt::FlatCap));
+    pintor_.drawLine(desde, hasta);
+}
+
+void TintaDePintor::Fondo(const QRectF& donde, const QColor& color) {
+    pintor_.fillRect(donde, color);
+}
+
+void TintaDePintor::Mapa(const QRectF& donde, const Imagen& imagen) {
+    const Bytes bytes = imagen.Leer();
+    QImage mapa;
+    mapa.loadFromData(reinterpret_cast<const uchar*>(bytes.data()), static_cast<int>(bytes.size()));
+    // Line drawings: without loss, and smooth where the screen shows them smaller.
+    pintor_.setRenderHint(QPainter::LosslessImageRendering);
+    pintor_.setRenderHint(QPainter::SmoothPixmapTransform);
+    pintor_.drawImage(donde, mapa);
+}
+
+}  // namespace trabex

@@ -1,0 +1,108 @@
+#include "reports/ui/SalidaReporte.h"
+
+#include "base/Archivos.h"
+
+namespace trabex {
+
+namespace {
+
+constexpr std::array<const char*, 5> DisenosTabulares{"Marcus.rpt", "EscaleraH.rpt", "AnalisisCarga.rpt",
+                                                      "ResultadosLosa.rpt", "AnalisisCarga1.rpt"};
+
+bool EsArchivo(std::uint8_t salida) {
+    return salida < Salidas.size() && Salidas[salida].Titulo != nullptr;
+}
+
+}  // namespace
+
+std::filesystem::path ExportadorReportes::Carpeta() const {
+    return entorno_.LaAplicacion.CaminoUsuario / "ReportesExportados";
+}
+
+void ExportadorReportes::AbrirCarpeta() {
+    entorno_.LaPlataforma.AbrirCarpeta(Carpeta());
+}
+
+std::optional<std::filesystem::path> ExportadorReportes::PedirArchivo(std::uint8_t salida) {
+    PeticionArchivo peticion;
+    peticion.Titulo = Salidas[salida].Titulo;
+    peticion.Filtro = Salidas[salida].Filtro;
+    peticion.Carpeta = Carpeta();
+    peticion.Guardar = true;
+    peticion.AvisarReemplazo = true;
+    auto elegido = entorno_.Dialogos.Elegir(peticion);
+    if (elegido) entorno_.Estado.ArchivoExportado = *elegido;
+    return elegido;
+}
+
+void ExportadorReportes::Exportar(const Documento& documento, std::uint8_t salida) {
+    const std::filesystem::path& archivo = entorno_.Estado.ArchivoExportado;
+    entorno_.Motor.Exportar(documento, Salidas[salida].Codigo, archivo);
+    const std::string texto = "¿Desea Abrir el Archivo " + TextoDeCamino(archivo) + "?";
+    if (entorno_.Caja.Mostrar(Pregunta(texto, "Abrir el Archivo Exportado...")) != RespuestaSi) return;
+    if (!entorno_.LaPlataforma.AbrirArchivo(archivo))
+        throw ErrorEjecucion(CodigoError::ArchivoNoEncontrado,
+                             "No se encontró un programa que abra el archivo");
+}
+
+bool ExportadorReportes::Imprimir(const Documento& documento) {
+    if (entorno_.LasImpresoras.Disponibles().empty()) {
+        Mensaje mensaje;
+        mensaje.Texto = "No hay impresoras instaladas en el sistema.";
+        mensaje.Encabezado = "Imprimir el Reporte...";
+        mensaje.Icono = IconoCaja::Advertencia;
+        entorno_.Caja.Mostrar(mensaje);
+        return false;
+    }
+    return entorno_.LasImpresoras.Imprimir(documento, entorno_.Estado.Impresora, true, 1);
+}
+
+void ExportadorReportes::Avisar(const ErrorEjecucion& error) {
+    entorno_.Caja.Mostrar(MensajeDeError(error, "Error en el Reporte..."));
+}
+
+void SalidaReporte::Aceptar(std::uint8_t salida) {
+    entorno_.Estado.FormatoSalida = salida;
+    if (EsArchivo(salida) && !exportador_.PedirArchivo(salida)) return;
+    try {
+        if (!Enviar(salida)) return;
+    } catch (const ErrorEjecucion& error) {
+        vista_.PunteroDeEspera(false);
+        exportador_.Avisar(error);
+        return;
+    }
+    AlTerminar();
+    vista_.Cerrar();
+}
+
+/// False when there is nothing to send, or the engineer thought better of it.
+bool SalidaReporte::Enviar(std::uint8_t salida) {
+    const std::string diseno = Diseno();
+    if (diseno.empty()) return false;
+    vista_.PunteroDeEspera(true);
+    Reporte reporte(entorno_.LaAplicacion.CaminoPrograma / "Reportes" / diseno,
+                    entorno_.LaAplicacion.SeparadoresLocales);
+    reporte.DescartarDatos();
+    reporte.Ubicar(entorno_.LaAplicacion.CaminoUsuario / "Trabajo" / "Temporal.mdb");
+    const Documento& documento = reporte.Contenido();
+    vista_.PunteroDeEspera(false);
+    if (salida == SalidaImpresora) return exportador_.Imprimir(documento);
+    if (EsArchivo(salida))
+        exportador_.Exportar(documento, salida);
+    else
+        vista_.Ver(documento);
+    return true;
+}
+
+std::string ImpreReport::Diseno() const {
+    const std::int16_t actual = entorno_.Estado.ReporteActual;
+    const bool existe = actual >= 1 && static_cast<std::size_t>(actual) <= DisenosTabulares.size();
+    return existe ? DisenosTabulares[static_cast<std::size_t>(actual - 1)] : "";
+}
+
+std::string ImpreGrafico::Diseno() const {
+    if (entorno_.Estado.GraficoHelicoidal) return "GraficoH.rpt";
+    return entorno_.Estado.GraficoAutoportante ? "GraficoAutoportantes.rpt" : "Grafico.rpt";
+}
+
+}  // namespace trabex

@@ -1,0 +1,150 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "reports/MotorReportes.h"
+#include "shell/Aplicacion.h"
+#include "shell/CajaMensajes.h"
+#include "shell/DialogosArchivo.h"
+#include "shell/Plataforma.h"
+
+namespace trabex {
+
+/// What the windows of report output share: one instance, of the program.
+struct EstadoSalida {
+    std::int16_t ReporteActual = 0;          ///< layout of the tabular reports, 1 to 5
+    bool GraficoHelicoidal = false;          ///< the drawing reports are those of the helical stairs
+    bool GraficoAutoportante = false;        ///< or of the self-supporting stairs; neither: the slabs'
+    std::uint8_t FormatoSalida = 0;          ///< the last chosen output, a place in Salidas
+    std::filesystem::path ArchivoExportado;  ///< the last file chosen
+    std::string Impresora;                   ///< chosen for this run; empty: the system's own
+};
+
+/// An output that the engineer can choose.
+struct OpcionDeSalida {
+    const char* Opcion;  ///< as the dialog names it
+    const char* Titulo;  ///< of the save dialog; null: no file
+    const char* Filtro;
+    int Codigo;  ///< the engine's
+};
+inline constexpr std::uint8_t SalidaPantalla = 0;
+inline constexpr std::uint8_t SalidaImpresora = 5;
+inline constexpr std::array<OpcionDeSalida, 6> Salidas{{
+    {"En la Pantalla...", nullptr, nullptr, 0},
+    {"Adobe Acrobat (PDF)...", "Exportar el Reporte a formato: Adobe Acrobat(PDF)", "*.pdf|*.pdf",
+     FormatoPdf},
+    {"HTML 4.0 (Para la Web)...", "Exportar el Reporte a formato: HTLM 4.0", "*.htm|*.htm", FormatoHtml},
+    {"Microsoft Excel...", "Exportar el Reporte a formato: Microsoft Excel 97-2000 (XLS)", "*.xls|*.xls",
+     FormatoXls},
+    {"Microsoft Word (RTF)...", "Exportar el Reporte a formato: Microsoft Word (RTF)", "*.rtf|*.rtf",
+     FormatoRtf},
+    {"Impresora...", nullptr, nullptr, 0},
+}};
+
+/// The printers of the system.
+class Impresoras {
+  public:
+    virtual ~Impresoras() = default;
+    virtual std::vector<std::string> Disponibles() const = 0;
+    /// The system's default printer; empty when there is none.
+    virtual std::string PorDefecto() const = 0;
+    /// Prints on `impresora` (empty: the default one), after the system's prompt where asked to. False when
+    /// the engineer cancels. Throws ErrorEjecucion 482 when the printer refuses.
+    virtual bool Imprimir(const Documento& documento, const std::string& impresora, bool preguntar,
+                          int copias) = 0;
+};
+
+/// What the windows of report output work with.
+struct EntornoSalida {
+    Aplicacion& LaAplicacion;
+    EstadoSalida& Estado;
+    MotorReportes& Motor;
+    Impresoras& LasImpresoras;
+    CajaMensajes& Caja;
+    DialogosArchivo& Dialogos;
+    Plataforma& LaPlataforma;
+};
+
+/// Where a report is kept, printed and opened from: what the dialogs and the viewer have in common.
+class ExportadorReportes {
+  public:
+    explicit ExportadorReportes(EntornoSalida& entorno) : entorno_(entorno) {}
+
+    std::filesystem::path Carpeta() const;
+    void AbrirCarpeta();
+    /// Asks for the file of an output and keeps it as the exported one. Nothing when the engineer cancels.
+    std::optional<std::filesystem::path> PedirArchivo(std::uint8_t salida);
+    /// Writes the exported file and offers to open it. Throws ErrorEjecucion.
+    void Exportar(const Documento& documento, std::uint8_t salida);
+    /// With a prompt, one copy. False when nothing was printed. Throws ErrorEjecucion.
+    bool Imprimir(const Documento& documento);
+    void Avisar(const ErrorEjecucion& error);
+
+  private:
+    EntornoSalida& entorno_;
+};
+
+/// What the output dialogs ask of their window.
+class VistaSalidaReporte {
+  public:
+    virtual ~VistaSalidaReporte() = default;
+    virtual void PunteroDeEspera(bool espera) = 0;
+    /// Shows the viewer, at zoom 100, until it is closed.
+    virtual void Ver(const Documento& documento) = 0;
+    virtual void Cerrar() = 0;
+};
+
+/// Runs a layout on the scratch database and sends it to the screen, the printer or a file. The two dialogs
+/// of the program differ in the layouts they choose and in what they leave behind.
+class SalidaReporte {
+  public:
+    SalidaReporte(EntornoSalida& entorno, VistaSalidaReporte& vista)
+        : entorno_(entorno), vista_(vista), exportador_(entorno) {}
+    virtual ~SalidaReporte() = default;
+    SalidaReporte(const SalidaReporte&) = delete;
+    SalidaReporte& operator=(const SalidaReporte&) = delete;
+
+    /// " Aceptar " with the chosen output. The window stays open when the engineer cancels a dialog, when the
+    /// report fails, and when there is no layout to run.
+    void Aceptar(std::uint8_t salida);
+    void AbrirCarpeta() { exportador_.AbrirCarpeta(); }
+
+  protected:
+    /// File name of the layout; empty when none is chosen.
+    virtual std::string Diseno() const = 0;
+    virtual void AlTerminar() {}
+
+    EntornoSalida& entorno_;
+
+  private:
+    bool Enviar(std::uint8_t salida);
+
+    VistaSalidaReporte& vista_;
+    ExportadorReportes exportador_;
+};
+
+/// Tabular reports, by `ReporteActual`.
+class ImpreReport : public SalidaReporte {
+  public:
+    using SalidaReporte::SalidaReporte;
+
+  protected:
+    std::string Diseno() const override;
+};
+
+/// Drawing reports. The next time it opens with the screen chosen.
+class ImpreGrafico : public SalidaReporte {
+  public:
+    using SalidaReporte::SalidaReporte;
+
+  protected:
+    std::string Diseno() const override;
+    void AlTerminar() override { entorno_.Estado.FormatoSalida = SalidaPantalla; }
+};
+
+}  // namespace trabex
