@@ -179,23 +179,28 @@ void EscribirLosa(TablasDeLosas& tablas, const Losa& losa, const DatosGenerales&
 void RecorrerLosas(const ProyectoParaReporte& origen, bool todas,
                    const std::function<void(const Losa&, const ResultadosLosa&)>& visitar) {
     Recordset& lista = origen.Proyecto.RegistrosProyecto;
-    const auto visitarActual = [&] {
+    if (lista.NumeroRegistros() == 0) return;
+    const auto visitarActual = [&](ProyectoAbierto& proyecto) {
         Losa losa;
         ResultadosLosa resultados;
-        LeerLosa(origen.Proyecto, losa);
+        LeerLosa(proyecto, losa);
         CalcularLosa(losa, origen.Generales, resultados);
         visitar(losa, resultados);
     };
-    if (lista.NumeroRegistros() == 0) return;
     if (!todas) {
         lista.MoverA(origen.FilaSeleccionada);
-        visitarActual();
+        visitarActual(origen.Proyecto);
         return;
     }
+    // A file has no index of its names: a copy that has one is read in a time that grows with the slabs, not
+    // with their square. The list is the workspace's own in both.
+    ProyectoAbierto copia{.ConexionProyecto = {}, .RegistrosProyecto = lista};
+    CopiarEnMemoria(origen.Proyecto.ConexionProyecto, copia.ConexionProyecto);
+    ProyectoAbierto& proyecto = copia.ConexionProyecto.Abierta() ? copia : origen.Proyecto;
     const PosicionGuardada posicion(lista);
     for (int k = 1; k <= lista.NumeroRegistros(); ++k) {
         lista.MoverA(k);
-        visitarActual();
+        visitarActual(proyecto);
     }
 }
 
