@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "slab/CalcularLosa.h"
 #include "store/Insercion.h"
 
 namespace trabex {
@@ -176,34 +175,6 @@ void EscribirLosa(TablasDeLosas& tablas, const Losa& losa, const DatosGenerales&
 
 }  // namespace
 
-void RecorrerLosas(const ProyectoParaReporte& origen, bool todas,
-                   const std::function<void(const Losa&, const ResultadosLosa&)>& visitar) {
-    Recordset& lista = origen.Proyecto.RegistrosProyecto;
-    if (lista.NumeroRegistros() == 0) return;
-    const auto visitarActual = [&](ProyectoAbierto& proyecto) {
-        Losa losa;
-        ResultadosLosa resultados;
-        LeerLosa(proyecto, losa);
-        CalcularLosa(losa, origen.Generales, resultados);
-        visitar(losa, resultados);
-    };
-    if (!todas) {
-        lista.MoverA(origen.FilaSeleccionada);
-        visitarActual(origen.Proyecto);
-        return;
-    }
-    // A file has no index of its names: a copy that has one is read in a time that grows with the slabs, not
-    // with their square. The list is the workspace's own in both.
-    ProyectoAbierto copia{.ConexionProyecto = {}, .RegistrosProyecto = lista};
-    CopiarEnMemoria(origen.Proyecto.ConexionProyecto, copia.ConexionProyecto);
-    ProyectoAbierto& proyecto = copia.ConexionProyecto.Abierta() ? copia : origen.Proyecto;
-    const PosicionGuardada posicion(lista);
-    for (int k = 1; k <= lista.NumeroRegistros(); ++k) {
-        lista.MoverA(k);
-        visitarActual(proyecto);
-    }
-}
-
 bool LLeneResultados(const EntornoReportes& entorno, const ProyectoParaReporte& origen,
                      EstadoReportes& estado) {
     const BanderaEnAlto generando(estado.GenerandoReporte);
@@ -222,8 +193,8 @@ bool LLeneResultados(const EntornoReportes& entorno, const ProyectoParaReporte& 
     Transaccion guardado(temporal);
     EscribirGenerales(temporal, origen.Generales);
     TablasDeLosas tablas(temporal);
-    RecorrerLosas(origen, todas, [&](const Losa& losa, const ResultadosLosa& resultados) {
-        EscribirLosa(tablas, losa, origen.Generales, resultados);
+    RecorrerLosas(origen, todas, [&](const LosaDelProyecto& losa) {
+        EscribirLosa(tablas, losa.Datos, losa.Generales, losa.Resultados);
     });
     return guardado.Confirmar();
 }

@@ -1,0 +1,140 @@
+#include "reports/ImagenDePaleta.h"
+
+#include <algorithm>
+#include <functional>
+#include <unordered_map>
+#include <utility>
+
+namespace trabex {
+
+namespace {
+
+constexpr std::size_t Colores = 256;
+constexpr std::size_t CabeceraDeArchivo = 14, CabeceraDeImagen = 40;
+constexpr std::size_t Rle8 = 1;
+constexpr std::size_t MayorTramo = 255;
+
+using Rgb = std::uint32_t;
+
+std::uint32_t Distancia(Rgb a, Rgb b) {
+    std::uint32_t suma = 0;
+    for (const unsigned corrimiento : {0U, 8U, 16U}) {
+        const int d =
+            static_cast<int>((a >> corrimiento) & 0xFF) - static_cast<int>((b >> corrimiento) & 0xFF);
+        suma += static_cast<std::uint32_t>(d * d);
+    }
+    return suma;
+}
+
+/// Runs accion(first, length, colour) over the stretches of one colour: drawings have long ones.
+template <class Accion>
+void PorTramos(std::span<const Rgb> pixeles, Accion accion) {
+    for (std::size_t i = 0; i < pixeles.size();) {
+        const Rgb color = pixeles[i] & 0xFFFFFF;
+        std::size_t fin = i + 1;
+        while (fin < pixeles.size() && (pixeles[fin] & 0xFFFFFF) == color) ++fin;
+        accion(i, fin - i, color);
+        i = fin;
+    }
+}
+
+/// Numbers of the colours: the most frequent ones are the palette.
+std::unordered_map<Rgb, std::uint8_t> Numerar(std::span<const Rgb> pixeles, std::vector<Rgb>& paleta) {
+    std::unordered_map<Rgb, std::size_t> veces;
+    PorTramos(pixeles, [&](std::size_t, std::size_t largo, Rgb color) { veces[color] += largo; });
+    std::vector<std::pair<std::size_t, Rgb>> orden;
+    orden.reserve(veces.size());
+    for (const auto& [color, cuenta] : veces) orden.emplace_back(cuenta, color);
+    std::sort(orden.begin(), orden.end(), std::greater<>());
+    for (std::size_t i = 0; i < std::min(orden.size(), Colores); ++i) paleta.push_back(orden[i].second);
+    std::unordered_map<Rgb, std::uint8_t> numeros;
+    for (std::size_t i = 0; i < orden.size(); ++i) {
+        const Rgb color = orden[i].second;
+        const auto cercano = i < paleta.size()
+                                 ? paleta.begin() + static_cast<std::ptrdiff_t>(i)
+                                 : std::min_element(paleta.begin(), paleta.end(), [color](Rgb a, Rgb b) {
+                                       return Distancia(a, color) < Distancia(b, color);
+                                   });
+        numeros[color] = static_cast<std::uint8_t>(cercano - paleta.begin());
+    }
+    return numeros;
+}
+
+void Escribir(Bytes& bytes, std::size_t valor, int octetos) {
+    for (int i = 0; i < octetos; ++i) bytes.push_back(static_cast<std::byte>((valor >> (8 * i)) & 0xFF));
+}
+
+/// The number of equal bytes from one on, at most what a run may hold.
+std::size_t Tramo(std::span<const std::uint8_t> fila, std::size_t x) {
+    std::size_t fin = x + 1;
+    while (fin < fila.size() && fila[fin] == fila[x] && fin - x < MayorTramo) ++fin;
+    return fin - x;
+}
+
+void EscribirLiteral(Bytes& bytes, std::span<const std::uint8_t> literal) {
+    if (literal.size() < 3) {  // fewer would read as a code
+        for (const std::uint8_t pixel : literal) Escribir(bytes, 1U | pixel << 8U, 2);
+        return;
+    }
+    Escribir(bytes, literal.size() << 8U, 2);
+    for (const std::uint8_t pixel : literal) Escribir(bytes, pixel, 1);
+    if (literal.size() % 2 != 0) Escribir(bytes, 0, 1);
+}
+
+void ComprimirFila(Bytes& bytes, std::span<const std::uint8_t> fila) {
+    constexpr std::size_t Vale = 4;  // a shorter run inside a literal stretch would cost more than it saves
+    std::size_t pendiente = 0;
+    for (std::size_t x = 0; x < fila.size();) {
+        const std::size_t tramo = Tramo(fila, x);
+        if (tramo < Vale && x + tramo - pendiente <= MayorTramo && x + tramo < fila.size()) {
+            x += tramo;
+            continue;
+        }
+        EscribirLiteral(bytes, fila.subspan(pendiente, x - pendiente));
+        Escribir(bytes, tramo | static_cast<std::size_t>(fila[x]) << 8U, 2);
+        x += tramo;
+        pendiente = x;
+    }
+    Escribir(bytes, 0, 2);  // end of the row
+}
+
+}  // namespace
+
+ImagenDePaleta ReducirColores(std::span<const std::uint32_t> pixeles, std::size_t ancho, std::size_t alto) {
+    ImagenDePaleta imagen{ancho, alto, {}, std::vector<std::uint8_t>(ancho * alto), 0};
+    const auto numeros = Numerar(pixeles, imagen.Paleta);
+    PorTramos(pixeles, [&](std::size_t desde, std::size_t largo, Rgb color) {
+        std::fill_n(imagen.Pixeles.begin() + static_cast<std::ptrdiff_t>(desde), largo, numeros.at(color));
+    });
+    return imagen;
+}
+
+Bytes MapaDeBitsDe(const ImagenDePaleta& imagen) {
+    Bytes pixeles;
+    for (std::size_t fila = imagen.Alto; fila-- > 0;)
+        ComprimirFila(pixeles, std::span(imagen.Pixeles).subspan(fila * imagen.Ancho, imagen.Ancho));
+    Escribir(pixeles, 0x0100, 2);  // end of the picture
+
+    const std::size_t inicio = CabeceraDeArchivo + CabeceraDeImagen + 4 * imagen.Paleta.size();
+    Bytes archivo{std::byte{'B'}, std::byte{'M'}};
+    archivo.reserve(inicio + pixeles.size());
+    Escribir(archivo, inicio + pixeles.size(), 4);
+    Escribir(archivo, 0, 4);
+    Escribir(archivo, inicio, 4);
+    Escribir(archivo, CabeceraDeImagen, 4);
+    Escribir(archivo, imagen.Ancho, 4);
+    Escribir(archivo, imagen.Alto, 4);
+    Escribir(archivo, 1, 2);
+    Escribir(archivo, 8, 2);
+    Escribir(archivo, Rle8, 4);
+    Escribir(archivo, pixeles.size(), 4);
+    Escribir(archivo, static_cast<std::size_t>(imagen.PuntosPorMetro), 4);
+    Escribir(archivo, static_cast<std::size_t>(imagen.PuntosPorMetro), 4);
+    Escribir(archivo, imagen.Paleta.size(), 4);
+    Escribir(archivo, 0, 4);
+    for (const Rgb color : imagen.Paleta) Escribir(archivo, color, 4);
+    archivo.insert(archivo.end(), pixeles.begin(), pixeles.end());
+    return archivo;
+}
+
+}  // namespace trabex

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "store/Valor.h"
+
+namespace trabex {
+
+/// A picture of at most 256 colours (0xRRGGBB): a byte a pixel, rows from the top.
+struct ImagenDePaleta {
+    std::size_t Ancho = 0;
+    std::size_t Alto = 0;
+    std::vector<std::uint32_t> Paleta;
+    std::vector<std::uint8_t> Pixeles;
+    std::int32_t PuntosPorMetro = 0;  ///< 0 when unknown
+};
+
+/// Reduces a picture of `ancho` by `alto` pixels (0xRRGGBB in its low bits, rows from the top) to its 256
+/// most frequent colours; the rest, of which drawings have a few along the edges of their letters, take the
+/// nearest of those.
+ImagenDePaleta ReducirColores(std::span<const std::uint32_t> pixeles, std::size_t ancho, std::size_t alto);
+
+/// The picture as a Windows bitmap file of 8 bits a pixel, run-length encoded.
+Bytes MapaDeBitsDe(const ImagenDePaleta& imagen);
+
+}  // namespace trabex
