@@ -98,6 +98,56 @@ void ComprimirFila(Bytes& bytes, std::span<const std::uint8_t> fila) {
     Escribir(bytes, 0, 2);  // end of the row
 }
 
+std::size_t Leer(const Bytes& bytes, std::size_t desde, std::size_t octetos) {
+    std::size_t valor = 0;
+    for (std::size_t i = 0; i < octetos && desde + i < bytes.size(); ++i)
+        valor |= static_cast<std::size_t>(bytes[desde + i]) << (8 * i);
+    return valor;
+}
+
+/// Rows of a plain bitmap, each of whole groups of four bytes, from the bottom.
+struct FilasDeMapa {
+    std::size_t Ancho;
+    std::size_t Alto;
+    Bytes Pixeles;
+
+    std::size_t Paso() const { return (Ancho + 3) / 4 * 4; }
+};
+
+/// Undoes the run-length code from a byte on. False when it leaves its picture or runs out of bytes.
+bool Descomprimir(const Bytes& bytes, std::size_t desde, FilasDeMapa& filas) {
+    std::size_t x = 0;
+    std::size_t fila = 0;
+    for (std::size_t i = desde; i + 1 < bytes.size();) {
+        const std::size_t cuenta = Leer(bytes, i, 1);
+        const std::size_t dato = Leer(bytes, i + 1, 1);
+        i += 2;
+        if (cuenta == 0 && dato == 1) return true;
+        if (cuenta == 0 && dato == 0) {
+            x = 0;
+            ++fila;
+            continue;
+        }
+        if (cuenta == 0 && dato == 2) {
+            x += Leer(bytes, i, 1);
+            fila += Leer(bytes, i + 1, 1);
+            i += 2;
+            continue;
+        }
+        const std::size_t pixeles = cuenta != 0 ? cuenta : dato;
+        if (fila >= filas.Alto || x + pixeles > filas.Ancho || (cuenta == 0 && i + dato > bytes.size()))
+            return false;
+        const auto destino = filas.Pixeles.begin() + static_cast<std::ptrdiff_t>(fila * filas.Paso() + x);
+        if (cuenta != 0)
+            std::fill_n(destino, pixeles, static_cast<std::byte>(dato));
+        else
+            std::copy_n(bytes.begin() + static_cast<std::ptrdiff_t>(i), pixeles, destino);
+        x += pixeles;
+        if (cuenta == 0) i += dato + dato % 2;
+    }
+    return false;
+}
+
 }  // namespace
 
 ImagenDePaleta ReducirColores(std::span<const std::uint32_t> pixeles, std::size_t ancho, std::size_t alto) {
@@ -135,6 +185,23 @@ Bytes MapaDeBitsDe(const ImagenDePaleta& imagen) {
     for (const Rgb color : imagen.Paleta) Escribir(archivo, color, 4);
     archivo.insert(archivo.end(), pixeles.begin(), pixeles.end());
     return archivo;
+}
+
+std::optional<Bytes> MapaSinComprimir(const Bytes& archivo) {
+    constexpr std::size_t LugarCompresion = 30, LugarTamano = 34, MayorLado = 30000;
+    const std::size_t inicio = Leer(archivo, 10, 4);
+    FilasDeMapa filas{Leer(archivo, 18, 4), Leer(archivo, 22, 4), {}};
+    if (archivo.size() < CabeceraDeArchivo + CabeceraDeImagen || Leer(archivo, 0, 2) != 0x4D42 ||
+        Leer(archivo, 28, 2) != 8 || Leer(archivo, LugarCompresion, 4) != Rle8 || inicio > archivo.size() ||
+        filas.Ancho == 0 || filas.Ancho > MayorLado || filas.Alto == 0 || filas.Alto > MayorLado)
+        return std::nullopt;
+    filas.Pixeles.resize(filas.Paso() * filas.Alto);
+    if (!Descomprimir(archivo, inicio, filas)) return std::nullopt;
+    Bytes plano(archivo.begin(), archivo.begin() + static_cast<std::ptrdiff_t>(inicio));
+    std::fill_n(plano.begin() + LugarCompresion, 4, std::byte{0});
+    std::fill_n(plano.begin() + LugarTamano, 4, std::byte{0});
+    plano.insert(plano.end(), filas.Pixeles.begin(), filas.Pixeles.end());
+    return plano;
 }
 
 }  // namespace trabex

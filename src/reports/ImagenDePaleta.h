@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -25,5 +26,9 @@ ImagenDePaleta ReducirColores(std::span<const std::uint32_t> pixeles, std::size_
 
 /// The picture as a Windows bitmap file of 8 bits a pixel, run-length encoded.
 Bytes MapaDeBitsDe(const ImagenDePaleta& imagen);
+
+/// A run-length encoded bitmap file of 8 bits a pixel as a plain one. Nothing when the bytes are not one, or
+/// are damaged.
+std::optional<Bytes> MapaSinComprimir(const Bytes& archivo);
 
 }  // namespace trabex

@@ -1,35 +1,16 @@
-#include <cstdlib>
 #include <limits>
-#include <sstream>
 
 #include <gmock/gmock.h>
 
 #include "reports/LibroXls.h"
-#include "support/CarpetaTemporal.h"
-#include "support/ProyectoDePrueba.h"
+#include "reports/VolcadoXls.h"
 
 namespace trabex {
 namespace {
 
-using prueba::CarpetaTemporal;
 using testing::Contains;
 using testing::StartsWith;
 using namespace std::chrono;
-
-/// What another program's reader finds in the book, line by line.
-std::vector<std::string> Volcar(const LibroXls& libro) {
-    const CarpetaTemporal carpeta;
-    const auto archivo = carpeta / "libro.xls";
-    const auto volcado = carpeta / "volcado.txt";
-    GuardarXls(libro, archivo);
-    const std::string orden = std::string(TRABEX_PYTHON " " TRABEX_VOLCAR_XLS) + " '" + archivo.string() +
-                              "' > '" + volcado.string() + "'";
-    EXPECT_EQ(std::system(orden.c_str()), 0);
-    std::istringstream texto(prueba::LeerArchivo(volcado));
-    std::vector<std::string> lineas;
-    for (std::string linea; std::getline(texto, linea);) lineas.push_back(linea);
-    return lineas;
-}
 
 TEST(LibroXls, ValoresYEstilosSeLeenComoSeEscribieron) {
     LibroXls libro;
@@ -64,7 +45,7 @@ TEST(LibroXls, ValoresYEstilosSeLeenComoSeEscribieron) {
     hoja.SaltosDePagina = {2};
     hoja.FilasFijas = 1;
 
-    const auto lineas = Volcar(libro);
+    const auto lineas = prueba::VolcarXls(libro);
     EXPECT_THAT(
         lineas,
         testing::ElementsAre(
@@ -94,7 +75,7 @@ TEST(LibroXls, TextosQueCruzanElFinDeUnRegistroSeLeenEnteros) {
     for (std::size_t i = 0; i < textos.size(); ++i) CeldaEn(hoja, i, 1).Valor = textos[i];
     textos[300].resize(32767);
 
-    const auto lineas = Volcar(libro);
+    const auto lineas = prueba::VolcarXls(libro);
     ASSERT_EQ(lineas.size(), 2 + 2 * textos.size());
     for (std::size_t i = 0; i < textos.size(); ++i) {
         for (std::size_t c = 0; c < 2; ++c)
@@ -115,7 +96,7 @@ TEST(LibroXls, MasFilasDeLasQueCabenSiguenEnOtraHojaConSuEncabezado) {
     hoja.Filas[2].Celdas.resize(300);
     hoja.Filas[2].Celdas[299].Valor = 1.0;  // past the last column
 
-    const auto lineas = Volcar(libro);
+    const auto lineas = prueba::VolcarXls(libro);
     EXPECT_EQ(lineas[0], "hoja Hoja1 65536x2 fijas 1");
     const auto segunda =
         std::find_if(lineas.begin() + 1, lineas.end(), [](auto& l) { return l.starts_with("hoja "); });
@@ -132,7 +113,7 @@ TEST(LibroXls, NombresDeHojaSeAdmitenYNoSeRepiten) {
          {"N+3.00/A", "n+3.00:a", "", "", "Un nombre de hoja que pasa de treinta y un caracteres"})
         libro.Hojas.emplace_back().Nombre = nombre;
     std::vector<std::string> nombres;
-    for (const std::string& linea : Volcar(libro)) {
+    for (const std::string& linea : prueba::VolcarXls(libro)) {
         if (linea.starts_with("hoja ")) nombres.push_back(linea.substr(5, linea.find(" 0x0") - 5));
     }
     EXPECT_THAT(nombres, testing::ElementsAre("N+3.00 A", "n+3.00 a (2)", "Hoja1", "Hoja2",
@@ -140,13 +121,13 @@ TEST(LibroXls, NombresDeHojaSeAdmitenYNoSeRepiten) {
 }
 
 TEST(LibroXls, UnLibroVacioYUnoConImagenesSeAbren) {
-    EXPECT_THAT(Volcar({}), Contains("hoja Hoja1 0x0 fijas 0"));
+    EXPECT_THAT(prueba::VolcarXls({}), Contains("hoja Hoja1 0x0 fijas 0"));
     LibroXls libro{.Titulo = "Título", .Autor = "ING. NÚÑEZ"};
     HojaXls& hoja = libro.Hojas.emplace_back();
     CeldaEn(hoja, 0, 0).Valor = "antes";
     hoja.Imagenes = {{std::string("\x89PNG") + std::string(20000, '\1'), 1, 0, 300, 200},
                      {"no es imagen", 0, 0, 10, 10}};
-    EXPECT_THAT(Volcar(libro), Contains(StartsWith("0,0 'antes'")));
+    EXPECT_THAT(prueba::VolcarXls(libro), Contains(StartsWith("0,0 'antes'")));
     const std::string bytes = BytesXls(libro);
     EXPECT_NE(bytes.find("ING. N"), std::string::npos);
     EXPECT_EQ(bytes.find("no es imagen"), std::string::npos);
