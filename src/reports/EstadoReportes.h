@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 
 #include "store/Recordset.h"
 
@@ -12,8 +13,12 @@ struct EstadoReportes {
     std::uint8_t OpcionExportarLosas = 0;  ///< 0 the selected slab, 1 all slabs
     bool ExportarDesplazamientos = false;  ///< the report shows the joints' displacements
     std::uint8_t OpcionGrafico = 0;        ///< which drawings: see GuardeGraficos.h
-    bool GenerandoReporte = false;         ///< calculations must not touch the window
-    bool ExportandoGrafico = false;        ///< a drawing is being made for a picture or a report
+    bool PapelA4 = false;  ///< paper of the drawings whose dialog asks for it: A4, or else letter
+    bool Apaisado = true;  ///< and lying, or else upright
+    std::filesystem::path
+        CarpetaGraficos{};           ///< where a picture was last saved in this run; empty: nowhere yet
+    bool GenerandoReporte = false;   ///< calculations must not touch the window
+    bool ExportandoGrafico = false;  ///< a drawing is being made for a picture or a report
 };
 
 /// Raises a flag for as long as it lives, whichever way it is left.

@@ -1,7 +1,7 @@
 #include "reports/ImagenDePaleta.h"
 
 #include <algorithm>
-#include <functional>
+#include <limits>
 #include <unordered_map>
 #include <utility>
 
@@ -10,6 +10,7 @@ namespace trabex {
 namespace {
 
 constexpr std::size_t Colores = 256;
+constexpr std::size_t ColoresFrecuentes = 128;
 constexpr std::size_t CabeceraDeArchivo = 14, CabeceraDeImagen = 40;
 constexpr std::size_t Rle8 = 1;
 constexpr std::size_t MayorTramo = 255;
@@ -38,25 +39,46 @@ void PorTramos(std::span<const Rgb> pixeles, Accion accion) {
     }
 }
 
-/// Numbers of the colours: the most frequent ones are the palette.
+/// A colour of a picture, with the nearest entry of the palette so far.
+struct ColorContado {
+    Rgb Color;
+    std::size_t Veces;
+    std::size_t Cercano = 0;
+    std::uint32_t Lejania = std::numeric_limits<std::uint32_t>::max();
+};
+
+/// The palette takes a colour in.
+void Admitir(std::vector<Rgb>& paleta, std::vector<ColorContado>& colores, Rgb color) {
+    for (ColorContado& c : colores) {
+        const std::uint32_t distancia = Distancia(c.Color, color);
+        if (distancia >= c.Lejania) continue;
+        c.Lejania = distancia;
+        c.Cercano = paleta.size();
+    }
+    paleta.push_back(color);
+}
+
+/// Numbers of the colours. The palette holds the most frequent ones, and then those that are farthest from
+/// it.
 std::unordered_map<Rgb, std::uint8_t> Numerar(std::span<const Rgb> pixeles, std::vector<Rgb>& paleta) {
     std::unordered_map<Rgb, std::size_t> veces;
     PorTramos(pixeles, [&](std::size_t, std::size_t largo, Rgb color) { veces[color] += largo; });
-    std::vector<std::pair<std::size_t, Rgb>> orden;
-    orden.reserve(veces.size());
-    for (const auto& [color, cuenta] : veces) orden.emplace_back(cuenta, color);
-    std::sort(orden.begin(), orden.end(), std::greater<>());
-    for (std::size_t i = 0; i < std::min(orden.size(), Colores); ++i) paleta.push_back(orden[i].second);
-    std::unordered_map<Rgb, std::uint8_t> numeros;
-    for (std::size_t i = 0; i < orden.size(); ++i) {
-        const Rgb color = orden[i].second;
-        const auto cercano = i < paleta.size()
-                                 ? paleta.begin() + static_cast<std::ptrdiff_t>(i)
-                                 : std::min_element(paleta.begin(), paleta.end(), [color](Rgb a, Rgb b) {
-                                       return Distancia(a, color) < Distancia(b, color);
-                                   });
-        numeros[color] = static_cast<std::uint8_t>(cercano - paleta.begin());
+    std::vector<ColorContado> colores;
+    colores.reserve(veces.size());
+    for (const auto& [color, cuenta] : veces) colores.push_back({color, cuenta});
+    std::sort(colores.begin(), colores.end(), [](const ColorContado& a, const ColorContado& b) {
+        return std::pair(b.Veces, b.Color) < std::pair(a.Veces, a.Color);
+    });
+    const std::size_t frecuentes = colores.size() <= Colores ? colores.size() : ColoresFrecuentes;
+    for (std::size_t i = 0; i < frecuentes; ++i) Admitir(paleta, colores, colores[i].Color);
+    while (paleta.size() < std::min(Colores, colores.size())) {
+        const auto lejano = std::max_element(
+            colores.begin(), colores.end(),
+            [](const ColorContado& a, const ColorContado& b) { return a.Lejania < b.Lejania; });
+        Admitir(paleta, colores, lejano->Color);
     }
+    std::unordered_map<Rgb, std::uint8_t> numeros;
+    for (const ColorContado& c : colores) numeros[c.Color] = static_cast<std::uint8_t>(c.Cercano);
     return numeros;
 }
 

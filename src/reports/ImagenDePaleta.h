@@ -19,9 +19,9 @@ struct ImagenDePaleta {
     std::int32_t PuntosPorMetro = 0;  ///< 0 when unknown
 };
 
-/// Reduces a picture of `ancho` by `alto` pixels (0xRRGGBB in its low bits, rows from the top) to its 256
-/// most frequent colours; the rest, of which drawings have a few along the edges of their letters, take the
-/// nearest of those.
+/// Reduces a picture of `ancho` by `alto` pixels (0xRRGGBB in its low bits, rows from the top) to 256
+/// colours: those of its surfaces stay as they are, and the many of the soft edges of letters and lines
+/// become ones that the eye can't tell from them.
 ImagenDePaleta ReducirColores(std::span<const std::uint32_t> pixeles, std::size_t ancho, std::size_t alto);
 
 /// The picture as a Windows bitmap file of 8 bits a pixel, run-length encoded.
