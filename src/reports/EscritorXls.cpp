@@ -15,7 +15,6 @@ constexpr double AltoDeFila = 12.75;
 constexpr double AnchoDeLetra = 0.55;  ///< mean width of a letter, in sizes of the font
 constexpr double MenorAncho = 36;      ///< of a column
 constexpr std::size_t ColumnasSinTablas = 6;
-constexpr double AnchoSinTablas = 90;
 constexpr std::size_t MayorEncabezadoFijo = 16;  ///< rows that may stay while the rest scrolls
 
 constexpr std::uint32_t FondoTitulos = 0xE6EDF4, LineaTitulos = 0xB9C6D3, LineaDatos = 0xD9DFE5;
@@ -114,7 +113,28 @@ class EscritorDeHoja {
                 hoja_.Anchos[c] = std::max({hoja_.Anchos[c], tabla->Columnas[c].Ancho * PuntosPorMilimetro,
                                             AnchoDeNumeros(*tabla, c)});
         }
-        if (hoja_.Anchos.empty()) hoja_.Anchos.assign(ColumnasSinTablas, AnchoSinTablas);
+        if (hoja_.Anchos.empty())
+            hoja_.Anchos.assign(ColumnasSinTablas, SitioDePagina().Ancho / ColumnasSinTablas);
+    }
+
+    /// What a page holds of the sheet, in points, when the sheet's columns are shrunk to its width.
+    MedidaHoja SitioDePagina() const {
+        const MedidaHoja hoja = MedidaDe(documento_.Hoja);
+        const PaginaXls& p = hoja_.Pagina;
+        const double ancho = hoja.Ancho * PuntosPorMilimetro - p.Izquierdo - p.Derecho;
+        const double alto = hoja.Alto * PuntosPorMilimetro - p.Superior - p.Inferior;
+        const double escala = std::min(1.0, ancho / std::max(AnchoTotal(), 1.0));
+        return {ancho, alto / escala};
+    }
+    /// A picture that would lie over the end of a page begins the next one.
+    void SaltarSiNoCabe(double alto) {
+        double ocupado = 0;
+        const std::size_t inicio = hoja_.SaltosDePagina.empty() ? 0 : hoja_.SaltosDePagina.back();
+        for (std::size_t f = inicio; f < fila_; ++f) {
+            const double propio = f < hoja_.Filas.size() ? hoja_.Filas[f].Alto : 0;
+            ocupado += propio > 0 ? propio : AltoDeFila;
+        }
+        if (fila_ > inicio && ocupado + alto > SitioDePagina().Alto) hoja_.SaltosDePagina.push_back(fila_);
     }
 
     /// A number wider than its column would show as a row of signs.
@@ -278,13 +298,13 @@ class EscritorDeHoja {
         if (!png) {
             Poner(Parrafo{ImagenIlegible, false});
         } else {
-            const MedidaHoja hoja = MedidaDe(documento_.Hoja);
-            const Pagina& p = documento_.Hoja;
-            const MedidaHoja medida = MedidaDe(imagen, png->Ancho, png->Alto,
-                                               {hoja.Ancho - p.MargenIzquierdo - p.MargenDerecho,
-                                                hoja.Alto - p.MargenSuperior - p.MargenInferior});
+            const MedidaHoja sitio = SitioDePagina();
+            const MedidaHoja medida = MedidaDe(
+                imagen, png->Ancho, png->Alto,
+                {sitio.Ancho / PuntosPorMilimetro, (sitio.Alto - 2 * AltoDeFila) / PuntosPorMilimetro});
             const auto* bytes = reinterpret_cast<const char*>(png->Archivo.data());
             const double alto = medida.Alto * PuntosPorMilimetro;
+            SaltarSiNoCabe(alto + 2 * AltoDeFila);  // with its caption
             hoja_.Imagenes.push_back(
                 {std::string(bytes, png->Archivo.size()), fila_, 0, medida.Ancho * PuntosPorMilimetro, alto});
             fila_ += static_cast<std::size_t>(std::ceil(alto / AltoDeFila)) + 1;
