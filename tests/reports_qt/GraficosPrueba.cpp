@@ -9,8 +9,8 @@
 
 #include "drawing/GraficoLosa.h"
 #include "drawing/qt/ImagenDeHoja.h"
-#include "reports/qt/SuperficieQt.h"
 #include "reports/qt/PanelProgresoQt.h"
+#include "reports/qt/SuperficieQt.h"
 #include "reports/qt/VentanaExportarGrafico.h"
 #include "reports/qt/VentanaOpcionesReporte.h"
 #include "slab/CalcularLosa.h"
