@@ -7,6 +7,8 @@
 
 #include <png.h>
 
+#include "reports/ImagenDePaleta.h"
+
 namespace trabex {
 
 namespace {
@@ -128,6 +130,7 @@ std::uint32_t EnteroDeRed(const Bytes& archivo, std::size_t lugar) {
 }  // namespace
 
 std::optional<MapaDeBits> LeerMapaDeBits(const Bytes& archivo) {
+    if (const auto plano = MapaSinComprimir(archivo)) return LeerMapaDeBits(*plano);
     const auto cabecera = LeerCabecera(archivo);
     if (!cabecera) return std::nullopt;
     MapaDeBits mapa{cabecera->Ancho, cabecera->Alto, {}};

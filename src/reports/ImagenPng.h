@@ -15,8 +15,8 @@ struct MapaDeBits {
     std::vector<std::uint8_t> Pixeles;
 };
 
-/// Reads a Windows bitmap file without compression: 1, 4, 8, 24 or 32 bits a pixel, of either direction.
-/// Nothing when the bytes are not one.
+/// Reads a Windows bitmap file: 1, 4, 8, 24 or 32 bits a pixel without compression, of either direction, or 8
+/// bits run-length encoded. Nothing when the bytes are not one.
 std::optional<MapaDeBits> LeerMapaDeBits(const Bytes& archivo);
 
 /// A picture as the bytes of a PNG file, and its size in pixels.

@@ -5,6 +5,7 @@
 #include "reports/Componer.h"
 #include "reports/EscritorHtml.h"
 #include "reports/EscritorRtf.h"
+#include "reports/EscritorXls.h"
 
 namespace trabex {
 
@@ -33,6 +34,7 @@ const Documento& Reporte::Contenido() {
 MotorReportes::MotorReportes() {
     Registrar(FormatoHtml, EscribirHtml);
     Registrar(FormatoRtf, EscribirRtf);
+    Registrar(FormatoXls, EscribirXls);
 }
 
 void MotorReportes::Registrar(int codigo, EscritorReporte escritor) {

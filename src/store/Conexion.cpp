@@ -34,7 +34,8 @@ void IndexarNombres(Motor& motor) {
         nombres.emplace_back(reinterpret_cast<const char*>(sqlite3_column_text(tablas.get(), 0)));
     for (const std::string& tabla : nombres) {
         const std::string sobre = Identificador(tabla);
-        motor.Correr("CREATE INDEX " + Identificador("Nombre" + tabla) + " ON " + sobre + " (Nombre)");
+        motor.Correr("CREATE INDEX IF NOT EXISTS " + Identificador("Nombre" + tabla) + " ON " + sobre +
+                     " (Nombre)");
     }
 }
 
@@ -68,13 +69,13 @@ void CopiarEnMemoria(Conexion& origen, Conexion& copia) {
     const bool hecha = origen.Abierta() && motor->Abierto() && CopiarBase(*motor, *origen.motor());
     copia.motor_ = hecha ? std::move(motor) : nullptr;
     copia.fallida_ = !hecha;
+    if (hecha) IndexarNombres(*copia.motor_);
 }
 
 void AbrirCopiaEnMemoria(Conexion& conexion, const std::filesystem::path& camino) {
     Conexion archivo;
     AbrirConexion(archivo, camino);
     CopiarEnMemoria(archivo, conexion);
-    if (conexion.Abierta()) IndexarNombres(*conexion.motor());
 }
 
 Transaccion::Transaccion(Conexion& conexion) : motor_(conexion.motor()) {

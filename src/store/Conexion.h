@@ -39,11 +39,12 @@ class Conexion {
 /// exist and be a sound database: otherwise ConexionFallida is set and the file is left as it is.
 void AbrirConexion(Conexion& conexion, const std::filesystem::path& camino);
 
-/// Makes `copia` a connection to a private copy in memory of what `origen` holds: what is written to it
-/// reaches no file. When `origen` is not open, or can't be read, ConexionFallida is set.
+/// Makes `copia` a connection to a private copy in memory of what `origen` holds, with its names indexed: for
+/// whole projects to be read. What is written to it reaches no file. When `origen` is not open, or can't be
+/// read, ConexionFallida is set.
 void CopiarEnMemoria(Conexion& origen, Conexion& copia);
 
-/// As AbrirConexion, on such a copy with its names indexed. For programs that only read whole projects.
+/// As AbrirConexion, on such a copy.
 void AbrirCopiaEnMemoria(Conexion& conexion, const std::filesystem::path& camino);
 
 /// One save: what runs between its making and `Confirmar` is stored together or not at all.

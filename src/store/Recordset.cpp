@@ -4,13 +4,12 @@
 #include <charconv>
 #include <optional>
 #include <system_error>
-#include <type_traits>
 #include <vector>
 
-#include "base/Formatos.h"
 #include "store/Columna.h"
 #include "store/Conexion.h"
 #include "store/Dialecto.h"
+#include "store/Ligadura.h"
 #include "store/Motor.h"
 
 namespace trabex {
@@ -52,29 +51,6 @@ Valor LeerColumna(sqlite3_stmt* sentencia, int i, const Columna& columna) {
 void Enlistar(std::string& lista, const std::string& parte) {
     if (!lista.empty()) lista += ", ";
     lista += parte;
-}
-
-void Ligar(sqlite3_stmt* sentencia, int i, const Valor& valor) {
-    const auto ligarTexto = [&](const std::string& texto) {
-        sqlite3_bind_text(sentencia, i, texto.data(), static_cast<int>(texto.size()), SQLITE_TRANSIENT);
-    };
-    std::visit(
-        [&](const auto& v) {
-            using T = std::decay_t<decltype(v)>;
-            if constexpr (std::is_same_v<T, std::monostate>)
-                sqlite3_bind_null(sentencia, i);
-            else if constexpr (std::is_same_v<T, double>)
-                sqlite3_bind_double(sentencia, i, v);
-            else if constexpr (std::is_same_v<T, std::string>)
-                ligarTexto(v);
-            else if constexpr (std::is_same_v<T, Fecha>)
-                ligarTexto(FechaIso(v));
-            else if constexpr (std::is_same_v<T, Bytes>)
-                sqlite3_bind_blob(sentencia, i, v.data(), static_cast<int>(v.size()), SQLITE_TRANSIENT);
-            else
-                sqlite3_bind_int64(sentencia, i, v);
-        },
-        valor);
 }
 
 }  // namespace

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace trabex::biff {
+
+/// Little-endian bytes, as every part of the format is made of.
+class Octetos {
+  public:
+    Octetos& U8(std::size_t valor) { return Entero(valor, 1); }
+    Octetos& U16(std::size_t valor) { return Entero(valor, 2); }
+    Octetos& U32(std::size_t valor) { return Entero(valor, 4); }
+    Octetos& F64(double valor);
+    Octetos& Crudo(std::string_view bytes) {
+        bytes_ += bytes;
+        return *this;
+    }
+    /// A text after its length in 8 or 16 bits, cut to `maximo` characters.
+    Octetos& TextoCorto(std::string_view utf8, std::size_t maximo = 255);
+    Octetos& TextoLargo(std::string_view utf8, std::size_t maximo);
+
+    const std::string& Bytes() const { return bytes_; }
+
+  private:
+    Octetos& Entero(std::size_t valor, int octetos);
+    std::string bytes_;
+};
+
+/// A text as the format keeps it: 8 bits a character where all of them lie in Latin-1, or else 16.
+class TextoBiff {
+  public:
+    explicit TextoBiff(std::string_view utf8, std::size_t maximo);
+    std::size_t Caracteres() const { return utf16_.size(); }
+    std::size_t OctetosPorCaracter() const { return ancho_; }
+    /// The flag byte, and `cuantos` characters from one on.
+    std::size_t Marca() const { return ancho_ - 1; }
+    std::string Trozo(std::size_t desde, std::size_t cuantos) const;
+
+  private:
+    std::u16string utf16_;
+    std::size_t ancho_;
+};
+
+inline constexpr std::size_t DatosPorRegistro = 8224;  ///< bytes that a record holds
+inline constexpr std::uint16_t Continuacion = 0x003C;
+
+/// Appends a record; data past its limit go into continuation records.
+void AgregarRegistro(std::string& flujo, std::uint16_t tipo, const Octetos& datos);
+
+}  // namespace trabex::biff

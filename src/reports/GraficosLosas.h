@@ -1,0 +1,23 @@
+#pragma once
+
+#include "drawing/GraficoLosa.h"
+#include "reports/PanelProgreso.h"
+#include "reports/ReporteLosas.h"
+#include "reports/SuperficieOculta.h"
+
+namespace trabex {
+
+/// Stages the drawings of slabs that `OpcionGrafico` asks for, in the scratch tables `Generales` and
+/// `Grafico`:
+///   0  the selected slab: geometry, forces, design
+///   1  every slab: geometry, forces, design
+///   2  every slab: geometry      3  every slab: forces      4  every slab: design
+///   5  every slab: reactions on the beams
+/// Each slab is read and calculated anew. Drawings are whole, whatever the screen's zoom; of `hoja`, the
+/// workspace's, they take the loads shown and the separators of numbers. `GenerandoReporte` and
+/// `ExportandoGrafico` are up meanwhile, and the panel shows. False when they could not be stored; the report
+/// is then empty.
+bool GuardeGraficos(const EntornoReportes& entorno, const ProyectoParaReporte& origen, const HojaLosa& hoja,
+                    SuperficieOculta& superficie, PanelProgreso& panel, EstadoReportes& estado);
+
+}  // namespace trabex

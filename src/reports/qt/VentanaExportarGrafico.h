@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QDialog>
+#include <functional>
+
+#include "drawing/Lienzo.h"
+#include "reports/ui/ExportarGrafico.h"
+
+class QButtonGroup;
+
+namespace trabex {
+
+class WidgetLienzo;
+
+/// Draws the current drawing of the calling workspace whole, through a viewport that is not the workspace's.
+using DibujoDeEspacio = std::function<void(Lienzo&, EstadoVista&)>;
+
+/// The window that shows a drawing with its own zoom and saves it as a picture.
+class VentanaExportarGrafico : public QDialog, private VistaExportarGrafico {
+  public:
+    VentanaExportarGrafico(EntornoGrafico entorno, DibujoDeEspacio dibujar, QWidget* padre);
+
+  private:
+    QLayout* Controles();
+    void Guardar(const std::filesystem::path& archivo, const FormatoGrafico& formato) override;
+
+    EntornoGrafico entorno_;
+    ExportarGrafico operaciones_;
+    DibujoDeEspacio dibujar_;
+    WidgetLienzo* lienzo_;
+    QButtonGroup* formatos_ = nullptr;
+};
+
+}  // namespace trabex

@@ -1,0 +1,40 @@
+#include "reports/ui/ExportarGrafico.h"
+
+namespace trabex {
+
+namespace {
+
+constexpr const char* Encabezado = "Exportar Gráficos...";
+
+}  // namespace
+
+std::filesystem::path ExportarGrafico::Carpeta() const {
+    const std::filesystem::path& ultima = entorno_.Estado.CarpetaGraficos;
+    return ultima.empty() ? entorno_.LaAplicacion.CaminoUsuario / "ReportesExportados" : ultima;
+}
+
+void ExportarGrafico::AbrirCarpeta() {
+    entorno_.LaPlataforma.AbrirCarpeta(Carpeta());
+}
+
+void ExportarGrafico::ExportarPantalla(const FormatoGrafico& formato) {
+    const auto archivo = entorno_.Dialogos.Elegir({.Titulo = "Salvar el Gráfico Seleccionado",
+                                                   .Filtro = formato.Filtro,
+                                                   .Carpeta = Carpeta(),
+                                                   .Guardar = true,
+                                                   .AvisarReemplazo = true});
+    if (!archivo) return;
+    try {
+        vista_.Guardar(*archivo, formato);
+    } catch (const ErrorEjecucion& error) {
+        entorno_.Caja.Mostrar(MensajeDeError(error, Encabezado));
+        return;
+    }
+    entorno_.Estado.CarpetaGraficos = archivo->parent_path();
+    Mensaje hecho;
+    hecho.Texto = "¡El Reporte se Exportó con Exito!";
+    hecho.Encabezado = Encabezado;
+    entorno_.Caja.Mostrar(hecho);
+}
+
+}  // namespace trabex

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <array>
+#include <filesystem>
+
+#include "drawing/Visor.h"
+#include "reports/EstadoReportes.h"
+#include "shell/Aplicacion.h"
+#include "shell/CajaMensajes.h"
+#include "shell/DialogosArchivo.h"
+#include "shell/Plataforma.h"
+
+namespace trabex {
+
+/// Kinds of picture file: option of the window, filter of the save dialog.
+struct FormatoGrafico {
+    const char* Opcion;
+    const char* Filtro;
+    const char* Clase;  ///< as image libraries name it
+};
+inline constexpr std::array<FormatoGrafico, 2> FormatosGrafico{{
+    {"Imagen en Formato de Mapa de Bits (BMP)", "Image (*.bmp)|*.bmp", "BMP"},
+    {"Imagen en Formato (JPG)", "Image (*.jpg)|*.jpg", "JPG"},
+}};
+
+/// What the operations ask of the window that shows the drawing.
+class VistaExportarGrafico {
+  public:
+    virtual ~VistaExportarGrafico() = default;
+    /// Saves the window's picture, a JPEG in quality 100. Throws ErrorEjecucion.
+    virtual void Guardar(const std::filesystem::path& archivo, const FormatoGrafico& formato) = 0;
+};
+
+/// What the window works with.
+struct EntornoGrafico {
+    Aplicacion& LaAplicacion;
+    EstadoReportes& Estado;
+    CajaMensajes& Caja;
+    DialogosArchivo& Dialogos;
+    Plataforma& LaPlataforma;
+};
+
+/// Shows the current drawing of a workspace in a window of its own and saves it as a picture. The viewport is
+/// the window's: the workspace's zoom stays as it is. While it lives, `ExportandoGrafico` is up, so that no
+/// grid is in the picture.
+class ExportarGrafico {
+  public:
+    ExportarGrafico(EntornoGrafico& entorno, VistaExportarGrafico& vista)
+        : entorno_(entorno), vista_(vista), exportando_(entorno.Estado.ExportandoGrafico) {
+        visor_.ExportandoGrafico = true;
+    }
+
+    EstadoVista& Viewport() { return visor_; }
+    /// Asks for a file, beginning in the folder of the last one, and saves the picture in it.
+    void ExportarPantalla(const FormatoGrafico& formato);
+    void AbrirCarpeta();
+
+  private:
+    std::filesystem::path Carpeta() const;
+
+    EntornoGrafico& entorno_;
+    VistaExportarGrafico& vista_;
+    BanderaEnAlto exportando_;
+    EstadoVista visor_;
+};
+
+}  // namespace trabex

@@ -1,0 +1,73 @@
+#include "store/Insercion.h"
+
+#include <string>
+#include <vector>
+
+#include "store/Columna.h"
+#include "store/Conexion.h"
+#include "store/Dialecto.h"
+#include "store/Ligadura.h"
+#include "store/Motor.h"
+
+namespace trabex {
+
+struct Insercion::Interna {
+    std::shared_ptr<Motor> motor;
+    std::vector<Columna> columnas;
+    std::vector<Valor> fila;
+    SentenciaSqlite sentencia{nullptr, sqlite3_finalize};
+};
+
+namespace {
+
+std::vector<Columna> ColumnasDe(Motor& motor, std::string_view tabla) {
+    std::vector<Columna> columnas;
+    const SentenciaSqlite sentencia = motor.Preparar("SELECT * FROM " + Identificador(tabla));
+    if (!sentencia) return columnas;
+    for (int i = 0; i < sqlite3_column_count(sentencia.get()); ++i) {
+        const char* tipo = sqlite3_column_decltype(sentencia.get(), i);
+        columnas.push_back(
+            LeerDeclaracion(sqlite3_column_name(sentencia.get(), i), tipo != nullptr ? tipo : ""));
+    }
+    return columnas;
+}
+
+}  // namespace
+
+Insercion::Insercion(Conexion& conexion, std::string_view tabla) {
+    if (!conexion.Abierta()) return;
+    auto interna = std::make_unique<Interna>();
+    interna->motor = conexion.motor();
+    interna->columnas = ColumnasDe(*interna->motor, tabla);
+    if (interna->columnas.empty()) return;
+    std::string marcas = "?";
+    for (std::size_t i = 1; i < interna->columnas.size(); ++i) marcas += ", ?";
+    interna->sentencia =
+        interna->motor->Preparar("INSERT INTO " + Identificador(tabla) + " VALUES (" + marcas + ")");
+    interna->fila.resize(interna->columnas.size());
+    if (interna->sentencia) interna_ = std::move(interna);
+}
+
+Insercion::~Insercion() = default;
+
+void Insercion::Poner(std::string_view campo, const Valor& valor) {
+    if (!interna_) return;
+    for (std::size_t i = 0; i < interna_->columnas.size(); ++i) {
+        if (interna_->columnas[i].Nombre != campo) continue;
+        interna_->fila[i] = Admitir(interna_->columnas[i], valor).value_or(Valor{});
+        return;
+    }
+}
+
+bool Insercion::Agregar() {
+    if (!interna_) return false;
+    for (std::size_t i = 0; i < interna_->fila.size(); ++i)
+        Ligar(interna_->sentencia.get(), static_cast<int>(i) + 1, interna_->fila[i]);
+    bool hayFila = false;
+    const bool hecho = interna_->motor->Avanzar(interna_->sentencia.get(), hayFila);
+    sqlite3_reset(interna_->sentencia.get());
+    interna_->fila.assign(interna_->fila.size(), Valor{});
+    return hecho;
+}
+
+}  // namespace trabex
