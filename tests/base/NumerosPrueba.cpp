@@ -144,8 +144,8 @@ TEST(Numeros, SeLeenConComaOPunto) {
           Caso{"1.234", 1.234}, Caso{"1.234,5", 1234.5}, Caso{"1,234,567.5", 1234567.5},
           Caso{"1.234.567", 1234567}, Caso{"0,1", 0.1}, Caso{"-9999999999,99", -9999999999.99}})
         EXPECT_EQ(LeerNumero(caso.texto), caso.valor) << caso.texto;
-    for (const char* texto :
-         {"", " ", "-", ".", "cinco", "5 m", "1e5", "1,2,3", "1.23.456", "12.34,5", "1.2345,6", "--1", "1,,2"})
+    for (const char* texto : {"", " ", "-", ".", "cinco", "5 m", "1e5", "1,2,3", "1.23.456", "12.34,5",
+                              "1.2345,6", "--1", "1,,2"})
         EXPECT_FALSE(LeerNumero(texto)) << texto;
 }
 

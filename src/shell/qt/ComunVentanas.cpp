@@ -78,6 +78,11 @@ void PrepararVentana(QWidget* ventana, const Tapiz& preferencias) {
     if (!recordada || !ventana->restoreGeometry(geometria)) CaberEnPantalla(ventana);
 }
 
+void TamanoInicial(QWidget* ventana, const QSize& tamano) {
+    const QSize marco(20, 50);  // what the desktop puts around it
+    ventana->resize(tamano.boundedTo(ventana->screen()->availableSize() - marco));
+}
+
 void MostrarModal(QDialog& ventana) {
     ventana.exec();
     if (ventana.parentWidget() != nullptr) ventana.parentWidget()->activateWindow();

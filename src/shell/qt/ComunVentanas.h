@@ -9,6 +9,7 @@
 class QDialog;
 class QLayout;
 class QPushButton;
+class QSize;
 class QWidget;
 
 namespace trabex {
@@ -33,8 +34,11 @@ void PrepararVentana(QWidget* ventana, const Tapiz& preferencias);
 /// Tool tips in the user's settings, as a style sheet.
 QString EstiloDeAyudas(const Tapiz& preferencias);
 
-/// Shows a window until it closes, and gives the keyboard back to the one below: where a message and the window
-/// that asked it close at once, the desktop may leave neither with it.
+/// The size of a window that was never opened before, as far as the screen gives it.
+void TamanoInicial(QWidget* ventana, const QSize& tamano);
+
+/// Shows a window until it closes, and gives the keyboard back to the one below: where a message and the
+/// window that asked it close at once, the desktop may leave neither with it.
 void MostrarModal(QDialog& ventana);
 
 /// A button with a line icon.

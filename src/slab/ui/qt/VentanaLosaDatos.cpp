@@ -94,7 +94,7 @@ VentanaLosaDatos::VentanaLosaDatos(Losas& losas, CajaMensajes& caja, QWidget* pa
     columna->addWidget(partes, 1);
     for (QPushButton* boton : findChildren<QPushButton*>()) boton->setAutoDefault(false);
     connect(paginas_, &QTabWidget::currentChanged, this, [this] { CambiarPagina(); });
-    resize(1060, 600);
+    TamanoInicial(this, {1060, 600});
     operaciones_.Abrir();
     PrepararVentana(this, losas_.Programa().Preferencias);
     primeros_[0]->setFocus();

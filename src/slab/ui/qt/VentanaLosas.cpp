@@ -60,7 +60,7 @@ VentanaLosas::VentanaLosas(Aplicacion& aplicacion, CajaMensajes& caja, DialogosA
     columna->addWidget(Barra());
     columna->addWidget(partes, 1);
     columna->addWidget(pie_);
-    resize(1100, 700);
+    TamanoInicial(this, {1100, 700});
     operaciones_.Abrir();
     PrepararVentana(this, aplicacion_.Preferencias);
     lista_->setFocus();
