@@ -12,13 +12,25 @@
 #include "shell/qt/PlataformaQt.h"
 #include "shell/qt/VentanaMenuPrincipal.h"
 #include "shell/qt/VentanaSplash.h"
+#include "slab/ui/qt/VentanaLosas.h"
 
 namespace {
 
-/// No element has its window yet; their commands are disabled.
-class SinEspacios : public trabex::EspaciosDeTrabajo {
+/// The windows of the elements that are built; the commands of the others are disabled.
+class Espacios : public trabex::EspaciosDeTrabajo {
   public:
-    void Mostrar(trabex::Espacio, QWidget*) override {}
+    Espacios(trabex::Aplicacion& aplicacion, trabex::CajaMensajes& caja, trabex::DialogosArchivo& dialogos)
+        : aplicacion_(aplicacion), caja_(caja), dialogos_(dialogos) {}
+
+    void Mostrar(trabex::Espacio espacio, QWidget* padre) override {
+        if (espacio == trabex::Espacio::Losas)
+            trabex::VentanaLosas(aplicacion_, caja_, dialogos_, {}, padre).exec();
+    }
+
+  private:
+    trabex::Aplicacion& aplicacion_;
+    trabex::CajaMensajes& caja_;
+    trabex::DialogosArchivo& dialogos_;
 };
 
 }  // namespace
@@ -36,7 +48,7 @@ int main(int argc, char** argv) {
     trabex::PlataformaQt plataforma;
     trabex::CajaMensajesQt caja;
     trabex::DialogosArchivoQt dialogos;
-    SinEspacios espacios;
+    Espacios espacios(aplicacion, caja, dialogos);
     std::unique_ptr<trabex::VentanaMenuPrincipal> menu;
     trabex::VentanaSplash splash([&] {
         menu =

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,15 @@ struct Separadores {
 /// significant digits that a double holds: 2.675 shows as 2.68. A value that rounds to zero has no sign.
 /// An infinity or NaN shows as an empty text.
 std::string Formato(double valor, std::string_view formato, const Separadores& separadores);
+
+/// A number as it is typed into a field or copied from a spreadsheet: comma or point before the decimals;
+/// where both stand, or one of them more than once, the thousands go by groups of three. Nothing when it is
+/// no number.
+std::optional<double> LeerNumero(std::string_view texto);
+
+/// `valor` as a field shows it for editing: up to 10 decimals, as many as it has and at least `decimales`; no
+/// thousands.
+std::string NumeroParaEditar(double valor, int decimales, const Separadores& separadores);
 
 /// `fecha` in the format "dd/MM/yyyy".
 std::string FormatoFecha(const Fecha& fecha);

@@ -29,6 +29,8 @@ struct Aplicacion {
     DatosDelProyecto Datos;
     DatosGenerales Generales;
     bool LosaModificada = false;  ///< a window saved something: the workspace calculates again
+    double UltimoHo = 0.25;  ///< depths of the slab last saved in this run, m: a new one starts with them
+    double UltimoHm = 0.2;
 };
 
 /// Version of the program, "24.0.0".

@@ -44,6 +44,18 @@ Mensaje MensajeDeError(const ErrorEjecucion& error, const std::string& encabezad
     return mensaje;
 }
 
+Mensaje MensajeSinGuardar() {
+    return MensajeDeError(ErrorEjecucion(CodigoError::ErrorAccesoRuta), ErrorInesperado);
+}
+
+Mensaje Aviso(const std::string& texto, const std::string& encabezado) {
+    Mensaje mensaje;
+    mensaje.Texto = texto;
+    mensaje.Encabezado = encabezado;
+    mensaje.Icono = IconoCaja::Advertencia;
+    return mensaje;
+}
+
 Mensaje Pregunta(const std::string& texto, const std::string& encabezado) {
     Mensaje mensaje;
     mensaje.Texto = texto;

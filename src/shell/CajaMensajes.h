@@ -70,6 +70,12 @@ int AnchoCaja(BotonesCaja botones, int anchoEncabezado, int anchoTexto);
 /// A run-time error in the fixed form, "Error Número: " and the code over its text.
 Mensaje MensajeDeError(const ErrorEjecucion& error, const std::string& encabezado);
 
+/// The same for a project that could not be written.
+Mensaje MensajeSinGuardar();
+
+/// A notice with one button.
+Mensaje Aviso(const std::string& texto, const std::string& encabezado);
+
 /// A question with two buttons, the first by default.
 Mensaje Pregunta(const std::string& texto, const std::string& encabezado);
 

@@ -28,7 +28,7 @@ inline constexpr std::array<Comando, 17> Comandos{{
     {"ID_ConfigurarPantalla", "CONFIGURAR PANTALLA...", Menu::Proyecto, "pantalla", false, true},
     {"ID_Explorador", "Explorador de Windows...", Menu::Proyecto, "carpeta", true, true},
     {"ID_Salida", "&SALIDA DEL PROGRAMA", Menu::Proyecto, "salida", false, true},
-    {"ID_LosasD", "ANÁLISIS Y DISEÑO DE LOSAS (EN UNA DIRECCIÓN)...", Menu::Calculo, "losa", true, false},
+    {"ID_LosasD", "ANÁLISIS Y DISEÑO DE LOSAS (EN UNA DIRECCIÓN)...", Menu::Calculo, "losa", true, true},
     {"ID_Marcus", "COEFICIENTES DE CARGA (MÉTODO DE MARKUS)...", Menu::Calculo, "markus", true, false},
     {"ID_CargaP", "ANÁLISIS DE CARGA DE LAS LOSAS...", Menu::Calculo, "carga", true, false},
     {"ID_Tijera", "ANÁLISIS Y DISEÑO DE ESCALERAS EN TIJERA...", Menu::Calculo, "escalera", true, false},

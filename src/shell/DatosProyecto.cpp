@@ -18,7 +18,7 @@ bool DatosProyecto::Salvar(const DatosDelProyecto& datos) {
     AbrirRecordset(conexion, registros, "Proyecto");
     const bool agregado = AgregarProyecto(registros, datos);
     if (!guardado.Confirmar() || !agregado) {
-        caja_.Mostrar(MensajeDeError(ErrorEjecucion(CodigoError::ErrorAccesoRuta), ErrorInesperado));
+        caja_.Mostrar(MensajeSinGuardar());
         return false;
     }
     aplicacion_.Datos = datos;

@@ -176,29 +176,35 @@ void MenuPrincipal::ModificarProyecto() {
     });
 }
 
+/// A workspace has its own open command: the title follows it.
+void MenuPrincipal::MostrarEspacio(Espacio espacio) {
+    vista_.MostrarEspacio(espacio);
+    vista_.PonerTitulo(TituloConProyecto(aplicacion_.NombreProyecto));
+}
+
 void MenuPrincipal::AnalisisLosas() {
-    ConProyecto([this] { vista_.MostrarEspacio(Espacio::Losas); });
+    ConProyecto([this] { MostrarEspacio(Espacio::Losas); });
 }
 
 void MenuPrincipal::CoeficientesMarcus() {
-    ConProyecto([this] { vista_.MostrarEspacio(Espacio::Marcus); });
+    ConProyecto([this] { MostrarEspacio(Espacio::Marcus); });
 }
 
 void MenuPrincipal::VerAnalisisCargaP() {
-    ConProyecto([this] { vista_.MostrarEspacio(Espacio::AnalisisCargaP); });
+    ConProyecto([this] { MostrarEspacio(Espacio::AnalisisCargaP); });
 }
 
 void MenuPrincipal::EjecutarEscalerasTijera() {
     ConProyecto([this] {
         aplicacion_.EscaleraHelicoidal = false;
-        vista_.MostrarEspacio(Espacio::EscaleraT);
+        MostrarEspacio(Espacio::EscaleraT);
     });
 }
 
 void MenuPrincipal::EjecutarEscaleraH() {
     ConProyecto([this] {
         aplicacion_.EscaleraHelicoidal = true;
-        vista_.MostrarEspacio(Espacio::EscaleraH);
+        MostrarEspacio(Espacio::EscaleraH);
     });
 }
 

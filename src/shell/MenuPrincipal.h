@@ -71,6 +71,7 @@ class MenuPrincipal {
     /// Runs `mostrar` with a project: with none it first lets the user open one.
     template <class Mostrar>
     void ConProyecto(Mostrar mostrar);
+    void MostrarEspacio(Espacio espacio);
     void HacerActual(const std::filesystem::path& archivo);
     void Reemplazar(const std::filesystem::path& archivo);
 

@@ -134,5 +134,30 @@ TEST(RefuerzoFlexion, LaTensionDelAceroComprimidoSigueALaResistenciaDelConcreto)
     }
 }
 
+TEST(Numeros, SeLeenConComaOPunto) {
+    struct Caso {
+        const char* texto;
+        double valor;
+    };
+    for (const Caso& caso :
+         {Caso{"5", 5}, Caso{" 5,25 ", 5.25}, Caso{"5.25", 5.25}, Caso{"-,5", -0.5}, Caso{"7.", 7},
+          Caso{"1.234", 1.234}, Caso{"1.234,5", 1234.5}, Caso{"1,234,567.5", 1234567.5},
+          Caso{"1.234.567", 1234567}, Caso{"0,1", 0.1}, Caso{"-9999999999,99", -9999999999.99}})
+        EXPECT_EQ(LeerNumero(caso.texto), caso.valor) << caso.texto;
+    for (const char* texto : {"", " ", "-", ".", "cinco", "5 m", "1e5", "1,2,3", "1.23.456", "12.34,5",
+                              "1.2345,6", "--1", "1,,2"})
+        EXPECT_FALSE(LeerNumero(texto)) << texto;
+}
+
+TEST(Numeros, SeEditanConLosDecimalesQueTienen) {
+    const Separadores comas{".", ","};
+    EXPECT_EQ(NumeroParaEditar(5.2, 2, comas), "5,20");
+    EXPECT_EQ(NumeroParaEditar(5.255, 2, comas), "5,255");
+    EXPECT_EQ(NumeroParaEditar(12345, 0, comas), "12345");
+    EXPECT_EQ(NumeroParaEditar(100, 2, comas), "100,00");
+    EXPECT_EQ(NumeroParaEditar(-0.1, 0, {",", "."}), "-0.1");
+    EXPECT_EQ(NumeroParaEditar(0, 2, comas), "0,00");
+}
+
 }  // namespace
 }  // namespace trabex

@@ -51,9 +51,12 @@ void CaberEnPantalla(QWidget* ventana) {
 
 }  // namespace
 
+QString TextoDeAyuda(const QString& titulo, const QString& texto) {
+    return "<b>" + titulo.toHtmlEscaped() + "</b><br>" + texto.toHtmlEscaped().replace('\n', "<br>");
+}
+
 void PonerAyuda(QWidget* control, const QString& titulo, const QString& texto) {
-    control->setToolTip("<b>" + titulo.toHtmlEscaped() + "</b><br>" +
-                        texto.toHtmlEscaped().replace('\n', "<br>"));
+    control->setToolTip(TextoDeAyuda(titulo, texto));
     control->setAccessibleDescription(texto);
 }
 
@@ -73,6 +76,16 @@ void PrepararVentana(QWidget* ventana, const Tapiz& preferencias) {
     const QByteArray geometria = QSettings().value("geometria/" + ventana->objectName()).toByteArray();
     const bool recordada = !ventana->objectName().isEmpty() && !geometria.isEmpty();
     if (!recordada || !ventana->restoreGeometry(geometria)) CaberEnPantalla(ventana);
+}
+
+void TamanoInicial(QWidget* ventana, const QSize& tamano) {
+    const QSize marco(20, 50);  // what the desktop puts around it
+    ventana->resize(tamano.boundedTo(ventana->screen()->availableSize() - marco));
+}
+
+void MostrarModal(QDialog& ventana) {
+    ventana.exec();
+    if (ventana.parentWidget() != nullptr) ventana.parentWidget()->activateWindow();
 }
 
 QPushButton* Boton(const QString& texto, const QString& icono, QWidget* padre) {

@@ -9,6 +9,7 @@
 class QDialog;
 class QLayout;
 class QPushButton;
+class QSize;
 class QWidget;
 
 namespace trabex {
@@ -20,7 +21,10 @@ inline std::string S(const QString& texto) {
     return texto.toStdString();
 }
 
-/// Sets a tool tip: a title over its text.
+/// A tool tip: a title over its text.
+QString TextoDeAyuda(const QString& titulo, const QString& texto);
+
+/// Sets a control's tool tip.
 void PonerAyuda(QWidget* control, const QString& titulo, const QString& texto);
 
 /// The set-up that every window calls when it loads: the user's tool-tip settings on all that the window
@@ -29,6 +33,13 @@ void PrepararVentana(QWidget* ventana, const Tapiz& preferencias);
 
 /// Tool tips in the user's settings, as a style sheet.
 QString EstiloDeAyudas(const Tapiz& preferencias);
+
+/// The size of a window that was never opened before, as far as the screen gives it.
+void TamanoInicial(QWidget* ventana, const QSize& tamano);
+
+/// Shows a window until it closes, and gives the keyboard back to the one below: where a message and the
+/// window that asked it close at once, the desktop may leave neither with it.
+void MostrarModal(QDialog& ventana);
 
 /// A button with a line icon.
 QPushButton* Boton(const QString& texto, const QString& icono, QWidget* padre);

@@ -2,38 +2,21 @@
 
 #include <QFormLayout>
 #include <QGroupBox>
-#include <QIntValidator>
 #include <QLabel>
-#include <QLineEdit>
-#include <QLocale>
 #include <QPushButton>
-#include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 
+#include "shell/qt/CampoNumero.h"
 #include "shell/qt/ComunVentanas.h"
 
 namespace trabex {
 
 namespace {
 
-/// A field that takes numbers with comma or point.
-QLineEdit* CampoNumerico(QWidget* padre) {
-    auto* campo = new QLineEdit(padre);
-    campo->setAlignment(Qt::AlignRight);
-    campo->setFixedWidth(110);
-    campo->setValidator(
-        new QRegularExpressionValidator(QRegularExpression("-?\\d{0,10}([.,]\\d{0,8})?"), campo));
-    return campo;
-}
+constexpr ClaseNumero EnteroDe16{true, -32768, 32767, 0};
 
-QLocale SinMiles() {
-    QLocale local = QLocale::c();
-    local.setNumberOptions(QLocale::RejectGroupSeparator);
-    return local;
-}
-
-QString TextoDe(double valor, const Separadores& separadores) {
-    return QString::number(valor, 'g', 15).replace('.', Q(separadores.Decimal));
+bool EsEntero(std::size_t campo) {
+    return campo <= static_cast<std::size_t>(CampoLosaGeneral::FY);
 }
 
 }  // namespace
@@ -67,18 +50,14 @@ void VentanaLosaGeneral::Armar() {
         auto* formulario = new QFormLayout(caja);
         for (const char* rotulo : marco.Rotulos) {
             if (rotulo == nullptr) continue;
-            campos_[campo] = CampoNumerico(caja);
+            campos_[campo] = new CampoNumero(EsEntero(campo) ? EnteroDe16 : ClaseNumero{},
+                                             aplicacion_.SeparadoresLocales, caja);
             auto* etiqueta = new QLabel(rotulo, caja);
             etiqueta->setMinimumWidth(etiqueta->fontMetrics().horizontalAdvance(marcos[0].Rotulos[0]) + 8);
             formulario->addRow(etiqueta, campos_[campo++]);
         }
         columna->addWidget(caja);
     }
-    // Whole numbers of 16 bits, without marks of thousands: "4.200" must not be taken for 4.
-    auto* entero16 = new QIntValidator(-32768, 32767, this);
-    entero16->setLocale(SinMiles());
-    for (const CampoLosaGeneral entero : {CampoLosaGeneral::FC, CampoLosaGeneral::FY})
-        campos_[static_cast<std::size_t>(entero)]->setValidator(entero16);
     columna->addStretch(1);
     columna->addLayout(FilaAceptarCancelar(this, [this] { Aceptar(); }));
 }
@@ -86,14 +65,11 @@ void VentanaLosaGeneral::Armar() {
 void VentanaLosaGeneral::Mostrar(const DatosGenerales& g) {
     const std::array<double, 7> valores{
         static_cast<double>(g.FC), static_cast<double>(g.FY), g.D8, g.FCP, g.FCV, g.FiMomento, g.FiCorte};
-    for (std::size_t i = 0; i < valores.size(); ++i)
-        campos_[i]->setText(TextoDe(valores[i], aplicacion_.SeparadoresLocales));
+    for (std::size_t i = 0; i < valores.size(); ++i) campos_[i]->PonerValor(valores[i]);
 }
 
-/// A field's number; 0, which takes the focus, when it holds none or one out of its range.
 double VentanaLosaGeneral::Numero(CampoLosaGeneral campo) const {
-    const QLineEdit* entrada = campos_[static_cast<std::size_t>(campo)];
-    return entrada->hasAcceptableInput() ? entrada->text().replace(',', '.').toDouble() : 0;
+    return campos_[static_cast<std::size_t>(campo)]->Valor();
 }
 
 DatosGenerales VentanaLosaGeneral::Entrados() const {
@@ -110,13 +86,12 @@ DatosGenerales VentanaLosaGeneral::Entrados() const {
 void VentanaLosaGeneral::Aceptar() {
     const DatosGenerales entrados = Entrados();
     if (const auto cero = LosaGeneral::PrimerCero(entrados)) {
-        QLineEdit* campo = campos_[static_cast<std::size_t>(*cero)];
+        CampoNumero* campo = campos_[static_cast<std::size_t>(*cero)];
         campo->setFocus();
         campo->selectAll();
         return;
     }
-    if (!operaciones_.Aceptar(entrados))
-        caja_.Mostrar(MensajeDeError(ErrorEjecucion(CodigoError::ErrorAccesoRuta), ErrorInesperado));
+    if (!operaciones_.Aceptar(entrados)) caja_.Mostrar(MensajeSinGuardar());
     aplicacion_.LosaModificada = true;
     accept();
 }

@@ -7,9 +7,9 @@
 #include "shell/CajaMensajes.h"
 #include "slab/ui/LosaGeneral.h"
 
-class QLineEdit;
-
 namespace trabex {
+
+class CampoNumero;
 
 /// Edits the design parameters of all slabs of the project that is connected.
 class VentanaLosaGeneral : public QDialog {
@@ -26,7 +26,7 @@ class VentanaLosaGeneral : public QDialog {
     Aplicacion& aplicacion_;
     CajaMensajes& caja_;
     LosaGeneral operaciones_;
-    std::array<QLineEdit*, 7> campos_{};
+    std::array<CampoNumero*, 7> campos_{};
 };
 
 }  // namespace trabex

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "shell/CajaMensajes.h"
+#include "store/Conexion.h"
+
+namespace trabex {
+
+/// A kind of element as the rename window names it.
+struct ClaseRenombrable {
+    std::string_view Tabla;     ///< where its names are
+    std::string_view YaExiste;  ///< of a name that is taken, below the name itself
+    std::string_view Pregunta;  ///< before the old name
+};
+
+inline constexpr ClaseRenombrable RenombrarLosa{
+    "LosaDatos", "Este Nombre ya Existe en las Losas del Proyecto...", "Renombrar la Losa: "};
+
+/// Operations of the window that asks for an element's new name. It writes nothing: the workspace does.
+class Renombrar {
+  public:
+    Renombrar(Conexion& conexion, CajaMensajes& caja, const ClaseRenombrable& clase, std::string actual)
+        : conexion_(conexion), caja_(caja), clase_(clase), actual_(std::move(actual)) {}
+
+    const std::string& NombreActual() const { return actual_; }
+    /// The name that was accepted, without the blanks around it.
+    const std::string& NombreNuevo() const { return nuevo_; }
+
+    /// " Aceptar ": true when the name is free and the user is sure; the window then closes.
+    bool Aceptar(const std::string& entrado);
+
+  private:
+    Conexion& conexion_;
+    CajaMensajes& caja_;
+    const ClaseRenombrable& clase_;
+    std::string actual_;
+    std::string nuevo_;
+};
+
+/// Some record of `tabla` has that name. A name that holds a quote counts as taken wherever the table has
+/// records: its search breaks.
+bool ExisteNombre(Conexion& conexion, std::string_view tabla, const std::string& nombre);
+
+}  // namespace trabex

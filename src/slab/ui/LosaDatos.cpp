@@ -1,0 +1,234 @@
+#include "slab/ui/LosaDatos.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+#include "base/Enteros.h"
+#include "store/TablasLosa.h"
+
+namespace trabex {
+
+namespace {
+
+constexpr double Losa::*CampoDe(CampoSeccion campo) {
+    constexpr std::array<double Losa::*, 5> campos{&Losa::Bo, &Losa::Ho, &Losa::So, &Losa::Loseta, &Losa::Hm};
+    return campos[static_cast<std::size_t>(campo)];
+}
+
+/// The first field that may not be 0 and is.
+std::optional<CampoSeccion> PrimerCero(const Losa& losa) {
+    if (losa.OpcionMaciza) return losa.Hm == 0 ? std::optional(CampoSeccion::Hm) : std::nullopt;
+    for (const CampoSeccion campo : {CampoSeccion::Bo, CampoSeccion::Ho, CampoSeccion::So}) {
+        if (losa.*CampoDe(campo) == 0) return campo;
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+LosaDatos::LosaDatos(Losas& losas, VistaLosaDatos& vista, CajaMensajes& caja)
+    : losas_(losas), vista_(vista), caja_(caja) {}
+
+void LosaDatos::Abrir() {
+    losas_.Programa().LosaModificada = false;
+    edicion_ = losas_.Estado().Abierta;
+    edicion_.Ejes.resize(edicion_.Tramos.size() + 1);  // one joint more than spans, whatever the file held
+    tramo_ = std::min<std::size_t>(1, NumeroDeTramos());
+    vista_.Rellenar();
+    cambios_ = false;
+}
+
+std::string LosaDatos::LeyendaDeCargas() const {
+    return std::string("Cargas de Servicio en los Tramos por ") +
+           (edicion_.OpcionMaciza ? "metro lineal" : "Nervio");
+}
+
+void LosaDatos::Cambiado() {
+    cambios_ = true;
+    vista_.Redibujar();
+}
+
+void LosaDatos::PonerMaciza(bool maciza) {
+    edicion_.OpcionMaciza = maciza;
+    Cambiado();
+}
+
+void LosaDatos::PonerSeccion(CampoSeccion campo, double valor) {
+    edicion_.*CampoDe(campo) = valor;
+    Cambiado();
+}
+
+double LosaDatos::Seccion(CampoSeccion campo) const {
+    return edicion_.*CampoDe(campo);
+}
+
+void LosaDatos::PonerNumeroTramos(std::size_t tramos) {
+    edicion_.Tramos.resize(tramos + 1);
+    edicion_.Ejes.resize(tramos + 2);
+    for (std::size_t j = 1; j < edicion_.Ejes.size(); ++j) {
+        if (edicion_.Ejes[j].Tipo == 0) edicion_.Ejes[j].Tipo = ApoyoFijo;
+    }
+    const auto perdida = [&](const JuntaD& junta) { return junta.Junta > static_cast<int>(tramos) + 1; };
+    std::erase_if(edicion_.JuntasD, perdida);
+    tramo_ = tramos == 0 ? 0 : std::clamp<std::size_t>(tramo_, 1, tramos);
+    cambios_ = true;
+    vista_.Refrescar();
+}
+
+void LosaDatos::PonerEje(std::size_t junta, const std::string& eje) {
+    edicion_.Ejes[junta].Eje = eje;
+    Cambiado();
+}
+
+void LosaDatos::PonerLongitud(std::size_t tramo, double LT) {
+    edicion_.Tramos[tramo].LT = LT;
+    Cambiado();
+}
+
+bool LosaDatos::PonerTipo(std::size_t junta, std::int64_t tipo) {
+    if (tipo < ApoyoFijo || tipo > SinApoyo) {
+        caja_.Mostrar(Aviso("El Tipo de Apoyo no puede ser < 1 ni > 5", "Apoyos Restringidos..."));
+        return false;
+    }
+    edicion_.Ejes[junta].Tipo = Entero16(tipo);
+    Cambiado();
+    return true;
+}
+
+bool LosaDatos::PonerNumeroJuntasD(std::size_t juntas) {
+    const std::size_t ultima = NumeroDeTramos() + 1;
+    if (juntas > ultima) {
+        caja_.Mostrar(Aviso("El Número de Juntas Desplazadas no puede ser > " + std::to_string(ultima),
+                            "Juntas Desplazadas..."));
+        return false;
+    }
+    edicion_.JuntasD.resize(juntas + 1);
+    cambios_ = true;
+    vista_.Refrescar();
+    return true;
+}
+
+bool LosaDatos::PonerJunta(std::size_t registro, std::int64_t junta) {
+    const auto ultima = static_cast<std::int64_t>(NumeroDeTramos()) + 1;
+    if (junta > ultima) {
+        caja_.Mostrar(Aviso("El Numero de la Junta no puede ser > que " + std::to_string(ultima),
+                            "Juntas Desplazadas..."));
+        return false;
+    }
+    edicion_.JuntasD[registro].Junta = Entero16(std::max<std::int64_t>(0, junta));
+    Cambiado();
+    return true;
+}
+
+void LosaDatos::PonerCorrimiento(std::size_t registro, double x, double y) {
+    edicion_.JuntasD[registro].x = x;
+    edicion_.JuntasD[registro].y = y;
+    Cambiado();
+}
+
+void LosaDatos::PonerCargas(std::size_t tramo, const Tramo& cargas) {
+    const double LT = edicion_.Tramos[tramo].LT;
+    edicion_.Tramos[tramo] = cargas;
+    edicion_.Tramos[tramo].LT = LT;
+    Cambiado();
+}
+
+void LosaDatos::PulsarTipo(std::int16_t tipo) {
+    const std::size_t fila = vista_.FilaDeApoyo();
+    if (fila < 1 || fila >= edicion_.Ejes.size()) return;
+    PonerTipo(fila, tipo);
+    vista_.IrAFilaDeApoyo(std::min(fila + 1, edicion_.Ejes.size() - 1));
+}
+
+void LosaDatos::MoverATramo(std::size_t tramo) {
+    if (tramo < 1 || tramo > NumeroDeTramos()) return;
+    tramo_ = tramo;
+    vista_.Redibujar();
+}
+
+void LosaDatos::AbrirCarga(void (VistaLosaDatos::*mostrar)(const EntradaDeCarga&)) {
+    if (tramo_ == 0) return;
+    bool& modificada = losas_.Programa().LosaModificada;
+    (vista_.*mostrar)({edicion_, modificada, tramo_});
+    if (modificada) cambios_ = true;
+    vista_.Refrescar();
+}
+
+void LosaDatos::CargaUniforme() {
+    AbrirCarga(&VistaLosaDatos::MostrarCarga01);
+}
+
+void LosaDatos::CargaPuntual() {
+    AbrirCarga(&VistaLosaDatos::MostrarCarga02);
+}
+
+bool LosaDatos::ConCeros() {
+    const auto cero = PrimerCero(edicion_);
+    if (!cero) return false;
+    vista_.MostrarPagina(PaginaLosa::Seccion);
+    vista_.EnfocarCampo(*cero);
+    return true;
+}
+
+bool LosaDatos::Salvar() {
+    return !ConCeros() && SalvarDatos();
+}
+
+bool LosaDatos::SalvarDatos() {
+    Aplicacion& aplicacion = losas_.Programa();
+    Losa guardada = edicion_;
+    guardada.Bm = 1;
+    if (!GuardarLosa(aplicacion.Proyecto, guardada)) {
+        caja_.Mostrar(MensajeSinGuardar());
+        return false;
+    }
+    losas_.Estado().Abierta = guardada;
+    if (edicion_.Loseta != guardada.Loseta) {  // a topping of 0 is stored as the usual one
+        edicion_ = guardada;
+        vista_.Rellenar();
+    }
+    aplicacion.UltimoHo = guardada.Ho;
+    aplicacion.UltimoHm = guardada.Hm;
+    aplicacion.LosaModificada = true;
+    cambios_ = false;
+    return true;
+}
+
+/// With unsaved changes asks whether to save them. False when they were to be saved and could not.
+bool LosaDatos::SalvarSiSePide(const std::string& texto) {
+    if (!cambios_) return true;
+    const std::string pregunta = texto + "\n¿Desea Salvar las Modificaciones?";
+    return caja_.Mostrar(Pregunta(pregunta, "Losas del Proyecto...")) != RespuestaSi || Salvar();
+}
+
+bool LosaDatos::PuedeCerrar() {
+    if (!SalvarSiSePide("Losa: " + edicion_.Nombre)) return false;
+    cambios_ = false;
+    return true;
+}
+
+void LosaDatos::Retorno() {
+    if (PuedeCerrar()) vista_.Cerrar();
+}
+
+bool LosaDatos::ElegirLosa(int fila) {
+    if (!SalvarSiSePide(edicion_.Nombre)) return false;
+    const bool modificada = losas_.Programa().LosaModificada;
+    losas_.Seleccionar(fila);
+    Abrir();
+    losas_.Programa().LosaModificada = modificada;
+    return true;
+}
+
+void LosaDatos::PaginaSiguiente() {
+    const int pagina = static_cast<int>(vista_.Pagina()) + 1;
+    if (pagina < PaginasDeLosa) vista_.MostrarPagina(static_cast<PaginaLosa>(pagina));
+}
+
+void LosaDatos::PaginaAnterior() {
+    const int pagina = static_cast<int>(vista_.Pagina()) - 1;
+    if (pagina >= 0) vista_.MostrarPagina(static_cast<PaginaLosa>(pagina));
+}
+
+}  // namespace trabex

@@ -1,0 +1,103 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "slab/ui/Cargas.h"
+#include "slab/ui/Losas.h"
+
+namespace trabex {
+
+enum class PaginaLosa { Seccion, Tramos, JuntasD, Apoyos, Cargas };
+inline constexpr int PaginasDeLosa = 5;
+
+enum class CampoSeccion { Bo, Ho, So, Loseta, Hm };
+
+/// What the data window's operations ask of it.
+class VistaLosaDatos {
+  public:
+    virtual ~VistaLosaDatos() = default;
+    /// Fills every control from the editing copy.
+    virtual void Rellenar() = 0;
+    /// Tables, scroller and sketches again: the number of spans or of displaced joints, or loads, changed.
+    virtual void Refrescar() = 0;
+    /// The sketches, after any edit and when the span in hand changes.
+    virtual void Redibujar() = 0;
+    virtual PaginaLosa Pagina() const = 0;
+    virtual void MostrarPagina(PaginaLosa pagina) = 0;
+    virtual void EnfocarCampo(CampoSeccion campo) = 0;
+    /// Current row of the support table, from 1.
+    virtual std::size_t FilaDeApoyo() const = 0;
+    virtual void IrAFilaDeApoyo(std::size_t fila) = 0;
+    virtual void MostrarCarga01(const EntradaDeCarga& entrada) = 0;
+    virtual void MostrarCarga02(const EntradaDeCarga& entrada) = 0;
+    virtual void Cerrar() = 0;
+};
+
+/// Operations of the window that edits one slab on a copy of it: the open slab changes only on a save.
+class LosaDatos {
+  public:
+    LosaDatos(Losas& losas, VistaLosaDatos& vista, CajaMensajes& caja);
+
+    /// Takes the open slab and shows it.
+    void Abrir();
+
+    const Losa& Edicion() const { return edicion_; }
+    std::size_t NumeroDeTramos() const { return edicion_.Tramos.size() - 1; }
+    std::size_t NumeroDeJuntasD() const { return edicion_.JuntasD.size() - 1; }
+    bool HayCambios() const { return cambios_; }
+
+    std::string Titulo() const { return "Datos Generales Losa: " + edicion_.Nombre; }
+    std::string LeyendaDeCargas() const;
+    /// "Tramo: n", 0 until there is one.
+    std::string LeyendaDeTramo() const { return "Tramo: " + std::to_string(tramo_); }
+    std::size_t TramoActual() const { return tramo_; }
+
+    // Edits. Those that answer false refused the entry, with its message: the cell shows the old value.
+    void PonerMaciza(bool maciza);
+    void PonerSeccion(CampoSeccion campo, double valor);
+    double Seccion(CampoSeccion campo) const;
+    /// What remains keeps its data; new joints get a fixed support; shifts of joints that are gone go too.
+    void PonerNumeroTramos(std::size_t tramos);
+    void PonerEje(std::size_t junta, const std::string& eje);
+    void PonerLongitud(std::size_t tramo, double LT);
+    bool PonerTipo(std::size_t junta, std::int64_t tipo);
+    bool PonerNumeroJuntasD(std::size_t juntas);
+    bool PonerJunta(std::size_t registro, std::int64_t junta);
+    void PonerCorrimiento(std::size_t registro, double x, double y);
+    void PonerCargas(std::size_t tramo, const Tramo& cargas);
+
+    /// A support type button: writes into the current row of the table and moves on to the next.
+    void PulsarTipo(std::int16_t tipo);
+    /// The scroller of spans.
+    void MoverATramo(std::size_t tramo);
+    void CargaUniforme();
+    void CargaPuntual();
+
+    /// The save button. False when a zero took the focus, or the project could not be written: nothing is
+    /// then stored and the open slab stands as it stood.
+    bool Salvar();
+    void Retorno();
+    /// What the window's cross and " Retorno " do before closing. False when it must stay.
+    bool PuedeCerrar();
+    /// The slab selector: a row of the workspace's list. False when the window stays on its slab.
+    bool ElegirLosa(int fila);
+    void PaginaSiguiente();
+    void PaginaAnterior();
+
+  private:
+    bool SalvarSiSePide(const std::string& texto);
+    bool SalvarDatos();
+    bool ConCeros();
+    void Cambiado();
+    void AbrirCarga(void (VistaLosaDatos::*mostrar)(const EntradaDeCarga&));
+
+    Losas& losas_;
+    VistaLosaDatos& vista_;
+    CajaMensajes& caja_;
+    Losa edicion_;
+    bool cambios_ = false;
+    std::size_t tramo_ = 0;
+};
+
+}  // namespace trabex

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QDialog>
+#include <vector>
+
+#include "base/Formatos.h"
+#include "shell/Tapiz.h"
+#include "slab/ui/Cargas.h"
+
+class QLabel;
+class QScrollBar;
+class QFormLayout;
+
+namespace trabex {
+
+class CampoNumero;
+struct ClaseNumero;
+
+/// What both load windows look like: the spans' scroller, the fields, and the buttons.
+class VentanaCarga : public QDialog {
+  public:
+    /// Walks on from a field: to the next one, then to the next span, then to the button that accepts.
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+
+  protected:
+    VentanaCarga(CargaDeTramos& operaciones, const Separadores& separadores, const Tapiz& preferencias,
+                 QWidget* padre);
+    /// Lays the window out, once its fields are there.
+    void Armar(const QString& titulo, QWidget* pie);
+    CampoNumero* Campo(const QString& rotulo, const ClaseNumero& clase);
+    void MostrarTramo();
+    virtual void MostrarCampos() = 0;
+    virtual void TomarCampos() = 0;
+
+  private:
+    QLayout* FilaDeBotones();
+    void Seguir(std::size_t campo);
+
+    CargaDeTramos& operaciones_;
+    Separadores separadores_;
+    Tapiz preferencias_;
+    QWidget* marco_;
+    QFormLayout* formulario_;
+    QLabel* encabezado_;
+    QScrollBar* deslizador_;
+    QWidget* fijar_ = nullptr;
+    std::vector<CampoNumero*> campos_;
+};
+
+/// Uniform loads of the spans.
+class VentanaCarga01 : public VentanaCarga {
+  public:
+    VentanaCarga01(Carga01& operaciones, const Separadores& separadores, const Tapiz& preferencias,
+                   QWidget* padre);
+
+  private:
+    void MostrarCampos() override;
+    void TomarCampos() override;
+
+    Carga01& operaciones_;
+    CampoNumero* permanente_;
+    CampoNumero* variable_;
+    QLabel* suma_;
+};
+
+/// Point loads of the spans.
+class VentanaCarga02 : public VentanaCarga {
+  public:
+    VentanaCarga02(Carga02& operaciones, const Separadores& separadores, const Tapiz& preferencias,
+                   QWidget* padre);
+
+  private:
+    void MostrarCampos() override;
+    void TomarCampos() override;
+
+    Carga02& operaciones_;
+    CampoNumero* carga_;
+    CampoNumero* distancia_;
+};
+
+}  // namespace trabex

@@ -1,0 +1,574 @@
+#include "slab/ui/qt/VentanaLosaDatos.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <QSpinBox>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "drawing/qt/WidgetLienzo.h"
+#include "shell/qt/ComunVentanas.h"
+#include "shell/qt/Iconos.h"
+#include "slab/ui/qt/VentanaCarga.h"
+
+namespace trabex {
+
+namespace {
+
+constexpr int MaximoDeTramos = 10919;  // past it the counts of a calculation leave their 16 bits
+constexpr int LargoDeEje = 20;         // characters that the axes' column holds
+
+struct RotuloDeCampo {
+    CampoSeccion Campo;
+    const char* Nombre;
+    const char* Texto;
+};
+constexpr std::array<RotuloDeCampo, 5> CamposDeSeccion{{
+    {CampoSeccion::Bo, "Bo", "Ancho del Nervio (m)  Bo ="},
+    {CampoSeccion::Ho, "Ho", "Altura de la Losa (m)  Ho ="},
+    {CampoSeccion::So, "So", "Separación de Nervios (m)  So ="},
+    {CampoSeccion::Loseta, "Loseta", "Altura de la Loseta (m) ="},
+    {CampoSeccion::Hm, "Hm", "Altura de la Losa (m)  Hm ="},
+}};
+
+/// The five support types as their buttons tell them.
+constexpr std::array<const char*, 5> TextosDeApoyo{
+    "Junta con apoyo fijo en X y en Y. ", "Junta con rodillo en dirección X. ",
+    "Junta con rodillo en dirección Y. ", "Junta totalmente restringida. ",
+    "Junta sin nigún tipo de apoyo. "};
+
+std::size_t Indice(int fila) {
+    return static_cast<std::size_t>(fila);
+}
+
+QToolButton* BotonDeBarra(const QString& icono, const QString& texto, const QString& ayuda, QWidget* padre) {
+    auto* boton = new QToolButton(padre);
+    boton->setIcon(Icono(icono));
+    boton->setIconSize({24, 24});
+    boton->setText(texto);
+    boton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    boton->setAutoRaise(true);
+    boton->setFocusPolicy(Qt::TabFocus);
+    PonerAyuda(boton, texto.trimmed().remove('&'), ayuda);
+    return boton;
+}
+
+}  // namespace
+
+VentanaLosaDatos::VentanaLosaDatos(Losas& losas, CajaMensajes& caja, QWidget* padre)
+    : QDialog(padre),
+      losas_(losas),
+      caja_(caja),
+      operaciones_(losas, *this, caja),
+      numeros_(losas.Programa().SeparadoresLocales) {
+    setObjectName("LosaDatos");
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    redibujo_.setSingleShot(true);
+    connect(&redibujo_, &QTimer::timeout, this,
+            [this] { static_cast<WidgetLienzo*>(bocetos_->currentWidget())->RedibujeVista(); });
+    paginas_ = new QTabWidget(this);
+    paginas_->addTab(PaginaDeSeccion(), "Sección");
+    paginas_->addTab(PaginaDeTramos(), "Tramos y Ejes");
+    paginas_->addTab(PaginaDeJuntasD(), "Juntas Desplazadas");
+    paginas_->addTab(PaginaDeApoyos(), "Apoyos");
+    paginas_->addTab(PaginaDeCargas(), "Cargas");
+    auto* partes = new QSplitter(Qt::Horizontal, this);
+    partes->addWidget(paginas_);
+    partes->addWidget(Bocetos());
+    partes->setStretchFactor(0, 2);
+    partes->setStretchFactor(1, 3);
+    partes->setChildrenCollapsible(false);
+    auto* columna = new QVBoxLayout(this);
+    columna->addLayout(FilaDeComandos());
+    columna->addWidget(partes, 1);
+    for (QPushButton* boton : findChildren<QPushButton*>()) boton->setAutoDefault(false);
+    connect(paginas_, &QTabWidget::currentChanged, this, [this] { CambiarPagina(); });
+    TamanoInicial(this, {1060, 600});
+    operaciones_.Abrir();
+    PrepararVentana(this, losas_.Programa().Preferencias);
+    primeros_[0]->setFocus();
+}
+
+QLayout* VentanaLosaDatos::FilaDeComandos() {
+    auto* salvar = BotonDeBarra("salvar", "&Salvar", "Salvar la modificaciones realizadas. ", this);
+    auto* anterior = BotonDeBarra("anterior", "&Anterior", "Pantalla anterior. ", this);
+    auto* siguiente = BotonDeBarra("siguiente", "Si&guiente", "Pantalla siguiente. ", this);
+    auto* retorno = BotonDeBarra("salida", " &Retorno ", "Volver a las losas del proyecto. ", this);
+    const auto unir = [this](QToolButton* boton, const QKeySequence& tecla,
+                             const std::function<void()>& accion) {
+        connect(boton, &QToolButton::clicked, this, accion);
+        // A button's own shortcut acts a moment later, and what is typed meanwhile goes astray.
+        if (!tecla.isEmpty()) connect(new QShortcut(tecla, this), &QShortcut::activated, this, accion);
+    };
+    unir(salvar, QKeySequence::Save, [this] { Salvar(); });
+    unir(anterior, QKeySequence("Ctrl+PgUp"), [this] { operaciones_.PaginaAnterior(); });
+    unir(siguiente, QKeySequence("Ctrl+PgDown"), [this] { operaciones_.PaginaSiguiente(); });
+    unir(retorno, {}, [this] { reject(); });
+    selector_ = new QComboBox(this);
+    selector_->setMinimumWidth(240);
+    selector_->setFocusPolicy(Qt::TabFocus);
+    PonerAyuda(selector_, "Losas", "Elegir otra losa del proyecto. ");
+    connect(selector_, &QComboBox::activated, this, [this](int lugar) { ElegirLosa(lugar); });
+    auto* rotulo = new QLabel("&Losa:", this);
+    rotulo->setBuddy(selector_);
+    auto* fila = new QHBoxLayout;
+    for (QWidget* control : std::initializer_list<QWidget*>{salvar, anterior, siguiente, rotulo, selector_})
+        fila->addWidget(control);
+    fila->addStretch(1);
+    fila->addWidget(retorno);
+    return fila;
+}
+
+QWidget* VentanaLosaDatos::PaginaDeSeccion() {
+    auto* pagina = new QWidget(this);
+    auto* tipo = new QGroupBox("Tipo de Losa", pagina);
+    nervada_ = new QRadioButton("Losa &Nervada", tipo);
+    maciza_ = new QRadioButton("Losa &Maciza", tipo);
+    auto* filaTipo = new QHBoxLayout(tipo);
+    filaTipo->addWidget(nervada_);
+    filaTipo->addWidget(maciza_);
+    filaTipo->addStretch(1);
+    connect(maciza_, &QRadioButton::toggled, this, [this](bool maciza) {
+        if (rellenando_) return;
+        operaciones_.PonerMaciza(maciza);
+        MostrarClase();
+    });
+    auto* medidas = new QGroupBox("Sección", pagina);
+    formulario_ = new QFormLayout(medidas);
+    for (const RotuloDeCampo& rotulo : CamposDeSeccion) {
+        auto* campo = new CampoNumero(Longitud, numeros_, medidas);
+        seccion_[static_cast<std::size_t>(rotulo.Campo)] = campo;
+        campo->setObjectName(rotulo.Nombre);
+        formulario_->addRow(rotulo.Texto, campo);
+        connect(campo, &QLineEdit::textEdited, this,
+                [this, campo, cual = rotulo.Campo] { operaciones_.PonerSeccion(cual, campo->Valor()); });
+        connect(campo, &QLineEdit::returnPressed, this, [this] { focusNextChild(); });
+    }
+    auto* columna = new QVBoxLayout(pagina);
+    columna->addWidget(tipo);
+    columna->addWidget(medidas);
+    columna->addStretch(1);
+    primeros_[0] = nervada_;
+    return pagina;
+}
+
+/// Enter in a count goes on to the table that it sizes.
+void VentanaLosaDatos::SeguirEn(QSpinBox* contador, TablaDatos* tabla) {
+    connect(contador->findChild<QLineEdit*>(), &QLineEdit::returnPressed, this, [tabla] {
+        if (tabla->Filas() == 0) return;
+        tabla->setFocus();
+        tabla->IrA(1, 0);
+    });
+}
+
+QSpinBox* VentanaLosaDatos::Contador(int maximo, const char* nombre) {
+    auto* contador = new QSpinBox(this);
+    contador->setObjectName(nombre);
+    contador->setRange(0, maximo);
+    contador->setKeyboardTracking(false);  // a number counts once it is whole
+    contador->setAlignment(Qt::AlignRight);
+    contador->setFixedWidth(90);
+    return contador;
+}
+
+TablaDatos* VentanaLosaDatos::Tabla(std::vector<ColumnaDatos> columnas, Avance avance, const char* nombre) {
+    auto* tabla = new TablaDatos(std::move(columnas), numeros_, avance, this);
+    tabla->setObjectName(nombre);
+    tabla->AlCambiarFila([this](int) { Redibujar(); });
+    return tabla;
+}
+
+QWidget* VentanaLosaDatos::PaginaDeTramos() {
+    auto* pagina = new QWidget(this);
+    numeroTramos_ = Contador(MaximoDeTramos, "NumeroTramos");
+    connect(numeroTramos_, &QSpinBox::valueChanged, this, [this](int tramos) { PonerNumeroTramos(tramos); });
+    ejes_ = Tabla({{.Titulo = "Nombre Eje",
+                    .Numero = std::nullopt,
+                    .Leer = [this](int j) { return Q(operaciones_.Edicion().Ejes[Indice(j)].Eje); },
+                    .Poner =
+                        [this](int j, const QVariant& eje) {
+                            operaciones_.PonerEje(Indice(j), S(eje.toString().trimmed()));
+                            return true;
+                        },
+                    .Largo = LargoDeEje}},
+                  Avance::Abajo, "Ejes");
+    luces_ = Tabla({{.Titulo = "Longitud (m)",
+                     .Numero = Longitud,
+                     .Leer = [this](int i) { return operaciones_.Edicion().Tramos[Indice(i)].LT; },
+                     .Poner =
+                         [this](int i, const QVariant& LT) {
+                             operaciones_.PonerLongitud(Indice(i), LT.toDouble());
+                             return true;
+                         }}},
+                   Avance::Abajo, "Luces");
+    auto* fila = new QHBoxLayout;
+    auto* rotulo = new QLabel("Número de &Tramos =", pagina);
+    rotulo->setBuddy(numeroTramos_);
+    fila->addWidget(rotulo);
+    fila->addWidget(numeroTramos_);
+    fila->addStretch(1);
+    auto* tablas = new QHBoxLayout;
+    tablas->addWidget(luces_);
+    tablas->addWidget(ejes_);
+    auto* columna = new QVBoxLayout(pagina);
+    columna->addLayout(fila);
+    columna->addLayout(tablas, 1);
+    SeguirEn(numeroTramos_, luces_);
+    setTabOrder(numeroTramos_, luces_);
+    setTabOrder(luces_, ejes_);
+    primeros_[1] = numeroTramos_;
+    return pagina;
+}
+
+ColumnaDatos VentanaLosaDatos::ColumnaDeCorrimiento(const QString& titulo, double JuntaD::*campo) {
+    return {.Titulo = titulo,
+            .Numero = Distancia,
+            .Leer = [this, campo](int k) { return operaciones_.Edicion().JuntasD[Indice(k)].*campo; },
+            .Poner =
+                [this, campo](int k, const QVariant& valor) {
+                    JuntaD junta = operaciones_.Edicion().JuntasD[Indice(k)];
+                    junta.*campo = valor.toDouble();
+                    operaciones_.PonerCorrimiento(Indice(k), junta.x, junta.y);
+                    return true;
+                }};
+}
+
+QWidget* VentanaLosaDatos::PaginaDeJuntasD() {
+    auto* pagina = new QWidget(this);
+    numeroJuntasD_ = Contador(32767, "NumeroJuntasD");
+    connect(numeroJuntasD_, &QSpinBox::valueChanged, this,
+            [this](int juntas) { PonerNumeroJuntasD(juntas); });
+    juntasD_ = Tabla(
+        {{.Titulo = "Junta Número",
+          .Numero = NaturalDe16,
+          .Leer =
+              [this](int k) { return static_cast<double>(operaciones_.Edicion().JuntasD[Indice(k)].Junta); },
+          .Poner =
+              [this](int k, const QVariant& junta) {
+                  return operaciones_.PonerJunta(Indice(k), junta.toLongLong());
+              }},
+         ColumnaDeCorrimiento("X (m)", &JuntaD::x),
+         ColumnaDeCorrimiento("Y (m)", &JuntaD::y)},
+        Avance::Derecha, "JuntasD");
+    auto* fila = new QHBoxLayout;
+    auto* rotulo = new QLabel("&Juntas Desplazadas =", pagina);
+    rotulo->setBuddy(numeroJuntasD_);
+    fila->addWidget(rotulo);
+    fila->addWidget(numeroJuntasD_);
+    fila->addStretch(1);
+    auto* columna = new QVBoxLayout(pagina);
+    columna->addLayout(fila);
+    columna->addWidget(juntasD_, 1);
+    SeguirEn(numeroJuntasD_, juntasD_);
+    primeros_[2] = numeroJuntasD_;
+    return pagina;
+}
+
+QLayout* VentanaLosaDatos::FilaDeBotonesDeApoyo() {
+    auto* fila = new QHBoxLayout;
+    for (std::int16_t tipo = ApoyoFijo; tipo <= SinApoyo; ++tipo) {
+        auto* boton = new QToolButton(this);
+        boton->setIcon(Icono("apoyo-" + QString::number(tipo)));
+        boton->setIconSize({32, 32});
+        boton->setText(QString::number(tipo));
+        boton->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+        boton->setFocusPolicy(Qt::TabFocus);
+        PonerAyuda(boton, "Tipo " + QString::number(tipo), TextosDeApoyo[Indice(tipo - 1)]);
+        connect(boton, &QToolButton::clicked, this, [this, tipo] { operaciones_.PulsarTipo(tipo); });
+        fila->addWidget(boton);
+    }
+    fila->addStretch(1);
+    return fila;
+}
+
+QWidget* VentanaLosaDatos::PaginaDeApoyos() {
+    auto* pagina = new QWidget(this);
+    const auto eje = [this](int j) -> const EjeLosa& { return operaciones_.Edicion().Ejes[Indice(j)]; };
+    apoyos_ = Tabla({{.Titulo = "Eje",
+                      .Numero = std::nullopt,
+                      .Leer = [eje](int j) { return Q(eje(j).Eje); },
+                      .Ancho = 70},
+                     {.Titulo = "Tipo",
+                      .Numero = NaturalDe16,
+                      .Leer = [eje](int j) { return static_cast<double>(eje(j).Tipo); },
+                      .Poner =
+                          [this](int j, const QVariant& tipo) {
+                              return operaciones_.PonerTipo(Indice(j), tipo.toLongLong());
+                          },
+                      .Ancho = 60},
+                     {.Titulo = "Apoyo",
+                      .Numero = std::nullopt,
+                      .Leer =
+                          [eje](int j) {
+                              const int tipo = eje(j).Tipo;
+                              return tipo < ApoyoFijo || tipo > SinApoyo
+                                         ? QString()
+                                         : QString(TextosDeApoyo[Indice(tipo - 1)]).trimmed();
+                          }}},
+                    Avance::Abajo, "Apoyos");
+    auto* columna = new QVBoxLayout(pagina);
+    columna->addLayout(FilaDeBotonesDeApoyo());
+    columna->addWidget(apoyos_, 1);
+    primeros_[3] = apoyos_;
+    return pagina;
+}
+
+ColumnaDatos VentanaLosaDatos::ColumnaDeCarga(const QString& titulo, const ClaseNumero& clase,
+                                              std::function<double(const Tramo&)> leer,
+                                              std::function<void(Tramo&, double)> poner) {
+    return {.Titulo = titulo,
+            .Numero = clase,
+            .Leer = [this, leer](int i) { return leer(operaciones_.Edicion().Tramos[Indice(i)]); },
+            .Poner =
+                [this, poner](int i, const QVariant& valor) {
+                    Tramo tramo = operaciones_.Edicion().Tramos[Indice(i)];
+                    poner(tramo, valor.toDouble());
+                    operaciones_.PonerCargas(Indice(i), tramo);
+                    return true;
+                }};
+}
+
+QLayout* VentanaLosaDatos::FilaDeBotonesDeCarga() {
+    auto* uniforme = BotonDeBarra("carga-uniforme", "Carga &Uniforme", "Entrar la carga uniforme. ", this);
+    auto* puntual = BotonDeBarra("carga-puntual", "Carga &Puntual", "Entrar la carga Puntual.  ", this);
+    connect(uniforme, &QToolButton::clicked, this, [this] { operaciones_.CargaUniforme(); });
+    connect(puntual, &QToolButton::clicked, this, [this] { operaciones_.CargaPuntual(); });
+    leyendaTramo_ = new QLabel(this);
+    leyendaTramo_->setMinimumWidth(fontMetrics().horizontalAdvance("Tramo: 10000"));
+    deslizador_ = new QScrollBar(Qt::Horizontal, this);
+    deslizador_->setPageStep(1);
+    deslizador_->setMinimumWidth(90);
+    connect(deslizador_, &QScrollBar::valueChanged, this, [this](int tramo) {
+        if (rellenando_) return;
+        operaciones_.MoverATramo(Indice(tramo));
+        MostrarTramo();
+    });
+    auto* fila = new QHBoxLayout;
+    for (QWidget* control : std::initializer_list<QWidget*>{uniforme, puntual, leyendaTramo_})
+        fila->addWidget(control);
+    fila->addWidget(deslizador_, 1);
+    return fila;
+}
+
+QWidget* VentanaLosaDatos::PaginaDeCargas() {
+    auto* pagina = new QWidget(this);
+    marcoCargas_ = new QGroupBox(pagina);
+    const auto entero = [](double valor) { return static_cast<std::int32_t>(valor); };
+    cargas_ = Tabla(
+        {ColumnaDeCarga(
+             "Wp (kgf/m)", EnteroDe32, [](const Tramo& t) { return t.Wp; },
+             [entero](Tramo& t, double v) { t.Wp = entero(v); }),
+         ColumnaDeCarga(
+             "WV (kgf/m)", EnteroDe32, [](const Tramo& t) { return t.WV; },
+             [entero](Tramo& t, double v) { t.WV = entero(v); }),
+         ColumnaDeCarga(
+             "P1 (kgf)", EnteroDe32, [](const Tramo& t) { return t.p1; },
+             [entero](Tramo& t, double v) { t.p1 = entero(v); }),
+         ColumnaDeCarga(
+             "L1 (m)", Longitud, [](const Tramo& t) { return t.L1; }, [](Tramo& t, double v) { t.L1 = v; })},
+        Avance::Abajo, "Cargas");
+    cargas_->AlCambiarFila([this](int tramo) {
+        operaciones_.MoverATramo(Indice(tramo));
+        MostrarTramo();
+    });
+    auto* columna = new QVBoxLayout(marcoCargas_);
+    columna->addLayout(FilaDeBotonesDeCarga());
+    columna->addWidget(cargas_, 1);
+    auto* exterior = new QVBoxLayout(pagina);
+    exterior->addWidget(marcoCargas_);
+    primeros_[4] = cargas_;
+    return pagina;
+}
+
+QWidget* VentanaLosaDatos::Bocetos() {
+    bocetos_ = new QStackedWidget(this);
+    lienzos_[0] = new WidgetLienzo(
+        vistas_[0],
+        [this](Lienzo& lienzo) {
+            DibujeLosaDatos(lienzo, vistas_[0], operaciones_.Edicion(), Marca(), numeros_);
+        },
+        bocetos_);
+    lienzos_[1] = new WidgetLienzo(
+        vistas_[1],
+        [this](Lienzo& lienzo) {
+            DibujeLosaCargas(lienzo, vistas_[1], operaciones_.Edicion(), Marca(), numeros_);
+        },
+        bocetos_);
+    for (WidgetLienzo* lienzo : lienzos_) bocetos_->addWidget(lienzo);
+    return bocetos_;
+}
+
+/// The span or the joint in hand on the page on show.
+MarcaBoceto VentanaLosaDatos::Marca() const {
+    switch (Pagina()) {
+        case PaginaLosa::Tramos:
+            if (ejes_->hasFocus()) return {0, Indice(ejes_->FilaActual())};
+            return {Indice(luces_->FilaActual()), 0};
+        case PaginaLosa::JuntasD: {
+            const int fila = juntasD_->FilaActual();
+            if (fila < 1) return {};
+            return {0, Indice(operaciones_.Edicion().JuntasD[Indice(fila)].Junta)};
+        }
+        case PaginaLosa::Apoyos:
+            return {0, Indice(apoyos_->FilaActual())};
+        case PaginaLosa::Cargas:
+            return {operaciones_.TramoActual(), 0};
+        default:
+            return {};
+    }
+}
+
+void VentanaLosaDatos::Rellenar() {
+    rellenando_ = true;
+    setWindowTitle(Q(operaciones_.Titulo()));
+    selector_->clear();
+    for (const std::string& nombre : losas_.Nombres()) selector_->addItem(Q(nombre));
+    selector_->setCurrentIndex(losas_.Fila() - 1);
+    (operaciones_.Edicion().OpcionMaciza ? maciza_ : nervada_)->setChecked(true);
+    for (const RotuloDeCampo& rotulo : CamposDeSeccion)
+        seccion_[static_cast<std::size_t>(rotulo.Campo)]->PonerValor(operaciones_.Seccion(rotulo.Campo));
+    MostrarClase();
+    Refrescar();
+}
+
+void VentanaLosaDatos::MostrarClase() {
+    const bool maciza = operaciones_.Edicion().OpcionMaciza;
+    for (const RotuloDeCampo& rotulo : CamposDeSeccion) {
+        CampoNumero* campo = seccion_[static_cast<std::size_t>(rotulo.Campo)];
+        const bool visible = (rotulo.Campo == CampoSeccion::Hm) == maciza;
+        campo->setVisible(visible);
+        formulario_->labelForField(campo)->setVisible(visible);
+    }
+    marcoCargas_->setTitle(Q(operaciones_.LeyendaDeCargas()));
+    Redibujar();
+}
+
+void VentanaLosaDatos::Refrescar() {
+    rellenando_ = true;
+    const int tramos = static_cast<int>(operaciones_.NumeroDeTramos());
+    numeroTramos_->setValue(tramos);
+    numeroJuntasD_->setValue(static_cast<int>(operaciones_.NumeroDeJuntasD()));
+    luces_->PonerFilas(tramos);
+    cargas_->PonerFilas(tramos);
+    ejes_->PonerFilas(tramos + 1);
+    apoyos_->PonerFilas(tramos + 1);
+    juntasD_->PonerFilas(numeroJuntasD_->value());
+    deslizador_->setRange(tramos == 0 ? 0 : 1, tramos);
+    deslizador_->setEnabled(tramos > 1);
+    rellenando_ = false;
+    MostrarTramo();
+}
+
+void VentanaLosaDatos::MostrarTramo() {
+    const int tramo = static_cast<int>(operaciones_.TramoActual());
+    leyendaTramo_->setText(Q(operaciones_.LeyendaDeTramo()));
+    const QSignalBlocker quieto(deslizador_);
+    deslizador_->setValue(tramo);
+    if (tramo > 0 && cargas_->FilaActual() != tramo)
+        cargas_->IrA(tramo, std::max(0, cargas_->currentIndex().column()));
+    Redibujar();
+}
+
+void VentanaLosaDatos::Redibujar() {
+    if (!rellenando_) redibujo_.start(0);
+}
+
+PaginaLosa VentanaLosaDatos::Pagina() const {
+    return static_cast<PaginaLosa>(paginas_->currentIndex());
+}
+
+void VentanaLosaDatos::MostrarPagina(PaginaLosa pagina) {
+    paginas_->setCurrentIndex(static_cast<int>(pagina));
+}
+
+void VentanaLosaDatos::CambiarPagina() {
+    TerminarEdiciones();
+    apoyos_->Refrescar();  // names of axes may have changed on their own page
+    bocetos_->setCurrentIndex(Pagina() == PaginaLosa::Cargas ? 1 : 0);
+    QWidget* primero = primeros_[static_cast<std::size_t>(Pagina())];
+    primero->setFocus();
+    if (auto* contador = qobject_cast<QSpinBox*>(primero)) contador->selectAll();
+    if (Pagina() == PaginaLosa::Apoyos && apoyos_->currentIndex().column() != 1)
+        apoyos_->IrA(std::max(1, apoyos_->FilaActual()), 1);
+    Redibujar();
+}
+
+void VentanaLosaDatos::EnfocarCampo(CampoSeccion campo) {
+    CampoNumero* cual = seccion_[static_cast<std::size_t>(campo)];
+    cual->setFocus();
+    cual->selectAll();
+}
+
+std::size_t VentanaLosaDatos::FilaDeApoyo() const {
+    return Indice(apoyos_->FilaActual());
+}
+
+void VentanaLosaDatos::IrAFilaDeApoyo(std::size_t fila) {
+    apoyos_->Refrescar();
+    apoyos_->IrA(static_cast<int>(fila), 1);
+}
+
+void VentanaLosaDatos::PonerNumeroTramos(int tramos) {
+    if (rellenando_) return;
+    operaciones_.PonerNumeroTramos(Indice(tramos));
+    luces_->IrA(1, 0);
+}
+
+void VentanaLosaDatos::PonerNumeroJuntasD(int juntas) {
+    if (rellenando_) return;
+    rellenando_ = true;  // a message takes the focus, and the field tells its number again
+    const bool tomado = operaciones_.PonerNumeroJuntasD(Indice(juntas));
+    if (!tomado) numeroJuntasD_->setValue(static_cast<int>(operaciones_.NumeroDeJuntasD()));
+    rellenando_ = false;
+    Redibujar();
+}
+
+void VentanaLosaDatos::MostrarCarga01(const EntradaDeCarga& entrada) {
+    Carga01 operaciones(entrada, caja_);
+    VentanaCarga01 ventana(operaciones, numeros_, losas_.Programa().Preferencias, this);
+    MostrarModal(ventana);
+}
+
+void VentanaLosaDatos::MostrarCarga02(const EntradaDeCarga& entrada) {
+    Carga02 operaciones(entrada, caja_);
+    VentanaCarga02 ventana(operaciones, numeros_, losas_.Programa().Preferencias, this);
+    MostrarModal(ventana);
+}
+
+void VentanaLosaDatos::TerminarEdiciones() {
+    for (QSpinBox* contador : {numeroTramos_, numeroJuntasD_}) contador->interpretText();
+    for (TablaDatos* tabla : {luces_, ejes_, juntasD_, apoyos_, cargas_}) tabla->TerminarEdicion();
+}
+
+void VentanaLosaDatos::Salvar() {
+    TerminarEdiciones();
+    operaciones_.Salvar();
+}
+
+void VentanaLosaDatos::ElegirLosa(int lugar) {
+    TerminarEdiciones();
+    if (lugar + 1 == losas_.Fila()) return;
+    if (!operaciones_.ElegirLosa(lugar + 1)) selector_->setCurrentIndex(losas_.Fila() - 1);
+}
+
+void VentanaLosaDatos::Cerrar() {
+    QDialog::reject();
+}
+
+void VentanaLosaDatos::reject() {
+    TerminarEdiciones();
+    operaciones_.Retorno();
+}
+
+}  // namespace trabex

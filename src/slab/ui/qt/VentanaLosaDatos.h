@@ -1,0 +1,104 @@
+#pragma once
+
+#include <QDialog>
+#include <QTimer>
+#include <array>
+
+#include "drawing/GraficoLosaDatos.h"
+#include "shell/qt/TablaDatos.h"
+#include "slab/ui/LosaDatos.h"
+
+class QComboBox;
+class QFormLayout;
+class QGroupBox;
+class QLabel;
+class QRadioButton;
+class QScrollBar;
+class QSpinBox;
+class QStackedWidget;
+class QTabWidget;
+
+namespace trabex {
+
+class WidgetLienzo;
+
+/// Edits one slab: five pages of fields and tables beside a sketch that follows what is typed.
+class VentanaLosaDatos : public QDialog, public VistaLosaDatos {
+  public:
+    VentanaLosaDatos(Losas& losas, CajaMensajes& caja, QWidget* padre);
+
+    void Rellenar() override;
+    void Refrescar() override;
+    void Redibujar() override;
+    PaginaLosa Pagina() const override;
+    void MostrarPagina(PaginaLosa pagina) override;
+    void EnfocarCampo(CampoSeccion campo) override;
+    std::size_t FilaDeApoyo() const override;
+    void IrAFilaDeApoyo(std::size_t fila) override;
+    void MostrarCarga01(const EntradaDeCarga& entrada) override;
+    void MostrarCarga02(const EntradaDeCarga& entrada) override;
+    void Cerrar() override;
+
+    /// Escape and the window's cross.
+    void reject() override;
+
+  private:
+    QLayout* FilaDeComandos();
+    QWidget* PaginaDeSeccion();
+    QWidget* PaginaDeTramos();
+    QWidget* PaginaDeJuntasD();
+    QWidget* PaginaDeApoyos();
+    QWidget* PaginaDeCargas();
+    QWidget* Bocetos();
+    QLayout* FilaDeBotonesDeApoyo();
+    QLayout* FilaDeBotonesDeCarga();
+    QSpinBox* Contador(int maximo, const char* nombre);
+    void SeguirEn(QSpinBox* contador, TablaDatos* tabla);
+    TablaDatos* Tabla(std::vector<ColumnaDatos> columnas, Avance avance, const char* nombre);
+    ColumnaDatos ColumnaDeCarga(const QString& titulo, const ClaseNumero& clase,
+                                std::function<double(const Tramo&)> leer,
+                                std::function<void(Tramo&, double)> poner);
+    ColumnaDatos ColumnaDeCorrimiento(const QString& titulo, double JuntaD::*campo);
+
+    void PonerNumeroTramos(int tramos);
+    void PonerNumeroJuntasD(int juntas);
+    void MostrarClase();
+    void MostrarTramo();
+    void CambiarPagina();
+    void Salvar();
+    void ElegirLosa(int lugar);
+    /// What is being typed is taken, as leaving it would.
+    void TerminarEdiciones();
+    MarcaBoceto Marca() const;
+
+    Losas& losas_;
+    CajaMensajes& caja_;
+    LosaDatos operaciones_;
+    Separadores numeros_;
+    bool rellenando_ = true;
+    QTimer redibujo_;
+
+    QComboBox* selector_;
+    QTabWidget* paginas_;
+    QRadioButton* nervada_;
+    QRadioButton* maciza_;
+    QFormLayout* formulario_;
+    std::array<CampoNumero*, 5> seccion_{};
+    QSpinBox* numeroTramos_;
+    QSpinBox* numeroJuntasD_;
+    TablaDatos* ejes_;
+    TablaDatos* luces_;
+    TablaDatos* juntasD_;
+    TablaDatos* apoyos_;
+    TablaDatos* cargas_;
+    QGroupBox* marcoCargas_;
+    QLabel* leyendaTramo_;
+    QScrollBar* deslizador_;
+    std::array<QWidget*, PaginasDeLosa> primeros_{};  // what takes the focus on each page
+
+    QStackedWidget* bocetos_;
+    std::array<EstadoVista, 2> vistas_;
+    std::array<WidgetLienzo*, 2> lienzos_{};
+};
+
+}  // namespace trabex

@@ -1,0 +1,182 @@
+"""A whole slab job in the real program: create, enter, see, change, rename, copy, delete, reopen; the file and the
+batch program's numbers against a solution by hand."""
+
+import contextlib
+import json
+import math
+import pathlib
+import sqlite3
+import subprocess
+import sys
+
+from escritorio import Escritorio
+
+PRINCIPAL = "Trabex 2024   Proyecto:[obra.los]"
+LOSAS = "Trabex 2024   Proyecto:[OBRA.LOS]"
+DATOS = "Datos Generales Losa: "
+CAJA = "Trabex 2024"
+BOTON_GENERALES, BOTON_NUEVA = (58, 22), (98, 22)   # second and third of the workspace's tool bar
+LUCES, WP, WV = (5.2, 4.8, 5.2), 290, 90
+
+
+def filas(archivo, consulta):
+    with contextlib.closing(sqlite3.connect(archivo)) as base:
+        return base.execute(consulta).fetchall()
+
+
+def crear_proyecto(e):
+    e.ventana("Trabex 2024   Proyecto:[]")
+    e.teclas("ctrl+n")
+    e.ventana("Crear un Nuevo Proyecto")
+    e.escribir("obra")
+    e.teclas("Return")
+    e.ventana("DATOS DEL PROYECTO")
+    e.teclas("Return")
+    e.ventana(PRINCIPAL)
+    return e.usuario / "Proyectos" / "obra.los"
+
+
+def abrir_losas(e):
+    e.teclas("alt+c", "Return")
+    return e.ventana(LOSAS)
+
+
+def entrar(e, *textos):
+    for texto in textos:
+        e.escribir(texto)
+        e.teclas("Return")
+
+
+def entrar_datos(e):
+    """Five pages by keyboard; counts and joints past the slab are refused on the way."""
+    e.ventana(DATOS + "Nivel 1")
+    e.teclas("ctrl+Next")
+    entrar(e, "3", "5.20", "4,80", "5.2")
+    e.teclas("Tab")
+    entrar(e, "A", "B", "C", "D")
+    e.teclas("ctrl+Next")
+    entrar(e, "9")
+    e.ventana(CAJA)
+    e.teclas("Return")
+    e.ventana(DATOS + "Nivel 1")
+    e.teclas("ctrl+Next")
+    entrar(e, "1", "2", "2", "6")
+    e.ventana(CAJA)
+    e.teclas("Return")
+    e.ventana(DATOS + "Nivel 1")
+    entrar(e, "2")
+    e.teclas("ctrl+Next")
+    e.teclas("alt+u")
+    e.ventana("CARGA UNIFORME")
+    entrar(e, str(WP))
+    e.escribir(str(WV))
+    e.teclas("alt+i")
+    e.ventana(CAJA)
+    e.teclas("Return")
+    e.ventana(DATOS + "Nivel 1")
+    e.teclas("ctrl+s")
+    e.respiro()
+    e.teclas("alt+r")
+    e.ventana(LOSAS)
+
+
+def comprobar_archivo(obra, nombre):
+    assert filas(obra, f"SELECT OpcionMaciza, Bo, Ho, So, Bm, Hm, Loseta FROM LosaDatos WHERE Nombre='{nombre}'") == [
+        (0, 0.1, 0.25, 0.5, 1, 0.2, 0.05)]
+    assert filas(obra, f"SELECT LT, Wp, WV, p1, L1 FROM LosaTramos WHERE Nombre='{nombre}' ORDER BY Numero") == [
+        (L, WP, WV, 0, 0) for L in LUCES]
+    assert filas(obra, f"SELECT Eje, Tipo FROM LosaEjes WHERE Nombre='{nombre}' ORDER BY Numero") == [
+        ("A", 1), ("B", 2), ("C", 2), ("D", 2)]
+    assert filas(obra, f"SELECT * FROM LosaJuntasD WHERE Nombre='{nombre}'") == []
+
+
+def comprobar_resultados(e, obra, fc):
+    """Symmetric three spans: M (2 (L1 + L2) + L2) = -w (L1^3 + L2^3) / 4, by the theorem of three moments."""
+    lote = pathlib.Path(sys.argv[1]).with_name("trabex-lote")
+    subprocess.run([lote, obra, e.carpeta / "salida"], check=True, stdout=subprocess.DEVNULL)
+    losa, = json.loads((e.carpeta / "salida" / "resultados.json").read_text())["losas"]
+    L1, L2, _ = LUCES
+    momentos = [-w * (L1**3 + L2**3) / 4 / (2 * (L1 + L2) + L2) for w in (WP, WV)]
+    for caso, momento in enumerate(momentos):
+        calculado = losa["ResultadoTramo"][caso][0]["MomentoB"]
+        assert abs(calculado - momento) < 1e-3, (calculado, momento)
+    Mu = -(1.2 * momentos[0] + 1.6 * momentos[1]) * 100 / 0.9
+    b, d = 10, 22.5
+    omega = (1 - math.sqrt(1 - 4 * 0.59 * Mu / (fc * b * d * d))) / (2 * 0.59)
+    acero = omega * fc * b * d / 4200
+    assert abs(losa["DisenoEje"][1]["AS1"] - acero) < 0.002, (losa["DisenoEje"][1], acero)
+
+
+def recorrer(e):
+    obra = crear_proyecto(e)
+    ventana = abrir_losas(e)
+    e.pulsar(ventana, *BOTON_NUEVA)
+    e.ventana("CREAR NUEVA LOSA")
+    entrar(e, "  Nivel 1 ")
+    entrar_datos(e)
+    comprobar_archivo(obra, "Nivel 1")
+    comprobar_resultados(e, obra, 250)
+
+    e.pulsar(ventana, *BOTON_GENERALES)
+    e.ventana("DATOS GENERALES")
+    entrar(e, "280")
+    e.ventana(LOSAS)
+    assert filas(obra, "SELECT FC, FY FROM LosaG") == [(280, 4200)]
+    comprobar_resultados(e, obra, 280)
+    e.teclas("alt+c", "alt+d", "alt+l")   # the sheets, and back to the list
+    e.ventana(LOSAS)
+
+    e.teclas("F2")
+    e.ventana("RENOMBRAR")
+    entrar(e, "Piso 2")
+    e.ventana(CAJA)
+    e.teclas("Return")
+    e.ventana(LOSAS)
+    comprobar_archivo(obra, "Piso 2")
+    assert filas(obra, "SELECT * FROM LosaTramos WHERE Nombre='Nivel 1'") == []
+
+    e.teclas("ctrl+c")
+    e.ventana("Salvar Como...")
+    entrar(e, "PISO 2")
+    e.ventana(CAJA)   # taken, by another case
+    e.teclas("Return")
+    e.ventana("Salvar Como...")
+    entrar(e, "Azotea")
+    e.ventana(CAJA)
+    e.teclas("Return")
+    e.ventana(DATOS + "Azotea")
+    e.teclas("Escape")
+    e.ventana(LOSAS)
+    comprobar_archivo(obra, "Azotea")
+
+    e.teclas("alt+r")
+    e.ventana(PRINCIPAL)
+    abrir_losas(e)
+    e.teclas("Return")
+    e.ventana(DATOS + "Azotea")   # first by name, now that the list is filled again
+    e.teclas("Escape")
+    e.ventana(LOSAS)
+    e.teclas("Down", "Delete")
+    e.ventana(CAJA)
+    e.teclas("Return")
+    e.ventana(LOSAS)
+    assert filas(obra, "SELECT Nombre FROM LosaDatos") == [("Azotea",)]
+    assert filas(obra, "SELECT DISTINCT Nombre FROM LosaEjes") == [("Azotea",)]
+    comprobar_resultados(e, obra, 280)
+    e.teclas("alt+r")
+    e.ventana(PRINCIPAL)
+    e.teclas("alt+p", "s")
+    assert e.programa.wait(timeout=10) == 0
+
+
+def main():
+    escritorio = Escritorio(sys.argv[1], fotos=sys.argv[2] if len(sys.argv) > 2 else None)
+    try:
+        recorrer(escritorio)
+    finally:
+        escritorio.cerrar()
+    print("1 passed, 0 failed")
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,244 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "shell/Renombrar.h"
+#include "slab/ui/LosaNueva.h"
+#include "support/LosasGuiadas.h"
+
+namespace trabex {
+namespace {
+
+using prueba::LosaContinua;
+using prueba::Nombrada;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+Losa Maciza() {
+    Losa losa = LosaContinua({4}, 500, 200);
+    losa.OpcionMaciza = true;
+    return Nombrada(losa, "BALCON");
+}
+
+Losa Desplazada() {
+    Losa losa = LosaContinua({5, 4, 3}, 300, 90);
+    losa.Tramos[2].p1 = 450;
+    losa.Tramos[2].L1 = 1.5;
+    losa.JuntasD.push_back({2, 0.1, -0.5});
+    losa.JuntasD.push_back({3, 0, -0.5});
+    return Nombrada(losa, "Nivel 1");
+}
+
+struct Espacio : testing::Test {
+    prueba::EspacioDePrueba e{{Desplazada(), Maciza()}};
+    Losas& espacio = e.espacio;
+
+    bool Nueva(const std::string& nombre) { return LosaNueva(espacio, e.caja).Aceptar(nombre); }
+    bool Copia(const std::string& nombre) { return LosaSalvarComo(espacio, e.caja).Aceptar(nombre); }
+};
+
+TEST_F(Espacio, AbreEnLaPrimeraYMuestraCadaSeleccionada) {
+    EXPECT_EQ(e.vista.Titulo, "Trabex 2024   Proyecto:[OBRA.LOS]");
+    EXPECT_THAT(e.vista.Filas, ElementsAre("BALCON", "Nivel 1"));
+    EXPECT_EQ(e.vista.Encabezado, "LOSA MACIZA: BALCON");
+    EXPECT_EQ(e.vista.Dibujos, 1);  // nothing is drawn while it loads
+    espacio.ElegirVista(VistaDiseno);
+    const int restablecida = e.vista.Restablecida;
+    espacio.Seleccionar(2);
+    EXPECT_EQ(e.vista.Encabezado, "LOSA NERVADA: Nivel 1");
+    EXPECT_EQ(e.vista.Marcada, 2);
+    EXPECT_GT(e.vista.Restablecida, restablecida);
+    EXPECT_EQ(espacio.Estado().Hoja.VistaActual, VistaDiseno);
+    EXPECT_EQ(espacio.Estado().Resultados.DisenoTramo.size(), 4U);
+    espacio.Seleccionar(3);
+    EXPECT_EQ(espacio.Fila(), 2);
+}
+
+TEST_F(Espacio, CreaUnaLosaYEntraSusDatos) {
+    e.aplicacion.UltimoHo = 0.3;
+    e.vista.LosaNueva = [&] {
+        EXPECT_FALSE(Nueva("   "));
+        EXPECT_FALSE(Nueva(" nivel 1 "));
+        espacio.Seleccionar(2);  // the scroller
+        EXPECT_TRUE(Nueva("  Azotea "));
+    };
+    e.vista.Datos = [&] {
+        EXPECT_EQ(e.vista.Encabezado, "LOSA NERVADA: Azotea");
+        EXPECT_EQ(espacio.Estado().Abierta.Tramos.size(), 1U);
+    };
+    espacio.CrearNueva();
+    ASSERT_EQ(e.caja.Mensajes.size(), 1U);
+    EXPECT_EQ(e.caja.Mensajes[0].Texto, "La Losa: nivel 1\nLa Losa ya Existe en el Proyecto...");
+    EXPECT_EQ(e.caja.Mensajes[0].Encabezado, "Creando Nueva Losa...");
+    EXPECT_THAT(e.vista.Filas, ElementsAre("BALCON", "Nivel 1", "Azotea"));  // last, not in its place
+    EXPECT_EQ(espacio.Fila(), 3);
+    EXPECT_FALSE(espacio.Estado().LosaCreada);
+    const Losa azotea = e.Guardada("Azotea");
+    EXPECT_FALSE(azotea.OpcionMaciza);
+    EXPECT_EQ(azotea.Bo, 0.1);
+    EXPECT_EQ(azotea.Ho, 0.3);
+    EXPECT_EQ(azotea.So, 0.5);
+    EXPECT_EQ(azotea.Hm, 0.2);
+    EXPECT_EQ(azotea.Loseta, 0.05);
+}
+
+TEST_F(Espacio, CopiaTodoLoDeLaSeleccionada) {
+    espacio.Seleccionar(2);
+    e.vista.SalvarComo = [&] {
+        EXPECT_FALSE(Copia("BALCÓN "));  // first the user says no
+        e.caja.Respuestas = {RespuestaSi};
+        EXPECT_TRUE(Copia("Nivel 2"));
+    };
+    espacio.CrearDesdeSeleccionada();
+    ASSERT_EQ(e.caja.Mensajes.size(), 2U);
+    EXPECT_EQ(e.caja.Mensajes[1].Texto, "Crear la Losa: Nivel 2\n\nA Partir de la Losa: Nivel 1\n");
+    EXPECT_EQ(e.caja.Mensajes[1].Encabezado, "Salvar Como...");
+    EXPECT_THAT(e.vista.Filas, ElementsAre("BALCON", "Nivel 1", "Nivel 2"));
+    const Losa copia = e.Guardada("Nivel 2");
+    ASSERT_EQ(copia.Tramos.size(), 4U);
+    EXPECT_EQ(copia.Tramos[2].p1, 450);
+    EXPECT_EQ(copia.Ejes[1].Tipo, ApoyoFijo);
+    ASSERT_EQ(copia.JuntasD.size(), 3U);
+    EXPECT_EQ(copia.JuntasD[1].y, -0.5);
+    EXPECT_EQ(e.Filas("LosaTramos", "Nivel 1"), 3);
+    EXPECT_EQ(e.Filas("LosaDatos", "BALCÓN"), 0);
+}
+
+TEST_F(Espacio, RenombraEnTodasLasTablas) {
+    espacio.Seleccionar(2);
+    e.vista.Renombrar = [&](const std::string& actual) {
+        Renombrar ventana(e.aplicacion.Proyecto.ConexionProyecto, e.caja, RenombrarLosa, actual);
+        EXPECT_FALSE(ventana.Aceptar(" "));
+        EXPECT_FALSE(ventana.Aceptar("balcon"));
+        EXPECT_FALSE(ventana.Aceptar("NIVEL 1"));  // its own name by another case is taken too
+        EXPECT_FALSE(ventana.Aceptar("Azotea"));   // not sure
+        EXPECT_EQ(ventana.NombreNuevo(), "");
+        e.caja.Respuestas = {RespuestaSi};
+        EXPECT_TRUE(ventana.Aceptar(" Azotea "));
+        return ventana.NombreNuevo();
+    };
+    espacio.Renombrar();
+    ASSERT_EQ(e.caja.Mensajes.size(), 4U);
+    EXPECT_EQ(e.caja.Mensajes[0].Texto, "Nombre: balcon\nEste Nombre ya Existe en las Losas del Proyecto...");
+    EXPECT_EQ(e.caja.Mensajes[3].Texto,
+              "Renombrar la Losa: Nivel 1   Por el Nombre: Azotea\n¿Esta Usted Seguro?");
+    EXPECT_THAT(e.vista.Filas, ElementsAre("Azotea", "BALCON"));
+    EXPECT_EQ(e.vista.Marcada, 1);
+    EXPECT_EQ(e.vista.Encabezado, "LOSA NERVADA: Azotea");
+    for (const char* tabla : {"LosaDatos", "LosaTramos", "LosaEjes", "LosaJuntasD"}) {
+        EXPECT_EQ(e.Filas(tabla, "Nivel 1"), 0) << tabla;
+        EXPECT_GT(e.Filas(tabla, "Azotea"), 0) << tabla;
+    }
+}
+
+TEST_F(Espacio, EliminaHastaQueNoQuedaNingunaYLosBotonesCallan) {
+    espacio.Eliminar();
+    EXPECT_EQ(e.vista.Filas.size(), 2U);
+    EXPECT_EQ(e.caja.Mensajes[0].Texto, "Losa: BALCON\n¿Esta Usted Seguro de Eliminar la Losa del Proyecto?");
+    EXPECT_EQ(e.caja.Mensajes[0].Encabezado, "Eliminar la Losa...");
+    espacio.Seleccionar(2);
+    e.caja.Respuestas = {RespuestaSi, RespuestaSi};
+    espacio.Eliminar();
+    EXPECT_THAT(e.vista.Filas, ElementsAre("BALCON"));
+    EXPECT_EQ(e.vista.Encabezado, "LOSA MACIZA: BALCON");
+    for (const char* tabla : {"LosaDatos", "LosaTramos", "LosaEjes", "LosaJuntasD"})
+        EXPECT_EQ(e.Filas(tabla, "Nivel 1"), 0) << tabla;
+    espacio.Eliminar();
+    EXPECT_THAT(e.vista.Filas, IsEmpty());
+    EXPECT_EQ(e.vista.Encabezado, "");
+    EXPECT_TRUE(espacio.Estado().Resultados.DisenoEje.empty());
+
+    const std::size_t mensajes = e.caja.Mensajes.size();
+    e.vista.Datos = e.vista.General = e.vista.SalvarComo = [] { ADD_FAILURE(); };
+    e.vista.Renombrar = [](const std::string&) {
+        ADD_FAILURE();
+        return std::string();
+    };
+    espacio.Modificar();
+    espacio.DatosGenerales();
+    espacio.CrearDesdeSeleccionada();
+    espacio.Renombrar();
+    espacio.Eliminar();
+    EXPECT_EQ(e.caja.Mensajes.size(), mensajes);
+
+    e.vista.Datos = nullptr;
+    e.vista.LosaNueva = [&] { EXPECT_TRUE(Nueva("O'Higgins")); };  // nothing to find its name in
+    espacio.CrearNueva();
+    EXPECT_THAT(e.vista.Filas, ElementsAre("O'Higgins"));
+}
+
+TEST_F(Espacio, UnNombreConComillaRompeSoloSusSentencias) {
+    espacio.Seleccionar(2);
+    e.vista.LosaNueva = [&] { EXPECT_FALSE(Nueva("L'1")); };
+    espacio.CrearNueva();
+    e.vista.Renombrar = [](const std::string&) { return "L'1"; };
+    espacio.Renombrar();
+    EXPECT_THAT(e.vista.Filas, ElementsAre("BALCON", "Nivel 1"));
+    EXPECT_EQ(e.Filas("LosaTramos", "Nivel 1"), 3);
+
+    espacio.Cerrar();
+    const auto otra = e.CrearProyecto("otra.los", {Nombrada(LosaContinua({3, 3}, 200), "L'1"), Maciza()});
+    e.aplicacion.ArchivoProyecto = otra;
+    espacio.Abrir();
+    espacio.Seleccionar(2);
+    EXPECT_EQ(espacio.Estado().Abierta.Nombre, "L'1");
+    EXPECT_EQ(espacio.Estado().Abierta.Tramos.size(), 1U);  // its reading breaks
+    e.caja.Respuestas = {RespuestaSi};
+    espacio.Eliminar();
+    EXPECT_THAT(e.vista.Filas, ElementsAre("BALCON"));
+    EXPECT_EQ(e.Guardada("BALCON").Tramos.size(), 2U);
+}
+
+TEST_F(Espacio, UnProyectoQueNoSePuedeEscribirQuedaComoEstaba) {
+    espacio.Seleccionar(2);
+    const prueba::ProyectoOcupado ocupado(e.aplicacion.ArchivoProyecto);
+    e.vista.LosaNueva = [&] { EXPECT_FALSE(Nueva("Azotea")); };
+    e.vista.SalvarComo = [&] { EXPECT_FALSE(Copia("Azotea")); };
+    e.vista.Renombrar = [](const std::string&) { return "Azotea"; };
+    espacio.CrearNueva();
+    e.caja.Respuestas = {RespuestaSi};
+    espacio.CrearDesdeSeleccionada();
+    espacio.Renombrar();
+    e.caja.Respuestas = {RespuestaSi};
+    espacio.Eliminar();
+    int errores = 0;
+    for (const Mensaje& mensaje : e.caja.Mensajes)
+        errores += mensaje.Texto.rfind("Error Número: 75", 0) == 0 ? 1 : 0;
+    EXPECT_EQ(errores, 4);
+    EXPECT_THAT(e.vista.Filas, ElementsAre("BALCON", "Nivel 1"));
+    EXPECT_EQ(espacio.NumeroDeLosas(), 2);
+    EXPECT_EQ(e.Filas("LosaTramos", "Nivel 1"), 3);
+}
+
+TEST_F(Espacio, LosDatosGeneralesRecalculanSoloSiCambiaron) {
+    e.vista.General = [&] { e.aplicacion.Generales.FCP = 2; };
+    espacio.DatosGenerales();
+    const double antes = espacio.Estado().Resultados.MaxCorte;
+    e.vista.General = [&] { e.aplicacion.LosaModificada = true; };
+    espacio.DatosGenerales();
+    EXPECT_GT(espacio.Estado().Resultados.MaxCorte, antes);
+    EXPECT_FALSE(e.aplicacion.LosaModificada);
+}
+
+TEST_F(Espacio, AbreOtroProyectoYUnoQueNoSePuedeLeerCuentaComoVacio) {
+    espacio.ElegirOpcionCarga(CargaPorCasos);
+    espacio.AbrirProyecto();  // cancelled
+    EXPECT_EQ(e.vista.Filas.size(), 2U);
+    EXPECT_EQ(e.dialogos.Peticiones[0].Filtro, "Archivos de Proyectos (.los)|*.los");
+    e.dialogos.Elegidos = {e.CrearProyecto("otra ñ.los", {Maciza()})};
+    espacio.AbrirProyecto();
+    EXPECT_EQ(e.vista.Titulo, "Trabex 2024   Proyecto:[OTRA Ñ.LOS]");
+    EXPECT_EQ(e.aplicacion.NombreProyecto, "otra ñ.los");
+    EXPECT_THAT(e.vista.Filas, ElementsAre("BALCON"));
+    EXPECT_EQ(espacio.Estado().Hoja.OpcionCarga, CargaTotal);
+
+    prueba::EscribirArchivo(e.carpeta / "roto.los", "no es un proyecto");
+    e.dialogos.Elegidos = {e.carpeta / "roto.los"};
+    espacio.AbrirProyecto();
+    EXPECT_THAT(e.vista.Filas, IsEmpty());
+    EXPECT_EQ(e.vista.Encabezado, "");
+    EXPECT_THAT(e.vista.Pie, testing::HasSubstr("No se pudo leer"));
+    EXPECT_EQ(espacio.Estado().Abierta.Tramos.size(), 1U);
+}
+
+}  // namespace
+}  // namespace trabex

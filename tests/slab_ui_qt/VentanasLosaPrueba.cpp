@@ -1,0 +1,217 @@
+// The slab's windows through their real widgets.
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+
+#include <gtest/gtest.h>
+
+#include "shell/qt/TablaDatos.h"
+#include "slab/ui/qt/VentanaCarga.h"
+#include "slab/ui/qt/VentanaLosaDatos.h"
+#include "slab/ui/qt/VentanaLosas.h"
+#include "support/LosasGuiadas.h"
+
+namespace trabex {
+namespace {
+
+using prueba::LosaContinua;
+using prueba::Nombrada;
+
+QAbstractButton* BotonDe(QWidget& ventana, const QString& texto) {
+    for (QAbstractButton* boton : ventana.findChildren<QAbstractButton*>()) {
+        if (boton->text().remove('&').trimmed() == texto) return boton;
+    }
+    ADD_FAILURE() << texto.toStdString();
+    return nullptr;
+}
+
+struct Ventanas : testing::Test {
+    prueba::EspacioDePrueba e{
+        {Nombrada(LosaContinua({5, 4, 3}, 300, 90), "L-1"), Nombrada(LosaContinua({6}, 200), "L-2")}};
+    /// Runs `accion` on the modal window that is about to open.
+    template <class Accion>
+    void EnLaVentana(Accion accion) {
+        QTimer::singleShot(0, qApp, [accion] { accion(*QApplication::activeModalWidget()); });
+    }
+};
+
+TEST_F(Ventanas, LosDatosSeEscribenEnLasTablasYLleganAlArchivo) {
+    VentanaLosaDatos ventana(e.espacio, e.caja, nullptr);
+    ventana.show();
+    EXPECT_EQ(ventana.windowTitle(), "Datos Generales Losa: L-1");
+    auto* numeroJuntas = ventana.findChild<QSpinBox*>("NumeroJuntasD");
+    ventana.findChild<QSpinBox*>("NumeroTramos")->setValue(4);
+    auto* luces = ventana.findChild<TablaDatos*>("Luces");
+    auto* ejes = ventana.findChild<TablaDatos*>("Ejes");
+    ASSERT_EQ(luces->Filas(), 4);
+    ASSERT_EQ(ejes->Filas(), 5);
+    EXPECT_TRUE(luces->model()->setData(luces->model()->index(3, 0), "3,75"));
+    EXPECT_TRUE(ejes->model()->setData(ejes->model()->index(4, 0), "E"));
+
+    numeroJuntas->setValue(6);  // refused
+    EXPECT_EQ(e.caja.Mensajes.back().Texto, "El Número de Juntas Desplazadas no puede ser > 5");
+    EXPECT_EQ(numeroJuntas->value(), 0);
+    numeroJuntas->setValue(1);
+    auto* juntas = ventana.findChild<TablaDatos*>("JuntasD");
+    EXPECT_FALSE(juntas->model()->setData(juntas->model()->index(0, 0), "6"));
+    EXPECT_TRUE(juntas->model()->setData(juntas->model()->index(0, 0), "5"));
+    EXPECT_TRUE(juntas->model()->setData(juntas->model()->index(0, 2), "-0.35"));
+
+    ventana.MostrarPagina(PaginaLosa::Apoyos);
+    auto* apoyos = ventana.findChild<TablaDatos*>("Apoyos");
+    apoyos->IrA(4, 1);
+    BotonDe(ventana, "4")->click();
+    BotonDe(ventana, "2")->click();
+    EXPECT_EQ(apoyos->FilaActual(), 5);
+    BotonDe(ventana, "Salvar")->click();
+    const Losa losa = e.Guardada("L-1");
+    ASSERT_EQ(losa.Tramos.size(), 5U);
+    EXPECT_EQ(losa.Tramos[4].LT, 3.75);
+    EXPECT_EQ(losa.Ejes[5].Eje, "E");
+    EXPECT_EQ(losa.Ejes[4].Tipo, Empotramiento);
+    EXPECT_EQ(losa.Ejes[5].Tipo, RodilloEnX);
+    EXPECT_EQ(losa.JuntasD[1].y, -0.35);
+}
+
+TEST_F(Ventanas, LaSeccionMuestraLoDeSuClase) {
+    VentanaLosaDatos ventana(e.espacio, e.caja, nullptr);
+    ventana.show();
+    const auto campo = [&](const char* nombre) { return ventana.findChild<QLineEdit*>(nombre); };
+    EXPECT_TRUE(campo("So")->isVisible());
+    EXPECT_FALSE(campo("Hm")->isVisible());
+    BotonDe(ventana, "Losa Maciza")->click();
+    EXPECT_FALSE(campo("Bo")->isVisible());
+    EXPECT_FALSE(campo("Loseta")->isVisible());
+    EXPECT_TRUE(campo("Hm")->isVisible());
+    ventana.MostrarPagina(PaginaLosa::Cargas);
+    campo("Hm")->clear();
+    QTest::keyClicks(campo("Hm"), "0");
+    BotonDe(ventana, "Salvar")->click();
+    EXPECT_EQ(ventana.Pagina(), PaginaLosa::Seccion);
+    EXPECT_EQ(ventana.focusWidget(), campo("Hm"));
+    EXPECT_TRUE(e.caja.Mensajes.empty());
+    campo("Hm")->selectAll();
+    QTest::keyClicks(campo("Hm"), "0,18");
+    e.caja.Respuestas = {RespuestaSi};
+    ventana.reject();
+    EXPECT_FALSE(ventana.isVisible());
+    EXPECT_TRUE(e.Guardada("L-1").OpcionMaciza);
+    EXPECT_EQ(e.Guardada("L-1").Hm, 0.18);
+}
+
+TEST_F(Ventanas, LasCargasRecorrenLosTramosConEnter) {
+    VentanaLosaDatos ventana(e.espacio, e.caja, nullptr);
+    ventana.show();
+    EnLaVentana([](QWidget& carga) {
+        const auto campos = carga.findChildren<QLineEdit*>();
+        EXPECT_EQ(campos[0]->text(), "300");
+        for (const char* texto : {"410", "110", "420", "120"}) {
+            QWidget* campo = carga.focusWidget();
+            static_cast<QLineEdit*>(campo)->selectAll();
+            QTest::keyClicks(campo, texto);
+            QTest::keyClick(campo, Qt::Key_Return);
+        }
+        EXPECT_EQ(carga.findChild<QScrollBar*>()->value(), 3);
+        EXPECT_EQ(campos[0]->text(), "300");
+        BotonDe(carga, "Fijar Carga")->click();
+    });
+    BotonDe(ventana, "Carga Uniforme")->click();
+    auto* cargas = ventana.findChild<TablaDatos*>("Cargas");
+    EXPECT_EQ(cargas->model()->index(1, 0).data(), "420");
+    EXPECT_EQ(cargas->model()->index(1, 1).data(), "120");
+    EXPECT_EQ(cargas->model()->index(2, 1).data(), "90");
+    EXPECT_TRUE(e.aplicacion.LosaModificada);
+}
+
+struct Espacio : Ventanas {
+    Espacio() { e.espacio.Cerrar(); }
+};
+
+TEST_F(Espacio, SeleccionaHojaYCargasYDibujaAlMomento) {
+    VentanaLosas ventana(e.aplicacion, e.caja, e.dialogos, {}, nullptr);
+    ventana.show();
+    auto* lista = ventana.findChild<QListWidget*>("Lista");
+    auto* encabezado = ventana.findChild<QLabel*>("Encabezado");
+    ASSERT_EQ(lista->count(), 2);
+    EXPECT_EQ(lista->currentRow(), 0);
+    lista->setCurrentRow(1);
+    EXPECT_EQ(encabezado->text(), "LOSA NERVADA: L-2");
+    ventana.Accion("ID_ZoomIN")->trigger();
+    EXPECT_EQ(ventana.Operaciones().Estado().Hoja.Vista.Zoom, 1.1);
+    ventana.Accion("ID_PanRealtime")->trigger();
+    lista->setCurrentRow(0);
+    EXPECT_EQ(ventana.Operaciones().Estado().Hoja.Vista.Zoom, 1);
+    ventana.Accion("ID_ZoomExtents")->trigger();
+    EXPECT_FALSE(ventana.Accion("ID_PanRealtime")->isChecked());
+    BotonDe(ventana, "Permanente + Variable")->click();
+    EXPECT_EQ(ventana.Operaciones().Estado().Hoja.OpcionCarga, CargaPorCasos);
+    QTest::keyClick(&ventana, Qt::Key_Escape);
+    EXPECT_TRUE(ventana.isVisible());
+    EXPECT_EQ(ventana.Accion("ID_Planex")->toolTip(),
+              "<b>Exportar a Planex Estructural</b><br>Exportar las losas la programa de dibujo <br>Planex "
+              "Estructural 2023. <br>(no disponible en esta edición)");
+}
+
+TEST_F(Espacio, LosMandosDeOtrasPartesSeEnchufanYPidenUnaLosa) {
+    int veces = 0;
+    const EnchufesLosas enchufes{{"ID_Exportar", [&](Losas& losas, QWidget&) {
+                                      ++veces;
+                                      EXPECT_EQ(losas.NumeroDeLosas(), 2);
+                                  }}};
+    VentanaLosas ventana(e.aplicacion, e.caja, e.dialogos, enchufes, nullptr);
+    EXPECT_FALSE(ventana.Accion("ID_Planex")->isEnabled());
+    ventana.Accion("ID_Exportar")->trigger();
+    EXPECT_EQ(veces, 1);
+    e.caja.Respuestas = {RespuestaSi, RespuestaSi};
+    ventana.Accion("ID_Eliminar")->trigger();
+    ventana.Accion("ID_Eliminar")->trigger();
+    for (const char* clave : {"ID_Exportar", "ID_Editar", "ID_Eliminar", "ID_Generales"})
+        EXPECT_FALSE(ventana.Accion(clave)->isEnabled()) << clave;
+    EXPECT_TRUE(ventana.Accion("ID_Nueva")->isEnabled());
+}
+
+TEST_F(Espacio, CreaConElDeslizadorDeNombresYRenombra) {
+    VentanaLosas ventana(e.aplicacion, e.caja, e.dialogos, {}, nullptr);
+    ventana.show();
+    auto* lista = ventana.findChild<QListWidget*>("Lista");
+    EnLaVentana([&](QWidget& nueva) {
+        EXPECT_EQ(nueva.windowTitle(), "CREAR NUEVA LOSA");
+        auto* nombre = nueva.findChild<QLineEdit*>("Nombre");
+        QTest::keyClick(nombre, Qt::Key_Down);
+        EXPECT_EQ(lista->currentRow(), 1);
+        QTest::keyClicks(nombre, " L-0 ");
+        EnLaVentana([](QWidget& datos) {
+            EXPECT_EQ(datos.windowTitle(), "Datos Generales Losa: L-0");
+            static_cast<QDialog&>(datos).reject();
+        });
+        BotonDe(nueva, "Aceptar")->click();
+    });
+    ventana.Accion("ID_Nueva")->trigger();
+    ASSERT_EQ(lista->count(), 3);
+    EXPECT_EQ(lista->currentRow(), 2);
+    EXPECT_EQ(lista->item(2)->text(), "L-0");
+
+    e.caja.Respuestas = {RespuestaSi};
+    EnLaVentana([](QWidget& renombrar) {
+        auto* nombre = renombrar.findChild<QLineEdit*>("Nombre");
+        EXPECT_EQ(nombre->text(), "L-0");
+        nombre->setText("A");
+        BotonDe(renombrar, "Aceptar")->click();
+    });
+    ventana.Accion("ID_Renombrar")->trigger();
+    EXPECT_EQ(lista->item(0)->text(), "A");
+    EXPECT_EQ(lista->currentRow(), 0);
+}
+
+}  // namespace
+}  // namespace trabex

@@ -1,0 +1,129 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "slab/ui/LosaDatos.h"
+#include "slab/ui/Losas.h"
+#include "support/CarpetaTemporal.h"
+#include "support/LosasDePrueba.h"
+#include "support/ProyectoDePrueba.h"
+#include "support/ShellGuiado.h"
+
+namespace trabex::prueba {
+
+/// The workspace's window as a record of what was shown; modal windows are functions of the test.
+struct VistaLosasGuiada : VistaLosas {
+    void PonerTitulo(const std::string& titulo) override { Titulo = titulo; }
+    void PonerEstado(const std::string& texto) override { Pie = texto; }
+    void PonerEncabezado(const std::string& texto) override { Encabezado = texto; }
+    void LlenarLista(const std::vector<std::string>& nombres) override { Filas = nombres; }
+    void AgregarFila(const std::string& nombre) override { Filas.push_back(nombre); }
+    void QuitarFila(int fila) override { Filas.erase(Filas.begin() + fila - 1); }
+    void MarcarFila(int fila) override { Marcada = fila; }
+    void RestablecerVista() override { ++Restablecida; }
+    void Redibujar() override { ++Dibujos; }
+    void MostrarLosaNueva() override { Llamar(LosaNueva); }
+    void MostrarLosaSalvarComo() override { Llamar(SalvarComo); }
+    void MostrarLosaDatos() override { Llamar(Datos); }
+    void MostrarLosaGeneral() override { Llamar(General); }
+    std::string MostrarRenombrar(const std::string& actual) override {
+        return Renombrar ? Renombrar(actual) : std::string();
+    }
+
+    static void Llamar(const std::function<void()>& ventana) {
+        if (ventana) ventana();
+    }
+    std::string Titulo, Pie, Encabezado;
+    std::vector<std::string> Filas;
+    int Marcada = 0, Restablecida = 0, Dibujos = 0;
+    std::function<void()> LosaNueva, SalvarComo, Datos, General;
+    std::function<std::string(const std::string&)> Renombrar;
+};
+
+struct VistaLosaDatosGuiada : VistaLosaDatos {
+    void Rellenar() override { ++Rellenos; }
+    void Refrescar() override { ++Refrescos; }
+    void Redibujar() override {}
+    PaginaLosa Pagina() const override { return EnPagina; }
+    void MostrarPagina(PaginaLosa pagina) override { EnPagina = pagina; }
+    void EnfocarCampo(CampoSeccion campo) override { Enfocado = campo; }
+    std::size_t FilaDeApoyo() const override { return Apoyo; }
+    void IrAFilaDeApoyo(std::size_t fila) override { Apoyo = fila; }
+    void MostrarCarga01(const EntradaDeCarga& entrada) override {
+        if (Carga) Carga(entrada);
+    }
+    void MostrarCarga02(const EntradaDeCarga& entrada) override { MostrarCarga01(entrada); }
+    void Cerrar() override { Cerrada = true; }
+
+    PaginaLosa EnPagina = PaginaLosa::Cargas;
+    std::optional<CampoSeccion> Enfocado;
+    std::size_t Apoyo = 1;
+    int Rellenos = 0, Refrescos = 0;
+    bool Cerrada = false;
+    std::function<void(const EntradaDeCarga&)> Carga;
+};
+
+/// A project on disk with the given slabs, and the workspace open on it.
+class EspacioDePrueba {
+  public:
+    explicit EspacioDePrueba(const std::vector<Losa>& losas) {
+        aplicacion.CaminoUsuario = carpeta.Camino();
+        aplicacion.ArchivoProyecto = CrearProyecto("obra.los", losas);
+        aplicacion.NombreProyecto = "obra.los";
+        espacio.Abrir();
+    }
+    std::filesystem::path CrearProyecto(const std::string& nombre, const std::vector<Losa>& losas) const {
+        const auto archivo = carpeta / nombre;
+        CrearBaseDatos(archivo, EsquemaDeProyecto());
+        ProyectoAbierto proyecto;
+        prueba::Abrir(proyecto, archivo);
+        for (const Losa& losa : losas) AgregarLosa(proyecto, losa);
+        return archivo;
+    }
+    /// The slab of that name as the file holds it.
+    Losa Guardada(const std::string& nombre) const {
+        ProyectoAbierto proyecto;
+        prueba::Abrir(proyecto, aplicacion.ArchivoProyecto);
+        BuscarRegistro(proyecto.RegistrosProyecto, "Nombre=" + EntreComillas(nombre));
+        Losa losa;
+        if (proyecto.RegistrosProyecto.Encontrado()) LeerLosa(proyecto, losa);
+        return losa;
+    }
+    /// Rows of a table under a name.
+    int Filas(const std::string& tabla, const std::string& nombre) const {
+        Conexion conexion;
+        AbrirConexion(conexion, aplicacion.ArchivoProyecto);
+        Recordset registros;
+        AbrirRecordset(conexion, registros,
+                       "SELECT * FROM " + tabla + " WHERE Nombre=" + EntreComillas(nombre));
+        return registros.NumeroRegistros();
+    }
+
+    CarpetaTemporal carpeta;
+    Aplicacion aplicacion;
+    CajaGuiada caja;
+    DialogosGuiados dialogos;
+    VistaLosasGuiada vista;
+    Losas espacio{aplicacion, vista, caja, dialogos};
+};
+
+inline Losa Nombrada(Losa losa, const std::string& nombre) {
+    losa.Nombre = nombre;
+    return losa;
+}
+
+/// Holds the project's write lock, as another program that is writing it would.
+class ProyectoOcupado {
+  public:
+    explicit ProyectoOcupado(const std::filesystem::path& archivo) {
+        AbrirConexion(conexion_, archivo);
+        conexion_.Ejecutar("BEGIN IMMEDIATE");
+    }
+
+  private:
+    Conexion conexion_;
+};
+
+}  // namespace trabex::prueba
