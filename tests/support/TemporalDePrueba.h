@@ -7,28 +7,10 @@
 #include <vector>
 
 #include "slab/CalcularLosa.h"
-#include "store/Mantenimiento.h"
 #include "support/LosasDePrueba.h"
+#include "support/ProyectoDePrueba.h"
 
 namespace trabex::prueba {
-
-/// The tables of the scratch database that the slabs' layouts read.
-inline constexpr const char* EsquemaTemporal =
-    "CREATE TABLE Generales (Usuario TEXT, Version TEXT, Titulo TEXT, Propietario TEXT, Calculista TEXT,"
-    " Fecha DATE, Proyecto TEXT, Nombre TEXT, Resumen BOOLEAN);"
-    "CREATE TABLE Grafico (Numero SMALLINT, Nombre TEXT, Losa TEXT, Grafico BLOB);"
-    "CREATE TABLE LosaG (FC SMALLINT, FY SMALLINT, D8 DOUBLE, FCP DOUBLE, FCV DOUBLE, FiMomento DOUBLE,"
-    " FiCorte DOUBLE);"
-    "CREATE TABLE LosaDatos (Nombre TEXT, OpcionMaciza BOOLEAN, Bo DOUBLE, Ho DOUBLE, So DOUBLE, Bm DOUBLE,"
-    " Hm DOUBLE);"
-    "CREATE TABLE LosaEjes (Nombre TEXT, Numero SMALLINT, Eje TEXT, Tipo SMALLINT, x DOUBLE, y DOUBLE,"
-    " DX DOUBLE, DY DOUBLE, Giro DOUBLE, AS1 DOUBLE, AS2 DOUBLE, MczI DOUBLE, MczD DOUBLE, PtoI DOUBLE,"
-    " PtoD DOUBLE, RV DOUBLE, RH DOUBLE);"
-    "CREATE TABLE LosaTramos (Nombre TEXT, Numero SMALLINT, EjeA TEXT, EjeB TEXT, TipoA SMALLINT,"
-    " TipoB SMALLINT, MuA DOUBLE, MuB DOUBLE, VuA DOUBLE, VuB DOUBLE, VA DOUBLE, FA DOUBLE, VB DOUBLE,"
-    " FB DOUBLE, VACP DOUBLE, FACP DOUBLE, VBCP DOUBLE, FBCP DOUBLE, VACV DOUBLE, FACV DOUBLE, VBCV DOUBLE,"
-    " FBCV DOUBLE, MT DOUBLE, x DOUBLE, AS1 DOUBLE, AS2 DOUBLE, AS1A DOUBLE, AS2A DOUBLE, AS1B DOUBLE,"
-    " AS2B DOUBLE, PtoA DOUBLE, PtoB DOUBLE, MczA DOUBLE, Mczb DOUBLE, L DOUBLE);";
 
 inline std::string TextoSql(const std::string& texto) {
     std::string salida = "'";
@@ -122,7 +104,7 @@ inline void EscribirTemporal(const std::filesystem::path& camino, const std::vec
         std::string(desplazamientos ? "1" : "0") +
         ");INSERT INTO LosaG VALUES (250, 4200, 0.025, 1.2, 1.6, 0.9, 0.75);";
     for (const Losa& losa : losas) filas += FilasDeLosa(losa);
-    CrearBaseDatos(camino, EsquemaTemporal + filas);
+    CrearBaseDatos(camino, LeerArchivo(TRABEX_INSTALL "/Imagen/Temporal.sql") + filas);
 }
 
 }  // namespace trabex::prueba
