@@ -24,7 +24,7 @@ QValidator::State ValidadorNumero::validate(QString& texto, int&) const {
     if (!(clase_.Entero ? entero : decimal).match(limpio).hasMatch()) return Invalid;
     if (clase_.Minimo >= 0 && limpio.startsWith('-')) return Invalid;
     if (limpio == "-" || limpio == "." || limpio == ",") return Intermediate;
-    return NumeroDe(limpio, clase_) ? Acceptable : Invalid;
+    return NumeroDe(limpio, clase_) ? Acceptable : Intermediate;  // a digit that is lost in silence is worse
 }
 
 CampoNumero::CampoNumero(const ClaseNumero& clase, const Separadores& separadores, QWidget* padre)
