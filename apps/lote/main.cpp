@@ -12,6 +12,7 @@
 #include "reports/ArchivoPlanex.h"
 #include "reports/Lote.h"
 #include "reports/qt/HojasLote.h"
+#include "reports/qt/ReportesLote.h"
 
 namespace {
 
@@ -20,9 +21,8 @@ constexpr int NoSePuedeEscribir = 1;
 constexpr int MalUso = 2;
 constexpr int NoSePuedeAbrir = 3;
 
-std::filesystem::path PlantillaPlanex() {
-    const std::string programa = QCoreApplication::applicationDirPath().toStdString();
-    return trabex::CaminoDeTexto(programa) / "Imagen" / "ImagenCAD23.tbx";
+std::filesystem::path CarpetaDelPrograma() {
+    return trabex::CaminoDeTexto(QCoreApplication::applicationDirPath().toStdString());
 }
 
 int EscribirTodo(const trabex::ProyectoCalculado& calculado, const std::filesystem::path& proyecto,
@@ -35,8 +35,9 @@ int EscribirTodo(const trabex::ProyectoCalculado& calculado, const std::filesyst
         std::filesystem::create_directories(planex.parent_path(), error);
         trabex::EscribirArchivo(archivo, trabex::DocumentoJson(calculado));
         trabex::EscribirHojas(proyecto, hilos, hojas);
-        trabex::EscribirArchivoPlanex(PlantillaPlanex(), planex, proyecto, calculado.Datos,
-                                      calculado.Generales);
+        trabex::EscribirArchivoPlanex(CarpetaDelPrograma() / "Imagen" / "ImagenCAD23.tbx", planex, proyecto,
+                                      calculado.Datos, calculado.Generales);
+        trabex::EscribirReportes(CarpetaDelPrograma(), proyecto, carpeta);
     } catch (const trabex::ErrorEjecucion& error) {
         std::cerr << "trabex-lote: no se puede escribir en " << carpeta << ": " << error.Texto() << '\n';
         return NoSePuedeEscribir;

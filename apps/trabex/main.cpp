@@ -5,6 +5,7 @@
 #include <QTranslator>
 #include <memory>
 
+#include "EspaciosTrabex.h"
 #include "shell/Arranque.h"
 #include "shell/qt/CajaMensajesQt.h"
 #include "shell/qt/DialogosArchivoQt.h"
@@ -12,28 +13,6 @@
 #include "shell/qt/PlataformaQt.h"
 #include "shell/qt/VentanaMenuPrincipal.h"
 #include "shell/qt/VentanaSplash.h"
-#include "slab/ui/qt/VentanaLosas.h"
-
-namespace {
-
-/// The windows of the elements that are built; the commands of the others are disabled.
-class Espacios : public trabex::EspaciosDeTrabajo {
-  public:
-    Espacios(trabex::Aplicacion& aplicacion, trabex::CajaMensajes& caja, trabex::DialogosArchivo& dialogos)
-        : aplicacion_(aplicacion), caja_(caja), dialogos_(dialogos) {}
-
-    void Mostrar(trabex::Espacio espacio, QWidget* padre) override {
-        if (espacio == trabex::Espacio::Losas)
-            trabex::VentanaLosas(aplicacion_, caja_, dialogos_, {}, padre).exec();
-    }
-
-  private:
-    trabex::Aplicacion& aplicacion_;
-    trabex::CajaMensajes& caja_;
-    trabex::DialogosArchivo& dialogos_;
-};
-
-}  // namespace
 
 int main(int argc, char** argv) {
     QApplication programa(argc, argv);
@@ -48,7 +27,7 @@ int main(int argc, char** argv) {
     trabex::PlataformaQt plataforma;
     trabex::CajaMensajesQt caja;
     trabex::DialogosArchivoQt dialogos;
-    Espacios espacios(aplicacion, caja, dialogos);
+    trabex::EspaciosTrabex espacios(aplicacion, caja, dialogos, plataforma);
     std::unique_ptr<trabex::VentanaMenuPrincipal> menu;
     trabex::VentanaSplash splash([&] {
         menu =

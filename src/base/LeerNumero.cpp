@@ -57,8 +57,8 @@ std::optional<double> LeerNumero(std::string_view texto) {
     if (!cifras) return std::nullopt;
     const std::string escrito = (negativo ? "-" : "") + *cifras + "." + std::string(fraccion) + "0";
     double valor = 0;
-    std::from_chars(escrito.data(), escrito.data() + escrito.size(), valor);
-    return valor;
+    const auto leido = std::from_chars(escrito.data(), escrito.data() + escrito.size(), valor);
+    return leido.ec == std::errc() ? std::optional(valor) : std::nullopt;
 }
 
 std::string NumeroParaEditar(double valor, int decimales, const Separadores& separadores) {

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <charconv>
-#include <cmath>
 
 namespace trabex {
 
@@ -73,17 +71,6 @@ std::string Recortar(std::string_view texto) {
     const std::size_t inicio = texto.find_first_not_of(' ');
     if (inicio == std::string_view::npos) return {};
     return std::string(texto.substr(inicio, texto.find_last_not_of(' ') - inicio + 1));
-}
-
-std::optional<double> NumeroDeTexto(std::string_view texto) {
-    std::string cifras = Recortar(texto);
-    std::replace(cifras.begin(), cifras.end(), ',', '.');
-    if (cifras.starts_with('+') && !cifras.starts_with("+-")) cifras.erase(0, 1);
-    double valor = 0;
-    const char* fin = cifras.data() + cifras.size();
-    const auto [hasta, error] = std::from_chars(cifras.data(), fin, valor);
-    if (error != std::errc{} || hasta != fin || !std::isfinite(valor)) return std::nullopt;
-    return valor;
 }
 
 }  // namespace trabex

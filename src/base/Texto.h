@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -26,9 +25,5 @@ std::string Mayusculas(std::string texto);
 
 /// `texto` without the blanks around it.
 std::string Recortar(std::string_view texto);
-
-/// The finite number that a person typed, with comma or point before its decimals and no mark of thousands;
-/// blanks around it are ignored. Nothing when the text is no number.
-std::optional<double> NumeroDeTexto(std::string_view texto);
 
 }  // namespace trabex

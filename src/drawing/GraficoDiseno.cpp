@@ -6,6 +6,7 @@
 #include "drawing/GraficoLosa.h"
 #include "drawing/HojaComun.h"
 #include "drawing/Primitivas.h"
+#include "slab/DisenoSeccion.h"
 
 namespace trabex {
 

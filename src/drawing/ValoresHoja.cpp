@@ -10,7 +10,6 @@ namespace trabex {
 
 namespace {
 
-constexpr double MacizadoMinimo = 0.3;
 constexpr double EstacionesPorMetro = 4;
 
 std::size_t Tramos(const LosaCalculada& losa) {
@@ -138,10 +137,6 @@ DisenoDeTramo DisenoEnTramo(const LosaCalculada& losa, std::size_t tramo) {
 double AceroMinimo(const Losa& losa, const DatosGenerales& generales) {
     if (losa.OpcionMaciza) return ((losa.Hm - generales.D8) * 100) * ((losa.Bm * 100) * 0.002);
     return (14.0 / generales.FY) * (losa.Bo * 100) * ((losa.Ho - generales.D8) * 100);
-}
-
-double MacizadoVisible(double longitud) {
-    return longitud > MacizadoMinimo ? longitud : 0;
 }
 
 }  // namespace trabex

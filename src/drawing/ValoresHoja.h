@@ -81,7 +81,4 @@ DisenoDeTramo DisenoEnTramo(const LosaCalculada& losa, std::size_t tramo);
 /// Minimum steel as the caption shows it; applied to nothing.
 double AceroMinimo(const Losa& losa, const DatosGenerales& generales);
 
-/// Length of a solid zone that is shown: only what is above 0.3 m, else 0.
-double MacizadoVisible(double longitud);
-
 }  // namespace trabex

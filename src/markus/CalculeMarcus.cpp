@@ -5,6 +5,7 @@
 
 #include "base/Enteros.h"
 #include "base/ErrorEjecucion.h"
+#include "base/Formatos.h"
 #include "base/Texto.h"
 #include "base/VigilanciaFlotante.h"
 
@@ -55,7 +56,7 @@ class Recorrido {
 };
 
 double Numero(const std::string& texto) {
-    if (const auto numero = NumeroDeTexto(texto)) return *numero;
+    if (const auto numero = LeerNumero(texto)) return *numero;
     throw ErrorEjecucion(CodigoError::TiposNoCoinciden);
 }
 

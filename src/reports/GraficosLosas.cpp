@@ -1,7 +1,6 @@
 #include "reports/GraficosLosas.h"
 
 #include <array>
-#include <span>
 
 #include "base/Texto.h"
 #include "reports/AlbumGraficos.h"
@@ -10,12 +9,7 @@ namespace trabex {
 
 namespace {
 
-struct DibujoPedido {
-    VistaLosa Vista;
-    bool SoloReacciones;
-    const char* Titulo;  ///< follows the slab's name
-};
-constexpr std::array<DibujoPedido, 4> Dibujos{{
+constexpr std::array<DibujoDeLosa, 4> Dibujos{{
     {VistaGeometria, false, ": GEOMETRÍA DE LA LOSA"},
     {VistaFuerzas, false, ": CORTES Y MOMENTOS"},
     {VistaDiseno, false, ": ANÁLISIS Y DISEÑO"},
@@ -32,9 +26,9 @@ constexpr std::array<Opcion, 6> Opciones{
     {{false, 0, 3}, {true, 0, 3}, {true, 0, 1}, {true, 1, 1}, {true, 2, 1}, {true, 3, 1}}};
 
 void AgregarDibujos(AlbumGraficos& album, const LosaDelProyecto& losa, HojaLosa& hoja,
-                    std::span<const DibujoPedido> dibujos) {
+                    std::span<const DibujoDeLosa> dibujos) {
     const std::string& nombre = losa.Datos.Nombre;
-    for (const DibujoPedido& dibujo : dibujos) {
+    for (const DibujoDeLosa& dibujo : dibujos) {
         hoja.VistaActual = dibujo.Vista;
         hoja.SoloReacciones = dibujo.SoloReacciones;
         album.Agregar(nombre, nombre + dibujo.Titulo, "Exportando la Losa: " + Mayusculas(nombre),
@@ -46,6 +40,12 @@ void AgregarDibujos(AlbumGraficos& album, const LosaDelProyecto& losa, HojaLosa&
 
 }  // namespace
 
+PedidoDeGraficos PedidoDe(std::uint8_t OpcionGrafico) {
+    if (OpcionGrafico >= Opciones.size()) return {};
+    const Opcion& opcion = Opciones[OpcionGrafico];
+    return {opcion.Todas, std::span(Dibujos).subspan(opcion.Primero, opcion.Cuantos)};
+}
+
 bool GuardeGraficos(const EntornoReportes& entorno, const ProyectoParaReporte& origen, const HojaLosa& hoja,
                     SuperficieOculta& superficie, PanelProgreso& panel, EstadoReportes& estado) {
     const BanderaEnAlto generando(estado.GenerandoReporte);
@@ -53,11 +53,9 @@ bool GuardeGraficos(const EntornoReportes& entorno, const ProyectoParaReporte& o
     Conexion temporal;
     AbrirTemporal(entorno, origen.Datos, {TituloReporteLosas}, temporal);
     const int losas = origen.Proyecto.RegistrosProyecto.NumeroRegistros();
-    if (!temporal.Abierta() || losas == 0 || estado.OpcionGrafico >= Opciones.size())
-        return temporal.Abierta();
+    const auto [todas, dibujos] = PedidoDe(estado.OpcionGrafico);
+    if (!temporal.Abierta() || losas == 0 || dibujos.empty()) return temporal.Abierta();
 
-    const Opcion& opcion = Opciones[estado.OpcionGrafico];
-    const auto dibujos = std::span(Dibujos).subspan(opcion.Primero, opcion.Cuantos);
     HojaLosa propia;
     propia.OpcionCarga = hoja.OpcionCarga;
     propia.Numeros = hoja.Numeros;
@@ -66,9 +64,11 @@ bool GuardeGraficos(const EntornoReportes& entorno, const ProyectoParaReporte& o
     Transaccion guardado(temporal);
     {
         AlbumGraficos album(temporal, entorno, superficie, panel,
-                            dibujos.size() * (opcion.Todas ? static_cast<std::size_t>(losas) : 1));
-        RecorrerLosas(origen, opcion.Todas,
-                      [&](const LosaDelProyecto& losa) { AgregarDibujos(album, losa, propia, dibujos); });
+                            dibujos.size() * (todas ? static_cast<std::size_t>(losas) : 1));
+        const auto dibujar = [&, &suyos = dibujos](const LosaDelProyecto& losa) {
+            AgregarDibujos(album, losa, propia, suyos);
+        };
+        RecorrerLosas(origen, todas, dibujar);
     }
     return guardado.Confirmar();
 }

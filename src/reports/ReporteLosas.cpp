@@ -2,22 +2,18 @@
 
 #include <array>
 
+#include "slab/DisenoSeccion.h"
+#include "slab/EsfuerzosTramo.h"
 #include "store/Insercion.h"
 
 namespace trabex {
 
 namespace {
 
-constexpr double MacizadoMinimo = 0.3;  // m: a solid zone up to it is not built apart from its support
-
 /// A record of an array that counts from 1; what a calculation that ended early left out is zero.
 template <class Registro>
 Registro En(const std::vector<Registro>& arreglo, std::size_t i) {
     return i < arreglo.size() ? arreglo[i] : Registro{};
-}
-
-double Macizado(double medida) {
-    return medida > MacizadoMinimo ? medida : 0;
 }
 
 /// Reactions of a joint: vertical and horizontal.
@@ -85,8 +81,8 @@ void EscribirEje(Insercion& tabla, const Losa& losa, const ResultadosLosa& r, st
     tabla.Poner("Giro", permanente.Giro + variable.Giro);
     tabla.Poner("AS1", diseno.AS1);
     tabla.Poner("AS2", diseno.AS2);
-    tabla.Poner("MczI", Macizado(diseno.MczI));
-    tabla.Poner("MczD", Macizado(diseno.MczD));
+    tabla.Poner("MczI", MacizadoVisible(diseno.MczI));
+    tabla.Poner("MczD", MacizadoVisible(diseno.MczD));
     tabla.Poner("PtoI", diseno.PtoI);
     tabla.Poner("PtoD", diseno.PtoD);
     tabla.Poner("RV", permanente.RV + variable.RV);
@@ -122,10 +118,10 @@ void EscribirReacciones(Insercion& tabla, const ColumnasDeReaccion& columnas, co
 void EscribirEsfuerzos(Insercion& tabla, const DatosGenerales& g, const ResultadosLosa& r, std::size_t i) {
     const EsfuerzosTramo permanente = En(r.ResultadoTramo[CasoPermanente], i);
     const EsfuerzosTramo variable = En(r.ResultadoTramo[CasoVariable], i);
-    tabla.Poner("MuA", g.FCP * permanente.MomentoA + g.FCV * variable.MomentoA);
-    tabla.Poner("MuB", g.FCP * permanente.MomentoB + g.FCV * variable.MomentoB);
-    tabla.Poner("VuA", g.FCP * permanente.CorteA + g.FCV * variable.CorteA);
-    tabla.Poner("VuB", g.FCP * permanente.CorteB + g.FCV * variable.CorteB);
+    tabla.Poner("MuA", Mayorar(g, permanente.MomentoA, variable.MomentoA));
+    tabla.Poner("MuB", Mayorar(g, permanente.MomentoB, variable.MomentoB));
+    tabla.Poner("VuA", Mayorar(g, permanente.CorteA, variable.CorteA));
+    tabla.Poner("VuB", Mayorar(g, permanente.CorteB, variable.CorteB));
 }
 
 void EscribirDiseno(Insercion& tabla, const ResultadosLosa& r, std::size_t i) {
@@ -142,8 +138,8 @@ void EscribirDiseno(Insercion& tabla, const ResultadosLosa& r, std::size_t i) {
     tabla.Poner("AS2B", b.AS2);
     tabla.Poner("PtoA", a.PtoD);
     tabla.Poner("PtoB", b.PtoI);
-    tabla.Poner("MczA", Macizado(a.MczD));
-    tabla.Poner("Mczb", Macizado(b.MczI));
+    tabla.Poner("MczA", MacizadoVisible(a.MczD));
+    tabla.Poner("Mczb", MacizadoVisible(b.MczI));
 }
 
 void EscribirTramo(Insercion& tabla, const Losa& losa, const DatosGenerales& generales,

@@ -7,6 +7,11 @@
 
 namespace trabex {
 
+/// Length of a solid zone as it is shown and reported, m: only what is above 0.3, else 0.
+inline double MacizadoVisible(double longitud) {
+    return longitud > 0.3 ? longitud : 0;
+}
+
 /// Section design of one slab, with what its section and materials fix worked out once.
 class DisenoSeccion {
   public:

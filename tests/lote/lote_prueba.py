@@ -1,5 +1,6 @@
 """Runs the batch program as a script would and reads what it writes with another JSON parser."""
 
+import contextlib
 import json
 import math
 import os
@@ -42,7 +43,8 @@ class Lote(unittest.TestCase):
         antes = self.proyecto.read_bytes()
         documento, resumen = self.resultados()
         self.assertEqual(self.proyecto.read_bytes(), antes)
-        self.assertEqual(sorted(os.listdir(self.carpeta / "salida")), ["losas", "planex", "resultados.json"])
+        self.assertEqual(sorted(os.listdir(self.carpeta / "salida")),
+                         ["Trabajo", "losas", "planex", "reportes", "resultados.json"])
         self.assertEqual(documento["Proyecto"]["Calculista"], "ING. MARÍA NÚÑEZ")
         self.assertEqual(documento["LosaG"]["FC"], 250)
         self.assertGreaterEqual(len(documento["losas"]), 8)
@@ -212,6 +214,24 @@ class Lote(unittest.TestCase):
             papel = (hojas / f"{numero}-{nombre}-papel.pdf").read_bytes()
             self.assertEqual(papel.count(b"/Type /Page\n"), 3)
         self.assertEqual(len(os.listdir(hojas)), 4 * len(documento["losas"]))
+
+    def test_los_reportes_dicen_lo_mismo_que_los_resultados(self):
+        documento, _ = self.resultados()
+        reportes = self.carpeta / "salida" / "reportes"
+        self.assertEqual(sorted(os.listdir(reportes)),
+                         sorted(f"losas-{cual}.{formato}" for cual in ("graficos", "resultados")
+                                for formato in ("htm", "pdf", "rtf", "xls")))
+        pdf = subprocess.run(["pdftotext", "-layout", reportes / "losas-resultados.pdf", "-"],
+                             capture_output=True, text=True).stdout
+        html = (reportes / "losas-resultados.htm").read_text()
+        with contextlib.closing(sqlite3.connect(self.carpeta / "salida" / "Trabajo" / "Temporal.mdb")) as base:
+            momentos = base.execute("SELECT Nombre, MT FROM LosaTramos ORDER BY Nombre, Numero").fetchall()
+        esperados = [(losa["Nombre"], tramo["MT"]) for losa in documento["losas"] for tramo in losa["DisenoTramo"]]
+        self.assertEqual(sorted(momentos), sorted(esperados))
+        for _, momento in momentos:
+            texto = f"{momento:,.2f}".replace(",", " ").replace(".", ",").replace(" ", ".")
+            self.assertIn(texto, pdf)
+            self.assertIn(texto, html)
 
     def test_lo_que_no_se_puede(self):
         self.assertEqual(correr().returncode, 2)

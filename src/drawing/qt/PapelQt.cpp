@@ -1,23 +1,31 @@
 #include "drawing/qt/PapelQt.h"
 
-#include <QPainter>
-
 #include "base/ErrorEjecucion.h"
 #include "drawing/qt/LienzoQt.h"
 
 namespace trabex {
 
-void ImprimirPaginas(QPagedPaintDevice& papel, const std::vector<std::function<void(Lienzo&)>>& paginas) {
-    QPainter pintor;
-    if (!pintor.begin(&papel)) throw ErrorEjecucion(CodigoError::ErrorDispositivo);
-    bool primera = true;
-    for (const auto& dibujar : paginas) {
-        if (!primera && !papel.newPage()) throw ErrorEjecucion(CodigoError::ErrorDispositivo);
-        primera = false;
-        LienzoQt lienzo(pintor, papel.width(), papel.height());
-        dibujar(lienzo);
-    }
-    if (!pintor.end()) throw ErrorEjecucion(CodigoError::ErrorDispositivo);
+namespace {
+
+void Exigir(bool hecho) {
+    if (!hecho) throw ErrorEjecucion(CodigoError::ErrorImpresora);
+}
+
+}  // namespace
+
+PapelQt::PapelQt(QPagedPaintDevice& papel) : papel_(papel) {
+    Exigir(pintor_.begin(&papel_));
+}
+
+void PapelQt::Pagina(const std::function<void(Lienzo&)>& dibujar) {
+    Exigir(primera_ || papel_.newPage());
+    primera_ = false;
+    LienzoQt lienzo(pintor_, papel_.width(), papel_.height());
+    dibujar(lienzo);
+}
+
+void PapelQt::Terminar() {
+    Exigir(pintor_.end());
 }
 
 }  // namespace trabex

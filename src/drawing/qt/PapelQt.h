@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QPagedPaintDevice>
+#include <QPainter>
 #include <functional>
-#include <vector>
 
 #include "drawing/Lienzo.h"
 
@@ -12,7 +12,18 @@ namespace trabex {
 inline constexpr int UnidadesPorPulgadaDePapel = 600;
 
 /// Draws pages one after another on a printer or a PDF, whose resolution is UnidadesPorPulgadaDePapel; the
-/// canvas is the page within its margins. Throws ErrorEjecucion 57 when the device refuses.
-void ImprimirPaginas(QPagedPaintDevice& papel, const std::vector<std::function<void(Lienzo&)>>& paginas);
+/// canvas is the page within its margins. Each operation throws ErrorEjecucion 482 when the device refuses.
+class PapelQt {
+  public:
+    explicit PapelQt(QPagedPaintDevice& papel);
+    void Pagina(const std::function<void(Lienzo&)>& dibujar);
+    /// The end of the document.
+    void Terminar();
+
+  private:
+    QPagedPaintDevice& papel_;
+    QPainter pintor_;
+    bool primera_ = true;
+};
 
 }  // namespace trabex

@@ -47,15 +47,15 @@ void EscribirPapel(const LosaDelProyecto& losa, const DatosDePagina& pagina,
                                     QMarginsF(12, 12, 12, 12), QPageLayout::Millimeter));
     papel.setTitle(QString::fromStdString(losa.Datos.Nombre));
     papel.setCreator("Trabex 2024");
-    std::vector<std::function<void(Lienzo&)>> paginas;
+    PapelQt hojas(papel);
     for (const std::uint8_t vista : {VistaGeometria, VistaFuerzas, VistaDiseno}) {
-        paginas.emplace_back([&losa, &pagina, vista](Lienzo& lienzo) {
-            HojaLosa hoja;
-            hoja.VistaActual = vista;
+        HojaLosa hoja;
+        hoja.VistaActual = vista;
+        hojas.Pagina([&](Lienzo& lienzo) {
             GuardeGraficos1(lienzo, hoja, {losa.Datos, losa.Generales, losa.Resultados}, pagina);
         });
     }
-    ImprimirPaginas(papel, paginas);
+    hojas.Terminar();
     EscribirArchivo(archivo, {bytes.data().constData(), static_cast<std::size_t>(bytes.data().size())});
 }
 

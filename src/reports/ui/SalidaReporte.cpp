@@ -45,16 +45,18 @@ void ExportadorReportes::Exportar(const Documento& documento, std::uint8_t salid
                              "No se encontró un programa que abra el archivo");
 }
 
+bool ExportadorReportes::HayImpresoras() {
+    if (!entorno_.LasImpresoras.Disponibles().empty()) return true;
+    Mensaje mensaje;
+    mensaje.Texto = "No hay impresoras instaladas en el sistema.";
+    mensaje.Encabezado = "Imprimir el Reporte...";
+    mensaje.Icono = IconoCaja::Advertencia;
+    entorno_.Caja.Mostrar(mensaje);
+    return false;
+}
+
 bool ExportadorReportes::Imprimir(const Documento& documento) {
-    if (entorno_.LasImpresoras.Disponibles().empty()) {
-        Mensaje mensaje;
-        mensaje.Texto = "No hay impresoras instaladas en el sistema.";
-        mensaje.Encabezado = "Imprimir el Reporte...";
-        mensaje.Icono = IconoCaja::Advertencia;
-        entorno_.Caja.Mostrar(mensaje);
-        return false;
-    }
-    return entorno_.LasImpresoras.Imprimir(documento, entorno_.Estado.Impresora, true, 1);
+    return HayImpresoras() && entorno_.LasImpresoras.Imprimir(documento, entorno_.Estado.Impresora, true, 1);
 }
 
 void ExportadorReportes::Avisar(const ErrorEjecucion& error) {

@@ -81,6 +81,8 @@ class ExportadorReportes {
     std::optional<std::filesystem::path> PedirArchivo(std::uint8_t salida);
     /// Writes the exported file and offers to open it. Throws ErrorEjecucion.
     void Exportar(const Documento& documento, std::uint8_t salida);
+    /// There is a printer to print on; otherwise says so.
+    bool HayImpresoras();
     /// With a prompt, one copy. False when nothing was printed. Throws ErrorEjecucion.
     bool Imprimir(const Documento& documento);
     void Avisar(const ErrorEjecucion& error);

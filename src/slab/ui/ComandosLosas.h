@@ -20,7 +20,7 @@ struct ComandoLosas {
     bool Enchufado;  ///< its operation comes from another part of the program
 };
 
-inline constexpr std::array<ComandoLosas, 18> ComandosLosas{{
+inline constexpr std::array<ComandoLosas, 19> ComandosLosas{{
     {"ID_Abrir", " Abrir Proyecto ", "Abrir Proyecto", "Abrir un proyecto existente. ", "abrir",
      GrupoLosas::Proyecto, false, false},
     {"ID_Generales", " Datos Generales ", "Datos Proyecto", "Datos generales del proyecto. ", "generales",
@@ -41,6 +41,8 @@ inline constexpr std::array<ComandoLosas, 18> ComandosLosas{{
      "Exportar los resultados del análisis y diseño. ", "exportar", GrupoLosas::Salida, true, true},
     {"ID_Imprimir", " Imprimir los Resultados ", "Imprimir Resultados",
      "Imprimir los resultados del análisis y diseño. ", "imprimir", GrupoLosas::Salida, true, true},
+    {"ID_Impresora", " Cambiar de Impresora ", "Cambiar de Impresora", "Cambiar de impresora. ", "impresora",
+     GrupoLosas::Salida, false, true},
     {"ID_Planex", " Exportar a Planex ", "Exportar a Planex Estructural",
      "Exportar las losas la programa de dibujo \nPlanex Estructural 2023. ", "planex", GrupoLosas::Salida,
      true, true},

@@ -91,6 +91,7 @@ void Losas::Seleccionar(int fila) {
     if (fila < 1 || fila > NumeroDeLosas()) return;
     Lista().MoverA(fila);
     LeerLosa(aplicacion_.Proyecto, estado_.Abierta);
+    estado_.Resultados = {};  // those of another slab: one that can't be calculated must not show them
     vista_.MarcarFila(fila);
     vista_.PonerEncabezado(RotuloDeLosa(estado_.Abierta) + estado_.Abierta.Nombre);
     vista_.RestablecerVista();
@@ -103,7 +104,7 @@ void Losas::Calcular() {
 }
 
 void Losas::Redibujar() {
-    if (!estado_.Cargando && !estado_.GenerandoReporte) vista_.Redibujar();
+    if (!estado_.Cargando) vista_.Redibujar();
 }
 
 void Losas::ElegirVista(VistaLosa vista) {

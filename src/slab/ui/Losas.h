@@ -46,10 +46,9 @@ class VistaLosas {
 struct EstadoLosas {
     Losa Abierta;  ///< the slab of the selected row
     ResultadosLosa Resultados;
-    HojaLosa Hoja;                  ///< viewport, sheet on show, load option
-    bool LosaCreada = false;        ///< a window added a slab
-    bool Cargando = true;           ///< the workspace is opening: nothing is drawn
-    bool GenerandoReporte = false;  ///< a report walks the slabs: nothing is drawn
+    HojaLosa Hoja;            ///< viewport, sheet on show, load option
+    bool LosaCreada = false;  ///< a window added a slab
+    bool Cargando = true;     ///< the workspace is opening: nothing is drawn
 };
 
 /// Operations of the slab workspace: the list of the project's slabs and what acts on the selected one. The
