@@ -22,11 +22,11 @@ void Exigir(bool bien) {
 
 void PonerPropiedad(GsfDocMetaData* propiedades, const char* nombre, const std::string& texto) {
     if (texto.empty()) return;
-    GValue* valor = g_new0(GValue, 1);  // the properties take it over
+    GValue* valor = g_new0(GValue, 1);
     g_value_init(valor, G_TYPE_STRING);
     g_value_take_string(valor, g_utf8_make_valid(texto.data(), static_cast<gssize>(texto.size())));
     gsf_doc_meta_data_insert(propiedades, g_strdup(nombre), valor);
-}
+}  // NOLINT(clang-analyzer-unix.Malloc): the properties take name and value over
 
 void EscribirFlujo(GsfOutfile* contenedor, const char* nombre, std::string_view bytes) {
     const Dueno<GsfOutput> hijo(gsf_outfile_new_child(contenedor, nombre, FALSE));

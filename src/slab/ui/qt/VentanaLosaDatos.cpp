@@ -325,8 +325,8 @@ QWidget* VentanaLosaDatos::PaginaDeApoyos() {
 }
 
 ColumnaDatos VentanaLosaDatos::ColumnaDeCarga(const QString& titulo, const ClaseNumero& clase,
-                                              std::function<double(const Tramo&)> leer,
-                                              std::function<void(Tramo&, double)> poner) {
+                                              const std::function<double(const Tramo&)>& leer,
+                                              const std::function<void(Tramo&, double)>& poner) {
     return {.Titulo = titulo,
             .Numero = clase,
             .Leer = [this, leer](int i) { return leer(operaciones_.Edicion().Tramos[Indice(i)]); },

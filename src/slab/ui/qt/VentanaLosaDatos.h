@@ -56,8 +56,8 @@ class VentanaLosaDatos : public QDialog, public VistaLosaDatos {
     void SeguirEn(QSpinBox* contador, TablaDatos* tabla);
     TablaDatos* Tabla(std::vector<ColumnaDatos> columnas, Avance avance, const char* nombre);
     ColumnaDatos ColumnaDeCarga(const QString& titulo, const ClaseNumero& clase,
-                                std::function<double(const Tramo&)> leer,
-                                std::function<void(Tramo&, double)> poner);
+                                const std::function<double(const Tramo&)>& leer,
+                                const std::function<void(Tramo&, double)>& poner);
     ColumnaDatos ColumnaDeCorrimiento(const QString& titulo, double JuntaD::*campo);
 
     void PonerNumeroTramos(int tramos);
