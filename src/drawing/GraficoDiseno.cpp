@@ -91,7 +91,7 @@ double Tabla::BordeIzquierdo(const std::vector<Fila>& filas) const {
         double hasta = primero;
         for (const Celda& celda : fila.Celdas)
             hasta = std::min(hasta, celda.x - p_.lienzo().Medir(celda.Texto).Ancho / 2.0);
-        borde = std::min(borde, hasta - 2 * separacion_ - p_.lienzo().Medir(fila.Rotulo).Ancho);
+        borde = std::min(borde, hasta - separacion_ - p_.lienzo().Medir(fila.Rotulo).Ancho);
     }
     return borde;
 }

@@ -1,6 +1,7 @@
 #include "reports/EstilosBiff.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string_view>
 #include <utility>
 
@@ -124,7 +125,7 @@ void EstilosBiff::Escribir(std::string& flujo) const {
     for (const FuenteXls& fuente : fuentes_) {
         AgregarRegistro(flujo, FONT,
                         Octetos()
-                            .U16(static_cast<std::size_t>(20 * fuente.Puntos + 0.5))
+                            .U16(static_cast<std::size_t>(std::lround(20 * fuente.Puntos)))
                             .U16(fuente.Cursiva ? 2 : 0)
                             .U16(fuente.Color)
                             .U16(fuente.Negrita ? 700 : 400)

@@ -54,7 +54,7 @@ std::optional<double> NumeroDeDia(const Fecha& fecha) {
 }
 
 std::size_t Veinteavos(double puntos) {
-    return static_cast<std::size_t>(20 * puntos + 0.5);
+    return static_cast<std::size_t>(std::lround(20 * puntos));
 }
 
 /// The cell that lies `largo` past the edge of cell `celda`, and how far into it, in parts of its size.
@@ -154,7 +154,7 @@ void HojaBiff::EscribirPagina(std::string& flujo) const {
 void HojaBiff::EscribirColumnas(std::string& flujo) const {
     AgregarRegistro(flujo, DEFCOLWIDTH, Octetos().U16(8));
     for (std::size_t c = 0; c < std::min(hoja_.Anchos.size(), ColumnasXls); ++c) {
-        const auto ancho = static_cast<std::size_t>(256 * Ancho(c) / AnchoDeCaracter + 0.5);
+        const auto ancho = static_cast<std::size_t>(std::lround(256 * Ancho(c) / AnchoDeCaracter));
         const std::size_t sinFormato = 15;
         AgregarRegistro(
             flujo, COLINFO,

@@ -14,10 +14,14 @@
 
 #include "ReportePreparado.h"
 #include "reports/qt/ImpresorasQt.h"
+#include "reports/qt/ImprimirGraficos.h"
 #include "reports/qt/VentanaSalidaReporte.h"
 #include "reports/qt/VentanaSeleccionarImpresora.h"
 #include "reports/qt/VentanaVerReportes.h"
 #include "reports/qt/VistaPaginas.h"
+#include "support/CarpetaTemporal.h"
+#include "support/LosasDePrueba.h"
+#include "support/ProyectoDePrueba.h"
 #include "support/ShellGuiado.h"
 
 namespace trabex {
@@ -221,6 +225,44 @@ TEST_F(SalidasDeReporte, LoImpresoEsLoMismoQueElPdf) {
     EXPECT_EQ(impreso(), esperado);
     impresora.setFromTo(2, 2);
     EXPECT_EQ(impreso(), (QStringList{esperado[1], ""}));
+}
+
+TEST(ImprimirGraficos, CadaDibujoVaEnSuPaginaConSusDatos) {
+    const prueba::CarpetaTemporal carpeta;
+    const auto archivo = carpeta / "obra.los";
+    ASSERT_TRUE(CrearBaseDatos(archivo, prueba::EsquemaDeProyecto()));
+    ProyectoAbierto proyecto;
+    ASSERT_TRUE(prueba::Abrir(proyecto, archivo));
+    for (const char* nombre : {"LOSA A", "LOSA B"}) {
+        Losa losa = prueba::LosaContinua({4, 5}, 300, 100);
+        losa.Nombre = nombre;
+        ASSERT_TRUE(prueba::AgregarLosa(proyecto, losa));
+    }
+    DatosDelProyecto datos;
+    datos.Proyecto = "LA CEIBA";
+    const DatosGenerales generales;
+    EstadoReportes estado;
+    HojaLosa pantalla;
+    const auto impreso = [&](std::uint8_t opcion) {
+        estado.OpcionGrafico = opcion;
+        QPrinter impresora(QPrinter::HighResolution);
+        impresora.setOutputFormat(QPrinter::PdfFormat);
+        impresora.setOutputFileName(prueba::Ruta(carpeta / "dibujos.pdf"));
+        ImprimirGraficosLosas(impresora, {proyecto, datos, generales, 2}, pantalla, "MARÍA", estado);
+        EXPECT_FALSE(estado.GenerandoReporte);
+        const QString texto =
+            prueba::Correr("pdftotext", {"-layout", prueba::Ruta(carpeta / "dibujos.pdf"), "-"});
+        EXPECT_TRUE(texto.contains("PROYECTO: LA CEIBA") && texto.contains("Usuario: MARÍA"));
+        return texto.split('\f', Qt::SkipEmptyParts);
+    };
+    const QStringList seleccionada = impreso(0);
+    ASSERT_EQ(seleccionada.size(), 3);
+    for (const QString& pagina : seleccionada) EXPECT_TRUE(pagina.contains("LOSA B"));
+    EXPECT_TRUE(seleccionada[2].contains("(ANALISIS Y DISEÑO)"));
+    EXPECT_EQ(impreso(1).size(), 6);
+    const QStringList reacciones = impreso(5);
+    ASSERT_EQ(reacciones.size(), 2);
+    EXPECT_TRUE(reacciones[0].contains("REACCIONES SOBRE LAS VIGAS") && !reacciones[0].contains("As Sup"));
 }
 
 TEST_F(SalidasDeReporte, LaImpresoraSeMarcaYCambiaHastaElFinal) {
