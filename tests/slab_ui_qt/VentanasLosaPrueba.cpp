@@ -133,6 +133,26 @@ TEST_F(Ventanas, LasCargasRecorrenLosTramosConEnter) {
     EXPECT_TRUE(e.aplicacion.LosaModificada);
 }
 
+TEST_F(Ventanas, UnaCargaFueraDeRangoNoSeTomaPorCero) {
+    VentanaLosaDatos ventana(e.espacio, e.caja, nullptr);
+    ventana.show();
+    EnLaVentana([&](QWidget& carga) {
+        auto* permanente = carga.findChildren<QLineEdit*>()[0];
+        permanente->selectAll();
+        QTest::keyClicks(permanente, "9999999999");
+        BotonDe(carga, "Fijar Carga")->click();
+        EXPECT_TRUE(carga.isVisible());
+        EXPECT_EQ(carga.focusWidget(), permanente);
+        permanente->clear();
+        QTest::keyClicks(permanente, "450");
+        BotonDe(carga, "Fijar Carga")->click();
+        EXPECT_FALSE(carga.isVisible());
+    });
+    BotonDe(ventana, "Carga Uniforme")->click();
+    auto* cargas = ventana.findChild<TablaDatos*>("Cargas");
+    EXPECT_EQ(cargas->model()->index(0, 0).data().toString(), "450");
+}
+
 struct Espacio : Ventanas {
     Espacio() { e.espacio.Cerrar(); }
 };

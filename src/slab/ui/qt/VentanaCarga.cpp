@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "shell/qt/CampoNumero.h"
 #include "shell/qt/ComunVentanas.h"
@@ -27,7 +28,7 @@ VentanaCarga::VentanaCarga(CargaDeTramos& operaciones, const Separadores& separa
 CampoNumero* VentanaCarga::Campo(const QString& rotulo, const ClaseNumero& clase) {
     auto* campo = new CampoNumero(clase, separadores_, marco_);
     campo->installEventFilter(this);
-    connect(campo, &QLineEdit::textEdited, this, [this] { TomarCampos(); });
+    connect(campo, &QLineEdit::textEdited, this, [this] { TomarSiValen(); });
     formulario_->addRow(rotulo, campo);
     campos_.push_back(campo);
     return campo;
@@ -68,17 +69,36 @@ QLayout* VentanaCarga::FilaDeBotones() {
     PonerAyuda(fijar, "Fijar Carga", "Fijar las cargas de todos los tramos. ");
     PonerAyuda(igualar, "Igualar", "Igualar todos los tramos a la carga seleccionada. ");
     connect(fijar, &QPushButton::clicked, this, [this] {
+        if (!Entradas()) return;
         operaciones_.Fijar();
         accept();
     });
     connect(igualar, &QPushButton::clicked, this, [this] {
-        if (operaciones_.Igualar()) accept();
+        if (Entradas() && operaciones_.Igualar()) accept();
     });
     connect(cancelar, &QPushButton::clicked, this, &QDialog::reject);
     fijar_ = fijar;
     auto* fila = new QHBoxLayout;
     for (QPushButton* boton : {fijar, igualar, cancelar}) fila->addWidget(boton);
     return fila;
+}
+
+CampoNumero* VentanaCarga::PrimerMalo() const {
+    const auto malo = std::find_if(campos_.begin(), campos_.end(),
+                                   [](const CampoNumero* campo) { return !campo->hasAcceptableInput(); });
+    return malo == campos_.end() ? nullptr : *malo;
+}
+
+bool VentanaCarga::Entradas() {
+    CampoNumero* malo = PrimerMalo();
+    if (malo == nullptr) return true;
+    malo->setFocus();
+    malo->selectAll();
+    return false;
+}
+
+void VentanaCarga::TomarSiValen() {
+    if (PrimerMalo() == nullptr) TomarCampos();
 }
 
 void VentanaCarga::MostrarTramo() {
@@ -100,8 +120,8 @@ bool VentanaCarga::eventFilter(QObject* objeto, QEvent* evento) {
         for (std::size_t i = 0; i < campos_.size(); ++i) {
             if (objeto != campos_[i]) continue;
             if (tecla == Qt::Key_Return || tecla == Qt::Key_Enter) {
-                TomarCampos();
-                Seguir(i);
+                TomarSiValen();
+                if (Entradas()) Seguir(i);
                 return true;
             }
             if (tecla == Qt::Key_PageDown || tecla == Qt::Key_PageUp) {

@@ -35,6 +35,11 @@ class VentanaCarga : public QDialog {
   private:
     QLayout* FilaDeBotones();
     void Seguir(std::size_t campo);
+    /// The first field whose entry is no load; null when there is none. Such an entry is not taken.
+    CampoNumero* PrimerMalo() const;
+    /// A field whose entry is no load takes the focus. True when there was none.
+    bool Entradas();
+    void TomarSiValen();
 
     CargaDeTramos& operaciones_;
     Separadores separadores_;
