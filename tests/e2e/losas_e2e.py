@@ -15,7 +15,8 @@ PRINCIPAL = "Trabex 2024   Proyecto:[obra.los]"
 LOSAS = "Trabex 2024   Proyecto:[OBRA.LOS]"
 DATOS = "Datos Generales Losa: "
 CAJA = "Trabex 2024"
-BOTON_GENERALES, BOTON_NUEVA = (58, 22), (98, 22)   # second and third of the workspace's tool bar
+# second, third, ninth and twelfth of the workspace's tool bar
+BOTON_GENERALES, BOTON_NUEVA, BOTON_EXPORTAR, BOTON_PLANEX = (58, 22), (98, 22), (304, 22), (403, 22)
 LUCES, WP, WV = (5.2, 4.8, 5.2), 290, 90
 
 
@@ -107,6 +108,32 @@ def comprobar_resultados(e, obra, fc):
     assert abs(losa["DisenoEje"][1]["AS1"] - acero) < 0.002, (losa["DisenoEje"][1], acero)
 
 
+def exportar(e):
+    """The selected slab as a PDF report, and to the drawing program."""
+    e.pulsar(e.ventana(LOSAS), *BOTON_EXPORTAR)
+    e.ventana("EXPORTAR LOS RESULTADOS")
+    e.teclas("Return")
+    e.ventana("IMPRIMIR Y EXPORTAR EL REPORTE")
+    e.teclas("Down", "Return")
+    e.ventana("Exportar el Reporte a formato: Adobe Acrobat(PDF)")
+    e.escribir("azotea.pdf")
+    e.teclas("Return")
+    e.ventana(CAJA)   # open it?
+    e.teclas("Tab", "Return")
+    e.ventana(LOSAS)
+    pdf = e.usuario / "ReportesExportados" / "azotea.pdf"
+    assert pdf.read_bytes().startswith(b"%PDF")
+    assert [nombre for nombre, in filas(e.usuario / "Trabajo" / "Temporal.mdb", "SELECT Nombre FROM LosaDatos")] == ["Azotea"]
+
+    e.pulsar(e.ventana(LOSAS), *BOTON_PLANEX)
+    e.ventana("EXPORTAR A Planex ESTRUCTURAL")
+    e.teclas("Return")   # edition 2023
+    e.respiro()
+    e.ventana("EXPORTAR A Planex ESTRUCTURAL")
+    e.teclas("Escape")
+    e.ventana(LOSAS)
+
+
 def recorrer(e):
     obra = crear_proyecto(e)
     ventana = abrir_losas(e)
@@ -163,6 +190,7 @@ def recorrer(e):
     assert filas(obra, "SELECT Nombre FROM LosaDatos") == [("Azotea",)]
     assert filas(obra, "SELECT DISTINCT Nombre FROM LosaEjes") == [("Azotea",)]
     comprobar_resultados(e, obra, 280)
+    exportar(e)
     e.teclas("alt+r")
     e.ventana(PRINCIPAL)
     e.teclas("alt+p", "s")
