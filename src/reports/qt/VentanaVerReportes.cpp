@@ -82,9 +82,10 @@ void VentanaVerReportes::ArmarSalidas(QToolBar& barra) {
     QAction* imprimir = Accion(barra, "impresora", "Imprimir el reporte", QKeySequence::Print);
     connect(imprimir, &QAction::triggered, this, [this] { Imprimir(); });
     auto* menu = new QMenu(&barra);
-    for (std::uint8_t i = 0; i < Salidas.size(); ++i) {
+    for (std::size_t i = 0; i < Salidas.size(); ++i) {
         if (Salidas[i].Titulo == nullptr) continue;
-        connect(menu->addAction(Salidas[i].Opcion), &QAction::triggered, this, [this, i] { Exportar(i); });
+        connect(menu->addAction(Salidas[i].Opcion), &QAction::triggered, this,
+                [this, salida = static_cast<std::uint8_t>(i)] { Exportar(salida); });
     }
     auto* exportar = new QToolButton(&barra);
     exportar->setObjectName("Exportar");
