@@ -44,7 +44,7 @@ int EscribirTodo(const trabex::ProyectoCalculado& calculado, const std::filesyst
     }
     std::cout << trabex::TablaResumen(calculado, {}) << "\nResultados: " << archivo.string()
               << "\nProyecto de Planex: " << planex.string() << "\nHojas de las losas: " << hojas.string()
-              << '\n';
+              << "\nReportes: " << (carpeta / "reportes").string() << '\n';
     return Hecho;
 }
 
