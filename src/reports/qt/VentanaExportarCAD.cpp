@@ -53,7 +53,7 @@ void VentanaExportarCAD::Armar() {
     columna->addWidget(division, 1);
     columna->addLayout(CrearOpciones());
     columna->addLayout(FilaAceptarCancelar(this, [this] { operaciones_.ExportarCAD80(); }));
-    resize(820, 480);
+    TamanoInicial(this, {820, 480});
 }
 
 QWidget* VentanaExportarCAD::CrearLista(QWidget* padre) {

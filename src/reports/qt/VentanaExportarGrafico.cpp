@@ -36,7 +36,7 @@ VentanaExportarGrafico::VentanaExportarGrafico(EntornoGrafico entorno, DibujoDeE
     auto* columna = new QVBoxLayout(this);
     columna->addWidget(lienzo_, 1);
     columna->addLayout(Controles());
-    resize(980, 700);
+    TamanoInicial(this, {980, 700});
     PrepararVentana(this, entorno_.LaAplicacion.Preferencias);
 }
 

@@ -46,7 +46,7 @@ VentanaVerReportes::VentanaVerReportes(EntornoSalida& entorno, const Documento& 
     setWindowTitle("TBX-Visualizador de Reportes");
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     Armar();
-    resize(1000, 760);
+    TamanoInicial(this, {1000, 760});
     PrepararVentana(this, entorno.LaAplicacion.Preferencias);
     vista_->PonerZoom(ZoomInicial);
     vista_->setFocus();
