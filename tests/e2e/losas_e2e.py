@@ -9,7 +9,7 @@ import sqlite3
 import subprocess
 import sys
 
-from escritorio import Escritorio
+from escritorio import correr
 
 PRINCIPAL = "Trabex 2024   Proyecto:[obra.los]"
 LOSAS = "Trabex 2024   Proyecto:[OBRA.LOS]"
@@ -197,14 +197,5 @@ def recorrer(e):
     assert e.programa.wait(timeout=10) == 0
 
 
-def main():
-    escritorio = Escritorio(sys.argv[1], fotos=sys.argv[2] if len(sys.argv) > 2 else None)
-    try:
-        recorrer(escritorio)
-    finally:
-        escritorio.cerrar()
-    print("1 passed, 0 failed")
-
-
 if __name__ == "__main__":
-    main()
+    correr(recorrer)

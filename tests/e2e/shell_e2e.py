@@ -2,9 +2,8 @@
 
 import contextlib
 import sqlite3
-import sys
 
-from escritorio import Escritorio
+from escritorio import correr
 
 SIN_PROYECTO = "Trabex 2024   Proyecto:[]"
 BOTON_NUEVO, BOTON_EDITAR = (20, 50), (84, 50)   # first and third of the tool bar
@@ -76,14 +75,5 @@ def recorrer(e):
     assert e.programa.wait(timeout=10) == 0
 
 
-def main():
-    escritorio = Escritorio(sys.argv[1], fotos=sys.argv[2] if len(sys.argv) > 2 else None)
-    try:
-        recorrer(escritorio)
-    finally:
-        escritorio.cerrar()
-    print("1 passed, 0 failed")
-
-
 if __name__ == "__main__":
-    main()
+    correr(recorrer)
