@@ -115,6 +115,11 @@ void BorrarArchivo(const std::filesystem::path& camino) {
     if (!std::filesystem::remove(camino, error)) throw ErrorEjecucion(ErrorDeSistema(error));
 }
 
+bool Existe(const std::filesystem::path& camino) {
+    std::error_code error;
+    return std::filesystem::exists(camino, error);
+}
+
 std::vector<std::filesystem::path> ArchivosDe(const std::filesystem::path& carpeta) {
     std::vector<std::filesystem::path> archivos;
     std::error_code error;

@@ -48,6 +48,9 @@ void CopiarArchivo(const std::filesystem::path& origen, const std::filesystem::p
 /// Deletes a file. Throws ErrorEjecucion: 53 when there is none, 75 when it is read-only or a folder.
 void BorrarArchivo(const std::filesystem::path& camino);
 
+/// There is a file or a folder at `camino`; one that can't be looked at counts as missing.
+bool Existe(const std::filesystem::path& camino);
+
 /// The files of a folder, in no order; none where it can't be read.
 std::vector<std::filesystem::path> ArchivosDe(const std::filesystem::path& carpeta);
 

@@ -12,11 +12,6 @@ namespace {
 constexpr const char* CarpetaPropia = "Trabex24";
 constexpr std::uintmax_t DiferenciaDeTapiz = 10;  // bytes by which a picture may differ and still be the same
 
-bool Existe(const std::filesystem::path& camino) {
-    std::error_code error;
-    return std::filesystem::exists(camino, error);
-}
-
 std::filesystem::path BaseDeDatos(const Plataforma& plataforma) {
     const auto raiz = plataforma.RaizComun();
     return raiz && Existe(*raiz / CarpetaComun) ? *raiz : plataforma.CarpetaDeDocumentos();

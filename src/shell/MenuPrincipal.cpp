@@ -21,11 +21,6 @@ std::string NombreDe(const std::filesystem::path& archivo) {
     return TextoDeCamino(archivo.filename());
 }
 
-bool Existe(const std::filesystem::path& camino) {
-    std::error_code error;
-    return std::filesystem::exists(camino, error);
-}
-
 }  // namespace
 
 MenuPrincipal::MenuPrincipal(Aplicacion& aplicacion, VistaMenuPrincipal& vista, CajaMensajes& caja,

@@ -132,11 +132,6 @@ bool Reescribir(Motor& origen, const std::filesystem::path& destino) {
     return origen.Avanzar(sentencia.get(), hayFila);
 }
 
-bool Existe(const std::filesystem::path& camino) {
-    std::error_code error;
-    return std::filesystem::exists(camino, error);
-}
-
 void Quitar(const std::filesystem::path& camino) {
     std::error_code error;
     std::filesystem::remove(camino, error);

@@ -31,11 +31,6 @@ constexpr std::array<EdicionPlanex, 2> Ediciones{{
      "Crear Nuevo Proyecto en Planex Estructural 2023"},
 }};
 
-bool Existe(const std::filesystem::path& camino) {
-    std::error_code error;
-    return std::filesystem::exists(camino, error);
-}
-
 std::string TituloDe(const std::filesystem::path& archivo) {
     return TextoDeCamino(archivo.filename());
 }
