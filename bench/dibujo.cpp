@@ -7,7 +7,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include "drawing/GraficoLosa.h"
+#include "drawing/losa/GraficoLosa.h"
 #include "drawing/qt/ImagenDeHoja.h"
 #include "drawing/qt/LienzoQt.h"
 #include "slab/CalcularLosa.h"

@@ -1,13 +1,13 @@
 // The batch program's road on a project of 2000 slabs of 8 spans, phase by phase.
 
-#include "reports/Lote.h"
+#include "lote/Lote.h"
 
 #include <thread>
 
 #include <benchmark/benchmark.h>
 
 #include "base/Archivos.h"
-#include "reports/ResultadosJson.h"
+#include "lote/ResultadosJson.h"
 #include "slab/CalcularLosa.h"
 #include "support/CarpetaTemporal.h"
 #include "support/LosasDePrueba.h"

@@ -7,12 +7,12 @@
 #include <benchmark/benchmark.h>
 #include <sys/resource.h>
 
-#include "reports/GraficosLosas.h"
-#include "reports/MotorReportes.h"
-#include "reports/qt/EscritorPdf.h"
-#include "reports/qt/Paginador.h"
-#include "reports/qt/SuperficieQt.h"
+#include "reports/montaje/qt/SuperficieQt.h"
+#include "reports/salidas/MotorReportes.h"
+#include "reports/salidas/qt/EscritorPdf.h"
+#include "reports/salidas/qt/Paginador.h"
 #include "slab/CalcularLosa.h"
+#include "slab/salida/GraficosLosas.h"
 #include "support/CarpetaTemporal.h"
 #include "support/LosasDePrueba.h"
 #include "support/ProyectoDePrueba.h"

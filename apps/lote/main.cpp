@@ -9,10 +9,10 @@
 #include <thread>
 
 #include "base/Archivos.h"
-#include "reports/ArchivoPlanex.h"
-#include "reports/Lote.h"
-#include "reports/qt/HojasLote.h"
-#include "reports/qt/ReportesLote.h"
+#include "lote/Lote.h"
+#include "lote/qt/HojasLote.h"
+#include "lote/qt/ReportesLote.h"
+#include "reports/planex/ArchivoPlanex.h"
 
 namespace {
 

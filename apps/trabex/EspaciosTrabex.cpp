@@ -1,15 +1,15 @@
 #include "EspaciosTrabex.h"
 
-#include "reports/GraficosLosas.h"
-#include "reports/qt/EscritorPdf.h"
-#include "reports/qt/ImprimirGraficos.h"
-#include "reports/qt/PanelProgresoQt.h"
-#include "reports/qt/SuperficieQt.h"
-#include "reports/qt/VentanaExportarCAD.h"
-#include "reports/qt/VentanaExportarGrafico.h"
-#include "reports/qt/VentanaOpcionesReporte.h"
-#include "reports/qt/VentanaSalidaReporte.h"
-#include "reports/qt/VentanaSeleccionarImpresora.h"
+#include "reports/montaje/qt/SuperficieQt.h"
+#include "reports/planex/ui/qt/VentanaExportarCAD.h"
+#include "reports/salidas/qt/EscritorPdf.h"
+#include "reports/ui/qt/PanelProgresoQt.h"
+#include "reports/ui/qt/VentanaExportarGrafico.h"
+#include "reports/ui/qt/VentanaOpcionesReporte.h"
+#include "reports/ui/qt/VentanaSalidaReporte.h"
+#include "reports/ui/qt/VentanaSeleccionarImpresora.h"
+#include "slab/salida/GraficosLosas.h"
+#include "slab/ui/qt/ImprimirGraficos.h"
 
 namespace trabex {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "reports/EstadoReportes.h"
-#include "reports/qt/ImpresorasQt.h"
+#include "reports/montaje/EstadoReportes.h"
 #include "reports/ui/ExportarGrafico.h"
+#include "reports/ui/qt/ImpresorasQt.h"
 #include "shell/qt/VentanaMenuPrincipal.h"
 #include "slab/ui/qt/VentanaLosas.h"
 

@@ -7,7 +7,7 @@
 #include "base/Proyecto.h"
 #include "shell/Tapiz.h"
 #include "slab/Losa.h"
-#include "store/TablasProyecto.h"
+#include "store/tablas/TablasProyecto.h"
 
 namespace trabex {
 

@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "reports/ResultadosJson.h"
+#include "lote/ResultadosJson.h"
 #include "slab/CalcularLosa.h"
 #include "support/CarpetaTemporal.h"
 #include "support/ProyectoDePrueba.h"

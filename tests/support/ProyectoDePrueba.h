@@ -7,7 +7,7 @@
 
 #include "slab/Losa.h"
 #include "store/Mantenimiento.h"
-#include "store/TablasLosa.h"
+#include "store/tablas/TablasLosa.h"
 
 namespace trabex::prueba {
 

@@ -3,7 +3,7 @@
 #include <array>
 
 #include "base/Enteros.h"
-#include "store/TablasEscalera.h"
+#include "store/tablas/TablasEscalera.h"
 
 namespace trabex {
 

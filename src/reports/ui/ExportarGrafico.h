@@ -4,7 +4,7 @@
 #include <filesystem>
 
 #include "drawing/Visor.h"
-#include "reports/EstadoReportes.h"
+#include "reports/montaje/EstadoReportes.h"
 #include "shell/Aplicacion.h"
 #include "shell/CajaMensajes.h"
 #include "shell/DialogosArchivo.h"

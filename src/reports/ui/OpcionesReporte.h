@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <span>
 
-#include "reports/EstadoReportes.h"
+#include "reports/montaje/EstadoReportes.h"
 
 namespace trabex {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "reports/MotorReportes.h"
+#include "reports/salidas/MotorReportes.h"
 #include "shell/Aplicacion.h"
 #include "shell/CajaMensajes.h"
 #include "shell/DialogosArchivo.h"

@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "base/Enteros.h"
-#include "store/TablasLosa.h"
+#include "store/tablas/TablasLosa.h"
 
 namespace trabex {
 

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "store/TablasProyecto.h"
+#include "store/tablas/TablasProyecto.h"
 
 namespace trabex {
 

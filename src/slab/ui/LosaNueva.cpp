@@ -2,7 +2,7 @@
 
 #include "base/Texto.h"
 #include "shell/Renombrar.h"
-#include "store/TablasLosa.h"
+#include "store/tablas/TablasLosa.h"
 
 namespace trabex {
 

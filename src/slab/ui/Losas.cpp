@@ -5,7 +5,7 @@
 #include "base/Archivos.h"
 #include "base/Texto.h"
 #include "slab/CalcularLosa.h"
-#include "store/TablasLosa.h"
+#include "store/tablas/TablasLosa.h"
 
 namespace trabex {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "drawing/GraficoLosa.h"
+#include "drawing/losa/GraficoLosa.h"
 #include "shell/Aplicacion.h"
 #include "shell/CajaMensajes.h"
 #include "shell/DialogosArchivo.h"

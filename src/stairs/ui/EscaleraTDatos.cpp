@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "store/TablasEscalera.h"
+#include "store/tablas/TablasEscalera.h"
 
 namespace trabex {
 

@@ -6,7 +6,7 @@
 
 #include "stairs/DatosEscaleraT.h"
 #include "stairs/ui/CamposEscalera.h"
-#include "store/TablasProyecto.h"
+#include "store/tablas/TablasProyecto.h"
 
 namespace trabex {
 

@@ -6,7 +6,7 @@
 
 #include "base/DatosGenerales.h"
 #include "stairs/ui/CamposEscalera.h"
-#include "store/TablasEscalera.h"
+#include "store/tablas/TablasEscalera.h"
 
 namespace trabex {
 

@@ -4,7 +4,7 @@
 #include <QTimer>
 #include <array>
 
-#include "drawing/GraficoLosaDatos.h"
+#include "drawing/losa/GraficoLosaDatos.h"
 #include "shell/qt/TablaDatos.h"
 #include "slab/ui/LosaDatos.h"
 

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "reports/documento/DisenoReporte.h"
+#include "reports/documento/Documento.h"
+
+namespace trabex {
+
+/// A layout and the rows that it names make a document. Pictures are left for its writers to read: the
+/// document keeps their database open.
+///
+/// A database that can't be opened gives a report without rows. Throws ErrorEjecucion 321, with the file, the
+/// line and the name, when the database is there and has not a table or column that the layout names, even
+/// where no row would have come to it.
+Documento Componer(const DisenoReporte& diseno, const Separadores& separadores);
+
+}  // namespace trabex

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+
+#include "reports/montaje/BaseTemporal.h"
+#include "reports/montaje/PanelProgreso.h"
+#include "reports/montaje/SuperficieOculta.h"
+#include "store/Insercion.h"
+
+namespace trabex {
+
+/// The pictures of a report on their way into the scratch table `Grafico`, for any element: numbered from 1,
+/// each with a step of the progress panel.
+class AlbumGraficos {
+  public:
+    /// Empties the table. `total` is the number of pictures to come. What it refers to must outlive it.
+    AlbumGraficos(Conexion& temporal, const EntornoReportes& entorno, SuperficieOculta& superficie,
+                  PanelProgreso& panel, std::size_t total);
+    /// Leaves the last picture in the file `Foto` of the scratch folder, in quality 100.
+    ~AlbumGraficos();
+    AlbumGraficos(const AlbumGraficos&) = delete;
+    AlbumGraficos& operator=(const AlbumGraficos&) = delete;
+
+    /// Sets a further column of the picture to come.
+    void Poner(std::string_view campo, const Valor& valor) { tabla_.Poner(campo, valor); }
+    /// Draws a picture and adds it: `nombre` is the element's, `titulo` the caption. `avance` is what the
+    /// panel tells.
+    void Agregar(const std::string& nombre, const std::string& titulo, const std::string& avance,
+                 const std::function<void(Lienzo&)>& dibujar);
+
+  private:
+    const EntornoReportes& entorno_;
+    SuperficieOculta& superficie_;
+    PanelProgreso& panel_;
+    std::size_t total_;
+    std::size_t numero_ = 0;
+    Insercion tabla_;
+};
+
+}  // namespace trabex

@@ -1,0 +1,226 @@
+#include "reports/planex/ArchivoPlanex.h"
+
+#include <array>
+#include <initializer_list>
+#include <string>
+#include <utility>
+
+#include "base/Archivos.h"
+#include "base/Formatos.h"
+#include "base/Texto.h"
+#include "slab/salida/RecorrerLosas.h"
+
+namespace trabex {
+
+namespace {
+
+constexpr double LuzConNervioTransversal = 6.0;  // m
+
+/// Tables that lose a slab's rows before it is written again, in this order; the one without names loses all.
+constexpr const char* TablaSinNombres = "LosaDefecto";
+constexpr std::array<const char*, 14> TablasQueSeVacian{"LosaComputos",
+                                                        "LosaDatos",
+                                                        TablaSinNombres,
+                                                        "LosaEjes",
+                                                        "LosaIguales",
+                                                        "LosaNervios",
+                                                        "LosaNM",
+                                                        "LosaRefTeorico",
+                                                        "LosaRefuerzoEjeInferior",
+                                                        "LosaRefuerzoEjeSuperior",
+                                                        "LosaRefuerzoTramoInferior",
+                                                        "LosaRefuerzoTramoSuperior",
+                                                        "LosaReparticion",
+                                                        "LosaTramos"};
+
+using Campo = std::pair<const char*, Valor>;
+
+bool AgregarFila(Recordset& tabla, std::initializer_list<Campo> campos) {
+    tabla.AgregarNuevo();
+    bool puestos = true;
+    for (const auto& [campo, valor] : campos) puestos = tabla.Poner(campo, valor) && puestos;
+    return puestos && tabla.Actualizar();
+}
+
+/// A literal of the contract.
+Valor Literal(const char* texto) {
+    return std::string(texto);
+}
+
+/// A row's number; one past the column's 16 bits is refused there.
+Valor Numero(std::size_t k) {
+    return static_cast<double>(k);
+}
+
+std::size_t TramosDe(const Losa& losa) {
+    return losa.Tramos.size() - 1;
+}
+
+EjeLosa EjeDe(const Losa& losa, std::size_t i) {
+    return i < losa.Ejes.size() ? losa.Ejes[i] : EjeLosa{};
+}
+
+Valor AceroDeEje(const ResultadosLosa& resultados, std::size_t i) {
+    return i < resultados.DisenoEje.size() ? resultados.DisenoEje[i].AS1 : 0.0;
+}
+
+Valor AceroDeTramo(const ResultadosLosa& resultados, std::size_t i) {
+    return i < resultados.DisenoTramo.size() ? resultados.DisenoTramo[i].AS2 : 0.0;
+}
+
+bool AgregarDatos(Recordset& tabla, const std::string& nombre, const Losa& losa) {
+    // A solid slab's row leaves the fields of ribs without a value.
+    const auto deNervada = [&](double valor) { return losa.OpcionMaciza ? Valor{} : Valor{valor}; };
+    return AgregarFila(tabla, {{"Nombre", nombre},
+                               {"NT", Numero(TramosDe(losa))},
+                               {"EscLosa", 50.0},
+                               {"EscPlano", 50.0},
+                               {"Bo", deNervada(losa.Bo)},
+                               {"H", losa.OpcionMaciza ? losa.Hm : losa.Ho},
+                               {"So", deNervada(losa.So)},
+                               {"Loseta", deNervada(losa.Loseta)},
+                               {"OpcionMaciza", losa.OpcionMaciza},
+                               {"Nervios", 1.0},
+                               {"Ancho", 1.0},
+                               {"Repeticiones", 0.0},
+                               {"OK", false},
+                               {"OpcionLosaF", false}});
+}
+
+bool AgregarNervio(Recordset& tabla, const std::string& nombre, const Losa& losa, std::size_t i) {
+    const NervioPlanex nervio = NervioParaPlanex(losa, i);
+    return AgregarFila(tabla, {{"Nombre", nombre},
+                               {"Tramo", Numero(i)},
+                               {"Opcion", nervio.Opcion},
+                               {"Diametro", Literal(nervio.Diametro)},
+                               {"Ancho", nervio.Ancho}});
+}
+
+bool AgregarEje(Recordset& tabla, const std::string& nombre, const Losa& losa, std::size_t i) {
+    const EjePlanex eje = EjeParaPlanex(losa, i);
+    return AgregarFila(tabla, {{"Nombre", nombre},
+                               {"Numero", Numero(i)},
+                               {"Eje", EjeDe(losa, i).Eje},
+                               {"Apoyo", eje.Apoyo},
+                               {"HViga", eje.HViga},
+                               {"Lizq", eje.Lizq},
+                               {"Lder", eje.Lder},
+                               {"MczIzq", eje.MczIzq},
+                               {"MczDer", eje.MczDer}});
+}
+
+/// The last axis has no span: its row has no steel of one.
+bool AgregarAcero(Recordset& tabla, const std::string& nombre, const Losa& losa, const ResultadosLosa& r,
+                  std::size_t i) {
+    return AgregarFila(tabla, {{"Nombre", nombre},
+                               {"Eje", Numero(i)},
+                               {"AsEje", AceroDeEje(r, i)},
+                               {"AsTramo", i <= TramosDe(losa) ? AceroDeTramo(r, i) : Valor{}}});
+}
+
+void BorrarLosa(Conexion& destino, const std::string& nombre) {
+    for (const char* tabla : TablasQueSeVacian) {
+        const std::string todas = "DELETE * FROM " + std::string(tabla);
+        destino.Ejecutar(tabla == TablaSinNombres ? todas : todas + " WHERE Nombre=" + EntreComillas(nombre));
+    }
+}
+
+}  // namespace
+
+EjePlanex EjeParaPlanex(const Losa& losa, std::size_t i) {
+    const bool apoyado = EjeDe(losa, i).Tipo != SinApoyo;
+    const bool primero = i == 1;
+    const bool ultimo = !primero && i == TramosDe(losa) + 1;
+    EjePlanex eje;
+    if (apoyado) eje = {true, 0.5, 0.15, 0.15, 0, 0};
+    if (losa.OpcionMaciza) return eje;
+    const double extremo = apoyado ? 0.15 : 0.1;
+    const double interior = apoyado ? 0.15 : 0;
+    if (!primero) eje.MczIzq = ultimo ? extremo : interior;
+    if (!ultimo) eje.MczDer = primero ? extremo : interior;
+    return eje;
+}
+
+NervioPlanex NervioParaPlanex(const Losa& losa, std::size_t i) {
+    if (losa.OpcionMaciza || losa.Tramos[i].LT < LuzConNervioTransversal) return {};
+    return {true, "1/2", 0.15};
+}
+
+bool EscribirProyectoPlanex(Conexion& destino, const DatosDelProyecto& datos,
+                            const DatosGenerales& generales) {
+    Transaccion guardado(destino);
+    destino.Ejecutar("DELETE * FROM Proyecto");
+    Recordset tabla;
+    AbrirRecordset(destino, tabla, "Proyecto");
+    const bool escrita = AgregarFila(tabla, {{"Proyecto", datos.Proyecto},
+                                             {"Cliente", datos.Cliente},
+                                             {"Propietario", datos.Propietario},
+                                             {"Responsable", datos.Calculista},
+                                             {"Comentario", datos.Comentario},
+                                             {"Fecha", FormatoFecha(datos.Fecha)},
+                                             {"FC", generales.FC},
+                                             {"FY", generales.FY},
+                                             {"RLosas", 0.025},
+                                             {"RVigas", 0.025},
+                                             {"RColumnas", 0.025},
+                                             {"DVigas", 0.05},
+                                             {"NormaSolape", true},
+                                             {"RVigasR", 0.05},
+                                             {"RLosasR", 0.04},
+                                             {"OpcionDiametro", 0.0},
+                                             {"OpcionEspesor", true},
+                                             {"ValorDatum", 0.0},
+                                             {"NMAX", 0.0},
+                                             {"LMax", 12.0}});
+    return escrita && guardado.Confirmar();
+}
+
+TablasPlanex::TablasPlanex(Conexion& destino) {
+    AbrirRecordset(destino, datos_, "SELECT * FROM LosaDatos");
+    AbrirRecordset(destino, tramos_, "SELECT * FROM LosaTramos");
+    AbrirRecordset(destino, nervios_, "SELECT * FROM LosaNervios");
+    AbrirRecordset(destino, ejes_, "SELECT * FROM LosaEjes");
+    AbrirRecordset(destino, teorico_, "SELECT * FROM LosaRefTeorico");
+}
+
+bool TablasPlanex::Agregar(const Losa& losa, const ResultadosLosa& resultados) {
+    const std::string nombre = Recortar(losa.Nombre);
+    const std::size_t N = TramosDe(losa);
+    bool escrita = AgregarDatos(datos_, nombre, losa);
+    for (std::size_t i = 1; i <= N && escrita; ++i)
+        escrita =
+            AgregarFila(tramos_, {{"Nombre", nombre}, {"Numero", Numero(i)}, {"LT", losa.Tramos[i].LT}});
+    for (std::size_t i = 1; i <= N && escrita; ++i) escrita = AgregarNervio(nervios_, nombre, losa, i);
+    for (std::size_t i = 1; i <= N + 1 && escrita; ++i) escrita = AgregarEje(ejes_, nombre, losa, i);
+    for (std::size_t i = 1; i <= N + 1 && escrita; ++i)
+        escrita = AgregarAcero(teorico_, nombre, losa, resultados, i);
+    return escrita;
+}
+
+bool ReemplazarLosaPlanex(Conexion& destino, const Losa& losa, const ResultadosLosa& resultados) {
+    Transaccion guardado(destino);
+    BorrarLosa(destino, Recortar(losa.Nombre));
+    return TablasPlanex(destino).Agregar(losa, resultados) && guardado.Confirmar();
+}
+
+void EscribirArchivoPlanex(const std::filesystem::path& plantilla, const std::filesystem::path& destino,
+                           const std::filesystem::path& proyecto, const DatosDelProyecto& datos,
+                           const DatosGenerales& generales) {
+    ArchivoNuevo archivo(destino);
+    CopiarArchivo(plantilla, archivo.Provisional());
+    Conexion conexion;
+    AbrirConexion(conexion, archivo.Provisional());
+    {
+        Transaccion guardado(conexion);
+        TablasPlanex tablas(conexion);
+        bool escrito = EscribirProyectoPlanex(conexion, datos, generales);
+        const bool leido = RecorrerLosas(proyecto, [&](const LosaDelProyecto& losa) {
+            escrito = escrito && tablas.Agregar(losa.Datos, losa.Resultados);
+        });
+        if (!leido || !escrito || !guardado.Confirmar()) throw ErrorEjecucion(CodigoError::ErrorAccesoRuta);
+    }
+    conexion.Cerrar();
+    archivo.Colocar();
+}
+
+}  // namespace trabex

@@ -1,0 +1,179 @@
+#include "reports/planex/ui/ExportarCAD.h"
+
+#include <array>
+
+#include "base/Archivos.h"
+#include "reports/planex/ArchivoPlanex.h"
+#include "reports/planex/ui/CuadroCAD.h"
+#include "shell/Arranque.h"
+#include "shell/Espera.h"
+#include "slab/CalcularLosa.h"
+#include "store/tablas/TablasLosa.h"
+
+namespace trabex {
+
+namespace {
+
+constexpr const char* FiltroPlanex = "Planex|*.Cad";
+constexpr const char* EncabezadoPlanex = "Planex Estructural...";
+
+/// What an edition of Planex changes: the file's template, the folder of its projects, the dialogs' titles.
+struct EdicionPlanex {
+    const char* Plantilla;
+    const char* Carpeta;
+    const char* TituloAbrir;
+    const char* TituloCrear;
+};
+constexpr std::array<EdicionPlanex, 2> Ediciones{{
+    {"ImagenCAD8.tbx", "Planex8", "Abrir un Proyecto en Planex Estructural 8.0",
+     "Crear Nuevo Proyecto en Planex Estructural 8.0"},
+    {"ImagenCAD23.tbx", "Planex23", "Abrir un Proyecto en Planex Estructural 2023",
+     "Crear Nuevo Proyecto en Planex Estructural 2023"},
+}};
+
+std::string TituloDe(const std::filesystem::path& archivo) {
+    return TextoDeCamino(archivo.filename());
+}
+
+/// The project's file name with another extension of three letters: "obra.los" gives "obra.cad".
+std::string NombrePropuesto(const std::string& proyecto) {
+    constexpr std::size_t letras = 3;
+    return proyecto.size() < letras ? "cad" : proyecto.substr(0, proyecto.size() - letras) + "cad";
+}
+
+Mensaje Aviso(const std::string& texto, const std::string& encabezado, IconoCaja icono) {
+    Mensaje mensaje;
+    mensaje.Texto = texto;
+    mensaje.Encabezado = encabezado;
+    mensaje.Icono = icono;
+    return mensaje;
+}
+
+/// A file that could not be opened takes nothing in silence; one that refuses a save is an error.
+void Exigir(bool escrito, const Conexion& destino) {
+    if (!escrito && !destino.ConexionFallida()) throw ErrorEjecucion(CodigoError::ErrorAccesoRuta);
+}
+
+}  // namespace
+
+ExportarCAD::ExportarCAD(Aplicacion& aplicacion, std::uint8_t versionCAD, VistaExportarCAD& vista,
+                         CajaMensajes& caja, DialogosArchivo& dialogos, Plataforma& plataforma)
+    : aplicacion_(aplicacion),
+      version_(versionCAD),
+      vista_(vista),
+      caja_(caja),
+      dialogos_(dialogos),
+      plataforma_(plataforma),
+      posicion_(aplicacion.Proyecto.RegistrosProyecto.Posicion()) {}
+
+ExportarCAD::~ExportarCAD() {
+    aplicacion_.Proyecto.RegistrosProyecto.MoverA(posicion_);
+}
+
+std::vector<std::string> ExportarCAD::Nombres() {
+    Recordset& lista = aplicacion_.Proyecto.RegistrosProyecto;
+    std::vector<std::string> nombres;
+    for (int fila = 1; fila <= lista.NumeroRegistros(); ++fila) {
+        lista.MoverA(fila);
+        nombres.push_back(lista.Texto("Nombre"));
+    }
+    return nombres;
+}
+
+Losa ExportarCAD::LosaDe(int fila) {
+    Losa losa;
+    aplicacion_.Proyecto.RegistrosProyecto.MoverA(fila);
+    LeerLosa(aplicacion_.Proyecto, losa);
+    return losa;
+}
+
+std::vector<int> ExportarCAD::FilasMarcadas() const {
+    std::vector<int> filas;
+    for (int fila = 1; fila <= aplicacion_.Proyecto.RegistrosProyecto.NumeroRegistros(); ++fila) {
+        if (vista_.Marcada(fila)) filas.push_back(fila);
+    }
+    return filas;
+}
+
+/// The folder is fixed: below the root that machines share where there is one, whether or not this program
+/// keeps its own data there.
+std::filesystem::path ExportarCAD::CarpetaDe(std::uint8_t version) const {
+    const auto raiz = plataforma_.RaizComun();
+    return (raiz ? *raiz : plataforma_.CarpetaDeDocumentos()) / CarpetaComun / Ediciones[version].Carpeta /
+           "Proyectos";
+}
+
+std::optional<std::filesystem::path> ExportarCAD::ElegirExistente() {
+    return dialogos_.Elegir({Ediciones[version_].TituloAbrir, FiltroPlanex, CarpetaDe(version_), false, false,
+                             true, NombrePropuesto(aplicacion_.NombreProyecto)});
+}
+
+/// The target of a new project. An existing file is never taken: the box does not yield the answer that
+/// would.
+std::optional<std::filesystem::path> ExportarCAD::ElegirNuevo() {
+    for (;;) {
+        auto archivo = dialogos_.Elegir({Ediciones[version_].TituloCrear, FiltroPlanex, CarpetaDe(version_),
+                                         true, false, false, NombrePropuesto(aplicacion_.NombreProyecto)});
+        if (!archivo || !Existe(*archivo)) return archivo;
+        const Mensaje pregunta =
+            Pregunta(TituloDe(*archivo) + " Ya Existe...\n¿Desea Usted Reemplazarlo?", EncabezadoPlanex);
+        if (caja_.Mostrar(pregunta) != RespuestaQueReemplaza) continue;
+        BorrarArchivo(*archivo);
+        return archivo;
+    }
+}
+
+void ExportarCAD::ExportarCAD80() {
+    const std::vector<int> filas = FilasMarcadas();
+    if (filas.empty()) {
+        caja_.Mostrar(Aviso("No ha Seleccionado Losas para Exportar a Planex Estructural...",
+                            "Planex Estructural 2023", IconoCaja::Advertencia));
+        return;
+    }
+    try {
+        Exportar(filas);
+    } catch (const ErrorEjecucion& error) {
+        caja_.Mostrar(MensajeDeError(error, ErrorInesperado));
+    }
+}
+
+void ExportarCAD::Exportar(const std::vector<int>& filas) {
+    const auto archivo = vista_.Opcion() == ArchivoCAD::CrearNuevo ? ElegirNuevo() : ElegirExistente();
+    if (!archivo) return;
+    if (!Existe(*archivo))
+        CopiarArchivo(aplicacion_.CaminoPrograma / "Imagen" / Ediciones[version_].Plantilla, *archivo);
+    // The question names one edition, whichever the file is for.
+    const Mensaje pregunta =
+        Pregunta(TituloDe(*archivo) + "\n¿Anexar las Losas Seleccionadas a Planex Estructural 2023?",
+                 EncabezadoPlanex);
+    if (caja_.Mostrar(pregunta) != RespuestaSi) return;
+    const int exportadas = EscribirLosas(filas, *archivo);
+    caja_.Mostrar(
+        Aviso("¡Se Exportaron ( " + std::to_string(exportadas) + " ) Losa(s) con Exito a Planex Estructural!",
+              EncabezadoPlanex, IconoCaja::Informacion));
+    vista_.Cerrar();
+}
+
+int ExportarCAD::EscribirLosas(const std::vector<int>& filas, const std::filesystem::path& archivo) {
+    const Espera<VistaExportarCAD> espera(vista_);
+    Conexion destino;
+    AbrirConexion(destino, archivo);
+    if (vista_.Opcion() == ArchivoCAD::CrearNuevo)
+        Exigir(EscribirProyectoPlanex(destino, aplicacion_.Datos, aplicacion_.Generales), destino);
+    int exportadas = 0;
+    for (const int fila : filas) {
+        const Losa losa = LosaDe(fila);
+        ResultadosLosa resultados;
+        CalcularLosa(losa, aplicacion_.Generales, resultados);
+        Exigir(ReemplazarLosaPlanex(destino, losa, resultados), destino);
+        ++exportadas;
+    }
+    return exportadas;
+}
+
+void ExportarCAD::AbrirCarpeta() {
+    if (!plataforma_.AbrirCarpeta(CarpetaDe(Planex8)))
+        caja_.Mostrar(MensajeDeError(ErrorEjecucion(CodigoError::RutaNoEncontrada), ErrorInesperado));
+}
+
+}  // namespace trabex

@@ -1,0 +1,220 @@
+#include "reports/salidas/EscritorHtml.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "base/Archivos.h"
+#include "reports/salidas/ImagenPng.h"
+
+namespace trabex {
+
+namespace {
+
+constexpr double PixelesPorMilimetro = 96 / 25.4;
+
+constexpr std::string_view Estilo = R"(
+body { font-family: Arial, Helvetica, sans-serif; font-size: 10pt; color: #1a1a1a; margin: 1.5em auto; max-width: 70em; padding: 0 1em }
+h1 { font-size: 150%; border-bottom: 2px solid #2f5d8a; padding-bottom: .2em }
+h2 { font-size: 120%; color: #2f5d8a; margin-bottom: .4em }
+h3 { font-size: 105%; margin-bottom: .3em }
+table { border-collapse: collapse; margin: .4em 0 1em 0 }
+thead { display: table-header-group }
+tr { page-break-inside: avoid }
+table.datos th { background-color: #e6edf4; font-weight: bold; text-align: center; vertical-align: bottom; padding: .2em .5em; border: 1px solid #b9c6d3 }
+table.datos td { text-align: right; padding: .15em .5em; border-bottom: 1px solid #d9dfe5; white-space: nowrap }
+table.datos td.i, table.ficha td { text-align: left; white-space: normal }
+table.datos td.c { text-align: center }
+tr.total td { font-weight: bold; border-top: 1px solid #1a1a1a }
+table.ficha th { text-align: left; font-weight: normal; color: #555555; padding: .1em .8em .1em 0; vertical-align: top }
+table.ficha td { padding: .1em 2em .1em 0; font-weight: bold }
+ul.indice { column-width: 14em; padding-left: 1.2em }
+div.imagen { text-align: center; margin: 1em 0; page-break-inside: avoid }
+div.imagen img { max-width: 100%; height: auto }
+p.pie { font-style: italic; margin: .3em 0 }
+p.banda { color: #555555; font-size: 90%; border-bottom: 1px solid #d9dfe5; padding-bottom: .3em }
+@media print { div.pagina { page-break-before: always } body { max-width: none; margin: 0 } }
+)";
+
+std::string Escapado(std::string_view texto) {
+    std::string salida;
+    salida.reserve(texto.size());
+    for (const char c : texto) {
+        if (c == '&')
+            salida += "&amp;";
+        else if (c == '<')
+            salida += "&lt;";
+        else if (c == '>')
+            salida += "&gt;";
+        else if (c == '"')
+            salida += "&quot;";
+        else if (c == '\n')
+            salida += "<br>";
+        else
+            salida += c;
+    }
+    return salida;
+}
+
+/// For an attribute: without markup of line breaks.
+std::string Atributo(std::string texto) {
+    for (char& c : texto) c = c == '\n' ? ' ' : c;
+    return Escapado(texto);
+}
+
+std::string Base64(const Bytes& bytes) {
+    constexpr std::string_view letras = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+    std::string salida;
+    salida.reserve((bytes.size() + 2) / 3 * 4);
+    for (std::size_t i = 0; i < bytes.size(); i += 3) {
+        std::uint32_t trio = 0;
+        for (std::size_t k = 0; k < 3; ++k)
+            trio = trio << 8 | (i + k < bytes.size() ? std::to_integer<std::uint32_t>(bytes[i + k]) : 0U);
+        for (std::size_t k = 0; k < 4; ++k)
+            salida += i + k <= bytes.size() ? letras[trio >> (18 - 6 * k) & 63] : '=';
+    }
+    return salida;
+}
+
+/// The document's blocks as markup.
+class PaginaHtml {
+  public:
+    explicit PaginaHtml(const Documento& documento) : documento_(documento) {}
+
+    std::string Principio() const;
+    std::string Bloque(const trabex::Bloque& bloque) const {
+        return std::visit([this](const auto& b) { return De(b); }, bloque);
+    }
+
+  private:
+    std::string De(const Titulo& titulo) const {
+        const std::string nivel = "h" + std::to_string(titulo.Nivel);
+        return "<" + nivel + ">" + Escapado(titulo.Texto) + "</" + nivel + ">\n";
+    }
+    std::string De(const Parrafo& parrafo) const {
+        const std::string texto = Escapado(parrafo.Texto);
+        return parrafo.Destacado ? "<p><strong>" + texto + "</strong></p>\n" : "<p>" + texto + "</p>\n";
+    }
+    std::string De(const SaltoDePagina&) const { return "<div class=\"pagina\"></div>\n"; }
+    std::string De(const Ficha& ficha) const;
+    std::string De(const Tabla& tabla) const;
+    std::string De(const Imagen& imagen) const;
+    std::string Fila(const Tabla& tabla, const FilaDeTabla& fila) const;
+    std::string Banda() const;
+    std::string Indice() const;
+
+    const Documento& documento_;
+};
+
+std::string PaginaHtml::Principio() const {
+    const std::string titulo = documento_.Titulo.empty() ? "Reporte" : documento_.Titulo;
+    return "<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.01//EN\" \"http://www.w3.org/TR/html4/strict.dtd\">\n"
+           "<html lang=\"es\">\n<head>\n"
+           "<meta http-equiv=\"Content-Type\" content=\"text/html; charset=utf-8\">\n"
+           "<meta name=\"author\" content=\"" +
+           Atributo(documento_.Autor) + "\">\n<title>" + Atributo(titulo) +
+           "</title>\n<style type=\"text/css\">" + std::string(Estilo) + "</style>\n</head>\n<body>\n" +
+           Banda() + Indice();
+}
+
+/// The header's texts, once; those that count pages have no meaning here.
+std::string PaginaHtml::Banda() const {
+    const BandaDePagina& banda = documento_.Hoja.Encabezado;
+    std::string salida;
+    for (const std::string* texto : {&banda.Izquierda, &banda.Centro, &banda.Derecha}) {
+        const bool cuenta =
+            texto->find(MarcaPagina) != std::string::npos || texto->find(MarcaPaginas) != std::string::npos;
+        if (texto->empty() || cuenta) continue;
+        if (!salida.empty()) salida += " &mdash; ";
+        salida += Escapado(*texto);
+    }
+    return salida.empty() ? salida : "<p class=\"banda\">" + salida + "</p>\n";
+}
+
+std::string PaginaHtml::Indice() const {
+    if (documento_.Secciones.size() < 2) return {};
+    std::string salida = "<ul class=\"indice\">\n";
+    for (std::size_t i = 0; i < documento_.Secciones.size(); ++i)
+        salida += "<li><a href=\"#s" + std::to_string(i + 1) + "\">" +
+                  Escapado(documento_.Secciones[i].Nombre) + "</a></li>\n";
+    return salida + "</ul>\n";
+}
+
+std::string PaginaHtml::De(const Ficha& ficha) const {
+    if (ficha.Datos.empty()) return {};
+    std::string salida = "<table class=\"ficha\" summary=\"Datos\">\n";
+    const auto columnas = static_cast<std::size_t>(ficha.Columnas);
+    for (std::size_t i = 0; i < ficha.Datos.size(); ++i) {
+        const Ficha::Dato& dato = ficha.Datos[i];
+        std::string valor = Escapado(TextoDeValor(dato.Contenido, dato.Formato, documento_.Locales));
+        if (!valor.empty() && !dato.Unidad.empty()) valor += " " + Escapado(dato.Unidad);
+        if (i % columnas == 0) salida += i == 0 ? "<tr>" : "</tr>\n<tr>";
+        salida += "<th scope=\"row\">" + Escapado(dato.Rotulo) + "</th><td>" + valor + "</td>";
+    }
+    return salida + "</tr>\n</table>\n";
+}
+
+std::string PaginaHtml::Fila(const Tabla& tabla, const FilaDeTabla& fila) const {
+    constexpr std::array<std::string_view, 3> celdas{"<td class=\"i\">", "<td class=\"c\">", "<td>"};
+    std::string salida = fila.Destacada ? "<tr class=\"total\">" : "<tr>";
+    for (std::size_t i = 0; i < tabla.Columnas.size(); ++i) {
+        const ColumnaDeTabla& columna = tabla.Columnas[i];
+        salida += celdas[static_cast<std::size_t>(columna.Lado)];
+        if (i < fila.Celdas.size())
+            salida += Escapado(TextoDeValor(fila.Celdas[i], columna.Formato, documento_.Locales));
+        salida += "</td>";
+    }
+    return salida + "</tr>\n";
+}
+
+std::string PaginaHtml::De(const Tabla& tabla) const {
+    std::string salida = "<table class=\"datos\" summary=\"Resultados\">\n<thead>\n";
+    if (tabla.TieneGrupos()) {
+        salida += "<tr>";
+        for (const GrupoDeColumnas& grupo : GruposDe(tabla))
+            salida +=
+                "<th colspan=\"" + std::to_string(grupo.Cuantas) + "\">" + Escapado(grupo.Titulo) + "</th>";
+        salida += "</tr>\n";
+    }
+    salida += "<tr>";
+    for (const ColumnaDeTabla& columna : tabla.Columnas)
+        salida += "<th scope=\"col\">" + Escapado(columna.Titulo) + "</th>";
+    salida += "</tr>\n</thead>\n<tbody>\n";
+    for (const FilaDeTabla& fila : tabla.Filas) salida += Fila(tabla, fila);
+    return salida + "</tbody>\n</table>\n";
+}
+
+std::string PaginaHtml::De(const Imagen& imagen) const {
+    std::string salida = "<div class=\"imagen\">";
+    if (const auto png = ComoPng(imagen.Leer())) {
+        const MedidaHoja medida = MedidaDe(imagen, png->Ancho, png->Alto, MedidaUtil(documento_.Hoja));
+        salida += "<img alt=\"" + Atributo(imagen.Pie) + "\" width=\"" +
+                  std::to_string(static_cast<int>(medida.Ancho * PixelesPorMilimetro)) + "\" height=\"" +
+                  std::to_string(static_cast<int>(medida.Alto * PixelesPorMilimetro)) +
+                  "\" src=\"data:image/png;base64," + Base64(png->Archivo) + "\">";
+    } else {
+        salida += ImagenIlegible;
+    }
+    if (!imagen.Pie.empty()) salida += "<p class=\"pie\">" + Escapado(imagen.Pie) + "</p>";
+    return salida + "</div>\n";
+}
+
+}  // namespace
+
+void EscribirHtml(const Documento& documento, const std::filesystem::path& destino) {
+    ArchivoNuevo archivo(destino);
+    const PaginaHtml pagina(documento);
+    archivo.Escribir(pagina.Principio());
+    for (std::size_t i = 0; i < documento.Secciones.size(); ++i) {
+        const Seccion& seccion = documento.Secciones[i];
+        const bool aparte = seccion.PaginaNueva && i > 0;
+        archivo.Escribir("<div id=\"s" + std::to_string(i + 1) +
+                         (aparte ? "\" class=\"pagina\">\n" : "\">\n"));
+        for (const Bloque& bloque : seccion.Bloques) archivo.Escribir(pagina.Bloque(bloque));
+        archivo.Escribir("</div>\n");
+    }
+    archivo.Escribir("</body>\n</html>\n");
+    archivo.Colocar();
+}
+
+}  // namespace trabex

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <filesystem>
+
+#include "reports/documento/Documento.h"
+
+namespace trabex {
+
+/// Writes a document as one HTML 4.01 page, its pictures inside it, so that the file can be mailed alone.
+/// Throws ErrorEjecucion; the file that stood there then stays.
+void EscribirHtml(const Documento& documento, const std::filesystem::path& destino);
+
+}  // namespace trabex

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <filesystem>
+
+#include "reports/documento/Documento.h"
+
+namespace trabex {
+
+/// Writes a document as Rich Text, for word processors: headings as styles, tables whose header repeats over
+/// pages, header and footer that count the pages. Throws ErrorEjecucion; the file that stood there then
+/// stays.
+void EscribirRtf(const Documento& documento, const std::filesystem::path& destino);
+
+}  // namespace trabex

@@ -1,0 +1,344 @@
+#include "reports/salidas/EscritorXls.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/Texto.h"
+#include "reports/salidas/ImagenPng.h"
+
+namespace trabex {
+
+namespace {
+
+constexpr double PuntosPorMilimetro = 72 / 25.4;
+constexpr double AltoDeFila = 12.75;
+constexpr double AnchoDeLetra = 0.55;  ///< mean width of a letter, in sizes of the font
+constexpr double MenorAncho = 36;      ///< of a column
+constexpr std::size_t ColumnasSinTablas = 6;
+constexpr std::size_t MayorEncabezadoFijo = 16;  ///< rows that may stay while the rest scrolls
+
+constexpr std::uint32_t FondoTitulos = 0xE6EDF4, LineaTitulos = 0xB9C6D3, LineaDatos = 0xD9DFE5;
+constexpr std::uint32_t TintaTitulos = 0x2F5D8A, TintaRotulos = 0x555555;
+
+AlineacionXls Lado(Alineacion lado) {
+    switch (lado) {
+        case Alineacion::Izquierda:
+            return AlineacionXls::Izquierda;
+        case Alineacion::Centro:
+            return AlineacionXls::Centro;
+        default:
+            return AlineacionXls::Derecha;
+    }
+}
+
+/// `formato` with the unit after it: the cell stays a number.
+std::string FormatoConUnidad(const std::string& formato, const std::string& unidad) {
+    if (unidad.empty()) return formato;
+    std::string limpia;
+    for (const char c : unidad) limpia += c == '"' ? '\'' : c;
+    return (formato.empty() ? "General" : formato) + "\" " + limpia + "\"";
+}
+
+/// The part of a page's header or footer in the format's codes.
+std::string Banda(const BandaDePagina& banda) {
+    std::string codigo;
+    const auto parte = [&codigo](const char* marca, const std::string& texto) {
+        if (texto.empty()) return;
+        codigo += marca;
+        for (const char c : texto) {
+            if (c == MarcaPagina)
+                codigo += "&P";
+            else if (c == MarcaPaginas)
+                codigo += "&N";
+            else
+                codigo += c == '&' ? std::string("&&") : std::string(1, c);
+        }
+    };
+    parte("&L", banda.Izquierda);
+    parte("&C", banda.Centro);
+    parte("&R", banda.Derecha);
+    return codigo;
+}
+
+PaginaXls PaginaDe(const Pagina& pagina) {
+    PaginaXls salida;
+    salida.Papel = pagina.Tamano == TamanoPagina::A4 ? PapelXls::A4 : PapelXls::Carta;
+    salida.Horizontal = pagina.Apaisada;
+    salida.AjustarAlAncho = true;
+    salida.Izquierdo = pagina.MargenIzquierdo * PuntosPorMilimetro;
+    salida.Derecho = pagina.MargenDerecho * PuntosPorMilimetro;
+    salida.Superior =
+        (pagina.MargenSuperior + 8) * PuntosPorMilimetro;  // the header stands inside the margin
+    salida.Inferior = (pagina.MargenInferior + 8) * PuntosPorMilimetro;
+    salida.Encabezado = Banda(pagina.Encabezado);
+    salida.Pie = Banda(pagina.Pie);
+    return salida;
+}
+
+/// Lines that a text takes in a width, in points, at a size of font.
+std::size_t Lineas(const std::string& texto, double ancho, double puntos) {
+    const double porLinea = std::max(1.0, ancho / (AnchoDeLetra * puntos));
+    std::size_t lineas = 0;
+    for (std::size_t desde = 0; desde <= texto.size();) {
+        const std::size_t fin = std::min(texto.find('\n', desde), texto.size());
+        const auto letras = static_cast<double>(NumeroDeCaracteres(texto.substr(desde, fin - desde)));
+        lineas += static_cast<std::size_t>(std::max(1.0, std::ceil(letras / porLinea)));
+        desde = fin + 1;
+    }
+    return lineas;
+}
+
+/// Writes the blocks of a section one below the other.
+class EscritorDeHoja {
+  public:
+    EscritorDeHoja(LibroXls& libro, HojaXls& hoja, const Documento& documento)
+        : libro_(libro), hoja_(hoja), documento_(documento) {}
+
+    void Escribir(const Seccion& seccion) {
+        PonerAnchos(seccion);
+        const auto tablas = std::count_if(seccion.Bloques.begin(), seccion.Bloques.end(),
+                                          [](const Bloque& b) { return std::holds_alternative<Tabla>(b); });
+        fijarTitulos_ = tablas == 1;
+        for (const Bloque& bloque : seccion.Bloques) std::visit([this](const auto& b) { Poner(b); }, bloque);
+    }
+
+  private:
+    /// Tables of a sheet share its columns: each is as wide as the widest that stands in its place.
+    void PonerAnchos(const Seccion& seccion) {
+        for (const Bloque& bloque : seccion.Bloques) {
+            const auto* tabla = std::get_if<Tabla>(&bloque);
+            if (tabla == nullptr) continue;
+            hoja_.Anchos.resize(std::max(hoja_.Anchos.size(), tabla->Columnas.size()), MenorAncho);
+            for (std::size_t c = 0; c < tabla->Columnas.size(); ++c)
+                hoja_.Anchos[c] = std::max({hoja_.Anchos[c], tabla->Columnas[c].Ancho * PuntosPorMilimetro,
+                                            AnchoDeNumeros(*tabla, c)});
+        }
+        if (hoja_.Anchos.empty())
+            hoja_.Anchos.assign(ColumnasSinTablas, SitioDePagina().Ancho / ColumnasSinTablas);
+    }
+
+    /// What a page holds of the sheet, in points, when the sheet's columns are shrunk to its width.
+    MedidaHoja SitioDePagina() const {
+        const MedidaHoja hoja = MedidaDe(documento_.Hoja);
+        const PaginaXls& p = hoja_.Pagina;
+        const double ancho = hoja.Ancho * PuntosPorMilimetro - p.Izquierdo - p.Derecho;
+        const double alto = hoja.Alto * PuntosPorMilimetro - p.Superior - p.Inferior;
+        const double escala = std::min(1.0, ancho / std::max(AnchoTotal(), 1.0));
+        return {ancho, alto / escala};
+    }
+    /// A picture that would lie over the end of a page begins the next one.
+    void SaltarSiNoCabe(double alto) {
+        double ocupado = 0;
+        const std::size_t inicio = hoja_.SaltosDePagina.empty() ? 0 : hoja_.SaltosDePagina.back();
+        for (std::size_t f = inicio; f < fila_; ++f) {
+            const double propio = f < hoja_.Filas.size() ? hoja_.Filas[f].Alto : 0;
+            ocupado += propio > 0 ? propio : AltoDeFila;
+        }
+        if (fila_ > inicio && ocupado + alto > SitioDePagina().Alto) hoja_.SaltosDePagina.push_back(fila_);
+    }
+
+    /// A number wider than its column would show as a row of signs.
+    double AnchoDeNumeros(const Tabla& tabla, std::size_t columna) const {
+        std::size_t letras = 0;
+        for (const FilaDeTabla& fila : tabla.Filas) {
+            if (columna < fila.Celdas.size() && NumeroDe(fila.Celdas[columna]))
+                letras = std::max(letras, Letras(fila.Celdas[columna], tabla.Columnas[columna].Formato));
+        }
+        return letras == 0 ? 0 : AnchoDe(letras);
+    }
+    std::size_t Letras(const Valor& valor, const std::string& formato) const {
+        return NumeroDeCaracteres(TextoDeValor(valor, formato, documento_.Locales));
+    }
+    double AnchoDe(std::size_t letras) const {
+        return (static_cast<double>(letras) + 2) * AnchoDeLetra * documento_.Letra;
+    }
+
+    double AnchoTotal() const {
+        double suma = 0;
+        for (const double ancho : hoja_.Anchos) suma += ancho;
+        return suma;
+    }
+    /// Columns, from one on, that give a width together.
+    std::size_t ColumnasPara(double ancho, std::size_t desde) const {
+        std::size_t cuantas = 0;
+        while (ancho > 0 && desde + cuantas < hoja_.Anchos.size()) ancho -= hoja_.Anchos[desde + cuantas++];
+        return std::max<std::size_t>(cuantas, 1);
+    }
+
+    EstiloXls Estilo() const {
+        EstiloXls estilo;
+        estilo.Puntos = documento_.Letra;
+        return estilo;
+    }
+    void Celda(std::size_t columna, ValorXls valor, const EstiloXls& estilo) {
+        CeldaEn(hoja_, fila_, columna) = {std::move(valor), EstiloDe(libro_, estilo)};
+    }
+    /// A cell over several columns.
+    void Celda(std::size_t columna, std::size_t cuantas, const ValorXls& valor, const EstiloXls& estilo) {
+        for (std::size_t c = columna; c < columna + cuantas; ++c) Celda(c, {}, estilo);
+        Celda(columna, valor, estilo);
+        if (cuantas > 1) hoja_.Combinadas.push_back({fila_, columna, fila_, columna + cuantas - 1});
+    }
+    void PonerAlto(double alto) {
+        CeldaEn(hoja_, fila_, 0);
+        hoja_.Filas[fila_].Alto = std::max(hoja_.Filas[fila_].Alto, std::max(alto, AltoDeFila));
+    }
+    double AltoDeTexto(const std::string& texto, double ancho, double puntos) const {
+        return 1.3 * puntos * static_cast<double>(Lineas(texto, ancho, puntos));
+    }
+
+    void Poner(const Titulo& titulo) {
+        EstiloXls estilo = Estilo();
+        estilo.Negrita = true;
+        estilo.Puntos *= titulo.Nivel == 1 ? 1.5 : titulo.Nivel == 2 ? 1.25 : 1.1;
+        if (titulo.Nivel <= 2) estilo.Color = TintaTitulos;
+        if (fila_ > 0) ++fila_;
+        Celda(0, titulo.Texto, estilo);
+        PonerAlto(AltoDeTexto(titulo.Texto, 1e6, estilo.Puntos));
+        ++fila_;
+    }
+
+    void Poner(const Parrafo& parrafo) {
+        EstiloXls estilo = Estilo();
+        estilo.Negrita = parrafo.Destacado;
+        estilo.AjustarTexto = true;
+        estilo.Vertical = VerticalXls::Arriba;
+        Celda(0, hoja_.Anchos.size(), parrafo.Texto, estilo);
+        PonerAlto(AltoDeTexto(parrafo.Texto, AnchoTotal(), estilo.Puntos));
+        ++fila_;
+    }
+
+    void Poner(const Ficha& ficha) {
+        std::size_t letras = 0;
+        for (const Ficha::Dato& dato : ficha.Datos)
+            letras = std::max(letras, NumeroDeCaracteres(dato.Rotulo));
+        const std::size_t valores = ColumnasPara(AnchoDe(letras), 0);
+        EstiloXls rotulo = Estilo();
+        rotulo.Color = TintaRotulos;
+        for (const Ficha::Dato& dato : ficha.Datos) {
+            EstiloXls estilo = Estilo();
+            estilo.Negrita = true;
+            estilo.Alineacion = AlineacionXls::Izquierda;
+            Celda(0, valores, dato.Rotulo, rotulo);
+            const std::size_t ancho =
+                Letras(dato.Contenido, dato.Formato) + NumeroDeCaracteres(dato.Unidad) + 1;
+            PonerValor(valores, ColumnasPara(AnchoDe(ancho), valores), dato.Contenido, dato.Formato,
+                       dato.Unidad, estilo);
+            ++fila_;
+        }
+    }
+
+    void Poner(const Tabla& tabla) {
+        if (fila_ > 0 && hoja_.Filas.size() == fila_) ++fila_;
+        if (tabla.TieneGrupos()) PonerGrupos(tabla);
+        PonerTitulos(tabla);
+        if (fijarTitulos_ && fila_ <= MayorEncabezadoFijo) hoja_.FilasFijas = fila_;
+        for (const FilaDeTabla& fila : tabla.Filas) PonerFila(tabla, fila);
+    }
+
+    EstiloXls EstiloDeTitulos() const {
+        EstiloXls estilo = Estilo();
+        estilo.Negrita = true;
+        estilo.AjustarTexto = true;
+        estilo.Alineacion = AlineacionXls::Centro;
+        estilo.Vertical = VerticalXls::Centro;
+        estilo.Relleno = FondoTitulos;
+        estilo.Bordes = {BordeXls::Fino, BordeXls::Fino, BordeXls::Fino, BordeXls::Fino, LineaTitulos};
+        return estilo;
+    }
+    void PonerGrupos(const Tabla& tabla) {
+        for (const GrupoDeColumnas& grupo : GruposDe(tabla)) {
+            Celda(grupo.Desde, grupo.Cuantas, grupo.Titulo, EstiloDeTitulos());
+            double ancho = 0;
+            for (std::size_t c = 0; c < grupo.Cuantas; ++c) ancho += hoja_.Anchos[grupo.Desde + c];
+            PonerAlto(AltoDeTexto(grupo.Titulo, ancho, documento_.Letra));
+        }
+        ++fila_;
+    }
+    void PonerTitulos(const Tabla& tabla) {
+        for (std::size_t c = 0; c < tabla.Columnas.size(); ++c) {
+            Celda(c, tabla.Columnas[c].Titulo, EstiloDeTitulos());
+            PonerAlto(AltoDeTexto(tabla.Columnas[c].Titulo, hoja_.Anchos[c], documento_.Letra));
+        }
+        ++fila_;
+    }
+    void PonerFila(const Tabla& tabla, const FilaDeTabla& fila) {
+        for (std::size_t c = 0; c < tabla.Columnas.size(); ++c) {
+            EstiloXls estilo = Estilo();
+            estilo.Negrita = fila.Destacada;
+            estilo.Alineacion = Lado(tabla.Columnas[c].Lado);
+            estilo.Bordes.Inferior = BordeXls::Fino;
+            estilo.Bordes.Superior = fila.Destacada ? BordeXls::Fino : BordeXls::Ninguno;
+            estilo.Bordes.Color = fila.Destacada ? 0 : LineaDatos;
+            const Valor valor = c < fila.Celdas.size() ? fila.Celdas[c] : Valor{};
+            PonerValor(c, 1, valor, tabla.Columnas[c].Formato, "", estilo);
+        }
+        ++fila_;
+    }
+
+    /// A number or a date as such, anything else as its text.
+    void PonerValor(std::size_t columna, std::size_t cuantas, const Valor& valor, const std::string& formato,
+                    const std::string& unidad, EstiloXls estilo) {
+        const std::optional<double> numero = NumeroDe(valor);
+        if (numero && formato.find('|') == std::string::npos) {
+            estilo.Formato = FormatoConUnidad(formato, unidad);
+            Celda(columna, cuantas, *numero, estilo);
+        } else if (const auto* fecha = std::get_if<Fecha>(&valor)) {
+            Celda(columna, cuantas, *fecha, estilo);
+        } else {
+            const std::string texto = TextoDeValor(valor, formato, documento_.Locales);
+            Celda(columna,
+                  texto.empty() ? ValorXls{} : ValorXls{texto + (unidad.empty() ? "" : " " + unidad)},
+                  estilo);
+        }
+    }
+
+    void Poner(const Imagen& imagen) {
+        const auto png = ComoPng(imagen.Leer ? imagen.Leer() : Bytes{});
+        if (!png) {
+            Poner(Parrafo{ImagenIlegible, false});
+        } else {
+            const MedidaHoja sitio = SitioDePagina();
+            const MedidaHoja medida = MedidaDe(
+                imagen, png->Ancho, png->Alto,
+                {sitio.Ancho / PuntosPorMilimetro, (sitio.Alto - 2 * AltoDeFila) / PuntosPorMilimetro});
+            const auto* bytes = reinterpret_cast<const char*>(png->Archivo.data());
+            const double alto = medida.Alto * PuntosPorMilimetro;
+            SaltarSiNoCabe(alto + 2 * AltoDeFila);  // with its caption
+            hoja_.Imagenes.push_back(
+                {std::string(bytes, png->Archivo.size()), fila_, 0, medida.Ancho * PuntosPorMilimetro, alto});
+            fila_ += static_cast<std::size_t>(std::ceil(alto / AltoDeFila)) + 1;
+        }
+        if (!imagen.Pie.empty()) Poner(Parrafo{imagen.Pie, false});
+    }
+
+    void Poner(const SaltoDePagina& /*salto*/) { hoja_.SaltosDePagina.push_back(fila_); }
+
+    LibroXls& libro_;
+    HojaXls& hoja_;
+    const Documento& documento_;
+    std::size_t fila_ = 0;
+    bool fijarTitulos_ = false;
+};
+
+}  // namespace
+
+LibroXls LibroDe(const Documento& documento) {
+    LibroXls libro;
+    libro.Titulo = documento.Titulo;
+    libro.Autor = documento.Autor;
+    for (const Seccion& seccion : documento.Secciones) {
+        HojaXls& hoja = libro.Hojas.emplace_back();
+        hoja.Nombre = seccion.Nombre;
+        hoja.Cuadricula = false;
+        hoja.Pagina = PaginaDe(documento.Hoja);
+        EscritorDeHoja(libro, hoja, documento).Escribir(seccion);
+    }
+    return libro;
+}
+
+void EscribirXls(const Documento& documento, const std::filesystem::path& destino) {
+    GuardarXls(LibroDe(documento), destino);
+}
+
+}  // namespace trabex

@@ -1,0 +1,203 @@
+#include "reports/salidas/qt/CajaTabla.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace trabex {
+
+namespace {
+
+const QColor TinteDeCelda(0x1A, 0x1A, 0x1A);
+const QColor FondoDeTitulo(0xE6, 0xED, 0xF4);
+const QColor RayaDeTitulo(0x8F, 0xA3, 0xB8);
+const QColor RayaDeFila(0xD0, 0xD7, 0xDE);
+
+constexpr double Margen = 0.9 * Milimetro;  // between a cell's side and its text
+constexpr double Grosor = 0.12 * Milimetro;
+constexpr double EntreLineas = 0.25;  // blank of a row, in heights of its font
+constexpr double LetraMenor = 0.5;    // letters of a table that does not fit get no smaller than this part
+
+double Suma(const std::vector<double>& valores) {
+    return std::accumulate(valores.begin(), valores.end(), 0.0);
+}
+
+/// Widths near `deseados` and not below `minimos`, that together fill at most `ancho`.
+std::vector<double> Repartir(const std::vector<double>& deseados, const std::vector<double>& minimos,
+                             double ancho) {
+    std::vector<double> anchos;
+    for (std::size_t i = 0; i < deseados.size(); ++i) anchos.push_back(std::max(deseados[i], minimos[i]));
+    const double sobra = Suma(anchos) - ancho;
+    const double holgura = Suma(anchos) - Suma(minimos);
+    if (sobra <= 0 || holgura <= 0) return anchos;
+    const double parte = std::min(1.0, sobra / holgura);
+    for (std::size_t i = 0; i < anchos.size(); ++i) anchos[i] -= parte * (anchos[i] - minimos[i]);
+    return anchos;
+}
+
+}  // namespace
+
+CajaTabla::CajaTabla(const Tabla& tabla, const Documento& documento, const Letras& letras, double ancho)
+    : tabla_(tabla), separadores_(documento.Locales), normal_(&letras.Normal), negrita_(&letras.Negrita) {
+    MedirColumnas(documento.Letra, ancho);
+    MedirFilas();
+}
+
+void CajaTabla::Achicar(double puntos) {
+    chica_ = std::make_unique<const TipoDeLetra>(puntos, false);
+    chicaNegrita_ = std::make_unique<const TipoDeLetra>(puntos, true);
+    normal_ = chica_.get();
+    negrita_ = chicaNegrita_.get();
+}
+
+QString CajaTabla::Celda(std::size_t fila, std::size_t columna) const {
+    const std::vector<Valor>& celdas = tabla_.Filas[fila].Celdas;
+    if (columna >= celdas.size()) return {};
+    return QString::fromStdString(
+        TextoDeValor(celdas[columna], tabla_.Columnas[columna].Formato, separadores_));
+}
+
+std::vector<double> CajaTabla::AnchosMinimos() const {
+    std::vector<double> minimos;
+    for (std::size_t i = 0; i < tabla_.Columnas.size(); ++i) {
+        double ancho = negrita_->AnchoDePalabra(QString::fromStdString(tabla_.Columnas[i].Titulo));
+        for (std::size_t fila = 0; fila < tabla_.Filas.size(); ++fila) {
+            const TipoDeLetra& letra = tabla_.Filas[fila].Destacada ? *negrita_ : *normal_;
+            const QString texto = Celda(fila, i);
+            // A long word gives way: it can be broken where a number can not.
+            const double entero = letra.Ancho(texto);
+            const double preciso =
+                SeParte(i) ? std::min(letra.AnchoDePalabra(texto), 25 * Milimetro) : entero;
+            ancho = std::max(ancho, preciso);
+        }
+        minimos.push_back(ancho + 2 * Margen);
+    }
+    return minimos;
+}
+
+void CajaTabla::MedirColumnas(double puntos, double ancho) {
+    std::vector<double> deseados = tabla_.Anchos(ancho / Milimetro);
+    for (double& deseado : deseados) deseado *= Milimetro;
+    std::vector<double> minimos = AnchosMinimos();
+    if (Suma(minimos) > ancho) {
+        Achicar(puntos * std::max(LetraMenor, 0.99 * ancho / Suma(minimos)));
+        minimos = AnchosMinimos();
+    }
+    anchos_ = Repartir(deseados, minimos, ancho);
+}
+
+QStringList CajaTabla::LineasDeCelda(const QString& texto, std::size_t columna,
+                                     const TipoDeLetra& letra) const {
+    return SeParte(columna) ? letra.Lineas(texto, anchos_[columna] - 2 * Margen) : QStringList(texto);
+}
+
+QStringList CajaTabla::LineasDeTitulo(const std::string& titulo, double ancho) const {
+    return negrita_->Lineas(QString::fromStdString(titulo), ancho - 2 * Margen);
+}
+
+double CajaTabla::Ancho(std::size_t desde, std::size_t cuantas) const {
+    const auto primera = anchos_.begin() + static_cast<std::ptrdiff_t>(desde);
+    return std::accumulate(primera, primera + static_cast<std::ptrdiff_t>(cuantas), 0.0);
+}
+
+void CajaTabla::MedirFilas() {
+    const auto alto = [this](qsizetype lineas) {
+        return (static_cast<double>(lineas) + EntreLineas) * normal_->Alto();
+    };
+    for (std::size_t i = 0; i < anchos_.size(); ++i)
+        altoTitulos_ =
+            std::max(altoTitulos_, alto(LineasDeTitulo(tabla_.Columnas[i].Titulo, anchos_[i]).size()));
+    if (tabla_.TieneGrupos()) {
+        for (const GrupoDeColumnas& grupo : GruposDe(tabla_)) {
+            const double ancho = Ancho(grupo.Desde, grupo.Cuantas);
+            altoGrupos_ = std::max(altoGrupos_, alto(LineasDeTitulo(grupo.Titulo, ancho).size()));
+        }
+    }
+    for (std::size_t fila = 0; fila < tabla_.Filas.size(); ++fila) {
+        const TipoDeLetra& letra = tabla_.Filas[fila].Destacada ? *negrita_ : *normal_;
+        qsizetype lineas = 1;
+        for (std::size_t i = 0; i < anchos_.size(); ++i) {
+            if (SeParte(i)) lineas = std::max(lineas, LineasDeCelda(Celda(fila, i), i, letra).size());
+        }
+        altos_.push_back(alto(lineas));
+    }
+}
+
+double CajaTabla::Alto(std::size_t desde, std::size_t hasta) const {
+    return altoGrupos_ + altoTitulos_ +
+           std::accumulate(altos_.begin() + static_cast<std::ptrdiff_t>(desde),
+                           altos_.begin() + static_cast<std::ptrdiff_t>(hasta), 0.0);
+}
+
+void CajaTabla::PintarTitulo(Tinta& tinta, const QRectF& donde, const std::string& titulo) const {
+    const QStringList lineas = LineasDeTitulo(titulo, donde.width());
+    double y = donde.bottom() - (static_cast<double>(lineas.size()) + EntreLineas / 2) * normal_->Alto() +
+               normal_->Ascenso();
+    for (const QString& linea : lineas) {
+        const double x = donde.center().x() - negrita_->Ancho(linea) / 2;
+        if (!linea.isEmpty()) tinta.Texto({x, y}, linea, *negrita_, TinteDeCelda);
+        y += normal_->Alto();
+    }
+}
+
+/// Paints the header and tells how high it is. A column without group takes the height of both rows.
+double CajaTabla::PintarCabecera(Tinta& tinta, const QPointF& esquina) const {
+    const double alto = altoGrupos_ + altoTitulos_;
+    const double ancho = Suma(anchos_);
+    tinta.Fondo({esquina.x(), esquina.y(), ancho, alto}, FondoDeTitulo);
+    double x = esquina.x();
+    for (const GrupoDeColumnas& grupo : GruposDe(tabla_)) {
+        const double anchoGrupo = Ancho(grupo.Desde, grupo.Cuantas);
+        const bool conGrupo = !grupo.Titulo.empty();
+        if (conGrupo) {
+            PintarTitulo(tinta, {x, esquina.y(), anchoGrupo, altoGrupos_}, grupo.Titulo);
+            tinta.Raya({x, esquina.y() + altoGrupos_}, {x + anchoGrupo, esquina.y() + altoGrupos_}, Grosor,
+                       RayaDeTitulo);
+        }
+        double xColumna = x;
+        for (std::size_t i = grupo.Desde; i < grupo.Desde + grupo.Cuantas; ++i) {
+            const double arriba = conGrupo ? altoGrupos_ : 0;
+            PintarTitulo(tinta, {xColumna, esquina.y() + arriba, anchos_[i], alto - arriba},
+                         tabla_.Columnas[i].Titulo);
+            tinta.Raya({xColumna, esquina.y() + (i == grupo.Desde ? 0 : arriba)},
+                       {xColumna, esquina.y() + alto}, Grosor, RayaDeTitulo);
+            xColumna += anchos_[i];
+        }
+        x += anchoGrupo;
+    }
+    tinta.Raya({x, esquina.y()}, {x, esquina.y() + alto}, Grosor, RayaDeTitulo);
+    for (const double y : {esquina.y(), esquina.y() + alto})
+        tinta.Raya({esquina.x(), y}, {x, y}, Grosor, RayaDeTitulo);
+    return alto;
+}
+
+void CajaTabla::PintarFila(Tinta& tinta, const QPointF& esquina, std::size_t fila) const {
+    const bool destacada = tabla_.Filas[fila].Destacada;
+    const TipoDeLetra& letra = destacada ? *negrita_ : *normal_;
+    double x = esquina.x();
+    for (std::size_t i = 0; i < anchos_.size(); ++i) {
+        double y = esquina.y() + EntreLineas / 2 * letra.Alto() + letra.Ascenso();
+        for (const QString& linea : LineasDeCelda(Celda(fila, i), i, letra)) {
+            const double hueco = anchos_[i] - letra.Ancho(linea);
+            const Alineacion lado = tabla_.Columnas[i].Lado;
+            const double sangria = lado == Alineacion::Izquierda ? Margen
+                                   : lado == Alineacion::Centro  ? hueco / 2
+                                                                 : hueco - Margen;
+            if (!linea.isEmpty()) tinta.Texto({x + sangria, y}, linea, letra, TinteDeCelda);
+            y += letra.Alto();
+        }
+        x += anchos_[i];
+    }
+    const double pie = esquina.y() + altos_[fila];
+    tinta.Raya({esquina.x(), pie}, {x, pie}, Grosor, RayaDeFila);
+    if (destacada) tinta.Raya(esquina, {x, esquina.y()}, 2 * Grosor, TinteDeCelda);
+}
+
+void CajaTabla::Pintar(Tinta& tinta, const QPointF& esquina, std::size_t desde, std::size_t hasta) const {
+    double y = esquina.y() + PintarCabecera(tinta, esquina);
+    for (std::size_t fila = desde; fila < hasta; ++fila) {
+        PintarFila(tinta, {esquina.x(), y}, fila);
+        y += altos_[fila];
+    }
+}
+
+}  // namespace trabex

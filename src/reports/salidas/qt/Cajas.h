@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QSizeF>
+#include <array>
+#include <cstddef>
+#include <memory>
+
+#include "reports/documento/Documento.h"
+#include "reports/salidas/qt/Tinta.h"
+
+namespace trabex {
+
+/// The fonts of a document.
+struct Letras {
+    explicit Letras(double puntos);
+    TipoDeLetra Normal;
+    TipoDeLetra Negrita;
+    TipoDeLetra Cursiva;
+    TipoDeLetra Chica;
+    std::array<TipoDeLetra, 3> Titulos;
+};
+
+/// A block as it stands on pages: how high it is, where it may break, and its ink. It refers to the block and
+/// the fonts, which outlive it.
+class Caja {
+  public:
+    virtual ~Caja() = default;
+
+    /// Blank before and after it; none at the head of a page.
+    virtual double Antes() const { return 0; }
+    virtual double Despues() const { return 0; }
+    /// It stays on the page of the box that follows.
+    virtual bool ConLaSiguiente() const { return false; }
+    /// Into how many rows it can be broken.
+    virtual std::size_t Filas() const { return 1; }
+    /// The height of rows `desde` … `hasta` - 1, with the header that they take.
+    virtual double Alto(std::size_t desde, std::size_t hasta) const = 0;
+    /// Of how many rows at least it begins.
+    virtual std::size_t FilasDelPrincipio() const { return 1; }
+    virtual void Pintar(Tinta& tinta, const QPointF& esquina, std::size_t desde, std::size_t hasta) const = 0;
+};
+
+/// The box of a block on a page whose text is `util` wide and high, in hundredths of a millimetre. Null for a
+/// page break.
+std::unique_ptr<Caja> CajaDe(const Bloque& bloque, const Documento& documento, const Letras& letras,
+                             const QSizeF& util);
+
+}  // namespace trabex

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <filesystem>
+
+#include "reports/documento/Documento.h"
+
+namespace trabex {
+
+/// Writes a document as PDF: texts that can be searched, in embedded fonts, pictures without loss, title and
+/// author told. Throws ErrorEjecucion; the file that stood there then stays.
+void EscribirPdf(const Documento& documento, const std::filesystem::path& destino);
+
+}  // namespace trabex

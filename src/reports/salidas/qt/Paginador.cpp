@@ -1,0 +1,139 @@
+#include "reports/salidas/qt/Paginador.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace trabex {
+
+namespace {
+
+const QColor TinteDeBanda(0x60, 0x60, 0x60);
+const QColor RayaDeBanda(0x8F, 0xA3, 0xB8);
+constexpr double AireDeBanda = 3 * Milimetro;  // from the text of the page to its header and footer
+
+QString ConNumeros(const std::string& texto, int pagina, int paginas) {
+    QString salida = QString::fromStdString(texto);
+    salida.replace(QChar(MarcaPagina), QString::number(pagina));
+    return salida.replace(QChar(MarcaPaginas), QString::number(paginas));
+}
+
+bool EsVacia(const BandaDePagina& banda) {
+    return banda.Izquierda.empty() && banda.Centro.empty() && banda.Derecha.empty();
+}
+
+}  // namespace
+
+Paginador::Paginador(const Documento& documento, const MedidaHoja& hoja)
+    : documento_(documento),
+      hoja_(hoja),
+      letras_(documento.Letra),
+      util_(QSizeF(hoja.Ancho - documento.Hoja.MargenIzquierdo - documento.Hoja.MargenDerecho,
+                   hoja.Alto - documento.Hoja.MargenSuperior - documento.Hoja.MargenInferior) *
+            Milimetro) {
+    paginas_.emplace_back();
+    for (const Seccion& seccion : documento.Secciones) {
+        Cajas cajas;
+        for (const Bloque& bloque : seccion.Bloques)
+            cajas.push_back(CajaDe(bloque, documento, letras_, util_));
+        Colocar(seccion, cajas);
+        std::move(cajas.begin(), cajas.end(), std::back_inserter(cajas_));
+    }
+}
+
+void Paginador::PaginaNueva() {
+    paginas_.emplace_back();
+    y_ = 0;
+}
+
+/// What must stand together where box `i` begins: headings with the beginning of what follows them.
+double Paginador::AltoPrincipio(const Cajas& cajas, std::size_t i) const {
+    double alto = 0;
+    for (; i < cajas.size() && cajas[i]; ++i) {
+        alto += cajas[i]->Antes() + cajas[i]->Alto(0, cajas[i]->FilasDelPrincipio());
+        if (!cajas[i]->ConLaSiguiente()) break;
+        alto += cajas[i]->Despues();
+    }
+    return alto;
+}
+
+double Paginador::AltoTotal(const Cajas& cajas) const {
+    double alto = 0;
+    for (const auto& caja : cajas)
+        alto += caja ? caja->Antes() + caja->Alto(0, caja->Filas()) + caja->Despues() : util_.height();
+    return alto;
+}
+
+void Paginador::Colocar(const Seccion& seccion, const Cajas& cajas) {
+    const double total = seccion.Junta ? AltoTotal(cajas) : 0;
+    const bool noCabe = total > util_.height() - y_ && total <= util_.height();
+    if (!AlPrincipio() && (seccion.PaginaNueva || noCabe)) PaginaNueva();
+    for (std::size_t i = 0; i < cajas.size(); ++i) {
+        if (!cajas[i]) {
+            if (!AlPrincipio()) PaginaNueva();
+            continue;
+        }
+        if (!AlPrincipio() && y_ + AltoPrincipio(cajas, i) > util_.height()) PaginaNueva();
+        ColocarCaja(*cajas[i]);
+    }
+}
+
+void Paginador::ColocarCaja(const Caja& caja) {
+    if (!AlPrincipio()) y_ += caja.Antes();
+    for (std::size_t desde = 0; desde < caja.Filas();) {
+        std::size_t hasta = desde + 1;
+        double alto = caja.Alto(desde, hasta);
+        while (hasta < caja.Filas()) {
+            const double siguiente = caja.Alto(hasta, hasta + 1) - caja.Alto(hasta, hasta);
+            if (y_ + alto + siguiente > util_.height()) break;
+            alto += siguiente;
+            ++hasta;
+        }
+        if (hasta + 1 == caja.Filas() && hasta - desde > 2) --hasta;  // the last row is not left alone
+        paginas_.back().push_back({&caja, y_, desde, hasta});
+        y_ += caja.Alto(desde, hasta);
+        desde = hasta;
+        if (desde < caja.Filas()) PaginaNueva();
+    }
+    y_ += caja.Despues();
+}
+
+void Paginador::Pintar(int pagina, Tinta& tinta) const {
+    const Pagina& hoja = documento_.Hoja;
+    const QPointF esquina = QPointF(hoja.MargenIzquierdo, hoja.MargenSuperior) * Milimetro;
+    for (const Pieza& pieza : paginas_[static_cast<std::size_t>(pagina)])
+        pieza.De->Pintar(tinta, esquina + QPointF(0, pieza.Y), pieza.Desde, pieza.Hasta);
+    const double derecha = esquina.x() + util_.width();
+    const TipoDeLetra& letra = letras_.Chica;
+    if (!EsVacia(hoja.Encabezado)) {
+        const double raya = esquina.y() - AireDeBanda;
+        PintarBanda(tinta, hoja.Encabezado, raya - letra.Alto() * 1.2 + letra.Ascenso(), pagina);
+        tinta.Raya({esquina.x(), raya}, {derecha, raya}, 0.15 * Milimetro, RayaDeBanda);
+    }
+    if (!EsVacia(hoja.Pie)) {
+        const double raya = esquina.y() + util_.height() + AireDeBanda;
+        tinta.Raya({esquina.x(), raya}, {derecha, raya}, 0.15 * Milimetro, RayaDeBanda);
+        PintarBanda(tinta, hoja.Pie, raya + letra.Alto() * 0.2 + letra.Ascenso(), pagina);
+    }
+}
+
+/// The texts of a band beside one another; one that would run into its neighbour is cut short.
+void Paginador::PintarBanda(Tinta& tinta, const BandaDePagina& banda, double base, int pagina) const {
+    const QFontMetricsF metrica(letras_.Chica.Fuente());
+    const std::array<std::pair<const std::string*, double>, 3> textos{
+        {{&banda.Izquierda, 0.0}, {&banda.Centro, 0.5}, {&banda.Derecha, 1.0}}};
+    const auto llenos =
+        std::count_if(textos.begin(), textos.end(), [](const auto& t) { return !t.first->empty(); });
+    const double sitio =
+        (util_.width() - 5 * Milimetro * static_cast<double>(llenos - 1)) / static_cast<double>(llenos);
+    for (const auto& [texto, lugar] : textos) {
+        if (texto->empty()) continue;
+        const QString linea = metrica.elidedText(
+            ConNumeros(*texto, pagina + 1, NumeroPaginas()).replace('\n', ' '), Qt::ElideRight, sitio);
+        const double hueco = util_.width() - letras_.Chica.Ancho(linea);
+        tinta.Texto({documento_.Hoja.MargenIzquierdo * Milimetro + lugar * hueco, base}, linea, letras_.Chica,
+                    TinteDeBanda);
+    }
+}
+
+}  // namespace trabex

@@ -1,0 +1,83 @@
+#include "reports/salidas/qt/TipoDeLetra.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace trabex {
+
+namespace {
+
+QFont FuenteDe(double puntos, bool negrita, bool cursiva) {
+    QFont fuente;
+    fuente.setFamilies({"Arial", "Liberation Sans", "Helvetica", "DejaVu Sans"});
+    fuente.setStyleHint(QFont::SansSerif);
+    fuente.setPixelSize(static_cast<int>(std::lround(puntos * PuntoTipografico)));
+    fuente.setBold(negrita);
+    fuente.setItalic(cursiva);
+    fuente.setHintingPreference(QFont::PreferNoHinting);
+    fuente.setKerning(false);
+    return fuente;
+}
+
+/// Adds the lines of a paragraph without line feeds.
+void Partir(const TipoDeLetra& letra, const QString& parrafo, double ancho, QStringList& lineas) {
+    QString linea;
+    for (QString palabra : parrafo.split(' ')) {
+        const QString seguida = linea.isEmpty() ? palabra : linea + ' ' + palabra;
+        if (letra.Ancho(seguida) <= ancho) {
+            linea = seguida;
+            continue;
+        }
+        if (!linea.isEmpty()) lineas.append(linea);
+        while (palabra.size() > 1 && letra.Ancho(palabra) > ancho) {
+            qsizetype caben = palabra.size() - 1;
+            while (caben > 1 && letra.Ancho(palabra.left(caben)) > ancho) --caben;
+            lineas.append(palabra.left(caben));
+            palabra.remove(0, caben);
+        }
+        linea = palabra;
+    }
+    lineas.append(linea);
+}
+
+}  // namespace
+
+TipoDeLetra::TipoDeLetra(double puntos, bool negrita, bool cursiva)
+    : fuente_(FuenteDe(puntos, negrita, cursiva)),
+      metrica_(fuente_),
+      avances_(),
+      alto_(metrica_.ascent() + metrica_.descent()),
+      ascenso_(metrica_.ascent()) {
+    for (std::size_t c = 0; c < avances_.size(); ++c)
+        avances_[c] = metrica_.horizontalAdvance(QChar(static_cast<char16_t>(c)));
+}
+
+double TipoDeLetra::Ancho(const QString& texto) const {
+    double ancho = 0;
+    for (const QChar c : texto) {
+        if (c.unicode() >= avances_.size()) return metrica_.horizontalAdvance(texto);
+        ancho += avances_[c.unicode()];
+    }
+    return ancho;
+}
+
+QStringList TipoDeLetra::Lineas(const QString& texto, double ancho) const {
+    QStringList lineas;
+    for (const QString& parrafo : texto.split('\n')) {
+        if (Ancho(parrafo) <= ancho)
+            lineas.append(parrafo);
+        else
+            Partir(*this, parrafo, ancho, lineas);
+    }
+    return lineas;
+}
+
+double TipoDeLetra::AnchoDePalabra(const QString& texto) const {
+    double ancho = 0;
+    for (const QString& linea : texto.split('\n')) {
+        for (const QString& palabra : linea.split(' ')) ancho = std::max(ancho, Ancho(palabra));
+    }
+    return ancho;
+}
+
+}  // namespace trabex

@@ -1,0 +1,237 @@
+#include "reports/salidas/qt/VistaPaginas.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QWheelEvent>
+#include <algorithm>
+#include <cmath>
+
+namespace trabex {
+
+namespace {
+
+constexpr int Hueco = 14;  // pixels around pages
+constexpr double ZoomMenor = 25;
+constexpr double ZoomMayor = 400;
+constexpr int MemoriaDeEstampas = 96 * 1024;  // KB
+const QColor ColorDeHallazgo(255, 213, 0, 90);
+const QColor ColorDelActual(255, 140, 0, 130);
+
+/// Letters without case and accents, each in its place.
+QString Llano(const QString& texto) {
+    QString llano;
+    llano.reserve(texto.size());
+    for (const QChar c : texto) {
+        const QString partes = c.decompositionTag() == QChar::Canonical ? c.decomposition() : QString(c);
+        llano += partes.at(0).toLower();
+    }
+    return llano;
+}
+
+/// Reads a page's texts and keeps where one stands.
+class TintaDeBusqueda : public Tinta {
+  public:
+    explicit TintaDeBusqueda(const QString& buscado) : buscado_(buscado) {}
+    std::vector<QRectF> Hallados;
+
+    void Texto(const QPointF& base, const QString& texto, const TipoDeLetra& letra, const QColor&) override {
+        const QString llano = Llano(texto);
+        for (qsizetype i = llano.indexOf(buscado_); i >= 0; i = llano.indexOf(buscado_, i + buscado_.size()))
+            Hallados.emplace_back(base.x() + letra.Ancho(texto.left(i)), base.y() - letra.Ascenso(),
+                                  letra.Ancho(texto.mid(i, buscado_.size())), letra.Alto());
+    }
+    void Raya(const QPointF&, const QPointF&, double, const QColor&) override {}
+    void Fondo(const QRectF&, const QColor&) override {}
+    void Mapa(const QRectF&, const Imagen&) override {}
+
+  private:
+    QString buscado_;
+};
+
+}  // namespace
+
+VistaPaginas::VistaPaginas(const Documento& documento, QWidget* padre)
+    : QAbstractScrollArea(padre), paginas_(documento), estampas_(MemoriaDeEstampas) {
+    setFocusPolicy(Qt::StrongFocus);
+    setFrameShape(QFrame::NoFrame);
+    viewport()->setBackgroundRole(QPalette::Mid);
+    viewport()->setAutoFillBackground(true);
+    verticalScrollBar()->setSingleStep(40);
+    horizontalScrollBar()->setSingleStep(40);
+}
+
+double VistaPaginas::Escala() const {
+    return zoom_ / 100 * logicalDpiX() / (25.4 * Milimetro);
+}
+
+QSize VistaPaginas::Lado() const {
+    const QSizeF hoja = QSizeF(paginas_.Hoja().Ancho, paginas_.Hoja().Alto) * Milimetro * Escala();
+    return {static_cast<int>(std::lround(hoja.width())), static_cast<int>(std::lround(hoja.height()))};
+}
+
+int VistaPaginas::Paso() const {
+    return Lado().height() + Hueco;
+}
+
+QRect VistaPaginas::Lugar(int pagina) const {
+    const QSize lado = Lado();
+    const int sobra = viewport()->width() - lado.width();
+    const int x = sobra > 2 * Hueco ? sobra / 2 : Hueco - horizontalScrollBar()->value();
+    return {QPoint(x, Hueco + pagina * Paso() - verticalScrollBar()->value()), lado};
+}
+
+int VistaPaginas::PaginaActual() const {
+    const int medio = verticalScrollBar()->value() + viewport()->height() / 3;
+    return std::clamp((medio - Hueco) / std::max(Paso(), 1), 0, NumeroPaginas() - 1);
+}
+
+void VistaPaginas::IrAPagina(int pagina) {
+    verticalScrollBar()->setValue(std::clamp(pagina, 0, NumeroPaginas() - 1) * Paso());
+}
+
+double VistaPaginas::ZoomDeAncho() const {
+    const double ancho = viewport()->width() - 2 * Hueco;
+    return std::clamp(100 * ancho / (Lado().width() * 100 / zoom_), ZoomMenor, ZoomMayor);
+}
+
+double VistaPaginas::ZoomDePagina() const {
+    const double alto = viewport()->height() - 2 * Hueco;
+    return std::min(ZoomDeAncho(),
+                    std::clamp(100 * alto / (Lado().height() * 100 / zoom_), ZoomMenor, ZoomMayor));
+}
+
+void VistaPaginas::PonerZoom(double porcentaje) {
+    const double nuevo = std::clamp(porcentaje, ZoomMenor, ZoomMayor);
+    if (nuevo == zoom_) return;
+    const double medio = verticalScrollBar()->value() + viewport()->height() / 2.0;
+    const double lugar = medio / Paso();
+    zoom_ = nuevo;
+    estampas_.clear();
+    Acomodar();
+    verticalScrollBar()->setValue(static_cast<int>(lugar * Paso() - viewport()->height() / 2.0));
+    viewport()->update();
+    if (AlCambiarZoom) AlCambiarZoom(zoom_);
+}
+
+void VistaPaginas::Acomodar() {
+    const QSize lado = Lado();
+    const QSize vista = viewport()->size();
+    verticalScrollBar()->setRange(0, std::max(0, Hueco + NumeroPaginas() * Paso() - vista.height()));
+    verticalScrollBar()->setPageStep(vista.height());
+    horizontalScrollBar()->setRange(0, std::max(0, lado.width() + 2 * Hueco - vista.width()));
+    horizontalScrollBar()->setPageStep(vista.width());
+}
+
+const QPixmap& VistaPaginas::Estampa(int pagina) {
+    if (const QPixmap* guardada = estampas_.object(pagina)) return *guardada;
+    const double finura = devicePixelRatioF();
+    QPixmap estampa(Lado() * finura);
+    estampa.setDevicePixelRatio(finura);
+    estampa.fill(Qt::white);
+    QPainter pintor(&estampa);
+    pintor.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    pintor.scale(Escala(), Escala());
+    TintaDePintor tinta(pintor);
+    paginas_.Pintar(pagina, tinta);
+    pintor.end();
+    suelta_ = estampa;
+    const qint64 peso = qint64{4} * estampa.width() * estampa.height() / 1024;
+    estampas_.insert(pagina, new QPixmap(estampa), static_cast<int>(peso));
+    return suelta_;
+}
+
+void VistaPaginas::PintarHallazgos(QPainter& pintor, int pagina) const {
+    const QPoint esquina = Lugar(pagina).topLeft();
+    for (std::size_t i = 0; i < hallazgos_.size(); ++i) {
+        if (hallazgos_[i].Pagina != pagina) continue;
+        const QRectF& donde = hallazgos_[i].Donde;
+        const QRectF marca(esquina + donde.topLeft() * Escala(), donde.size() * Escala());
+        pintor.fillRect(marca.adjusted(-1, -1, 1, 1),
+                        static_cast<int>(i) == hallazgo_ ? ColorDelActual : ColorDeHallazgo);
+    }
+}
+
+void VistaPaginas::paintEvent(QPaintEvent* evento) {
+    QPainter pintor(viewport());
+    const int primera = std::max(0, (verticalScrollBar()->value() - Hueco) / Paso());
+    for (int i = primera; i < NumeroPaginas() && Lugar(i).top() < viewport()->height(); ++i) {
+        const QRect lugar = Lugar(i);
+        if (!lugar.intersects(evento->rect())) continue;
+        pintor.fillRect(lugar.translated(2, 2), QColor(0, 0, 0, 60));
+        pintor.drawPixmap(lugar.topLeft(), Estampa(i));
+        PintarHallazgos(pintor, i);
+    }
+}
+
+void VistaPaginas::resizeEvent(QResizeEvent* evento) {
+    QAbstractScrollArea::resizeEvent(evento);
+    Acomodar();
+}
+
+void VistaPaginas::scrollContentsBy(int, int) {
+    viewport()->update();
+    if (PaginaActual() == paginaAvisada_) return;
+    paginaAvisada_ = PaginaActual();
+    if (AlCambiarPagina) AlCambiarPagina(paginaAvisada_);
+}
+
+void VistaPaginas::wheelEvent(QWheelEvent* evento) {
+    if (!(evento->modifiers() & Qt::ControlModifier)) {
+        QAbstractScrollArea::wheelEvent(evento);
+        return;
+    }
+    PonerZoom(zoom_ * std::pow(1.1, evento->angleDelta().y() / 120.0));
+    evento->accept();
+}
+
+void VistaPaginas::keyPressEvent(QKeyEvent* evento) {
+    QScrollBar* barra = verticalScrollBar();
+    switch (evento->key()) {
+        case Qt::Key_Home:
+            barra->setValue(0);
+            break;
+        case Qt::Key_End:
+            barra->setValue(barra->maximum());
+            break;
+        case Qt::Key_Space:
+            barra->triggerAction(QAbstractSlider::SliderPageStepAdd);
+            break;
+        default:
+            QAbstractScrollArea::keyPressEvent(evento);
+    }
+}
+
+void VistaPaginas::Buscar(const QString& texto) {
+    hallazgos_.clear();
+    hallazgo_ = -1;
+    const QString buscado = Llano(texto);
+    for (int i = 0; !buscado.isEmpty() && i < NumeroPaginas(); ++i) {
+        TintaDeBusqueda tinta(buscado);
+        paginas_.Pintar(i, tinta);
+        for (const QRectF& donde : tinta.Hallados) hallazgos_.push_back({i, donde});
+    }
+    viewport()->update();
+}
+
+int VistaPaginas::IrAlHallazgo(bool adelante) {
+    const int cuantos = NumeroHallazgos();
+    if (cuantos == 0) return 0;
+    if (hallazgo_ < 0) {
+        // The search begins at the page in sight.
+        const auto desde = std::find_if(hallazgos_.begin(), hallazgos_.end(),
+                                        [this](const Hallazgo& h) { return h.Pagina >= PaginaActual(); });
+        hallazgo_ = desde == hallazgos_.end() ? 0 : static_cast<int>(desde - hallazgos_.begin());
+    } else {
+        hallazgo_ = (hallazgo_ + (adelante ? 1 : cuantos - 1)) % cuantos;
+    }
+    const Hallazgo& actual = hallazgos_[static_cast<std::size_t>(hallazgo_)];
+    const double y = Hueco + actual.Pagina * Paso() + actual.Donde.y() * Escala();
+    verticalScrollBar()->setValue(static_cast<int>(y - viewport()->height() / 3.0));
+    horizontalScrollBar()->setValue(
+        static_cast<int>(actual.Donde.x() * Escala() - viewport()->width() / 3.0));
+    viewport()->update();
+    return hallazgo_ + 1;
+}
+
+}  // namespace trabex

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QAbstractScrollArea>
+#include <QCache>
+#include <QPixmap>
+#include <functional>
+#include <vector>
+
+#include "reports/salidas/qt/Paginador.h"
+
+namespace trabex {
+
+/// The pages of a document on the screen, one below another. The same pages as on paper, with the same ink.
+class VistaPaginas : public QAbstractScrollArea {
+  public:
+    explicit VistaPaginas(const Documento& documento, QWidget* padre = nullptr);
+
+    int NumeroPaginas() const { return paginas_.NumeroPaginas(); }
+    /// The page that fills most of the view, from 0.
+    int PaginaActual() const;
+    void IrAPagina(int pagina);
+
+    /// In percent, 100 being the size of the paper by the screen's resolution. Keeps the middle of the view.
+    void PonerZoom(double porcentaje);
+    double Zoom() const { return zoom_; }
+    double ZoomDeAncho() const;
+    double ZoomDePagina() const;
+
+    /// Looks for a text without regard to case and accents; the answers are marked.
+    void Buscar(const QString& texto);
+    int NumeroHallazgos() const { return static_cast<int>(hallazgos_.size()); }
+    /// Shows the next answer, or the one before. Its number, from 1; 0 when there is none.
+    int IrAlHallazgo(bool adelante);
+
+    std::function<void(int pagina)> AlCambiarPagina;
+    std::function<void(double porcentaje)> AlCambiarZoom;
+
+  protected:
+    void paintEvent(QPaintEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void wheelEvent(QWheelEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
+
+  private:
+    struct Hallazgo {
+        int Pagina;
+        QRectF Donde;  // in the units of the pages
+    };
+    double Escala() const;  // pixels of the screen in a unit of the pages
+    QSize Lado() const;     // of a page on the screen
+    int Paso() const;
+    QRect Lugar(int pagina) const;
+    void Acomodar();
+    const QPixmap& Estampa(int pagina);
+    void PintarHallazgos(QPainter& pintor, int pagina) const;
+
+    Paginador paginas_;
+    double zoom_ = 100;
+    QCache<int, QPixmap> estampas_;
+    QPixmap suelta_;  // a page too large to be kept
+    std::vector<Hallazgo> hallazgos_;
+    int hallazgo_ = -1;
+    int paginaAvisada_ = 0;
+};
+
+}  // namespace trabex

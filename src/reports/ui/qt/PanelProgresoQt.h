@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QDialog>
+
+#include "reports/montaje/PanelProgreso.h"
+
+class QLabel;
+class QProgressBar;
+
+namespace trabex {
+
+/// The progress panel: over its window, which takes no command meanwhile. Nothing closes it but the end of
+/// the work.
+class PanelProgresoQt : public PanelProgreso {
+  public:
+    explicit PanelProgresoQt(QWidget* ventana);
+
+    void Mostrar() override;
+    void Avanzar(double porcentaje, const std::string& rotulo) override;
+    void Ocultar() override;
+
+    QWidget* Ventana() { return &panel_; }
+
+  private:
+    class Panel : public QDialog {
+      public:
+        using QDialog::QDialog;
+        void reject() override {}
+    };
+    Panel panel_;
+    QLabel* rotulo_;
+    QProgressBar* barra_;
+};
+
+}  // namespace trabex

@@ -1,0 +1,93 @@
+#include "reports/ui/qt/VentanaExportarGrafico.h"
+
+#include <QBuffer>
+#include <QButtonGroup>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "base/Archivos.h"
+#include "drawing/qt/ImagenDeHoja.h"
+#include "drawing/qt/WidgetLienzo.h"
+#include "shell/qt/ComunVentanas.h"
+
+namespace trabex {
+
+namespace {
+
+constexpr double Finura = 2;  // pixels of the saved picture to one of the window's: sharp in a document
+constexpr int Calidad = 100;
+
+}  // namespace
+
+VentanaExportarGrafico::VentanaExportarGrafico(EntornoGrafico entorno, DibujoDeEspacio dibujar,
+                                               QWidget* padre)
+    : QDialog(padre),
+      entorno_(entorno),
+      operaciones_(entorno_, *this),
+      dibujar_(std::move(dibujar)),
+      lienzo_(new WidgetLienzo(
+          operaciones_.Viewport(), [this](Lienzo& lienzo) { dibujar_(lienzo, operaciones_.Viewport()); },
+          this)) {
+    setObjectName("ExportarGrafico");
+    setWindowTitle("EXPORTAR GRÁFICOS");
+    auto* columna = new QVBoxLayout(this);
+    columna->addWidget(lienzo_, 1);
+    columna->addLayout(Controles());
+    TamanoInicial(this, {980, 700});
+    PrepararVentana(this, entorno_.LaAplicacion.Preferencias);
+}
+
+QLayout* VentanaExportarGrafico::Controles() {
+    auto* marco = new QGroupBox("Formato de la Imagen", this);
+    auto* opciones = new QVBoxLayout(marco);
+    formatos_ = new QButtonGroup(this);
+    for (std::size_t i = 0; i < FormatosGrafico.size(); ++i) {
+        auto* opcion = new QRadioButton(FormatosGrafico[i].Opcion, marco);
+        formatos_->addButton(opcion, static_cast<int>(i));
+        opciones->addWidget(opcion);
+    }
+    formatos_->button(0)->setChecked(true);
+
+    auto* fila = new QHBoxLayout;
+    fila->addWidget(marco);
+    fila->addStretch(1);
+    const auto agregar = [this, fila](const QString& texto, const char* icono, const char* ayuda,
+                                      auto accion) {
+        auto* boton = Boton(texto, icono, this);
+        boton->setAutoDefault(false);
+        PonerAyuda(boton, texto.trimmed().isEmpty() ? "Carpeta" : texto.trimmed(), ayuda);
+        connect(boton, &QPushButton::clicked, this, accion);
+        fila->addWidget(boton, 0, Qt::AlignBottom);
+        return boton;
+    };
+    Visor& visor = lienzo_->Comandos();
+    agregar(" Zoom Más ", "acercar", "Acercar el gráfico.", [&visor] { visor.EjecuteZoomIn(); });
+    agregar(" Zoom Menos ", "alejar", "Alejar el gráfico.", [&visor] { visor.EjecuteZoomOut(); });
+    agregar(" Zoom Extents ", "pantalla", "Ver el gráfico completo.",
+            [&visor] { visor.EjecuteZoomExtents(); });
+    auto* carpeta = agregar("", "carpeta", "Abrir la carpeta de las imágenes exportadas.",
+                            [this] { operaciones_.AbrirCarpeta(); });
+    carpeta->setObjectName("Carpeta");
+    auto* exportar = agregar(" Exportar ", "camara", "Salvar el gráfico como imagen.", [this] {
+        operaciones_.ExportarPantalla(FormatosGrafico[static_cast<std::size_t>(formatos_->checkedId())]);
+    });
+    exportar->setDefault(true);
+    agregar(" Retorno ", "salida", "Cerrar la ventana.", [this] { reject(); });
+    return fila;
+}
+
+void VentanaExportarGrafico::Guardar(const std::filesystem::path& archivo, const FormatoGrafico& formato) {
+    // On a copy of the viewport, since a drawing leaves its scale in it.
+    EstadoVista visor = operaciones_.Viewport();
+    const QImage imagen = DibujarImagen(lienzo_->width(), lienzo_->height(), Finura,
+                                        [&](Lienzo& lienzo) { dibujar_(lienzo, visor); });
+    QBuffer bytes;
+    bytes.open(QIODevice::WriteOnly);
+    if (!imagen.save(&bytes, formato.Clase, Calidad)) throw ErrorEjecucion(CodigoError::ErrorDispositivo);
+    EscribirArchivo(archivo, {bytes.data().constData(), static_cast<std::size_t>(bytes.data().size())});
+}
+
+}  // namespace trabex

@@ -1,0 +1,76 @@
+#include "reports/xls/Biff.h"
+
+#include <algorithm>
+#include <bit>
+#include <memory>
+
+#include <glib.h>
+
+namespace trabex::biff {
+
+namespace {
+
+/// UTF-16 of a text; bytes that are no UTF-8 become U+FFFD.
+std::u16string Utf16(std::string_view utf8) {
+    const std::unique_ptr<gchar, decltype(&g_free)> valido(
+        g_utf8_make_valid(utf8.empty() ? "" : utf8.data(), static_cast<gssize>(utf8.size())), g_free);
+    glong unidades = 0;
+    const std::unique_ptr<gunichar2, decltype(&g_free)> texto(
+        g_utf8_to_utf16(valido.get(), -1, nullptr, &unidades, nullptr), g_free);
+    return {texto.get(), texto.get() + unidades};
+}
+
+bool MitadDePar(char16_t unidad) {
+    return unidad >= 0xD800 && unidad < 0xDC00;
+}
+
+}  // namespace
+
+Octetos& Octetos::Entero(std::size_t valor, int octetos) {
+    for (int i = 0; i < octetos; ++i) bytes_ += static_cast<char>((valor >> (8 * i)) & 0xFF);
+    return *this;
+}
+
+Octetos& Octetos::F64(double valor) {
+    return Entero(std::bit_cast<std::uint64_t>(valor), 8);
+}
+
+Octetos& Octetos::TextoCorto(std::string_view utf8, std::size_t maximo) {
+    const TextoBiff texto(utf8, maximo);
+    return U8(texto.Caracteres()).U8(texto.Marca()).Crudo(texto.Trozo(0, texto.Caracteres()));
+}
+
+Octetos& Octetos::TextoLargo(std::string_view utf8, std::size_t maximo) {
+    const TextoBiff texto(utf8, maximo);
+    return U16(texto.Caracteres()).U8(texto.Marca()).Crudo(texto.Trozo(0, texto.Caracteres()));
+}
+
+TextoBiff::TextoBiff(std::string_view utf8, std::size_t maximo) : utf16_(Utf16(utf8)) {
+    if (utf16_.size() > maximo) utf16_.resize(MitadDePar(utf16_[maximo - 1]) ? maximo - 1 : maximo);
+    const bool latino = std::all_of(utf16_.begin(), utf16_.end(), [](char16_t u) { return u < 0x100; });
+    ancho_ = latino ? 1 : 2;
+}
+
+std::string TextoBiff::Trozo(std::size_t desde, std::size_t cuantos) const {
+    Octetos octetos;
+    for (std::size_t i = desde; i < desde + cuantos; ++i) {
+        if (ancho_ == 1)
+            octetos.U8(utf16_[i]);
+        else
+            octetos.U16(utf16_[i]);
+    }
+    return octetos.Bytes();
+}
+
+void AgregarRegistro(std::string& flujo, std::uint16_t tipo, const Octetos& datos) {
+    const std::string_view bytes = datos.Bytes();
+    std::size_t escritos = 0;
+    do {
+        const std::string_view parte = bytes.substr(escritos, DatosPorRegistro);
+        flujo += Octetos().U16(escritos == 0 ? tipo : Continuacion).U16(parte.size()).Bytes();
+        flujo += parte;
+        escritos += parte.size();
+    } while (escritos < bytes.size());
+}
+
+}  // namespace trabex::biff

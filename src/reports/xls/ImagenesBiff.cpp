@@ -1,0 +1,207 @@
+#include "reports/xls/ImagenesBiff.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "reports/xls/Biff.h"
+
+namespace trabex::biff {
+
+namespace {
+
+constexpr std::uint16_t MSODRAWINGGROUP = 0x00EB, MSODRAWING = 0x00EC, OBJ = 0x005D;
+constexpr std::size_t FormasPorGrupo = 1024;
+
+/// Kinds of drawing records.
+enum Tipo : std::uint16_t {
+    DggContainer = 0xF000,
+    BStoreContainer = 0xF001,
+    DgContainer = 0xF002,
+    SpgrContainer = 0xF003,
+    SpContainer = 0xF004,
+    Dgg = 0xF006,
+    Bse = 0xF007,
+    Dg = 0xF008,
+    Spgr = 0xF009,
+    Sp = 0xF00A,
+    Opt = 0xF00B,
+    ClientAnchor = 0xF010,
+    ClientData = 0xF011,
+    SplitMenuColors = 0xF11E,
+};
+constexpr std::size_t Contenedor = 0xF;  ///< version of those that hold others
+
+/// How a kind of picture file is stored.
+struct Clase {
+    std::string_view Firma;
+    std::size_t Numero;     ///< of the kind
+    std::size_t Instancia;  ///< of its record, of type 0xF018 + Numero
+    std::size_t Cabecera;   ///< bytes of the file that are not stored
+};
+constexpr std::array<Clase, 3> Clases{{
+    {"\x89PNG", 6, 0x6E0, 0},
+    {"\xFF\xD8", 5, 0x46A, 0},
+    {"BM", 7, 0x7A8, 14},
+}};
+
+const Clase* ClaseDe(const std::string& bytes) {
+    const auto clase = std::find_if(Clases.begin(), Clases.end(), [&](const Clase& c) {
+        return bytes.size() > c.Cabecera && bytes.starts_with(c.Firma);
+    });
+    return clase == Clases.end() ? nullptr : &*clase;
+}
+
+Octetos Marco(Tipo tipo, std::size_t version, std::size_t instancia, std::size_t largo) {
+    return Octetos().U16(version | instancia << 4).U16(tipo).U32(largo);
+}
+
+std::string Elemento(Tipo tipo, std::size_t version, std::size_t instancia, std::string_view datos) {
+    return Marco(tipo, version, instancia, datos.size()).Crudo(datos).Bytes();
+}
+
+/// 16 bytes that tell one picture from another: a fingerprint (FNV-1a, run twice) of its bytes.
+std::string Huella(std::string_view bytes) {
+    Octetos huella;
+    for (std::uint64_t valor : {0xCBF29CE484222325ULL, 0x84222325CBF29CE4ULL}) {
+        for (const char byte : bytes) valor = (valor ^ static_cast<unsigned char>(byte)) * 0x100000001B3ULL;
+        huella.U32(valor & 0xFFFFFFFF).U32(valor >> 32);
+    }
+    return huella.Bytes();
+}
+
+std::string Almacenada(const ImagenXls& imagen) {
+    const Clase& clase = *ClaseDe(imagen.Bytes);
+    const std::string_view datos = std::string_view(imagen.Bytes).substr(clase.Cabecera);
+    const std::string huella = Huella(datos);
+    const std::string blip = Elemento(static_cast<Tipo>(0xF018 + clase.Numero), 0, clase.Instancia,
+                                      Octetos().Crudo(huella).U8(0xFF).Crudo(datos).Bytes());
+    return Elemento(Bse, 2, clase.Numero,
+                    Octetos()
+                        .U8(clase.Numero)
+                        .U8(clase.Numero)
+                        .Crudo(huella)
+                        .U16(0xFF)
+                        .U32(blip.size())
+                        .U32(1)
+                        .U32(0)
+                        .U32(0)
+                        .Crudo(blip)
+                        .Bytes());
+}
+
+std::string Propiedades(const std::vector<std::pair<std::size_t, std::size_t>>& propiedades) {
+    Octetos datos;
+    for (const auto& [clave, valor] : propiedades) datos.U16(clave).U32(valor);
+    return Elemento(Opt, 3, propiedades.size(), datos.Bytes());
+}
+
+std::string Forma(std::size_t tipo, std::size_t numero, std::size_t marcas) {
+    return Elemento(Sp, 2, tipo, Octetos().U32(numero).U32(marcas).Bytes());
+}
+
+std::string FormaRaiz(std::size_t numero) {
+    return Elemento(SpContainer, Contenedor, 0,
+                    Elemento(Spgr, 1, 0, std::string(16, '\0')) + Forma(0, numero, 5));
+}
+
+std::string FormaDeImagen(std::size_t numero, std::size_t imagen, const AnclaXls& a) {
+    constexpr std::size_t MarcoDeImagen = 75, ConAnclaYTipo = 0x0A00;
+    const std::string ancla = Octetos()
+                                  .U16(2)  // moves with the cells, keeps its size
+                                  .U16(a.ColumnaIzquierda)
+                                  .U16(a.DentroIzquierda)
+                                  .U16(a.FilaSuperior)
+                                  .U16(a.DentroSuperior)
+                                  .U16(a.ColumnaDerecha)
+                                  .U16(a.DentroDerecha)
+                                  .U16(a.FilaInferior)
+                                  .U16(a.DentroInferior)
+                                  .Bytes();
+    return Elemento(SpContainer, Contenedor, 0,
+                    Forma(MarcoDeImagen, numero, ConAnclaYTipo) +
+                        Propiedades({{0x4104, imagen}, {0x01BF, 0x00100000}, {0x01FF, 0x00080000}}) +
+                        Elemento(ClientAnchor, 0, 0, ancla) + Elemento(ClientData, 0, 0, ""));
+}
+
+Octetos ObjetoImagen(std::size_t numero) {
+    return Octetos()
+        .U16(0x15)  // common data: a picture
+        .U16(18)
+        .U16(8)
+        .U16(numero)
+        .U16(0x6011)
+        .U32(0)
+        .U32(0)
+        .U32(0)
+        .U16(7)  // picture format: as it is
+        .U16(2)
+        .U16(0xFFFF)
+        .U16(8)  // picture flags
+        .U16(2)
+        .U16(1)
+        .U32(0);  // end
+}
+
+}  // namespace
+
+bool ImagenesBiff::Conocida(const std::string& bytes) {
+    return ClaseDe(bytes) != nullptr;
+}
+
+std::size_t ImagenesBiff::Agregar(const std::vector<const ImagenXls*>& deHoja) {
+    dibujos_.push_back({grupos_ + 1, imagenes_.size() + 1, deHoja.size()});
+    grupos_ += (deHoja.size() + FormasPorGrupo) / FormasPorGrupo;  // the root shape takes a number too
+    imagenes_.insert(imagenes_.end(), deHoja.begin(), deHoja.end());
+    return dibujos_.size() - 1;
+}
+
+void ImagenesBiff::EscribirGrupo(std::string& flujo) const {
+    if (imagenes_.empty()) return;
+    Octetos general;
+    general.U32((grupos_ + 1) * FormasPorGrupo)
+        .U32(grupos_ + 1)
+        .U32(imagenes_.size() + dibujos_.size())
+        .U32(dibujos_.size());
+    for (std::size_t d = 0; d < dibujos_.size(); ++d) {
+        std::size_t formas = dibujos_[d].Imagenes + 1;
+        for (; formas > FormasPorGrupo; formas -= FormasPorGrupo) general.U32(d + 1).U32(FormasPorGrupo);
+        general.U32(d + 1).U32(formas);
+    }
+    std::string almacen;
+    for (const ImagenXls* imagen : imagenes_) almacen += Almacenada(*imagen);
+    const std::string partes =
+        Elemento(Dgg, 0, 0, general.Bytes()) +
+        Elemento(BStoreContainer, Contenedor, imagenes_.size(), almacen) +
+        Propiedades({{0x00BF, 0x00080008}, {0x0181, 0x08000041}, {0x01C0, 0x08000040}}) +
+        Elemento(SplitMenuColors, 0, 4,
+                 Octetos().U32(0x0800000D).U32(0x0800000C).U32(0x08000017).U32(0x100000F7).Bytes());
+    AgregarRegistro(flujo, MSODRAWINGGROUP, Octetos().Crudo(Elemento(DggContainer, Contenedor, 0, partes)));
+}
+
+void ImagenesBiff::EscribirHoja(std::string& flujo, std::size_t hoja,
+                                const std::vector<AnclaXls>& anclas) const {
+    const Dibujo& dibujo = dibujos_[hoja];
+    if (dibujo.Imagenes == 0) return;
+    const std::size_t primera = dibujo.PrimerGrupo * FormasPorGrupo;
+    std::vector<std::string> formas;
+    std::size_t largo = 0;
+    for (std::size_t i = 0; i < dibujo.Imagenes; ++i) {
+        formas.push_back(FormaDeImagen(primera + 1 + i, dibujo.PrimerImagen + i, anclas[i]));
+        largo += formas.back().size();
+    }
+    const std::string raiz = FormaRaiz(primera);
+    const std::string general =
+        Elemento(Dg, 0, hoja + 1, Octetos().U32(dibujo.Imagenes + 1).U32(primera + dibujo.Imagenes).Bytes());
+    // The containers' lengths reach over the records that follow, one for each picture.
+    const Octetos grupo = Marco(SpgrContainer, Contenedor, 0, raiz.size() + largo).Crudo(raiz);
+    const Octetos cabeza = Marco(DgContainer, Contenedor, 0, general.size() + grupo.Bytes().size() + largo)
+                               .Crudo(general)
+                               .Crudo(grupo.Bytes());
+    for (std::size_t i = 0; i < formas.size(); ++i) {
+        AgregarRegistro(flujo, MSODRAWING, Octetos().Crudo(i == 0 ? cabeza.Bytes() : "").Crudo(formas[i]));
+        AgregarRegistro(flujo, OBJ, ObjetoImagen(i + 1));
+    }
+}
+
+}  // namespace trabex::biff

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "reports/xls/LibroXls.h"
+
+namespace trabex::biff {
+
+/// Where a picture lies: the cells of its corners, and how far into them, in 1/1024 of a width and 1/256 of a
+/// height.
+struct AnclaXls {
+    std::size_t ColumnaIzquierda, DentroIzquierda;
+    std::size_t FilaSuperior, DentroSuperior;
+    std::size_t ColumnaDerecha, DentroDerecha;
+    std::size_t FilaInferior, DentroInferior;
+};
+
+/// The pictures of a book: their bytes stand once for all sheets, each sheet shows its own by number.
+class ImagenesBiff {
+  public:
+    /// Takes in a sheet's pictures, in order, before anything is written. False for one of an unknown kind.
+    static bool Conocida(const std::string& bytes);
+    std::size_t Agregar(const std::vector<const ImagenXls*>& deHoja);
+
+    /// The book's part.
+    void EscribirGrupo(std::string& flujo) const;
+    /// The part of the sheet that `Agregar` numbered.
+    void EscribirHoja(std::string& flujo, std::size_t hoja, const std::vector<AnclaXls>& anclas) const;
+
+  private:
+    struct Dibujo {
+        std::size_t PrimerGrupo;   ///< its block of 1024 shape numbers
+        std::size_t PrimerImagen;  ///< place of its first picture in the book, from 1
+        std::size_t Imagenes;
+    };
+    std::vector<const ImagenXls*> imagenes_;
+    std::vector<Dibujo> dibujos_;
+    std::size_t grupos_ = 0;
+};
+
+}  // namespace trabex::biff

@@ -1,0 +1,76 @@
+#include "slab/salida/GraficosLosas.h"
+
+#include <array>
+
+#include "base/Texto.h"
+#include "reports/montaje/AlbumGraficos.h"
+
+namespace trabex {
+
+namespace {
+
+constexpr std::array<DibujoDeLosa, 4> Dibujos{{
+    {VistaGeometria, false, ": GEOMETRÍA DE LA LOSA"},
+    {VistaFuerzas, false, ": CORTES Y MOMENTOS"},
+    {VistaDiseno, false, ": ANÁLISIS Y DISEÑO"},
+    {VistaDiseno, true, ": REACCIONES SOBRE VIGAS"},
+}};
+
+/// What a value of `OpcionGrafico` asks for: a run of the drawings, of the selected slab or of all.
+struct Opcion {
+    bool Todas;
+    std::size_t Primero;
+    std::size_t Cuantos;
+};
+constexpr std::array<Opcion, 6> Opciones{
+    {{false, 0, 3}, {true, 0, 3}, {true, 0, 1}, {true, 1, 1}, {true, 2, 1}, {true, 3, 1}}};
+
+void AgregarDibujos(AlbumGraficos& album, const LosaDelProyecto& losa, HojaLosa& hoja,
+                    std::span<const DibujoDeLosa> dibujos) {
+    const std::string& nombre = losa.Datos.Nombre;
+    for (const DibujoDeLosa& dibujo : dibujos) {
+        hoja.VistaActual = dibujo.Vista;
+        hoja.SoloReacciones = dibujo.SoloReacciones;
+        album.Agregar(nombre, nombre + dibujo.Titulo, "Exportando la Losa: " + Mayusculas(nombre),
+                      [&](Lienzo& lienzo) {
+                          RedibujeVista(lienzo, hoja, {losa.Datos, losa.Generales, losa.Resultados});
+                      });
+    }
+}
+
+}  // namespace
+
+PedidoDeGraficos PedidoDe(std::uint8_t OpcionGrafico) {
+    if (OpcionGrafico >= Opciones.size()) return {};
+    const Opcion& opcion = Opciones[OpcionGrafico];
+    return {opcion.Todas, std::span(Dibujos).subspan(opcion.Primero, opcion.Cuantos)};
+}
+
+bool GuardeGraficos(const EntornoReportes& entorno, const ProyectoParaReporte& origen, const HojaLosa& hoja,
+                    SuperficieOculta& superficie, PanelProgreso& panel, EstadoReportes& estado) {
+    const BanderaEnAlto generando(estado.GenerandoReporte);
+    const BanderaEnAlto exportando(estado.ExportandoGrafico);
+    Conexion temporal;
+    AbrirTemporal(entorno, origen.Datos, {TituloReporteLosas}, temporal);
+    const int losas = origen.Proyecto.RegistrosProyecto.NumeroRegistros();
+    const auto [todas, dibujos] = PedidoDe(estado.OpcionGrafico);
+    if (!temporal.Abierta() || losas == 0 || dibujos.empty()) return temporal.Abierta();
+
+    HojaLosa propia;
+    propia.OpcionCarga = hoja.OpcionCarga;
+    propia.Numeros = hoja.Numeros;
+    propia.Vista.ExportandoGrafico = true;
+    const PanelALaVista visible(panel);
+    Transaccion guardado(temporal);
+    {
+        AlbumGraficos album(temporal, entorno, superficie, panel,
+                            dibujos.size() * (todas ? static_cast<std::size_t>(losas) : 1));
+        const auto dibujar = [&, &suyos = dibujos](const LosaDelProyecto& losa) {
+            AgregarDibujos(album, losa, propia, suyos);
+        };
+        RecorrerLosas(origen, todas, dibujar);
+    }
+    return guardado.Confirmar();
+}
+
+}  // namespace trabex

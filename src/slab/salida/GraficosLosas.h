@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+#include "drawing/losa/GraficoLosa.h"
+#include "reports/montaje/PanelProgreso.h"
+#include "reports/montaje/SuperficieOculta.h"
+#include "slab/salida/ReporteLosas.h"
+
+namespace trabex {
+
+/// A drawing of a slab in a report.
+struct DibujoDeLosa {
+    VistaLosa Vista;
+    bool SoloReacciones;
+    const char* Titulo;  ///< follows the slab's name
+};
+
+/// The drawings that a value of `OpcionGrafico` asks for:
+///   0  the selected slab: geometry, forces, design
+///   1  every slab: geometry, forces, design
+///   2  every slab: geometry      3  every slab: forces      4  every slab: design
+///   5  every slab: reactions on the beams
+/// Another value asks for none.
+struct PedidoDeGraficos {
+    bool Todas = false;
+    std::span<const DibujoDeLosa> Dibujos;
+};
+PedidoDeGraficos PedidoDe(std::uint8_t OpcionGrafico);
+
+/// Stages the drawings of slabs that `OpcionGrafico` asks for, in the scratch tables `Generales` and
+/// `Grafico`. Each slab is read and calculated anew. Drawings are whole, whatever the screen's zoom; of
+/// `hoja`, the workspace's, they take the loads shown and the separators of numbers. `GenerandoReporte` and
+/// `ExportandoGrafico` are up meanwhile, and the panel shows. False when they could not be stored; the report
+/// is then empty.
+bool GuardeGraficos(const EntornoReportes& entorno, const ProyectoParaReporte& origen, const HojaLosa& hoja,
+                    SuperficieOculta& superficie, PanelProgreso& panel, EstadoReportes& estado);
+
+}  // namespace trabex

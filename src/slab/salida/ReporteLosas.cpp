@@ -1,0 +1,198 @@
+#include "slab/salida/ReporteLosas.h"
+
+#include <array>
+
+#include "slab/DisenoSeccion.h"
+#include "slab/EsfuerzosTramo.h"
+#include "store/Insercion.h"
+
+namespace trabex {
+
+namespace {
+
+/// A record of an array that counts from 1; what a calculation that ended early left out is zero.
+template <class Registro>
+Registro En(const std::vector<Registro>& arreglo, std::size_t i) {
+    return i < arreglo.size() ? arreglo[i] : Registro{};
+}
+
+/// Reactions of a joint: vertical and horizontal.
+struct Reacciones {
+    double V = 0;
+    double H = 0;
+};
+
+Reacciones ReaccionesDe(const EstadoJunta& junta) {
+    return {junta.RV, junta.RH};
+}
+
+Reacciones Suma(const Reacciones& a, const Reacciones& b) {
+    return {a.V + b.V, a.H + b.H};
+}
+
+/// The scratch tables of slabs, each emptied and open for its rows.
+struct TablasDeLosas {
+    explicit TablasDeLosas(Conexion& conexion)
+        : Datos(conexion, "LosaDatos"), Ejes(conexion, "LosaEjes"), Tramos(conexion, "LosaTramos") {
+        for (const char* tabla : {"LosaDatos", "LosaEjes", "LosaTramos"})
+            conexion.Ejecutar("DELETE * FROM " + std::string(tabla));
+    }
+    Insercion Datos;
+    Insercion Ejes;
+    Insercion Tramos;
+};
+
+void EscribirGenerales(Conexion& conexion, const DatosGenerales& generales) {
+    conexion.Ejecutar("DELETE * FROM LosaG");
+    Recordset registros;
+    AbrirRecordset(conexion, registros, "LosaG");
+    AgregarGenerales(registros, generales);
+}
+
+void EscribirDatos(Insercion& tabla, const Losa& losa) {
+    tabla.Poner("Nombre", losa.Nombre);
+    tabla.Poner("OpcionMaciza", losa.OpcionMaciza);
+    tabla.Poner("Bo", losa.Bo);
+    tabla.Poner("Ho", losa.Ho);
+    tabla.Poner("So", losa.So);
+    tabla.Poner("Bm", losa.Bm);
+    tabla.Poner("Hm", losa.Hm);
+    tabla.Agregar();
+}
+
+/// A row's number; one past the column's 16 bits is left null there.
+Valor Numero(std::size_t i) {
+    return static_cast<double>(i);
+}
+
+void EscribirEje(Insercion& tabla, const Losa& losa, const ResultadosLosa& r, std::size_t i) {
+    const EstadoJunta permanente = En(r.ResultadoJunta[CasoPermanente], i);
+    const EstadoJunta variable = En(r.ResultadoJunta[CasoVariable], i);
+    const DisenoDeEje diseno = En(r.DisenoEje, i);
+    const EjeLosa eje = En(losa.Ejes, i);
+    tabla.Poner("Nombre", losa.Nombre);
+    tabla.Poner("Numero", Numero(i));
+    tabla.Poner("Eje", eje.Eje);
+    tabla.Poner("Tipo", eje.Tipo);
+    tabla.Poner("x", permanente.x);
+    tabla.Poner("y", permanente.y);
+    tabla.Poner("DX", permanente.DX + variable.DX);
+    tabla.Poner("DY", permanente.DY + variable.DY);
+    tabla.Poner("Giro", permanente.Giro + variable.Giro);
+    tabla.Poner("AS1", diseno.AS1);
+    tabla.Poner("AS2", diseno.AS2);
+    tabla.Poner("MczI", MacizadoVisible(diseno.MczI));
+    tabla.Poner("MczD", MacizadoVisible(diseno.MczD));
+    tabla.Poner("PtoI", diseno.PtoI);
+    tabla.Poner("PtoD", diseno.PtoD);
+    tabla.Poner("RV", permanente.RV + variable.RV);
+    tabla.Poner("RH", permanente.RH + variable.RH);
+    tabla.Agregar();
+}
+
+/// Columns of the reactions at one end of a span: in all, and by load case.
+struct ColumnasDeReaccion {
+    std::array<const char*, 2> Total;
+    std::array<const char*, 2> Permanente;
+    std::array<const char*, 2> Variable;
+};
+constexpr ColumnasDeReaccion ReaccionesA{{"VA", "FA"}, {"VACP", "FACP"}, {"VACV", "FACV"}};
+constexpr ColumnasDeReaccion ReaccionesB{{"VB", "FB"}, {"VBCP", "FBCP"}, {"VBCV", "FBCV"}};
+
+/// Reactions of an axis as the beams take them: a ribbed slab's, of one rib, become those of a metre of
+/// width.
+void EscribirReacciones(Insercion& tabla, const ColumnasDeReaccion& columnas, const Losa& losa,
+                        const ResultadosLosa& r, std::size_t eje) {
+    const double ancho = losa.OpcionMaciza ? 1 : losa.So;
+    const auto poner = [&](const std::array<const char*, 2>& nombres, const Reacciones& reacciones) {
+        tabla.Poner(nombres[0], reacciones.V / ancho);
+        tabla.Poner(nombres[1], reacciones.H / ancho);
+    };
+    const Reacciones permanente = ReaccionesDe(En(r.ResultadoJunta[CasoPermanente], eje));
+    const Reacciones variable = ReaccionesDe(En(r.ResultadoJunta[CasoVariable], eje));
+    poner(columnas.Total, Suma(permanente, variable));
+    poner(columnas.Permanente, permanente);
+    poner(columnas.Variable, variable);
+}
+
+void EscribirEsfuerzos(Insercion& tabla, const DatosGenerales& g, const ResultadosLosa& r, std::size_t i) {
+    const EsfuerzosTramo permanente = En(r.ResultadoTramo[CasoPermanente], i);
+    const EsfuerzosTramo variable = En(r.ResultadoTramo[CasoVariable], i);
+    tabla.Poner("MuA", Mayorar(g, permanente.MomentoA, variable.MomentoA));
+    tabla.Poner("MuB", Mayorar(g, permanente.MomentoB, variable.MomentoB));
+    tabla.Poner("VuA", Mayorar(g, permanente.CorteA, variable.CorteA));
+    tabla.Poner("VuB", Mayorar(g, permanente.CorteB, variable.CorteB));
+}
+
+void EscribirDiseno(Insercion& tabla, const ResultadosLosa& r, std::size_t i) {
+    const DisenoDeTramo tramo = En(r.DisenoTramo, i);
+    const DisenoDeEje a = En(r.DisenoEje, i);
+    const DisenoDeEje b = En(r.DisenoEje, i + 1);
+    tabla.Poner("MT", tramo.MT);
+    tabla.Poner("x", tramo.x);
+    tabla.Poner("AS1", tramo.AS1);
+    tabla.Poner("AS2", tramo.AS2);
+    tabla.Poner("AS1A", a.AS1);
+    tabla.Poner("AS2A", a.AS2);
+    tabla.Poner("AS1B", b.AS1);
+    tabla.Poner("AS2B", b.AS2);
+    tabla.Poner("PtoA", a.PtoD);
+    tabla.Poner("PtoB", b.PtoI);
+    tabla.Poner("MczA", MacizadoVisible(a.MczD));
+    tabla.Poner("Mczb", MacizadoVisible(b.MczI));
+}
+
+void EscribirTramo(Insercion& tabla, const Losa& losa, const DatosGenerales& generales,
+                   const ResultadosLosa& r, std::size_t i) {
+    const EjeLosa ejeA = En(losa.Ejes, i);
+    const EjeLosa ejeB = En(losa.Ejes, i + 1);
+    tabla.Poner("Nombre", losa.Nombre);
+    tabla.Poner("Numero", Numero(i));
+    tabla.Poner("EjeA", ejeA.Eje);
+    tabla.Poner("EjeB", ejeB.Eje);
+    tabla.Poner("TipoA", ejeA.Tipo);
+    tabla.Poner("TipoB", ejeB.Tipo);
+    EscribirEsfuerzos(tabla, generales, r, i);
+    EscribirReacciones(tabla, ReaccionesA, losa, r, i);
+    EscribirReacciones(tabla, ReaccionesB, losa, r, i + 1);
+    EscribirDiseno(tabla, r, i);
+    tabla.Poner("L", losa.Tramos[i].LT);
+    tabla.Agregar();
+}
+
+void EscribirLosa(TablasDeLosas& tablas, const Losa& losa, const DatosGenerales& generales,
+                  const ResultadosLosa& resultados) {
+    EscribirDatos(tablas.Datos, losa);
+    const std::size_t tramos = losa.Tramos.size() - 1;
+    if (tramos == 0) return;
+    for (std::size_t i = 1; i <= tramos + 1; ++i) EscribirEje(tablas.Ejes, losa, resultados, i);
+    for (std::size_t i = 1; i <= tramos; ++i) EscribirTramo(tablas.Tramos, losa, generales, resultados, i);
+}
+
+}  // namespace
+
+bool LLeneResultados(const EntornoReportes& entorno, const ProyectoParaReporte& origen,
+                     EstadoReportes& estado) {
+    const BanderaEnAlto generando(estado.GenerandoReporte);
+    Recordset& lista = origen.Proyecto.RegistrosProyecto;
+    const bool todas = estado.OpcionExportarLosas == 1;
+    std::string nombre;
+    {
+        const PosicionGuardada posicion(lista);
+        lista.MoverA(origen.FilaSeleccionada);
+        nombre = lista.Texto("Nombre");
+    }
+    Conexion temporal;
+    AbrirTemporal(entorno, origen.Datos, {TituloReporteLosas, nombre, estado.ExportarDesplazamientos},
+                  temporal);
+    if (!temporal.Abierta()) return false;
+    Transaccion guardado(temporal);
+    EscribirGenerales(temporal, origen.Generales);
+    TablasDeLosas tablas(temporal);
+    RecorrerLosas(origen, todas, [&](const LosaDelProyecto& losa) {
+        EscribirLosa(tablas, losa.Datos, losa.Generales, losa.Resultados);
+    });
+    return guardado.Confirmar();
+}
+
+}  // namespace trabex

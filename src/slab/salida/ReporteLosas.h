@@ -1,0 +1,18 @@
+#pragma once
+
+#include "reports/montaje/BaseTemporal.h"
+#include "reports/montaje/EstadoReportes.h"
+#include "slab/salida/RecorrerLosas.h"
+
+namespace trabex {
+
+/// Title of the slabs' reports.
+inline constexpr const char* TituloReporteLosas = "ANALISIS Y DISEÑO DE LOSAS";
+
+/// Fills the scratch database with the results of the selected slab or of all (`OpcionExportarLosas`):
+/// `Generales`, `LosaG`, `LosaDatos`, `LosaEjes`, `LosaTramos`. `GenerandoReporte` is up meanwhile. False
+/// when they could not be stored; the report is then empty.
+bool LLeneResultados(const EntornoReportes& entorno, const ProyectoParaReporte& origen,
+                     EstadoReportes& estado);
+
+}  // namespace trabex

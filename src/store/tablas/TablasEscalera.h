@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string_view>
+
+#include "base/DatosGenerales.h"
+#include "base/Proyecto.h"
+#include "helical/DatosEscaleraH.h"
+#include "stairs/DatosEscaleraT.h"
+#include "store/tablas/TablasProyecto.h"
+
+namespace trabex {
+
+/// The two kinds of stair. Each has its list, its data and its design parameters, in tables of its own.
+enum class ClaseEscalera { Autoportante, Helicoidal };
+
+/// The texts that open each list of stairs on RegistrosProyecto.
+inline constexpr std::string_view ConsultaListaEscalerasT = "SELECT * FROM EscaleraTDatos ORDER BY Nombre";
+inline constexpr std::string_view ConsultaListaEscalerasH = "SELECT * FROM EscaleraHDatos  ORDER BY Nombre";
+
+/// Reads `Proyecto` and `EscaleraTG` or `EscaleraHG` into the working values, seeding each table when empty:
+/// 250, 4200, 0.025, 0.9, 0.75, 1.55. The factors of slabs stay as they were. When the tables can't be
+/// reached the values become the seeds.
+void LeaDatosGenerales(Conexion& conexion, ClaseEscalera clase, std::string_view usuario,
+                       DatosDelProyecto& datos, DatosGenerales& generales);
+
+/// Writes the one row of `EscaleraTG` or `EscaleraHG` over the stored one, as one save. False when it could
+/// not be stored; the stored row then stands.
+bool GuardarGenerales(Conexion& conexion, ClaseEscalera clase, const DatosGenerales& generales);
+
+/// Loads the stair on which the list stands. False when it has no row of data: its values are then zeros (and
+/// an interval of 5 degrees).
+bool LeaDatosEscalera(ProyectoAbierto& proyecto, DatosEscaleraT& escalera);
+bool LeaDatosEscalera(ProyectoAbierto& proyecto, DatosEscaleraH& escalera);
+
+/// Writes a stair's row of data, by its name, over the stored one, as one save. False when it could not be
+/// stored; the stored row then stands.
+bool GuardarEscalera(Conexion& conexion, const DatosEscaleraT& escalera);
+bool GuardarEscalera(Conexion& conexion, const DatosEscaleraH& escalera);
+
+}  // namespace trabex

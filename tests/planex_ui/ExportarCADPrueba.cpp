@@ -1,0 +1,244 @@
+// What the drawing program gets, and what happens to its files when something goes wrong.
+
+#include <set>
+
+#include "reports/planex/ui/CuadroCAD.h"
+#include "reports/planex/ui/ExportarCAD.h"
+#include "slab/CalcularLosa.h"
+#include "support/ExportacionDePrueba.h"
+
+namespace trabex {
+namespace {
+
+struct VistaGuiada : VistaExportarCAD {
+    bool Marcada(int fila) const override { return Marcas.contains(fila); }
+    ArchivoCAD Opcion() const override { return Archivo; }
+    void PunteroDeEspera(bool espera) override { Espera = espera; }
+    void Cerrar() override { Cerrada = true; }
+    std::set<int> Marcas;
+    ArchivoCAD Archivo = ArchivoCAD::CrearNuevo;
+    bool Espera = false, Cerrada = false;
+};
+
+class ExportarCAD_ : public prueba::Exportacion {
+  protected:
+    /// Runs the export of the rows to a file and answers yes to its question.
+    void Exportar(std::set<int> filas, ArchivoCAD opcion, const std::filesystem::path& archivo,
+                  std::uint8_t version = Planex2023) {
+        vista = {};
+        vista.Marcas = std::move(filas);
+        vista.Archivo = opcion;
+        dialogos.Elegidos = {archivo};
+        caja.Mensajes.clear();
+        caja.Respuestas = {RespuestaSi};
+        ExportarCAD(aplicacion, version, vista, caja, dialogos, plataforma).ExportarCAD80();
+        EXPECT_FALSE(vista.Espera);
+    }
+
+    Recordset Filas(const std::filesystem::path& archivo, const std::string& consulta) {
+        AbrirConexion(conexion, archivo);
+        Recordset filas;
+        AbrirRecordset(conexion, filas, consulta);
+        return filas;
+    }
+    int Cuantas(const std::filesystem::path& archivo, const std::string& tabla, const std::string& nombre) {
+        return Filas(archivo, "SELECT * FROM " + tabla + " WHERE Nombre=" + EntreComillas(nombre))
+            .NumeroRegistros();
+    }
+    const Mensaje& Ultimo() const { return caja.Mensajes.back(); }
+
+    VistaGuiada vista;
+    Conexion conexion;
+};
+
+TEST_F(ExportarCAD_, PreguntaEnSuOrdenYNuncaReemplaza) {
+    vista.Marcas = {};
+    ExportarCAD operaciones(aplicacion, Planex8, vista, caja, dialogos, plataforma);
+    operaciones.ExportarCAD80();
+    EXPECT_EQ(Ultimo().Texto, "No ha Seleccionado Losas para Exportar a Planex Estructural...");
+    EXPECT_EQ(Ultimo().Encabezado, "Planex Estructural 2023");
+    EXPECT_TRUE(dialogos.Peticiones.empty());
+
+    const auto viejo = carpeta / "viejo.cad";
+    const auto nuevo = carpeta / "nuevo.cad";
+    prueba::EscribirArchivo(viejo, "ajeno");
+    vista.Marcas = {1};
+    caja.Respuestas = {RespuestaSi, RespuestaAceptarONo};
+    dialogos.Elegidos = {viejo, nuevo};
+    operaciones.ExportarCAD80();
+    ASSERT_EQ(caja.Mensajes.size(), 3U);
+    EXPECT_EQ(caja.Mensajes[1].Texto, "viejo.cad Ya Existe...\n¿Desea Usted Reemplazarlo?");
+    EXPECT_EQ(caja.Mensajes[1].Encabezado, "Planex Estructural...");
+    EXPECT_EQ(caja.Mensajes[2].Texto,
+              "nuevo.cad\n¿Anexar las Losas Seleccionadas a Planex Estructural 2023?");
+    EXPECT_EQ(prueba::LeerArchivo(viejo), "ajeno");
+    EXPECT_EQ(Filas(nuevo, "LosaDatos").NumeroRegistros(), 0);  // the template was copied before the question
+    EXPECT_FALSE(vista.Cerrada);
+    EXPECT_EQ(dialogos.Peticiones[0].Titulo, "Crear Nuevo Proyecto en Planex Estructural 8.0");
+    EXPECT_EQ(dialogos.Peticiones[0].Nombre, "obra.cad");
+    EXPECT_EQ(dialogos.Peticiones[0].Carpeta, carpeta / "C" / "Nodara Software" / "Planex8" / "Proyectos");
+
+    Exportar({1}, ArchivoCAD::AnexarAExistente, nuevo);
+    EXPECT_EQ(dialogos.Peticiones.back().Titulo, "Abrir un Proyecto en Planex Estructural 2023");
+    EXPECT_TRUE(dialogos.Peticiones.back().DebeExistir);
+    EXPECT_EQ(Filas(nuevo, "Proyecto").NumeroRegistros(), 0);
+    EXPECT_EQ(Cuantas(nuevo, "LosaDatos", "A MACIZA"), 1);
+
+    ExportarCAD(aplicacion, Planex2023, vista, caja, dialogos, plataforma).AbrirCarpeta();
+    EXPECT_EQ(plataforma.Abiertos.back(), dialogos.Peticiones[0].Carpeta);
+    std::filesystem::remove(carpeta / "programa" / "Imagen" / "ImagenCAD8.tbx");
+    Exportar({1}, ArchivoCAD::CrearNuevo, carpeta / "sin plantilla.cad", Planex8);
+    EXPECT_EQ(Ultimo().Texto, "Error Número: 53\nNo se encontró el archivo");
+}
+
+TEST_F(ExportarCAD_, LasFilasDeCadaLosa) {
+    const auto archivo = carpeta / "obra.cad";
+    aplicacion.Datos.Comentario = "dos 'comillas'";
+    Exportar({1, 2, 3}, ArchivoCAD::CrearNuevo, archivo);
+    EXPECT_EQ(Ultimo().Texto, "¡Se Exportaron ( 3 ) Losa(s) con Exito a Planex Estructural!");
+    EXPECT_TRUE(vista.Cerrada);
+    EXPECT_EQ(aplicacion.Proyecto.RegistrosProyecto.Posicion(), 1);
+    EXPECT_EQ(Filas(archivo, "Proyecto").Texto("Comentario"), "dos 'comillas'");
+
+    struct Nervio {
+        const char* losa;
+        int tramo;
+        bool transversal;
+    };
+    for (const Nervio& n : {Nervio{"A MACIZA", 1, false}, Nervio{"B NERVADA", 1, false},
+                            Nervio{"B NERVADA", 2, true}, Nervio{"B NERVADA", 3, false}}) {
+        const Recordset fila = Filas(archivo, std::string("SELECT * FROM LosaNervios WHERE Nombre='") +
+                                                  n.losa + "' AND Tramo=" + std::to_string(n.tramo));
+        ASSERT_EQ(fila.NumeroRegistros(), 1);
+        EXPECT_EQ(fila.Booleano("Opcion"), n.transversal);
+        EXPECT_EQ(std::get<std::string>(fila.Leer("Diametro")), n.transversal ? "1/2" : "");
+        EXPECT_EQ(fila.Doble("Ancho"), n.transversal ? 0.15 : 0);
+    }
+
+    struct Eje {
+        const char* losa;
+        int numero;
+        bool apoyo;
+        double izquierdo, derecho;
+    };
+    for (const Eje& e : {Eje{"A MACIZA", 1, true, 0, 0}, Eje{"A MACIZA", 3, true, 0, 0},
+                         Eje{"B NERVADA", 1, true, 0, 0.15}, Eje{"B NERVADA", 2, true, 0.15, 0.15},
+                         Eje{"B NERVADA", 4, false, 0.1, 0}, Eje{"C SIN TRAMOS", 1, true, 0, 0.15}}) {
+        const Recordset fila = Filas(archivo, std::string("SELECT * FROM LosaEjes WHERE Nombre='") + e.losa +
+                                                  "' AND Numero=" + std::to_string(e.numero));
+        ASSERT_EQ(fila.NumeroRegistros(), 1) << e.losa;
+        EXPECT_EQ(fila.Booleano("Apoyo"), e.apoyo);
+        EXPECT_EQ(fila.Doble("HViga"), e.apoyo ? 0.5 : 0);
+        EXPECT_EQ(fila.Doble("Lizq"), e.apoyo ? 0.15 : 0);
+        EXPECT_EQ(fila.Doble("Lder"), e.apoyo ? 0.15 : 0);
+        EXPECT_EQ(fila.Doble("MczIzq"), e.izquierdo) << e.losa << e.numero;
+        EXPECT_EQ(fila.Doble("MczDer"), e.derecho) << e.losa << e.numero;
+    }
+    const std::array<std::pair<const char*, int>, 4> delVacio{
+        {{"LosaTramos", 0}, {"LosaNervios", 0}, {"LosaEjes", 1}, {"LosaRefTeorico", 1}}};
+    for (const auto& [tabla, filas] : delVacio) EXPECT_EQ(Cuantas(archivo, tabla, "C SIN TRAMOS"), filas);
+    EXPECT_EQ(Filas(archivo, "SELECT * FROM LosaDatos WHERE Nombre='C SIN TRAMOS'").Entero16("NT"), 0);
+    EXPECT_EQ(Filas(archivo, "SELECT * FROM LosaRefTeorico WHERE Nombre='C SIN TRAMOS'").Doble("AsEje"), 0);
+}
+
+TEST_F(ExportarCAD_, VolverAExportarReemplazaSoloLaSuya) {
+    const auto archivo = carpeta / "obra.cad";
+    Exportar({1, 2}, ArchivoCAD::CrearNuevo, archivo);
+    {
+        Conexion planex;
+        AbrirConexion(planex, archivo);
+        for (const char* tabla : {"LosaReparticion", "LosaRefuerzoEjeSuperior", "LosaDefecto"}) {
+            for (const char* nombre : {"a maciza", "B NERVADA"})
+                planex.Ejecutar(std::string("INSERT INTO ") + tabla + " VALUES ('" + nombre + "')");
+        }
+    }
+    aplicacion.Generales.FCP = 2;
+    Exportar({1}, ArchivoCAD::AnexarAExistente, archivo);
+    for (const char* tabla : {"LosaDatos", "LosaReparticion", "LosaRefuerzoEjeSuperior"})
+        EXPECT_EQ(Cuantas(archivo, tabla, "B NERVADA"), 1);
+    EXPECT_EQ(Cuantas(archivo, "LosaReparticion", "A MACIZA"), 0);
+    EXPECT_EQ(Cuantas(archivo, "LosaRefuerzoEjeSuperior", "A MACIZA"), 0);
+    EXPECT_EQ(Filas(archivo, "LosaDefecto").NumeroRegistros(), 0);
+    EXPECT_EQ(Filas(archivo, "Proyecto").NumeroRegistros(), 1);
+
+    // The steel is of a fresh calculation: the factor has changed since the first export.
+    const Losa losa = ExportarCAD(aplicacion, Planex2023, vista, caja, dialogos, plataforma).LosaDe(1);
+    ResultadosLosa resultados;
+    CalcularLosa(losa, aplicacion.Generales, resultados);
+    Recordset acero = Filas(archivo, "SELECT * FROM LosaRefTeorico WHERE Nombre='A MACIZA' ORDER BY Eje");
+    ASSERT_EQ(acero.NumeroRegistros(), 3);
+    for (std::size_t i = 1; i <= 3; ++i) {
+        acero.MoverA(static_cast<int>(i));
+        EXPECT_EQ(acero.Doble("AsEje"), resultados.DisenoEje[i].AS1);
+        if (i == 3)
+            EXPECT_TRUE(std::holds_alternative<std::monostate>(acero.Leer("AsTramo")));
+        else
+            EXPECT_EQ(acero.Doble("AsTramo"), resultados.DisenoTramo[i].AS2);
+    }
+    EXPECT_GT(resultados.DisenoEje[2].AS1, 0);
+}
+
+TEST_F(ExportarCAD_, UnFalloAMediasDejaLasFilasAnteriores) {
+    const auto archivo = carpeta / "obra.cad";
+    CrearBaseDatos(archivo, prueba::EsquemaCAD() +
+                                "CREATE TRIGGER Falla BEFORE INSERT ON LosaRefTeorico"
+                                " WHEN NEW.Nombre = 'B NERVADA' AND NEW.Eje = 3 AND"
+                                " (SELECT count(*) FROM LosaIguales) > 0"
+                                " BEGIN SELECT RAISE(ABORT, 'disco'); END;");
+    Exportar({1, 2}, ArchivoCAD::AnexarAExistente, archivo);
+    {
+        Conexion planex;
+        AbrirConexion(planex, archivo);
+        planex.Ejecutar("INSERT INTO LosaIguales VALUES ('OTRA')");
+        planex.Ejecutar("UPDATE LosaDatos SET EscLosa=75");
+    }
+    Exportar({1, 2, 3}, ArchivoCAD::AnexarAExistente, archivo);
+    EXPECT_EQ(Ultimo().Encabezado, "Error Inesperado...");
+    EXPECT_TRUE(Ultimo().Texto.starts_with("Error Número: 75\n"));
+    EXPECT_FALSE(vista.Cerrada);
+    EXPECT_EQ(Filas(archivo, "SELECT * FROM LosaDatos WHERE Nombre='A MACIZA'").Entero16("EscLosa"), 50);
+    EXPECT_EQ(Filas(archivo, "SELECT * FROM LosaDatos WHERE Nombre='B NERVADA'").Entero16("EscLosa"), 75);
+    EXPECT_EQ(Cuantas(archivo, "LosaRefTeorico", "B NERVADA"), 4);
+    EXPECT_EQ(Cuantas(archivo, "LosaDatos", "C SIN TRAMOS"), 0);
+}
+
+TEST_F(ExportarCAD_, LoQueNoEsDePlanexQuedaComoEstaba) {
+    const auto ajeno = carpeta / "carta.cad";
+    prueba::EscribirArchivo(ajeno, "no es una base de datos");
+    Exportar({1, 2}, ArchivoCAD::AnexarAExistente, ajeno);
+    EXPECT_EQ(caja.Mensajes.size(), 2U);
+    EXPECT_EQ(Ultimo().Texto, "¡Se Exportaron ( 2 ) Losa(s) con Exito a Planex Estructural!");
+    EXPECT_EQ(prueba::LeerArchivo(ajeno), "no es una base de datos");
+
+    // The project itself has tables of the same names: they must not lose their rows.
+    const std::string antes = prueba::LeerArchivo(aplicacion.ArchivoProyecto);
+    Exportar({1, 2}, ArchivoCAD::AnexarAExistente, aplicacion.ArchivoProyecto);
+    EXPECT_EQ(Ultimo().Encabezado, "Error Inesperado...");
+    EXPECT_EQ(prueba::LeerArchivo(aplicacion.ArchivoProyecto), antes);
+}
+
+TEST_F(ExportarCAD_, UnaComillaEnElNombreRompeSoloLoSuyo) {
+    Losa losa = prueba::LosaContinua({4}, 300);
+    losa.Nombre = "B O'HIGGINS";
+    ProyectoAbierto& proyecto = aplicacion.Proyecto;
+    ASSERT_TRUE(prueba::AgregarLosa(proyecto, losa));
+    AbrirRecordset(proyecto.ConexionProyecto, proyecto.RegistrosProyecto, ConsultaListaLosas);
+    const auto archivo = carpeta / "obra.cad";
+    for (const ArchivoCAD opcion : {ArchivoCAD::CrearNuevo, ArchivoCAD::AnexarAExistente}) {
+        Exportar({1, 2, 3, 4}, opcion, archivo);
+        EXPECT_EQ(Ultimo().Texto, "¡Se Exportaron ( 4 ) Losa(s) con Exito a Planex Estructural!");
+    }
+    // Its own rows could be neither read nor deleted; its neighbours stand once.
+    Recordset filas = Filas(archivo, "SELECT * FROM LosaDatos ORDER BY Nombre");
+    ASSERT_EQ(filas.NumeroRegistros(), 5);
+    const std::vector<std::pair<std::string, int>> esperadas{
+        {"A MACIZA", 2}, {"B NERVADA", 3}, {"B O'HIGGINS", 0}, {"B O'HIGGINS", 0}, {"C SIN TRAMOS", 0}};
+    for (const auto& [nombre, tramos] : esperadas) {
+        EXPECT_EQ(filas.Texto("Nombre"), nombre);
+        EXPECT_EQ(filas.Entero16("NT"), tramos);
+        filas.MoverAlSiguiente();
+    }
+}
+
+}  // namespace
+}  // namespace trabex

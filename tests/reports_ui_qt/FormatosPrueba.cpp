@@ -1,0 +1,298 @@
+// Every number of the scratch database reaches every format, as programs of others read it.
+
+#include <QImage>
+#include <QRegularExpression>
+#include <csignal>
+
+#include <sys/resource.h>
+
+#include "ReportePreparado.h"
+#include "reports/salidas/ImagenPng.h"
+#include "store/Recordset.h"
+
+namespace trabex {
+namespace {
+
+using prueba::Correr;
+using prueba::Ruta;
+
+/// The rows that a reviewing engineer looks for: columns of a table, each with how it shows.
+struct FilaEsperada {
+    const char* Tabla;
+    std::vector<std::pair<const char*, const char*>> Columnas;
+};
+const std::vector<FilaEsperada> Esperadas{{"LosaTramos",
+                                           {{"Numero", "0"},
+                                            {"EjeA", ""},
+                                            {"EjeB", ""},
+                                            {"L", "0.00"},
+                                            {"MuA", "#,##0.00"},
+                                            {"MuB", "#,##0.00"},
+                                            {"VuA", "#,##0.00"},
+                                            {"VuB", "#,##0.00"},
+                                            {"MT", "#,##0.00"},
+                                            {"x", "0.00"},
+                                            {"AS1", "0.00"},
+                                            {"AS2", "0.00"}}},
+                                          {"LosaTramos",
+                                           {{"EjeA", ""},
+                                            {"VACP", "#,##0.00"},
+                                            {"VACV", "#,##0.00"},
+                                            {"VA", "#,##0.00"},
+                                            {"FACP", "#,##0.00"},
+                                            {"FACV", "#,##0.00"},
+                                            {"FA", "#,##0.00"}}},
+                                          {"LosaEjes",
+                                           {{"AS1", "0.00"},
+                                            {"AS2", "0.00"},
+                                            {"MczI", "0.00"},
+                                            {"MczD", "0.00"},
+                                            {"PtoI", "0.00"},
+                                            {"PtoD", "0.00"}}},
+                                          {"LosaEjes",
+                                           {{"Eje", ""},
+                                            {"x", "0.00"},
+                                            {"y", "0.00"},
+                                            {"DX", "0.000000"},
+                                            {"DY", "0.000000"},
+                                            {"Giro", "0.000000"}}}};
+
+class Formatos : public prueba::ReportePreparado {
+  protected:
+    /// The rows of the scratch database as texts.
+    QStringList FilasDeLaBase() {
+        QStringList filas;
+        Conexion conexion;
+        AbrirConexion(conexion, base);
+        for (const FilaEsperada& esperada : Esperadas) {
+            Recordset registros;
+            AbrirRecordset(conexion, registros, esperada.Tabla);
+            for (int i = 1; i <= registros.NumeroRegistros(); ++i) {
+                registros.MoverA(i);
+                QStringList celdas;
+                for (const auto& [columna, formato] : esperada.Columnas)
+                    celdas += QString::fromStdString(TextoDeValor(registros.Leer(columna), formato, {}));
+                filas += celdas.join(' ');
+            }
+        }
+        return filas;
+    }
+    static QString Corrido(QString texto) { return texto.replace(QRegularExpression("\\s+"), " "); }
+
+    QString TextoPdf(Reporte& reporte) {
+        return Correr("pdftotext", {"-layout", Ruta(Exportar(reporte, FormatoPdf, "ñandú 1.pdf")), "-"});
+    }
+    QString TextoHtml(Reporte& reporte) {
+        const auto archivo = Exportar(reporte, FormatoHtml, "r.htm");
+        EXPECT_EQ(Correr("tidy", {"-q", "-e", "-utf8", Ruta(archivo)}), "");
+        QString texto = QString::fromStdString(prueba::LeerArchivo(archivo));
+        texto.remove(QRegularExpression("<style.*</style>", QRegularExpression::DotMatchesEverythingOption));
+        texto.replace(QRegularExpression("<[^>]*>"), " ");
+        return texto.replace("&lt;", "<").replace("&gt;", ">").replace("&quot;", "\"").replace("&amp;", "&");
+    }
+    QString TextoRtf(Reporte& reporte) {
+        return Correr("unrtf", {"--text", Ruta(Exportar(reporte, FormatoRtf, "r.rtf"))});
+    }
+};
+
+TEST_F(Formatos, CadaNumeroLlegaACadaFormato) {
+    std::mt19937 azar(11);
+    std::vector<Losa> losas{prueba::LosaContinua({6.5}, 400, 250), prueba::LosaUniforme(40, 4.85, 290, 90),
+                            prueba::LosaAlAzar(azar, true), prueba::LosaAlAzar(azar, true)};
+    for (std::size_t i = 0; i < losas.size(); ++i) losas[i].Nombre = "ENTREPISO " + std::to_string(i);
+    losas[0].OpcionMaciza = true;
+    losas[1].OpcionMaciza = false;
+    Preparar(losas);
+    Reporte reporte = Abrir("ResultadosLosa.rpt");
+    const QStringList filas = FilasDeLaBase();
+    ASSERT_GT(filas.size(), 160);
+    for (const QString& texto : {TextoPdf(reporte), TextoHtml(reporte), TextoRtf(reporte)}) {
+        const QString corrido = Corrido(texto);
+        for (const QString& fila : filas)
+            ASSERT_TRUE(corrido.contains(' ' + fila + ' ')) << fila.toStdString();
+        for (const char* dato : {"4200 kgf", "0,025 m", "29/02/2024", "1,20", "0,75"})
+            EXPECT_TRUE(corrido.contains(dato)) << dato;
+    }
+}
+
+TEST_F(Formatos, LaCabeceraSeRepiteYLasPaginasSeCuentan) {
+    Losa larga = prueba::LosaUniforme(40, 4.85, 290, 90);
+    larga.Nombre =
+        "Losa larguísima del entrepiso nº 2, ala norte, entre los ejes A’ y Ñ, junto al patio de luces";
+    Preparar({larga});
+    Reporte reporte = Abrir("ResultadosLosa.rpt");
+    QStringList paginas = TextoPdf(reporte).split('\f', Qt::SkipEmptyParts);
+    ASSERT_GT(paginas.size(), 3);
+    const QRegularExpression fila("^ *\\d+ +\\d+ +\\d+ +4,85 ", QRegularExpression::MultilineOption);
+    int conFilas = 0;
+    for (int i = 0; i < paginas.size(); ++i) {
+        EXPECT_TRUE(paginas[i].contains(QString("Página %1 de %2").arg(i + 1).arg(paginas.size())));
+        if (!paginas[i].contains(fila)) continue;
+        ++conFilas;
+        EXPECT_TRUE(paginas[i].contains("Máximo del tramo")) << i;
+    }
+    EXPECT_GE(conFilas, 2);
+    EXPECT_TRUE(Corrido(paginas.join(' ')).contains(QString::fromStdString(larga.Nombre)));
+}
+
+TEST_F(Formatos, ElPdfLlevaSusLetrasYSuTitulo) {
+    Preparar({prueba::LosaUniforme(3, 5, 300, 100)});
+    for (const auto& [pagina, medida] :
+         {std::pair("A4 apaisada", "842 x 595"), std::pair("A4", "595 x 842"),
+          std::pair("Carta apaisada", "792 x 612"), std::pair("Carta", "612 x 792")}) {
+        Reporte reporte = Abrir("titulo \"{Generales.Titulo}\"\nautor \"{Generales.Calculista}\"\npagina " +
+                                std::string(pagina) + "\nparrafo \"Ñandú ½ · cm²\"\n");
+        const QString archivo = Ruta(Exportar(reporte, FormatoPdf, "a.pdf"));
+        const QString datos = Correr("pdfinfo", {archivo});
+        EXPECT_TRUE(datos.contains(QRegularExpression("Title: +ANALISIS Y DISEÑO DE LOSAS")))
+            << datos.toStdString();
+        EXPECT_TRUE(datos.contains(medida)) << datos.toStdString();
+        EXPECT_TRUE(Correr("pdfinfo", {"-meta", archivo}).contains("Ing. José Ñáñez"));
+        const QStringList letras = Correr("pdffonts", {archivo}).split('\n', Qt::SkipEmptyParts).mid(2);
+        ASSERT_FALSE(letras.isEmpty());
+        for (const QString& letra : letras)
+            EXPECT_TRUE(letra.contains(QRegularExpression("yes +(yes|no) +yes"))) << letra.toStdString();
+        EXPECT_TRUE(Correr("pdftotext", {archivo, "-"}).contains("Ñandú ½ · cm²"));
+    }
+}
+
+/// A bitmap of 5 by 3 pixels, its rows from the bottom: 24 bits, or 8 with a palette.
+Bytes Mapa(bool conPaleta) {
+    const std::size_t paleta = conPaleta ? 4 * 256 : 0;
+    const std::size_t renglon = conPaleta ? 8 : 16;
+    Bytes mapa(54 + paleta + 3 * renglon);
+    const auto poner = [&](std::size_t lugar, std::uint32_t valor, int bytes) {
+        for (int i = 0; i < bytes; ++i) mapa[lugar++] = static_cast<std::byte>(valor >> (8 * i));
+    };
+    poner(0, 0x4D42, 2);
+    poner(10, static_cast<std::uint32_t>(54 + paleta), 4);
+    poner(14, 40, 4);
+    poner(18, 5, 4);
+    poner(22, 3, 4);
+    poner(26, 1, 2);
+    poner(28, conPaleta ? 8 : 24, 2);
+    for (std::uint32_t i = 0; i < 256 && conPaleta; ++i) poner(54 + 4 * i, i << 16 | 0x40, 4);
+    for (std::size_t y = 0; y < 3; ++y) {
+        for (std::size_t x = 0; x < 5; ++x) {
+            const std::uint32_t rojo = static_cast<std::uint32_t>(50 * x + 10 * y);
+            const std::size_t lugar = 54 + paleta + (2 - y) * renglon;
+            poner(lugar + x * (conPaleta ? 1 : 3), conPaleta ? rojo : rojo << 16 | 0x40, conPaleta ? 1 : 3);
+        }
+    }
+    return mapa;
+}
+
+void ComprobarPixeles(const QImage& imagen) {
+    ASSERT_EQ(imagen.size(), QSize(5, 3));
+    for (int y = 0; y < 3; ++y) {
+        for (int x = 0; x < 5; ++x) EXPECT_EQ(imagen.pixelColor(x, y), QColor(50 * x + 10 * y, 0, 0x40));
+    }
+}
+
+TEST_F(Formatos, LosGraficosLleganPuntoPorPunto) {
+    Preparar({});
+    Conexion conexion;
+    AbrirConexion(conexion, base);
+    Recordset graficos;
+    AbrirRecordset(conexion, graficos, "Grafico");
+    const std::vector<Bytes> archivos{Mapa(false), Mapa(true), Bytes(100)};
+    for (std::size_t i = 0; i < archivos.size(); ++i) {
+        graficos.AgregarNuevo();
+        graficos.Poner("Numero", static_cast<std::int16_t>(i + 1));
+        graficos.Poner("Nombre", "L'1");
+        graficos.Poner("Losa", "L'1: GEOMETRÍA DE LA LOSA");
+        graficos.Poner("Grafico", archivos[i]);
+        ASSERT_TRUE(graficos.Actualizar());
+    }
+    Reporte reporte = Abrir("Grafico.rpt");
+    const QString html = QString::fromStdString(prueba::LeerArchivo(Exportar(reporte, FormatoHtml, "g.htm")));
+    auto imagenes = QRegularExpression("base64,([^\"]*)\"").globalMatch(html);
+    for (int i = 0; i < 2; ++i) {
+        ASSERT_TRUE(imagenes.hasNext());
+        ComprobarPixeles(QImage::fromData(QByteArray::fromBase64(imagenes.next().captured(1).toLatin1())));
+    }
+    EXPECT_TRUE(html.contains(ImagenIlegible));
+    const QString pdf = Ruta(Exportar(reporte, FormatoPdf, "g.pdf"));
+    Correr("pdfimages", {"-png", pdf, Ruta(carpeta / "imagen")});
+    ComprobarPixeles(QImage(Ruta(carpeta / "imagen-000.png")));
+    ComprobarPixeles(QImage(Ruta(carpeta / "imagen-001.png")));
+    EXPECT_EQ(Correr("pdftotext", {pdf, "-"}).count("L'1: GEOMETRÍA DE LA LOSA"), 3);
+    const QString rtf = QString::fromStdString(prueba::LeerArchivo(Exportar(reporte, FormatoRtf, "g.rtf")));
+    QString cifras = rtf.mid(rtf.indexOf("89504e47"));
+    ComprobarPixeles(QImage::fromData(QByteArray::fromHex(cifras.left(cifras.indexOf('}')).toLatin1())));
+}
+
+TEST(ImagenPng, UnMapaRecortadoOAlteradoNoSeLee) {
+    for (const bool conPaleta : {false, true}) {
+        const Bytes entero = Mapa(conPaleta);
+        for (std::size_t largo = 0; largo < entero.size(); ++largo)
+            EXPECT_FALSE(
+                LeerMapaDeBits(Bytes(entero.begin(), entero.begin() + static_cast<std::ptrdiff_t>(largo))));
+        for (std::size_t i = 0; i < 54; ++i) {
+            Bytes alterado = entero;
+            for (const int byte : {0, 1, 0x7F, 0xFF}) {
+                alterado[i] = static_cast<std::byte>(byte);
+                LeerMapaDeBits(alterado);
+            }
+        }
+    }
+}
+
+TEST_F(Formatos, LosTextosHostilesSalenComoEstan) {
+    Losa losa = prueba::LosaUniforme(2, 5, 300, 100);
+    losa.Nombre = "L'1 <b>&amp;\\par{}\" \tΩ≤ {{pagina}}";
+    losa.Ejes[1].Eje = "b{\\";
+    losa.Ejes[2].Eje = "<i>";
+    Preparar({losa});
+    Reporte reporte = Abrir("ResultadosLosa.rpt");
+    for (const QString& texto : {TextoPdf(reporte), TextoHtml(reporte)}) {
+        const QString corrido = Corrido(texto);
+        EXPECT_TRUE(corrido.contains("L'1 <b>&amp;\\par{}\" Ω≤ {{pagina}}")) << corrido.toStdString();
+        EXPECT_TRUE(corrido.contains(" 1 b{\\ <i> 5,00 "));
+    }
+    EXPECT_TRUE(Corrido(TextoRtf(reporte)).contains(" 1 b{\\ <i> 5,00 "));
+}
+
+/// Files can grow to so many bytes and no more, as on a full disk.
+class DiscoLleno {
+  public:
+    explicit DiscoLleno(rlim_t bytes) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &antes_);
+        const rlimit limite{bytes, antes_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limite);
+    }
+    ~DiscoLleno() { setrlimit(RLIMIT_FSIZE, &antes_); }
+
+  private:
+    rlimit antes_{};
+};
+
+TEST_F(Formatos, SinDiscoOSinPermisoQuedaElReporteAnterior) {
+    Preparar({prueba::LosaUniforme(8, 5, 300, 100)});
+    Reporte reporte = Abrir("ResultadosLosa.rpt");
+    reporte.Contenido();
+    for (const int codigo : {FormatoPdf, FormatoHtml, FormatoRtf}) {
+        const std::filesystem::path destino = carpeta / "anterior";
+        prueba::EscribirArchivo(destino, "anterior");
+        int error = 0;
+        try {
+            const DiscoLleno lleno(6000);
+            Exportar(reporte, codigo, "anterior");
+        } catch (const ErrorEjecucion& e) {
+            error = e.Codigo();
+        }
+        EXPECT_EQ(error, 61) << codigo;
+        EXPECT_EQ(prueba::LeerArchivo(destino), "anterior");
+        std::filesystem::remove(destino);
+        std::filesystem::create_directories(destino / "ocupada");
+        EXPECT_THROW(Exportar(reporte, codigo, "anterior"), ErrorEjecucion);
+        EXPECT_TRUE(std::filesystem::exists(destino / "ocupada"));
+        EXPECT_FALSE(std::filesystem::exists(carpeta / "anterior.nuevo"));
+        std::filesystem::remove_all(destino);
+    }
+    EXPECT_THROW(Exportar(reporte, 99, "x"), ErrorEjecucion);
+}
+
+}  // namespace
+}  // namespace trabex

@@ -1,0 +1,187 @@
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QImage>
+#include <QPushButton>
+#include <QTest>
+#include <cmath>
+
+#include <gtest/gtest.h>
+
+#include "drawing/losa/GraficoLosa.h"
+#include "drawing/qt/ImagenDeHoja.h"
+#include "reports/montaje/qt/SuperficieQt.h"
+#include "reports/ui/qt/PanelProgresoQt.h"
+#include "reports/ui/qt/VentanaExportarGrafico.h"
+#include "reports/ui/qt/VentanaOpcionesReporte.h"
+#include "slab/CalcularLosa.h"
+#include "support/CarpetaTemporal.h"
+#include "support/LosasDePrueba.h"
+#include "support/ShellGuiado.h"
+
+namespace trabex {
+namespace {
+
+using namespace prueba;
+
+void Pulsar(QWidget& ventana, const QString& texto) {
+    for (auto* boton : ventana.findChildren<QAbstractButton*>()) {
+        if (boton->text() == texto) return boton->click();
+    }
+    ADD_FAILURE() << "no button " << texto.toStdString();
+}
+
+/// A slab with its results, and the sheet on which it is drawn.
+struct LosaDibujada {
+    LosaDibujada() {
+        Datos = LosaContinua({4, 5, 3}, 300, 200);
+        CalcularLosa(Datos, Generales, Resultados);
+    }
+    void Dibujar(Lienzo& lienzo, EstadoVista& visor) {
+        HojaLosa hoja;
+        hoja.Vista = visor;
+        hoja.VistaActual = VistaDiseno;
+        RedibujeVista(lienzo, hoja, {Datos, Generales, Resultados});
+        visor = hoja.Vista;
+    }
+    Losa Datos;
+    DatosGenerales Generales;
+    ResultadosLosa Resultados;
+};
+
+TEST(SuperficieQt, ElMapaDeBitsEsElDibujoEnLaFinuraDelPapel) {
+    LosaDibujada losa;
+    EstadoVista visor;
+    visor.ExportandoGrafico = true;
+    const auto dibujar = [&](Lienzo& lienzo) {
+        EXPECT_EQ(lienzo.ScaleWidth(), 940);
+        EXPECT_EQ(lienzo.ScaleHeight(), 580);
+        losa.Dibujar(lienzo, visor);
+    };
+    SuperficieQt superficie;
+    superficie.Dibujar(AnchoGraficoTwips, AltoGraficoTwips, dibujar);
+    const Bytes mapa = superficie.MapaDeBits();
+    QImage leida;
+    ASSERT_TRUE(leida.loadFromData(reinterpret_cast<const uchar*>(mapa.data()), static_cast<int>(mapa.size()),
+                                   "BMP"));
+    const QImage esperada = DibujarImagen(940, 580, SuperficieQt::FinuraDePapel, dibujar);
+    ASSERT_EQ(leida.size(), esperada.size());
+    EXPECT_LT(mapa.size(), 400000U);
+    // Colours past the 256 most frequent are near to one of them: no pixel is visibly another.
+    int mayor = 0;
+    for (int y = 0; y < leida.height(); ++y) {
+        for (int x = 0; x < leida.width(); ++x) {
+            const QRgb a = leida.pixel(x, y);
+            const QRgb b = esperada.pixel(x, y);
+            mayor = std::max({mayor, std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
+                              std::abs(qBlue(a) - qBlue(b))});
+        }
+    }
+    EXPECT_LT(mayor, 24);
+    const Bytes foto = superficie.Foto();
+    EXPECT_TRUE(
+        QImage::fromData(reinterpret_cast<const uchar*>(foto.data()), static_cast<int>(foto.size()), "JPG")
+            .size() == esperada.size());
+}
+
+TEST(OpcionesReporte, LoElegidoQuedaAlAceptarYSoloEntonces) {
+    EstadoReportes estado;
+    {
+        VentanaOpcionImpreLosas ventana(estado, {}, nullptr);
+        Pulsar(ventana, "Todas las Losas del Proyecto");
+        Pulsar(ventana, " Cancelar ");
+        EXPECT_FALSE(ventana.Aceptado());
+        EXPECT_EQ(estado.OpcionExportarLosas, 0);
+    }
+    VentanaOpcionImpreLosas ventana(estado, {}, nullptr);
+    Pulsar(ventana, "Todas las Losas del Proyecto");
+    ventana.findChild<QCheckBox*>()->setChecked(true);
+    Pulsar(ventana, " Aceptar ");
+    EXPECT_TRUE(ventana.Aceptado());
+    EXPECT_EQ(estado.OpcionExportarLosas, 1);
+    EXPECT_TRUE(estado.ExportarDesplazamientos);
+
+    VentanaOpcionGrafico losas(OpcionGraficoE, estado, {}, nullptr);
+    Pulsar(losas, "Reacciones sobre las Vigas");
+    Pulsar(losas, " Aceptar ");
+    EXPECT_EQ(estado.OpcionGrafico, 5);
+    VentanaOpcionGrafico escaleras(OpcionGraficoET, estado, {}, nullptr);
+    Pulsar(escaleras, "Solicitaciones de las Escaleras");
+    Pulsar(escaleras, "Vertical");
+    Pulsar(escaleras, "A4");
+    Pulsar(escaleras, " Aceptar ");
+    EXPECT_EQ(estado.OpcionGrafico, 3);
+    EXPECT_TRUE(estado.PapelA4 && !estado.Apaisado);
+}
+
+TEST(ExportarGrafico, SalvaLaImagenConSuZoomYRecuerdaLaCarpeta) {
+    const CarpetaTemporal carpeta;
+    std::filesystem::create_directories(carpeta / "otra");
+    Aplicacion aplicacion;
+    aplicacion.CaminoUsuario = carpeta.Camino();
+    EstadoReportes estado;
+    CajaGuiada caja;
+    DialogosGuiados dialogos;
+    PlataformaGuiada plataforma(carpeta.Camino());
+    dialogos.Elegidos = {carpeta / "otra" / "g.bmp", carpeta / "otra" / "g.jpg",
+                         carpeta / "no hay" / "g.bmp"};
+    LosaDibujada losa;
+    double zoom = 0;
+    {
+        VentanaExportarGrafico ventana(
+            {aplicacion, estado, caja, dialogos, plataforma},
+            [&](Lienzo& lienzo, EstadoVista& visor) {
+                EXPECT_TRUE(visor.ExportandoGrafico);
+                zoom = visor.Zoom;
+                losa.Dibujar(lienzo, visor);
+            },
+            nullptr);
+        ventana.show();
+        EXPECT_TRUE(estado.ExportandoGrafico);
+        ventana.findChild<QPushButton*>("Carpeta")->click();
+        Pulsar(ventana, " Zoom Más ");
+        Pulsar(ventana, " Zoom Más ");
+        Pulsar(ventana, " Exportar ");
+        EXPECT_DOUBLE_EQ(zoom, 1.2);
+        Pulsar(ventana, "Imagen en Formato (JPG)");
+        Pulsar(ventana, " Exportar ");
+        Pulsar(ventana, " Exportar ");
+        ventana.findChild<QPushButton*>("Carpeta")->click();
+    }
+    EXPECT_FALSE(estado.ExportandoGrafico);
+    ASSERT_EQ(dialogos.Peticiones.size(), 3U);
+    EXPECT_EQ(dialogos.Peticiones[0].Titulo, "Salvar el Gráfico Seleccionado");
+    EXPECT_EQ(dialogos.Peticiones[0].Filtro, "Image (*.bmp)|*.bmp");
+    EXPECT_EQ(dialogos.Peticiones[0].Carpeta, carpeta / "ReportesExportados");
+    EXPECT_EQ(dialogos.Peticiones[1].Filtro, "Image (*.jpg)|*.jpg");
+    EXPECT_EQ(dialogos.Peticiones[1].Carpeta, carpeta / "otra");
+    ASSERT_EQ(caja.Mensajes.size(), 3U);
+    EXPECT_EQ(caja.Mensajes[0].Texto, "¡El Reporte se Exportó con Exito!");
+    EXPECT_EQ(caja.Mensajes[0].Encabezado, "Exportar Gráficos...");
+    EXPECT_EQ(caja.Mensajes[2].Texto.substr(0, 17), "Error Número: 76");
+    EXPECT_EQ(plataforma.Abiertos,
+              (std::vector<std::filesystem::path>{carpeta / "ReportesExportados", carpeta / "otra"}));
+    const QImage bmp(QString::fromStdString((carpeta / "otra" / "g.bmp").string()), "BMP");
+    const QImage jpg(QString::fromStdString((carpeta / "otra" / "g.jpg").string()), "JPG");
+    ASSERT_FALSE(bmp.isNull());
+    EXPECT_EQ(bmp.size(), jpg.size());
+    EXPECT_EQ(bmp.pixel(1, 1), QColor(Qt::white).rgb());  // no grid
+}
+
+TEST(PanelProgreso, SeVeMientrasDuraYNadaLoCierra) {
+    QWidget ventana;
+    ventana.resize(800, 600);
+    ventana.show();
+    PanelProgresoQt panel(&ventana);
+    {
+        const PanelALaVista visible(panel);
+        panel.Avanzar(40, "Exportando la Losa: N+3.00");
+        QTest::keyClick(panel.Ventana(), Qt::Key_Escape);
+        panel.Ventana()->close();
+        EXPECT_TRUE(panel.Ventana()->isVisible());
+        EXPECT_TRUE(panel.Ventana()->isModal());
+    }
+    EXPECT_FALSE(panel.Ventana()->isVisible());
+}
+
+}  // namespace
+}  // namespace trabex

@@ -1,0 +1,289 @@
+// The output dialogs, the viewer and the printers, answered by a script and by real widgets.
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPrinter>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QTest>
+#include <QTimer>
+
+#include "ReportePreparado.h"
+#include "reports/salidas/qt/VistaPaginas.h"
+#include "reports/ui/qt/ImpresorasQt.h"
+#include "reports/ui/qt/VentanaSalidaReporte.h"
+#include "reports/ui/qt/VentanaSeleccionarImpresora.h"
+#include "reports/ui/qt/VentanaVerReportes.h"
+#include "slab/ui/qt/ImprimirGraficos.h"
+#include "support/CarpetaTemporal.h"
+#include "support/LosasDePrueba.h"
+#include "support/ProyectoDePrueba.h"
+#include "support/ShellGuiado.h"
+
+namespace trabex {
+namespace {
+
+struct ImpresorasGuiadas : Impresoras {
+    std::vector<std::string> Nombres{"HP LaserJet", "Epson Ñ"};
+    bool Acepta = true;
+    std::vector<std::string> Impresos;
+    bool Preguntado = false;
+    int Copias = 0;
+    std::vector<std::string> Disponibles() const override { return Nombres; }
+    std::string PorDefecto() const override { return "EPSON ñ"; }
+    bool Imprimir(const Documento&, const std::string& impresora, bool preguntar, int copias) override {
+        Preguntado = preguntar;
+        Copias = copias;
+        if (Acepta) Impresos.push_back(impresora);
+        return Acepta;
+    }
+};
+
+struct VistaGuiada : VistaSalidaReporte {
+    bool Esperando = false;
+    int Vistos = 0;
+    bool Cerrada = false;
+    void PunteroDeEspera(bool espera) override { Esperando = espera; }
+    void Ver(const Documento& documento) override { Vistos += documento.Secciones.empty() ? 0 : 1; }
+    void Cerrar() override { Cerrada = true; }
+};
+
+class SalidasDeReporte : public prueba::ReportePreparado {
+  protected:
+    SalidasDeReporte()
+        : plataforma(carpeta.Camino()), entorno{aplicacion, estado,   motor,     impresoras,
+                                                caja,       dialogos, plataforma} {
+        aplicacion.CaminoPrograma = carpeta / "programa";
+        aplicacion.CaminoUsuario = carpeta / "usuario";
+        std::filesystem::create_directories(aplicacion.CaminoUsuario / "Trabajo");
+        std::filesystem::create_directories(aplicacion.CaminoUsuario / "ReportesExportados");
+        std::filesystem::copy(std::filesystem::path(TRABEX_INSTALL) / "Reportes",
+                              aplicacion.CaminoPrograma / "Reportes");
+        base = aplicacion.CaminoUsuario / "Trabajo" / "Temporal.mdb";
+        Preparar({prueba::LosaUniforme(30, 5, 300, 100)});
+        estado.ReporteActual = 4;
+    }
+    prueba::PlataformaGuiada plataforma;
+    prueba::CajaGuiada caja;
+    prueba::DialogosGuiados dialogos;
+    ImpresorasGuiadas impresoras;
+    Aplicacion aplicacion;
+    EstadoSalida estado;
+    EntornoSalida entorno;
+    VistaGuiada vista;
+};
+
+TEST_F(SalidasDeReporte, CadaArchivoSePideSeEscribeYSeOfreceAbrir) {
+    const std::array<const char*, 4> titulos{"Exportar el Reporte a formato: Adobe Acrobat(PDF)",
+                                             "Exportar el Reporte a formato: HTLM 4.0", "",
+                                             "Exportar el Reporte a formato: Microsoft Word (RTF)"};
+    for (const std::uint8_t salida : std::array<std::uint8_t, 3>{1, 2, 4}) {
+        ImpreReport operaciones(entorno, vista);
+        const std::filesystem::path archivo = carpeta / ("salida " + std::to_string(salida));
+        prueba::EscribirArchivo(archivo, "anterior");
+        dialogos.Elegidos = {archivo};
+        caja.Respuestas = {salida == 2 ? RespuestaAceptarONo : RespuestaSi};
+        operaciones.Aceptar(salida);
+        const PeticionArchivo& peticion = dialogos.Peticiones.back();
+        EXPECT_EQ(peticion.Titulo, titulos[salida - 1U]);
+        EXPECT_EQ(peticion.Carpeta, aplicacion.CaminoUsuario / "ReportesExportados");
+        EXPECT_TRUE(peticion.Guardar && peticion.AvisarReemplazo);
+        EXPECT_EQ(estado.ArchivoExportado, archivo);
+        EXPECT_GT(std::filesystem::file_size(archivo), 2000U);
+        EXPECT_EQ(caja.Mensajes.back().Texto, "¿Desea Abrir el Archivo " + TextoDeCamino(archivo) + "?");
+        EXPECT_EQ(caja.Mensajes.back().Encabezado, "Abrir el Archivo Exportado...");
+        EXPECT_EQ(plataforma.Abiertos.size(), salida == 1 || salida == 2 ? 1U : 2U);
+        EXPECT_TRUE(vista.Cerrada && !vista.Esperando);
+        EXPECT_EQ(estado.FormatoSalida, salida);
+    }
+}
+
+TEST_F(SalidasDeReporte, CancelarUnErrorOUnReporteDesconocidoDejanLaVentana) {
+    ImpreReport operaciones(entorno, vista);
+    operaciones.Aceptar(1);  // the file dialog is cancelled
+    impresoras.Acepta = false;
+    operaciones.Aceptar(SalidaImpresora);
+    EXPECT_TRUE(impresoras.Preguntado);
+    EXPECT_EQ(impresoras.Copias, 1);
+    for (const std::int16_t actual : std::array<std::int16_t, 3>{0, 6, -1}) {
+        estado.ReporteActual = actual;
+        operaciones.Aceptar(SalidaPantalla);
+    }
+    EXPECT_TRUE(caja.Mensajes.empty());
+    estado.ReporteActual = 4;
+    prueba::EscribirArchivo(aplicacion.CaminoPrograma / "Reportes" / "ResultadosLosa.rpt", "nada\n");
+    operaciones.Aceptar(SalidaPantalla);
+    ASSERT_EQ(caja.Mensajes.size(), 1U);
+    EXPECT_EQ(caja.Mensajes[0].Encabezado, "Error en el Reporte...");
+    EXPECT_EQ(caja.Mensajes[0].Texto,
+              "Error Número: 321\nResultadosLosa.rpt, línea 1: no existe el elemento \"nada\"");
+    impresoras.Nombres.clear();
+    EXPECT_EQ(vista.Vistos, 0);
+    EXPECT_FALSE(vista.Cerrada || vista.Esperando);
+}
+
+TEST_F(SalidasDeReporte, LosGraficosVuelvenALaPantalla) {
+    ImpreGrafico graficos(entorno, vista);
+    ImpreReport tablas(entorno, vista);
+    tablas.Aceptar(SalidaImpresora);
+    EXPECT_EQ(estado.FormatoSalida, SalidaImpresora);
+    graficos.Aceptar(SalidaImpresora);
+    EXPECT_EQ(estado.FormatoSalida, SalidaPantalla);
+    EXPECT_EQ(impresoras.Impresos, (std::vector<std::string>{"", ""}));
+    estado.GraficoHelicoidal = true;
+    graficos.Aceptar(SalidaPantalla);
+    EXPECT_NE(caja.Mensajes.back().Texto.find("GraficoH.rpt"), std::string::npos);
+    impresoras.Nombres.clear();
+    tablas.Aceptar(SalidaImpresora);
+    EXPECT_EQ(caja.Mensajes.back().Texto, "No hay impresoras instaladas en el sistema.");
+}
+
+QAbstractButton* BotonDe(QWidget& ventana, const QString& texto) {
+    for (QAbstractButton* boton : ventana.findChildren<QAbstractButton*>()) {
+        if (boton->text().trimmed() == texto) return boton;
+    }
+    ADD_FAILURE() << texto.toStdString();
+    return nullptr;
+}
+
+TEST_F(SalidasDeReporte, ElDialogoMandaLaOpcionMarcada) {
+    VentanaSalidaReporte ventana(entorno, VentanaSalidaReporte::Clase::Tabular, nullptr);
+    ventana.show();
+    ventana.findChild<QAbstractButton*>("Carpeta")->click();
+    EXPECT_EQ(plataforma.Abiertos, std::vector{aplicacion.CaminoUsuario / "ReportesExportados"});
+    dialogos.Elegidos = {carpeta / "desde la ventana.htm"};
+    BotonDe(ventana, "HTML 4.0 (Para la Web)...")->click();
+    BotonDe(ventana, "Aceptar")->click();
+    EXPECT_FALSE(ventana.isVisible());
+    EXPECT_TRUE(std::filesystem::exists(carpeta / "desde la ventana.htm"));
+    VentanaSalidaReporte otra(entorno, VentanaSalidaReporte::Clase::Tabular, nullptr);
+    EXPECT_TRUE(qobject_cast<QRadioButton*>(BotonDe(otra, "HTML 4.0 (Para la Web)..."))->isChecked());
+    BotonDe(otra, "En la Pantalla...")->click();
+    QTimer::singleShot(0, [] {
+        ASSERT_NE(QApplication::activeModalWidget(), nullptr);
+        EXPECT_EQ(QApplication::activeModalWidget()->windowTitle(), "TBX-Visualizador de Reportes");
+        BotonDe(*QApplication::activeModalWidget(), "Retorno")->click();
+    });
+    otra.show();
+    BotonDe(otra, "Aceptar")->click();
+    EXPECT_FALSE(otra.isVisible());
+}
+
+TEST_F(SalidasDeReporte, ElVisorRecorreBuscaYAmplia) {
+    Reporte reporte = Abrir("ResultadosLosa.rpt");
+    VentanaVerReportes ventana(entorno, reporte.Contenido(), nullptr);
+    ventana.resize(900, 700);
+    ventana.show();
+    auto* vista_ = dynamic_cast<VistaPaginas*>(ventana.findChild<QAbstractScrollArea*>());
+    ASSERT_NE(vista_, nullptr);
+    EXPECT_EQ(vista_->Zoom(), 100);
+    auto* pagina = ventana.findChild<QSpinBox*>();
+    ASSERT_GE(vista_->NumeroPaginas(), 3);
+    QTest::keyClick(vista_, Qt::Key_End);
+    EXPECT_EQ(pagina->value(), vista_->NumeroPaginas());
+    pagina->setValue(2);
+    EXPECT_EQ(vista_->PaginaActual(), 1);
+    QTest::keyClick(vista_, Qt::Key_Home);
+    auto* busqueda = ventana.findChild<QLineEdit*>("Busqueda");
+    auto* hallazgos = ventana.findChild<QLabel*>("Hallazgos");
+    QTest::keyClicks(busqueda, "INFLEXION");
+    QTest::keyClick(busqueda, Qt::Key_Return);
+    EXPECT_TRUE(hallazgos->text().startsWith(" 1 de ")) << S(hallazgos->text());
+    EXPECT_GT(vista_->PaginaActual(), 0);
+    EXPECT_TRUE(ventana.isVisible());  // Enter searches, and closes nothing
+    busqueda->setText("no está en el reporte");
+    QTest::keyClick(busqueda, Qt::Key_Return);
+    EXPECT_EQ(hallazgos->text(), " No se encontró ");
+    vista_->PonerZoom(vista_->ZoomDeAncho());
+    EXPECT_GT(vista_->Zoom(), 100);
+    EXPECT_FALSE(ventana.grab().toImage().isNull());
+    dialogos.Elegidos = {carpeta / "desde el visor.rtf"};
+    for (QAction* accion : ventana.findChildren<QAction*>()) {
+        if (accion->text() == "Microsoft Word (RTF)...") accion->trigger();
+    }
+    EXPECT_TRUE(std::filesystem::exists(carpeta / "desde el visor.rtf"));
+}
+
+TEST_F(SalidasDeReporte, LoImpresoEsLoMismoQueElPdf) {
+    Reporte reporte = Abrir("ResultadosLosa.rpt");
+    QPrinter impresora(QPrinter::HighResolution);
+    impresora.setOutputFormat(QPrinter::PdfFormat);
+    impresora.setFullPage(true);
+    impresora.setPageSize(QPageSize(QPageSize::Letter));
+    const auto impreso = [&] {
+        impresora.setOutputFileName(prueba::Ruta(carpeta / "impreso.pdf"));
+        ImprimirPaginas(reporte.Contenido(), impresora);
+        return prueba::Correr("pdftotext", {"-layout", prueba::Ruta(carpeta / "impreso.pdf"), "-"})
+            .split('\f');
+    };
+    const QString pdf = prueba::Ruta(Exportar(reporte, FormatoPdf, "exportado.pdf"));
+    const QStringList esperado = prueba::Correr("pdftotext", {"-layout", pdf, "-"}).split('\f');
+    EXPECT_EQ(impreso(), esperado);
+    impresora.setFromTo(2, 2);
+    EXPECT_EQ(impreso(), (QStringList{esperado[1], ""}));
+}
+
+TEST(ImprimirGraficos, CadaDibujoVaEnSuPaginaConSusDatos) {
+    const prueba::CarpetaTemporal carpeta;
+    const auto archivo = carpeta / "obra.los";
+    ASSERT_TRUE(CrearBaseDatos(archivo, prueba::EsquemaDeProyecto()));
+    ProyectoAbierto proyecto;
+    ASSERT_TRUE(prueba::Abrir(proyecto, archivo));
+    for (const char* nombre : {"LOSA A", "LOSA B"}) {
+        Losa losa = prueba::LosaContinua({4, 5}, 300, 100);
+        losa.Nombre = nombre;
+        ASSERT_TRUE(prueba::AgregarLosa(proyecto, losa));
+    }
+    DatosDelProyecto datos;
+    datos.Proyecto = "LA CEIBA";
+    const DatosGenerales generales;
+    EstadoReportes estado;
+    HojaLosa pantalla;
+    const auto impreso = [&](std::uint8_t opcion) {
+        estado.OpcionGrafico = opcion;
+        QPrinter impresora(QPrinter::HighResolution);
+        impresora.setOutputFormat(QPrinter::PdfFormat);
+        impresora.setOutputFileName(prueba::Ruta(carpeta / "dibujos.pdf"));
+        ImprimirGraficosLosas(impresora, {proyecto, datos, generales, 2}, pantalla, "MARÍA", estado);
+        EXPECT_FALSE(estado.GenerandoReporte);
+        const QString texto =
+            prueba::Correr("pdftotext", {"-layout", prueba::Ruta(carpeta / "dibujos.pdf"), "-"});
+        EXPECT_TRUE(texto.contains("PROYECTO: LA CEIBA") && texto.contains("Usuario: MARÍA"));
+        return texto.split('\f', Qt::SkipEmptyParts);
+    };
+    const QStringList seleccionada = impreso(0);
+    ASSERT_EQ(seleccionada.size(), 3);
+    for (const QString& pagina : seleccionada) EXPECT_TRUE(pagina.contains("LOSA B"));
+    EXPECT_TRUE(seleccionada[2].contains("(ANALISIS Y DISEÑO)"));
+    EXPECT_EQ(impreso(1).size(), 6);
+    const QStringList reacciones = impreso(5);
+    ASSERT_EQ(reacciones.size(), 2);
+    EXPECT_TRUE(reacciones[0].contains("REACCIONES SOBRE LAS VIGAS") && !reacciones[0].contains("As Sup"));
+}
+
+TEST_F(SalidasDeReporte, LaImpresoraSeMarcaYCambiaHastaElFinal) {
+    VentanaSeleccionarImpresora ventana(entorno, nullptr);
+    ventana.show();
+    auto* lista = ventana.findChild<QListWidget*>();
+    EXPECT_EQ(lista->currentRow(), 1);
+    lista->setCurrentRow(0);
+    BotonDe(ventana, "Aceptar")->click();  // answered no
+    EXPECT_TRUE(ventana.isVisible() && estado.Impresora.empty());
+    EXPECT_EQ(caja.Mensajes.back().Texto, "Cambiar a esta Impresora?\nHP LaserJet");
+    caja.Respuestas = {RespuestaSi};
+    BotonDe(ventana, "Aceptar")->click();
+    EXPECT_FALSE(ventana.isVisible());
+    EXPECT_EQ(SeleccionarImpresora(entorno).MarcarImpresoraDefecto(), 0U);
+    ImpreReport(entorno, vista).Aceptar(SalidaImpresora);
+    EXPECT_EQ(impresoras.Impresos, std::vector<std::string>{"HP LaserJet"});
+    impresoras.Nombres.clear();
+    VentanaSeleccionarImpresora vacia(entorno, nullptr);
+    EXPECT_NE(vacia.findChild<QLabel*>("SinImpresoras"), nullptr);
+}
+
+}  // namespace
+}  // namespace trabex

@@ -1,0 +1,265 @@
+#include <random>
+
+#include <gmock/gmock.h>
+
+#include "base/ErrorEjecucion.h"
+#include "slab/CalcularLosa.h"
+#include "slab/salida/GraficosLosas.h"
+#include "slab/salida/ReporteLosas.h"
+#include "support/BaseSqlite.h"
+#include "support/CarpetaTemporal.h"
+#include "support/LosasDePrueba.h"
+#include "support/ProyectoDePrueba.h"
+
+namespace trabex {
+namespace {
+
+using namespace prueba;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+double N(const FilaSqlite& fila, const char* campo) {
+    return std::stod(fila.at(campo));
+}
+
+/// A project of ribbed and solid slabs, one of them without spans, its folders and the state of its reports.
+class ReporteLosas : public testing::Test {
+  protected:
+    ReporteLosas() {
+        std::filesystem::create_directories(Entorno.CaminoPrograma / "Imagen");
+        std::filesystem::create_directories(Entorno.CaminoUsuario);
+        CrearBaseDatos(Entorno.CaminoPrograma / "Imagen" / "Temporal.tbx",
+                       LeerArchivo(TRABEX_INSTALL "/Imagen/Temporal.sql"));
+        CrearBaseDatos(Carpeta / "obra.los", EsquemaDeProyecto());
+        Abrir(Proyecto, Carpeta / "obra.los");
+        std::mt19937 azar(7);
+        for (int i = 0; i < 12; ++i) {
+            Losas.push_back(LosaAlAzar(azar, i % 3 == 0));
+            Losas.back().Nombre = "N+3.00-" + std::string(1, static_cast<char>('A' + i));
+        }
+        Losas.push_back({.Nombre = "Sin tramos"});
+        Transaccion guardado(Proyecto.ConexionProyecto);
+        for (const Losa& losa : Losas) AgregarLosa(Proyecto, losa);
+        guardado.Confirmar();
+        Abrir(Proyecto, Carpeta / "obra.los");
+        LeerDatosGenerales(Proyecto.ConexionProyecto, "ING. NÚÑEZ", Datos, Generales);
+        Datos.Proyecto = "TORRE Ñ";
+    }
+
+    ProyectoParaReporte Origen(int fila = 1) { return {Proyecto, Datos, Generales, fila}; }
+    std::vector<FilaSqlite> Consultar(const std::string& sql) {
+        return ConsultarSqlite(TemporalMdb(Entorno), sql);
+    }
+    static ResultadosLosa Calcular(const Losa& losa) {
+        ResultadosLosa resultados;
+        CalcularLosa(losa, {}, resultados);
+        return resultados;
+    }
+
+    CarpetaTemporal Carpeta;
+    EntornoReportes Entorno{Carpeta / "programa", Carpeta / "usuario", "ING. NÚÑEZ"};
+    ProyectoAbierto Proyecto;
+    DatosDelProyecto Datos;
+    DatosGenerales Generales;
+    EstadoReportes Estado;
+    std::vector<Losa> Losas;
+};
+
+TEST_F(ReporteLosas, TodasLasLosasQuedanComoElMotorLasCalcula) {
+    Estado.OpcionExportarLosas = 1;
+    Estado.ExportarDesplazamientos = true;
+    Proyecto.RegistrosProyecto.MoverA(4);
+    ASSERT_TRUE(LLeneResultados(Entorno, Origen(4), Estado));
+    EXPECT_EQ(Proyecto.RegistrosProyecto.Posicion(), 4);
+    EXPECT_FALSE(Estado.GenerandoReporte);
+
+    const auto generales = Consultar("SELECT * FROM Generales");
+    ASSERT_EQ(generales.size(), 1U);
+    EXPECT_EQ(generales[0].at("Titulo"), "ANALISIS Y DISEÑO DE LOSAS");
+    EXPECT_EQ(generales[0].at("Version"), "2024");
+    EXPECT_EQ(generales[0].at("Usuario"), "ING. NÚÑEZ");
+    EXPECT_EQ(generales[0].at("Proyecto"), "TORRE Ñ");
+    EXPECT_EQ(generales[0].at("Nombre"), "N+3.00-D");
+    EXPECT_EQ(generales[0].at("Resumen"), "1");
+    EXPECT_EQ(Consultar("SELECT * FROM LosaG")[0].at("FC"), "250");
+    EXPECT_EQ(Consultar("SELECT * FROM LosaDatos").size(), Losas.size());
+    EXPECT_TRUE(Consultar("SELECT * FROM LosaEjes WHERE Nombre = 'Sin tramos'").empty());
+
+    bool hubo = false;
+    for (const Losa& losa : Losas) {
+        const ResultadosLosa r = Calcular(losa);
+        const auto tramos = Consultar("SELECT * FROM LosaTramos WHERE Nombre = '" + losa.Nombre + "'");
+        const auto ejes = Consultar("SELECT * FROM LosaEjes WHERE Nombre = '" + losa.Nombre + "'");
+        ASSERT_EQ(tramos.size() + 1, losa.Tramos.size()) << losa.Nombre;
+        const double ancho = losa.OpcionMaciza ? 1 : losa.So;
+        double reacciones = 0;
+        double cargas = 0;
+        for (std::size_t i = 1; i <= tramos.size(); ++i) {
+            const FilaSqlite& t = tramos[i - 1];
+            EXPECT_EQ(t.at("Numero"), std::to_string(i));
+            EXPECT_EQ(t.at("EjeB"), losa.Ejes[i + 1].Eje);
+            EXPECT_DOUBLE_EQ(N(t, "MuA"),
+                             1.2 * r.ResultadoTramo[1][i].MomentoA + 1.6 * r.ResultadoTramo[2][i].MomentoA);
+            EXPECT_DOUBLE_EQ(N(t, "VuB"),
+                             1.2 * r.ResultadoTramo[1][i].CorteB + 1.6 * r.ResultadoTramo[2][i].CorteB);
+            EXPECT_DOUBLE_EQ(N(t, "VBCV") * ancho, r.ResultadoJunta[2][i + 1].RV);
+            EXPECT_DOUBLE_EQ(N(t, "FACP") * ancho, r.ResultadoJunta[1][i].RH);
+            EXPECT_NEAR(N(t, "VA"), N(t, "VACP") + N(t, "VACV"), 1e-9);
+            EXPECT_DOUBLE_EQ(N(t, "VA") * ancho, N(ejes[i - 1], "RV"));
+            EXPECT_DOUBLE_EQ(N(t, "PtoB"), r.DisenoEje[i + 1].PtoI);
+            EXPECT_DOUBLE_EQ(N(t, "Mczb"), N(ejes[i], "MczI"));
+            EXPECT_DOUBLE_EQ(N(t, "L"), losa.Tramos[i].LT);
+            cargas += (losa.Tramos[i].Wp + losa.Tramos[i].WV) * N(t, "L") + losa.Tramos[i].p1;
+        }
+        for (std::size_t i = 1; i <= ejes.size(); ++i) {
+            const double macizado = r.DisenoEje[i].MczI;
+            hubo = hubo || (macizado > 0 && macizado <= 0.3);
+            EXPECT_EQ(N(ejes[i - 1], "MczI"), macizado > 0.3 ? macizado : 0);
+            EXPECT_DOUBLE_EQ(N(ejes[i - 1], "DY"), r.ResultadoJunta[1][i].DY + r.ResultadoJunta[2][i].DY);
+            reacciones += N(ejes[i - 1], "RV");
+        }
+        // What the beams take is what the slab carries, where no span was made longer by a shifted joint.
+        const bool recta = losa.JuntasD.size() == 1;
+        EXPECT_NEAR(reacciones, recta ? cargas : reacciones, 1e-3) << losa.Nombre;
+    }
+    EXPECT_TRUE(hubo) << "no solid zone short enough to be left out";
+}
+
+TEST_F(ReporteLosas, LaSeleccionadaReemplazaElReporteAnterior) {
+    Estado.OpcionExportarLosas = 1;
+    ASSERT_TRUE(LLeneResultados(Entorno, Origen(), Estado));
+    Estado.OpcionExportarLosas = 0;
+    Proyecto.RegistrosProyecto.MoverAlUltimo();
+    ASSERT_TRUE(LLeneResultados(Entorno, Origen(3), Estado));
+    const auto losas = Consultar("SELECT Nombre FROM LosaDatos");
+    ASSERT_EQ(losas.size(), 1U);
+    EXPECT_EQ(losas[0].at("Nombre"), Losas[2].Nombre);
+    EXPECT_EQ(Consultar("SELECT DISTINCT Nombre FROM LosaTramos").size(), 1U);
+}
+
+TEST_F(ReporteLosas, SinPlantillaElReporteQuedaVacioYNadaEnAlto) {
+    std::filesystem::remove(Entorno.CaminoPrograma / "Imagen" / "Temporal.tbx");
+    EXPECT_FALSE(LLeneResultados(Entorno, Origen(), Estado));
+    EXPECT_FALSE(Estado.GenerandoReporte);
+    EXPECT_FALSE(std::filesystem::exists(TemporalMdb(Entorno)));
+}
+
+TEST_F(ReporteLosas, UnResultadoQueNoEsNumeroQuedaNulo) {
+    Losa losa = LosaContinua({4, 5}, 300, 200);
+    losa.Nombre = "Cero";
+    losa.So = 0;
+    AgregarLosa(Proyecto, losa);
+    const int fila = Proyecto.RegistrosProyecto.Posicion();
+    ASSERT_TRUE(LLeneResultados(Entorno, Origen(fila), Estado));
+    const auto tramos = Consultar("SELECT VA, MuB FROM LosaTramos");
+    ASSERT_EQ(tramos.size(), 2U);
+    EXPECT_EQ(tramos[0].at("VA"), "NULL");
+    EXPECT_LT(N(tramos[0], "MuB"), 0);
+}
+
+/// A canvas that keeps the texts drawn on it.
+class LienzoDeTextos : public Lienzo {
+  public:
+    std::int32_t ScaleWidth() const override { return 940; }
+    std::int32_t ScaleHeight() const override { return 580; }
+    void Limpiar() override { Textos.clear(); }
+    void PonerFuente(const Fuente& /*fuente*/) override {}
+    void PonerColorTexto(Color /*color*/) override {}
+    Color ColorTextoDeBotones() const override { return {}; }
+    MedidaTexto Medir(std::string_view texto) override { return {static_cast<int>(6 * texto.size()), 12}; }
+    void Texto(std::string_view texto, PuntoLienzo /*lugar*/, std::int32_t /*giro*/) override {
+        Textos += std::string(texto) + "|";
+    }
+    void Linea(PuntoLienzo /*a*/, PuntoLienzo /*b*/, const Pluma& /*pluma*/) override {}
+    void Poligono(std::span<const PuntoLienzo> /*p*/, const std::optional<Pluma>& /*pluma*/,
+                  const std::optional<Color>& /*relleno*/) override {}
+    void Circulo(PuntoLienzo /*c*/, std::int32_t /*r*/, const std::optional<Pluma>& /*pluma*/,
+                 const std::optional<Color>& /*relleno*/) override {}
+    void Pixel(PuntoLienzo /*lugar*/, Color /*color*/) override {}
+
+    std::string Textos;
+};
+
+/// A surface whose picture is its texts; it fails where it is told to.
+class SuperficieDeTextos : public SuperficieOculta {
+  public:
+    void Dibujar(std::int32_t ancho, std::int32_t alto,
+                 const std::function<void(Lienzo&)>& dibujar) override {
+        EXPECT_EQ(ancho, 14100);
+        EXPECT_EQ(alto, 8700);
+        if (--FallaEn == 0) throw ErrorEjecucion(CodigoError::ErrorDispositivo);
+        dibujar(lienzo_);
+    }
+    Bytes MapaDeBits() const override { return ComoBytes(lienzo_.Textos); }
+    Bytes Foto() const override { return ComoBytes("foto de " + lienzo_.Textos); }
+    int FallaEn = 0;
+
+  private:
+    static Bytes ComoBytes(const std::string& texto) {
+        const auto* datos = reinterpret_cast<const std::byte*>(texto.data());
+        return {datos, datos + texto.size()};
+    }
+    LienzoDeTextos lienzo_;
+};
+
+class PanelAnotado : public PanelProgreso {
+  public:
+    void Mostrar() override { Visible = true; }
+    void Avanzar(double porcentaje, const std::string& rotulo) override {
+        Porcentaje = porcentaje;
+        Rotulo = rotulo;
+        EXPECT_TRUE(Visible);
+    }
+    void Ocultar() override { Visible = false; }
+    bool Visible = false;
+    double Porcentaje = 0;
+    std::string Rotulo;
+};
+
+TEST_F(ReporteLosas, LosGraficosSiguenLaOpcionConSusTitulos) {
+    SuperficieDeTextos superficie;
+    PanelAnotado panel;
+    HojaLosa hoja;
+    hoja.Vista.Zoom = 3;
+    const auto titulos = [&](std::uint8_t opcion, int fila) {
+        Estado.OpcionGrafico = opcion;
+        EXPECT_TRUE(GuardeGraficos(Entorno, Origen(fila), hoja, superficie, panel, Estado));
+        std::vector<std::string> lista;
+        for (const FilaSqlite& f : Consultar("SELECT Numero, Losa FROM Grafico ORDER BY rowid"))
+            lista.push_back(f.at("Numero") + " " + f.at("Losa"));
+        return lista;
+    };
+    EXPECT_THAT(titulos(0, 2), ElementsAre("1 N+3.00-B: GEOMETRÍA DE LA LOSA",
+                                           "2 N+3.00-B: CORTES Y MOMENTOS", "3 N+3.00-B: ANÁLISIS Y DISEÑO"));
+    EXPECT_EQ(panel.Rotulo, "Exportando la Losa: N+3.00-B");
+    EXPECT_EQ(Consultar("SELECT Resumen FROM Generales")[0].at("Resumen"), "NULL");
+    const auto todas = titulos(1, 2);
+    ASSERT_EQ(todas.size(), 3 * Losas.size());
+    EXPECT_EQ(todas[4], "5 N+3.00-B: CORTES Y MOMENTOS");
+    EXPECT_EQ(panel.Porcentaje, 100);
+    EXPECT_FALSE(panel.Visible);
+    EXPECT_FALSE(Estado.ExportandoGrafico);
+
+    const auto reacciones = titulos(5, 2);
+    ASSERT_EQ(reacciones.size(), Losas.size());
+    EXPECT_EQ(reacciones[0], "1 N+3.00-A: REACCIONES SOBRE VIGAS");
+    const std::string textos = Consultar("SELECT CAST(Grafico AS TEXT) AS T FROM Grafico")[0].at("T");
+    EXPECT_THAT(textos, HasSubstr("CP (kgf/metro):"));
+    EXPECT_THAT(textos, testing::Not(HasSubstr("As Sup")));
+    EXPECT_THAT(LeerArchivo(CarpetaTrabajo(Entorno) / "Foto"), testing::StartsWith("foto de "));
+}
+
+TEST_F(ReporteLosas, UnFalloALaMitadBajaLasBanderasYDevuelveLaLista) {
+    SuperficieDeTextos superficie;
+    superficie.FallaEn = 5;
+    PanelAnotado panel;
+    Estado.OpcionGrafico = 1;
+    Proyecto.RegistrosProyecto.MoverA(6);
+    EXPECT_THROW(GuardeGraficos(Entorno, Origen(6), {}, superficie, panel, Estado), ErrorEjecucion);
+    EXPECT_FALSE(Estado.GenerandoReporte || Estado.ExportandoGrafico || panel.Visible);
+    EXPECT_EQ(Proyecto.RegistrosProyecto.Posicion(), 6);
+    EXPECT_TRUE(Consultar("SELECT Numero FROM Grafico").empty());
+}
+
+}  // namespace
+}  // namespace trabex
