@@ -25,7 +25,7 @@ std::filesystem::path CarpetaDelPrograma() {
     return trabex::CaminoDeTexto(QCoreApplication::applicationDirPath().toStdString());
 }
 
-int EscribirTodo(const trabex::ProyectoCalculado& calculado, const std::filesystem::path& proyecto,
+int EscribirTodo(const trabex::lote::ProyectoCalculado& calculado, const std::filesystem::path& proyecto,
                  unsigned hilos, const std::filesystem::path& carpeta) {
     const std::filesystem::path archivo = carpeta / "resultados.json";
     const std::filesystem::path hojas = carpeta / "losas";
@@ -33,16 +33,16 @@ int EscribirTodo(const trabex::ProyectoCalculado& calculado, const std::filesyst
     try {
         std::error_code error;
         std::filesystem::create_directories(planex.parent_path(), error);
-        trabex::EscribirArchivo(archivo, trabex::DocumentoJson(calculado));
-        trabex::EscribirHojas(proyecto, hilos, hojas);
-        trabex::EscribirArchivoPlanex(CarpetaDelPrograma() / "Imagen" / "ImagenCAD23.tbx", planex, proyecto,
-                                      calculado.Datos, calculado.Generales);
-        trabex::EscribirReportes(CarpetaDelPrograma(), proyecto, carpeta);
+        trabex::EscribirArchivo(archivo, trabex::lote::DocumentoJson(calculado));
+        trabex::lote::qt::EscribirHojas(proyecto, hilos, hojas);
+        trabex::planex::EscribirArchivoPlanex(CarpetaDelPrograma() / "Imagen" / "ImagenCAD23.tbx", planex,
+                                              proyecto, calculado.Datos, calculado.Generales);
+        trabex::lote::qt::EscribirReportes(CarpetaDelPrograma(), proyecto, carpeta);
     } catch (const trabex::ErrorEjecucion& error) {
         std::cerr << "trabex-lote: no se puede escribir en " << carpeta << ": " << error.Texto() << '\n';
         return NoSePuedeEscribir;
     }
-    std::cout << trabex::TablaResumen(calculado, {}) << "\nResultados: " << archivo.string()
+    std::cout << trabex::lote::TablaResumen(calculado, {}) << "\nResultados: " << archivo.string()
               << "\nProyecto de Planex: " << planex.string() << "\nHojas de las losas: " << hojas.string()
               << "\nReportes: " << (carpeta / "reportes").string() << '\n';
     return Hecho;
@@ -67,9 +67,9 @@ int main(int argc, char** argv) {
         std::cerr << "Uso: trabex-lote PROYECTO.los CARPETA\n";
         return MalUso;
     }
-    trabex::ProyectoCalculado calculado;
+    trabex::lote::ProyectoCalculado calculado;
     const unsigned hilos = std::max(1U, std::thread::hardware_concurrency());
-    if (!trabex::CalcularProyecto(argv[1], hilos, calculado)) {
+    if (!trabex::lote::CalcularProyecto(argv[1], hilos, calculado)) {
         std::cerr << "trabex-lote: no se puede abrir el proyecto " << std::filesystem::path(argv[1]) << '\n';
         return NoSePuedeAbrir;
     }

@@ -10,28 +10,28 @@ namespace trabex {
 
 /// The windows of the elements that are built, with what reports, pictures and the exchange do in them; the
 /// commands of the others are disabled.
-class EspaciosTrabex : public EspaciosDeTrabajo {
+class EspaciosTrabex : public programa::qt::EspaciosDeTrabajo {
   public:
-    EspaciosTrabex(Aplicacion& aplicacion, CajaMensajes& caja, DialogosArchivo& dialogos,
-                   Plataforma& plataforma);
-    void Mostrar(Espacio espacio, QWidget* padre) override;
+    EspaciosTrabex(programa::Aplicacion& aplicacion, programa::CajaMensajes& caja,
+                   programa::DialogosArchivo& dialogos, programa::Plataforma& plataforma);
+    void Mostrar(programa::Espacio espacio, QWidget* padre) override;
 
   private:
-    EnchufesLosas Enchufes();
-    void ExportarResultados(Losas& losas, QWidget& ventana);
-    void ExportarGraficos(Losas& losas, QWidget& ventana);
-    void ImprimirGraficos(Losas& losas, QWidget& ventana);
-    void ExportarImagen(Losas& losas, QWidget& ventana);
+    losas::ui::qt::EnchufesLosas Enchufes();
+    void ExportarResultados(losas::ui::Losas& losas, QWidget& ventana);
+    void ExportarGraficos(losas::ui::Losas& losas, QWidget& ventana);
+    void ImprimirGraficos(losas::ui::Losas& losas, QWidget& ventana);
+    void ExportarImagen(losas::ui::Losas& losas, QWidget& ventana);
 
-    Aplicacion& aplicacion_;
-    CajaMensajes& caja_;
-    DialogosArchivo& dialogos_;
-    Plataforma& plataforma_;
-    EstadoReportes reportes_;
-    EstadoSalida salida_;
-    MotorReportes motor_;
-    ImpresorasQt impresoras_;
-    EntornoSalida entorno_;
+    programa::Aplicacion& aplicacion_;
+    programa::CajaMensajes& caja_;
+    programa::DialogosArchivo& dialogos_;
+    programa::Plataforma& plataforma_;
+    montaje::EstadoReportes reportes_;
+    reportes::ui::EstadoSalida salida_;
+    salidas::MotorReportes motor_;
+    reportes::ui::qt::ImpresorasQt impresoras_;
+    reportes::ui::EntornoSalida entorno_;
 };
 
 }  // namespace trabex

@@ -18,25 +18,25 @@ int main(int argc, char** argv) {
     QApplication programa(argc, argv);
     QApplication::setOrganizationName("Nodara Software");
     QApplication::setApplicationName("Trabex24");
-    QApplication::setWindowIcon(trabex::Figura("trabex", 48));
+    QApplication::setWindowIcon(trabex::programa::qt::Figura("trabex", 48));
     QTranslator textosDelToolkit;
     if (textosDelToolkit.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&textosDelToolkit);
 
-    trabex::Aplicacion aplicacion;
-    trabex::PlataformaQt plataforma;
-    trabex::CajaMensajesQt caja;
-    trabex::DialogosArchivoQt dialogos;
+    trabex::programa::Aplicacion aplicacion;
+    trabex::programa::qt::PlataformaQt plataforma;
+    trabex::programa::qt::CajaMensajesQt caja;
+    trabex::programa::qt::DialogosArchivoQt dialogos;
     trabex::EspaciosTrabex espacios(aplicacion, caja, dialogos, plataforma);
-    std::unique_ptr<trabex::VentanaMenuPrincipal> menu;
-    trabex::VentanaSplash splash([&] {
-        menu =
-            std::make_unique<trabex::VentanaMenuPrincipal>(aplicacion, caja, dialogos, plataforma, espacios);
+    std::unique_ptr<trabex::programa::qt::VentanaMenuPrincipal> menu;
+    trabex::programa::qt::VentanaSplash splash([&] {
+        menu = std::make_unique<trabex::programa::qt::VentanaMenuPrincipal>(aplicacion, caja, dialogos,
+                                                                            plataforma, espacios);
         menu->show();
     });
     splash.show();
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    trabex::PrepararArranque(plataforma, aplicacion);
+    trabex::programa::PrepararArranque(plataforma, aplicacion);
     splash.Contar();
     return QApplication::exec();
 }

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace trabex {
+namespace trabex::dibujo {
 
 struct Color {
     std::uint8_t R = 0;
@@ -72,4 +72,4 @@ class Lienzo {
     virtual void Pixel(PuntoLienzo lugar, Color color) = 0;
 };
 
-}  // namespace trabex
+}  // namespace trabex::dibujo

@@ -8,7 +8,7 @@
 
 #include "drawing/Primitivas.h"
 
-namespace trabex {
+namespace trabex::dibujo {
 
 namespace {
 constexpr double PuntosMinimosDeTitulo = 8;
@@ -106,4 +106,4 @@ void Plano::Acotar(double x1, double x2, std::int32_t y, std::string_view texto,
     Escribir(texto, Ancla::Centro, (desde + hasta) / 2, y - lienzo_.Medir("WW").Alto - Unidades(1));
 }
 
-}  // namespace trabex
+}  // namespace trabex::dibujo

@@ -8,7 +8,7 @@
 #include "drawing/Lienzo.h"
 #include "drawing/Visor.h"
 
-namespace trabex {
+namespace trabex::dibujo {
 
 enum class Ancla { Izquierda, Centro, Derecha };
 
@@ -73,4 +73,4 @@ class Plano {
     std::unordered_map<std::int64_t, std::vector<CajaTexto>> ocupadas_;  // by column of the canvas
 };
 
-}  // namespace trabex
+}  // namespace trabex::dibujo

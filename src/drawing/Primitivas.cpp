@@ -7,7 +7,7 @@
 
 #include "base/Round.h"
 
-namespace trabex {
+namespace trabex::dibujo {
 
 namespace {
 
@@ -96,4 +96,4 @@ void DibujeCuadricula(Lienzo& lienzo, std::int32_t separacion) {
         DibujeLinea(lienzo, 0, y, ancho, y, 1, EstiloLinea::Solida, ColorCuadricula);
 }
 
-}  // namespace trabex
+}  // namespace trabex::dibujo

@@ -5,7 +5,7 @@
 
 #include "drawing/Lienzo.h"
 
-namespace trabex {
+namespace trabex::dibujo {
 
 /// Which ways the points of arrows look.
 struct Sentidos {
@@ -43,4 +43,4 @@ void DibujeFlechaDiagonal(Lienzo& lienzo, std::int32_t x, std::int32_t y, const 
 /// Vertical lines from x = 0 by `separacion` up to 30 past the width, then horizontal ones in the same way.
 void DibujeCuadricula(Lienzo& lienzo, std::int32_t separacion);
 
-}  // namespace trabex
+}  // namespace trabex::dibujo

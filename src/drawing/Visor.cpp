@@ -1,6 +1,6 @@
 #include "drawing/Visor.h"
 
-namespace trabex {
+namespace trabex::dibujo {
 
 namespace {
 constexpr double PasoDeZoom = 0.1;
@@ -122,4 +122,4 @@ void Visor::Teclear(TeclaVista tecla) {
     }
 }
 
-}  // namespace trabex
+}  // namespace trabex::dibujo

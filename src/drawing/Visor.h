@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace trabex {
+namespace trabex::dibujo {
 
 /// Viewport state of a workspace: the map from metres to its canvas, with the user's zoom and pan over it.
 struct EstadoVista {
@@ -89,4 +89,4 @@ class Visor {
     std::int32_t y_ = 0;
 };
 
-}  // namespace trabex
+}  // namespace trabex::dibujo

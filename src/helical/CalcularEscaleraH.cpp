@@ -9,7 +9,7 @@
 #include "helical/DisenoEscaleraH.h"
 #include "helical/EstaticaEscaleraH.h"
 
-namespace trabex {
+namespace trabex::helices {
 
 namespace {
 
@@ -212,4 +212,4 @@ void CalcularEscaleraH(const DatosEscaleraH& escalera, const DatosGenerales& gen
     }
 }
 
-}  // namespace trabex
+}  // namespace trabex::helices

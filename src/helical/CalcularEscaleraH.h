@@ -4,7 +4,7 @@
 #include "helical/DatosEscaleraH.h"
 #include "helical/ResultadosEscaleraH.h"
 
-namespace trabex {
+namespace trabex::helices {
 
 /// Takes a helical stair to its finished results: redundants in closed form, forces at the stations of both
 /// halves, reactions, steel and stirrups.
@@ -14,4 +14,4 @@ namespace trabex {
 void CalcularEscaleraH(const DatosEscaleraH& escalera, const DatosGenerales& generales,
                        ResultadosEscaleraH& resultados);
 
-}  // namespace trabex
+}  // namespace trabex::helices

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-namespace trabex {
+namespace trabex::helices {
 
 /// A helical stair or beam of rectangular section, fixed at both ends. One without stored data is of zeros,
 /// at an interval of 5 degrees.
@@ -24,4 +24,4 @@ inline DatosEscaleraH EscaleraHNuevaDe(const std::string& nombre, const std::str
     return {nombre, titulo, 1.5, 0.15, 3, 2.5, 260, 1500, 5};
 }
 
-}  // namespace trabex
+}  // namespace trabex::helices

@@ -5,7 +5,7 @@
 #include "base/Enteros.h"
 #include "base/Round.h"
 
-namespace trabex {
+namespace trabex::helices {
 
 namespace {
 
@@ -91,4 +91,4 @@ double AceroMinimo(const DatosEscaleraH& escalera, const DatosGenerales& general
     return (14.0 / generales.FY) * b * d;
 }
 
-}  // namespace trabex
+}  // namespace trabex::helices

@@ -5,7 +5,7 @@
 #include "base/DatosGenerales.h"
 #include "helical/DatosEscaleraH.h"
 
-namespace trabex {
+namespace trabex::helices {
 
 /// Stirrups of a station.
 struct EstribosHelice {
@@ -25,4 +25,4 @@ EstribosHelice EstribosEscalera(double Cortante, double Torsion, double Ancho, d
 /// Minimum flexural steel of the flight, cm².
 double AceroMinimo(const DatosEscaleraH& escalera, const DatosGenerales& generales);
 
-}  // namespace trabex
+}  // namespace trabex::helices

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace trabex {
+namespace trabex::helices {
 
 GeometriaHelice GeometriaDe(const DatosEscaleraH& escalera) {
     const double L = escalera.R * DosPiHelice * escalera.Angulo / 360;
@@ -63,4 +63,4 @@ EstacionEscaleraH CalculoEstaticoH::EsfuerzosEn(double teta) const {
     return estacion;
 }
 
-}  // namespace trabex
+}  // namespace trabex::helices

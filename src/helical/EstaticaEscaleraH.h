@@ -3,7 +3,7 @@
 #include "helical/DatosEscaleraH.h"
 #include "helical/ResultadosEscaleraH.h"
 
-namespace trabex {
+namespace trabex::helices {
 
 /// π as the helical formulas write it.
 inline constexpr double PiHelice = 3.14159265358979;
@@ -58,4 +58,4 @@ class CalculoEstaticoH {
     HiperestaticasHelice incognitas_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::helices

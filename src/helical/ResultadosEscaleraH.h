@@ -7,7 +7,7 @@
 
 #include "base/ErrorEjecucion.h"
 
-namespace trabex {
+namespace trabex::helices {
 
 /// A station of a helical stair. Forces in kgf, moments in kgf·m, steel in cm².
 struct EstacionEscaleraH {
@@ -45,4 +45,4 @@ struct ResultadosEscaleraH {
     std::optional<ErrorEjecucion> Error;           ///< the run-time error that ended the calculation
 };
 
-}  // namespace trabex
+}  // namespace trabex::helices

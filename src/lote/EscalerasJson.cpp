@@ -4,7 +4,7 @@
 
 #include "lote/EscritorJson.h"
 
-namespace trabex {
+namespace trabex::lote {
 
 namespace {
 
@@ -14,86 +14,91 @@ constexpr std::tuple CamposGenerales{
     Campo{"FiCorte", &DatosGenerales::FiCorte}, Campo{"FS", &DatosGenerales::FS}};
 
 constexpr std::tuple CamposEscaleraT{
-    Campo{"Nombre", &DatosEscaleraT::Nombre}, Campo{"Titulo", &DatosEscaleraT::Titulo},
-    Campo{"L", &DatosEscaleraT::L},           Campo{"B", &DatosEscaleraT::B},
-    Campo{"H", &DatosEscaleraT::H},           Campo{"HT", &DatosEscaleraT::HT},
-    Campo{"Hd", &DatosEscaleraT::Hd},         Campo{"WT", &DatosEscaleraT::WT},
-    Campo{"Wd", &DatosEscaleraT::Wd},         Campo{"WpD", &DatosEscaleraT::WpD}};
+    Campo{"Nombre", &escaleras::DatosEscaleraT::Nombre}, Campo{"Titulo", &escaleras::DatosEscaleraT::Titulo},
+    Campo{"L", &escaleras::DatosEscaleraT::L},           Campo{"B", &escaleras::DatosEscaleraT::B},
+    Campo{"H", &escaleras::DatosEscaleraT::H},           Campo{"HT", &escaleras::DatosEscaleraT::HT},
+    Campo{"Hd", &escaleras::DatosEscaleraT::Hd},         Campo{"WT", &escaleras::DatosEscaleraT::WT},
+    Campo{"Wd", &escaleras::DatosEscaleraT::Wd},         Campo{"WpD", &escaleras::DatosEscaleraT::WpD}};
 
 constexpr std::tuple CamposEstatica{
-    Campo{"Alfa", &EstaticaEscaleraT::Alfa},
-    Campo{"Denominador", &EstaticaEscaleraT::Denominador},
-    Campo{"CoefMomento", &EstaticaEscaleraT::CoefMomento},
-    Campo{"CoefLateral", &EstaticaEscaleraT::CoefLateral},
-    Campo{"CoefDescanso", &EstaticaEscaleraT::CoefDescanso},
-    Campo{"CoefLateralDescanso", &EstaticaEscaleraT::CoefLateralDescanso},
-    Campo{"MomentoApoyoTotal", &EstaticaEscaleraT::MomentoApoyoTotal},
-    Campo{"MomentoHorizontal", &EstaticaEscaleraT::MomentoHorizontal},
-    Campo{"MomentoApoyoPermanente", &EstaticaEscaleraT::MomentoApoyoPermanente},
-    Campo{"EmpujeFlexion", &EstaticaEscaleraT::EmpujeFlexion}};
+    Campo{"Alfa", &escaleras::EstaticaEscaleraT::Alfa},
+    Campo{"Denominador", &escaleras::EstaticaEscaleraT::Denominador},
+    Campo{"CoefMomento", &escaleras::EstaticaEscaleraT::CoefMomento},
+    Campo{"CoefLateral", &escaleras::EstaticaEscaleraT::CoefLateral},
+    Campo{"CoefDescanso", &escaleras::EstaticaEscaleraT::CoefDescanso},
+    Campo{"CoefLateralDescanso", &escaleras::EstaticaEscaleraT::CoefLateralDescanso},
+    Campo{"MomentoApoyoTotal", &escaleras::EstaticaEscaleraT::MomentoApoyoTotal},
+    Campo{"MomentoHorizontal", &escaleras::EstaticaEscaleraT::MomentoHorizontal},
+    Campo{"MomentoApoyoPermanente", &escaleras::EstaticaEscaleraT::MomentoApoyoPermanente},
+    Campo{"EmpujeFlexion", &escaleras::EstaticaEscaleraT::EmpujeFlexion}};
 
-constexpr std::tuple CamposTramoT{Campo{"MomentoTotal", &EscaleraTramoPunto::MomentoTotal},
-                                  Campo{"MomentoPermanente", &EscaleraTramoPunto::MomentoPermanente},
-                                  Campo{"CorteTotal", &EscaleraTramoPunto::CorteTotal},
-                                  Campo{"CortePermanente", &EscaleraTramoPunto::CortePermanente},
-                                  Campo{"Axial", &EscaleraTramoPunto::Axial},
-                                  Campo{"MomentoY", &EscaleraTramoPunto::MomentoY},
-                                  Campo{"Torsor", &EscaleraTramoPunto::Torsor},
-                                  Campo{"EnvolventeNegativa", &EscaleraTramoPunto::EnvolventeNegativa},
-                                  Campo{"EnvolventePositiva", &EscaleraTramoPunto::EnvolventePositiva},
-                                  Campo{"AsSuperior", &EscaleraTramoPunto::AsSuperior},
-                                  Campo{"AsInferior", &EscaleraTramoPunto::AsInferior},
-                                  Campo{"AsTorsion", &EscaleraTramoPunto::AsTorsion},
-                                  Campo{"AsY", &EscaleraTramoPunto::AsY},
-                                  Campo{"CorteEnvolvente", &EscaleraTramoPunto::CorteEnvolvente},
-                                  Campo{"SeparacionEstribo", &EscaleraTramoPunto::SeparacionEstribo},
-                                  Campo{"AreaEstribo", &EscaleraTramoPunto::AreaEstribo}};
+constexpr std::tuple CamposTramoT{
+    Campo{"MomentoTotal", &escaleras::EscaleraTramoPunto::MomentoTotal},
+    Campo{"MomentoPermanente", &escaleras::EscaleraTramoPunto::MomentoPermanente},
+    Campo{"CorteTotal", &escaleras::EscaleraTramoPunto::CorteTotal},
+    Campo{"CortePermanente", &escaleras::EscaleraTramoPunto::CortePermanente},
+    Campo{"Axial", &escaleras::EscaleraTramoPunto::Axial},
+    Campo{"MomentoY", &escaleras::EscaleraTramoPunto::MomentoY},
+    Campo{"Torsor", &escaleras::EscaleraTramoPunto::Torsor},
+    Campo{"EnvolventeNegativa", &escaleras::EscaleraTramoPunto::EnvolventeNegativa},
+    Campo{"EnvolventePositiva", &escaleras::EscaleraTramoPunto::EnvolventePositiva},
+    Campo{"AsSuperior", &escaleras::EscaleraTramoPunto::AsSuperior},
+    Campo{"AsInferior", &escaleras::EscaleraTramoPunto::AsInferior},
+    Campo{"AsTorsion", &escaleras::EscaleraTramoPunto::AsTorsion},
+    Campo{"AsY", &escaleras::EscaleraTramoPunto::AsY},
+    Campo{"CorteEnvolvente", &escaleras::EscaleraTramoPunto::CorteEnvolvente},
+    Campo{"SeparacionEstribo", &escaleras::EscaleraTramoPunto::SeparacionEstribo},
+    Campo{"AreaEstribo", &escaleras::EscaleraTramoPunto::AreaEstribo}};
 
-constexpr std::tuple CamposDescansoT{Campo{"MomentoTotal", &EscaleraDescansoPunto::MomentoTotal},
-                                     Campo{"CorteTotal", &EscaleraDescansoPunto::CorteTotal},
-                                     Campo{"MomentoPermanente", &EscaleraDescansoPunto::MomentoPermanente},
-                                     Campo{"CortePermanente", &EscaleraDescansoPunto::CortePermanente},
-                                     Campo{"CorteY", &EscaleraDescansoPunto::CorteY},
-                                     Campo{"Axial", &EscaleraDescansoPunto::Axial},
-                                     Campo{"MomentoY", &EscaleraDescansoPunto::MomentoY},
-                                     Campo{"Torsor", &EscaleraDescansoPunto::Torsor},
-                                     Campo{"AsSuperior", &EscaleraDescansoPunto::AsSuperior},
-                                     Campo{"AsInferior", &EscaleraDescansoPunto::AsInferior},
-                                     Campo{"AsY", &EscaleraDescansoPunto::AsY},
-                                     Campo{"TensionCorte", &EscaleraDescansoPunto::TensionCorte},
-                                     Campo{"TensionAdmisible", &EscaleraDescansoPunto::TensionAdmisible},
-                                     Campo{"FallaCorte", &EscaleraDescansoPunto::FallaCorte}};
+constexpr std::tuple CamposDescansoT{
+    Campo{"MomentoTotal", &escaleras::EscaleraDescansoPunto::MomentoTotal},
+    Campo{"CorteTotal", &escaleras::EscaleraDescansoPunto::CorteTotal},
+    Campo{"MomentoPermanente", &escaleras::EscaleraDescansoPunto::MomentoPermanente},
+    Campo{"CortePermanente", &escaleras::EscaleraDescansoPunto::CortePermanente},
+    Campo{"CorteY", &escaleras::EscaleraDescansoPunto::CorteY},
+    Campo{"Axial", &escaleras::EscaleraDescansoPunto::Axial},
+    Campo{"MomentoY", &escaleras::EscaleraDescansoPunto::MomentoY},
+    Campo{"Torsor", &escaleras::EscaleraDescansoPunto::Torsor},
+    Campo{"AsSuperior", &escaleras::EscaleraDescansoPunto::AsSuperior},
+    Campo{"AsInferior", &escaleras::EscaleraDescansoPunto::AsInferior},
+    Campo{"AsY", &escaleras::EscaleraDescansoPunto::AsY},
+    Campo{"TensionCorte", &escaleras::EscaleraDescansoPunto::TensionCorte},
+    Campo{"TensionAdmisible", &escaleras::EscaleraDescansoPunto::TensionAdmisible},
+    Campo{"FallaCorte", &escaleras::EscaleraDescansoPunto::FallaCorte}};
 
-constexpr std::tuple CamposReacciones{Campo{"ReaccionVertical", &ResultadosEscaleraT::ReaccionVertical},
-                                      Campo{"ReaccionHorizontal", &ResultadosEscaleraT::ReaccionHorizontal}};
+constexpr std::tuple CamposReacciones{
+    Campo{"ReaccionVertical", &escaleras::ResultadosEscaleraT::ReaccionVertical},
+    Campo{"ReaccionHorizontal", &escaleras::ResultadosEscaleraT::ReaccionHorizontal}};
 
 constexpr std::tuple CamposEscaleraH{
-    Campo{"Nombre", &DatosEscaleraH::Nombre}, Campo{"Titulo", &DatosEscaleraH::Titulo},
-    Campo{"B", &DatosEscaleraH::B},           Campo{"T", &DatosEscaleraH::T},
-    Campo{"H", &DatosEscaleraH::H},           Campo{"R", &DatosEscaleraH::R},
-    Campo{"Angulo", &DatosEscaleraH::Angulo}, Campo{"W", &DatosEscaleraH::W},
-    Campo{"Inter", &DatosEscaleraH::Inter}};
+    Campo{"Nombre", &helices::DatosEscaleraH::Nombre}, Campo{"Titulo", &helices::DatosEscaleraH::Titulo},
+    Campo{"B", &helices::DatosEscaleraH::B},           Campo{"T", &helices::DatosEscaleraH::T},
+    Campo{"H", &helices::DatosEscaleraH::H},           Campo{"R", &helices::DatosEscaleraH::R},
+    Campo{"Angulo", &helices::DatosEscaleraH::Angulo}, Campo{"W", &helices::DatosEscaleraH::W},
+    Campo{"Inter", &helices::DatosEscaleraH::Inter}};
 
 constexpr std::tuple CamposResultadosH{
-    Campo{"L", &ResultadosEscaleraH::L},   Campo{"Alfa", &ResultadosEscaleraH::Alfa},
-    Campo{"FV", &ResultadosEscaleraH::FV}, Campo{"Fh", &ResultadosEscaleraH::Fh},
-    Campo{"X", &ResultadosEscaleraH::X},   Campo{"Y", &ResultadosEscaleraH::Y}};
+    Campo{"L", &helices::ResultadosEscaleraH::L},   Campo{"Alfa", &helices::ResultadosEscaleraH::Alfa},
+    Campo{"FV", &helices::ResultadosEscaleraH::FV}, Campo{"Fh", &helices::ResultadosEscaleraH::Fh},
+    Campo{"X", &helices::ResultadosEscaleraH::X},   Campo{"Y", &helices::ResultadosEscaleraH::Y}};
 
 constexpr std::tuple CamposEstacionH{
-    Campo{"N", &EstacionEscaleraH::N},       Campo{"QX", &EstacionEscaleraH::QX},
-    Campo{"QY", &EstacionEscaleraH::QY},     Campo{"MT", &EstacionEscaleraH::MT},
-    Campo{"MX", &EstacionEscaleraH::MX},     Campo{"MY", &EstacionEscaleraH::MY},
-    Campo{"MS1", &EstacionEscaleraH::MS1},   Campo{"MI1", &EstacionEscaleraH::MI1},
-    Campo{"TU", &EstacionEscaleraH::TU},     Campo{"ASXS", &EstacionEscaleraH::ASXS},
-    Campo{"ASXI", &EstacionEscaleraH::ASXI}, Campo{"AsY", &EstacionEscaleraH::AsY},
-    Campo{"AsT", &EstacionEscaleraH::AsT},   Campo{"LON", &EstacionEscaleraH::LON},
-    Campo{"SEP", &EstacionEscaleraH::SEP},   Campo{"ASMin", &EstacionEscaleraH::ASMin}};
+    Campo{"N", &helices::EstacionEscaleraH::N},       Campo{"QX", &helices::EstacionEscaleraH::QX},
+    Campo{"QY", &helices::EstacionEscaleraH::QY},     Campo{"MT", &helices::EstacionEscaleraH::MT},
+    Campo{"MX", &helices::EstacionEscaleraH::MX},     Campo{"MY", &helices::EstacionEscaleraH::MY},
+    Campo{"MS1", &helices::EstacionEscaleraH::MS1},   Campo{"MI1", &helices::EstacionEscaleraH::MI1},
+    Campo{"TU", &helices::EstacionEscaleraH::TU},     Campo{"ASXS", &helices::EstacionEscaleraH::ASXS},
+    Campo{"ASXI", &helices::EstacionEscaleraH::ASXI}, Campo{"AsY", &helices::EstacionEscaleraH::AsY},
+    Campo{"AsT", &helices::EstacionEscaleraH::AsT},   Campo{"LON", &helices::EstacionEscaleraH::LON},
+    Campo{"SEP", &helices::EstacionEscaleraH::SEP},   Campo{"ASMin", &helices::EstacionEscaleraH::ASMin}};
 
-constexpr std::tuple CamposPano{Campo{"Carga", &PanoMarcus::Carga}, Campo{"Caso", &PanoMarcus::Caso},
-                                Campo{"LX", &PanoMarcus::LX}, Campo{"LY", &PanoMarcus::LY}};
+constexpr std::tuple CamposPano{Campo{"Carga", &marcus::PanoMarcus::Carga},
+                                Campo{"Caso", &marcus::PanoMarcus::Caso},
+                                Campo{"LX", &marcus::PanoMarcus::LX}, Campo{"LY", &marcus::PanoMarcus::LY}};
 
-constexpr std::tuple CamposReparto{Campo{"CX", &RepartoMarcus::CX}, Campo{"CY", &RepartoMarcus::CY},
-                                   Campo{"WX", &RepartoMarcus::WX}, Campo{"WY", &RepartoMarcus::WY}};
+constexpr std::tuple CamposReparto{
+    Campo{"CX", &marcus::RepartoMarcus::CX}, Campo{"CY", &marcus::RepartoMarcus::CY},
+    Campo{"WX", &marcus::RepartoMarcus::WX}, Campo{"WY", &marcus::RepartoMarcus::WY}};
 
 /// One object, closed by an error where there is one.
 template <class Contenido>
@@ -113,7 +118,8 @@ std::string GeneralesEscaleraJson(const DatosGenerales& generales) {
     return ObjetoJson(generales, CamposGenerales);
 }
 
-std::string EscaleraTJson(const DatosEscaleraT& escalera, const ResultadosEscaleraT& resultados) {
+std::string EscaleraTJson(const escaleras::DatosEscaleraT& escalera,
+                          const escaleras::ResultadosEscaleraT& resultados) {
     return Objeto(resultados.Error, [&](Escritor& json) {
         EscribirCampos(json, escalera, CamposEscaleraT);
         EscribirCampos(json, resultados.Estatica, CamposEstatica);
@@ -125,7 +131,8 @@ std::string EscaleraTJson(const DatosEscaleraT& escalera, const ResultadosEscale
     });
 }
 
-std::string EscaleraHJson(const DatosEscaleraH& escalera, const ResultadosEscaleraH& resultados) {
+std::string EscaleraHJson(const helices::DatosEscaleraH& escalera,
+                          const helices::ResultadosEscaleraH& resultados) {
     return Objeto(resultados.Error, [&](Escritor& json) {
         EscribirCampos(json, escalera, CamposEscaleraH);
         EscribirCampos(json, resultados, CamposResultadosH);
@@ -136,7 +143,7 @@ std::string EscaleraHJson(const DatosEscaleraH& escalera, const ResultadosEscale
     });
 }
 
-std::string MarcusJson(const NivelMarcus& nivel, const std::optional<ErrorEjecucion>& error) {
+std::string MarcusJson(const marcus::NivelMarcus& nivel, const std::optional<ErrorEjecucion>& error) {
     return Objeto(error, [&](Escritor& json) {
         json.Key("Nombre");
         Escribir(json, nivel.Nombre);
@@ -144,7 +151,7 @@ std::string MarcusJson(const NivelMarcus& nivel, const std::optional<ErrorEjecuc
         Escribir(json, nivel.Panos);
         json.Key("Filas");
         json.StartArray();
-        for (const PanoMarcus& pano : nivel.Filas) {
+        for (const marcus::PanoMarcus& pano : nivel.Filas) {
             json.StartObject();
             EscribirCampos(json, pano, CamposPano);
             EscribirCampos(json, pano.Reparto, CamposReparto);
@@ -154,4 +161,4 @@ std::string MarcusJson(const NivelMarcus& nivel, const std::optional<ErrorEjecuc
     });
 }
 
-}  // namespace trabex
+}  // namespace trabex::lote

@@ -5,7 +5,7 @@
 #include "base/Formatos.h"
 #include "base/Texto.h"
 
-namespace trabex {
+namespace trabex::lote {
 
 void Escribir(Escritor& json, double valor) {
     if (std::isfinite(valor))
@@ -40,4 +40,4 @@ void EscribirError(Escritor& json, const ErrorEjecucion& error) {
     json.EndObject();
 }
 
-}  // namespace trabex
+}  // namespace trabex::lote

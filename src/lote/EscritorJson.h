@@ -16,7 +16,7 @@
 // How records become JSON objects: a tuple of their fields and names, written in order. For the library's own
 // sources.
 
-namespace trabex {
+namespace trabex::lote {
 
 using Escritor = rapidjson::Writer<rapidjson::StringBuffer>;
 
@@ -72,4 +72,4 @@ std::string ObjetoJson(const Registro& registro, const Campos& campos) {
     return {texto.GetString(), texto.GetSize()};
 }
 
-}  // namespace trabex
+}  // namespace trabex::lote

@@ -15,38 +15,38 @@
 #include "store/tablas/TablasLosa.h"
 #include "store/tablas/TablasMarcus.h"
 
-namespace trabex {
+namespace trabex::lote {
 
 namespace {
 
 constexpr std::size_t ElementosPorHilo = 32;  // fewer do not pay for a thread
 
-bool AbrirLista(ProyectoAbierto& proyecto, std::string_view consulta) {
-    AbrirRecordset(proyecto.ConexionProyecto, proyecto.RegistrosProyecto, consulta);
+bool AbrirLista(almacen::tablas::ProyectoAbierto& proyecto, std::string_view consulta) {
+    almacen::AbrirRecordset(proyecto.ConexionProyecto, proyecto.RegistrosProyecto, consulta);
     return proyecto.RegistrosProyecto.Abierto();
 }
 
 /// Calculates every element of a list, each with `calcular` on a project whose list stands on it. False when
 /// the list can't be opened.
 template <class Resumen, class Calcular>
-bool CalcularLista(ProyectoAbierto& proyecto, std::string_view consulta, unsigned hilos,
+bool CalcularLista(almacen::tablas::ProyectoAbierto& proyecto, std::string_view consulta, unsigned hilos,
                    ElementosCalculados<Resumen>& elementos, Calcular calcular) {
     if (!AbrirLista(proyecto, consulta)) return false;
     const auto cuantos = static_cast<std::size_t>(proyecto.RegistrosProyecto.NumeroRegistros());
     elementos.Json.resize(cuantos);
     elementos.Resumenes.resize(cuantos);
     std::atomic<std::size_t> siguiente{0};
-    const auto trabajar = [&](ProyectoAbierto& copia) {
+    const auto trabajar = [&](almacen::tablas::ProyectoAbierto& copia) {
         for (std::size_t i = siguiente++; i < cuantos; i = siguiente++) {
             copia.RegistrosProyecto.MoverA(static_cast<int>(i) + 1);
             calcular(copia, elementos.Json[i], elementos.Resumenes[i]);
         }
     };
     // A connection serves one thread: each further one reads a copy of the same copy.
-    std::vector<std::unique_ptr<ProyectoAbierto>> copias;
+    std::vector<std::unique_ptr<almacen::tablas::ProyectoAbierto>> copias;
     for (unsigned h = 1; h < hilos && h * ElementosPorHilo < cuantos; ++h) {
-        copias.push_back(std::make_unique<ProyectoAbierto>());
-        CopiarEnMemoria(proyecto.ConexionProyecto, copias.back()->ConexionProyecto);
+        copias.push_back(std::make_unique<almacen::tablas::ProyectoAbierto>());
+        almacen::CopiarEnMemoria(proyecto.ConexionProyecto, copias.back()->ConexionProyecto);
         if (!AbrirLista(*copias.back(), consulta)) copias.pop_back();
     }
     std::vector<std::jthread> equipo;
@@ -56,51 +56,55 @@ bool CalcularLista(ProyectoAbierto& proyecto, std::string_view consulta, unsigne
     return true;
 }
 
-bool CalcularLosas(ProyectoAbierto& proyecto, unsigned hilos, ProyectoCalculado& calculado) {
-    return CalcularLista(proyecto, ConsultaListaLosas, hilos, calculado.Losas,
-                         [&](ProyectoAbierto& copia, std::string& json, ResumenLosa& resumen) {
-                             Losa losa;
-                             ResultadosLosa resultados;
-                             LeerLosa(copia, losa);
-                             CalcularLosa(losa, calculado.Generales, resultados);
-                             json = LosaJson(losa, resultados);
-                             resumen = Resumir(losa, resultados);
-                         });
+bool CalcularLosas(almacen::tablas::ProyectoAbierto& proyecto, unsigned hilos, ProyectoCalculado& calculado) {
+    return CalcularLista(
+        proyecto, almacen::tablas::ConsultaListaLosas, hilos, calculado.Losas,
+        [&](almacen::tablas::ProyectoAbierto& copia, std::string& json, ResumenLosa& resumen) {
+            losas::Losa losa;
+            losas::ResultadosLosa resultados;
+            almacen::tablas::LeerLosa(copia, losa);
+            losas::CalcularLosa(losa, calculado.Generales, resultados);
+            json = LosaJson(losa, resultados);
+            resumen = Resumir(losa, resultados);
+        });
 }
 
-void CalcularEscalerasT(ProyectoAbierto& proyecto, unsigned hilos, ProyectoCalculado& calculado) {
-    CalcularLista(proyecto, ConsultaListaEscalerasT, hilos, calculado.EscalerasT,
-                  [&](ProyectoAbierto& copia, std::string& json, ResumenEscaleraT& resumen) {
-                      DatosEscaleraT escalera;
-                      ResultadosEscaleraT resultados;
-                      LeaDatosEscalera(copia, escalera);
-                      CalcularEscaleraT(escalera, calculado.GeneralesEscaleraT, resultados);
+void CalcularEscalerasT(almacen::tablas::ProyectoAbierto& proyecto, unsigned hilos,
+                        ProyectoCalculado& calculado) {
+    CalcularLista(proyecto, almacen::tablas::ConsultaListaEscalerasT, hilos, calculado.EscalerasT,
+                  [&](almacen::tablas::ProyectoAbierto& copia, std::string& json, ResumenEscaleraT& resumen) {
+                      escaleras::DatosEscaleraT escalera;
+                      escaleras::ResultadosEscaleraT resultados;
+                      almacen::tablas::LeaDatosEscalera(copia, escalera);
+                      escaleras::CalcularEscaleraT(escalera, calculado.GeneralesEscaleraT, resultados);
                       json = EscaleraTJson(escalera, resultados);
                       resumen = Resumir(escalera, resultados);
                   });
 }
 
 /// A helical stair without stored data is not calculated at all.
-void CalcularEscalerasH(ProyectoAbierto& proyecto, unsigned hilos, ProyectoCalculado& calculado) {
-    CalcularLista(proyecto, ConsultaListaEscalerasH, hilos, calculado.EscalerasH,
-                  [&](ProyectoAbierto& copia, std::string& json, ResumenEscaleraH& resumen) {
-                      DatosEscaleraH escalera;
-                      ResultadosEscaleraH resultados;
-                      if (LeaDatosEscalera(copia, escalera))
-                          CalcularEscaleraH(escalera, calculado.GeneralesEscaleraH, resultados);
+void CalcularEscalerasH(almacen::tablas::ProyectoAbierto& proyecto, unsigned hilos,
+                        ProyectoCalculado& calculado) {
+    CalcularLista(proyecto, almacen::tablas::ConsultaListaEscalerasH, hilos, calculado.EscalerasH,
+                  [&](almacen::tablas::ProyectoAbierto& copia, std::string& json, ResumenEscaleraH& resumen) {
+                      helices::DatosEscaleraH escalera;
+                      helices::ResultadosEscaleraH resultados;
+                      if (almacen::tablas::LeaDatosEscalera(copia, escalera))
+                          helices::CalcularEscaleraH(escalera, calculado.GeneralesEscaleraH, resultados);
                       json = EscaleraHJson(escalera, resultados);
                       resumen = Resumir(escalera, resultados);
                   });
 }
 
-void CalcularNivelesMarcus(ProyectoAbierto& proyecto, unsigned hilos, ProyectoCalculado& calculado) {
-    CalcularLista(proyecto, ConsultaListaMarcus, hilos, calculado.Marcus,
-                  [&](ProyectoAbierto& copia, std::string& json, ResumenMarcus& resumen) {
-                      NivelMarcus nivel;
+void CalcularNivelesMarcus(almacen::tablas::ProyectoAbierto& proyecto, unsigned hilos,
+                           ProyectoCalculado& calculado) {
+    CalcularLista(proyecto, almacen::tablas::ConsultaListaMarcus, hilos, calculado.Marcus,
+                  [&](almacen::tablas::ProyectoAbierto& copia, std::string& json, ResumenMarcus& resumen) {
+                      marcus::NivelMarcus nivel;
                       std::optional<ErrorEjecucion> error;
-                      LeerMarcus(copia, nivel);
+                      almacen::tablas::LeerMarcus(copia, nivel);
                       try {
-                          CalculePanos(nivel.Filas);
+                          marcus::CalculePanos(nivel.Filas);
                       } catch (const ErrorEjecucion& hallado) {
                           error = hallado;
                       }
@@ -126,14 +130,15 @@ std::string TablaSiHay(const ElementosCalculados<Resumen>& elementos, const Sepa
 }  // namespace
 
 bool CalcularProyecto(const std::filesystem::path& camino, unsigned hilos, ProyectoCalculado& calculado) {
-    ProyectoAbierto proyecto;
-    AbrirCopiaEnMemoria(proyecto.ConexionProyecto, camino);
-    if (!AbrirLista(proyecto, ConsultaListaLosas)) return false;
-    Conexion& conexion = proyecto.ConexionProyecto;
-    LeerDatosGenerales(conexion, "", calculado.Datos, calculado.Generales);
-    LeaDatosGenerales(conexion, ClaseEscalera::Autoportante, "", calculado.Datos,
-                      calculado.GeneralesEscaleraT);
-    LeaDatosGenerales(conexion, ClaseEscalera::Helicoidal, "", calculado.Datos, calculado.GeneralesEscaleraH);
+    almacen::tablas::ProyectoAbierto proyecto;
+    almacen::AbrirCopiaEnMemoria(proyecto.ConexionProyecto, camino);
+    if (!AbrirLista(proyecto, almacen::tablas::ConsultaListaLosas)) return false;
+    almacen::Conexion& conexion = proyecto.ConexionProyecto;
+    almacen::tablas::LeerDatosGenerales(conexion, "", calculado.Datos, calculado.Generales);
+    almacen::tablas::LeaDatosGenerales(conexion, almacen::tablas::ClaseEscalera::Autoportante, "",
+                                       calculado.Datos, calculado.GeneralesEscaleraT);
+    almacen::tablas::LeaDatosGenerales(conexion, almacen::tablas::ClaseEscalera::Helicoidal, "",
+                                       calculado.Datos, calculado.GeneralesEscaleraH);
     if (!CalcularLosas(proyecto, hilos, calculado)) return false;
     CalcularEscalerasT(proyecto, hilos, calculado);
     CalcularEscalerasH(proyecto, hilos, calculado);
@@ -156,4 +161,4 @@ std::string TablaResumen(const ProyectoCalculado& calculado, const Separadores& 
            TablaSiHay(calculado.EscalerasH, separadores) + TablaSiHay(calculado.Marcus, separadores);
 }
 
-}  // namespace trabex
+}  // namespace trabex::lote

@@ -9,7 +9,7 @@
 #include "base/Proyecto.h"
 #include "lote/Resumen.h"
 
-namespace trabex {
+namespace trabex::lote {
 
 /// The elements of one kind, in list order: their results as JSON objects, and their summaries.
 template <class Resumen>
@@ -41,4 +41,4 @@ std::string DocumentoJson(const ProyectoCalculado& calculado);
 /// The summary as tables of plain text: one for the slabs, and one for each other kind that there is.
 std::string TablaResumen(const ProyectoCalculado& calculado, const Separadores& separadores);
 
-}  // namespace trabex
+}  // namespace trabex::lote

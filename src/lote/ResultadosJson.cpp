@@ -4,7 +4,7 @@
 
 #include "lote/EscritorJson.h"
 
-namespace trabex {
+namespace trabex::lote {
 
 namespace {
 
@@ -19,46 +19,51 @@ constexpr std::tuple CamposProyecto{
     Campo{"Calculista", &DatosDelProyecto::Calculista}, Campo{"Fecha", &DatosDelProyecto::Fecha},
     Campo{"Cliente", &DatosDelProyecto::Cliente},       Campo{"Comentario", &DatosDelProyecto::Comentario}};
 
-constexpr std::tuple CamposLosa{Campo{"Nombre", &Losa::Nombre}, Campo{"OpcionMaciza", &Losa::OpcionMaciza},
-                                Campo{"Bo", &Losa::Bo},         Campo{"Ho", &Losa::Ho},
-                                Campo{"So", &Losa::So},         Campo{"Bm", &Losa::Bm},
-                                Campo{"Hm", &Losa::Hm},         Campo{"Loseta", &Losa::Loseta}};
+constexpr std::tuple CamposLosa{
+    Campo{"Nombre", &losas::Losa::Nombre}, Campo{"OpcionMaciza", &losas::Losa::OpcionMaciza},
+    Campo{"Bo", &losas::Losa::Bo},         Campo{"Ho", &losas::Losa::Ho},
+    Campo{"So", &losas::Losa::So},         Campo{"Bm", &losas::Losa::Bm},
+    Campo{"Hm", &losas::Losa::Hm},         Campo{"Loseta", &losas::Losa::Loseta}};
 
-constexpr std::tuple CamposTramo{Campo{"LT", &Tramo::LT}, Campo{"Wp", &Tramo::Wp}, Campo{"WV", &Tramo::WV},
-                                 Campo{"p1", &Tramo::p1}, Campo{"L1", &Tramo::L1}};
+constexpr std::tuple CamposTramo{Campo{"LT", &losas::Tramo::LT}, Campo{"Wp", &losas::Tramo::Wp},
+                                 Campo{"WV", &losas::Tramo::WV}, Campo{"p1", &losas::Tramo::p1},
+                                 Campo{"L1", &losas::Tramo::L1}};
 
-constexpr std::tuple CamposEje{Campo{"Eje", &EjeLosa::Eje}, Campo{"Tipo", &EjeLosa::Tipo},
-                               Campo{"Lizq", &EjeLosa::Lizq}, Campo{"Lder", &EjeLosa::Lder},
-                               Campo{"HV", &EjeLosa::HV}};
+constexpr std::tuple CamposEje{Campo{"Eje", &losas::EjeLosa::Eje}, Campo{"Tipo", &losas::EjeLosa::Tipo},
+                               Campo{"Lizq", &losas::EjeLosa::Lizq}, Campo{"Lder", &losas::EjeLosa::Lder},
+                               Campo{"HV", &losas::EjeLosa::HV}};
 
-constexpr std::tuple CamposJuntaD{Campo{"Junta", &JuntaD::Junta}, Campo{"x", &JuntaD::x},
-                                  Campo{"y", &JuntaD::y}};
+constexpr std::tuple CamposJuntaD{Campo{"Junta", &losas::JuntaD::Junta}, Campo{"x", &losas::JuntaD::x},
+                                  Campo{"y", &losas::JuntaD::y}};
 
-constexpr std::tuple CamposEstadoJunta{Campo{"Eje", &EstadoJunta::Eje}, Campo{"x", &EstadoJunta::x},
-                                       Campo{"y", &EstadoJunta::y},     Campo{"DX", &EstadoJunta::DX},
-                                       Campo{"DY", &EstadoJunta::DY},   Campo{"Giro", &EstadoJunta::Giro},
-                                       Campo{"RV", &EstadoJunta::RV},   Campo{"RH", &EstadoJunta::RH}};
+constexpr std::tuple CamposEstadoJunta{
+    Campo{"Eje", &losas::EstadoJunta::Eje}, Campo{"x", &losas::EstadoJunta::x},
+    Campo{"y", &losas::EstadoJunta::y},     Campo{"DX", &losas::EstadoJunta::DX},
+    Campo{"DY", &losas::EstadoJunta::DY},   Campo{"Giro", &losas::EstadoJunta::Giro},
+    Campo{"RV", &losas::EstadoJunta::RV},   Campo{"RH", &losas::EstadoJunta::RH}};
 
 constexpr std::tuple CamposEsfuerzos{
-    Campo{"MomentoA", &EsfuerzosTramo::MomentoA}, Campo{"CorteA", &EsfuerzosTramo::CorteA},
-    Campo{"AxialA", &EsfuerzosTramo::AxialA},     Campo{"MomentoB", &EsfuerzosTramo::MomentoB},
-    Campo{"CorteB", &EsfuerzosTramo::CorteB},     Campo{"AxialB", &EsfuerzosTramo::AxialB}};
+    Campo{"MomentoA", &losas::EsfuerzosTramo::MomentoA}, Campo{"CorteA", &losas::EsfuerzosTramo::CorteA},
+    Campo{"AxialA", &losas::EsfuerzosTramo::AxialA},     Campo{"MomentoB", &losas::EsfuerzosTramo::MomentoB},
+    Campo{"CorteB", &losas::EsfuerzosTramo::CorteB},     Campo{"AxialB", &losas::EsfuerzosTramo::AxialB}};
 
-constexpr std::tuple CamposDisenoEje{Campo{"AS1", &DisenoDeEje::AS1},   Campo{"AS2", &DisenoDeEje::AS2},
-                                     Campo{"MczI", &DisenoDeEje::MczI}, Campo{"MczD", &DisenoDeEje::MczD},
-                                     Campo{"PtoI", &DisenoDeEje::PtoI}, Campo{"PtoD", &DisenoDeEje::PtoD}};
+constexpr std::tuple CamposDisenoEje{
+    Campo{"AS1", &losas::DisenoDeEje::AS1},   Campo{"AS2", &losas::DisenoDeEje::AS2},
+    Campo{"MczI", &losas::DisenoDeEje::MczI}, Campo{"MczD", &losas::DisenoDeEje::MczD},
+    Campo{"PtoI", &losas::DisenoDeEje::PtoI}, Campo{"PtoD", &losas::DisenoDeEje::PtoD}};
 
-constexpr std::tuple CamposDisenoTramo{Campo{"MT", &DisenoDeTramo::MT}, Campo{"x", &DisenoDeTramo::x},
-                                       Campo{"AS1", &DisenoDeTramo::AS1}, Campo{"AS2", &DisenoDeTramo::AS2}};
+constexpr std::tuple CamposDisenoTramo{
+    Campo{"MT", &losas::DisenoDeTramo::MT}, Campo{"x", &losas::DisenoDeTramo::x},
+    Campo{"AS1", &losas::DisenoDeTramo::AS1}, Campo{"AS2", &losas::DisenoDeTramo::AS2}};
 
-constexpr std::tuple CamposMaximos{Campo{"MaxMomentoApoyo", &ResultadosLosa::MaxMomentoApoyo},
-                                   Campo{"MaxCorte", &ResultadosLosa::MaxCorte},
-                                   Campo{"MaxMomentoTramo", &ResultadosLosa::MaxMomentoTramo}};
+constexpr std::tuple CamposMaximos{Campo{"MaxMomentoApoyo", &losas::ResultadosLosa::MaxMomentoApoyo},
+                                   Campo{"MaxCorte", &losas::ResultadosLosa::MaxCorte},
+                                   Campo{"MaxMomentoTramo", &losas::ResultadosLosa::MaxMomentoTramo}};
 
 template <class PorCaso, class Campos>
 void EscribirPorCaso(Escritor& json, const PorCaso& porCaso, const Campos& campos) {
     json.StartArray();
-    for (const std::size_t caso : {CasoPermanente, CasoVariable})
+    for (const std::size_t caso : {losas::CasoPermanente, losas::CasoVariable})
         EscribirArreglo(json, porCaso[caso], campos);
     json.EndArray();
 }
@@ -73,7 +78,7 @@ std::string GeneralesJson(const DatosGenerales& generales) {
     return ObjetoJson(generales, CamposGenerales);
 }
 
-std::string LosaJson(const Losa& losa, const ResultadosLosa& resultados) {
+std::string LosaJson(const losas::Losa& losa, const losas::ResultadosLosa& resultados) {
     rapidjson::StringBuffer texto;
     Escritor json(texto);
     json.StartObject();
@@ -98,4 +103,4 @@ std::string LosaJson(const Losa& losa, const ResultadosLosa& resultados) {
     return {texto.GetString(), texto.GetSize()};
 }
 
-}  // namespace trabex
+}  // namespace trabex::lote

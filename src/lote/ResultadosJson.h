@@ -6,7 +6,7 @@
 #include "slab/Losa.h"
 #include "slab/ResultadosLosa.h"
 
-namespace trabex {
+namespace trabex::lote {
 
 /// Records as JSON objects whose keys are the records' field names. Numbers are written in full precision, so
 /// that they read back as the same doubles; one that is no number is null. Dates are ISO 8601. Arrays leave
@@ -15,6 +15,6 @@ std::string ProyectoJson(const DatosDelProyecto& datos);
 std::string GeneralesJson(const DatosGenerales& generales);
 
 /// A slab with its data and its results; `error` stands in it only when its calculation ended in one.
-std::string LosaJson(const Losa& losa, const ResultadosLosa& resultados);
+std::string LosaJson(const losas::Losa& losa, const losas::ResultadosLosa& resultados);
 
-}  // namespace trabex
+}  // namespace trabex::lote

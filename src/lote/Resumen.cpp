@@ -6,7 +6,7 @@
 
 #include "base/Texto.h"
 
-namespace trabex {
+namespace trabex::lote {
 
 namespace {
 
@@ -87,24 +87,24 @@ void Bajar(Numero& menor, Numero valor) {
 
 }  // namespace
 
-ResumenLosa Resumir(const Losa& losa, const ResultadosLosa& r) {
+ResumenLosa Resumir(const losas::Losa& losa, const losas::ResultadosLosa& r) {
     ResumenLosa resumen;
     resumen.Nombre = losa.Nombre;
     resumen.OpcionMaciza = losa.OpcionMaciza;
     resumen.Tramos = losa.Tramos.size() - 1;
-    for (const Tramo& tramo : losa.Tramos) resumen.Longitud += tramo.LT;
+    for (const losas::Tramo& tramo : losa.Tramos) resumen.Longitud += tramo.LT;
     resumen.MaxMomentoApoyo = r.MaxMomentoApoyo;
     resumen.MaxMomentoTramo = r.MaxMomentoTramo;
     resumen.MaxCorte = r.MaxCorte;
-    for (const DisenoDeEje& eje : r.DisenoEje)
+    for (const losas::DisenoDeEje& eje : r.DisenoEje)
         resumen.AceroSuperior = std::max(resumen.AceroSuperior, eje.AS1);
-    for (const DisenoDeTramo& tramo : r.DisenoTramo)
+    for (const losas::DisenoDeTramo& tramo : r.DisenoTramo)
         resumen.AceroInferior = std::max(resumen.AceroInferior, tramo.AS2);
     if (r.Error) resumen.Error = r.Error->Texto();
     return resumen;
 }
 
-ResumenEscaleraT Resumir(const DatosEscaleraT& escalera, const ResultadosEscaleraT& r) {
+ResumenEscaleraT Resumir(const escaleras::DatosEscaleraT& escalera, const escaleras::ResultadosEscaleraT& r) {
     ResumenEscaleraT resumen;
     resumen.Nombre = escalera.Nombre;
     resumen.L = escalera.L;
@@ -112,7 +112,7 @@ ResumenEscaleraT Resumir(const DatosEscaleraT& escalera, const ResultadosEscaler
     resumen.H = escalera.H;
     resumen.ReaccionVertical = r.ReaccionVertical;
     resumen.ReaccionHorizontal = r.ReaccionHorizontal;
-    for (const EscaleraTramoPunto& punto : r.TramoT) {
+    for (const escaleras::EscaleraTramoPunto& punto : r.TramoT) {
         Subir(resumen.MaxMomento, punto.MomentoTotal);
         Subir(resumen.MaxMomento, punto.MomentoPermanente);
         Subir(resumen.AceroSuperior, punto.AsSuperior + punto.AsTorsion);
@@ -123,7 +123,7 @@ ResumenEscaleraT Resumir(const DatosEscaleraT& escalera, const ResultadosEscaler
     return resumen;
 }
 
-ResumenEscaleraH Resumir(const DatosEscaleraH& escalera, const ResultadosEscaleraH& r) {
+ResumenEscaleraH Resumir(const helices::DatosEscaleraH& escalera, const helices::ResultadosEscaleraH& r) {
     ResumenEscaleraH resumen;
     resumen.Nombre = escalera.Nombre;
     resumen.R = escalera.R;
@@ -132,7 +132,7 @@ ResumenEscaleraH Resumir(const DatosEscaleraH& escalera, const ResultadosEscaler
     resumen.FV = r.FV;
     resumen.Fh = r.Fh;
     for (const auto* tramo : {&r.TramoSuperior, &r.TramoInferior}) {
-        for (const EstacionEscaleraH& estacion : *tramo) {
+        for (const helices::EstacionEscaleraH& estacion : *tramo) {
             Subir(resumen.MaxMX, estacion.MX);
             Subir(resumen.MaxMY, estacion.MY);
             Subir(resumen.MaxMT, estacion.MT);
@@ -143,12 +143,12 @@ ResumenEscaleraH Resumir(const DatosEscaleraH& escalera, const ResultadosEscaler
     return resumen;
 }
 
-ResumenMarcus Resumir(const NivelMarcus& nivel, const std::string& error) {
+ResumenMarcus Resumir(const marcus::NivelMarcus& nivel, const std::string& error) {
     ResumenMarcus resumen;
     resumen.Nombre = nivel.Nombre;
     resumen.Panos = nivel.Filas.size();
     resumen.MinCX = nivel.Filas.empty() ? 0 : 1;
-    for (const PanoMarcus& pano : nivel.Filas) {
+    for (const marcus::PanoMarcus& pano : nivel.Filas) {
         resumen.MinCX = std::min(resumen.MinCX, pano.Reparto.CX);
         resumen.MaxCX = std::max(resumen.MaxCX, pano.Reparto.CX);
         Subir(resumen.MaxWX, pano.Reparto.WX);
@@ -213,4 +213,4 @@ std::string TablaDe(const std::vector<ResumenMarcus>& niveles, const Separadores
     return Tabla<R>(niveles, {"Nivel (Markus)"}, SoloNombre<R>, columnas, separadores);
 }
 
-}  // namespace trabex
+}  // namespace trabex::lote

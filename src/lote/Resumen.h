@@ -14,7 +14,7 @@
 #include "stairs/DatosEscaleraT.h"
 #include "stairs/ResultadosEscaleraT.h"
 
-namespace trabex {
+namespace trabex::lote {
 
 /// What the summary says of one element: its extremes. Lengths in m, moments in kgf·m, forces in kgf, steel
 /// in cm², spacings in cm. `Error` is the text of the run-time error that ended its calculation.
@@ -63,10 +63,12 @@ struct ResumenMarcus {
     std::string Error;
 };
 
-ResumenLosa Resumir(const Losa& losa, const ResultadosLosa& resultados);
-ResumenEscaleraT Resumir(const DatosEscaleraT& escalera, const ResultadosEscaleraT& resultados);
-ResumenEscaleraH Resumir(const DatosEscaleraH& escalera, const ResultadosEscaleraH& resultados);
-ResumenMarcus Resumir(const NivelMarcus& nivel, const std::string& error);
+ResumenLosa Resumir(const losas::Losa& losa, const losas::ResultadosLosa& resultados);
+ResumenEscaleraT Resumir(const escaleras::DatosEscaleraT& escalera,
+                         const escaleras::ResultadosEscaleraT& resultados);
+ResumenEscaleraH Resumir(const helices::DatosEscaleraH& escalera,
+                         const helices::ResultadosEscaleraH& resultados);
+ResumenMarcus Resumir(const marcus::NivelMarcus& nivel, const std::string& error);
 
 /// The summaries of a kind as a table of plain text, a heading and an element a line.
 std::string TablaDe(const std::vector<ResumenLosa>& losas, const Separadores& separadores);
@@ -74,4 +76,4 @@ std::string TablaDe(const std::vector<ResumenEscaleraT>& escaleras, const Separa
 std::string TablaDe(const std::vector<ResumenEscaleraH>& escaleras, const Separadores& separadores);
 std::string TablaDe(const std::vector<ResumenMarcus>& niveles, const Separadores& separadores);
 
-}  // namespace trabex
+}  // namespace trabex::lote

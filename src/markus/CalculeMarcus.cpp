@@ -9,7 +9,7 @@
 #include "base/Texto.h"
 #include "base/VigilanciaFlotante.h"
 
-namespace trabex {
+namespace trabex::marcus {
 
 namespace {
 
@@ -81,4 +81,4 @@ void CalculeMarcus(std::span<FilaMarcus> filas) {
     for (FilaMarcus& fila : filas) fila.Reparto = recorrido.Repartir(LeerFila(fila));
 }
 
-}  // namespace trabex
+}  // namespace trabex::marcus

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace trabex {
+namespace trabex::marcus {
 
 /// What the method finds for a panel. The shares add up to 1 only where CX is above 0.
 struct RepartoMarcus {
@@ -52,4 +52,4 @@ void CalculePanos(std::span<PanoMarcus> panos);
 /// 6 at a case past 16 bits; the results of that row and those after it stay as they were.
 void CalculeMarcus(std::span<FilaMarcus> filas);
 
-}  // namespace trabex
+}  // namespace trabex::marcus

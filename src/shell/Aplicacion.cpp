@@ -3,7 +3,7 @@
 #include <cctype>
 #include <vector>
 
-namespace trabex {
+namespace trabex::programa {
 
 namespace {
 
@@ -33,4 +33,4 @@ Separadores LeerSeparadores(const std::string& muestra) {
     return {caracteres[1], caracteres[5]};
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa

@@ -9,7 +9,7 @@
 #include "slab/Losa.h"
 #include "store/tablas/TablasProyecto.h"
 
-namespace trabex {
+namespace trabex::programa {
 
 /// The state of the program, one instance for the life of the process, passed by reference.
 struct Aplicacion {
@@ -25,7 +25,7 @@ struct Aplicacion {
     Separadores SeparadoresLocales;
     Tapiz Preferencias;
 
-    ProyectoAbierto Proyecto;  ///< connected while a workspace is up
+    almacen::tablas::ProyectoAbierto Proyecto;  ///< connected while a workspace is up
     DatosDelProyecto Datos;
     DatosGenerales Generales;
     bool LosaModificada = false;  ///< a window saved something: the workspace calculates again
@@ -42,4 +42,4 @@ std::string TituloConProyecto(const std::string& nombre);
 /// Separators of the locale, from 1234.56 as it writes it: its second and its sixth character.
 Separadores LeerSeparadores(const std::string& muestra);
 
-}  // namespace trabex
+}  // namespace trabex::programa

@@ -5,7 +5,7 @@
 #include "base/Archivos.h"
 #include "store/Mantenimiento.h"
 
-namespace trabex {
+namespace trabex::programa {
 
 namespace {
 
@@ -46,7 +46,7 @@ void RefrescarTapiz(const std::filesystem::path& entregado, const std::filesyste
 void CopiarSiFalta(const std::filesystem::path& origen, const std::filesystem::path& destino) {
     if (Existe(destino)) return;
     try {
-        OlvidarGuardado(destino);
+        almacen::OlvidarGuardado(destino);
         CopiarArchivo(origen, destino);
     } catch (const ErrorEjecucion&) {
         return;  // it shows where the file is needed
@@ -88,4 +88,4 @@ void LeerPreferencias(Aplicacion& aplicacion) {
     aplicacion.Preferencias = LeerTapiz(ArchivoTapiz(aplicacion), imagen);
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa

@@ -5,7 +5,7 @@
 #include "shell/Aplicacion.h"
 #include "shell/Plataforma.h"
 
-namespace trabex {
+namespace trabex::programa {
 
 /// Folder of the company's programs, in the documents folder or in the root that machines share.
 inline constexpr const char* CarpetaComun = "Nodara Software";
@@ -23,4 +23,4 @@ void LeerPreferencias(Aplicacion& aplicacion);
 std::filesystem::path ArchivoTapiz(const Aplicacion& aplicacion);
 std::filesystem::path ImagenPorDefecto(const Aplicacion& aplicacion);
 
-}  // namespace trabex
+}  // namespace trabex::programa

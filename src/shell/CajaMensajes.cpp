@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-namespace trabex {
+namespace trabex::programa {
 
 namespace {
 
@@ -65,4 +65,4 @@ Mensaje Pregunta(const std::string& texto, const std::string& encabezado) {
     return mensaje;
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa

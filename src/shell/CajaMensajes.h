@@ -6,7 +6,7 @@
 
 #include "base/ErrorEjecucion.h"
 
-namespace trabex {
+namespace trabex::programa {
 
 /// The program's name, as the caption of its boxes.
 inline constexpr const char* TituloPrograma = "Trabex 2024";
@@ -79,4 +79,4 @@ Mensaje Aviso(const std::string& texto, const std::string& encabezado);
 /// A question with two buttons, the first by default.
 Mensaje Pregunta(const std::string& texto, const std::string& encabezado);
 
-}  // namespace trabex
+}  // namespace trabex::programa

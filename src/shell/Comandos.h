@@ -3,7 +3,7 @@
 #include <array>
 #include <string_view>
 
-namespace trabex {
+namespace trabex::programa {
 
 /// Menus of the main window, in order.
 enum class Menu { Proyecto, Calculo, Mantenimiento, Ayuda };
@@ -40,4 +40,4 @@ inline constexpr std::array<Comando, 17> Comandos{{
     {"ID_Sobre", "ACERCA DE Trabex 2024...", Menu::Ayuda, "sobre", false, true},
 }};
 
-}  // namespace trabex
+}  // namespace trabex::programa

@@ -9,7 +9,7 @@
 #include "store/Comparacion.h"
 #include "store/Mantenimiento.h"
 
-namespace trabex {
+namespace trabex::programa {
 
 namespace {
 
@@ -29,7 +29,7 @@ std::vector<std::string> ListarProyectos(const std::filesystem::path& carpeta) {
         if (Mayusculas(TextoDeCamino(archivo.extension())) == ".LOS")
             nombres.push_back(TextoDeCamino(archivo.filename()));
     }
-    const Comparador comparador;
+    const almacen::Comparador comparador;
     std::sort(nombres.begin(), nombres.end(),
               [&](const std::string& a, const std::string& b) { return comparador.Comparar(a, b) < 0; });
     return nombres;
@@ -53,7 +53,7 @@ void Compactar1::Compactar(const std::filesystem::path& archivo) {
     const std::filesystem::path destino = aplicacion_.CaminoTemporales / NombreTemporal();
     std::error_code error;
     if (std::filesystem::exists(destino, error)) BorrarArchivo(destino);
-    if (!CompactarBaseDatos(archivo, destino)) {
+    if (!almacen::CompactarBaseDatos(archivo, destino)) {
         Mensaje fallo;
         fallo.Texto = " Error: " + std::to_string(static_cast<int>(CodigoError::ErrorAccesoRuta));
         fallo.Encabezado = "Error Inesperado";
@@ -62,7 +62,7 @@ void Compactar1::Compactar(const std::filesystem::path& archivo) {
         caja_.Mostrar(fallo);
     }
     BorrarArchivo(archivo);
-    OlvidarGuardado(archivo);
+    almacen::OlvidarGuardado(archivo);
     CopiarArchivo(destino, archivo);
 }
 
@@ -115,4 +115,4 @@ void Compactar1::Aceptar(const std::filesystem::path& carpeta, const std::vector
     vista_.Cerrar();
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa

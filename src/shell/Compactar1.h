@@ -7,7 +7,7 @@
 #include "shell/Aplicacion.h"
 #include "shell/CajaMensajes.h"
 
-namespace trabex {
+namespace trabex::programa {
 
 class VistaCompactar {
   public:
@@ -47,4 +47,4 @@ class Compactar1 {
     CajaMensajes& caja_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::programa

@@ -2,7 +2,7 @@
 
 #include "shell/Arranque.h"
 
-namespace trabex {
+namespace trabex::programa {
 
 ResultadoConfiguracion AceptarConfiguracion(Aplicacion& aplicacion, CajaMensajes& caja,
                                             const Tapiz& elegida) {
@@ -23,4 +23,4 @@ ResultadoConfiguracion AceptarConfiguracion(Aplicacion& aplicacion, CajaMensajes
     return ResultadoConfiguracion::Guardada;
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa

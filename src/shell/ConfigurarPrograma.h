@@ -3,7 +3,7 @@
 #include "shell/Aplicacion.h"
 #include "shell/CajaMensajes.h"
 
-namespace trabex {
+namespace trabex::programa {
 
 /// What " Aceptar " of the settings window came to.
 enum class ResultadoConfiguracion { SigueAbierta, Guardada, SinGuardar };
@@ -12,4 +12,4 @@ enum class ResultadoConfiguracion { SigueAbierta, Guardada, SinGuardar };
 /// can't be written shows the fixed error form and leaves the window open.
 ResultadoConfiguracion AceptarConfiguracion(Aplicacion& aplicacion, CajaMensajes& caja, const Tapiz& elegida);
 
-}  // namespace trabex
+}  // namespace trabex::programa

@@ -1,22 +1,22 @@
 #include "shell/DatosProyecto.h"
 
-namespace trabex {
+namespace trabex::programa {
 
 const DatosDelProyecto& DatosProyecto::Leer() {
-    Conexion conexion;
-    AbrirConexion(conexion, aplicacion_.ArchivoProyecto);
-    LeerProyecto(conexion, aplicacion_.Usuario, aplicacion_.Datos);
+    almacen::Conexion conexion;
+    almacen::AbrirConexion(conexion, aplicacion_.ArchivoProyecto);
+    almacen::tablas::LeerProyecto(conexion, aplicacion_.Usuario, aplicacion_.Datos);
     return aplicacion_.Datos;
 }
 
 bool DatosProyecto::Salvar(const DatosDelProyecto& datos) {
-    Conexion conexion;
-    AbrirConexion(conexion, aplicacion_.ArchivoProyecto);
-    Transaccion guardado(conexion);
+    almacen::Conexion conexion;
+    almacen::AbrirConexion(conexion, aplicacion_.ArchivoProyecto);
+    almacen::Transaccion guardado(conexion);
     conexion.Ejecutar("DELETE * FROM Proyecto");
-    Recordset registros;
-    AbrirRecordset(conexion, registros, "Proyecto");
-    const bool agregado = AgregarProyecto(registros, datos);
+    almacen::Recordset registros;
+    almacen::AbrirRecordset(conexion, registros, "Proyecto");
+    const bool agregado = almacen::tablas::AgregarProyecto(registros, datos);
     if (!guardado.Confirmar() || !agregado) {
         caja_.Mostrar(MensajeSinGuardar());
         return false;
@@ -25,4 +25,4 @@ bool DatosProyecto::Salvar(const DatosDelProyecto& datos) {
     return true;
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa

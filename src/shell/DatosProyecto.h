@@ -3,7 +3,7 @@
 #include "shell/Aplicacion.h"
 #include "shell/CajaMensajes.h"
 
-namespace trabex {
+namespace trabex::programa {
 
 /// Operations of the window that edits the project's title data.
 class DatosProyecto {
@@ -21,4 +21,4 @@ class DatosProyecto {
     CajaMensajes& caja_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::programa

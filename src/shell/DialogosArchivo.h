@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-namespace trabex {
+namespace trabex::programa {
 
 /// What a file dialog is asked for.
 struct PeticionArchivo {
@@ -24,4 +24,4 @@ class DialogosArchivo {
     virtual std::optional<std::filesystem::path> Elegir(const PeticionArchivo& peticion) = 0;
 };
 
-}  // namespace trabex
+}  // namespace trabex::programa

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace trabex {
+namespace trabex::programa {
 
 /// The pointer of long work on a window's view, for as long as this stands.
 template <class Vista>
@@ -15,4 +15,4 @@ class Espera {
     Vista& vista_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::programa

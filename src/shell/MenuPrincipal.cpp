@@ -10,7 +10,7 @@
 #include "store/Comparacion.h"
 #include "store/Mantenimiento.h"
 
-namespace trabex {
+namespace trabex::programa {
 
 namespace {
 
@@ -104,7 +104,7 @@ void MenuPrincipal::CrearNuevoProyecto() {
 
 void MenuPrincipal::Reemplazar(const std::filesystem::path& archivo) {
     if (Existe(archivo)) BorrarArchivo(archivo);
-    OlvidarGuardado(archivo);
+    almacen::OlvidarGuardado(archivo);
     CopiarArchivo(aplicacion_.CaminoPrograma / "Imagen" / "LosaImagen.tbx", archivo);
 }
 
@@ -126,7 +126,7 @@ std::optional<std::filesystem::path> MenuPrincipal::ElegirDestino() {
             {"Salvar el Proyecto Como...", FiltroProyectos, CarpetaProyectos(), true, false, false});
         if (!archivo) return std::nullopt;
         const std::string titulo = NombreDe(*archivo);
-        if (Comparador().Comparar(normal(*archivo), normal(aplicacion_.ArchivoProyecto)) == 0) {
+        if (almacen::Comparador().Comparar(normal(*archivo), normal(aplicacion_.ArchivoProyecto)) == 0) {
             Mensaje mismo;
             mismo.Texto = "Proyecto: " + titulo + "\n!No se puede Salvar el Proyecto con el mismo Nombre!";
             mismo.Encabezado = "Salvar el Proyecto Como...";
@@ -147,8 +147,8 @@ void MenuPrincipal::SalvarComo() {
     if (!archivo) return;
     const Espera espera(vista_);
     try {
-        AsentarBaseDatos(aplicacion_.ArchivoProyecto);
-        OlvidarGuardado(*archivo);
+        almacen::AsentarBaseDatos(aplicacion_.ArchivoProyecto);
+        almacen::OlvidarGuardado(*archivo);
         CopiarArchivo(aplicacion_.ArchivoProyecto, *archivo);
         HacerActual(*archivo);
     } catch (const ErrorEjecucion& error) {
@@ -240,4 +240,4 @@ void MenuPrincipal::ColoqueTapiz() {
     vista_.PonerTapiz(aplicacion_.Preferencias);
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa

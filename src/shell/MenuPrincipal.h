@@ -8,7 +8,7 @@
 #include "shell/DialogosArchivo.h"
 #include "shell/Plataforma.h"
 
-namespace trabex {
+namespace trabex::programa {
 
 /// The windows in which the elements of a project are worked on.
 enum class Espacio { Losas, Marcus, AnalisisCargaP, EscaleraT, EscaleraH, AnalisisCarga };
@@ -84,4 +84,4 @@ class MenuPrincipal {
     Plataforma& plataforma_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::programa

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-namespace trabex {
+namespace trabex::programa {
 
 /// What differs by operating system, in one small place.
 class Plataforma {
@@ -30,4 +30,4 @@ class Plataforma {
     virtual bool InformacionDelSistema() = 0;
 };
 
-}  // namespace trabex
+}  // namespace trabex::programa

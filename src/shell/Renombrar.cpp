@@ -3,12 +3,12 @@
 #include "base/Texto.h"
 #include "store/Recordset.h"
 
-namespace trabex {
+namespace trabex::programa {
 
-bool ExisteNombre(Conexion& conexion, std::string_view tabla, const std::string& nombre) {
-    Recordset registros;
-    AbrirRecordset(conexion, registros, tabla);
-    BuscarRegistro(registros, "Nombre=" + EntreComillas(nombre));
+bool ExisteNombre(almacen::Conexion& conexion, std::string_view tabla, const std::string& nombre) {
+    almacen::Recordset registros;
+    almacen::AbrirRecordset(conexion, registros, tabla);
+    almacen::BuscarRegistro(registros, "Nombre=" + almacen::EntreComillas(nombre));
     return registros.Encontrado();
 }
 
@@ -27,4 +27,4 @@ bool Renombrar::Aceptar(const std::string& entrado) {
     return true;
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa

@@ -6,7 +6,7 @@
 #include "shell/CajaMensajes.h"
 #include "store/Conexion.h"
 
-namespace trabex {
+namespace trabex::programa {
 
 /// A kind of element as the rename window names it.
 struct ClaseRenombrable {
@@ -21,7 +21,8 @@ inline constexpr ClaseRenombrable RenombrarLosa{
 /// Operations of the window that asks for an element's new name. It writes nothing: the workspace does.
 class Renombrar {
   public:
-    Renombrar(Conexion& conexion, CajaMensajes& caja, const ClaseRenombrable& clase, std::string actual)
+    Renombrar(almacen::Conexion& conexion, CajaMensajes& caja, const ClaseRenombrable& clase,
+              std::string actual)
         : conexion_(conexion), caja_(caja), clase_(clase), actual_(std::move(actual)) {}
 
     const std::string& NombreActual() const { return actual_; }
@@ -32,7 +33,7 @@ class Renombrar {
     bool Aceptar(const std::string& entrado);
 
   private:
-    Conexion& conexion_;
+    almacen::Conexion& conexion_;
     CajaMensajes& caja_;
     const ClaseRenombrable& clase_;
     std::string actual_;
@@ -41,6 +42,6 @@ class Renombrar {
 
 /// Some record of `tabla` has that name. A name that holds a quote counts as taken wherever the table has
 /// records: its search breaks.
-bool ExisteNombre(Conexion& conexion, std::string_view tabla, const std::string& nombre);
+bool ExisteNombre(almacen::Conexion& conexion, std::string_view tabla, const std::string& nombre);
 
-}  // namespace trabex
+}  // namespace trabex::programa

@@ -7,7 +7,7 @@
 
 #include "base/Archivos.h"
 
-namespace trabex {
+namespace trabex::programa {
 
 namespace {
 
@@ -117,4 +117,4 @@ void GuardarTapiz(const std::filesystem::path& archivo, const Tapiz& tapiz) {
     EscribirArchivo(archivo, bytes);
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <string>
 
-namespace trabex {
+namespace trabex::programa {
 
 /// The user's settings: the ten records of `Tapiz.tbx`.
 struct Tapiz {
@@ -38,4 +38,4 @@ Tapiz LeerTapiz(const std::filesystem::path& archivo, const std::filesystem::pat
 /// Writes the settings. Throws ErrorEjecucion.
 void GuardarTapiz(const std::filesystem::path& archivo, const Tapiz& tapiz);
 
-}  // namespace trabex
+}  // namespace trabex::programa

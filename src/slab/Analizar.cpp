@@ -10,7 +10,7 @@
 #include "slab/EsfuerzosTramo.h"
 #include "slab/Geometria.h"
 
-namespace trabex {
+namespace trabex::losas {
 
 namespace {
 
@@ -368,4 +368,4 @@ bool Analizar(const Losa& losa, const DatosGenerales& generales, ResultadosLosa&
     return true;
 }
 
-}  // namespace trabex
+}  // namespace trabex::losas

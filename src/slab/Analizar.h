@@ -3,7 +3,7 @@
 #include "slab/Losa.h"
 #include "slab/ResultadosLosa.h"
 
-namespace trabex {
+namespace trabex::losas {
 
 /// Largest number of spans: past it the 16-bit count of the stiffness matrix' rows, 3(N + 1) + 6, overflows.
 inline constexpr std::int16_t MaximoTramos = 10919;
@@ -20,4 +20,4 @@ inline constexpr std::int16_t MaximoTramos = 10919;
 /// does not exist, 11, 6 or 5 for a floating-point fault.
 bool Analizar(const Losa& losa, const DatosGenerales& generales, ResultadosLosa& resultados);
 
-}  // namespace trabex
+}  // namespace trabex::losas

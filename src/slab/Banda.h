@@ -6,7 +6,7 @@
 
 #include "slab/ParDeCasos.h"
 
-namespace trabex {
+namespace trabex::losas {
 
 /// Upper band of a symmetric matrix, by rows of B entries: K(r, 1) is the diagonal and K(r, c) the entry in
 /// column r + c − 1. Rows and band columns count from 1; everything starts at zero.
@@ -97,4 +97,4 @@ void CalculoDPZ(MatrizBanda<B>& K, std::vector<ParDeCasos>& F, std::size_t NDOF,
     SustituirAtras(K, F, NDOF);
 }
 
-}  // namespace trabex
+}  // namespace trabex::losas

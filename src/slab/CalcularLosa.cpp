@@ -9,7 +9,7 @@
 #include "slab/EsfuerzosTramo.h"
 #include "slab/Geometria.h"
 
-namespace trabex {
+namespace trabex::losas {
 
 namespace {
 
@@ -144,4 +144,4 @@ void CalcularLosa(const Losa& losa, const DatosGenerales& generales, ResultadosL
     }
 }
 
-}  // namespace trabex
+}  // namespace trabex::losas

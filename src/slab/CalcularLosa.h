@@ -3,7 +3,7 @@
 #include "slab/Losa.h"
 #include "slab/ResultadosLosa.h"
 
-namespace trabex {
+namespace trabex::losas {
 
 /// Takes a slab to its finished results: analysis, steel at joints and spans, solid zones, inflection points.
 ///
@@ -12,4 +12,4 @@ namespace trabex {
 /// `resultados.Error`.
 void CalcularLosa(const Losa& losa, const DatosGenerales& generales, ResultadosLosa& resultados);
 
-}  // namespace trabex
+}  // namespace trabex::losas

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace trabex {
+namespace trabex::losas {
 
 DisenoSeccion::DisenoSeccion(const Losa& losa, const DatosGenerales& generales)
     : losa_(losa), generales_(generales) {
@@ -36,4 +36,4 @@ double DisenoSeccion::CalcularMacizado(std::size_t junta, double V, double M, do
     return std::max({x1, x2, 0.0});
 }
 
-}  // namespace trabex
+}  // namespace trabex::losas

@@ -5,7 +5,7 @@
 #include "base/RefuerzoFlexion.h"
 #include "slab/Losa.h"
 
-namespace trabex {
+namespace trabex::losas {
 
 /// Length of a solid zone as it is shown and reported, m: only what is above 0.3, else 0.
 inline double MacizadoVisible(double longitud) {
@@ -37,4 +37,4 @@ class DisenoSeccion {
     double Mlim_;  ///< limit moment of a rib, kgf·cm
 };
 
-}  // namespace trabex
+}  // namespace trabex::losas

@@ -4,7 +4,7 @@
 
 #include "base/Round.h"
 
-namespace trabex {
+namespace trabex::losas {
 
 namespace {
 
@@ -101,4 +101,4 @@ void EsfuerzosEnSeccion(const Tramo& tramo, const DatosGenerales& generales, dou
     V = V0 - v;
 }
 
-}  // namespace trabex
+}  // namespace trabex::losas

@@ -3,7 +3,7 @@
 #include "slab/Losa.h"
 #include "slab/ResultadosLosa.h"
 
-namespace trabex {
+namespace trabex::losas {
 
 /// FCP times the permanent value plus FCV times the live one.
 inline double Mayorar(const DatosGenerales& generales, double permanente, double variable) {
@@ -67,4 +67,4 @@ struct EstacionPuntual {
 void EsfuerzosEnSeccion(const Tramo& tramo, const DatosGenerales& generales, double xh, double C, double M0,
                         double V0, EstacionPuntual& estacion, double& M, double& V);
 
-}  // namespace trabex
+}  // namespace trabex::losas

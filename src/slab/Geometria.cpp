@@ -2,7 +2,7 @@
 
 #include "base/ErrorEjecucion.h"
 
-namespace trabex {
+namespace trabex::losas {
 
 CoordenadasJuntas CoordenarJuntas(const Losa& losa, double origen) {
     const std::size_t n = losa.Tramos.size();
@@ -23,4 +23,4 @@ CoordenadasJuntas CoordenarJuntas(const Losa& losa, double origen) {
     return juntas;
 }
 
-}  // namespace trabex
+}  // namespace trabex::losas

@@ -4,7 +4,7 @@
 
 #include "slab/Losa.h"
 
-namespace trabex {
+namespace trabex::losas {
 
 /// Position of the joints, m: X along the slab, Y downward. Counts from 1; slot 0 is free.
 struct CoordenadasJuntas {
@@ -16,4 +16,4 @@ struct CoordenadasJuntas {
 /// Throws ErrorEjecucion 9 when a shift names a joint that does not exist.
 CoordenadasJuntas CoordenarJuntas(const Losa& losa, double origen);
 
-}  // namespace trabex
+}  // namespace trabex::losas

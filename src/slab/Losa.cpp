@@ -2,7 +2,7 @@
 
 #include "base/Enteros.h"
 
-namespace trabex {
+namespace trabex::losas {
 
 namespace {
 
@@ -31,4 +31,4 @@ void VaciarLosa(Losa& losa) {
     losa.JuntasD.assign(1, {});
 }
 
-}  // namespace trabex
+}  // namespace trabex::losas

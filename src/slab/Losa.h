@@ -7,7 +7,7 @@
 
 #include "base/DatosGenerales.h"
 
-namespace trabex {
+namespace trabex::losas {
 
 /// One span, with its service loads. Loads of a ribbed slab are per rib, those of a solid slab per metre.
 struct Tramo {
@@ -74,4 +74,4 @@ SeccionLosa SeccionDeCalculo(const Losa& losa);
 /// Erases spans, axes and displaced joints, leaving their slot 0.
 void VaciarLosa(Losa& losa);
 
-}  // namespace trabex
+}  // namespace trabex::losas

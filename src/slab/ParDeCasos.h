@@ -3,7 +3,7 @@
 #include <array>
 #include <cstddef>
 
-namespace trabex {
+namespace trabex::losas {
 
 /// The two load cases of one quantity, side by side: permanent, live. What is the same for both is written
 /// once, and one vector instruction does both.
@@ -25,4 +25,4 @@ inline ParDeCasos& operator-=(ParDeCasos& a, const ParDeCasos& b) {
     return a = a - b;
 }
 
-}  // namespace trabex
+}  // namespace trabex::losas

@@ -8,7 +8,7 @@
 
 #include "base/ErrorEjecucion.h"
 
-namespace trabex {
+namespace trabex::losas {
 
 /// Load cases of a slab. Results by case are arrays of 3, slot 0 being empty.
 enum CasoCarga : std::size_t { CasoPermanente = 1, CasoVariable = 2 };
@@ -72,4 +72,4 @@ struct ResultadosLosa {
     std::optional<ErrorEjecucion> Error;  ///< the run-time error that ended the calculation, if one did
 };
 
-}  // namespace trabex
+}  // namespace trabex::losas

@@ -6,7 +6,7 @@
 #include "stairs/DisenoEscaleraT.h"
 #include "stairs/EstaticaEscaleraT.h"
 
-namespace trabex {
+namespace trabex::escaleras {
 
 namespace {
 
@@ -125,4 +125,4 @@ void CalcularEscaleraT(const DatosEscaleraT& escalera, const DatosGenerales& gen
     }
 }
 
-}  // namespace trabex
+}  // namespace trabex::escaleras

@@ -4,7 +4,7 @@
 #include "stairs/DatosEscaleraT.h"
 #include "stairs/ResultadosEscaleraT.h"
 
-namespace trabex {
+namespace trabex::escaleras {
 
 /// Takes a self-supporting stair to its finished results: statics in closed form, steel and stirrups at
 /// eleven stations of the flight, steel and shear at seven of the landing, reactions.
@@ -15,4 +15,4 @@ namespace trabex {
 void CalcularEscaleraT(const DatosEscaleraT& escalera, const DatosGenerales& generales,
                        ResultadosEscaleraT& resultados);
 
-}  // namespace trabex
+}  // namespace trabex::escaleras

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-namespace trabex {
+namespace trabex::escaleras {
 
 /// A self-supporting stair: two equal flights side by side that meet at a landing without support of its own,
 /// fixed at the foot of the lower flight and at the head of the upper one. A stair without stored data is one
@@ -26,4 +26,4 @@ inline DatosEscaleraT EscaleraTNuevaDe(const std::string& nombre, const std::str
     return {nombre, titulo, 2.7, 1.5, 3, 0.2, 0.2, 2076, 1865, 1040};
 }
 
-}  // namespace trabex
+}  // namespace trabex::escaleras

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace trabex {
+namespace trabex::escaleras {
 
 namespace {
 
@@ -102,4 +102,4 @@ void DisenarDescanso(const DatosEscaleraT& escalera, const DatosGenerales& gener
     punto.FallaCorte = punto.TensionAdmisible < punto.TensionCorte ? TextoFallaCorte : "";
 }
 
-}  // namespace trabex
+}  // namespace trabex::escaleras

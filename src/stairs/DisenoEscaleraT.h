@@ -4,7 +4,7 @@
 #include "stairs/DatosEscaleraT.h"
 #include "stairs/ResultadosEscaleraT.h"
 
-namespace trabex {
+namespace trabex::escaleras {
 
 /// Flexural steel of a section of the stair for a signed service moment M, kgf·m; width and height in m.
 inline AceroCaras CalculeRefuerzoEscalera(double M, double Ancho, double Alto,
@@ -38,4 +38,4 @@ void DisenarFlexionTramo(const DatosEscaleraT& escalera, const DatosGenerales& g
 void DisenarDescanso(const DatosEscaleraT& escalera, const DatosGenerales& generales,
                      EscaleraDescansoPunto& punto);
 
-}  // namespace trabex
+}  // namespace trabex::escaleras

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace trabex {
+namespace trabex::escaleras {
 
 namespace {
 
@@ -124,4 +124,4 @@ EscaleraDescansoPunto CalculoEstaticoT::EsfuerzosDescanso(double teta) const {
     return punto;
 }
 
-}  // namespace trabex
+}  // namespace trabex::escaleras

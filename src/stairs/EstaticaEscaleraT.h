@@ -3,7 +3,7 @@
 #include "stairs/DatosEscaleraT.h"
 #include "stairs/ResultadosEscaleraT.h"
 
-namespace trabex {
+namespace trabex::escaleras {
 
 /// Statics of one self-supporting stair, formula by formula.
 ///
@@ -38,4 +38,4 @@ class CalculoEstaticoT {
     EstaticaEscaleraT estatica_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::escaleras

@@ -6,7 +6,7 @@
 
 #include "base/ErrorEjecucion.h"
 
-namespace trabex {
+namespace trabex::escaleras {
 
 /// What the closed-form solution of a self-supporting stair fixes for all its stations.
 struct EstaticaEscaleraT {
@@ -72,4 +72,4 @@ struct ResultadosEscaleraT {
     std::optional<ErrorEjecucion> Error;           ///< the run-time error that ended the calculation
 };
 
-}  // namespace trabex
+}  // namespace trabex::escaleras

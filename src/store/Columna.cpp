@@ -10,7 +10,7 @@
 #include "base/Enteros.h"
 #include "base/Texto.h"
 
-namespace trabex {
+namespace trabex::almacen {
 
 namespace {
 
@@ -106,4 +106,4 @@ std::optional<Fecha> FechaDeTexto(std::string_view texto) {
     return fecha.ok() ? std::optional(fecha) : std::nullopt;
 }
 
-}  // namespace trabex
+}  // namespace trabex::almacen

@@ -7,7 +7,7 @@
 
 #include "store/Valor.h"
 
-namespace trabex {
+namespace trabex::almacen {
 
 /// A column as its table declares it.
 struct Columna {
@@ -26,4 +26,4 @@ std::optional<Valor> Admitir(const Columna& columna, const Valor& valor);
 /// The date of an ISO 8601 text, as dates are stored. Nothing when the text is no date.
 std::optional<Fecha> FechaDeTexto(std::string_view texto);
 
-}  // namespace trabex
+}  // namespace trabex::almacen

@@ -4,7 +4,7 @@
 #include <unicode/normalizer2.h>
 #include <unicode/unistr.h>
 
-namespace trabex {
+namespace trabex::almacen {
 
 struct Comparador::Interna {
     std::unique_ptr<icu::Collator> cotejo;
@@ -42,4 +42,4 @@ int Comparador::Comparar(std::string_view a, std::string_view b) const {
     return plegado(a).compareCodePointOrder(plegado(b));
 }
 
-}  // namespace trabex
+}  // namespace trabex::almacen

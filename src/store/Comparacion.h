@@ -3,7 +3,7 @@
 #include <memory>
 #include <string_view>
 
-namespace trabex {
+namespace trabex::almacen {
 
 /// How the store compares texts: without regard to case, with regard to accents, in Spanish order.
 /// `LOSA Ñ` equals `losa ñ`, `losá` differs from `losa`, and n < ñ < o. Texts are UTF-8; bytes that are not
@@ -23,4 +23,4 @@ class Comparador {
     std::unique_ptr<Interna> interna_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::almacen

@@ -3,7 +3,7 @@
 #include "store/Dialecto.h"
 #include "store/Motor.h"
 
-namespace trabex {
+namespace trabex::almacen {
 
 namespace {
 
@@ -92,4 +92,4 @@ bool Transaccion::Confirmar() {
     return motor->TerminarGuardado(true);
 }
 
-}  // namespace trabex
+}  // namespace trabex::almacen

@@ -4,7 +4,7 @@
 #include <memory>
 #include <string_view>
 
-namespace trabex {
+namespace trabex::almacen {
 
 class Motor;
 
@@ -65,4 +65,4 @@ class Transaccion {
     std::shared_ptr<Motor> motor_;  // null once confirmed
 };
 
-}  // namespace trabex
+}  // namespace trabex::almacen

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
-namespace trabex {
+namespace trabex::almacen {
 
 namespace {
 
@@ -89,4 +89,4 @@ std::optional<Criterio> LeerCriterio(std::string_view criterio) {
     return Criterio{campo, std::string(texto), true};
 }
 
-}  // namespace trabex
+}  // namespace trabex::almacen

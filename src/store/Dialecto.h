@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace trabex {
+namespace trabex::almacen {
 
 /// A text of the system's dialect as the engine takes it: `DELETE * FROM t` becomes `DELETE FROM t`. Texts in
 /// single quotes pass as they stand. Nothing when it holds a comment, a second statement, an open quote or a
@@ -34,4 +34,4 @@ struct Criterio {
 /// Nothing when the text is no criterion, as one whose name holds a quote.
 std::optional<Criterio> LeerCriterio(std::string_view criterio);
 
-}  // namespace trabex
+}  // namespace trabex::almacen

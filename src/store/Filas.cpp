@@ -1,6 +1,6 @@
 #include "store/Filas.h"
 
-namespace trabex {
+namespace trabex::almacen {
 
 std::string ConsultaDe(std::string_view tabla, const std::string& nombre, std::string_view orden) {
     std::string consulta = "SELECT * FROM " + std::string(tabla) + " WHERE Nombre=" + EntreComillas(nombre);
@@ -27,4 +27,4 @@ Valor Numero(std::size_t k) {
     return static_cast<double>(k);
 }
 
-}  // namespace trabex
+}  // namespace trabex::almacen

@@ -9,7 +9,7 @@
 #include "store/Recordset.h"
 #include "store/Valor.h"
 
-namespace trabex {
+namespace trabex::almacen {
 
 /// "SELECT * FROM tabla WHERE Nombre=…", with an order where one is given.
 std::string ConsultaDe(std::string_view tabla, const std::string& nombre, std::string_view orden = {});
@@ -22,4 +22,4 @@ bool EscribirFilas(Conexion& conexion, const char* tabla, const std::string& nom
 /// A row's number; one past the column's 16 bits is refused there.
 Valor Numero(std::size_t k);
 
-}  // namespace trabex
+}  // namespace trabex::almacen

@@ -9,7 +9,7 @@
 #include "store/Ligadura.h"
 #include "store/Motor.h"
 
-namespace trabex {
+namespace trabex::almacen {
 
 struct Insercion::Interna {
     std::shared_ptr<Motor> motor;
@@ -70,4 +70,4 @@ bool Insercion::Agregar() {
     return hecho;
 }
 
-}  // namespace trabex
+}  // namespace trabex::almacen

@@ -5,7 +5,7 @@
 
 #include "store/Valor.h"
 
-namespace trabex {
+namespace trabex::almacen {
 
 class Conexion;
 
@@ -32,4 +32,4 @@ class Insercion {
     std::unique_ptr<Interna> interna_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::almacen

@@ -8,7 +8,7 @@
 #include "base/Formatos.h"
 #include "store/Valor.h"
 
-namespace trabex {
+namespace trabex::almacen {
 
 /// Binds a value to place `i` of a statement, which must be run while `valor` lives.
 inline void Ligar(sqlite3_stmt* sentencia, int i, const Valor& valor) {
@@ -34,4 +34,4 @@ inline void Ligar(sqlite3_stmt* sentencia, int i, const Valor& valor) {
         valor);
 }
 
-}  // namespace trabex
+}  // namespace trabex::almacen

@@ -10,7 +10,7 @@
 #include "store/Dialecto.h"
 #include "store/Motor.h"
 
-namespace trabex {
+namespace trabex::almacen {
 
 namespace {
 
@@ -177,4 +177,4 @@ bool CrearBaseDatos(const std::filesystem::path& camino, std::string_view esquem
     return hecho;
 }
 
-}  // namespace trabex
+}  // namespace trabex::almacen

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <string_view>
 
-namespace trabex {
+namespace trabex::almacen {
 
 /// Writes the database at `origen` whole into a new file `destino`, without the room that deleted rows left.
 /// Of a damaged database it saves what can be read. False, and no file at `destino`, when `origen` is no
@@ -22,4 +22,4 @@ void OlvidarGuardado(const std::filesystem::path& camino);
 /// `camino` exists. For building templates.
 bool CrearBaseDatos(const std::filesystem::path& camino, std::string_view esquema);
 
-}  // namespace trabex
+}  // namespace trabex::almacen

@@ -6,7 +6,7 @@
 
 #include "base/Archivos.h"
 
-namespace trabex {
+namespace trabex::almacen {
 
 namespace {
 
@@ -118,4 +118,4 @@ bool TieneCabecera(const std::filesystem::path& camino) {
     return archivo && std::memcmp(inicio.data(), marca.data(), marca.size()) == 0;
 }
 
-}  // namespace trabex
+}  // namespace trabex::almacen

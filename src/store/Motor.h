@@ -11,7 +11,7 @@
 
 #include "store/Comparacion.h"
 
-namespace trabex {
+namespace trabex::almacen {
 
 /// A prepared statement of the engine, finalised at the end.
 using SentenciaSqlite = std::unique_ptr<sqlite3_stmt, int (*)(sqlite3_stmt*)>;
@@ -63,4 +63,4 @@ class Motor {
 /// The file's bytes begin as a database of the engine does.
 bool TieneCabecera(const std::filesystem::path& camino);
 
-}  // namespace trabex
+}  // namespace trabex::almacen

@@ -12,7 +12,7 @@
 #include "store/Ligadura.h"
 #include "store/Motor.h"
 
-namespace trabex {
+namespace trabex::almacen {
 
 namespace {
 
@@ -391,4 +391,4 @@ std::string EntreComillas(std::string_view texto) {
     return "'" + std::string(texto) + "'";
 }
 
-}  // namespace trabex
+}  // namespace trabex::almacen

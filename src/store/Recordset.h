@@ -8,7 +8,7 @@
 #include "store/Columna.h"
 #include "store/Valor.h"
 
-namespace trabex {
+namespace trabex::almacen {
 
 class Conexion;
 
@@ -95,4 +95,4 @@ void BuscarRegistro(Recordset& registros, std::string_view criterio);
 /// breaks its own statements.
 std::string EntreComillas(std::string_view texto);
 
-}  // namespace trabex
+}  // namespace trabex::almacen

@@ -8,7 +8,7 @@
 
 #include "base/Fecha.h"
 
-namespace trabex {
+namespace trabex::almacen {
 
 using Bytes = std::vector<std::byte>;
 
@@ -19,4 +19,4 @@ using Valor =
 /// Types of a table's columns, as the schema declares them.
 enum class TipoColumna { Booleano, Entero16, Entero32, Doble, Texto, Dia, Binario };
 
-}  // namespace trabex
+}  // namespace trabex::almacen

@@ -8,6 +8,8 @@
 #include "support/LienzoGrabador.h"
 
 namespace trabex {
+
+using namespace dibujo;
 namespace {
 
 using prueba::LienzoGrabador;

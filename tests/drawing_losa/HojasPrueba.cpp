@@ -10,6 +10,10 @@
 #include "support/LosasDePrueba.h"
 
 namespace trabex {
+
+using namespace dibujo;
+using namespace dibujo::losa;
+using namespace losas;
 namespace {
 
 using prueba::LienzoGrabador;

@@ -8,6 +8,9 @@
 #include "drawing/qt/WidgetLienzo.h"
 
 namespace trabex {
+
+using namespace dibujo;
+using namespace dibujo::qt;
 namespace {
 
 int PixelesDe(const QImage& imagen, QRgb color) {

@@ -14,6 +14,7 @@
 namespace {
 
 using namespace trabex;
+using namespace trabex::almacen;
 
 struct Base {
     Base() {

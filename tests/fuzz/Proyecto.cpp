@@ -13,6 +13,10 @@
 namespace {
 
 using namespace trabex;
+using namespace trabex::almacen;
+using namespace trabex::almacen::tablas;
+using namespace trabex::losas;
+using namespace trabex::lote;
 
 void LeerTodo(const std::filesystem::path& camino) {
     ProyectoAbierto proyecto;

@@ -10,6 +10,7 @@
 namespace {
 
 using namespace trabex;
+using namespace trabex::programa;
 
 auto Campos(const Tapiz& t) {
     return std::tie(t.Imagen, t.Horizontal, t.Vertical, t.Ajustar, t.Efecto, t.TamanoAyuda, t.FondoAyuda,

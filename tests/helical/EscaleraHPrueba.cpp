@@ -10,6 +10,8 @@
 #include "support/HelicePorBarras.h"
 
 namespace trabex {
+
+using namespace helices;
 namespace {
 
 using prueba::Accion;

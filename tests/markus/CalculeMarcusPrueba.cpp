@@ -7,6 +7,8 @@
 #include "markus/CalculeMarcus.h"
 
 namespace trabex {
+
+using namespace marcus;
 namespace {
 
 std::vector<PanoMarcus> UnoPorCaso(double Carga, double LX, double LY) {

@@ -8,6 +8,12 @@
 #include "support/ExportacionDePrueba.h"
 
 namespace trabex {
+
+using namespace almacen;
+using namespace almacen::tablas;
+using namespace losas;
+using namespace planex::ui;
+using namespace programa;
 namespace {
 
 struct VistaGuiada : VistaExportarCAD {

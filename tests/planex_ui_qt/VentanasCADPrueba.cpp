@@ -11,6 +11,11 @@
 #include "support/ExportacionDePrueba.h"
 
 namespace trabex {
+
+using namespace almacen;
+using namespace planex::ui;
+using namespace planex::ui::qt;
+using namespace programa;
 namespace {
 
 using VentanasCAD = prueba::Exportacion;

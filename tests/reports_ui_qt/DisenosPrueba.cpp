@@ -3,6 +3,11 @@
 #include "ReportePreparado.h"
 
 namespace trabex {
+
+using namespace almacen;
+using namespace documento;
+using namespace losas;
+using namespace salidas;
 namespace {
 
 class Disenos : public prueba::ReportePreparado {

@@ -11,6 +11,11 @@
 #include "store/Recordset.h"
 
 namespace trabex {
+
+using namespace almacen;
+using namespace documento;
+using namespace losas;
+using namespace salidas;
 namespace {
 
 using prueba::Correr;

@@ -19,6 +19,17 @@
 #include "support/ShellGuiado.h"
 
 namespace trabex {
+
+using namespace almacen;
+using namespace dibujo;
+using namespace dibujo::losa;
+using namespace dibujo::qt;
+using namespace losas;
+using namespace montaje;
+using namespace montaje::qt;
+using namespace programa;
+using namespace reportes::ui;
+using namespace reportes::ui::qt;
 namespace {
 
 using namespace prueba;

@@ -16,6 +16,10 @@
 
 namespace trabex::prueba {
 
+using namespace losas;
+using namespace salidas;
+using namespace salidas::qt;
+
 /// Runs a program and gives what it wrote; it must exist and end well.
 inline QString Correr(const QString& programa, const QStringList& argumentos) {
     QProcess proceso;

@@ -25,6 +25,20 @@
 #include "support/ShellGuiado.h"
 
 namespace trabex {
+
+using namespace almacen;
+using namespace almacen::tablas;
+using namespace dibujo::losa;
+using namespace documento;
+using namespace losas;
+using namespace losas::ui::qt;
+using namespace montaje;
+using namespace programa;
+using namespace programa::qt;
+using namespace reportes::ui;
+using namespace reportes::ui::qt;
+using namespace salidas;
+using namespace salidas::qt;
 namespace {
 
 struct ImpresorasGuiadas : Impresoras {

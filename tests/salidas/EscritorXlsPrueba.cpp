@@ -6,6 +6,11 @@
 #include "support/VolcadoXls.h"
 
 namespace trabex {
+
+using namespace almacen;
+using namespace documento;
+using namespace salidas;
+using namespace xls;
 namespace {
 
 using testing::Contains;

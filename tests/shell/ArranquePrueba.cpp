@@ -10,6 +10,11 @@
 #include "support/ShellGuiado.h"
 
 namespace trabex {
+
+using namespace almacen;
+using namespace almacen::tablas;
+using namespace losas;
+using namespace programa;
 namespace {
 
 using prueba::EscribirArchivo;

@@ -11,6 +11,12 @@
 #include "support/ShellGuiado.h"
 
 namespace trabex {
+
+using namespace almacen;
+using namespace almacen::tablas;
+using namespace losas;
+using namespace losas::ui;
+using namespace programa;
 namespace {
 
 using prueba::EscribirArchivo;

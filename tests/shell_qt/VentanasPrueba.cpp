@@ -26,6 +26,12 @@
 #include "support/ShellGuiado.h"
 
 namespace trabex {
+
+using namespace almacen;
+using namespace almacen::tablas;
+using namespace losas::ui::qt;
+using namespace programa;
+using namespace programa::qt;
 namespace {
 
 QAbstractButton* BotonDe(QWidget& ventana, const QString& texto) {

@@ -8,6 +8,8 @@
 #include "support/PorticoDenso.h"
 
 namespace trabex {
+
+using namespace losas;
 namespace {
 
 using prueba::LosaContinua;

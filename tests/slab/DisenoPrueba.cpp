@@ -9,6 +9,8 @@
 #include "support/LosasDePrueba.h"
 
 namespace trabex {
+
+using namespace losas;
 namespace {
 
 using prueba::LosaContinua;

@@ -12,6 +12,14 @@
 #include "support/ProyectoDePrueba.h"
 
 namespace trabex {
+
+using namespace almacen;
+using namespace almacen::tablas;
+using namespace dibujo;
+using namespace dibujo::losa;
+using namespace losas;
+using namespace losas::salida;
+using namespace montaje;
 namespace {
 
 using namespace prueba;

@@ -3,6 +3,10 @@
 #include "support/LosasGuiadas.h"
 
 namespace trabex {
+
+using namespace losas;
+using namespace losas::ui;
+using namespace programa;
 namespace {
 
 using prueba::LosaContinua;

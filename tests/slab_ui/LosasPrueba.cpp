@@ -6,6 +6,11 @@
 #include "support/LosasGuiadas.h"
 
 namespace trabex {
+
+using namespace dibujo::losa;
+using namespace losas;
+using namespace losas::ui;
+using namespace programa;
 namespace {
 
 using prueba::LosaContinua;

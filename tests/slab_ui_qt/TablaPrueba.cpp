@@ -10,6 +10,8 @@
 #include "shell/qt/TablaDatos.h"
 
 namespace trabex {
+
+using namespace programa::qt;
 namespace {
 
 class Tabla : public testing::Test {

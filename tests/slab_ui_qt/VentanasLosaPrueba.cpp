@@ -22,6 +22,13 @@
 #include "support/LosasGuiadas.h"
 
 namespace trabex {
+
+using namespace dibujo::losa;
+using namespace losas;
+using namespace losas::ui;
+using namespace losas::ui::qt;
+using namespace programa;
+using namespace programa::qt;
 namespace {
 
 using prueba::LosaContinua;

@@ -8,6 +8,8 @@
 #include "stairs/DisenoEscaleraT.h"
 
 namespace trabex {
+
+using namespace escaleras;
 namespace {
 
 /// A stair of residences: two flights of 2.40 m by 1.20 m that rise 3 m.

@@ -12,6 +12,15 @@
 #include "support/ShellGuiado.h"
 
 namespace trabex {
+
+using namespace almacen;
+using namespace almacen::tablas;
+using namespace escaleras;
+using namespace escaleras::ui;
+using namespace helices;
+using namespace helices::ui;
+using namespace marcus;
+using namespace programa;
 namespace {
 
 /// Keeps which fields took the focus, and the beeps.

@@ -9,6 +9,10 @@
 #include "support/ProyectoDePrueba.h"
 
 namespace trabex {
+
+using namespace almacen;
+using namespace almacen::tablas;
+using namespace losas;
 namespace {
 
 class Acceso : public testing::Test {

@@ -15,6 +15,10 @@
 #include "support/ProyectoDePrueba.h"
 
 namespace trabex {
+
+using namespace almacen;
+using namespace almacen::tablas;
+using namespace losas;
 namespace {
 
 using prueba::EscribirArchivo;

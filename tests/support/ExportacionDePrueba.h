@@ -10,6 +10,11 @@
 
 namespace trabex::prueba {
 
+using namespace almacen;
+using namespace almacen::tablas;
+using namespace losas;
+using namespace programa;
+
 /// The schema of an exchange file without data, as the program delivers it.
 inline std::string EsquemaCAD() {
     return LeerArchivo(TRABEX_INSTALL "/Imagen/ImagenCAD.sql");

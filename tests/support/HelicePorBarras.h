@@ -10,6 +10,8 @@
 
 namespace trabex::prueba {
 
+using namespace helices;
+
 struct Vector3 : std::array<double, 3> {};
 
 inline Vector3 operator+(const Vector3& a, const Vector3& b) {

@@ -9,6 +9,8 @@
 
 namespace trabex::prueba {
 
+using namespace dibujo;
+
 /// A canvas that keeps what is drawn. Its texts are 0.55 of their size wide a character and 1.3 tall.
 class LienzoGrabador : public Lienzo {
   public:

@@ -8,6 +8,8 @@
 
 namespace trabex::prueba {
 
+using namespace losas;
+
 /// Spans on a pin and then rollers, with the same loads throughout.
 inline Losa LosaContinua(std::initializer_list<double> luces, std::int32_t Wp, std::int32_t WV = 0) {
     Losa losa;

@@ -13,6 +13,12 @@
 
 namespace trabex::prueba {
 
+using namespace almacen;
+using namespace almacen::tablas;
+using namespace losas;
+using namespace losas::ui;
+using namespace programa;
+
 /// The workspace's window as a record of what was shown; modal windows are functions of the test.
 struct VistaLosasGuiada : VistaLosas {
     void PonerTitulo(const std::string& titulo) override { Titulo = titulo; }

@@ -8,6 +8,8 @@
 
 namespace trabex::prueba {
 
+using namespace losas;
+
 /// A plane frame solved otherwise than the program does: Y upward, the load integrated along each bar with
 /// Hermite functions by Gauss quadrature, supported directions taken out of the equations, full matrix with
 /// pivoting. Results: end moments (positive when they sag), shears and axial forces of each bar.

@@ -11,6 +11,10 @@
 
 namespace trabex::prueba {
 
+using namespace almacen;
+using namespace almacen::tablas;
+using namespace losas;
+
 inline std::string LeerArchivo(const std::filesystem::path& camino) {
     if (!std::filesystem::is_regular_file(camino)) return {};
     std::ifstream archivo(camino, std::ios::binary);

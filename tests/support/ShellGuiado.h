@@ -11,6 +11,8 @@
 
 namespace trabex::prueba {
 
+using namespace programa;
+
 /// Answers the message box from a script and keeps what was asked; past the script it answers 0.
 class CajaGuiada : public CajaMensajes {
   public:

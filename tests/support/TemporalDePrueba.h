@@ -12,6 +12,9 @@
 
 namespace trabex::prueba {
 
+using namespace almacen;
+using namespace losas;
+
 inline std::string TextoSql(const std::string& texto) {
     std::string salida = "'";
     for (const char c : texto) salida += c == '\'' ? std::string("''") : std::string(1, c);

@@ -13,6 +13,8 @@
 
 namespace trabex::prueba {
 
+using namespace xls;
+
 /// What another program's reader finds in the book, line by line: see volcar_xls.py.
 inline std::vector<std::string> VolcarXls(const LibroXls& libro) {
     const CarpetaTemporal carpeta;

@@ -6,6 +6,8 @@
 #include "support/VolcadoXls.h"
 
 namespace trabex {
+
+using namespace xls;
 namespace {
 
 using testing::Contains;

@@ -24,7 +24,7 @@ int main(int argc, char** argv) {
     }
     const std::filesystem::path destino(argv[1]);
     std::filesystem::remove(destino);
-    if (!trabex::CrearBaseDatos(destino, esquema)) {
+    if (!trabex::almacen::CrearBaseDatos(destino, esquema)) {
         std::cerr << argv[1] << ": the schema texts do not make a database\n";
         return 1;
     }

@@ -4,7 +4,7 @@
 #include "drawing/Primitivas.h"
 #include "drawing/losa/HojaComun.h"
 
-namespace trabex {
+namespace trabex::dibujo::losa {
 
 namespace {
 
@@ -31,24 +31,24 @@ void DibujeApoyo(const Plano& p, double xEje, double yEje, std::int16_t tipo) {
     const std::int32_t y = p.Fila(MediaBanda, yEje);
     const std::int32_t medio = Pixeles(lado / 2.0);
     switch (tipo) {
-        case ApoyoFijo:
+        case losas::ApoyoFijo:
             DibujeTriangulo(lienzo, {x, y}, {x - lado, y + lado}, {x + lado, y + lado});
             DibujeLinea(lienzo, x - lado - medio, y + lado, x + lado + medio, y + lado, 2,
                         EstiloLinea::Solida, Contorno);
             return;
-        case RodilloEnX:
+        case losas::RodilloEnX:
             DibujeTriangulo(lienzo, {x, y}, {x - lado, y + lado}, {x + lado, y + lado});
             for (const std::int32_t centro : {x - medio, x + medio})
                 lienzo.Circulo({centro, y + lado + radio}, radio, PlumaContorno, FondoRodillo);
             return;
-        case RodilloEnY:
+        case losas::RodilloEnY:
             DibujeTriangulo(lienzo, {x, y + lado}, {x - lado, y}, {x - lado, y + 2 * lado});
             for (const std::int32_t centro : {y + lado - medio, y + lado + medio})
                 lienzo.Circulo({x - lado - radio, centro}, radio, PlumaContorno, FondoRodillo);
             DibujeLinea(lienzo, x - lado - 2 * radio, y, x - lado - 2 * radio, y + 2 * lado, 1,
                         EstiloLinea::Solida, Contorno);
             return;
-        case Empotramiento: {
+        case losas::Empotramiento: {
             const std::int32_t alto = Pixeles(p.Escala() * 0.25);
             const std::int32_t centro = p.Y(yEje);
             const std::array<PuntoLienzo, 4> figura{{{x - medio, centro - alto},
@@ -63,4 +63,4 @@ void DibujeApoyo(const Plano& p, double xEje, double yEje, std::int16_t tipo) {
     }
 }
 
-}  // namespace trabex
+}  // namespace trabex::dibujo::losa

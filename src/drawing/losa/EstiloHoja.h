@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-namespace trabex {
+namespace trabex::dibujo::losa {
 
 /// How a sheet's world is placed on its surface.
 ///
@@ -56,4 +56,4 @@ inline constexpr EstiloHoja HojaEnPapel{
      "Mu Sup(kgf-m):", "Mu Inf (kgf-m):", "As Sup(cm2):", "As Sup(cm2/m):", "As Inf(cm2):", "As Inf(cm2/m):",
      "Inflexión (m):", "H = ", " m  (Geometría)", "", " m   (ANALISIS Y DISEÑO)"}};
 
-}  // namespace trabex
+}  // namespace trabex::dibujo::losa

@@ -8,7 +8,7 @@
 #include "drawing/losa/HojaComun.h"
 #include "slab/DisenoSeccion.h"
 
-namespace trabex {
+namespace trabex::dibujo::losa {
 
 namespace {
 
@@ -168,7 +168,7 @@ std::vector<Fila> FilasDeReacciones(const Hoja& h) {
 Fila FilaDeMacizados(const Hoja& h) {
     Fila fila{std::string(h.Estilo.Textos.Macizados), {}, Color{226, 233, 214}, {}};
     const auto agregar = [&](std::size_t eje, double longitud, double lado) {
-        if (MacizadoVisible(longitud) == 0) return;
+        if (losas::MacizadoVisible(longitud) == 0) return;
         const std::string texto = h.Numero(longitud, "0.00");
         const double aparte =
             h.Papel.lienzo().Medir(texto).Ancho / 2.0 + h.Papel.Unidades(PixelesEntreValores);
@@ -199,7 +199,7 @@ Fila FilaDeInflexiones(const Hoja& h) {
 }
 
 Fila FilaDeDespiece(const Hoja& h) {
-    const Losa& losa = h.Losa.Datos;
+    const losas::Losa& losa = h.Losa.Datos;
     Fila fila{"Despiece:", {}, {}, {}};
     fila.EntreReglas = true;
     fila.Celdas.push_back({(h.Papel.X(h.EjeX(1)) + h.Papel.X(h.EjeX(h.N + 1))) / 2.0,
@@ -256,4 +256,4 @@ void DibujeDiseno(Lienzo& lienzo, HojaLosa& hoja, const LosaCalculada& losa, con
         DibujeTitulos(h, fin, {primera + std::string(estilo.Textos.TituloDiseno), losa.Datos.Nombre});
 }
 
-}  // namespace trabex
+}  // namespace trabex::dibujo::losa

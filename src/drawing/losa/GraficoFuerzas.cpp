@@ -7,7 +7,7 @@
 #include "drawing/losa/GraficoLosa.h"
 #include "drawing/losa/HojaComun.h"
 
-namespace trabex {
+namespace trabex::dibujo::losa {
 
 namespace {
 
@@ -147,7 +147,7 @@ void DibujeFuerzas(Lienzo& lienzo, HojaLosa& hoja, const LosaCalculada& losa, co
     Hoja h = EmpezarHoja(lienzo, hoja, losa, estilo);
     if (h.N == 0) return;
     Plano& p = h.Papel;
-    const ResultadosLosa& r = losa.Resultados;
+    const losas::ResultadosLosa& r = losa.Resultados;
     const std::int32_t primera = Pixeles(p.Escala() * PrimeraBanda);
     const std::int32_t franja = 2 * Pixeles(p.Escala() * MediaFranja);
     const Diagrama cortes{primera, Unidades(p.Escala(), r.MaxCorte), -1, FondoCorte, &PuntoDiagrama::V};
@@ -181,4 +181,4 @@ void DibujeFuerzas(Lienzo& lienzo, HojaLosa& hoja, const LosaCalculada& losa, co
                        h.Numero(g.FCV, "0.00") + " CV)"});
 }
 
-}  // namespace trabex
+}  // namespace trabex::dibujo::losa

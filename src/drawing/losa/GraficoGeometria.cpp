@@ -2,7 +2,7 @@
 #include "drawing/losa/GraficoLosa.h"
 #include "drawing/losa/HojaComun.h"
 
-namespace trabex {
+namespace trabex::dibujo::losa {
 
 namespace {
 
@@ -45,4 +45,4 @@ void DibujeGeometria(Lienzo& lienzo, HojaLosa& hoja, const LosaCalculada& losa, 
     DibujeTitulos(h, p.Fila(FilaDeTitulos), titulos);
 }
 
-}  // namespace trabex
+}  // namespace trabex::dibujo::losa

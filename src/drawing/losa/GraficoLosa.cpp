@@ -9,7 +9,7 @@
 #include "drawing/Primitivas.h"
 #include "drawing/losa/HojaComun.h"
 
-namespace trabex {
+namespace trabex::dibujo::losa {
 
 namespace {
 
@@ -64,7 +64,7 @@ void DibujeBandas(const Hoja& h) {
 
 /// The arrow stands on the load band; its value beside it, read from below.
 void DibujeCargaPuntual(Hoja& h, std::size_t i) {
-    const Tramo& tramo = h.Losa.Datos.Tramos[i];
+    const losas::Tramo& tramo = h.Losa.Datos.Tramos[i];
     if (tramo.p1 == 0) return;
     Plano& p = h.Papel;
     const Lugar lugar = EnTramo(h, i, tramo.L1);
@@ -131,7 +131,7 @@ void DibujeEje(Hoja& h, std::size_t eje) {
     p.EscribirCentrado(nombre, x, y);
 }
 
-void DibujeJuntaDesplazada(Hoja& h, const JuntaD& junta) {
+void DibujeJuntaDesplazada(Hoja& h, const losas::JuntaD& junta) {
     if (junta.Junta < 1 || static_cast<std::size_t>(junta.Junta) > h.N + 1) return;
     Plano& p = h.Papel;
     const auto eje = static_cast<std::size_t>(junta.Junta);
@@ -221,7 +221,7 @@ void DibujeTitulos(const Hoja& h, std::int32_t fila, const std::vector<std::stri
 std::int16_t DibujeBaseLosa(Lienzo& lienzo, HojaLosa& hoja, const LosaCalculada& losa,
                             const EstiloHoja& estilo) {
     EmpezarHoja(lienzo, hoja, losa, estilo);
-    return NumeroTramos(losa.Datos);
+    return losas::NumeroTramos(losa.Datos);
 }
 
 void RedibujeVista(Lienzo& lienzo, HojaLosa& hoja, const LosaCalculada& losa, const EstiloHoja& estilo) {
@@ -237,4 +237,4 @@ void RedibujeVista(Lienzo& lienzo, HojaLosa& hoja, const LosaCalculada& losa, co
     }
 }
 
-}  // namespace trabex
+}  // namespace trabex::dibujo::losa

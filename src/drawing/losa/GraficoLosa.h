@@ -8,7 +8,7 @@
 #include "drawing/losa/EstiloHoja.h"
 #include "drawing/losa/ValoresHoja.h"
 
-namespace trabex {
+namespace trabex::dibujo::losa {
 
 enum VistaLosa : std::uint8_t { VistaGeometria = 0, VistaFuerzas = 1, VistaDiseno = 2 };
 
@@ -38,4 +38,4 @@ void DibujeDiseno(Lienzo& lienzo, HojaLosa& hoja, const LosaCalculada& losa,
 void RedibujeVista(Lienzo& lienzo, HojaLosa& hoja, const LosaCalculada& losa,
                    const EstiloHoja& estilo = HojaEnPantalla);
 
-}  // namespace trabex
+}  // namespace trabex::dibujo::losa

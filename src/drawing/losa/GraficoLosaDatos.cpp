@@ -8,7 +8,7 @@
 #include "drawing/Primitivas.h"
 #include "drawing/losa/HojaComun.h"
 
-namespace trabex {
+namespace trabex::dibujo::losa {
 
 namespace {
 
@@ -24,7 +24,7 @@ constexpr double AnchoUtil = 0.80;
 
 /// What of a slab a sketch shows, and in which part of the canvas's height.
 struct Boceto {
-    const Losa& Datos;
+    const losas::Losa& Datos;
     const MarcaBoceto& Marca;
     const Separadores& Numeros;
     EjesDeHoja Ejes;  ///< with a span without length drawn as one of 1 m
@@ -33,11 +33,11 @@ struct Boceto {
     std::string Numero(double valor, const char* formato) const { return Formato(valor, formato, Numeros); }
 };
 
-Boceto Empezar(Lienzo& lienzo, const EstadoVista& vista, const Losa& losa, const MarcaBoceto& marca,
+Boceto Empezar(Lienzo& lienzo, const EstadoVista& vista, const losas::Losa& losa, const MarcaBoceto& marca,
                const Separadores& numeros) {
     lienzo.Limpiar();
     if (vista.CuadriculaVisible) DibujeCuadricula(lienzo, hoja::SeparacionCuadricula);
-    Losa dibujada = losa;
+    losas::Losa dibujada = losa;
     for (std::size_t i = 1; i < dibujada.Tramos.size(); ++i) {
         double& LT = dibujada.Tramos[i].LT;
         if (!(LT > 0)) LT = 1;
@@ -105,7 +105,7 @@ void DibujeCotasDeTramos(Plano& p, const Boceto& b, double sobre) {
 
 void DibujeCorrimientos(Plano& p, const Boceto& b) {
     for (std::size_t k = 1; k < b.Datos.JuntasD.size(); ++k) {
-        const JuntaD& junta = b.Datos.JuntasD[k];
+        const losas::JuntaD& junta = b.Datos.JuntasD[k];
         if (junta.Junta < 1 || static_cast<std::size_t>(junta.Junta) > b.N + 1) continue;
         const auto eje = static_cast<std::size_t>(junta.Junta);
         const std::int32_t x = p.X(b.Ejes.EjesX[eje]);
@@ -126,7 +126,7 @@ class Seccion {
         : p_(p), b_(b), x_(x), y_(y), ancho_(ancho), alto_(alto) {}
 
     void Dibujar() {
-        const Losa& losa = b_.Datos;
+        const losas::Losa& losa = b_.Datos;
         const double total = losa.OpcionMaciza ? losa.Bm : losa.So + losa.Bo;
         const double altura = losa.OpcionMaciza ? losa.Hm : losa.Ho;
         if (!(total > 0 && altura > 0)) return;
@@ -145,7 +145,7 @@ class Seccion {
     std::int32_t Y(double y) const { return Pixeles(arriba_ + y * unidades_); }
 
     void DibujarMaciza() {
-        const Losa& losa = b_.Datos;
+        const losas::Losa& losa = b_.Datos;
         const std::array<PuntoLienzo, 4> figura{
             {{X(0), Y(0)}, {X(losa.Bm), Y(0)}, {X(losa.Bm), Y(losa.Hm)}, {X(0), Y(losa.Hm)}}};
         p_.lienzo().Poligono(figura, PlumaContorno, FondoConcreto);
@@ -154,7 +154,7 @@ class Seccion {
 
     /// Two ribs under their topping.
     void DibujarNervada() {
-        const Losa& losa = b_.Datos;
+        const losas::Losa& losa = b_.Datos;
         const double fin = losa.So + losa.Bo;
         const std::array<PuntoLienzo, 8> figura{{{X(0), Y(0)},
                                                  {X(fin), Y(0)},
@@ -202,7 +202,7 @@ class Seccion {
 
 /// The load of a span as a band whose texts name both loads, and its point load with its distance.
 void DibujeCargasDeTramo(Plano& p, const Boceto& b, std::size_t i) {
-    const Tramo& tramo = b.Datos.Tramos[i];
+    const losas::Tramo& tramo = b.Datos.Tramos[i];
     const bool marcado = i == b.Marca.Tramo;
     if (tramo.Wp != 0 || tramo.WV != 0)
         p.lienzo().Poligono(Banda(p, b, i, hoja::MediaBanda, hoja::BordeCarga), std::nullopt,
@@ -232,8 +232,8 @@ void DibujeCargasDeTramo(Plano& p, const Boceto& b, std::size_t i) {
                       {medio, enBanda - 3 * alto}});
 }
 
-void DibujeTramosYSeccion(Lienzo& lienzo, EstadoVista& vista, const Losa& losa, const MarcaBoceto& marca,
-                          const Separadores& numeros) {
+void DibujeTramosYSeccion(Lienzo& lienzo, EstadoVista& vista, const losas::Losa& losa,
+                          const MarcaBoceto& marca, const Separadores& numeros) {
     const Boceto b = Empezar(lienzo, vista, losa, marca, numeros);
     Ubicar(lienzo, vista, b.Ejes, 3.2, 0.55, 0.30);
     Plano p(lienzo, vista, "Tahoma");
@@ -253,12 +253,12 @@ void DibujeTramosYSeccion(Lienzo& lienzo, EstadoVista& vista, const Losa& losa, 
 
 }  // namespace
 
-void DibujeLosaDatos(Lienzo& lienzo, EstadoVista& vista, const Losa& losa, const MarcaBoceto& marca,
+void DibujeLosaDatos(Lienzo& lienzo, EstadoVista& vista, const losas::Losa& losa, const MarcaBoceto& marca,
                      const Separadores& numeros) {
     DibujeTramosYSeccion(lienzo, vista, losa, marca, numeros);
 }
 
-void DibujeLosaCargas(Lienzo& lienzo, EstadoVista& vista, const Losa& losa, const MarcaBoceto& marca,
+void DibujeLosaCargas(Lienzo& lienzo, EstadoVista& vista, const losas::Losa& losa, const MarcaBoceto& marca,
                       const Separadores& numeros) {
     const Boceto b = Empezar(lienzo, vista, losa, marca, numeros);
     if (b.N == 0) return;
@@ -271,8 +271,9 @@ void DibujeLosaCargas(Lienzo& lienzo, EstadoVista& vista, const Losa& losa, cons
     DibujeNombres(p, b, 0.6);
 }
 
-void DibujeLosaExportar(Lienzo& lienzo, EstadoVista& vista, const Losa& losa, const Separadores& numeros) {
+void DibujeLosaExportar(Lienzo& lienzo, EstadoVista& vista, const losas::Losa& losa,
+                        const Separadores& numeros) {
     DibujeTramosYSeccion(lienzo, vista, losa, {}, numeros);
 }
 
-}  // namespace trabex
+}  // namespace trabex::dibujo::losa

@@ -7,7 +7,7 @@
 #include "drawing/Visor.h"
 #include "slab/Losa.h"
 
-namespace trabex {
+namespace trabex::dibujo::losa {
 
 /// What a sketch marks: the span or the joint in hand, 0 for none.
 struct MarcaBoceto {
@@ -20,12 +20,13 @@ struct MarcaBoceto {
 /// gives zoom and pan, and takes scale and origin.
 
 /// Section, spans with their lengths, axes, supports and displaced joints.
-void DibujeLosaDatos(Lienzo& lienzo, EstadoVista& vista, const Losa& losa, const MarcaBoceto& marca,
+void DibujeLosaDatos(Lienzo& lienzo, EstadoVista& vista, const losas::Losa& losa, const MarcaBoceto& marca,
                      const Separadores& numeros);
 /// Spans with their uniform and point loads.
-void DibujeLosaCargas(Lienzo& lienzo, EstadoVista& vista, const Losa& losa, const MarcaBoceto& marca,
+void DibujeLosaCargas(Lienzo& lienzo, EstadoVista& vista, const losas::Losa& losa, const MarcaBoceto& marca,
                       const Separadores& numeros);
 /// The slab as it would be exported: section, spans and axes, without marks.
-void DibujeLosaExportar(Lienzo& lienzo, EstadoVista& vista, const Losa& losa, const Separadores& numeros);
+void DibujeLosaExportar(Lienzo& lienzo, EstadoVista& vista, const losas::Losa& losa,
+                        const Separadores& numeros);
 
-}  // namespace trabex
+}  // namespace trabex::dibujo::losa

@@ -2,7 +2,7 @@
 
 #include "drawing/Primitivas.h"
 
-namespace trabex {
+namespace trabex::dibujo::losa {
 
 namespace {
 constexpr double LetraDePagina = 9;
@@ -32,4 +32,4 @@ void GuardeGraficos1(Lienzo& pagina, const HojaLosa& pantalla, const LosaCalcula
     DibujePagina(pagina, datos);
 }
 
-}  // namespace trabex
+}  // namespace trabex::dibujo::losa

@@ -4,7 +4,7 @@
 
 #include "drawing/losa/GraficoLosa.h"
 
-namespace trabex {
+namespace trabex::dibujo::losa {
 
 /// What is printed on every page around its drawing.
 struct DatosDePagina {
@@ -21,4 +21,4 @@ void DibujePagina(Lienzo& pagina, const DatosDePagina& datos);
 void GuardeGraficos1(Lienzo& pagina, const HojaLosa& pantalla, const LosaCalculada& losa,
                      const DatosDePagina& datos);
 
-}  // namespace trabex
+}  // namespace trabex::dibujo::losa

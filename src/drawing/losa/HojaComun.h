@@ -8,7 +8,7 @@
 #include "drawing/Plano.h"
 #include "drawing/losa/GraficoLosa.h"
 
-namespace trabex {
+namespace trabex::dibujo::losa {
 
 /// Colours and sizes that the sheets of a slab share. Lengths in metres of the drawing, which do not follow
 /// the slab's depth.
@@ -54,4 +54,4 @@ void DibujeApoyo(const Plano& plano, double x, double y, std::int16_t tipo);
 /// Bold lines of the sheet's title, centred below each other from a row on.
 void DibujeTitulos(const Hoja& hoja, std::int32_t fila, const std::vector<std::string>& lineas);
 
-}  // namespace trabex
+}  // namespace trabex::dibujo::losa

@@ -6,7 +6,7 @@
 #include "base/Round.h"
 #include "slab/EsfuerzosTramo.h"
 
-namespace trabex {
+namespace trabex::dibujo::losa {
 
 namespace {
 
@@ -18,18 +18,18 @@ std::size_t Tramos(const LosaCalculada& losa) {
 
 bool TieneEsfuerzos(const LosaCalculada& losa) {
     const auto& porCaso = losa.Resultados.ResultadoTramo;
-    return std::all_of(porCaso.begin() + CasoPermanente, porCaso.end(),
+    return std::all_of(porCaso.begin() + losas::CasoPermanente, porCaso.end(),
                        [&](const auto& tramos) { return tramos.size() == losa.Datos.Tramos.size(); });
 }
 
-double Reaccion(const LosaCalculada& losa, CasoCarga caso, std::size_t eje) {
+double Reaccion(const LosaCalculada& losa, losas::CasoCarga caso, std::size_t eje) {
     const auto& juntas = losa.Resultados.ResultadoJunta[caso];
     return juntas.size() == losa.Datos.Tramos.size() + 1 && eje < juntas.size() ? juntas[eje].RV : 0;
 }
 
 }  // namespace
 
-EjesDeHoja UbicarEjes(const Losa& losa) {
+EjesDeHoja UbicarEjes(const losas::Losa& losa) {
     const std::size_t N = losa.Tramos.size() - 1;
     EjesDeHoja ejes;
     for (std::size_t i = 1; i <= N; ++i) ejes.Longitud += losa.Tramos[i].LT;
@@ -38,7 +38,7 @@ EjesDeHoja UbicarEjes(const Losa& losa) {
     ejes.EjesX[1] = -ejes.Longitud / 2;
     for (std::size_t i = 1; i <= N; ++i) ejes.EjesX[i + 1] = ejes.EjesX[i] + losa.Tramos[i].LT;
     for (std::size_t k = 1; k < losa.JuntasD.size(); ++k) {
-        const JuntaD& junta = losa.JuntasD[k];
+        const losas::JuntaD& junta = losa.JuntasD[k];
         if (junta.Junta < 1 || static_cast<std::size_t>(junta.Junta) > N + 1) continue;
         ejes.EjesX[static_cast<std::size_t>(junta.Junta)] += junta.x;
         ejes.EjesY[static_cast<std::size_t>(junta.Junta)] += junta.y;
@@ -55,22 +55,22 @@ double PendienteDeTramo(const EjesDeHoja& ejes, std::size_t i) {
     return dx != 0 ? std::atan(dy / dx) : 0;
 }
 
-double EspesorDeLosa(const Losa& losa) {
+double EspesorDeLosa(const losas::Losa& losa) {
     return losa.OpcionMaciza ? losa.Hm : losa.Ho;
 }
 
-std::string RotuloDeLosa(const Losa& losa) {
+std::string RotuloDeLosa(const losas::Losa& losa) {
     return losa.OpcionMaciza ? "LOSA MACIZA: " : "LOSA NERVADA: ";
 }
 
-std::string TextoDeCarga(const Tramo& tramo, OpcionDeCarga opcion) {
+std::string TextoDeCarga(const losas::Tramo& tramo, OpcionDeCarga opcion) {
     const Separadores sinUso;
     const auto entero = [&](double valor) { return Formato(valor, "0", sinUso); };
     if (opcion == CargaPorCasos) return entero(tramo.Wp) + " + " + entero(tramo.WV);
     return entero(static_cast<double>(tramo.Wp) + tramo.WV);
 }
 
-std::string TextoDeCorrimiento(const JuntaD& junta, const Separadores& separadores) {
+std::string TextoDeCorrimiento(const losas::JuntaD& junta, const Separadores& separadores) {
     const auto numero = [&](double valor) { return Formato(valor, "0.00", separadores); };
     if (junta.x == 0) return numero(junta.y);
     if (junta.y == 0) return numero(junta.x);
@@ -79,27 +79,27 @@ std::string TextoDeCorrimiento(const JuntaD& junta, const Separadores& separador
 
 ExtremosDeTramo ExtremosDe(const LosaCalculada& losa, std::size_t i) {
     if (!TieneEsfuerzos(losa)) return {};
-    const ExtremosMayorados m = MayorarExtremos(losa.Resultados, losa.Generales, i);
-    const DisenoDeTramo tramo = DisenoEnTramo(losa, i);
+    const losas::ExtremosMayorados m = losas::MayorarExtremos(losa.Resultados, losa.Generales, i);
+    const losas::DisenoDeTramo tramo = DisenoEnTramo(losa, i);
     return {m.Mi, m.Vi, m.Mj, m.Vj, tramo.MT, tramo.x};
 }
 
 std::vector<PuntoDiagrama> EstacionesDeTramo(const LosaCalculada& losa, std::size_t i, double pendiente) {
-    const Tramo& tramo = losa.Datos.Tramos[i];
+    const losas::Tramo& tramo = losa.Datos.Tramos[i];
     const double estaciones = Round(tramo.LT * EstacionesPorMetro);
     constexpr double demasiadas = 100000;  // a span of 25 km
     if (!TieneEsfuerzos(losa) || !(estaciones >= 1 && estaciones < demasiadas)) return {};
 
     const ExtremosDeTramo extremos = ExtremosDe(losa, i);
     const double paso = tramo.LT / estaciones;
-    EstacionPuntual puntual;
+    losas::EstacionPuntual puntual;
     std::vector<PuntoDiagrama> puntos;
     double d = 0;
     for (int k = 0; k <= static_cast<int>(estaciones); ++k) {
         do {
             PuntoDiagrama punto{d, 0, 0};
-            EsfuerzosEnSeccion(tramo, losa.Generales, d, std::cos(pendiente), extremos.MA, extremos.VA,
-                               puntual, punto.M, punto.V);
+            losas::EsfuerzosEnSeccion(tramo, losa.Generales, d, std::cos(pendiente), extremos.MA, extremos.VA,
+                                      puntual, punto.M, punto.V);
             puntos.push_back(punto);
         } while (puntual.RepitaEstacion);
         d += paso;
@@ -109,13 +109,14 @@ std::vector<PuntoDiagrama> EstacionesDeTramo(const LosaCalculada& losa, std::siz
 
 ReaccionPorMetro ReaccionEnEje(const LosaCalculada& losa, std::size_t eje) {
     const double ancho = losa.Datos.OpcionMaciza ? 1 : losa.Datos.So;
-    const double CP = Reaccion(losa, CasoPermanente, eje) / ancho;
-    const double CV = Reaccion(losa, CasoVariable, eje) / ancho;
+    const double CP = Reaccion(losa, losas::CasoPermanente, eje) / ancho;
+    const double CV = Reaccion(losa, losas::CasoVariable, eje) / ancho;
     return {CP, CV, CP + CV};
 }
 
 double ReaccionMayorada(const LosaCalculada& losa, std::size_t eje) {
-    return Mayorar(losa.Generales, Reaccion(losa, CasoPermanente, eje), Reaccion(losa, CasoVariable, eje));
+    return losas::Mayorar(losa.Generales, Reaccion(losa, losas::CasoPermanente, eje),
+                          Reaccion(losa, losas::CasoVariable, eje));
 }
 
 double MomentoSuperior(const LosaCalculada& losa, std::size_t eje) {
@@ -124,19 +125,19 @@ double MomentoSuperior(const LosaCalculada& losa, std::size_t eje) {
     return std::min(M, 0.0);
 }
 
-DisenoDeEje DisenoEnEje(const LosaCalculada& losa, std::size_t eje) {
+losas::DisenoDeEje DisenoEnEje(const LosaCalculada& losa, std::size_t eje) {
     const auto& ejes = losa.Resultados.DisenoEje;
-    return ejes.size() == losa.Datos.Tramos.size() + 1 ? ejes[eje] : DisenoDeEje{};
+    return ejes.size() == losa.Datos.Tramos.size() + 1 ? ejes[eje] : losas::DisenoDeEje{};
 }
 
-DisenoDeTramo DisenoEnTramo(const LosaCalculada& losa, std::size_t tramo) {
+losas::DisenoDeTramo DisenoEnTramo(const LosaCalculada& losa, std::size_t tramo) {
     const auto& tramos = losa.Resultados.DisenoTramo;
-    return tramos.size() == losa.Datos.Tramos.size() ? tramos[tramo] : DisenoDeTramo{};
+    return tramos.size() == losa.Datos.Tramos.size() ? tramos[tramo] : losas::DisenoDeTramo{};
 }
 
-double AceroMinimo(const Losa& losa, const DatosGenerales& generales) {
+double AceroMinimo(const losas::Losa& losa, const DatosGenerales& generales) {
     if (losa.OpcionMaciza) return ((losa.Hm - generales.D8) * 100) * ((losa.Bm * 100) * 0.002);
     return (14.0 / generales.FY) * (losa.Bo * 100) * ((losa.Ho - generales.D8) * 100);
 }
 
-}  // namespace trabex
+}  // namespace trabex::dibujo::losa

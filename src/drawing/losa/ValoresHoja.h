@@ -8,14 +8,14 @@
 #include "slab/Losa.h"
 #include "slab/ResultadosLosa.h"
 
-namespace trabex {
+namespace trabex::dibujo::losa {
 
 /// What the sheets of a slab are made of. Results that are not of this slab's size, or not there, count as
 /// zeros.
 struct LosaCalculada {
-    const Losa& Datos;
+    const losas::Losa& Datos;
     const DatosGenerales& Generales;
-    const ResultadosLosa& Resultados;
+    const losas::ResultadosLosa& Resultados;
 };
 
 /// What the load band shows: the sum of both loads, or the two apart.
@@ -29,20 +29,20 @@ struct EjesDeHoja {
     double YMinimo = 0;
     double Longitud = 0;  ///< sum of the span lengths
 };
-EjesDeHoja UbicarEjes(const Losa& losa);
+EjesDeHoja UbicarEjes(const losas::Losa& losa);
 
 /// Slope of span i, radians: 0 where its axes stand one above the other.
 double PendienteDeTramo(const EjesDeHoja& ejes, std::size_t i);
 
 /// Depth in the titles: Ho of a ribbed slab, Hm of a solid one.
-double EspesorDeLosa(const Losa& losa);
+double EspesorDeLosa(const losas::Losa& losa);
 /// "LOSA NERVADA: " or "LOSA MACIZA: ".
-std::string RotuloDeLosa(const Losa& losa);
+std::string RotuloDeLosa(const losas::Losa& losa);
 
 /// Load of a span as the band shows it: "390" or "300 + 90".
-std::string TextoDeCarga(const Tramo& tramo, OpcionDeCarga opcion);
+std::string TextoDeCarga(const losas::Tramo& tramo, OpcionDeCarga opcion);
 /// Shift of a displaced joint: along X, along Y, or both.
-std::string TextoDeCorrimiento(const JuntaD& junta, const Separadores& separadores);
+std::string TextoDeCorrimiento(const losas::JuntaD& junta, const Separadores& separadores);
 
 /// Factored end values of a span, kgf and kgf·m, and its largest inner moment.
 struct ExtremosDeTramo {
@@ -75,10 +75,10 @@ double ReaccionMayorada(const LosaCalculada& losa, std::size_t eje);
 double MomentoSuperior(const LosaCalculada& losa, std::size_t eje);
 
 /// What is built at an axis and in a span; zeros when the results are not there.
-DisenoDeEje DisenoEnEje(const LosaCalculada& losa, std::size_t eje);
-DisenoDeTramo DisenoEnTramo(const LosaCalculada& losa, std::size_t tramo);
+losas::DisenoDeEje DisenoEnEje(const LosaCalculada& losa, std::size_t eje);
+losas::DisenoDeTramo DisenoEnTramo(const LosaCalculada& losa, std::size_t tramo);
 
 /// Minimum steel as the caption shows it; applied to nothing.
-double AceroMinimo(const Losa& losa, const DatosGenerales& generales);
+double AceroMinimo(const losas::Losa& losa, const DatosGenerales& generales);
 
-}  // namespace trabex
+}  // namespace trabex::dibujo::losa

@@ -5,7 +5,7 @@
 
 #include "drawing/qt/LienzoQt.h"
 
-namespace trabex {
+namespace trabex::dibujo::qt {
 
 QImage DibujarImagen(std::int32_t ancho, std::int32_t alto, double finura,
                      const std::function<void(Lienzo&)>& dibujar) {
@@ -21,4 +21,4 @@ QImage DibujarImagen(std::int32_t ancho, std::int32_t alto, double finura,
     return imagen;
 }
 
-}  // namespace trabex
+}  // namespace trabex::dibujo::qt

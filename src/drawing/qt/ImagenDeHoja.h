@@ -6,7 +6,7 @@
 
 #include "drawing/Lienzo.h"
 
-namespace trabex {
+namespace trabex::dibujo::qt {
 
 /// Size of the hidden surfaces of reports and pictures: 14100 by 8700 twips at 96 units an inch.
 inline constexpr std::int32_t AnchoSuperficie = 14100 / 15;
@@ -20,4 +20,4 @@ inline constexpr int PuntosPorMetro = 3780;
 QImage DibujarImagen(std::int32_t ancho, std::int32_t alto, double finura,
                      const std::function<void(Lienzo&)>& dibujar);
 
-}  // namespace trabex
+}  // namespace trabex::dibujo::qt

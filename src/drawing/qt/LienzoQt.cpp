@@ -5,7 +5,7 @@
 #include <array>
 #include <cmath>
 
-namespace trabex {
+namespace trabex::dibujo::qt {
 
 namespace {
 
@@ -171,4 +171,4 @@ void LienzoQt::Pixel(PuntoLienzo lugar, Color color) {
     pintor_.fillRect(lugar.x, lugar.y, lado_, lado_, ColorQt(color));
 }
 
-}  // namespace trabex
+}  // namespace trabex::dibujo::qt

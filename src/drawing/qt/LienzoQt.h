@@ -11,7 +11,7 @@
 
 #include "drawing/Lienzo.h"
 
-namespace trabex {
+namespace trabex::dibujo::qt {
 
 /// Shaped texts of earlier redraws: a drawing that is panned shows the same ones again. One per surface.
 class MemoriaDeTextos {
@@ -61,4 +61,4 @@ class LienzoQt : public Lienzo {
     std::unique_ptr<QFontMetricsF> metrica_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::dibujo::qt

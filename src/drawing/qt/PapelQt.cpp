@@ -3,7 +3,7 @@
 #include "base/ErrorEjecucion.h"
 #include "drawing/qt/LienzoQt.h"
 
-namespace trabex {
+namespace trabex::dibujo::qt {
 
 namespace {
 
@@ -28,4 +28,4 @@ void PapelQt::Terminar() {
     Exigir(pintor_.end());
 }
 
-}  // namespace trabex
+}  // namespace trabex::dibujo::qt

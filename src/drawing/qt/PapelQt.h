@@ -6,7 +6,7 @@
 
 #include "drawing/Lienzo.h"
 
-namespace trabex {
+namespace trabex::dibujo::qt {
 
 /// Resolution of drawings on paper, units to an inch: the scale's cap is told in these.
 inline constexpr int UnidadesPorPulgadaDePapel = 600;
@@ -26,4 +26,4 @@ class PapelQt {
     bool primera_ = true;
 };
 
-}  // namespace trabex
+}  // namespace trabex::dibujo::qt

@@ -11,7 +11,7 @@
 
 #include "drawing/qt/ImagenDeHoja.h"
 
-namespace trabex {
+namespace trabex::dibujo::qt {
 
 namespace {
 
@@ -147,4 +147,4 @@ void WidgetLienzo::AbrirMenuPantalla(std::int32_t x, std::int32_t y) {
     if (menu_ != nullptr) menu_->popup(mapToGlobal(QPoint(x, y)));
 }
 
-}  // namespace trabex
+}  // namespace trabex::dibujo::qt

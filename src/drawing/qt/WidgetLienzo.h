@@ -10,7 +10,7 @@
 
 class QMenu;
 
-namespace trabex {
+namespace trabex::dibujo::qt {
 
 /// The canvas that every workspace embeds: a persistent picture, and the mouse, wheel and keys of the
 /// viewport. `dibujar` draws the current view whole; it runs at every redraw and change of size.
@@ -60,4 +60,4 @@ class WidgetLienzo : public QWidget, private AnfitrionVista {
     MemoriaDeTextos memoria_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::dibujo::qt

@@ -5,14 +5,14 @@
 #include "base/Enteros.h"
 #include "store/tablas/TablasEscalera.h"
 
-namespace trabex {
+namespace trabex::helices::ui {
 
 namespace {
 
 constexpr double AnguloMaximo = 360;
 
-Mensaje AvisoDeAngulo() {
-    Mensaje mensaje;
+programa::Mensaje AvisoDeAngulo() {
+    programa::Mensaje mensaje;
     mensaje.Texto = "El angulo de Desarrollo no puede ser > 360º";
     mensaje.Encabezado = "Escalera Helicoidal...";
     return mensaje;
@@ -61,8 +61,8 @@ bool EscaleraHDatos::Guardar(const EntradaEscaleraH& e) {
                                   e.Angulo,
                                   e.W,
                                   Entero16(e.Inter)};
-    if (!GuardarEscalera(trabajo_.Proyecto.ConexionProyecto, escalera)) {
-        caja_.Mostrar(AvisoDeNoSalvado());
+    if (!almacen::tablas::GuardarEscalera(trabajo_.Proyecto.ConexionProyecto, escalera)) {
+        caja_.Mostrar(escaleras::ui::AvisoDeNoSalvado());
         return false;
     }
     trabajo_.Actual = escalera;
@@ -74,7 +74,7 @@ bool EscaleraHDatos::Salvar(const EntradaEscaleraH& entrados) {
     try {
         if (!Guardar(entrados)) return false;
     } catch (const ErrorEjecucion& error) {
-        caja_.Mostrar(AvisoDeError(error));
+        caja_.Mostrar(escaleras::ui::AvisoDeError(error));
         return false;
     }
     trabajo_.Nueva = false;
@@ -85,9 +85,9 @@ bool EscaleraHDatos::Salvar(const EntradaEscaleraH& entrados) {
 
 bool EscaleraHDatos::Cerrar(const EntradaEscaleraH& entrados) {
     if (!modificada_) return true;
-    const std::int16_t respuesta = caja_.Mostrar(PreguntaDeSalvar(Nombre()));
-    if (respuesta == RespuestaCancelar) return false;
-    return respuesta != RespuestaSi || Salvar(entrados);
+    const std::int16_t respuesta = caja_.Mostrar(escaleras::ui::PreguntaDeSalvar(Nombre()));
+    if (respuesta == programa::RespuestaCancelar) return false;
+    return respuesta != programa::RespuestaSi || Salvar(entrados);
 }
 
-}  // namespace trabex
+}  // namespace trabex::helices::ui

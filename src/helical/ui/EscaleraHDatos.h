@@ -8,7 +8,7 @@
 #include "stairs/ui/CamposEscalera.h"
 #include "store/tablas/TablasProyecto.h"
 
-namespace trabex {
+namespace trabex::helices::ui {
 
 /// Fields of a helical stair.
 enum class CampoEscaleraH : std::size_t { B, T, H, R, Angulo, W, Inter };
@@ -24,23 +24,23 @@ struct EntradaEscaleraH {
     std::int32_t Inter;
 };
 
-class VistaEscaleraHDatos : public VistaDeCampos<CampoEscaleraH> {
+class VistaEscaleraHDatos : public escaleras::ui::VistaDeCampos<CampoEscaleraH> {
   public:
     virtual void Pitar() = 0;
 };
 
 /// What the data window of helical stairs works on; the workspace owns it all.
 struct TrabajoEscaleraH {
-    ProyectoAbierto& Proyecto;  ///< its list stands on the selected stair
-    DatosEscaleraH& Actual;     ///< the current stair
-    bool& Nueva;                ///< set by the creation of a stair until the window has saved it
-    bool& DatosCambiados;       ///< raised by a save: the workspace calculates again
+    almacen::tablas::ProyectoAbierto& Proyecto;  ///< its list stands on the selected stair
+    DatosEscaleraH& Actual;                      ///< the current stair
+    bool& Nueva;           ///< set by the creation of a stair until the window has saved it
+    bool& DatosCambiados;  ///< raised by a save: the workspace calculates again
 };
 
 /// Operations of the window that edits a helical stair.
 class EscaleraHDatos {
   public:
-    EscaleraHDatos(TrabajoEscaleraH trabajo, CajaMensajes& caja, VistaEscaleraHDatos& vista)
+    EscaleraHDatos(TrabajoEscaleraH trabajo, programa::CajaMensajes& caja, VistaEscaleraHDatos& vista)
         : trabajo_(trabajo), caja_(caja), vista_(vista) {}
 
     /// Name of the stair on which the list stands.
@@ -67,9 +67,9 @@ class EscaleraHDatos {
     bool Guardar(const EntradaEscaleraH& entrados);
 
     TrabajoEscaleraH trabajo_;
-    CajaMensajes& caja_;
+    programa::CajaMensajes& caja_;
     VistaEscaleraHDatos& vista_;
     bool modificada_ = false;
 };
 
-}  // namespace trabex
+}  // namespace trabex::helices::ui

@@ -15,7 +15,7 @@
 #include "drawing/qt/PapelQt.h"
 #include "slab/salida/RecorrerLosas.h"
 
-namespace trabex {
+namespace trabex::lote::qt {
 
 namespace {
 
@@ -37,42 +37,46 @@ void EscribirPng(const QImage& imagen, const std::filesystem::path& archivo) {
 }
 
 /// The three sheets, each on its page of A4 across.
-void EscribirPapel(const LosaDelProyecto& losa, const DatosDePagina& pagina,
+void EscribirPapel(const losas::salida::LosaDelProyecto& losa, const dibujo::losa::DatosDePagina& pagina,
                    const std::filesystem::path& archivo) {
     QBuffer bytes;
     bytes.open(QIODevice::WriteOnly);
     QPdfWriter papel(&bytes);
-    papel.setResolution(UnidadesPorPulgadaDePapel);
+    papel.setResolution(dibujo::qt::UnidadesPorPulgadaDePapel);
     papel.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape,
                                     QMarginsF(12, 12, 12, 12), QPageLayout::Millimeter));
     papel.setTitle(QString::fromStdString(losa.Datos.Nombre));
     papel.setCreator("Trabex 2024");
-    PapelQt hojas(papel);
-    for (const std::uint8_t vista : {VistaGeometria, VistaFuerzas, VistaDiseno}) {
-        HojaLosa hoja;
+    dibujo::qt::PapelQt hojas(papel);
+    for (const std::uint8_t vista :
+         {dibujo::losa::VistaGeometria, dibujo::losa::VistaFuerzas, dibujo::losa::VistaDiseno}) {
+        dibujo::losa::HojaLosa hoja;
         hoja.VistaActual = vista;
-        hojas.Pagina([&](Lienzo& lienzo) {
-            GuardeGraficos1(lienzo, hoja, {losa.Datos, losa.Generales, losa.Resultados}, pagina);
+        hojas.Pagina([&](dibujo::Lienzo& lienzo) {
+            dibujo::losa::GuardeGraficos1(lienzo, hoja, {losa.Datos, losa.Generales, losa.Resultados},
+                                          pagina);
         });
     }
     hojas.Terminar();
     EscribirArchivo(archivo, {bytes.data().constData(), static_cast<std::size_t>(bytes.data().size())});
 }
 
-std::string NombreDeHoja(const LosaDelProyecto& losa, const std::string& final) {
+std::string NombreDeHoja(const losas::salida::LosaDelProyecto& losa, const std::string& final) {
     return std::to_string(losa.Numero) + "-" + ParaArchivo(losa.Datos.Nombre) + "-" + final;
 }
 
 /// The pictures and the pages of one slab.
-void EscribirLosa(const LosaDelProyecto& losa, const std::filesystem::path& carpeta) {
+void EscribirLosa(const losas::salida::LosaDelProyecto& losa, const std::filesystem::path& carpeta) {
     constexpr std::array<const char*, 3> vistas{"geometria", "fuerzas", "diseno"};
-    HojaLosa hoja;
+    dibujo::losa::HojaLosa hoja;
     hoja.Vista.ExportandoGrafico = true;
-    for (const std::uint8_t vista : {VistaGeometria, VistaFuerzas, VistaDiseno}) {
+    for (const std::uint8_t vista :
+         {dibujo::losa::VistaGeometria, dibujo::losa::VistaFuerzas, dibujo::losa::VistaDiseno}) {
         hoja.VistaActual = vista;
-        const QImage imagen = DibujarImagen(AnchoSuperficie, AltoSuperficie, 1, [&](Lienzo& lienzo) {
-            RedibujeVista(lienzo, hoja, {losa.Datos, losa.Generales, losa.Resultados});
-        });
+        const QImage imagen = dibujo::qt::DibujarImagen(
+            dibujo::qt::AnchoSuperficie, dibujo::qt::AltoSuperficie, 1, [&](dibujo::Lienzo& lienzo) {
+                dibujo::losa::RedibujeVista(lienzo, hoja, {losa.Datos, losa.Generales, losa.Resultados});
+            });
         EscribirPng(imagen, carpeta / CaminoDeTexto(NombreDeHoja(losa, std::string(vistas[vista]) + ".png")));
     }
     EscribirPapel(losa, {"", losa.Proyecto.Proyecto, losa.Proyecto.Calculista},
@@ -81,9 +85,9 @@ void EscribirLosa(const LosaDelProyecto& losa, const std::filesystem::path& carp
 
 struct LosaGuardada {
     DatosDelProyecto Proyecto;
-    Losa Datos;
+    losas::Losa Datos;
     DatosGenerales Generales;
-    ResultadosLosa Resultados;
+    losas::ResultadosLosa Resultados;
 };
 
 }  // namespace
@@ -91,7 +95,7 @@ struct LosaGuardada {
 void EscribirHojas(const std::filesystem::path& proyecto, unsigned hilos,
                    const std::filesystem::path& carpeta) {
     std::vector<LosaGuardada> losas;
-    RecorrerLosas(proyecto, [&](const LosaDelProyecto& losa) {
+    losas::salida::RecorrerLosas(proyecto, [&](const losas::salida::LosaDelProyecto& losa) {
         losas.push_back({losa.Proyecto, losa.Datos, losa.Generales, losa.Resultados});
     });
     std::error_code error;
@@ -119,4 +123,4 @@ void EscribirHojas(const std::filesystem::path& proyecto, unsigned hilos,
     }
 }
 
-}  // namespace trabex
+}  // namespace trabex::lote::qt

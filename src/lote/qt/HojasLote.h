@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-namespace trabex {
+namespace trabex::lote::qt {
 
 /// Writes the three sheets of every slab of a project as `<number>-<name>-{geometria,fuerzas,diseno}.png`
 /// into a folder, on the surface of reports, and as the pages of `<number>-<name>-papel.pdf`. Draws on
@@ -10,4 +10,4 @@ namespace trabex {
 void EscribirHojas(const std::filesystem::path& proyecto, unsigned hilos,
                    const std::filesystem::path& carpeta);
 
-}  // namespace trabex
+}  // namespace trabex::lote::qt

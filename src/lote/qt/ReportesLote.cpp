@@ -10,26 +10,28 @@
 #include "slab/salida/GraficosLosas.h"
 #include "store/tablas/TablasLosa.h"
 
-namespace trabex {
+namespace trabex::lote::qt {
 
 namespace {
 
 /// Nobody watches the batch program.
-class SinPanel : public PanelProgreso {
+class SinPanel : public montaje::PanelProgreso {
   public:
     void Mostrar() override {}
     void Avanzar(double, const std::string&) override {}
     void Ocultar() override {}
 };
 
-constexpr std::array<std::pair<int, const char*>, 4> Formatos{
-    {{FormatoPdf, ".pdf"}, {FormatoHtml, ".htm"}, {FormatoXls, ".xls"}, {FormatoRtf, ".rtf"}}};
+constexpr std::array<std::pair<int, const char*>, 4> Formatos{{{salidas::FormatoPdf, ".pdf"},
+                                                               {salidas::FormatoHtml, ".htm"},
+                                                               {salidas::FormatoXls, ".xls"},
+                                                               {salidas::FormatoRtf, ".rtf"}}};
 
-void Exportar(const EntornoReportes& entorno, const char* diseno, const char* nombre) {
-    MotorReportes motor;
-    motor.Registrar(FormatoPdf, EscribirPdf);
-    Reporte reporte(entorno.CaminoPrograma / "Reportes" / diseno, {});
-    reporte.Ubicar(TemporalMdb(entorno));
+void Exportar(const montaje::EntornoReportes& entorno, const char* diseno, const char* nombre) {
+    salidas::MotorReportes motor;
+    motor.Registrar(salidas::FormatoPdf, salidas::qt::EscribirPdf);
+    salidas::Reporte reporte(entorno.CaminoPrograma / "Reportes" / diseno, {});
+    reporte.Ubicar(montaje::TemporalMdb(entorno));
     for (const auto& [codigo, extension] : Formatos)
         motor.Exportar(reporte.Contenido(), codigo,
                        entorno.CaminoUsuario / "reportes" / (std::string(nombre) + extension));
@@ -39,25 +41,27 @@ void Exportar(const EntornoReportes& entorno, const char* diseno, const char* no
 
 void EscribirReportes(const std::filesystem::path& programa, const std::filesystem::path& proyecto,
                       const std::filesystem::path& carpeta) {
-    ProyectoAbierto abierto;
-    AbrirCopiaEnMemoria(abierto.ConexionProyecto, proyecto);
-    AbrirRecordset(abierto.ConexionProyecto, abierto.RegistrosProyecto, ConsultaListaLosas);
+    almacen::tablas::ProyectoAbierto abierto;
+    almacen::AbrirCopiaEnMemoria(abierto.ConexionProyecto, proyecto);
+    almacen::AbrirRecordset(abierto.ConexionProyecto, abierto.RegistrosProyecto,
+                            almacen::tablas::ConsultaListaLosas);
     DatosDelProyecto datos;
     DatosGenerales generales;
-    LeerDatosGenerales(abierto.ConexionProyecto, "", datos, generales);
+    almacen::tablas::LeerDatosGenerales(abierto.ConexionProyecto, "", datos, generales);
     std::error_code error;
     for (const char* parte : {"reportes", "Trabajo"})
         std::filesystem::create_directories(carpeta / parte, error);
 
-    const EntornoReportes entorno{programa, carpeta, ""};
-    const ProyectoParaReporte origen{abierto, datos, generales};
-    EstadoReportes estado{.OpcionExportarLosas = 1, .ExportarDesplazamientos = true, .OpcionGrafico = 1};
-    SuperficieQt superficie;
+    const montaje::EntornoReportes entorno{programa, carpeta, ""};
+    const losas::salida::ProyectoParaReporte origen{abierto, datos, generales};
+    montaje::EstadoReportes estado{
+        .OpcionExportarLosas = 1, .ExportarDesplazamientos = true, .OpcionGrafico = 1};
+    montaje::qt::SuperficieQt superficie;
     SinPanel panel;
-    GuardeGraficos(entorno, origen, HojaLosa{}, superficie, panel, estado);
+    losas::salida::GuardeGraficos(entorno, origen, dibujo::losa::HojaLosa{}, superficie, panel, estado);
     Exportar(entorno, "Grafico.rpt", "losas-graficos");
-    LLeneResultados(entorno, origen, estado);
+    losas::salida::LLeneResultados(entorno, origen, estado);
     Exportar(entorno, "ResultadosLosa.rpt", "losas-resultados");
 }
 
-}  // namespace trabex
+}  // namespace trabex::lote::qt

@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-namespace trabex {
+namespace trabex::lote::qt {
 
 /// Writes the results of all slabs and their drawings, each as PDF, HTML, XLS and RTF, into `reportes/` of a
 /// folder, and leaves the scratch database of the results in `Trabajo/` there. `programa` holds templates and
@@ -10,4 +10,4 @@ namespace trabex {
 void EscribirReportes(const std::filesystem::path& programa, const std::filesystem::path& proyecto,
                       const std::filesystem::path& carpeta);
 
-}  // namespace trabex
+}  // namespace trabex::lote::qt

@@ -9,7 +9,7 @@
 #include "base/Texto.h"
 #include "reports/documento/DatosReporte.h"
 
-namespace trabex {
+namespace trabex::documento {
 
 namespace {
 
@@ -232,9 +232,10 @@ class Compositor {
             documento_.Secciones.push_back({documento_.Titulo, false, false, {}});
         documento_.Secciones.back().Bloques.push_back(std::move(bloque));
     }
-    Valor Leer(const Referencia& referencia, const FilaActual* alrededor) {
+    almacen::Valor Leer(const Referencia& referencia, const FilaActual* alrededor) {
         const Hallada hallada = nombres_.Buscar(referencia, alrededor);
-        return hallada.Tabla && hallada.Fila ? hallada.Tabla->Leer(*hallada.Fila, hallada.Columna) : Valor{};
+        return hallada.Tabla && hallada.Fila ? hallada.Tabla->Leer(*hallada.Fila, hallada.Columna)
+                                             : almacen::Valor{};
     }
     std::string Texto(const Plantilla& plantilla, const FilaActual* alrededor) {
         std::string texto;
@@ -285,19 +286,19 @@ class Compositor {
     }
     void Escribir(const ElementoSalto&, const FilaActual*) { Agregar(SaltoDePagina{}); }
 
-    static bool EsCierto(const Valor& valor) {
+    static bool EsCierto(const almacen::Valor& valor) {
         if (const auto numero = NumeroDe(valor)) return *numero != 0;
         if (const auto* texto = std::get_if<std::string>(&valor)) return !texto->empty();
         const auto* logico = std::get_if<bool>(&valor);
         return logico != nullptr && *logico;
     }
-    Valor Celda(const CeldaDeDiseno& celda, const FilaActual& fila) {
+    almacen::Valor Celda(const CeldaDeDiseno& celda, const FilaActual& fila) {
         if (celda.Que == CeldaDeDiseno::Clase::Nada) return {};
         if (celda.Que == CeldaDeDiseno::Clase::Texto) return Texto(celda.Texto, &fila);
         return Leer(celda.Campo, &fila);
     }
-    Valor Total(const CeldaDeDiseno& celda, const TablaDeDatos* tabla, const std::vector<std::size_t>& filas,
-                const FilaActual* alrededor);
+    almacen::Valor Total(const CeldaDeDiseno& celda, const TablaDeDatos* tabla,
+                         const std::vector<std::size_t>& filas, const FilaActual* alrededor);
 
     const DisenoReporte& diseno_;
     std::shared_ptr<DatosReporte> datos_;
@@ -305,8 +306,8 @@ class Compositor {
     Documento& documento_;
 };
 
-Valor Compositor::Total(const CeldaDeDiseno& celda, const TablaDeDatos* tabla,
-                        const std::vector<std::size_t>& filas, const FilaActual* alrededor) {
+almacen::Valor Compositor::Total(const CeldaDeDiseno& celda, const TablaDeDatos* tabla,
+                                 const std::vector<std::size_t>& filas, const FilaActual* alrededor) {
     using Clase = CeldaDeDiseno::Clase;
     if (celda.Que == Clase::Nada) return {};
     const FilaActual ultima{tabla, filas.back(), alrededor};
@@ -327,7 +328,7 @@ Valor Compositor::Total(const CeldaDeDiseno& celda, const TablaDeDatos* tabla,
     if (celda.Que == Clase::Cuenta) return cuenta;
     if (celda.Que == Clase::Suma) return suma;
     const auto extremo = celda.Que == Clase::Maximo ? maximo : minimo;
-    return extremo ? Valor{*extremo} : Valor{};
+    return extremo ? almacen::Valor{*extremo} : almacen::Valor{};
 }
 
 void Compositor::Escribir(const ElementoTabla& e, const FilaActual* alrededor) {
@@ -379,4 +380,4 @@ Documento Componer(const DisenoReporte& diseno, const Separadores& separadores) 
     return documento;
 }
 
-}  // namespace trabex
+}  // namespace trabex::documento

@@ -3,7 +3,7 @@
 #include "reports/documento/DisenoReporte.h"
 #include "reports/documento/Documento.h"
 
-namespace trabex {
+namespace trabex::documento {
 
 /// A layout and the rows that it names make a document. Pictures are left for its writers to read: the
 /// document keeps their database open.
@@ -13,4 +13,4 @@ namespace trabex {
 /// where no row would have come to it.
 Documento Componer(const DisenoReporte& diseno, const Separadores& separadores);
 
-}  // namespace trabex
+}  // namespace trabex::documento

@@ -10,7 +10,7 @@
 #include "store/Dialecto.h"
 #include "store/Recordset.h"
 
-namespace trabex {
+namespace trabex::documento {
 
 namespace {
 
@@ -22,41 +22,41 @@ bool MismoNombre(std::string_view a, std::string_view b) {
     });
 }
 
-Valor Imprimible(Valor valor) {
+almacen::Valor Imprimible(almacen::Valor valor) {
     if (auto* texto = std::get_if<std::string>(&valor)) *texto = TextoImprimible(*texto);
     return valor;
 }
 
 /// A value as a key: equal values, equal keys.
-std::string Clave(const Valor& valor) {
+std::string Clave(const almacen::Valor& valor) {
     return std::to_string(valor.index()) + TextoDeValor(valor, {}, {});
 }
 
 }  // namespace
 
-std::unique_ptr<TablaDeDatos> TablaDeDatos::Leer(Conexion& conexion, const std::string& nombre,
+std::unique_ptr<TablaDeDatos> TablaDeDatos::Leer(almacen::Conexion& conexion, const std::string& nombre,
                                                  const std::string& orden) {
-    Recordset registros;
-    AbrirRecordset(conexion, registros, "SELECT * FROM " + nombre + " WHERE 0");
+    almacen::Recordset registros;
+    almacen::AbrirRecordset(conexion, registros, "SELECT * FROM " + nombre + " WHERE 0");
     if (!registros.Abierto()) return nullptr;
     auto tabla = std::make_unique<TablaDeDatos>();
     tabla->conexion_ = &conexion;
     tabla->nombre_ = nombre;
-    const std::string calificador = Identificador(nombre) + ".";
+    const std::string calificador = almacen::Identificador(nombre) + ".";
     std::string consulta = "SELECT " + calificador + "rowid AS " + ColumnaIdentidad;
-    for (const trabex::Columna& columna : registros.Columnas()) {
-        const bool esImagen = columna.Tipo == TipoColumna::Binario;
+    for (const trabex::almacen::Columna& columna : registros.Columnas()) {
+        const bool esImagen = columna.Tipo == almacen::TipoColumna::Binario;
         (esImagen ? tabla->imagenes_ : tabla->columnas_).push_back(columna.Nombre);
-        if (!esImagen) consulta += ", " + calificador + Identificador(columna.Nombre);
+        if (!esImagen) consulta += ", " + calificador + almacen::Identificador(columna.Nombre);
     }
     if (!orden.empty() && !tabla->Columna(orden)) return nullptr;
-    consulta += " FROM " + Identificador(nombre) + " ORDER BY ";
-    if (!orden.empty()) consulta += calificador + Identificador(orden) + ", ";
-    AbrirRecordset(conexion, registros, consulta + calificador + "rowid");
+    consulta += " FROM " + almacen::Identificador(nombre) + " ORDER BY ";
+    if (!orden.empty()) consulta += calificador + almacen::Identificador(orden) + ", ";
+    almacen::AbrirRecordset(conexion, registros, consulta + calificador + "rowid");
     for (int i = 1; i <= registros.NumeroRegistros(); ++i) {
         registros.MoverA(i);
         tabla->identidades_.push_back(TextoDeValor(registros.Leer(ColumnaIdentidad), {}, {}));
-        std::vector<Valor>& fila = tabla->filas_.emplace_back();
+        std::vector<almacen::Valor>& fila = tabla->filas_.emplace_back();
         fila.reserve(tabla->columnas_.size());
         for (const std::string& columna : tabla->columnas_)
             fila.push_back(Imprimible(registros.Leer(columna)));
@@ -73,7 +73,7 @@ std::optional<std::size_t> TablaDeDatos::Columna(std::string_view nombre) const 
     return std::nullopt;
 }
 
-const std::vector<std::size_t>& TablaDeDatos::Donde(std::size_t columna, const Valor& valor) const {
+const std::vector<std::size_t>& TablaDeDatos::Donde(std::size_t columna, const almacen::Valor& valor) const {
     static const std::vector<std::size_t> ninguna;
     const auto [indice, nuevo] = indices_.try_emplace(columna);
     if (nuevo) {
@@ -89,19 +89,20 @@ bool TablaDeDatos::EsImagen(std::string_view columna) const {
                        [&](const std::string& nombre) { return MismoNombre(nombre, columna); });
 }
 
-Bytes TablaDeDatos::LeerImagen(std::size_t fila, std::string_view columna) const {
-    Recordset registros;
-    AbrirRecordset(*conexion_, registros,
-                   "SELECT " + Identificador(nombre_) + "." + Identificador(columna) + " FROM " +
-                       Identificador(nombre_) + " WHERE rowid = " + identidades_[fila]);
-    Valor valor = registros.Leer(columna);
-    auto* bytes = std::get_if<Bytes>(&valor);
-    return bytes ? std::move(*bytes) : Bytes();
+almacen::Bytes TablaDeDatos::LeerImagen(std::size_t fila, std::string_view columna) const {
+    almacen::Recordset registros;
+    almacen::AbrirRecordset(*conexion_, registros,
+                            "SELECT " + almacen::Identificador(nombre_) + "." +
+                                almacen::Identificador(columna) + " FROM " + almacen::Identificador(nombre_) +
+                                " WHERE rowid = " + identidades_[fila]);
+    almacen::Valor valor = registros.Leer(columna);
+    auto* bytes = std::get_if<almacen::Bytes>(&valor);
+    return bytes ? std::move(*bytes) : almacen::Bytes();
 }
 
 DatosReporte::Base& DatosReporte::Abierta(const std::filesystem::path& ubicacion) {
     const auto [base, nueva] = bases_.try_emplace(ubicacion);
-    if (nueva) AbrirConexion(base->second.LaConexion, ubicacion);
+    if (nueva) almacen::AbrirConexion(base->second.LaConexion, ubicacion);
     return base->second;
 }
 
@@ -117,4 +118,4 @@ const TablaDeDatos* DatosReporte::Tabla(const std::filesystem::path& ubicacion, 
     return tabla->second.get();
 }
 
-}  // namespace trabex
+}  // namespace trabex::documento

@@ -13,36 +13,36 @@
 #include "store/Conexion.h"
 #include "store/Valor.h"
 
-namespace trabex {
+namespace trabex::documento {
 
 /// The rows of a table of the scratch database, read whole, save its pictures: those are read one at a time.
 /// Names of columns are found without regard to case, and texts are made printable.
 class TablaDeDatos {
   public:
     /// Nothing when the database has no such table, or the table no such column to order by.
-    static std::unique_ptr<TablaDeDatos> Leer(Conexion& conexion, const std::string& nombre,
+    static std::unique_ptr<TablaDeDatos> Leer(almacen::Conexion& conexion, const std::string& nombre,
                                               const std::string& orden);
 
     const std::string& Nombre() const { return nombre_; }
     std::size_t NumeroFilas() const { return filas_.size(); }
     std::optional<std::size_t> Columna(std::string_view nombre) const;
-    const Valor& Leer(std::size_t fila, std::size_t columna) const { return filas_[fila][columna]; }
+    const almacen::Valor& Leer(std::size_t fila, std::size_t columna) const { return filas_[fila][columna]; }
     /// Numbers of the rows whose column equals a value, in order.
-    const std::vector<std::size_t>& Donde(std::size_t columna, const Valor& valor) const;
+    const std::vector<std::size_t>& Donde(std::size_t columna, const almacen::Valor& valor) const;
     /// Numbers of all rows, in order.
     const std::vector<std::size_t>& Todas() const { return todas_; }
 
     bool EsImagen(std::string_view columna) const;
-    Bytes LeerImagen(std::size_t fila, std::string_view columna) const;
+    almacen::Bytes LeerImagen(std::size_t fila, std::string_view columna) const;
 
   private:
     using Indice = std::unordered_map<std::string, std::vector<std::size_t>>;
 
-    Conexion* conexion_ = nullptr;
+    almacen::Conexion* conexion_ = nullptr;
     std::string nombre_;
     std::vector<std::string> columnas_;
     std::vector<std::string> imagenes_;
-    std::vector<std::vector<Valor>> filas_;
+    std::vector<std::vector<almacen::Valor>> filas_;
     std::vector<std::string> identidades_;
     std::vector<std::size_t> todas_;
     mutable std::map<std::size_t, Indice> indices_;  // by column, made when first asked for
@@ -59,7 +59,7 @@ class DatosReporte {
 
   private:
     struct Base {
-        Conexion LaConexion;
+        almacen::Conexion LaConexion;
         std::map<std::string, std::unique_ptr<TablaDeDatos>> Tablas;  // by name and order
     };
     Base& Abierta(const std::filesystem::path& ubicacion);
@@ -67,4 +67,4 @@ class DatosReporte {
     std::map<std::filesystem::path, Base> bases_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::documento

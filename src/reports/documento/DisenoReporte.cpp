@@ -8,7 +8,7 @@
 
 #include "base/Archivos.h"
 
-namespace trabex {
+namespace trabex::documento {
 
 namespace {
 
@@ -528,4 +528,4 @@ DisenoReporte LeerDiseno(const std::filesystem::path& archivo) {
     return Lector(archivo, {}).Leer();
 }
 
-}  // namespace trabex
+}  // namespace trabex::documento

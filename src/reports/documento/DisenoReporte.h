@@ -11,7 +11,7 @@
 #include "base/ErrorEjecucion.h"
 #include "reports/documento/Documento.h"
 
-namespace trabex {
+namespace trabex::documento {
 
 /// A report layout, as its file says it: docs/reportes.md tells the language. It names tables and columns of
 /// the scratch database and holds no data.
@@ -144,4 +144,4 @@ DisenoReporte LeerDiseno(const std::filesystem::path& archivo);
 /// The error of a line of a layout.
 ErrorEjecucion ErrorDeDiseno(const std::filesystem::path& archivo, int linea, const std::string& falta);
 
-}  // namespace trabex
+}  // namespace trabex::documento

@@ -7,7 +7,7 @@
 #include <type_traits>
 #include <utility>
 
-namespace trabex {
+namespace trabex::documento {
 
 namespace {
 
@@ -69,7 +69,7 @@ MedidaHoja MedidaDe(const Imagen& imagen, double pixelesAncho, double pixelesAlt
     return {pixelesAncho * escala, pixelesAlto * escala};
 }
 
-std::optional<double> NumeroDe(const Valor& valor) {
+std::optional<double> NumeroDe(const almacen::Valor& valor) {
     return std::visit(
         [](const auto& v) -> std::optional<double> {
             using T = std::decay_t<decltype(v)>;
@@ -81,7 +81,8 @@ std::optional<double> NumeroDe(const Valor& valor) {
         valor);
 }
 
-std::string TextoDeValor(const Valor& valor, const std::string& formato, const Separadores& separadores) {
+std::string TextoDeValor(const almacen::Valor& valor, const std::string& formato,
+                         const Separadores& separadores) {
     if (const auto numero = NumeroDe(valor)) return TextoDeNumero(*numero, formato, separadores);
     if (const auto* texto = std::get_if<std::string>(&valor)) return *texto;
     if (const auto* fecha = std::get_if<Fecha>(&valor)) return FormatoFecha(*fecha);
@@ -115,4 +116,4 @@ std::vector<GrupoDeColumnas> GruposDe(const Tabla& tabla) {
     return grupos;
 }
 
-}  // namespace trabex
+}  // namespace trabex::documento

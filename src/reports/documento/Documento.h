@@ -11,7 +11,7 @@
 #include "base/Formatos.h"
 #include "store/Valor.h"
 
-namespace trabex {
+namespace trabex::documento {
 
 /// A report as what it says, free of where it goes: a layout and its data make one Documento, and each output
 /// (paper, PDF, viewer, HTML, RTF, XLS) is a writer of it. Texts are UTF-8, a line feed in them breaks a
@@ -69,16 +69,17 @@ struct Parrafo {
 ///   boolean   the texts of true and false, "Maciza|Nervada"; empty: "Sí|No"
 /// A number whose format holds bars is a choice: the text that stands at its place, counted from 0.
 /// A null shows as nothing.
-std::string TextoDeValor(const Valor& valor, const std::string& formato, const Separadores& separadores);
+std::string TextoDeValor(const almacen::Valor& valor, const std::string& formato,
+                         const Separadores& separadores);
 
 /// The value as a double when it is a number of any width.
-std::optional<double> NumeroDe(const Valor& valor);
+std::optional<double> NumeroDe(const almacen::Valor& valor);
 
 /// A block of names and values, laid out in `Columnas` pairs a line.
 struct Ficha {
     struct Dato {
         std::string Rotulo;
-        Valor Contenido;
+        almacen::Valor Contenido;
         std::string Formato;
         std::string Unidad;  ///< follows the value
     };
@@ -95,8 +96,9 @@ struct ColumnaDeTabla {
 };
 
 struct FilaDeTabla {
-    std::vector<Valor> Celdas;  ///< one a column; a number stays a number in outputs that know numbers
-    bool Destacada = false;     ///< totals: bold, under a rule
+    std::vector<almacen::Valor>
+        Celdas;              ///< one a column; a number stays a number in outputs that know numbers
+    bool Destacada = false;  ///< totals: bold, under a rule
 };
 
 /// A table. Where it breaks over pages its header is repeated; a row is never broken.
@@ -120,10 +122,11 @@ std::vector<GrupoDeColumnas> GruposDe(const Tabla& tabla);
 /// A picture: the bytes of a Windows bitmap or a PNG. They are read when a writer needs them and not kept, so
 /// that a document of many drawings takes the memory of one.
 struct Imagen {
-    std::function<Bytes()> Leer;  ///< empty bytes, or ones that are no picture: a note stands in its place
-    double Ancho = 0;             ///< the room it fills, keeping its proportions; 0: the width of the text
-    double Alto = 0;              ///< 0: the height of the text
-    std::string Pie;              ///< caption, on the same page
+    std::function<almacen::Bytes()>
+        Leer;          ///< empty bytes, or ones that are no picture: a note stands in its place
+    double Ancho = 0;  ///< the room it fills, keeping its proportions; 0: the width of the text
+    double Alto = 0;   ///< 0: the height of the text
+    std::string Pie;   ///< caption, on the same page
 };
 
 /// The size at which a picture of so many pixels fills its room, within the room that there is.
@@ -153,4 +156,4 @@ struct Documento {
     std::vector<Seccion> Secciones;
 };
 
-}  // namespace trabex
+}  // namespace trabex::documento

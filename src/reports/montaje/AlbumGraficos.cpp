@@ -2,10 +2,10 @@
 
 #include "base/Archivos.h"
 
-namespace trabex {
+namespace trabex::montaje {
 
-AlbumGraficos::AlbumGraficos(Conexion& temporal, const EntornoReportes& entorno, SuperficieOculta& superficie,
-                             PanelProgreso& panel, std::size_t total)
+AlbumGraficos::AlbumGraficos(almacen::Conexion& temporal, const EntornoReportes& entorno,
+                             SuperficieOculta& superficie, PanelProgreso& panel, std::size_t total)
     : entorno_(entorno), superficie_(superficie), panel_(panel), total_(total), tabla_(temporal, "Grafico") {
     temporal.Ejecutar("DELETE * FROM Grafico");
 }
@@ -13,7 +13,7 @@ AlbumGraficos::AlbumGraficos(Conexion& temporal, const EntornoReportes& entorno,
 AlbumGraficos::~AlbumGraficos() {
     if (numero_ == 0) return;
     try {
-        const Bytes foto = superficie_.Foto();
+        const almacen::Bytes foto = superficie_.Foto();
         EscribirArchivo(CarpetaTrabajo(entorno_) / "Foto",
                         {reinterpret_cast<const char*>(foto.data()), foto.size()});
     } catch (const ErrorEjecucion&) {
@@ -22,7 +22,7 @@ AlbumGraficos::~AlbumGraficos() {
 }
 
 void AlbumGraficos::Agregar(const std::string& nombre, const std::string& titulo, const std::string& avance,
-                            const std::function<void(Lienzo&)>& dibujar) {
+                            const std::function<void(dibujo::Lienzo&)>& dibujar) {
     panel_.Avanzar(100.0 * static_cast<double>(numero_) / static_cast<double>(total_), avance);
     superficie_.Dibujar(AnchoGraficoTwips, AltoGraficoTwips, dibujar);
     ++numero_;
@@ -34,4 +34,4 @@ void AlbumGraficos::Agregar(const std::string& nombre, const std::string& titulo
     panel_.Avanzar(100.0 * static_cast<double>(numero_) / static_cast<double>(total_), avance);
 }
 
-}  // namespace trabex
+}  // namespace trabex::montaje

@@ -7,14 +7,14 @@
 #include "reports/montaje/SuperficieOculta.h"
 #include "store/Insercion.h"
 
-namespace trabex {
+namespace trabex::montaje {
 
 /// The pictures of a report on their way into the scratch table `Grafico`, for any element: numbered from 1,
 /// each with a step of the progress panel.
 class AlbumGraficos {
   public:
     /// Empties the table. `total` is the number of pictures to come. What it refers to must outlive it.
-    AlbumGraficos(Conexion& temporal, const EntornoReportes& entorno, SuperficieOculta& superficie,
+    AlbumGraficos(almacen::Conexion& temporal, const EntornoReportes& entorno, SuperficieOculta& superficie,
                   PanelProgreso& panel, std::size_t total);
     /// Leaves the last picture in the file `Foto` of the scratch folder, in quality 100.
     ~AlbumGraficos();
@@ -22,11 +22,11 @@ class AlbumGraficos {
     AlbumGraficos& operator=(const AlbumGraficos&) = delete;
 
     /// Sets a further column of the picture to come.
-    void Poner(std::string_view campo, const Valor& valor) { tabla_.Poner(campo, valor); }
+    void Poner(std::string_view campo, const almacen::Valor& valor) { tabla_.Poner(campo, valor); }
     /// Draws a picture and adds it: `nombre` is the element's, `titulo` the caption. `avance` is what the
     /// panel tells.
     void Agregar(const std::string& nombre, const std::string& titulo, const std::string& avance,
-                 const std::function<void(Lienzo&)>& dibujar);
+                 const std::function<void(dibujo::Lienzo&)>& dibujar);
 
   private:
     const EntornoReportes& entorno_;
@@ -34,7 +34,7 @@ class AlbumGraficos {
     PanelProgreso& panel_;
     std::size_t total_;
     std::size_t numero_ = 0;
-    Insercion tabla_;
+    almacen::Insercion tabla_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::montaje

@@ -3,7 +3,7 @@
 #include "base/Archivos.h"
 #include "store/Recordset.h"
 
-namespace trabex {
+namespace trabex::montaje {
 
 namespace {
 
@@ -22,10 +22,10 @@ void Reponer(const EntornoReportes& entorno) {
 }
 
 void EscribirGenerales(const EntornoReportes& entorno, const DatosDelProyecto& datos,
-                       const EncabezadoReporte& encabezado, Conexion& conexion) {
+                       const EncabezadoReporte& encabezado, almacen::Conexion& conexion) {
     conexion.Ejecutar("DELETE * FROM Generales");
-    Recordset registros;
-    AbrirRecordset(conexion, registros, "Generales");
+    almacen::Recordset registros;
+    almacen::AbrirRecordset(conexion, registros, "Generales");
     registros.AgregarNuevo();
     registros.Poner("Usuario", entorno.Usuario);
     registros.Poner("Version", Version);
@@ -50,11 +50,11 @@ std::filesystem::path TemporalMdb(const EntornoReportes& entorno) {
 }
 
 void AbrirTemporal(const EntornoReportes& entorno, const DatosDelProyecto& datos,
-                   const EncabezadoReporte& encabezado, Conexion& conexionTemporal) {
+                   const EncabezadoReporte& encabezado, almacen::Conexion& conexionTemporal) {
     conexionTemporal.Cerrar();  // of an earlier report, or the file could not be replaced
     Reponer(entorno);
-    AbrirConexion(conexionTemporal, TemporalMdb(entorno));
+    almacen::AbrirConexion(conexionTemporal, TemporalMdb(entorno));
     EscribirGenerales(entorno, datos, encabezado, conexionTemporal);
 }
 
-}  // namespace trabex
+}  // namespace trabex::montaje

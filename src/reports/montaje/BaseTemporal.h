@@ -7,7 +7,7 @@
 #include "base/Proyecto.h"
 #include "store/Conexion.h"
 
-namespace trabex {
+namespace trabex::montaje {
 
 /// Where reports are staged, and for whom.
 struct EntornoReportes {
@@ -34,6 +34,6 @@ struct EncabezadoReporte {
 /// Never throws: without a template, or on a disk that refuses, the connection is closed and the report is
 /// empty.
 void AbrirTemporal(const EntornoReportes& entorno, const DatosDelProyecto& datos,
-                   const EncabezadoReporte& encabezado, Conexion& conexionTemporal);
+                   const EncabezadoReporte& encabezado, almacen::Conexion& conexionTemporal);
 
-}  // namespace trabex
+}  // namespace trabex::montaje

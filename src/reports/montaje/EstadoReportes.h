@@ -5,7 +5,7 @@
 
 #include "store/Recordset.h"
 
-namespace trabex {
+namespace trabex::montaje {
 
 /// What the dialogs choose for a report, and what is going on while one is made. One instance for the
 /// program, passed by reference.
@@ -36,14 +36,14 @@ class BanderaEnAlto {
 /// Puts a list back on the record it stood on, whichever way it is left.
 class PosicionGuardada {
   public:
-    explicit PosicionGuardada(Recordset& lista) : lista_(lista), posicion_(lista.Posicion()) {}
+    explicit PosicionGuardada(almacen::Recordset& lista) : lista_(lista), posicion_(lista.Posicion()) {}
     ~PosicionGuardada() { lista_.MoverA(posicion_); }
     PosicionGuardada(const PosicionGuardada&) = delete;
     PosicionGuardada& operator=(const PosicionGuardada&) = delete;
 
   private:
-    Recordset& lista_;
+    almacen::Recordset& lista_;
     int posicion_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::montaje

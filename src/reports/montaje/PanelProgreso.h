@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace trabex {
+namespace trabex::montaje {
 
 /// The panel that holds a window while a long report is made.
 class PanelProgreso {
@@ -26,4 +26,4 @@ class PanelALaVista {
     PanelProgreso& panel_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::montaje

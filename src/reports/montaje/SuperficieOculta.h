@@ -6,7 +6,7 @@
 #include "drawing/Lienzo.h"
 #include "store/Valor.h"
 
-namespace trabex {
+namespace trabex::montaje {
 
 /// Size of the hidden surfaces of reports, in twips (1/1440 inch). It, and not that of the screen's canvas,
 /// sets the scale of a report's drawings.
@@ -19,11 +19,11 @@ class SuperficieOculta {
     virtual ~SuperficieOculta() = default;
     /// Draws anew on a surface of a size in twips.
     virtual void Dibujar(std::int32_t ancho, std::int32_t alto,
-                         const std::function<void(Lienzo&)>& dibujar) = 0;
+                         const std::function<void(dibujo::Lienzo&)>& dibujar) = 0;
     /// The picture as a Windows bitmap file's bytes.
-    virtual Bytes MapaDeBits() const = 0;
+    virtual almacen::Bytes MapaDeBits() const = 0;
     /// The picture as a JPEG file's bytes, of quality 100.
-    virtual Bytes Foto() const = 0;
+    virtual almacen::Bytes Foto() const = 0;
 };
 
-}  // namespace trabex
+}  // namespace trabex::montaje

@@ -10,7 +10,7 @@
 #include "base/Texto.h"
 #include "slab/salida/RecorrerLosas.h"
 
-namespace trabex {
+namespace trabex::planex {
 
 namespace {
 
@@ -33,9 +33,9 @@ constexpr std::array<const char*, 14> TablasQueSeVacian{"LosaComputos",
                                                         "LosaReparticion",
                                                         "LosaTramos"};
 
-using Campo = std::pair<const char*, Valor>;
+using Campo = std::pair<const char*, almacen::Valor>;
 
-bool AgregarFila(Recordset& tabla, std::initializer_list<Campo> campos) {
+bool AgregarFila(almacen::Recordset& tabla, std::initializer_list<Campo> campos) {
     tabla.AgregarNuevo();
     bool puestos = true;
     for (const auto& [campo, valor] : campos) puestos = tabla.Poner(campo, valor) && puestos;
@@ -43,34 +43,36 @@ bool AgregarFila(Recordset& tabla, std::initializer_list<Campo> campos) {
 }
 
 /// A literal of the contract.
-Valor Literal(const char* texto) {
+almacen::Valor Literal(const char* texto) {
     return std::string(texto);
 }
 
 /// A row's number; one past the column's 16 bits is refused there.
-Valor Numero(std::size_t k) {
+almacen::Valor Numero(std::size_t k) {
     return static_cast<double>(k);
 }
 
-std::size_t TramosDe(const Losa& losa) {
+std::size_t TramosDe(const losas::Losa& losa) {
     return losa.Tramos.size() - 1;
 }
 
-EjeLosa EjeDe(const Losa& losa, std::size_t i) {
-    return i < losa.Ejes.size() ? losa.Ejes[i] : EjeLosa{};
+losas::EjeLosa EjeDe(const losas::Losa& losa, std::size_t i) {
+    return i < losa.Ejes.size() ? losa.Ejes[i] : losas::EjeLosa{};
 }
 
-Valor AceroDeEje(const ResultadosLosa& resultados, std::size_t i) {
+almacen::Valor AceroDeEje(const losas::ResultadosLosa& resultados, std::size_t i) {
     return i < resultados.DisenoEje.size() ? resultados.DisenoEje[i].AS1 : 0.0;
 }
 
-Valor AceroDeTramo(const ResultadosLosa& resultados, std::size_t i) {
+almacen::Valor AceroDeTramo(const losas::ResultadosLosa& resultados, std::size_t i) {
     return i < resultados.DisenoTramo.size() ? resultados.DisenoTramo[i].AS2 : 0.0;
 }
 
-bool AgregarDatos(Recordset& tabla, const std::string& nombre, const Losa& losa) {
+bool AgregarDatos(almacen::Recordset& tabla, const std::string& nombre, const losas::Losa& losa) {
     // A solid slab's row leaves the fields of ribs without a value.
-    const auto deNervada = [&](double valor) { return losa.OpcionMaciza ? Valor{} : Valor{valor}; };
+    const auto deNervada = [&](double valor) {
+        return losa.OpcionMaciza ? almacen::Valor{} : almacen::Valor{valor};
+    };
     return AgregarFila(tabla, {{"Nombre", nombre},
                                {"NT", Numero(TramosDe(losa))},
                                {"EscLosa", 50.0},
@@ -87,7 +89,8 @@ bool AgregarDatos(Recordset& tabla, const std::string& nombre, const Losa& losa)
                                {"OpcionLosaF", false}});
 }
 
-bool AgregarNervio(Recordset& tabla, const std::string& nombre, const Losa& losa, std::size_t i) {
+bool AgregarNervio(almacen::Recordset& tabla, const std::string& nombre, const losas::Losa& losa,
+                   std::size_t i) {
     const NervioPlanex nervio = NervioParaPlanex(losa, i);
     return AgregarFila(tabla, {{"Nombre", nombre},
                                {"Tramo", Numero(i)},
@@ -96,7 +99,8 @@ bool AgregarNervio(Recordset& tabla, const std::string& nombre, const Losa& losa
                                {"Ancho", nervio.Ancho}});
 }
 
-bool AgregarEje(Recordset& tabla, const std::string& nombre, const Losa& losa, std::size_t i) {
+bool AgregarEje(almacen::Recordset& tabla, const std::string& nombre, const losas::Losa& losa,
+                std::size_t i) {
     const EjePlanex eje = EjeParaPlanex(losa, i);
     return AgregarFila(tabla, {{"Nombre", nombre},
                                {"Numero", Numero(i)},
@@ -110,25 +114,26 @@ bool AgregarEje(Recordset& tabla, const std::string& nombre, const Losa& losa, s
 }
 
 /// The last axis has no span: its row has no steel of one.
-bool AgregarAcero(Recordset& tabla, const std::string& nombre, const Losa& losa, const ResultadosLosa& r,
-                  std::size_t i) {
+bool AgregarAcero(almacen::Recordset& tabla, const std::string& nombre, const losas::Losa& losa,
+                  const losas::ResultadosLosa& r, std::size_t i) {
     return AgregarFila(tabla, {{"Nombre", nombre},
                                {"Eje", Numero(i)},
                                {"AsEje", AceroDeEje(r, i)},
-                               {"AsTramo", i <= TramosDe(losa) ? AceroDeTramo(r, i) : Valor{}}});
+                               {"AsTramo", i <= TramosDe(losa) ? AceroDeTramo(r, i) : almacen::Valor{}}});
 }
 
-void BorrarLosa(Conexion& destino, const std::string& nombre) {
+void BorrarLosa(almacen::Conexion& destino, const std::string& nombre) {
     for (const char* tabla : TablasQueSeVacian) {
         const std::string todas = "DELETE * FROM " + std::string(tabla);
-        destino.Ejecutar(tabla == TablaSinNombres ? todas : todas + " WHERE Nombre=" + EntreComillas(nombre));
+        destino.Ejecutar(
+            tabla == TablaSinNombres ? todas : todas + " WHERE Nombre=" + almacen::EntreComillas(nombre));
     }
 }
 
 }  // namespace
 
-EjePlanex EjeParaPlanex(const Losa& losa, std::size_t i) {
-    const bool apoyado = EjeDe(losa, i).Tipo != SinApoyo;
+EjePlanex EjeParaPlanex(const losas::Losa& losa, std::size_t i) {
+    const bool apoyado = EjeDe(losa, i).Tipo != losas::SinApoyo;
     const bool primero = i == 1;
     const bool ultimo = !primero && i == TramosDe(losa) + 1;
     EjePlanex eje;
@@ -141,17 +146,17 @@ EjePlanex EjeParaPlanex(const Losa& losa, std::size_t i) {
     return eje;
 }
 
-NervioPlanex NervioParaPlanex(const Losa& losa, std::size_t i) {
+NervioPlanex NervioParaPlanex(const losas::Losa& losa, std::size_t i) {
     if (losa.OpcionMaciza || losa.Tramos[i].LT < LuzConNervioTransversal) return {};
     return {true, "1/2", 0.15};
 }
 
-bool EscribirProyectoPlanex(Conexion& destino, const DatosDelProyecto& datos,
+bool EscribirProyectoPlanex(almacen::Conexion& destino, const DatosDelProyecto& datos,
                             const DatosGenerales& generales) {
-    Transaccion guardado(destino);
+    almacen::Transaccion guardado(destino);
     destino.Ejecutar("DELETE * FROM Proyecto");
-    Recordset tabla;
-    AbrirRecordset(destino, tabla, "Proyecto");
+    almacen::Recordset tabla;
+    almacen::AbrirRecordset(destino, tabla, "Proyecto");
     const bool escrita = AgregarFila(tabla, {{"Proyecto", datos.Proyecto},
                                              {"Cliente", datos.Cliente},
                                              {"Propietario", datos.Propietario},
@@ -175,15 +180,15 @@ bool EscribirProyectoPlanex(Conexion& destino, const DatosDelProyecto& datos,
     return escrita && guardado.Confirmar();
 }
 
-TablasPlanex::TablasPlanex(Conexion& destino) {
-    AbrirRecordset(destino, datos_, "SELECT * FROM LosaDatos");
-    AbrirRecordset(destino, tramos_, "SELECT * FROM LosaTramos");
-    AbrirRecordset(destino, nervios_, "SELECT * FROM LosaNervios");
-    AbrirRecordset(destino, ejes_, "SELECT * FROM LosaEjes");
-    AbrirRecordset(destino, teorico_, "SELECT * FROM LosaRefTeorico");
+TablasPlanex::TablasPlanex(almacen::Conexion& destino) {
+    almacen::AbrirRecordset(destino, datos_, "SELECT * FROM LosaDatos");
+    almacen::AbrirRecordset(destino, tramos_, "SELECT * FROM LosaTramos");
+    almacen::AbrirRecordset(destino, nervios_, "SELECT * FROM LosaNervios");
+    almacen::AbrirRecordset(destino, ejes_, "SELECT * FROM LosaEjes");
+    almacen::AbrirRecordset(destino, teorico_, "SELECT * FROM LosaRefTeorico");
 }
 
-bool TablasPlanex::Agregar(const Losa& losa, const ResultadosLosa& resultados) {
+bool TablasPlanex::Agregar(const losas::Losa& losa, const losas::ResultadosLosa& resultados) {
     const std::string nombre = Recortar(losa.Nombre);
     const std::size_t N = TramosDe(losa);
     bool escrita = AgregarDatos(datos_, nombre, losa);
@@ -197,8 +202,9 @@ bool TablasPlanex::Agregar(const Losa& losa, const ResultadosLosa& resultados) {
     return escrita;
 }
 
-bool ReemplazarLosaPlanex(Conexion& destino, const Losa& losa, const ResultadosLosa& resultados) {
-    Transaccion guardado(destino);
+bool ReemplazarLosaPlanex(almacen::Conexion& destino, const losas::Losa& losa,
+                          const losas::ResultadosLosa& resultados) {
+    almacen::Transaccion guardado(destino);
     BorrarLosa(destino, Recortar(losa.Nombre));
     return TablasPlanex(destino).Agregar(losa, resultados) && guardado.Confirmar();
 }
@@ -208,19 +214,20 @@ void EscribirArchivoPlanex(const std::filesystem::path& plantilla, const std::fi
                            const DatosGenerales& generales) {
     ArchivoNuevo archivo(destino);
     CopiarArchivo(plantilla, archivo.Provisional());
-    Conexion conexion;
-    AbrirConexion(conexion, archivo.Provisional());
+    almacen::Conexion conexion;
+    almacen::AbrirConexion(conexion, archivo.Provisional());
     {
-        Transaccion guardado(conexion);
+        almacen::Transaccion guardado(conexion);
         TablasPlanex tablas(conexion);
         bool escrito = EscribirProyectoPlanex(conexion, datos, generales);
-        const bool leido = RecorrerLosas(proyecto, [&](const LosaDelProyecto& losa) {
-            escrito = escrito && tablas.Agregar(losa.Datos, losa.Resultados);
-        });
+        const bool leido =
+            losas::salida::RecorrerLosas(proyecto, [&](const losas::salida::LosaDelProyecto& losa) {
+                escrito = escrito && tablas.Agregar(losa.Datos, losa.Resultados);
+            });
         if (!leido || !escrito || !guardado.Confirmar()) throw ErrorEjecucion(CodigoError::ErrorAccesoRuta);
     }
     conexion.Cerrar();
     archivo.Colocar();
 }
 
-}  // namespace trabex
+}  // namespace trabex::planex

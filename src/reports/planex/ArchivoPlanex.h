@@ -9,7 +9,7 @@
 #include "store/Conexion.h"
 #include "store/Recordset.h"
 
-namespace trabex {
+namespace trabex::planex {
 
 // The exchange file of the drawing program Planex: geometry and theoretical steel of slabs, which Planex then
 // details. Its tables, columns and default values are a contract with that program (docs/planex.md).
@@ -22,7 +22,7 @@ struct EjePlanex {
     double MczIzq = 0, MczDer = 0;  ///< default solid zones, not those of the design
 };
 /// Axis i of 1 … N + 1.
-EjePlanex EjeParaPlanex(const Losa& losa, std::size_t i);
+EjePlanex EjeParaPlanex(const losas::Losa& losa, std::size_t i);
 
 /// A span's transverse rib.
 struct NervioPlanex {
@@ -31,28 +31,29 @@ struct NervioPlanex {
     double Ancho = 0;           ///< m
 };
 /// Ribbed spans from 6 m on carry one: it is decided here and not in the design.
-NervioPlanex NervioParaPlanex(const Losa& losa, std::size_t i);
+NervioPlanex NervioParaPlanex(const losas::Losa& losa, std::size_t i);
 
 /// Replaces the one row of the file's table `Proyecto`, as one save. False when it could not be stored.
-bool EscribirProyectoPlanex(Conexion& destino, const DatosDelProyecto& datos,
+bool EscribirProyectoPlanex(almacen::Conexion& destino, const DatosDelProyecto& datos,
                             const DatosGenerales& generales);
 
 /// The five tables of slabs, opened to take rows. Must not outlive its connection.
 class TablasPlanex {
   public:
-    explicit TablasPlanex(Conexion& destino);
+    explicit TablasPlanex(almacen::Conexion& destino);
     /// Adds a slab's rows under its name without the blanks around it. Steel that was not calculated is 0.
     /// False when a row could not be stored.
-    bool Agregar(const Losa& losa, const ResultadosLosa& resultados);
+    bool Agregar(const losas::Losa& losa, const losas::ResultadosLosa& resultados);
 
   private:
-    Recordset datos_, tramos_, nervios_, ejes_, teorico_;
+    almacen::Recordset datos_, tramos_, nervios_, ejes_, teorico_;
 };
 
 /// Writes a slab over its earlier rows, as one save: those of Planex's own tables go too. False when it could
 /// not be stored; the file then stands as it stood. A name that holds a quote breaks its own deletions, and
 /// its earlier rows stay beside the new ones.
-bool ReemplazarLosaPlanex(Conexion& destino, const Losa& losa, const ResultadosLosa& resultados);
+bool ReemplazarLosaPlanex(almacen::Conexion& destino, const losas::Losa& losa,
+                          const losas::ResultadosLosa& resultados);
 
 /// Writes a new file with all slabs of a project, from the template, in the place of what `destino` held.
 /// Throws ErrorEjecucion when it can't; `destino` then stands as it stood.
@@ -60,4 +61,4 @@ void EscribirArchivoPlanex(const std::filesystem::path& plantilla, const std::fi
                            const std::filesystem::path& proyecto, const DatosDelProyecto& datos,
                            const DatosGenerales& generales);
 
-}  // namespace trabex
+}  // namespace trabex::planex

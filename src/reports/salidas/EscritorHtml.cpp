@@ -7,7 +7,7 @@
 #include "base/Archivos.h"
 #include "reports/salidas/ImagenPng.h"
 
-namespace trabex {
+namespace trabex::salidas {
 
 namespace {
 
@@ -62,7 +62,7 @@ std::string Atributo(std::string texto) {
     return Escapado(texto);
 }
 
-std::string Base64(const Bytes& bytes) {
+std::string Base64(const almacen::Bytes& bytes) {
     constexpr std::string_view letras = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
     std::string salida;
     salida.reserve((bytes.size() + 2) / 3 * 4);
@@ -79,31 +79,31 @@ std::string Base64(const Bytes& bytes) {
 /// The document's blocks as markup.
 class PaginaHtml {
   public:
-    explicit PaginaHtml(const Documento& documento) : documento_(documento) {}
+    explicit PaginaHtml(const documento::Documento& documento) : documento_(documento) {}
 
     std::string Principio() const;
-    std::string Bloque(const trabex::Bloque& bloque) const {
+    std::string Bloque(const trabex::documento::Bloque& bloque) const {
         return std::visit([this](const auto& b) { return De(b); }, bloque);
     }
 
   private:
-    std::string De(const Titulo& titulo) const {
+    std::string De(const documento::Titulo& titulo) const {
         const std::string nivel = "h" + std::to_string(titulo.Nivel);
         return "<" + nivel + ">" + Escapado(titulo.Texto) + "</" + nivel + ">\n";
     }
-    std::string De(const Parrafo& parrafo) const {
+    std::string De(const documento::Parrafo& parrafo) const {
         const std::string texto = Escapado(parrafo.Texto);
         return parrafo.Destacado ? "<p><strong>" + texto + "</strong></p>\n" : "<p>" + texto + "</p>\n";
     }
-    std::string De(const SaltoDePagina&) const { return "<div class=\"pagina\"></div>\n"; }
-    std::string De(const Ficha& ficha) const;
-    std::string De(const Tabla& tabla) const;
-    std::string De(const Imagen& imagen) const;
-    std::string Fila(const Tabla& tabla, const FilaDeTabla& fila) const;
+    std::string De(const documento::SaltoDePagina&) const { return "<div class=\"pagina\"></div>\n"; }
+    std::string De(const documento::Ficha& ficha) const;
+    std::string De(const documento::Tabla& tabla) const;
+    std::string De(const documento::Imagen& imagen) const;
+    std::string Fila(const documento::Tabla& tabla, const documento::FilaDeTabla& fila) const;
     std::string Banda() const;
     std::string Indice() const;
 
-    const Documento& documento_;
+    const documento::Documento& documento_;
 };
 
 std::string PaginaHtml::Principio() const {
@@ -119,11 +119,11 @@ std::string PaginaHtml::Principio() const {
 
 /// The header's texts, once; those that count pages have no meaning here.
 std::string PaginaHtml::Banda() const {
-    const BandaDePagina& banda = documento_.Hoja.Encabezado;
+    const documento::BandaDePagina& banda = documento_.Hoja.Encabezado;
     std::string salida;
     for (const std::string* texto : {&banda.Izquierda, &banda.Centro, &banda.Derecha}) {
-        const bool cuenta =
-            texto->find(MarcaPagina) != std::string::npos || texto->find(MarcaPaginas) != std::string::npos;
+        const bool cuenta = texto->find(documento::MarcaPagina) != std::string::npos ||
+                            texto->find(documento::MarcaPaginas) != std::string::npos;
         if (texto->empty() || cuenta) continue;
         if (!salida.empty()) salida += " &mdash; ";
         salida += Escapado(*texto);
@@ -140,13 +140,14 @@ std::string PaginaHtml::Indice() const {
     return salida + "</ul>\n";
 }
 
-std::string PaginaHtml::De(const Ficha& ficha) const {
+std::string PaginaHtml::De(const documento::Ficha& ficha) const {
     if (ficha.Datos.empty()) return {};
     std::string salida = "<table class=\"ficha\" summary=\"Datos\">\n";
     const auto columnas = static_cast<std::size_t>(ficha.Columnas);
     for (std::size_t i = 0; i < ficha.Datos.size(); ++i) {
-        const Ficha::Dato& dato = ficha.Datos[i];
-        std::string valor = Escapado(TextoDeValor(dato.Contenido, dato.Formato, documento_.Locales));
+        const documento::Ficha::Dato& dato = ficha.Datos[i];
+        std::string valor =
+            Escapado(documento::TextoDeValor(dato.Contenido, dato.Formato, documento_.Locales));
         if (!valor.empty() && !dato.Unidad.empty()) valor += " " + Escapado(dato.Unidad);
         if (i % columnas == 0) salida += i == 0 ? "<tr>" : "</tr>\n<tr>";
         salida += "<th scope=\"row\">" + Escapado(dato.Rotulo) + "</th><td>" + valor + "</td>";
@@ -154,46 +155,47 @@ std::string PaginaHtml::De(const Ficha& ficha) const {
     return salida + "</tr>\n</table>\n";
 }
 
-std::string PaginaHtml::Fila(const Tabla& tabla, const FilaDeTabla& fila) const {
+std::string PaginaHtml::Fila(const documento::Tabla& tabla, const documento::FilaDeTabla& fila) const {
     constexpr std::array<std::string_view, 3> celdas{"<td class=\"i\">", "<td class=\"c\">", "<td>"};
     std::string salida = fila.Destacada ? "<tr class=\"total\">" : "<tr>";
     for (std::size_t i = 0; i < tabla.Columnas.size(); ++i) {
-        const ColumnaDeTabla& columna = tabla.Columnas[i];
+        const documento::ColumnaDeTabla& columna = tabla.Columnas[i];
         salida += celdas[static_cast<std::size_t>(columna.Lado)];
         if (i < fila.Celdas.size())
-            salida += Escapado(TextoDeValor(fila.Celdas[i], columna.Formato, documento_.Locales));
+            salida += Escapado(documento::TextoDeValor(fila.Celdas[i], columna.Formato, documento_.Locales));
         salida += "</td>";
     }
     return salida + "</tr>\n";
 }
 
-std::string PaginaHtml::De(const Tabla& tabla) const {
+std::string PaginaHtml::De(const documento::Tabla& tabla) const {
     std::string salida = "<table class=\"datos\" summary=\"Resultados\">\n<thead>\n";
     if (tabla.TieneGrupos()) {
         salida += "<tr>";
-        for (const GrupoDeColumnas& grupo : GruposDe(tabla))
+        for (const documento::GrupoDeColumnas& grupo : documento::GruposDe(tabla))
             salida +=
                 "<th colspan=\"" + std::to_string(grupo.Cuantas) + "\">" + Escapado(grupo.Titulo) + "</th>";
         salida += "</tr>\n";
     }
     salida += "<tr>";
-    for (const ColumnaDeTabla& columna : tabla.Columnas)
+    for (const documento::ColumnaDeTabla& columna : tabla.Columnas)
         salida += "<th scope=\"col\">" + Escapado(columna.Titulo) + "</th>";
     salida += "</tr>\n</thead>\n<tbody>\n";
-    for (const FilaDeTabla& fila : tabla.Filas) salida += Fila(tabla, fila);
+    for (const documento::FilaDeTabla& fila : tabla.Filas) salida += Fila(tabla, fila);
     return salida + "</tbody>\n</table>\n";
 }
 
-std::string PaginaHtml::De(const Imagen& imagen) const {
+std::string PaginaHtml::De(const documento::Imagen& imagen) const {
     std::string salida = "<div class=\"imagen\">";
     if (const auto png = ComoPng(imagen.Leer())) {
-        const MedidaHoja medida = MedidaDe(imagen, png->Ancho, png->Alto, MedidaUtil(documento_.Hoja));
+        const documento::MedidaHoja medida =
+            documento::MedidaDe(imagen, png->Ancho, png->Alto, documento::MedidaUtil(documento_.Hoja));
         salida += "<img alt=\"" + Atributo(imagen.Pie) + "\" width=\"" +
                   std::to_string(static_cast<int>(medida.Ancho * PixelesPorMilimetro)) + "\" height=\"" +
                   std::to_string(static_cast<int>(medida.Alto * PixelesPorMilimetro)) +
                   "\" src=\"data:image/png;base64," + Base64(png->Archivo) + "\">";
     } else {
-        salida += ImagenIlegible;
+        salida += documento::ImagenIlegible;
     }
     if (!imagen.Pie.empty()) salida += "<p class=\"pie\">" + Escapado(imagen.Pie) + "</p>";
     return salida + "</div>\n";
@@ -201,20 +203,20 @@ std::string PaginaHtml::De(const Imagen& imagen) const {
 
 }  // namespace
 
-void EscribirHtml(const Documento& documento, const std::filesystem::path& destino) {
+void EscribirHtml(const documento::Documento& documento, const std::filesystem::path& destino) {
     ArchivoNuevo archivo(destino);
     const PaginaHtml pagina(documento);
     archivo.Escribir(pagina.Principio());
     for (std::size_t i = 0; i < documento.Secciones.size(); ++i) {
-        const Seccion& seccion = documento.Secciones[i];
+        const documento::Seccion& seccion = documento.Secciones[i];
         const bool aparte = seccion.PaginaNueva && i > 0;
         archivo.Escribir("<div id=\"s" + std::to_string(i + 1) +
                          (aparte ? "\" class=\"pagina\">\n" : "\">\n"));
-        for (const Bloque& bloque : seccion.Bloques) archivo.Escribir(pagina.Bloque(bloque));
+        for (const documento::Bloque& bloque : seccion.Bloques) archivo.Escribir(pagina.Bloque(bloque));
         archivo.Escribir("</div>\n");
     }
     archivo.Escribir("</body>\n</html>\n");
     archivo.Colocar();
 }
 
-}  // namespace trabex
+}  // namespace trabex::salidas

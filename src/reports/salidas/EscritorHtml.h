@@ -4,10 +4,10 @@
 
 #include "reports/documento/Documento.h"
 
-namespace trabex {
+namespace trabex::salidas {
 
 /// Writes a document as one HTML 4.01 page, its pictures inside it, so that the file can be mailed alone.
 /// Throws ErrorEjecucion; the file that stood there then stays.
-void EscribirHtml(const Documento& documento, const std::filesystem::path& destino);
+void EscribirHtml(const documento::Documento& documento, const std::filesystem::path& destino);
 
-}  // namespace trabex
+}  // namespace trabex::salidas

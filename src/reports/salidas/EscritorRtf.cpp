@@ -11,7 +11,7 @@
 #include "base/Texto.h"
 #include "reports/salidas/ImagenPng.h"
 
-namespace trabex {
+namespace trabex::salidas {
 
 namespace {
 
@@ -31,8 +31,10 @@ std::string UnidadUtf16(std::uint32_t unidad) {
 
 std::string Caracter(char32_t c) {
     if (c == '\n') return "\\line ";
-    if (c == static_cast<char32_t>(MarcaPagina)) return "{\\field{\\*\\fldinst PAGE}{\\fldrslt 1}}";
-    if (c == static_cast<char32_t>(MarcaPaginas)) return "{\\field{\\*\\fldinst NUMPAGES}{\\fldrslt 1}}";
+    if (c == static_cast<char32_t>(documento::MarcaPagina))
+        return "{\\field{\\*\\fldinst PAGE}{\\fldrslt 1}}";
+    if (c == static_cast<char32_t>(documento::MarcaPaginas))
+        return "{\\field{\\*\\fldinst NUMPAGES}{\\fldrslt 1}}";
     if (c == '\\' || c == '{' || c == '}') return {'\\', static_cast<char>(c)};
     if (c < 0x80) return {static_cast<char>(c)};
     if (c >= 0xA0 && c <= 0xFF) {
@@ -49,7 +51,7 @@ std::string Escapado(std::string_view texto) {
     return salida;
 }
 
-std::string Hexadecimal(const Bytes& bytes) {
+std::string Hexadecimal(const almacen::Bytes& bytes) {
     constexpr std::string_view cifras = "0123456789abcdef";
     std::string salida;
     salida.reserve(bytes.size() * 2 + bytes.size() / 64 + 1);
@@ -65,34 +67,34 @@ std::string Hexadecimal(const Bytes& bytes) {
 /// The document's blocks as Rich Text.
 class TextoRico {
   public:
-    explicit TextoRico(const Documento& documento)
-        : documento_(documento), util_(MedidaUtil(documento.Hoja)) {}
+    explicit TextoRico(const documento::Documento& documento)
+        : documento_(documento), util_(documento::MedidaUtil(documento.Hoja)) {}
 
     std::string Principio() const;
-    std::string Bloque(const trabex::Bloque& bloque) const {
+    std::string Bloque(const trabex::documento::Bloque& bloque) const {
         return std::visit([this](const auto& b) { return De(b); }, bloque);
     }
-    std::string De(const SaltoDePagina&) const { return "{\\pard\\fs2\\page\\par}\n"; }
+    std::string De(const documento::SaltoDePagina&) const { return "{\\pard\\fs2\\page\\par}\n"; }
 
   private:
-    std::string De(const Titulo& titulo) const;
-    std::string De(const Parrafo& parrafo) const {
+    std::string De(const documento::Titulo& titulo) const;
+    std::string De(const documento::Parrafo& parrafo) const {
         return "{\\pard\\sb60\\sa60" + Letra(1) + (parrafo.Destacado ? "\\b " : " ") +
                Escapado(parrafo.Texto) + "\\par}\n";
     }
-    std::string De(const Ficha& ficha) const;
-    std::string De(const Tabla& tabla) const;
-    std::string De(const Imagen& imagen) const;
+    std::string De(const documento::Ficha& ficha) const;
+    std::string De(const documento::Tabla& tabla) const;
+    std::string De(const documento::Imagen& imagen) const;
 
     std::string Letra(double proporcion) const {
         return "\\f0" + Orden("fs", static_cast<int>(std::lround(2 * documento_.Letra * proporcion)));
     }
-    std::string Banda(std::string_view destino, const BandaDePagina& banda) const;
-    std::string Cabecera(const Tabla& tabla, const std::vector<int>& limites) const;
-    double AnchoDeRotulos(const Ficha& ficha, std::size_t columna, double paso) const;
+    std::string Banda(std::string_view destino, const documento::BandaDePagina& banda) const;
+    std::string Cabecera(const documento::Tabla& tabla, const std::vector<int>& limites) const;
+    double AnchoDeRotulos(const documento::Ficha& ficha, std::size_t columna, double paso) const;
 
-    const Documento& documento_;
-    MedidaHoja util_;
+    const documento::Documento& documento_;
+    documento::MedidaHoja util_;
 };
 
 constexpr std::array<std::string_view, 3> Lados{"\\ql", "\\qc", "\\qr"};
@@ -108,8 +110,8 @@ constexpr double AnchoDeCaracter = 0.19;  // of a point of font size, in mm, gen
 constexpr std::array<double, 3> ProporcionDeTitulo{1.5, 1.2, 1.05};
 
 std::string TextoRico::Principio() const {
-    const Pagina& hoja = documento_.Hoja;
-    const MedidaHoja medida = MedidaDe(hoja);
+    const documento::Pagina& hoja = documento_.Hoja;
+    const documento::MedidaHoja medida = documento::MedidaDe(hoja);
     std::string salida =
         "{\\rtf1\\ansi\\ansicpg1252\\deff0\\uc1\\deflang3082\n"
         "{\\fonttbl{\\f0\\fswiss\\fcharset0 Arial;}}\n"
@@ -128,14 +130,14 @@ std::string TextoRico::Principio() const {
     return salida + "\n" + Banda("header", hoja.Encabezado) + Banda("footer", hoja.Pie);
 }
 
-std::string TextoRico::Banda(std::string_view destino, const BandaDePagina& banda) const {
+std::string TextoRico::Banda(std::string_view destino, const documento::BandaDePagina& banda) const {
     if (banda.Izquierda.empty() && banda.Centro.empty() && banda.Derecha.empty()) return {};
     return "{\\" + std::string(destino) + "\\pard" + Orden("tqc\\tx", Twips(util_.Ancho / 2)) +
            Orden("tqr\\tx", Twips(util_.Ancho)) + Letra(0.85) + " " + Escapado(banda.Izquierda) + "\\tab " +
            Escapado(banda.Centro) + "\\tab " + Escapado(banda.Derecha) + "\\par}\n";
 }
 
-std::string TextoRico::De(const Titulo& titulo) const {
+std::string TextoRico::De(const documento::Titulo& titulo) const {
     return "{\\pard" + Orden("s", titulo.Nivel) + Orden("outlinelevel", titulo.Nivel - 1) +
            "\\keepn\\sb160\\sa60\\b\\cf3" +
            Letra(ProporcionDeTitulo[static_cast<std::size_t>(titulo.Nivel - 1)]) + " " +
@@ -143,21 +145,21 @@ std::string TextoRico::De(const Titulo& titulo) const {
 }
 
 /// Room for the names of a column of pairs: as the longest needs, less what its values need.
-double TextoRico::AnchoDeRotulos(const Ficha& ficha, std::size_t columna, double paso) const {
+double TextoRico::AnchoDeRotulos(const documento::Ficha& ficha, std::size_t columna, double paso) const {
     double rotulo = 0;
     double valor = 0;
     const double caracter = AnchoDeCaracter * documento_.Letra;
     for (std::size_t i = columna; i < ficha.Datos.size(); i += static_cast<std::size_t>(ficha.Columnas)) {
-        const Ficha::Dato& dato = ficha.Datos[i];
+        const documento::Ficha::Dato& dato = ficha.Datos[i];
         const std::string texto =
-            TextoDeValor(dato.Contenido, dato.Formato, documento_.Locales) + dato.Unidad;
+            documento::TextoDeValor(dato.Contenido, dato.Formato, documento_.Locales) + dato.Unidad;
         rotulo = std::max(rotulo, caracter * static_cast<double>(NumeroDeCaracteres(dato.Rotulo) + 2));
         valor = std::max(valor, 1.15 * caracter * static_cast<double>(NumeroDeCaracteres(texto) + 2));
     }
     return std::min(rotulo, std::max(paso - valor, 0.4 * paso));
 }
 
-std::string TextoRico::De(const Ficha& ficha) const {
+std::string TextoRico::De(const documento::Ficha& ficha) const {
     const auto columnas = static_cast<std::size_t>(ficha.Columnas);
     const double paso = util_.Ancho / static_cast<double>(columnas);
     std::string salida = "{" + Letra(1) + "\n";
@@ -169,8 +171,8 @@ std::string TextoRico::De(const Ficha& ficha) const {
             salida += Orden("cellx", Twips(izquierda + AnchoDeRotulos(ficha, k, paso))) +
                       Orden("cellx", Twips(izquierda + paso));
             const bool hay = primero + k < ficha.Datos.size();
-            const Ficha::Dato dato = hay ? ficha.Datos[primero + k] : Ficha::Dato{};
-            std::string valor = TextoDeValor(dato.Contenido, dato.Formato, documento_.Locales);
+            const documento::Ficha::Dato dato = hay ? ficha.Datos[primero + k] : documento::Ficha::Dato{};
+            std::string valor = documento::TextoDeValor(dato.Contenido, dato.Formato, documento_.Locales);
             if (!valor.empty() && !dato.Unidad.empty()) valor += " " + dato.Unidad;
             celdas += std::string(Celda) + "\\ql " + Escapado(dato.Rotulo) + "\\cell" + std::string(Celda) +
                       "\\ql{\\b " + Escapado(valor) + "}\\cell";
@@ -180,12 +182,12 @@ std::string TextoRico::De(const Ficha& ficha) const {
     return salida + std::string(FinDeTabla);
 }
 
-std::string TextoRico::Cabecera(const Tabla& tabla, const std::vector<int>& limites) const {
+std::string TextoRico::Cabecera(const documento::Tabla& tabla, const std::vector<int>& limites) const {
     std::string salida;
     if (tabla.TieneGrupos()) {
         std::string celdas;
         salida += std::string(FilaNueva) + "\\trhdr";
-        for (const GrupoDeColumnas& grupo : GruposDe(tabla)) {
+        for (const documento::GrupoDeColumnas& grupo : documento::GruposDe(tabla)) {
             salida += std::string(BordesDeTitulo) + Orden("cellx", limites[grupo.Desde + grupo.Cuantas - 1]);
             celdas += "\\pard\\intbl\\keepn\\sb15\\sa15\\qc{\\b " + Escapado(grupo.Titulo) + "}\\cell";
         }
@@ -201,20 +203,20 @@ std::string TextoRico::Cabecera(const Tabla& tabla, const std::vector<int>& limi
     return salida + celdas + "\\row\n";
 }
 
-std::string TextoRico::De(const Tabla& tabla) const {
+std::string TextoRico::De(const documento::Tabla& tabla) const {
     std::vector<int> limites;
     double derecha = 0;
     for (const double ancho : tabla.Anchos(util_.Ancho)) limites.push_back(Twips(derecha += ancho));
     std::string salida = "{" + Letra(0.95) + "\n" + Cabecera(tabla, limites);
-    for (const FilaDeTabla& fila : tabla.Filas) {
+    for (const documento::FilaDeTabla& fila : tabla.Filas) {
         std::string celdas;
         salida += FilaNueva;
         for (std::size_t i = 0; i < limites.size(); ++i) {
-            const ColumnaDeTabla& columna = tabla.Columnas[i];
+            const documento::ColumnaDeTabla& columna = tabla.Columnas[i];
             salida += std::string(fila.Destacada ? BordeDeTotal : BordeDeFila) + Orden("cellx", limites[i]);
             const std::string texto =
                 i < fila.Celdas.size()
-                    ? Escapado(TextoDeValor(fila.Celdas[i], columna.Formato, documento_.Locales))
+                    ? Escapado(documento::TextoDeValor(fila.Celdas[i], columna.Formato, documento_.Locales))
                     : std::string();
             celdas += std::string(Celda) + std::string(Lados[static_cast<std::size_t>(columna.Lado)]) +
                       (fila.Destacada ? "{\\b " : "{") + texto + "}\\cell";
@@ -224,33 +226,34 @@ std::string TextoRico::De(const Tabla& tabla) const {
     return salida + std::string(FinDeTabla);
 }
 
-std::string TextoRico::De(const Imagen& imagen) const {
+std::string TextoRico::De(const documento::Imagen& imagen) const {
     std::string salida = "{\\pard\\qc\\keepn\\sb120" + Letra(1) + " ";
     if (const auto png = ComoPng(imagen.Leer())) {
-        const MedidaHoja medida = MedidaDe(imagen, png->Ancho, png->Alto, util_);
+        const documento::MedidaHoja medida = documento::MedidaDe(imagen, png->Ancho, png->Alto, util_);
         salida += "{\\pict\\pngblip" + Orden("picw", static_cast<int>(png->Ancho)) +
                   Orden("pich", static_cast<int>(png->Alto)) + Orden("picwgoal", Twips(medida.Ancho)) +
                   Orden("pichgoal", Twips(medida.Alto)) + "\n" + Hexadecimal(png->Archivo) + "}";
     } else {
-        salida += Escapado(ImagenIlegible);
+        salida += Escapado(documento::ImagenIlegible);
     }
     return salida + "\\par}\n{\\pard\\qc\\sa120\\i" + Letra(1) + " " + Escapado(imagen.Pie) + "\\par}\n";
 }
 
 }  // namespace
 
-void EscribirRtf(const Documento& documento, const std::filesystem::path& destino) {
+void EscribirRtf(const documento::Documento& documento, const std::filesystem::path& destino) {
     ArchivoNuevo archivo(destino);
     const TextoRico texto(documento);
     archivo.Escribir(texto.Principio());
     for (std::size_t i = 0; i < documento.Secciones.size(); ++i) {
-        const Seccion& seccion = documento.Secciones[i];
+        const documento::Seccion& seccion = documento.Secciones[i];
         // No word processor keeps several tables together: a section that must stay whole begins a page.
-        if (i > 0 && (seccion.PaginaNueva || seccion.Junta)) archivo.Escribir(texto.De(SaltoDePagina{}));
-        for (const Bloque& bloque : seccion.Bloques) archivo.Escribir(texto.Bloque(bloque));
+        if (i > 0 && (seccion.PaginaNueva || seccion.Junta))
+            archivo.Escribir(texto.De(documento::SaltoDePagina{}));
+        for (const documento::Bloque& bloque : seccion.Bloques) archivo.Escribir(texto.Bloque(bloque));
     }
     archivo.Escribir("}\n");
     archivo.Colocar();
 }
 
-}  // namespace trabex
+}  // namespace trabex::salidas

@@ -4,11 +4,11 @@
 
 #include "reports/documento/Documento.h"
 
-namespace trabex {
+namespace trabex::salidas {
 
 /// Writes a document as Rich Text, for word processors: headings as styles, tables whose header repeats over
 /// pages, header and footer that count the pages. Throws ErrorEjecucion; the file that stood there then
 /// stays.
-void EscribirRtf(const Documento& documento, const std::filesystem::path& destino);
+void EscribirRtf(const documento::Documento& documento, const std::filesystem::path& destino);
 
-}  // namespace trabex
+}  // namespace trabex::salidas

@@ -6,7 +6,7 @@
 #include "base/Texto.h"
 #include "reports/salidas/ImagenPng.h"
 
-namespace trabex {
+namespace trabex::salidas {
 
 namespace {
 
@@ -20,14 +20,14 @@ constexpr std::size_t MayorEncabezadoFijo = 16;  ///< rows that may stay while t
 constexpr std::uint32_t FondoTitulos = 0xE6EDF4, LineaTitulos = 0xB9C6D3, LineaDatos = 0xD9DFE5;
 constexpr std::uint32_t TintaTitulos = 0x2F5D8A, TintaRotulos = 0x555555;
 
-AlineacionXls Lado(Alineacion lado) {
+xls::AlineacionXls Lado(documento::Alineacion lado) {
     switch (lado) {
-        case Alineacion::Izquierda:
-            return AlineacionXls::Izquierda;
-        case Alineacion::Centro:
-            return AlineacionXls::Centro;
+        case documento::Alineacion::Izquierda:
+            return xls::AlineacionXls::Izquierda;
+        case documento::Alineacion::Centro:
+            return xls::AlineacionXls::Centro;
         default:
-            return AlineacionXls::Derecha;
+            return xls::AlineacionXls::Derecha;
     }
 }
 
@@ -40,15 +40,15 @@ std::string FormatoConUnidad(const std::string& formato, const std::string& unid
 }
 
 /// The part of a page's header or footer in the format's codes.
-std::string Banda(const BandaDePagina& banda) {
+std::string Banda(const documento::BandaDePagina& banda) {
     std::string codigo;
     const auto parte = [&codigo](const char* marca, const std::string& texto) {
         if (texto.empty()) return;
         codigo += marca;
         for (const char c : texto) {
-            if (c == MarcaPagina)
+            if (c == documento::MarcaPagina)
                 codigo += "&P";
-            else if (c == MarcaPaginas)
+            else if (c == documento::MarcaPaginas)
                 codigo += "&N";
             else
                 codigo += c == '&' ? std::string("&&") : std::string(1, c);
@@ -60,9 +60,9 @@ std::string Banda(const BandaDePagina& banda) {
     return codigo;
 }
 
-PaginaXls PaginaDe(const Pagina& pagina) {
-    PaginaXls salida;
-    salida.Papel = pagina.Tamano == TamanoPagina::A4 ? PapelXls::A4 : PapelXls::Carta;
+xls::PaginaXls PaginaDe(const documento::Pagina& pagina) {
+    xls::PaginaXls salida;
+    salida.Papel = pagina.Tamano == documento::TamanoPagina::A4 ? xls::PapelXls::A4 : xls::PapelXls::Carta;
     salida.Horizontal = pagina.Apaisada;
     salida.AjustarAlAncho = true;
     salida.Izquierdo = pagina.MargenIzquierdo * PuntosPorMilimetro;
@@ -91,22 +91,24 @@ std::size_t Lineas(const std::string& texto, double ancho, double puntos) {
 /// Writes the blocks of a section one below the other.
 class EscritorDeHoja {
   public:
-    EscritorDeHoja(LibroXls& libro, HojaXls& hoja, const Documento& documento)
+    EscritorDeHoja(xls::LibroXls& libro, xls::HojaXls& hoja, const documento::Documento& documento)
         : libro_(libro), hoja_(hoja), documento_(documento) {}
 
-    void Escribir(const Seccion& seccion) {
+    void Escribir(const documento::Seccion& seccion) {
         PonerAnchos(seccion);
-        const auto tablas = std::count_if(seccion.Bloques.begin(), seccion.Bloques.end(),
-                                          [](const Bloque& b) { return std::holds_alternative<Tabla>(b); });
+        const auto tablas = std::count_if(
+            seccion.Bloques.begin(), seccion.Bloques.end(),
+            [](const documento::Bloque& b) { return std::holds_alternative<documento::Tabla>(b); });
         fijarTitulos_ = tablas == 1;
-        for (const Bloque& bloque : seccion.Bloques) std::visit([this](const auto& b) { Poner(b); }, bloque);
+        for (const documento::Bloque& bloque : seccion.Bloques)
+            std::visit([this](const auto& b) { Poner(b); }, bloque);
     }
 
   private:
     /// Tables of a sheet share its columns: each is as wide as the widest that stands in its place.
-    void PonerAnchos(const Seccion& seccion) {
-        for (const Bloque& bloque : seccion.Bloques) {
-            const auto* tabla = std::get_if<Tabla>(&bloque);
+    void PonerAnchos(const documento::Seccion& seccion) {
+        for (const documento::Bloque& bloque : seccion.Bloques) {
+            const auto* tabla = std::get_if<documento::Tabla>(&bloque);
             if (tabla == nullptr) continue;
             hoja_.Anchos.resize(std::max(hoja_.Anchos.size(), tabla->Columnas.size()), MenorAncho);
             for (std::size_t c = 0; c < tabla->Columnas.size(); ++c)
@@ -118,9 +120,9 @@ class EscritorDeHoja {
     }
 
     /// What a page holds of the sheet, in points, when the sheet's columns are shrunk to its width.
-    MedidaHoja SitioDePagina() const {
-        const MedidaHoja hoja = MedidaDe(documento_.Hoja);
-        const PaginaXls& p = hoja_.Pagina;
+    documento::MedidaHoja SitioDePagina() const {
+        const documento::MedidaHoja hoja = documento::MedidaDe(documento_.Hoja);
+        const xls::PaginaXls& p = hoja_.Pagina;
         const double ancho = hoja.Ancho * PuntosPorMilimetro - p.Izquierdo - p.Derecho;
         const double alto = hoja.Alto * PuntosPorMilimetro - p.Superior - p.Inferior;
         const double escala = std::min(1.0, ancho / std::max(AnchoTotal(), 1.0));
@@ -138,16 +140,16 @@ class EscritorDeHoja {
     }
 
     /// A number wider than its column would show as a row of signs.
-    double AnchoDeNumeros(const Tabla& tabla, std::size_t columna) const {
+    double AnchoDeNumeros(const documento::Tabla& tabla, std::size_t columna) const {
         std::size_t letras = 0;
-        for (const FilaDeTabla& fila : tabla.Filas) {
-            if (columna < fila.Celdas.size() && NumeroDe(fila.Celdas[columna]))
+        for (const documento::FilaDeTabla& fila : tabla.Filas) {
+            if (columna < fila.Celdas.size() && documento::NumeroDe(fila.Celdas[columna]))
                 letras = std::max(letras, Letras(fila.Celdas[columna], tabla.Columnas[columna].Formato));
         }
         return letras == 0 ? 0 : AnchoDe(letras);
     }
-    std::size_t Letras(const Valor& valor, const std::string& formato) const {
-        return NumeroDeCaracteres(TextoDeValor(valor, formato, documento_.Locales));
+    std::size_t Letras(const almacen::Valor& valor, const std::string& formato) const {
+        return NumeroDeCaracteres(documento::TextoDeValor(valor, formato, documento_.Locales));
     }
     double AnchoDe(std::size_t letras) const {
         return (static_cast<double>(letras) + 2) * AnchoDeLetra * documento_.Letra;
@@ -165,30 +167,31 @@ class EscritorDeHoja {
         return std::max<std::size_t>(cuantas, 1);
     }
 
-    EstiloXls Estilo() const {
-        EstiloXls estilo;
+    xls::EstiloXls Estilo() const {
+        xls::EstiloXls estilo;
         estilo.Puntos = documento_.Letra;
         return estilo;
     }
-    void Celda(std::size_t columna, ValorXls valor, const EstiloXls& estilo) {
-        CeldaEn(hoja_, fila_, columna) = {std::move(valor), EstiloDe(libro_, estilo)};
+    void Celda(std::size_t columna, xls::ValorXls valor, const xls::EstiloXls& estilo) {
+        xls::CeldaEn(hoja_, fila_, columna) = {std::move(valor), xls::EstiloDe(libro_, estilo)};
     }
     /// A cell over several columns.
-    void Celda(std::size_t columna, std::size_t cuantas, const ValorXls& valor, const EstiloXls& estilo) {
+    void Celda(std::size_t columna, std::size_t cuantas, const xls::ValorXls& valor,
+               const xls::EstiloXls& estilo) {
         for (std::size_t c = columna; c < columna + cuantas; ++c) Celda(c, {}, estilo);
         Celda(columna, valor, estilo);
         if (cuantas > 1) hoja_.Combinadas.push_back({fila_, columna, fila_, columna + cuantas - 1});
     }
     void PonerAlto(double alto) {
-        CeldaEn(hoja_, fila_, 0);
+        xls::CeldaEn(hoja_, fila_, 0);
         hoja_.Filas[fila_].Alto = std::max(hoja_.Filas[fila_].Alto, std::max(alto, AltoDeFila));
     }
     double AltoDeTexto(const std::string& texto, double ancho, double puntos) const {
         return 1.3 * puntos * static_cast<double>(Lineas(texto, ancho, puntos));
     }
 
-    void Poner(const Titulo& titulo) {
-        EstiloXls estilo = Estilo();
+    void Poner(const documento::Titulo& titulo) {
+        xls::EstiloXls estilo = Estilo();
         estilo.Negrita = true;
         estilo.Puntos *= titulo.Nivel == 1 ? 1.5 : titulo.Nivel == 2 ? 1.25 : 1.1;
         if (titulo.Nivel <= 2) estilo.Color = TintaTitulos;
@@ -198,27 +201,27 @@ class EscritorDeHoja {
         ++fila_;
     }
 
-    void Poner(const Parrafo& parrafo) {
-        EstiloXls estilo = Estilo();
+    void Poner(const documento::Parrafo& parrafo) {
+        xls::EstiloXls estilo = Estilo();
         estilo.Negrita = parrafo.Destacado;
         estilo.AjustarTexto = true;
-        estilo.Vertical = VerticalXls::Arriba;
+        estilo.Vertical = xls::VerticalXls::Arriba;
         Celda(0, hoja_.Anchos.size(), parrafo.Texto, estilo);
         PonerAlto(AltoDeTexto(parrafo.Texto, AnchoTotal(), estilo.Puntos));
         ++fila_;
     }
 
-    void Poner(const Ficha& ficha) {
+    void Poner(const documento::Ficha& ficha) {
         std::size_t letras = 0;
-        for (const Ficha::Dato& dato : ficha.Datos)
+        for (const documento::Ficha::Dato& dato : ficha.Datos)
             letras = std::max(letras, NumeroDeCaracteres(dato.Rotulo));
         const std::size_t valores = ColumnasPara(AnchoDe(letras), 0);
-        EstiloXls rotulo = Estilo();
+        xls::EstiloXls rotulo = Estilo();
         rotulo.Color = TintaRotulos;
-        for (const Ficha::Dato& dato : ficha.Datos) {
-            EstiloXls estilo = Estilo();
+        for (const documento::Ficha::Dato& dato : ficha.Datos) {
+            xls::EstiloXls estilo = Estilo();
             estilo.Negrita = true;
-            estilo.Alineacion = AlineacionXls::Izquierda;
+            estilo.Alineacion = xls::AlineacionXls::Izquierda;
             Celda(0, valores, dato.Rotulo, rotulo);
             const std::size_t ancho =
                 Letras(dato.Contenido, dato.Formato) + NumeroDeCaracteres(dato.Unidad) + 1;
@@ -228,26 +231,27 @@ class EscritorDeHoja {
         }
     }
 
-    void Poner(const Tabla& tabla) {
+    void Poner(const documento::Tabla& tabla) {
         if (fila_ > 0 && hoja_.Filas.size() == fila_) ++fila_;
         if (tabla.TieneGrupos()) PonerGrupos(tabla);
         PonerTitulos(tabla);
         if (fijarTitulos_ && fila_ <= MayorEncabezadoFijo) hoja_.FilasFijas = fila_;
-        for (const FilaDeTabla& fila : tabla.Filas) PonerFila(tabla, fila);
+        for (const documento::FilaDeTabla& fila : tabla.Filas) PonerFila(tabla, fila);
     }
 
-    EstiloXls EstiloDeTitulos() const {
-        EstiloXls estilo = Estilo();
+    xls::EstiloXls EstiloDeTitulos() const {
+        xls::EstiloXls estilo = Estilo();
         estilo.Negrita = true;
         estilo.AjustarTexto = true;
-        estilo.Alineacion = AlineacionXls::Centro;
-        estilo.Vertical = VerticalXls::Centro;
+        estilo.Alineacion = xls::AlineacionXls::Centro;
+        estilo.Vertical = xls::VerticalXls::Centro;
         estilo.Relleno = FondoTitulos;
-        estilo.Bordes = {BordeXls::Fino, BordeXls::Fino, BordeXls::Fino, BordeXls::Fino, LineaTitulos};
+        estilo.Bordes = {xls::BordeXls::Fino, xls::BordeXls::Fino, xls::BordeXls::Fino, xls::BordeXls::Fino,
+                         LineaTitulos};
         return estilo;
     }
-    void PonerGrupos(const Tabla& tabla) {
-        for (const GrupoDeColumnas& grupo : GruposDe(tabla)) {
+    void PonerGrupos(const documento::Tabla& tabla) {
+        for (const documento::GrupoDeColumnas& grupo : documento::GruposDe(tabla)) {
             Celda(grupo.Desde, grupo.Cuantas, grupo.Titulo, EstiloDeTitulos());
             double ancho = 0;
             for (std::size_t c = 0; c < grupo.Cuantas; ++c) ancho += hoja_.Anchos[grupo.Desde + c];
@@ -255,51 +259,52 @@ class EscritorDeHoja {
         }
         ++fila_;
     }
-    void PonerTitulos(const Tabla& tabla) {
+    void PonerTitulos(const documento::Tabla& tabla) {
         for (std::size_t c = 0; c < tabla.Columnas.size(); ++c) {
             Celda(c, tabla.Columnas[c].Titulo, EstiloDeTitulos());
             PonerAlto(AltoDeTexto(tabla.Columnas[c].Titulo, hoja_.Anchos[c], documento_.Letra));
         }
         ++fila_;
     }
-    void PonerFila(const Tabla& tabla, const FilaDeTabla& fila) {
+    void PonerFila(const documento::Tabla& tabla, const documento::FilaDeTabla& fila) {
         for (std::size_t c = 0; c < tabla.Columnas.size(); ++c) {
-            EstiloXls estilo = Estilo();
+            xls::EstiloXls estilo = Estilo();
             estilo.Negrita = fila.Destacada;
             estilo.Alineacion = Lado(tabla.Columnas[c].Lado);
-            estilo.Bordes.Inferior = BordeXls::Fino;
-            estilo.Bordes.Superior = fila.Destacada ? BordeXls::Fino : BordeXls::Ninguno;
+            estilo.Bordes.Inferior = xls::BordeXls::Fino;
+            estilo.Bordes.Superior = fila.Destacada ? xls::BordeXls::Fino : xls::BordeXls::Ninguno;
             estilo.Bordes.Color = fila.Destacada ? 0 : LineaDatos;
-            const Valor valor = c < fila.Celdas.size() ? fila.Celdas[c] : Valor{};
+            const almacen::Valor valor = c < fila.Celdas.size() ? fila.Celdas[c] : almacen::Valor{};
             PonerValor(c, 1, valor, tabla.Columnas[c].Formato, "", estilo);
         }
         ++fila_;
     }
 
     /// A number or a date as such, anything else as its text.
-    void PonerValor(std::size_t columna, std::size_t cuantas, const Valor& valor, const std::string& formato,
-                    const std::string& unidad, EstiloXls estilo) {
-        const std::optional<double> numero = NumeroDe(valor);
+    void PonerValor(std::size_t columna, std::size_t cuantas, const almacen::Valor& valor,
+                    const std::string& formato, const std::string& unidad, xls::EstiloXls estilo) {
+        const std::optional<double> numero = documento::NumeroDe(valor);
         if (numero && formato.find('|') == std::string::npos) {
             estilo.Formato = FormatoConUnidad(formato, unidad);
             Celda(columna, cuantas, *numero, estilo);
         } else if (const auto* fecha = std::get_if<Fecha>(&valor)) {
             Celda(columna, cuantas, *fecha, estilo);
         } else {
-            const std::string texto = TextoDeValor(valor, formato, documento_.Locales);
-            Celda(columna,
-                  texto.empty() ? ValorXls{} : ValorXls{texto + (unidad.empty() ? "" : " " + unidad)},
-                  estilo);
+            const std::string texto = documento::TextoDeValor(valor, formato, documento_.Locales);
+            Celda(
+                columna,
+                texto.empty() ? xls::ValorXls{} : xls::ValorXls{texto + (unidad.empty() ? "" : " " + unidad)},
+                estilo);
         }
     }
 
-    void Poner(const Imagen& imagen) {
-        const auto png = ComoPng(imagen.Leer ? imagen.Leer() : Bytes{});
+    void Poner(const documento::Imagen& imagen) {
+        const auto png = ComoPng(imagen.Leer ? imagen.Leer() : almacen::Bytes{});
         if (!png) {
-            Poner(Parrafo{ImagenIlegible, false});
+            Poner(documento::Parrafo{documento::ImagenIlegible, false});
         } else {
-            const MedidaHoja sitio = SitioDePagina();
-            const MedidaHoja medida = MedidaDe(
+            const documento::MedidaHoja sitio = SitioDePagina();
+            const documento::MedidaHoja medida = documento::MedidaDe(
                 imagen, png->Ancho, png->Alto,
                 {sitio.Ancho / PuntosPorMilimetro, (sitio.Alto - 2 * AltoDeFila) / PuntosPorMilimetro});
             const auto* bytes = reinterpret_cast<const char*>(png->Archivo.data());
@@ -309,26 +314,26 @@ class EscritorDeHoja {
                 {std::string(bytes, png->Archivo.size()), fila_, 0, medida.Ancho * PuntosPorMilimetro, alto});
             fila_ += static_cast<std::size_t>(std::ceil(alto / AltoDeFila)) + 1;
         }
-        if (!imagen.Pie.empty()) Poner(Parrafo{imagen.Pie, false});
+        if (!imagen.Pie.empty()) Poner(documento::Parrafo{imagen.Pie, false});
     }
 
-    void Poner(const SaltoDePagina& /*salto*/) { hoja_.SaltosDePagina.push_back(fila_); }
+    void Poner(const documento::SaltoDePagina& /*salto*/) { hoja_.SaltosDePagina.push_back(fila_); }
 
-    LibroXls& libro_;
-    HojaXls& hoja_;
-    const Documento& documento_;
+    xls::LibroXls& libro_;
+    xls::HojaXls& hoja_;
+    const documento::Documento& documento_;
     std::size_t fila_ = 0;
     bool fijarTitulos_ = false;
 };
 
 }  // namespace
 
-LibroXls LibroDe(const Documento& documento) {
-    LibroXls libro;
+xls::LibroXls LibroDe(const documento::Documento& documento) {
+    xls::LibroXls libro;
     libro.Titulo = documento.Titulo;
     libro.Autor = documento.Autor;
-    for (const Seccion& seccion : documento.Secciones) {
-        HojaXls& hoja = libro.Hojas.emplace_back();
+    for (const documento::Seccion& seccion : documento.Secciones) {
+        xls::HojaXls& hoja = libro.Hojas.emplace_back();
         hoja.Nombre = seccion.Nombre;
         hoja.Cuadricula = false;
         hoja.Pagina = PaginaDe(documento.Hoja);
@@ -337,8 +342,8 @@ LibroXls LibroDe(const Documento& documento) {
     return libro;
 }
 
-void EscribirXls(const Documento& documento, const std::filesystem::path& destino) {
-    GuardarXls(LibroDe(documento), destino);
+void EscribirXls(const documento::Documento& documento, const std::filesystem::path& destino) {
+    xls::GuardarXls(LibroDe(documento), destino);
 }
 
-}  // namespace trabex
+}  // namespace trabex::salidas

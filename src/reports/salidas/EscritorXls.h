@@ -5,13 +5,13 @@
 #include "reports/documento/Documento.h"
 #include "reports/xls/LibroXls.h"
 
-namespace trabex {
+namespace trabex::salidas {
 
 /// A document as a workbook: a sheet a section, numbers and dates as such with their formats, units as part
 /// of them, pictures in their places, the page's size, margins, header and footer.
-LibroXls LibroDe(const Documento& documento);
+xls::LibroXls LibroDe(const documento::Documento& documento);
 
 /// Writes a document as a workbook. Throws ErrorEjecucion; the file that stood there then stays.
-void EscribirXls(const Documento& documento, const std::filesystem::path& destino);
+void EscribirXls(const documento::Documento& documento, const std::filesystem::path& destino);
 
-}  // namespace trabex
+}  // namespace trabex::salidas

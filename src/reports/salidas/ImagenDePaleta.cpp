@@ -5,7 +5,7 @@
 #include <unordered_map>
 #include <utility>
 
-namespace trabex {
+namespace trabex::salidas {
 
 namespace {
 
@@ -82,7 +82,7 @@ std::unordered_map<Rgb, std::uint8_t> Numerar(std::span<const Rgb> pixeles, std:
     return numeros;
 }
 
-void Escribir(Bytes& bytes, std::size_t valor, int octetos) {
+void Escribir(almacen::Bytes& bytes, std::size_t valor, int octetos) {
     for (int i = 0; i < octetos; ++i) bytes.push_back(static_cast<std::byte>((valor >> (8 * i)) & 0xFF));
 }
 
@@ -93,7 +93,7 @@ std::size_t Tramo(std::span<const std::uint8_t> fila, std::size_t x) {
     return fin - x;
 }
 
-void EscribirLiteral(Bytes& bytes, std::span<const std::uint8_t> literal) {
+void EscribirLiteral(almacen::Bytes& bytes, std::span<const std::uint8_t> literal) {
     if (literal.size() < 3) {  // fewer would read as a code
         for (const std::uint8_t pixel : literal) Escribir(bytes, 1U | pixel << 8U, 2);
         return;
@@ -103,7 +103,7 @@ void EscribirLiteral(Bytes& bytes, std::span<const std::uint8_t> literal) {
     if (literal.size() % 2 != 0) Escribir(bytes, 0, 1);
 }
 
-void ComprimirFila(Bytes& bytes, std::span<const std::uint8_t> fila) {
+void ComprimirFila(almacen::Bytes& bytes, std::span<const std::uint8_t> fila) {
     constexpr std::size_t Vale = 4;  // a shorter run inside a literal stretch would cost more than it saves
     std::size_t pendiente = 0;
     for (std::size_t x = 0; x < fila.size();) {
@@ -120,7 +120,7 @@ void ComprimirFila(Bytes& bytes, std::span<const std::uint8_t> fila) {
     Escribir(bytes, 0, 2);  // end of the row
 }
 
-std::size_t Leer(const Bytes& bytes, std::size_t desde, std::size_t octetos) {
+std::size_t Leer(const almacen::Bytes& bytes, std::size_t desde, std::size_t octetos) {
     std::size_t valor = 0;
     for (std::size_t i = 0; i < octetos && desde + i < bytes.size(); ++i)
         valor |= static_cast<std::size_t>(bytes[desde + i]) << (8 * i);
@@ -131,13 +131,13 @@ std::size_t Leer(const Bytes& bytes, std::size_t desde, std::size_t octetos) {
 struct FilasDeMapa {
     std::size_t Ancho;
     std::size_t Alto;
-    Bytes Pixeles;
+    almacen::Bytes Pixeles;
 
     std::size_t Paso() const { return (Ancho + 3) / 4 * 4; }
 };
 
 /// Undoes the run-length code from a byte on. False when it leaves its picture or runs out of bytes.
-bool Descomprimir(const Bytes& bytes, std::size_t desde, FilasDeMapa& filas) {
+bool Descomprimir(const almacen::Bytes& bytes, std::size_t desde, FilasDeMapa& filas) {
     std::size_t x = 0;
     std::size_t fila = 0;
     for (std::size_t i = desde; i + 1 < bytes.size();) {
@@ -181,14 +181,14 @@ ImagenDePaleta ReducirColores(std::span<const std::uint32_t> pixeles, std::size_
     return imagen;
 }
 
-Bytes MapaDeBitsDe(const ImagenDePaleta& imagen) {
-    Bytes pixeles;
+almacen::Bytes MapaDeBitsDe(const ImagenDePaleta& imagen) {
+    almacen::Bytes pixeles;
     for (std::size_t fila = imagen.Alto; fila-- > 0;)
         ComprimirFila(pixeles, std::span(imagen.Pixeles).subspan(fila * imagen.Ancho, imagen.Ancho));
     Escribir(pixeles, 0x0100, 2);  // end of the picture
 
     const std::size_t inicio = CabeceraDeArchivo + CabeceraDeImagen + 4 * imagen.Paleta.size();
-    Bytes archivo{std::byte{'B'}, std::byte{'M'}};
+    almacen::Bytes archivo{std::byte{'B'}, std::byte{'M'}};
     archivo.reserve(inicio + pixeles.size());
     Escribir(archivo, inicio + pixeles.size(), 4);
     Escribir(archivo, 0, 4);
@@ -209,7 +209,7 @@ Bytes MapaDeBitsDe(const ImagenDePaleta& imagen) {
     return archivo;
 }
 
-std::optional<Bytes> MapaSinComprimir(const Bytes& archivo) {
+std::optional<almacen::Bytes> MapaSinComprimir(const almacen::Bytes& archivo) {
     constexpr std::size_t LugarCompresion = 30, LugarTamano = 34, MayorLado = 30000;
     const std::size_t inicio = Leer(archivo, 10, 4);
     FilasDeMapa filas{Leer(archivo, 18, 4), Leer(archivo, 22, 4), {}};
@@ -219,11 +219,11 @@ std::optional<Bytes> MapaSinComprimir(const Bytes& archivo) {
         return std::nullopt;
     filas.Pixeles.resize(filas.Paso() * filas.Alto);
     if (!Descomprimir(archivo, inicio, filas)) return std::nullopt;
-    Bytes plano(archivo.begin(), archivo.begin() + static_cast<std::ptrdiff_t>(inicio));
+    almacen::Bytes plano(archivo.begin(), archivo.begin() + static_cast<std::ptrdiff_t>(inicio));
     std::fill_n(plano.begin() + LugarCompresion, 4, std::byte{0});
     std::fill_n(plano.begin() + LugarTamano, 4, std::byte{0});
     plano.insert(plano.end(), filas.Pixeles.begin(), filas.Pixeles.end());
     return plano;
 }
 
-}  // namespace trabex
+}  // namespace trabex::salidas

@@ -8,7 +8,7 @@
 
 #include "store/Valor.h"
 
-namespace trabex {
+namespace trabex::salidas {
 
 /// A picture of at most 256 colours (0xRRGGBB): a byte a pixel, rows from the top.
 struct ImagenDePaleta {
@@ -25,10 +25,10 @@ struct ImagenDePaleta {
 ImagenDePaleta ReducirColores(std::span<const std::uint32_t> pixeles, std::size_t ancho, std::size_t alto);
 
 /// The picture as a Windows bitmap file of 8 bits a pixel, run-length encoded.
-Bytes MapaDeBitsDe(const ImagenDePaleta& imagen);
+almacen::Bytes MapaDeBitsDe(const ImagenDePaleta& imagen);
 
 /// A run-length encoded bitmap file of 8 bits a pixel as a plain one. Nothing when the bytes are not one, or
 /// are damaged.
-std::optional<Bytes> MapaSinComprimir(const Bytes& archivo);
+std::optional<almacen::Bytes> MapaSinComprimir(const almacen::Bytes& archivo);
 
-}  // namespace trabex
+}  // namespace trabex::salidas

@@ -9,14 +9,14 @@
 
 #include "reports/salidas/ImagenDePaleta.h"
 
-namespace trabex {
+namespace trabex::salidas {
 
 namespace {
 
 constexpr std::uint32_t LadoMaximo = 30000;
 constexpr std::size_t InicioInformacion = 14;  // after the file's own header
 
-std::uint32_t Entero(const Bytes& archivo, std::size_t lugar, std::size_t bytes) {
+std::uint32_t Entero(const almacen::Bytes& archivo, std::size_t lugar, std::size_t bytes) {
     std::uint32_t valor = 0;
     for (std::size_t i = 0; i < bytes && lugar + i < archivo.size(); ++i)
         valor |= std::to_integer<std::uint32_t>(archivo[lugar + i]) << (8 * i);
@@ -35,7 +35,7 @@ struct CabeceraMapa {
     std::size_t Renglon;
 };
 
-std::optional<CabeceraMapa> LeerCabecera(const Bytes& archivo) {
+std::optional<CabeceraMapa> LeerCabecera(const almacen::Bytes& archivo) {
     if (archivo.size() < InicioInformacion + 40 || Entero(archivo, 0, 2) != 0x4D42) return std::nullopt;
     const std::uint32_t tamano = Entero(archivo, InicioInformacion, 4);
     const auto alto = static_cast<std::int32_t>(Entero(archivo, InicioInformacion + 8, 4));
@@ -62,7 +62,8 @@ std::optional<CabeceraMapa> LeerCabecera(const Bytes& archivo) {
 }
 
 /// Where the blue, green and red bytes of a pixel stand.
-std::size_t LugarDelColor(const Bytes& archivo, const CabeceraMapa& c, std::size_t renglon, std::uint32_t x) {
+std::size_t LugarDelColor(const almacen::Bytes& archivo, const CabeceraMapa& c, std::size_t renglon,
+                          std::uint32_t x) {
     if (c.Bits >= 24) return renglon + static_cast<std::size_t>(x) * (c.Bits / 8);
     const std::uint32_t porByte = 8 / c.Bits;
     const auto byte = std::to_integer<std::uint32_t>(archivo[renglon + x / porByte]);
@@ -120,7 +121,7 @@ std::optional<ImagenPng> EscribirPng(const MapaDeBits& mapa) {
 
 constexpr std::array<unsigned char, 8> FirmaPng{0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
 
-std::uint32_t EnteroDeRed(const Bytes& archivo, std::size_t lugar) {
+std::uint32_t EnteroDeRed(const almacen::Bytes& archivo, std::size_t lugar) {
     std::uint32_t valor = 0;
     for (std::size_t i = 0; i < 4; ++i)
         valor = valor << 8 | std::to_integer<std::uint32_t>(archivo[lugar + i]);
@@ -129,7 +130,7 @@ std::uint32_t EnteroDeRed(const Bytes& archivo, std::size_t lugar) {
 
 }  // namespace
 
-std::optional<MapaDeBits> LeerMapaDeBits(const Bytes& archivo) {
+std::optional<MapaDeBits> LeerMapaDeBits(const almacen::Bytes& archivo) {
     if (const auto plano = MapaSinComprimir(archivo)) return LeerMapaDeBits(*plano);
     const auto cabecera = LeerCabecera(archivo);
     if (!cabecera) return std::nullopt;
@@ -147,7 +148,7 @@ std::optional<MapaDeBits> LeerMapaDeBits(const Bytes& archivo) {
     return mapa;
 }
 
-std::optional<ImagenPng> ComoPng(const Bytes& archivo) {
+std::optional<ImagenPng> ComoPng(const almacen::Bytes& archivo) {
     constexpr std::size_t medidas = 16;  // after the signature and the first chunk's length and name
     if (archivo.size() >= medidas + 8 && std::memcmp(archivo.data(), FirmaPng.data(), FirmaPng.size()) == 0)
         return ImagenPng{EnteroDeRed(archivo, medidas), EnteroDeRed(archivo, medidas + 4), archivo};
@@ -155,4 +156,4 @@ std::optional<ImagenPng> ComoPng(const Bytes& archivo) {
     return mapa ? EscribirPng(*mapa) : std::nullopt;
 }
 
-}  // namespace trabex
+}  // namespace trabex::salidas

@@ -6,7 +6,7 @@
 
 #include "store/Valor.h"
 
-namespace trabex {
+namespace trabex::salidas {
 
 /// The pixels of a picture, three bytes each (red, green, blue), row by row from the top.
 struct MapaDeBits {
@@ -17,17 +17,17 @@ struct MapaDeBits {
 
 /// Reads a Windows bitmap file: 1, 4, 8, 24 or 32 bits a pixel without compression, of either direction, or 8
 /// bits run-length encoded. Nothing when the bytes are not one.
-std::optional<MapaDeBits> LeerMapaDeBits(const Bytes& archivo);
+std::optional<MapaDeBits> LeerMapaDeBits(const almacen::Bytes& archivo);
 
 /// A picture as the bytes of a PNG file, and its size in pixels.
 struct ImagenPng {
     std::uint32_t Ancho = 0;
     std::uint32_t Alto = 0;
-    Bytes Archivo;
+    almacen::Bytes Archivo;
 };
 
 /// The bytes of a Windows bitmap or a PNG as a PNG. A drawing of up to 256 colours takes a palette, which
 /// makes it a fraction of the bitmap. Nothing when the bytes are neither.
-std::optional<ImagenPng> ComoPng(const Bytes& archivo);
+std::optional<ImagenPng> ComoPng(const almacen::Bytes& archivo);
 
-}  // namespace trabex
+}  // namespace trabex::salidas

@@ -7,27 +7,27 @@
 #include "reports/salidas/EscritorRtf.h"
 #include "reports/salidas/EscritorXls.h"
 
-namespace trabex {
+namespace trabex::salidas {
 
 namespace {
 
-void UbicarTablas(DisenoReporte& diseno, const std::filesystem::path& base) {
-    for (TablaDeDiseno& tabla : diseno.Tablas) tabla.Ubicacion = base;
-    for (DisenoReporte& subreporte : diseno.Subreportes) UbicarTablas(subreporte, base);
+void UbicarTablas(documento::DisenoReporte& diseno, const std::filesystem::path& base) {
+    for (documento::TablaDeDiseno& tabla : diseno.Tablas) tabla.Ubicacion = base;
+    for (documento::DisenoReporte& subreporte : diseno.Subreportes) UbicarTablas(subreporte, base);
 }
 
 }  // namespace
 
 Reporte::Reporte(const std::filesystem::path& archivo, Separadores separadores)
-    : diseno_(LeerDiseno(archivo)), separadores_(std::move(separadores)) {}
+    : diseno_(documento::LeerDiseno(archivo)), separadores_(std::move(separadores)) {}
 
 void Reporte::Ubicar(const std::filesystem::path& base) {
     UbicarTablas(diseno_, base);
     DescartarDatos();
 }
 
-const Documento& Reporte::Contenido() {
-    if (!compuesto_) compuesto_ = Componer(diseno_, separadores_);
+const documento::Documento& Reporte::Contenido() {
+    if (!compuesto_) compuesto_ = documento::Componer(diseno_, separadores_);
     return *compuesto_;
 }
 
@@ -41,11 +41,11 @@ void MotorReportes::Registrar(int codigo, EscritorReporte escritor) {
     escritores_[codigo] = std::move(escritor);
 }
 
-void MotorReportes::Exportar(const Documento& documento, int codigo,
+void MotorReportes::Exportar(const documento::Documento& documento, int codigo,
                              const std::filesystem::path& destino) const {
     const auto escritor = escritores_.find(codigo);
     if (escritor == escritores_.end()) throw ErrorEjecucion(CodigoError::ArgumentoInvalido);
     escritor->second(documento, destino);
 }
 
-}  // namespace trabex
+}  // namespace trabex::salidas

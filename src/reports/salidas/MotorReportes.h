@@ -8,7 +8,7 @@
 #include "reports/documento/DisenoReporte.h"
 #include "reports/documento/Documento.h"
 
-namespace trabex {
+namespace trabex::salidas {
 
 /// Codes by which an export names its format.
 enum CodigoFormato { FormatoPdf = 31, FormatoHtml = 32, FormatoRtf = 35, FormatoXls = 36 };
@@ -20,24 +20,24 @@ class Reporte {
     /// Throws ErrorEjecucion as LeerDiseno does.
     Reporte(const std::filesystem::path& archivo, Separadores separadores);
 
-    std::vector<TablaDeDiseno>& Tablas() { return diseno_.Tablas; }
-    std::vector<DisenoReporte>& Subreportes() { return diseno_.Subreportes; }
+    std::vector<documento::TablaDeDiseno>& Tablas() { return diseno_.Tablas; }
+    std::vector<documento::DisenoReporte>& Subreportes() { return diseno_.Subreportes; }
     /// Sets the database of every table, those of the subreports included, whatever the layout stores.
     void Ubicar(const std::filesystem::path& base);
     /// The next output reads the database again.
     void DescartarDatos() { compuesto_.reset(); }
 
     /// What the layout and its database say. Throws ErrorEjecucion as Componer does.
-    const Documento& Contenido();
+    const documento::Documento& Contenido();
 
   private:
-    DisenoReporte diseno_;
+    documento::DisenoReporte diseno_;
     Separadores separadores_;
-    std::optional<Documento> compuesto_;
+    std::optional<documento::Documento> compuesto_;
 };
 
 /// Writes a document to a file. Throws ErrorEjecucion; an older file then stays.
-using EscritorReporte = std::function<void(const Documento&, const std::filesystem::path&)>;
+using EscritorReporte = std::function<void(const documento::Documento&, const std::filesystem::path&)>;
 
 /// The report engine: opens layouts and writes reports to files by the format's code.
 class MotorReportes {
@@ -49,10 +49,11 @@ class MotorReportes {
     void Registrar(int codigo, EscritorReporte escritor);
 
     /// Throws ErrorEjecucion: 5 when no writer has the code, and as the writers do.
-    void Exportar(const Documento& documento, int codigo, const std::filesystem::path& destino) const;
+    void Exportar(const documento::Documento& documento, int codigo,
+                  const std::filesystem::path& destino) const;
 
   private:
     std::map<int, EscritorReporte> escritores_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::salidas

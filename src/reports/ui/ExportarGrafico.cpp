@@ -1,6 +1,6 @@
 #include "reports/ui/ExportarGrafico.h"
 
-namespace trabex {
+namespace trabex::reportes::ui {
 
 namespace {
 
@@ -27,14 +27,14 @@ void ExportarGrafico::ExportarPantalla(const FormatoGrafico& formato) {
     try {
         vista_.Guardar(*archivo, formato);
     } catch (const ErrorEjecucion& error) {
-        entorno_.Caja.Mostrar(MensajeDeError(error, Encabezado));
+        entorno_.Caja.Mostrar(programa::MensajeDeError(error, Encabezado));
         return;
     }
     entorno_.Estado.CarpetaGraficos = archivo->parent_path();
-    Mensaje hecho;
+    programa::Mensaje hecho;
     hecho.Texto = "¡El Reporte se Exportó con Exito!";
     hecho.Encabezado = Encabezado;
     entorno_.Caja.Mostrar(hecho);
 }
 
-}  // namespace trabex
+}  // namespace trabex::reportes::ui

@@ -10,7 +10,7 @@
 #include "shell/DialogosArchivo.h"
 #include "shell/Plataforma.h"
 
-namespace trabex {
+namespace trabex::reportes::ui {
 
 /// Kinds of picture file: option of the window, filter of the save dialog.
 struct FormatoGrafico {
@@ -33,11 +33,11 @@ class VistaExportarGrafico {
 
 /// What the window works with.
 struct EntornoGrafico {
-    Aplicacion& LaAplicacion;
-    EstadoReportes& Estado;
-    CajaMensajes& Caja;
-    DialogosArchivo& Dialogos;
-    Plataforma& LaPlataforma;
+    programa::Aplicacion& LaAplicacion;
+    montaje::EstadoReportes& Estado;
+    programa::CajaMensajes& Caja;
+    programa::DialogosArchivo& Dialogos;
+    programa::Plataforma& LaPlataforma;
 };
 
 /// Shows the current drawing of a workspace in a window of its own and saves it as a picture. The viewport is
@@ -50,7 +50,7 @@ class ExportarGrafico {
         visor_.ExportandoGrafico = true;
     }
 
-    EstadoVista& Viewport() { return visor_; }
+    dibujo::EstadoVista& Viewport() { return visor_; }
     /// Asks for a file, beginning in the folder of the last one, and saves the picture in it.
     void ExportarPantalla(const FormatoGrafico& formato);
     void AbrirCarpeta();
@@ -60,8 +60,8 @@ class ExportarGrafico {
 
     EntornoGrafico& entorno_;
     VistaExportarGrafico& vista_;
-    BanderaEnAlto exportando_;
-    EstadoVista visor_;
+    montaje::BanderaEnAlto exportando_;
+    dibujo::EstadoVista visor_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::reportes::ui

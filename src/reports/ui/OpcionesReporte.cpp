@@ -1,6 +1,6 @@
 #include "reports/ui/OpcionesReporte.h"
 
-namespace trabex {
+namespace trabex::reportes::ui {
 
 void OpcionImpreLosas::Aceptar(std::uint8_t opcion, bool desplazamientos) {
     estado_.OpcionExportarLosas = opcion;
@@ -8,4 +8,4 @@ void OpcionImpreLosas::Aceptar(std::uint8_t opcion, bool desplazamientos) {
     aceptado_ = true;
 }
 
-}  // namespace trabex
+}  // namespace trabex::reportes::ui

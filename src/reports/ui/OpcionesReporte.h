@@ -5,12 +5,12 @@
 
 #include "reports/montaje/EstadoReportes.h"
 
-namespace trabex {
+namespace trabex::reportes::ui {
 
 /// Which slabs a results report tells of, and whether with the displacements of their joints.
 class OpcionImpreLosas {
   public:
-    explicit OpcionImpreLosas(EstadoReportes& estado) : estado_(estado) {}
+    explicit OpcionImpreLosas(montaje::EstadoReportes& estado) : estado_(estado) {}
 
     /// " Aceptar ": `opcion` is 0 for the selected slab, 1 for all.
     void Aceptar(std::uint8_t opcion, bool desplazamientos);
@@ -22,7 +22,7 @@ class OpcionImpreLosas {
     static constexpr const char* Desplazamientos = "Exportar los Desplazamientos de las Juntas";
 
   private:
-    EstadoReportes& estado_;
+    montaje::EstadoReportes& estado_;
     bool aceptado_ = false;
 };
 
@@ -52,4 +52,4 @@ inline constexpr DialogoDeGraficos OpcionGraficoET{"OpcionGraficoET", "EXPORTAR 
                                                    "Seleccione lel Tipo de Reporte", OpcionesGraficoEscaleras,
                                                    true};
 
-}  // namespace trabex
+}  // namespace trabex::reportes::ui

@@ -2,7 +2,7 @@
 
 #include "base/Archivos.h"
 
-namespace trabex {
+namespace trabex::reportes::ui {
 
 namespace {
 
@@ -24,7 +24,7 @@ void ExportadorReportes::AbrirCarpeta() {
 }
 
 std::optional<std::filesystem::path> ExportadorReportes::PedirArchivo(std::uint8_t salida) {
-    PeticionArchivo peticion;
+    programa::PeticionArchivo peticion;
     peticion.Titulo = Salidas[salida].Titulo;
     peticion.Filtro = Salidas[salida].Filtro;
     peticion.Carpeta = Carpeta();
@@ -35,11 +35,13 @@ std::optional<std::filesystem::path> ExportadorReportes::PedirArchivo(std::uint8
     return elegido;
 }
 
-void ExportadorReportes::Exportar(const Documento& documento, std::uint8_t salida) {
+void ExportadorReportes::Exportar(const documento::Documento& documento, std::uint8_t salida) {
     const std::filesystem::path& archivo = entorno_.Estado.ArchivoExportado;
     entorno_.Motor.Exportar(documento, Salidas[salida].Codigo, archivo);
     const std::string texto = "¿Desea Abrir el Archivo " + TextoDeCamino(archivo) + "?";
-    if (entorno_.Caja.Mostrar(Pregunta(texto, "Abrir el Archivo Exportado...")) != RespuestaSi) return;
+    if (entorno_.Caja.Mostrar(programa::Pregunta(texto, "Abrir el Archivo Exportado...")) !=
+        programa::RespuestaSi)
+        return;
     if (!entorno_.LaPlataforma.AbrirArchivo(archivo))
         throw ErrorEjecucion(CodigoError::ArchivoNoEncontrado,
                              "No se encontró un programa que abra el archivo");
@@ -47,20 +49,20 @@ void ExportadorReportes::Exportar(const Documento& documento, std::uint8_t salid
 
 bool ExportadorReportes::HayImpresoras() {
     if (!entorno_.LasImpresoras.Disponibles().empty()) return true;
-    Mensaje mensaje;
+    programa::Mensaje mensaje;
     mensaje.Texto = "No hay impresoras instaladas en el sistema.";
     mensaje.Encabezado = "Imprimir el Reporte...";
-    mensaje.Icono = IconoCaja::Advertencia;
+    mensaje.Icono = programa::IconoCaja::Advertencia;
     entorno_.Caja.Mostrar(mensaje);
     return false;
 }
 
-bool ExportadorReportes::Imprimir(const Documento& documento) {
+bool ExportadorReportes::Imprimir(const documento::Documento& documento) {
     return HayImpresoras() && entorno_.LasImpresoras.Imprimir(documento, entorno_.Estado.Impresora, true, 1);
 }
 
 void ExportadorReportes::Avisar(const ErrorEjecucion& error) {
-    entorno_.Caja.Mostrar(MensajeDeError(error, "Error en el Reporte..."));
+    entorno_.Caja.Mostrar(programa::MensajeDeError(error, "Error en el Reporte..."));
 }
 
 void SalidaReporte::Aceptar(std::uint8_t salida) {
@@ -82,11 +84,11 @@ bool SalidaReporte::Enviar(std::uint8_t salida) {
     const std::string diseno = Diseno();
     if (diseno.empty()) return false;
     vista_.PunteroDeEspera(true);
-    Reporte reporte(entorno_.LaAplicacion.CaminoPrograma / "Reportes" / diseno,
-                    entorno_.LaAplicacion.SeparadoresLocales);
+    salidas::Reporte reporte(entorno_.LaAplicacion.CaminoPrograma / "Reportes" / diseno,
+                             entorno_.LaAplicacion.SeparadoresLocales);
     reporte.DescartarDatos();
     reporte.Ubicar(entorno_.LaAplicacion.CaminoUsuario / "Trabajo" / "Temporal.mdb");
-    const Documento& documento = reporte.Contenido();
+    const documento::Documento& documento = reporte.Contenido();
     vista_.PunteroDeEspera(false);
     if (salida == SalidaImpresora) return exportador_.Imprimir(documento);
     if (EsArchivo(salida))
@@ -107,4 +109,4 @@ std::string ImpreGrafico::Diseno() const {
     return entorno_.Estado.GraficoAutoportante ? "GraficoAutoportantes.rpt" : "Grafico.rpt";
 }
 
-}  // namespace trabex
+}  // namespace trabex::reportes::ui

@@ -13,7 +13,7 @@
 #include "shell/DialogosArchivo.h"
 #include "shell/Plataforma.h"
 
-namespace trabex {
+namespace trabex::reportes::ui {
 
 /// What the windows of report output share: one instance, of the program.
 struct EstadoSalida {
@@ -37,12 +37,13 @@ inline constexpr std::uint8_t SalidaImpresora = 5;
 inline constexpr std::array<OpcionDeSalida, 6> Salidas{{
     {"En la Pantalla...", nullptr, nullptr, 0},
     {"Adobe Acrobat (PDF)...", "Exportar el Reporte a formato: Adobe Acrobat(PDF)", "*.pdf|*.pdf",
-     FormatoPdf},
-    {"HTML 4.0 (Para la Web)...", "Exportar el Reporte a formato: HTLM 4.0", "*.htm|*.htm", FormatoHtml},
+     salidas::FormatoPdf},
+    {"HTML 4.0 (Para la Web)...", "Exportar el Reporte a formato: HTLM 4.0", "*.htm|*.htm",
+     salidas::FormatoHtml},
     {"Microsoft Excel...", "Exportar el Reporte a formato: Microsoft Excel 97-2000 (XLS)", "*.xls|*.xls",
-     FormatoXls},
+     salidas::FormatoXls},
     {"Microsoft Word (RTF)...", "Exportar el Reporte a formato: Microsoft Word (RTF)", "*.rtf|*.rtf",
-     FormatoRtf},
+     salidas::FormatoRtf},
     {"Impresora...", nullptr, nullptr, 0},
 }};
 
@@ -55,19 +56,19 @@ class Impresoras {
     virtual std::string PorDefecto() const = 0;
     /// Prints on `impresora` (empty: the default one), after the system's prompt where asked to. False when
     /// the engineer cancels. Throws ErrorEjecucion 482 when the printer refuses.
-    virtual bool Imprimir(const Documento& documento, const std::string& impresora, bool preguntar,
+    virtual bool Imprimir(const documento::Documento& documento, const std::string& impresora, bool preguntar,
                           int copias) = 0;
 };
 
 /// What the windows of report output work with.
 struct EntornoSalida {
-    Aplicacion& LaAplicacion;
+    programa::Aplicacion& LaAplicacion;
     EstadoSalida& Estado;
-    MotorReportes& Motor;
+    salidas::MotorReportes& Motor;
     Impresoras& LasImpresoras;
-    CajaMensajes& Caja;
-    DialogosArchivo& Dialogos;
-    Plataforma& LaPlataforma;
+    programa::CajaMensajes& Caja;
+    programa::DialogosArchivo& Dialogos;
+    programa::Plataforma& LaPlataforma;
 };
 
 /// Where a report is kept, printed and opened from: what the dialogs and the viewer have in common.
@@ -80,11 +81,11 @@ class ExportadorReportes {
     /// Asks for the file of an output and keeps it as the exported one. Nothing when the engineer cancels.
     std::optional<std::filesystem::path> PedirArchivo(std::uint8_t salida);
     /// Writes the exported file and offers to open it. Throws ErrorEjecucion.
-    void Exportar(const Documento& documento, std::uint8_t salida);
+    void Exportar(const documento::Documento& documento, std::uint8_t salida);
     /// There is a printer to print on; otherwise says so.
     bool HayImpresoras();
     /// With a prompt, one copy. False when nothing was printed. Throws ErrorEjecucion.
-    bool Imprimir(const Documento& documento);
+    bool Imprimir(const documento::Documento& documento);
     void Avisar(const ErrorEjecucion& error);
 
   private:
@@ -97,7 +98,7 @@ class VistaSalidaReporte {
     virtual ~VistaSalidaReporte() = default;
     virtual void PunteroDeEspera(bool espera) = 0;
     /// Shows the viewer, at zoom 100, until it is closed.
-    virtual void Ver(const Documento& documento) = 0;
+    virtual void Ver(const documento::Documento& documento) = 0;
     virtual void Cerrar() = 0;
 };
 
@@ -149,4 +150,4 @@ class ImpreGrafico : public SalidaReporte {
     void AlTerminar() override { entorno_.Estado.FormatoSalida = SalidaPantalla; }
 };
 
-}  // namespace trabex
+}  // namespace trabex::reportes::ui

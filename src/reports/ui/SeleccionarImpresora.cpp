@@ -2,7 +2,7 @@
 
 #include "base/Texto.h"
 
-namespace trabex {
+namespace trabex::reportes::ui {
 
 std::optional<std::size_t> SeleccionarImpresora::MarcarImpresoraDefecto() const {
     const std::string& elegida = entorno_.Estado.Impresora;
@@ -14,10 +14,11 @@ std::optional<std::size_t> SeleccionarImpresora::MarcarImpresoraDefecto() const 
 }
 
 bool SeleccionarImpresora::Aceptar(const std::string& impresora) {
-    const Mensaje pregunta = Pregunta("Cambiar a esta Impresora?\n" + impresora, "Seleccionar Impresora...");
-    if (entorno_.Caja.Mostrar(pregunta) != RespuestaSi) return false;
+    const programa::Mensaje pregunta =
+        programa::Pregunta("Cambiar a esta Impresora?\n" + impresora, "Seleccionar Impresora...");
+    if (entorno_.Caja.Mostrar(pregunta) != programa::RespuestaSi) return false;
     entorno_.Estado.Impresora = impresora;
     return true;
 }
 
-}  // namespace trabex
+}  // namespace trabex::reportes::ui

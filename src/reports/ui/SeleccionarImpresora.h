@@ -6,7 +6,7 @@
 
 #include "reports/ui/SalidaReporte.h"
 
-namespace trabex {
+namespace trabex::reportes::ui {
 
 /// Operations of the window that chooses the program's printer until it ends; the system's own default stays.
 class SeleccionarImpresora {
@@ -26,4 +26,4 @@ class SeleccionarImpresora {
     std::vector<std::string> disponibles_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::reportes::ui

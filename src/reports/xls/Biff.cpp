@@ -6,7 +6,7 @@
 
 #include <glib.h>
 
-namespace trabex::biff {
+namespace trabex::xls {
 
 namespace {
 
@@ -73,4 +73,4 @@ void AgregarRegistro(std::string& flujo, std::uint16_t tipo, const Octetos& dato
     } while (escritos < bytes.size());
 }
 
-}  // namespace trabex::biff
+}  // namespace trabex::xls

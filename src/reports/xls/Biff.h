@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace trabex::biff {
+namespace trabex::xls {
 
 /// Little-endian bytes, as every part of the format is made of.
 class Octetos {
@@ -50,4 +50,4 @@ inline constexpr std::uint16_t Continuacion = 0x003C;
 /// Appends a record; data past its limit go into continuation records.
 void AgregarRegistro(std::string& flujo, std::uint16_t tipo, const Octetos& datos);
 
-}  // namespace trabex::biff
+}  // namespace trabex::xls

@@ -4,7 +4,7 @@
 
 #include "reports/xls/Biff.h"
 
-namespace trabex::biff {
+namespace trabex::xls {
 
 namespace {
 
@@ -64,4 +64,4 @@ void CadenasBiff::Escribir(std::string& flujo) const {
     for (const std::string* texto : textos_) EscribirTexto(registro, TextoBiff(*texto, MaximoDeTexto));
 }
 
-}  // namespace trabex::biff
+}  // namespace trabex::xls

@@ -6,7 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
-namespace trabex::biff {
+namespace trabex::xls {
 
 /// The texts of a book's cells, each kept once; cells refer to them by number.
 class CadenasBiff {
@@ -21,4 +21,4 @@ class CadenasBiff {
     std::uint32_t referencias_ = 0;
 };
 
-}  // namespace trabex::biff
+}  // namespace trabex::xls

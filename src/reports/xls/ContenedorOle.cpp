@@ -6,7 +6,7 @@
 
 #include "base/ErrorEjecucion.h"
 
-namespace trabex {
+namespace trabex::xls {
 
 namespace {
 
@@ -62,4 +62,4 @@ std::string ContenedorOle(const char* nombreDelFlujo, std::string_view flujo,
     return {reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(gsf_output_size(memoria.get()))};
 }
 
-}  // namespace trabex
+}  // namespace trabex::xls

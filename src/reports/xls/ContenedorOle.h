@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace trabex {
+namespace trabex::xls {
 
 /// What a compound file tells of its document.
 struct PropiedadesOle {
@@ -16,4 +16,4 @@ struct PropiedadesOle {
 std::string ContenedorOle(const char* nombreDelFlujo, std::string_view flujo,
                           const PropiedadesOle& propiedades);
 
-}  // namespace trabex
+}  // namespace trabex::xls

@@ -7,7 +7,7 @@
 
 #include "reports/xls/Biff.h"
 
-namespace trabex::biff {
+namespace trabex::xls {
 
 namespace {
 
@@ -187,4 +187,4 @@ void EstilosBiff::EscribirXf(std::string& flujo, const Formateo& formateo) const
                         .U16(trama | ColorDeFondoPropio << 7));
 }
 
-}  // namespace trabex::biff
+}  // namespace trabex::xls

@@ -7,7 +7,7 @@
 
 #include "reports/xls/LibroXls.h"
 
-namespace trabex::biff {
+namespace trabex::xls {
 
 /// Fonts, number formats, colours and cell formats of a book, numbered as its records refer to them.
 class EstilosBiff {
@@ -50,4 +50,4 @@ class EstilosBiff {
     std::vector<Formateo> formateos_;  // two a style: for any value, for a date
 };
 
-}  // namespace trabex::biff
+}  // namespace trabex::xls

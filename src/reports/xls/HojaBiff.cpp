@@ -7,7 +7,7 @@
 #include "base/Formatos.h"
 #include "reports/xls/Biff.h"
 
-namespace trabex::biff {
+namespace trabex::xls {
 
 namespace {
 
@@ -257,4 +257,4 @@ AnclaXls HojaBiff::Ancla(const ImagenXls& imagen, const EstilosBiff& estilos) co
             abajo,   static_cast<std::size_t>(255 * dentroY)};
 }
 
-}  // namespace trabex::biff
+}  // namespace trabex::xls

@@ -8,7 +8,7 @@
 #include "reports/xls/ImagenesBiff.h"
 #include "reports/xls/LibroXls.h"
 
-namespace trabex::biff {
+namespace trabex::xls {
 
 /// Heading rows of a sheet; more than half of what a sheet of the file holds are none.
 inline std::size_t FilasFijasDe(const HojaXls& hoja) {
@@ -58,4 +58,4 @@ class HojaBiff {
     std::size_t repetidas_, desde_, hasta_;
 };
 
-}  // namespace trabex::biff
+}  // namespace trabex::xls

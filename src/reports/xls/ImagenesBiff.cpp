@@ -6,7 +6,7 @@
 
 #include "reports/xls/Biff.h"
 
-namespace trabex::biff {
+namespace trabex::xls {
 
 namespace {
 
@@ -204,4 +204,4 @@ void ImagenesBiff::EscribirHoja(std::string& flujo, std::size_t hoja,
     }
 }
 
-}  // namespace trabex::biff
+}  // namespace trabex::xls

@@ -6,7 +6,7 @@
 
 #include "reports/xls/LibroXls.h"
 
-namespace trabex::biff {
+namespace trabex::xls {
 
 /// Where a picture lies: the cells of its corners, and how far into them, in 1/1024 of a width and 1/256 of a
 /// height.
@@ -40,4 +40,4 @@ class ImagenesBiff {
     std::size_t grupos_ = 0;
 };
 
-}  // namespace trabex::biff
+}  // namespace trabex::xls

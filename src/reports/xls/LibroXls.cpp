@@ -10,9 +10,7 @@
 #include "reports/xls/ContenedorOle.h"
 #include "reports/xls/HojaBiff.h"
 
-namespace trabex {
-
-using namespace biff;
+namespace trabex::xls {
 
 namespace {
 
@@ -179,4 +177,4 @@ void GuardarXls(const LibroXls& libro, const std::filesystem::path& camino) {
     EscribirArchivo(camino, BytesXls(libro));
 }
 
-}  // namespace trabex
+}  // namespace trabex::xls

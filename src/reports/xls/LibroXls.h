@@ -10,7 +10,7 @@
 
 #include "base/Fecha.h"
 
-namespace trabex {
+namespace trabex::xls {
 
 /// A workbook of the Excel 97-2003 format (.xls), as plain data: fill it, then ask for its bytes or save it.
 ///
@@ -128,4 +128,4 @@ std::string BytesXls(const LibroXls& libro);
 /// The same into a file, replacing it whole. Throws ErrorEjecucion as EscribirArchivo does.
 void GuardarXls(const LibroXls& libro, const std::filesystem::path& camino);
 
-}  // namespace trabex
+}  // namespace trabex::xls

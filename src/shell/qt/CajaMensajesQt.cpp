@@ -12,7 +12,7 @@
 #include "shell/qt/ComunVentanas.h"
 #include "shell/qt/Iconos.h"
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 namespace {
 
@@ -130,4 +130,4 @@ std::int16_t CajaMensajesQt::Mostrar(const Mensaje& mensaje) {
     return ventana.Respuesta();
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

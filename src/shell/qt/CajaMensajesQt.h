@@ -6,7 +6,7 @@
 
 class QWidget;
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 /// The message box as a window: heading, text, picture, one to three buttons.
 class VentanaMensaje : public QDialog {
@@ -31,4 +31,4 @@ class CajaMensajesQt : public CajaMensajes {
     std::int16_t Mostrar(const Mensaje& mensaje) override;
 };
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

@@ -7,7 +7,7 @@
 
 #include "shell/qt/ComunVentanas.h"
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 std::optional<double> NumeroDe(const QString& texto, const ClaseNumero& clase) {
     if (texto.trimmed().isEmpty()) return 0;
@@ -48,4 +48,4 @@ void CampoNumero::focusInEvent(QFocusEvent* evento) {
     if (evento->reason() != Qt::PopupFocusReason) QTimer::singleShot(0, this, &QLineEdit::selectAll);
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

@@ -6,7 +6,7 @@
 
 #include "base/Formatos.h"
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 /// What a field or a table's column takes for a number.
 struct ClaseNumero {
@@ -49,4 +49,4 @@ class CampoNumero : public QLineEdit {
     Separadores separadores_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

@@ -11,7 +11,7 @@
 
 #include "shell/qt/Iconos.h"
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 namespace {
 
@@ -116,4 +116,4 @@ void PunteroDeTrabajo::Poner(bool espera) {
         QApplication::restoreOverrideCursor();
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

@@ -12,7 +12,7 @@ class QPushButton;
 class QSize;
 class QWidget;
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 inline QString Q(const std::string& texto) {
     return QString::fromStdString(texto);
@@ -56,4 +56,4 @@ class PunteroDeTrabajo {
     bool esperando_ = false;
 };
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

@@ -7,7 +7,7 @@
 #include "base/Archivos.h"
 #include "shell/qt/ComunVentanas.h"
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 namespace {
 
@@ -43,4 +43,4 @@ std::optional<std::filesystem::path> DialogosArchivoQt::Elegir(const PeticionArc
     return CaminoDeTexto(S(dialogo.selectedFiles().constFirst()));
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

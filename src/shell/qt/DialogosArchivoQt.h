@@ -2,7 +2,7 @@
 
 #include "shell/DialogosArchivo.h"
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 /// File dialogs of the toolkit.
 class DialogosArchivoQt : public DialogosArchivo {
@@ -10,4 +10,4 @@ class DialogosArchivoQt : public DialogosArchivo {
     std::optional<std::filesystem::path> Elegir(const PeticionArchivo& peticion) override;
 };
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

@@ -11,7 +11,7 @@ static void CargarRecursos() {
     Q_INIT_RESOURCE(iconos);
 }
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 namespace {
 
@@ -51,4 +51,4 @@ QPixmap Figura(const QString& nombre, int lado) {
     return Dibujar(Texto(nombre), lado);
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

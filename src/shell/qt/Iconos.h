@@ -4,7 +4,7 @@
 
 class QString;
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 /// A line icon by its name, drawn in the text colour of the current palette, so that it fits light and dark
 /// themes.
@@ -13,4 +13,4 @@ QIcon Icono(const QString& nombre);
 /// A picture in its own colours: the program's, or one of the message box.
 QPixmap Figura(const QString& nombre, int lado);
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

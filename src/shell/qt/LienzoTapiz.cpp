@@ -4,7 +4,7 @@
 
 #include "shell/qt/ComunVentanas.h"
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 LienzoTapiz::LienzoTapiz(QWidget* padre) : QWidget(padre) {
     setMinimumSize(160, 90);
@@ -43,4 +43,4 @@ void LienzoTapiz::paintEvent(QPaintEvent*) {
     if (!imagen_.isNull()) pintor.drawPixmap(Lugar(ventana), imagen_);
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

@@ -5,7 +5,7 @@
 
 #include "shell/Tapiz.h"
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 /// Shows the wallpaper picture: aligned as the settings say, or filling the widget.
 class LienzoTapiz : public QWidget {
@@ -28,4 +28,4 @@ class LienzoTapiz : public QWidget {
     Tapiz tapiz_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

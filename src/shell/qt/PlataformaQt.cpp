@@ -22,7 +22,7 @@
 #include <unistd.h>
 #endif
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 namespace {
 
@@ -91,4 +91,4 @@ bool PlataformaQt::InformacionDelSistema() {
     return false;
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

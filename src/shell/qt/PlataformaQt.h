@@ -2,7 +2,7 @@
 
 #include "shell/Plataforma.h"
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 /// The operating system by the toolkit's means.
 class PlataformaQt : public Plataforma {
@@ -17,4 +17,4 @@ class PlataformaQt : public Plataforma {
     bool InformacionDelSistema() override;
 };
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

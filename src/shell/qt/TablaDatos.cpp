@@ -12,7 +12,7 @@
 
 #include "shell/qt/ComunVentanas.h"
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 /// The cells as their columns read and put them.
 class ModeloTabla : public QAbstractTableModel {
@@ -357,4 +357,4 @@ void TablaDatos::Borrar() {
     }
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

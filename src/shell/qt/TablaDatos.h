@@ -7,7 +7,7 @@
 
 #include "shell/qt/CampoNumero.h"
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 class ModeloTabla;
 
@@ -82,4 +82,4 @@ class TablaDatos : public QTableView {
     std::function<void(int)> alCambiarFila_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

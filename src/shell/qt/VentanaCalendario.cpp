@@ -6,7 +6,7 @@
 
 #include "shell/qt/ComunVentanas.h"
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 VentanaCalendario::VentanaCalendario(const Fecha& fecha, const Tapiz& preferencias, QWidget* padre)
     : QDialog(padre), mes_(new QCalendarWidget(this)) {
@@ -32,4 +32,4 @@ Fecha VentanaCalendario::Elegida() const {
     return std::chrono::year(dia.year()) / dia.month() / dia.day();
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

@@ -7,7 +7,7 @@
 
 class QCalendarWidget;
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 /// Picks a day from a month.
 class VentanaCalendario : public QDialog {
@@ -19,4 +19,4 @@ class VentanaCalendario : public QDialog {
     QCalendarWidget* mes_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

@@ -15,7 +15,7 @@
 #include "base/Archivos.h"
 #include "shell/qt/ComunVentanas.h"
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 VentanaCompactar::VentanaCompactar(Aplicacion& aplicacion, CajaMensajes& caja, QWidget* padre)
     : QDialog(padre),
@@ -128,4 +128,4 @@ void VentanaCompactar::Cerrar() {
     accept();
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

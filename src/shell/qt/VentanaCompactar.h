@@ -11,7 +11,7 @@ class QListWidget;
 class QProgressBar;
 class QTreeView;
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 /// Chooses project files in a folder and repairs them.
 class VentanaCompactar : public QDialog, public VistaCompactar {
@@ -41,4 +41,4 @@ class VentanaCompactar : public QDialog, public VistaCompactar {
     PunteroDeTrabajo puntero_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

@@ -22,7 +22,7 @@
 #include "shell/ConfigurarPrograma.h"
 #include "shell/qt/ComunVentanas.h"
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 namespace {
 
@@ -229,4 +229,4 @@ void VentanaConfigurar::Aceptar() {
     accept();
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

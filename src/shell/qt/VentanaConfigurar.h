@@ -13,7 +13,7 @@ class QComboBox;
 class QLabel;
 class QLineEdit;
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 /// The user's settings, with a live preview: the wallpaper on one tab, the tool tips on the other.
 class VentanaConfigurar : public QDialog {
@@ -51,4 +51,4 @@ class VentanaConfigurar : public QDialog {
     QLabel* ejemplo_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

@@ -13,7 +13,7 @@
 #include "shell/qt/ComunVentanas.h"
 #include "shell/qt/VentanaCalendario.h"
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 namespace {
 
@@ -139,4 +139,4 @@ void VentanaDatosProyecto::Salvar() {
     if (operaciones_.Salvar(datos)) accept();
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

@@ -7,7 +7,7 @@
 class QLineEdit;
 class QPlainTextEdit;
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 /// Edits the project's title data.
 class VentanaDatosProyecto : public QDialog {
@@ -32,4 +32,4 @@ class VentanaDatosProyecto : public QDialog {
     QPlainTextEdit* comentario_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

@@ -16,7 +16,7 @@
 #include "shell/qt/VentanaDatosProyecto.h"
 #include "shell/qt/VentanaSobre.h"
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 namespace {
 
@@ -171,4 +171,4 @@ void VentanaMenuPrincipal::MostrarEspacio(Espacio espacio) {
     espacios_.Mostrar(espacio, this);
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

@@ -10,7 +10,7 @@
 
 class QLabel;
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 /// Opens the windows of the elements. The program gives it to the main window; an element that is not built
 /// has none.
@@ -62,4 +62,4 @@ class VentanaMenuPrincipal : public QMainWindow, public VistaMenuPrincipal {
     PunteroDeTrabajo puntero_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

@@ -8,7 +8,7 @@
 
 #include "shell/qt/ComunVentanas.h"
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 VentanaRenombrar::VentanaRenombrar(Renombrar& operaciones, const Tapiz& preferencias, QWidget* padre)
     : QDialog(padre) {
@@ -36,4 +36,4 @@ VentanaRenombrar::VentanaRenombrar(Renombrar& operaciones, const Tapiz& preferen
     PrepararVentana(this, preferencias);
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

@@ -5,7 +5,7 @@
 #include "shell/Renombrar.h"
 #include "shell/Tapiz.h"
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 /// Asks for an element's new name, of slabs and of stairs.
 class VentanaRenombrar : public QDialog {
@@ -15,4 +15,4 @@ class VentanaRenombrar : public QDialog {
 
 inline constexpr int LargoDeNombre = 60;  ///< characters that the tables' columns of names hold
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

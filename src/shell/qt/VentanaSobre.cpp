@@ -9,7 +9,7 @@
 #include "shell/qt/ComunVentanas.h"
 #include "shell/qt/Iconos.h"
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 VentanaSobre::VentanaSobre(const Aplicacion& aplicacion, Plataforma& plataforma, QWidget* padre)
     : QDialog(padre) {
@@ -63,4 +63,4 @@ VentanaUsuario::VentanaUsuario(const Aplicacion& aplicacion, QWidget* padre) : Q
     PrepararVentana(this, aplicacion.Preferencias);
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

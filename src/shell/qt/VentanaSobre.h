@@ -5,7 +5,7 @@
 #include "shell/Aplicacion.h"
 #include "shell/Plataforma.h"
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 /// Shows the edition, and opens the desktop's system-information tool and the user's name.
 class VentanaSobre : public QDialog {
@@ -19,4 +19,4 @@ class VentanaUsuario : public QDialog {
     VentanaUsuario(const Aplicacion& aplicacion, QWidget* padre);
 };
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

@@ -6,7 +6,7 @@
 #include "shell/Aplicacion.h"
 #include "shell/qt/Iconos.h"
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 namespace {
 
@@ -59,4 +59,4 @@ void VentanaSplash::Terminar() {
     close();
 }
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

@@ -3,7 +3,7 @@
 #include <QSplashScreen>
 #include <functional>
 
-namespace trabex {
+namespace trabex::programa::qt {
 
 /// The first window: the edition, while the start is prepared. A click or a key ends it at once.
 class VentanaSplash : public QSplashScreen {
@@ -23,4 +23,4 @@ class VentanaSplash : public QSplashScreen {
     std::function<void()> alTerminar_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::programa::qt

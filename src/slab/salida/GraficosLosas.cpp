@@ -5,15 +5,15 @@
 #include "base/Texto.h"
 #include "reports/montaje/AlbumGraficos.h"
 
-namespace trabex {
+namespace trabex::losas::salida {
 
 namespace {
 
 constexpr std::array<DibujoDeLosa, 4> Dibujos{{
-    {VistaGeometria, false, ": GEOMETRÍA DE LA LOSA"},
-    {VistaFuerzas, false, ": CORTES Y MOMENTOS"},
-    {VistaDiseno, false, ": ANÁLISIS Y DISEÑO"},
-    {VistaDiseno, true, ": REACCIONES SOBRE VIGAS"},
+    {dibujo::losa::VistaGeometria, false, ": GEOMETRÍA DE LA LOSA"},
+    {dibujo::losa::VistaFuerzas, false, ": CORTES Y MOMENTOS"},
+    {dibujo::losa::VistaDiseno, false, ": ANÁLISIS Y DISEÑO"},
+    {dibujo::losa::VistaDiseno, true, ": REACCIONES SOBRE VIGAS"},
 }};
 
 /// What a value of `OpcionGrafico` asks for: a run of the drawings, of the selected slab or of all.
@@ -25,16 +25,17 @@ struct Opcion {
 constexpr std::array<Opcion, 6> Opciones{
     {{false, 0, 3}, {true, 0, 3}, {true, 0, 1}, {true, 1, 1}, {true, 2, 1}, {true, 3, 1}}};
 
-void AgregarDibujos(AlbumGraficos& album, const LosaDelProyecto& losa, HojaLosa& hoja,
+void AgregarDibujos(montaje::AlbumGraficos& album, const LosaDelProyecto& losa, dibujo::losa::HojaLosa& hoja,
                     std::span<const DibujoDeLosa> dibujos) {
     const std::string& nombre = losa.Datos.Nombre;
     for (const DibujoDeLosa& dibujo : dibujos) {
         hoja.VistaActual = dibujo.Vista;
         hoja.SoloReacciones = dibujo.SoloReacciones;
-        album.Agregar(nombre, nombre + dibujo.Titulo, "Exportando la Losa: " + Mayusculas(nombre),
-                      [&](Lienzo& lienzo) {
-                          RedibujeVista(lienzo, hoja, {losa.Datos, losa.Generales, losa.Resultados});
-                      });
+        album.Agregar(
+            nombre, nombre + dibujo.Titulo, "Exportando la Losa: " + Mayusculas(nombre),
+            [&](dibujo::Lienzo& lienzo) {
+                dibujo::losa::RedibujeVista(lienzo, hoja, {losa.Datos, losa.Generales, losa.Resultados});
+            });
     }
 }
 
@@ -46,25 +47,26 @@ PedidoDeGraficos PedidoDe(std::uint8_t OpcionGrafico) {
     return {opcion.Todas, std::span(Dibujos).subspan(opcion.Primero, opcion.Cuantos)};
 }
 
-bool GuardeGraficos(const EntornoReportes& entorno, const ProyectoParaReporte& origen, const HojaLosa& hoja,
-                    SuperficieOculta& superficie, PanelProgreso& panel, EstadoReportes& estado) {
-    const BanderaEnAlto generando(estado.GenerandoReporte);
-    const BanderaEnAlto exportando(estado.ExportandoGrafico);
-    Conexion temporal;
-    AbrirTemporal(entorno, origen.Datos, {TituloReporteLosas}, temporal);
+bool GuardeGraficos(const montaje::EntornoReportes& entorno, const ProyectoParaReporte& origen,
+                    const dibujo::losa::HojaLosa& hoja, montaje::SuperficieOculta& superficie,
+                    montaje::PanelProgreso& panel, montaje::EstadoReportes& estado) {
+    const montaje::BanderaEnAlto generando(estado.GenerandoReporte);
+    const montaje::BanderaEnAlto exportando(estado.ExportandoGrafico);
+    almacen::Conexion temporal;
+    montaje::AbrirTemporal(entorno, origen.Datos, {TituloReporteLosas}, temporal);
     const int losas = origen.Proyecto.RegistrosProyecto.NumeroRegistros();
     const auto [todas, dibujos] = PedidoDe(estado.OpcionGrafico);
     if (!temporal.Abierta() || losas == 0 || dibujos.empty()) return temporal.Abierta();
 
-    HojaLosa propia;
+    dibujo::losa::HojaLosa propia;
     propia.OpcionCarga = hoja.OpcionCarga;
     propia.Numeros = hoja.Numeros;
     propia.Vista.ExportandoGrafico = true;
-    const PanelALaVista visible(panel);
-    Transaccion guardado(temporal);
+    const montaje::PanelALaVista visible(panel);
+    almacen::Transaccion guardado(temporal);
     {
-        AlbumGraficos album(temporal, entorno, superficie, panel,
-                            dibujos.size() * (todas ? static_cast<std::size_t>(losas) : 1));
+        montaje::AlbumGraficos album(temporal, entorno, superficie, panel,
+                                     dibujos.size() * (todas ? static_cast<std::size_t>(losas) : 1));
         const auto dibujar = [&, &suyos = dibujos](const LosaDelProyecto& losa) {
             AgregarDibujos(album, losa, propia, suyos);
         };
@@ -73,4 +75,4 @@ bool GuardeGraficos(const EntornoReportes& entorno, const ProyectoParaReporte& o
     return guardado.Confirmar();
 }
 
-}  // namespace trabex
+}  // namespace trabex::losas::salida

@@ -8,11 +8,11 @@
 #include "reports/montaje/SuperficieOculta.h"
 #include "slab/salida/ReporteLosas.h"
 
-namespace trabex {
+namespace trabex::losas::salida {
 
 /// A drawing of a slab in a report.
 struct DibujoDeLosa {
-    VistaLosa Vista;
+    dibujo::losa::VistaLosa Vista;
     bool SoloReacciones;
     const char* Titulo;  ///< follows the slab's name
 };
@@ -34,7 +34,8 @@ PedidoDeGraficos PedidoDe(std::uint8_t OpcionGrafico);
 /// `hoja`, the workspace's, they take the loads shown and the separators of numbers. `GenerandoReporte` and
 /// `ExportandoGrafico` are up meanwhile, and the panel shows. False when they could not be stored; the report
 /// is then empty.
-bool GuardeGraficos(const EntornoReportes& entorno, const ProyectoParaReporte& origen, const HojaLosa& hoja,
-                    SuperficieOculta& superficie, PanelProgreso& panel, EstadoReportes& estado);
+bool GuardeGraficos(const montaje::EntornoReportes& entorno, const ProyectoParaReporte& origen,
+                    const dibujo::losa::HojaLosa& hoja, montaje::SuperficieOculta& superficie,
+                    montaje::PanelProgreso& panel, montaje::EstadoReportes& estado);
 
-}  // namespace trabex
+}  // namespace trabex::losas::salida

@@ -9,7 +9,7 @@
 #include "slab/ResultadosLosa.h"
 #include "store/tablas/TablasProyecto.h"
 
-namespace trabex {
+namespace trabex::losas::salida {
 
 /// A slab of a project with its results; `Numero` is its place in the list, from 1.
 struct LosaDelProyecto {
@@ -22,7 +22,7 @@ struct LosaDelProyecto {
 
 /// A project whose slabs are to be reported, as the workspace or the batch program has it open.
 struct ProyectoParaReporte {
-    ProyectoAbierto& Proyecto;
+    almacen::tablas::ProyectoAbierto& Proyecto;
     const DatosDelProyecto& Datos;
     const DatosGenerales& Generales;
     int FilaSeleccionada = 1;  ///< position of the workspace's selected slab in the list
@@ -39,4 +39,4 @@ void RecorrerLosas(const ProyectoParaReporte& origen, bool todas,
 bool RecorrerLosas(const std::filesystem::path& camino,
                    const std::function<void(const LosaDelProyecto&)>& accion);
 
-}  // namespace trabex
+}  // namespace trabex::losas::salida

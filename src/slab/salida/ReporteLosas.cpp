@@ -6,7 +6,7 @@
 #include "slab/EsfuerzosTramo.h"
 #include "store/Insercion.h"
 
-namespace trabex {
+namespace trabex::losas::salida {
 
 namespace {
 
@@ -32,24 +32,24 @@ Reacciones Suma(const Reacciones& a, const Reacciones& b) {
 
 /// The scratch tables of slabs, each emptied and open for its rows.
 struct TablasDeLosas {
-    explicit TablasDeLosas(Conexion& conexion)
+    explicit TablasDeLosas(almacen::Conexion& conexion)
         : Datos(conexion, "LosaDatos"), Ejes(conexion, "LosaEjes"), Tramos(conexion, "LosaTramos") {
         for (const char* tabla : {"LosaDatos", "LosaEjes", "LosaTramos"})
             conexion.Ejecutar("DELETE * FROM " + std::string(tabla));
     }
-    Insercion Datos;
-    Insercion Ejes;
-    Insercion Tramos;
+    almacen::Insercion Datos;
+    almacen::Insercion Ejes;
+    almacen::Insercion Tramos;
 };
 
-void EscribirGenerales(Conexion& conexion, const DatosGenerales& generales) {
+void EscribirGenerales(almacen::Conexion& conexion, const DatosGenerales& generales) {
     conexion.Ejecutar("DELETE * FROM LosaG");
-    Recordset registros;
-    AbrirRecordset(conexion, registros, "LosaG");
-    AgregarGenerales(registros, generales);
+    almacen::Recordset registros;
+    almacen::AbrirRecordset(conexion, registros, "LosaG");
+    almacen::tablas::AgregarGenerales(registros, generales);
 }
 
-void EscribirDatos(Insercion& tabla, const Losa& losa) {
+void EscribirDatos(almacen::Insercion& tabla, const Losa& losa) {
     tabla.Poner("Nombre", losa.Nombre);
     tabla.Poner("OpcionMaciza", losa.OpcionMaciza);
     tabla.Poner("Bo", losa.Bo);
@@ -61,11 +61,11 @@ void EscribirDatos(Insercion& tabla, const Losa& losa) {
 }
 
 /// A row's number; one past the column's 16 bits is left null there.
-Valor Numero(std::size_t i) {
+almacen::Valor Numero(std::size_t i) {
     return static_cast<double>(i);
 }
 
-void EscribirEje(Insercion& tabla, const Losa& losa, const ResultadosLosa& r, std::size_t i) {
+void EscribirEje(almacen::Insercion& tabla, const Losa& losa, const ResultadosLosa& r, std::size_t i) {
     const EstadoJunta permanente = En(r.ResultadoJunta[CasoPermanente], i);
     const EstadoJunta variable = En(r.ResultadoJunta[CasoVariable], i);
     const DisenoDeEje diseno = En(r.DisenoEje, i);
@@ -101,7 +101,7 @@ constexpr ColumnasDeReaccion ReaccionesB{{"VB", "FB"}, {"VBCP", "FBCP"}, {"VBCV"
 
 /// Reactions of an axis as the beams take them: a ribbed slab's, of one rib, become those of a metre of
 /// width.
-void EscribirReacciones(Insercion& tabla, const ColumnasDeReaccion& columnas, const Losa& losa,
+void EscribirReacciones(almacen::Insercion& tabla, const ColumnasDeReaccion& columnas, const Losa& losa,
                         const ResultadosLosa& r, std::size_t eje) {
     const double ancho = losa.OpcionMaciza ? 1 : losa.So;
     const auto poner = [&](const std::array<const char*, 2>& nombres, const Reacciones& reacciones) {
@@ -115,7 +115,8 @@ void EscribirReacciones(Insercion& tabla, const ColumnasDeReaccion& columnas, co
     poner(columnas.Variable, variable);
 }
 
-void EscribirEsfuerzos(Insercion& tabla, const DatosGenerales& g, const ResultadosLosa& r, std::size_t i) {
+void EscribirEsfuerzos(almacen::Insercion& tabla, const DatosGenerales& g, const ResultadosLosa& r,
+                       std::size_t i) {
     const EsfuerzosTramo permanente = En(r.ResultadoTramo[CasoPermanente], i);
     const EsfuerzosTramo variable = En(r.ResultadoTramo[CasoVariable], i);
     tabla.Poner("MuA", Mayorar(g, permanente.MomentoA, variable.MomentoA));
@@ -124,7 +125,7 @@ void EscribirEsfuerzos(Insercion& tabla, const DatosGenerales& g, const Resultad
     tabla.Poner("VuB", Mayorar(g, permanente.CorteB, variable.CorteB));
 }
 
-void EscribirDiseno(Insercion& tabla, const ResultadosLosa& r, std::size_t i) {
+void EscribirDiseno(almacen::Insercion& tabla, const ResultadosLosa& r, std::size_t i) {
     const DisenoDeTramo tramo = En(r.DisenoTramo, i);
     const DisenoDeEje a = En(r.DisenoEje, i);
     const DisenoDeEje b = En(r.DisenoEje, i + 1);
@@ -142,7 +143,7 @@ void EscribirDiseno(Insercion& tabla, const ResultadosLosa& r, std::size_t i) {
     tabla.Poner("Mczb", MacizadoVisible(b.MczI));
 }
 
-void EscribirTramo(Insercion& tabla, const Losa& losa, const DatosGenerales& generales,
+void EscribirTramo(almacen::Insercion& tabla, const Losa& losa, const DatosGenerales& generales,
                    const ResultadosLosa& r, std::size_t i) {
     const EjeLosa ejeA = En(losa.Ejes, i);
     const EjeLosa ejeB = En(losa.Ejes, i + 1);
@@ -171,22 +172,22 @@ void EscribirLosa(TablasDeLosas& tablas, const Losa& losa, const DatosGenerales&
 
 }  // namespace
 
-bool LLeneResultados(const EntornoReportes& entorno, const ProyectoParaReporte& origen,
-                     EstadoReportes& estado) {
-    const BanderaEnAlto generando(estado.GenerandoReporte);
-    Recordset& lista = origen.Proyecto.RegistrosProyecto;
+bool LLeneResultados(const montaje::EntornoReportes& entorno, const ProyectoParaReporte& origen,
+                     montaje::EstadoReportes& estado) {
+    const montaje::BanderaEnAlto generando(estado.GenerandoReporte);
+    almacen::Recordset& lista = origen.Proyecto.RegistrosProyecto;
     const bool todas = estado.OpcionExportarLosas == 1;
     std::string nombre;
     {
-        const PosicionGuardada posicion(lista);
+        const montaje::PosicionGuardada posicion(lista);
         lista.MoverA(origen.FilaSeleccionada);
         nombre = lista.Texto("Nombre");
     }
-    Conexion temporal;
-    AbrirTemporal(entorno, origen.Datos, {TituloReporteLosas, nombre, estado.ExportarDesplazamientos},
-                  temporal);
+    almacen::Conexion temporal;
+    montaje::AbrirTemporal(entorno, origen.Datos,
+                           {TituloReporteLosas, nombre, estado.ExportarDesplazamientos}, temporal);
     if (!temporal.Abierta()) return false;
-    Transaccion guardado(temporal);
+    almacen::Transaccion guardado(temporal);
     EscribirGenerales(temporal, origen.Generales);
     TablasDeLosas tablas(temporal);
     RecorrerLosas(origen, todas, [&](const LosaDelProyecto& losa) {
@@ -195,4 +196,4 @@ bool LLeneResultados(const EntornoReportes& entorno, const ProyectoParaReporte& 
     return guardado.Confirmar();
 }
 
-}  // namespace trabex
+}  // namespace trabex::losas::salida

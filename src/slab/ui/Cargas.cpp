@@ -4,9 +4,9 @@
 
 #include "base/Formatos.h"
 
-namespace trabex {
+namespace trabex::losas::ui {
 
-CargaDeTramos::CargaDeTramos(const EntradaDeCarga& entrada, CajaMensajes& caja)
+CargaDeTramos::CargaDeTramos(const EntradaDeCarga& entrada, programa::CajaMensajes& caja)
     : entrada_(entrada),
       caja_(caja),
       copia_(entrada.Edicion.Tramos),
@@ -32,7 +32,7 @@ void CargaDeTramos::Fijar() {
 }
 
 bool CargaDeTramos::Igualar() {
-    if (caja_.Mostrar(PreguntaIgualar()) != RespuestaSi) return false;
+    if (caja_.Mostrar(PreguntaIgualar()) != programa::RespuestaSi) return false;
     for (std::size_t i = 1; i < copia_.size(); ++i) CopiarCarga(Actual(), entrada_.Edicion.Tramos[i]);
     entrada_.LosaModificada = true;
     return true;
@@ -51,8 +51,9 @@ std::string Carga01::Leyenda() const {
     return std::string("Las Cargas (de servicio) se entran por ") + (PorMetro() ? "metro" : "Nervio");
 }
 
-Mensaje Carga01::PreguntaIgualar() const {
-    return Pregunta("¿Igualar Todos los Tramos a la Carga Seleccionada?", "Igualar Cargas Uniformes...");
+programa::Mensaje Carga01::PreguntaIgualar() const {
+    return programa::Pregunta("¿Igualar Todos los Tramos a la Carga Seleccionada?",
+                              "Igualar Cargas Uniformes...");
 }
 
 void Carga01::CopiarCarga(const Tramo& de, Tramo& a) const {
@@ -65,8 +66,9 @@ void Carga02::Poner(std::int32_t p1, double L1) {
     ActualEditable().L1 = L1;
 }
 
-Mensaje Carga02::PreguntaIgualar() const {
-    return Pregunta("Igualar Todos los Tramos a la Carga Seleccionada?", "Igualar Cargas Puntuales...");
+programa::Mensaje Carga02::PreguntaIgualar() const {
+    return programa::Pregunta("Igualar Todos los Tramos a la Carga Seleccionada?",
+                              "Igualar Cargas Puntuales...");
 }
 
 void Carga02::CopiarCarga(const Tramo& de, Tramo& a) const {
@@ -74,4 +76,4 @@ void Carga02::CopiarCarga(const Tramo& de, Tramo& a) const {
     a.L1 = de.L1;
 }
 
-}  // namespace trabex
+}  // namespace trabex::losas::ui

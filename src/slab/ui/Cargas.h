@@ -7,7 +7,7 @@
 #include "shell/CajaMensajes.h"
 #include "slab/Losa.h"
 
-namespace trabex {
+namespace trabex::losas::ui {
 
 /// What a load window works on: the editing copy of the data window, the span in hand and the flag that
 /// tells the data window that loads changed. Opening a load window clears the flag, also where a save had
@@ -41,17 +41,17 @@ class CargaDeTramos {
     bool Igualar();
 
   protected:
-    CargaDeTramos(const EntradaDeCarga& entrada, CajaMensajes& caja);
+    CargaDeTramos(const EntradaDeCarga& entrada, programa::CajaMensajes& caja);
     Tramo& ActualEditable() { return copia_[tramo_]; }
     bool PorMetro() const { return entrada_.Edicion.OpcionMaciza; }
 
   private:
-    virtual Mensaje PreguntaIgualar() const = 0;
+    virtual programa::Mensaje PreguntaIgualar() const = 0;
     /// Copies the loads that the window enters from one span to another.
     virtual void CopiarCarga(const Tramo& de, Tramo& a) const = 0;
 
     EntradaDeCarga entrada_;
-    CajaMensajes& caja_;
+    programa::CajaMensajes& caja_;
     std::vector<Tramo> copia_;
     std::size_t tramo_;
 };
@@ -59,14 +59,14 @@ class CargaDeTramos {
 /// Uniform loads, kgf/m.
 class Carga01 : public CargaDeTramos {
   public:
-    Carga01(const EntradaDeCarga& entrada, CajaMensajes& caja) : CargaDeTramos(entrada, caja) {}
+    Carga01(const EntradaDeCarga& entrada, programa::CajaMensajes& caja) : CargaDeTramos(entrada, caja) {}
     void Poner(std::int32_t Wp, std::int32_t WV);
     /// Wp + WV of the span on show.
     std::string Suma() const;
     std::string Leyenda() const;
 
   private:
-    Mensaje PreguntaIgualar() const override;
+    programa::Mensaje PreguntaIgualar() const override;
     void CopiarCarga(const Tramo& de, Tramo& a) const override;
 };
 
@@ -74,12 +74,12 @@ class Carga01 : public CargaDeTramos {
 /// span's length.
 class Carga02 : public CargaDeTramos {
   public:
-    Carga02(const EntradaDeCarga& entrada, CajaMensajes& caja) : CargaDeTramos(entrada, caja) {}
+    Carga02(const EntradaDeCarga& entrada, programa::CajaMensajes& caja) : CargaDeTramos(entrada, caja) {}
     void Poner(std::int32_t p1, double L1);
 
   private:
-    Mensaje PreguntaIgualar() const override;
+    programa::Mensaje PreguntaIgualar() const override;
     void CopiarCarga(const Tramo& de, Tramo& a) const override;
 };
 
-}  // namespace trabex
+}  // namespace trabex::losas::ui

@@ -3,7 +3,7 @@
 #include <array>
 #include <string_view>
 
-namespace trabex {
+namespace trabex::losas::ui {
 
 /// Groups of the workspace's tool bar, in order.
 enum class GrupoLosas { Proyecto, Losa, Salida, Vista };
@@ -63,4 +63,4 @@ inline constexpr std::array<ComandoLosas, 19> ComandosLosas{{
      GrupoLosas::Vista, false, false},
 }};
 
-}  // namespace trabex
+}  // namespace trabex::losas::ui

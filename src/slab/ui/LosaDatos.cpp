@@ -7,7 +7,7 @@
 #include "base/Enteros.h"
 #include "store/tablas/TablasLosa.h"
 
-namespace trabex {
+namespace trabex::losas::ui {
 
 namespace {
 
@@ -27,7 +27,7 @@ std::optional<CampoSeccion> PrimerCero(const Losa& losa) {
 
 }  // namespace
 
-LosaDatos::LosaDatos(Losas& losas, VistaLosaDatos& vista, CajaMensajes& caja)
+LosaDatos::LosaDatos(Losas& losas, VistaLosaDatos& vista, programa::CajaMensajes& caja)
     : losas_(losas), vista_(vista), caja_(caja) {}
 
 void LosaDatos::Abrir() {
@@ -88,7 +88,7 @@ void LosaDatos::PonerLongitud(std::size_t tramo, double LT) {
 
 bool LosaDatos::PonerTipo(std::size_t junta, std::int64_t tipo) {
     if (tipo < ApoyoFijo || tipo > SinApoyo) {
-        caja_.Mostrar(Aviso("El Tipo de Apoyo no puede ser < 1 ni > 5", "Apoyos Restringidos..."));
+        caja_.Mostrar(programa::Aviso("El Tipo de Apoyo no puede ser < 1 ni > 5", "Apoyos Restringidos..."));
         return false;
     }
     edicion_.Ejes[junta].Tipo = Entero16(tipo);
@@ -99,7 +99,8 @@ bool LosaDatos::PonerTipo(std::size_t junta, std::int64_t tipo) {
 bool LosaDatos::PonerNumeroJuntasD(std::size_t juntas) {
     const std::size_t ultima = NumeroDeTramos() + 1;
     if (juntas > ultima) {
-        caja_.Mostrar(Aviso("El Número de Juntas Desplazadas no puede ser > " + std::to_string(ultima),
+        caja_.Mostrar(
+            programa::Aviso("El Número de Juntas Desplazadas no puede ser > " + std::to_string(ultima),
                             "Juntas Desplazadas..."));
         return false;
     }
@@ -112,8 +113,8 @@ bool LosaDatos::PonerNumeroJuntasD(std::size_t juntas) {
 bool LosaDatos::PonerJunta(std::size_t registro, std::int64_t junta) {
     const auto ultima = static_cast<std::int64_t>(NumeroDeTramos()) + 1;
     if (junta > ultima) {
-        caja_.Mostrar(Aviso("El Numero de la Junta no puede ser > que " + std::to_string(ultima),
-                            "Juntas Desplazadas..."));
+        caja_.Mostrar(programa::Aviso("El Numero de la Junta no puede ser > que " + std::to_string(ultima),
+                                      "Juntas Desplazadas..."));
         return false;
     }
     edicion_.JuntasD[registro].Junta = Entero16(std::max<std::int64_t>(0, junta));
@@ -176,11 +177,11 @@ bool LosaDatos::Salvar() {
 }
 
 bool LosaDatos::SalvarDatos() {
-    Aplicacion& aplicacion = losas_.Programa();
+    programa::Aplicacion& aplicacion = losas_.Programa();
     Losa guardada = edicion_;
     guardada.Bm = 1;
-    if (!GuardarLosa(aplicacion.Proyecto, guardada)) {
-        caja_.Mostrar(MensajeSinGuardar());
+    if (!almacen::tablas::GuardarLosa(aplicacion.Proyecto, guardada)) {
+        caja_.Mostrar(programa::MensajeSinGuardar());
         return false;
     }
     losas_.Estado().Abierta = guardada;
@@ -199,7 +200,8 @@ bool LosaDatos::SalvarDatos() {
 bool LosaDatos::SalvarSiSePide(const std::string& texto) {
     if (!cambios_) return true;
     const std::string pregunta = texto + "\n¿Desea Salvar las Modificaciones?";
-    return caja_.Mostrar(Pregunta(pregunta, "Losas del Proyecto...")) != RespuestaSi || Salvar();
+    return caja_.Mostrar(programa::Pregunta(pregunta, "Losas del Proyecto...")) != programa::RespuestaSi ||
+           Salvar();
 }
 
 bool LosaDatos::PuedeCerrar() {
@@ -231,4 +233,4 @@ void LosaDatos::PaginaAnterior() {
     if (pagina >= 0) vista_.MostrarPagina(static_cast<PaginaLosa>(pagina));
 }
 
-}  // namespace trabex
+}  // namespace trabex::losas::ui

@@ -6,7 +6,7 @@
 #include "slab/ui/Cargas.h"
 #include "slab/ui/Losas.h"
 
-namespace trabex {
+namespace trabex::losas::ui {
 
 enum class PaginaLosa { Seccion, Tramos, JuntasD, Apoyos, Cargas };
 inline constexpr int PaginasDeLosa = 5;
@@ -37,7 +37,7 @@ class VistaLosaDatos {
 /// Operations of the window that edits one slab on a copy of it: the open slab changes only on a save.
 class LosaDatos {
   public:
-    LosaDatos(Losas& losas, VistaLosaDatos& vista, CajaMensajes& caja);
+    LosaDatos(Losas& losas, VistaLosaDatos& vista, programa::CajaMensajes& caja);
 
     /// Takes the open slab and shows it.
     void Abrir();
@@ -94,10 +94,10 @@ class LosaDatos {
 
     Losas& losas_;
     VistaLosaDatos& vista_;
-    CajaMensajes& caja_;
+    programa::CajaMensajes& caja_;
     Losa edicion_;
     bool cambios_ = false;
     std::size_t tramo_ = 0;
 };
 
-}  // namespace trabex
+}  // namespace trabex::losas::ui

@@ -4,7 +4,7 @@
 
 #include "store/tablas/TablasProyecto.h"
 
-namespace trabex {
+namespace trabex::losas::ui {
 
 std::optional<CampoLosaGeneral> LosaGeneral::PrimerCero(const DatosGenerales& e) {
     const std::array<double, 7> valores{
@@ -17,12 +17,12 @@ std::optional<CampoLosaGeneral> LosaGeneral::PrimerCero(const DatosGenerales& e)
 
 bool LosaGeneral::Aceptar(const DatosGenerales& entrados) {
     generales_ = entrados;
-    Transaccion guardado(conexion_);
+    almacen::Transaccion guardado(conexion_);
     conexion_.Ejecutar("DELETE * FROM LosaG");
-    Recordset registros;
-    AbrirRecordset(conexion_, registros, "LosaG");
-    const bool agregado = AgregarGenerales(registros, entrados);
+    almacen::Recordset registros;
+    almacen::AbrirRecordset(conexion_, registros, "LosaG");
+    const bool agregado = almacen::tablas::AgregarGenerales(registros, entrados);
     return guardado.Confirmar() && agregado;
 }
 
-}  // namespace trabex
+}  // namespace trabex::losas::ui

@@ -6,7 +6,7 @@
 #include "slab/Losa.h"
 #include "store/Conexion.h"
 
-namespace trabex {
+namespace trabex::losas::ui {
 
 /// Fields of the design parameters, in the order in which they are checked.
 enum class CampoLosaGeneral : std::size_t { FC, FY, D8, FCP, FCV, FiMomento, FiCorte };
@@ -15,7 +15,8 @@ enum class CampoLosaGeneral : std::size_t { FC, FY, D8, FCP, FCV, FiMomento, FiC
 class LosaGeneral {
   public:
     /// `conexion` is the workspace's; `generales` its working values.
-    LosaGeneral(Conexion& conexion, DatosGenerales& generales) : conexion_(conexion), generales_(generales) {}
+    LosaGeneral(almacen::Conexion& conexion, DatosGenerales& generales)
+        : conexion_(conexion), generales_(generales) {}
 
     const DatosGenerales& Valores() const { return generales_; }
 
@@ -27,8 +28,8 @@ class LosaGeneral {
     bool Aceptar(const DatosGenerales& entrados);
 
   private:
-    Conexion& conexion_;
+    almacen::Conexion& conexion_;
     DatosGenerales& generales_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::losas::ui

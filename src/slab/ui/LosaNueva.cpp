@@ -4,23 +4,23 @@
 #include "shell/Renombrar.h"
 #include "store/tablas/TablasLosa.h"
 
-namespace trabex {
+namespace trabex::losas::ui {
 
 namespace {
 
 /// The name is not taken; otherwise says so.
-bool VerifiqueNombre(Losas& losas, CajaMensajes& caja, const std::string& nombre) {
-    if (!ExisteNombre(losas.Programa().Proyecto.ConexionProyecto, "LosaDatos", nombre)) return true;
-    caja.Mostrar(
-        Aviso("La Losa: " + nombre + "\nLa Losa ya Existe en el Proyecto...", "Creando Nueva Losa..."));
+bool VerifiqueNombre(Losas& losas, programa::CajaMensajes& caja, const std::string& nombre) {
+    if (!programa::ExisteNombre(losas.Programa().Proyecto.ConexionProyecto, "LosaDatos", nombre)) return true;
+    caja.Mostrar(programa::Aviso("La Losa: " + nombre + "\nLa Losa ya Existe en el Proyecto...",
+                                 "Creando Nueva Losa..."));
     return false;
 }
 
 /// Adds a record to the slab list. What its columns refuse spoils the save that must be under way.
-void AgregarRegistro(Recordset& lista, const std::string& nombre, Losa& losa) {
+void AgregarRegistro(almacen::Recordset& lista, const std::string& nombre, Losa& losa) {
     lista.AgregarNuevo();
     lista.Poner("Nombre", nombre);
-    PonerSeccion(lista, losa);
+    almacen::tablas::PonerSeccion(lista, losa);
     lista.Actualizar();
 }
 
@@ -29,15 +29,15 @@ void AgregarRegistro(Recordset& lista, const std::string& nombre, Losa& losa) {
 bool LosaNueva::Aceptar(const std::string& entrado) {
     const std::string nombre = Recortar(entrado);
     if (nombre.empty() || !VerifiqueNombre(losas_, caja_, nombre)) return false;
-    Aplicacion& aplicacion = losas_.Programa();
+    programa::Aplicacion& aplicacion = losas_.Programa();
     Losa nueva;
     nueva.Nombre = nombre;
     nueva.Ho = aplicacion.UltimoHo;
     nueva.Hm = aplicacion.UltimoHm;
-    Transaccion guardado(aplicacion.Proyecto.ConexionProyecto);
+    almacen::Transaccion guardado(aplicacion.Proyecto.ConexionProyecto);
     AgregarRegistro(aplicacion.Proyecto.RegistrosProyecto, nombre, nueva);
     if (!guardado.Confirmar()) {
-        caja_.Mostrar(MensajeSinGuardar());
+        caja_.Mostrar(programa::MensajeSinGuardar());
         return false;
     }
     losas_.Estado().Abierta = nueva;
@@ -50,9 +50,9 @@ bool LosaSalvarComo::Aceptar(const std::string& entrado) {
     if (nombre.empty() || !VerifiqueNombre(losas_, caja_, nombre)) return false;
     const std::string pregunta =
         "Crear la Losa: " + nombre + "\n\nA Partir de la Losa: " + losas_.Estado().Abierta.Nombre + "\n";
-    if (caja_.Mostrar(Pregunta(pregunta, "Salvar Como...")) != RespuestaSi) return false;
+    if (caja_.Mostrar(programa::Pregunta(pregunta, "Salvar Como...")) != programa::RespuestaSi) return false;
     if (!Copiar(nombre)) {
-        caja_.Mostrar(MensajeSinGuardar());
+        caja_.Mostrar(programa::MensajeSinGuardar());
         return false;
     }
     losas_.Programa().LosaModificada = true;
@@ -60,12 +60,12 @@ bool LosaSalvarComo::Aceptar(const std::string& entrado) {
 }
 
 bool LosaSalvarComo::Copiar(const std::string& nombre) {
-    ProyectoAbierto& proyecto = losas_.Programa().Proyecto;
+    almacen::tablas::ProyectoAbierto& proyecto = losas_.Programa().Proyecto;
     Losa copia = losas_.Estado().Abierta;
-    Transaccion guardado(proyecto.ConexionProyecto);
+    almacen::Transaccion guardado(proyecto.ConexionProyecto);
     AgregarRegistro(proyecto.RegistrosProyecto, nombre, copia);
-    EscribirElementos(proyecto.ConexionProyecto, nombre, copia);
+    almacen::tablas::EscribirElementos(proyecto.ConexionProyecto, nombre, copia);
     return guardado.Confirmar();
 }
 
-}  // namespace trabex
+}  // namespace trabex::losas::ui

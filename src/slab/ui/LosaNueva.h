@@ -4,26 +4,26 @@
 
 #include "slab/ui/Losas.h"
 
-namespace trabex {
+namespace trabex::losas::ui {
 
 /// Operations of the window that names a new slab. While the name is typed, a scroller walks the slabs that
 /// exist by `Losas::Seleccionar`.
 class LosaNueva {
   public:
-    LosaNueva(Losas& losas, CajaMensajes& caja) : losas_(losas), caja_(caja) {}
+    LosaNueva(Losas& losas, programa::CajaMensajes& caja) : losas_(losas), caja_(caja) {}
     /// " Aceptar ": adds the slab, without spans, at the list's end, and makes it the open one. True when the
     /// window closes; an empty name, one that exists, or a project that can't be written keep it open.
     bool Aceptar(const std::string& entrado);
 
   private:
     Losas& losas_;
-    CajaMensajes& caja_;
+    programa::CajaMensajes& caja_;
 };
 
 /// Operations of the window that names a copy of the selected slab.
 class LosaSalvarComo {
   public:
-    LosaSalvarComo(Losas& losas, CajaMensajes& caja) : losas_(losas), caja_(caja) {}
+    LosaSalvarComo(Losas& losas, programa::CajaMensajes& caja) : losas_(losas), caja_(caja) {}
     /// " Aceptar ": adds the copy at the list's end. True when the window closes.
     bool Aceptar(const std::string& entrado);
 
@@ -31,7 +31,7 @@ class LosaSalvarComo {
     bool Copiar(const std::string& nombre);
 
     Losas& losas_;
-    CajaMensajes& caja_;
+    programa::CajaMensajes& caja_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::losas::ui

@@ -7,7 +7,7 @@
 #include "slab/CalcularLosa.h"
 #include "store/tablas/TablasLosa.h"
 
-namespace trabex {
+namespace trabex::losas::ui {
 
 namespace {
 
@@ -15,7 +15,8 @@ constexpr std::array<const char*, 3> TablasDeElementos{"LosaEjes", "LosaJuntasD"
 
 }  // namespace
 
-Losas::Losas(Aplicacion& aplicacion, VistaLosas& vista, CajaMensajes& caja, DialogosArchivo& dialogos)
+Losas::Losas(programa::Aplicacion& aplicacion, VistaLosas& vista, programa::CajaMensajes& caja,
+             programa::DialogosArchivo& dialogos)
     : aplicacion_(aplicacion), vista_(vista), caja_(caja), dialogos_(dialogos) {
     estado_.Hoja.Numeros = aplicacion.SeparadoresLocales;
 }
@@ -44,25 +45,27 @@ void Losas::AbrirProyecto() {
 
 /// A project that can't be read counts as empty.
 void Losas::Conectar() {
-    Conexion& conexion = aplicacion_.Proyecto.ConexionProyecto;
-    AbrirConexion(conexion, aplicacion_.ArchivoProyecto);
-    LeerDatosGenerales(conexion, aplicacion_.Usuario, aplicacion_.Datos, aplicacion_.Generales);
-    estado_.Hoja.OpcionCarga = CargaTotal;
+    almacen::Conexion& conexion = aplicacion_.Proyecto.ConexionProyecto;
+    almacen::AbrirConexion(conexion, aplicacion_.ArchivoProyecto);
+    almacen::tablas::LeerDatosGenerales(conexion, aplicacion_.Usuario, aplicacion_.Datos,
+                                        aplicacion_.Generales);
+    estado_.Hoja.OpcionCarga = dibujo::losa::CargaTotal;
     AbrirLista();
     vista_.RestablecerVista();
     MostrarPrimera();
     const std::string camino = TextoDeCamino(aplicacion_.ArchivoProyecto);
     vista_.PonerEstado(conexion.ConexionFallida() ? "No se pudo leer el proyecto: " + camino : camino);
-    vista_.PonerTitulo(TituloConProyecto(Mayusculas(aplicacion_.NombreProyecto)));
+    vista_.PonerTitulo(programa::TituloConProyecto(Mayusculas(aplicacion_.NombreProyecto)));
 }
 
 void Losas::AbrirLista() {
-    AbrirRecordset(aplicacion_.Proyecto.ConexionProyecto, Lista(), ConsultaListaLosas);
+    almacen::AbrirRecordset(aplicacion_.Proyecto.ConexionProyecto, Lista(),
+                            almacen::tablas::ConsultaListaLosas);
     vista_.LlenarLista(Nombres());
 }
 
 std::vector<std::string> Losas::Nombres() {
-    Recordset& lista = Lista();
+    almacen::Recordset& lista = Lista();
     const int donde = lista.Posicion();
     std::vector<std::string> nombres;
     for (int fila = 1; fila <= lista.NumeroRegistros(); ++fila) {
@@ -90,10 +93,10 @@ void Losas::Limpiar() {
 void Losas::Seleccionar(int fila) {
     if (fila < 1 || fila > NumeroDeLosas()) return;
     Lista().MoverA(fila);
-    LeerLosa(aplicacion_.Proyecto, estado_.Abierta);
+    almacen::tablas::LeerLosa(aplicacion_.Proyecto, estado_.Abierta);
     estado_.Resultados = {};  // those of another slab: one that can't be calculated must not show them
     vista_.MarcarFila(fila);
-    vista_.PonerEncabezado(RotuloDeLosa(estado_.Abierta) + estado_.Abierta.Nombre);
+    vista_.PonerEncabezado(dibujo::losa::RotuloDeLosa(estado_.Abierta) + estado_.Abierta.Nombre);
     vista_.RestablecerVista();
     Calcular();
 }
@@ -107,19 +110,19 @@ void Losas::Redibujar() {
     if (!estado_.Cargando) vista_.Redibujar();
 }
 
-void Losas::ElegirVista(VistaLosa vista) {
+void Losas::ElegirVista(dibujo::losa::VistaLosa vista) {
     estado_.Hoja.VistaActual = vista;
     Redibujar();
 }
 
-void Losas::ElegirOpcionCarga(OpcionDeCarga opcion) {
+void Losas::ElegirOpcionCarga(dibujo::losa::OpcionDeCarga opcion) {
     estado_.Hoja.OpcionCarga = opcion;
     Redibujar();
 }
 
 void Losas::CalcularSiModificada() {
     if (aplicacion_.LosaModificada) {
-        vista_.PonerEncabezado(RotuloDeLosa(estado_.Abierta) + estado_.Abierta.Nombre);
+        vista_.PonerEncabezado(dibujo::losa::RotuloDeLosa(estado_.Abierta) + estado_.Abierta.Nombre);
         Calcular();
     }
     aplicacion_.LosaModificada = false;
@@ -131,7 +134,7 @@ void Losas::EntrarDatosDeLaNueva() {
     vista_.AgregarFila(Lista().Texto("Nombre"));
     Seleccionar(Fila());
     vista_.MostrarLosaDatos();
-    vista_.PonerEncabezado(RotuloDeLosa(estado_.Abierta) + estado_.Abierta.Nombre);
+    vista_.PonerEncabezado(dibujo::losa::RotuloDeLosa(estado_.Abierta) + estado_.Abierta.Nombre);
     Calcular();
 }
 
@@ -153,7 +156,7 @@ void Losas::CrearDesdeSeleccionada() {
 
 void Losas::Modificar() {
     if (NumeroDeLosas() == 0) return;
-    LeerLosa(aplicacion_.Proyecto, estado_.Abierta);
+    almacen::tablas::LeerLosa(aplicacion_.Proyecto, estado_.Abierta);
     vista_.MostrarLosaDatos();
     CalcularSiModificada();
 }
@@ -167,11 +170,11 @@ void Losas::DatosGenerales() {
 
 /// Names are concatenated: one that holds a quote breaks these statements, and nothing changes.
 bool Losas::CambiarNombre(const std::string& actual, const std::string& nuevo) {
-    Conexion& conexion = aplicacion_.Proyecto.ConexionProyecto;
-    Transaccion guardado(conexion);
+    almacen::Conexion& conexion = aplicacion_.Proyecto.ConexionProyecto;
+    almacen::Transaccion guardado(conexion);
     for (const char* tabla : {"LosaEjes", "LosaJuntasD", "LosaTramos", "LosaDatos"}) {
-        conexion.Ejecutar(std::string("UPDATE ") + tabla + " SET Nombre=" + EntreComillas(nuevo) +
-                          " WHERE Nombre=" + EntreComillas(actual));
+        conexion.Ejecutar(std::string("UPDATE ") + tabla + " SET Nombre=" + almacen::EntreComillas(nuevo) +
+                          " WHERE Nombre=" + almacen::EntreComillas(actual));
     }
     return guardado.Confirmar();
 }
@@ -182,21 +185,22 @@ void Losas::Renombrar() {
     const std::string nuevo = vista_.MostrarRenombrar(actual);
     if (nuevo.empty()) return;
     if (!CambiarNombre(actual, nuevo)) {
-        caja_.Mostrar(MensajeSinGuardar());
+        caja_.Mostrar(programa::MensajeSinGuardar());
         return;
     }
     AbrirLista();
-    BuscarRegistro(Lista(), "Nombre=" + EntreComillas(nuevo));
+    almacen::BuscarRegistro(Lista(), "Nombre=" + almacen::EntreComillas(nuevo));
     if (!Lista().Encontrado()) Lista().MoverAlPrimero();
     Seleccionar(Fila());
 }
 
 bool Losas::BorrarSeleccionada() {
-    Conexion& conexion = aplicacion_.Proyecto.ConexionProyecto;
+    almacen::Conexion& conexion = aplicacion_.Proyecto.ConexionProyecto;
     const std::string nombre = Lista().Texto("Nombre");
-    Transaccion guardado(conexion);
+    almacen::Transaccion guardado(conexion);
     for (const char* tabla : TablasDeElementos)
-        conexion.Ejecutar(std::string("DELETE * FROM ") + tabla + " WHERE Nombre=" + EntreComillas(nombre));
+        conexion.Ejecutar(std::string("DELETE * FROM ") + tabla +
+                          " WHERE Nombre=" + almacen::EntreComillas(nombre));
     const bool borrada = Lista().Borrar();
     return guardado.Confirmar() && borrada;
 }
@@ -206,13 +210,13 @@ void Losas::Eliminar() {
     const int fila = Fila();
     const std::string pregunta =
         "Losa: " + Lista().Texto("Nombre") + "\n¿Esta Usted Seguro de Eliminar la Losa del Proyecto?";
-    if (caja_.Mostrar(Pregunta(pregunta, "Eliminar la Losa...")) != RespuestaSi) return;
+    if (caja_.Mostrar(programa::Pregunta(pregunta, "Eliminar la Losa...")) != programa::RespuestaSi) return;
     if (!BorrarSeleccionada()) {
-        caja_.Mostrar(MensajeSinGuardar());
+        caja_.Mostrar(programa::MensajeSinGuardar());
         return;
     }
     vista_.QuitarFila(fila);
     MostrarPrimera();
 }
 
-}  // namespace trabex
+}  // namespace trabex::losas::ui

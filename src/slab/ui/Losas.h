@@ -10,7 +10,7 @@
 #include "slab/Losa.h"
 #include "slab/ResultadosLosa.h"
 
-namespace trabex {
+namespace trabex::losas::ui {
 
 /// What the slab workspace's operations ask of its window.
 class VistaLosas {
@@ -46,16 +46,17 @@ class VistaLosas {
 struct EstadoLosas {
     Losa Abierta;  ///< the slab of the selected row
     ResultadosLosa Resultados;
-    HojaLosa Hoja;            ///< viewport, sheet on show, load option
-    bool LosaCreada = false;  ///< a window added a slab
-    bool Cargando = true;     ///< the workspace is opening: nothing is drawn
+    dibujo::losa::HojaLosa Hoja;  ///< viewport, sheet on show, load option
+    bool LosaCreada = false;      ///< a window added a slab
+    bool Cargando = true;         ///< the workspace is opening: nothing is drawn
 };
 
 /// Operations of the slab workspace: the list of the project's slabs and what acts on the selected one. The
 /// selected row is the position of the project's list of records.
 class Losas {
   public:
-    Losas(Aplicacion& aplicacion, VistaLosas& vista, CajaMensajes& caja, DialogosArchivo& dialogos);
+    Losas(programa::Aplicacion& aplicacion, VistaLosas& vista, programa::CajaMensajes& caja,
+          programa::DialogosArchivo& dialogos);
 
     /// Connects to the current project and selects its first slab.
     void Abrir();
@@ -80,15 +81,17 @@ class Losas {
 
     /// Calculates the open slab and draws the sheet on show.
     void Calcular();
-    void ElegirVista(VistaLosa vista);
-    void ElegirOpcionCarga(OpcionDeCarga opcion);
+    void ElegirVista(dibujo::losa::VistaLosa vista);
+    void ElegirOpcionCarga(dibujo::losa::OpcionDeCarga opcion);
 
     EstadoLosas& Estado() { return estado_; }
-    LosaCalculada Calculada() const { return {estado_.Abierta, aplicacion_.Generales, estado_.Resultados}; }
-    Aplicacion& Programa() { return aplicacion_; }
+    dibujo::losa::LosaCalculada Calculada() const {
+        return {estado_.Abierta, aplicacion_.Generales, estado_.Resultados};
+    }
+    programa::Aplicacion& Programa() { return aplicacion_; }
 
   private:
-    Recordset& Lista() { return aplicacion_.Proyecto.RegistrosProyecto; }
+    almacen::Recordset& Lista() { return aplicacion_.Proyecto.RegistrosProyecto; }
     void Conectar();
     void AbrirLista();
     void MostrarPrimera();
@@ -99,11 +102,11 @@ class Losas {
     bool CambiarNombre(const std::string& actual, const std::string& nuevo);
     bool BorrarSeleccionada();
 
-    Aplicacion& aplicacion_;
+    programa::Aplicacion& aplicacion_;
     VistaLosas& vista_;
-    CajaMensajes& caja_;
-    DialogosArchivo& dialogos_;
+    programa::CajaMensajes& caja_;
+    programa::DialogosArchivo& dialogos_;
     EstadoLosas estado_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::losas::ui

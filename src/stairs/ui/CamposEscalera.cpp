@@ -1,22 +1,22 @@
 #include "stairs/ui/CamposEscalera.h"
 
-namespace trabex {
+namespace trabex::escaleras::ui {
 
-Mensaje PreguntaDeSalvar(const std::string& nombre) {
-    Mensaje mensaje;
+programa::Mensaje PreguntaDeSalvar(const std::string& nombre) {
+    programa::Mensaje mensaje;
     mensaje.Texto = nombre + "\n¿Desea Salvar las Modificaciones?";
     mensaje.Encabezado = "Análisis y Diseño de Escaleras...";
-    mensaje.Botones = BotonesCaja::SiNoCancelar;
-    mensaje.Icono = IconoCaja::Pregunta;
+    mensaje.Botones = programa::BotonesCaja::SiNoCancelar;
+    mensaje.Icono = programa::IconoCaja::Pregunta;
     return mensaje;
 }
 
-Mensaje AvisoDeNoSalvado() {
+programa::Mensaje AvisoDeNoSalvado() {
     return AvisoDeError(ErrorEjecucion(CodigoError::ErrorAccesoRuta));
 }
 
-Mensaje AvisoDeError(const ErrorEjecucion& error) {
-    return MensajeDeError(error, "Error Inesperado...");
+programa::Mensaje AvisoDeError(const ErrorEjecucion& error) {
+    return programa::MensajeDeError(error, "Error Inesperado...");
 }
 
-}  // namespace trabex
+}  // namespace trabex::escaleras::ui

@@ -4,7 +4,7 @@
 
 #include "shell/CajaMensajes.h"
 
-namespace trabex {
+namespace trabex::escaleras::ui {
 
 /// The side of a data window that gives a field the focus.
 template <class Campo>
@@ -15,12 +15,12 @@ class VistaDeCampos {
 };
 
 /// What closing a stair's data window with changes asks.
-Mensaje PreguntaDeSalvar(const std::string& nombre);
+programa::Mensaje PreguntaDeSalvar(const std::string& nombre);
 
 /// Tells that a save did not reach the project.
-Mensaje AvisoDeNoSalvado();
+programa::Mensaje AvisoDeNoSalvado();
 
 /// Tells of the run-time error that ended a save.
-Mensaje AvisoDeError(const ErrorEjecucion& error);
+programa::Mensaje AvisoDeError(const ErrorEjecucion& error);
 
-}  // namespace trabex
+}  // namespace trabex::escaleras::ui

@@ -4,7 +4,7 @@
 
 #include "store/tablas/TablasEscalera.h"
 
-namespace trabex {
+namespace trabex::escaleras::ui {
 
 std::string EscaleraTDatos::Nombre() const {
     return trabajo_.Proyecto.RegistrosProyecto.Texto("Nombre");
@@ -32,7 +32,7 @@ bool EscaleraTDatos::Salvar(const DatosEscaleraT& entrados) {
     DatosEscaleraT escalera = entrados;
     escalera.Nombre = Nombre();
     escalera.Titulo = trabajo_.Proyecto.RegistrosProyecto.Texto("Titulo");
-    if (!GuardarEscalera(trabajo_.Proyecto.ConexionProyecto, escalera)) {
+    if (!almacen::tablas::GuardarEscalera(trabajo_.Proyecto.ConexionProyecto, escalera)) {
         caja_.Mostrar(AvisoDeNoSalvado());
         return false;
     }
@@ -45,8 +45,8 @@ bool EscaleraTDatos::Salvar(const DatosEscaleraT& entrados) {
 bool EscaleraTDatos::Cerrar(const DatosEscaleraT& entrados) {
     if (!modificada_) return true;
     const std::int16_t respuesta = caja_.Mostrar(PreguntaDeSalvar(Nombre()));
-    if (respuesta == RespuestaCancelar) return false;
-    return respuesta != RespuestaSi || Salvar(entrados);
+    if (respuesta == programa::RespuestaCancelar) return false;
+    return respuesta != programa::RespuestaSi || Salvar(entrados);
 }
 
-}  // namespace trabex
+}  // namespace trabex::escaleras::ui

@@ -8,23 +8,24 @@
 #include "stairs/ui/CamposEscalera.h"
 #include "store/tablas/TablasProyecto.h"
 
-namespace trabex {
+namespace trabex::escaleras::ui {
 
 /// Fields of a self-supporting stair, in the order in which they stand and are checked.
 enum class CampoEscaleraT : std::size_t { L, B, H, HT, Hd, WT, Wd, WpD };
 
 /// What the data window of stairs works on; the workspace owns it all.
 struct TrabajoEscaleraT {
-    ProyectoAbierto& Proyecto;  ///< its list stands on the selected stair
-    DatosEscaleraT& Actual;     ///< the current stair
-    bool Nueva;                 ///< the window opens on a stair just created
-    bool& DatosCambiados;       ///< raised by a save: the workspace calculates again
+    almacen::tablas::ProyectoAbierto& Proyecto;  ///< its list stands on the selected stair
+    DatosEscaleraT& Actual;                      ///< the current stair
+    bool Nueva;                                  ///< the window opens on a stair just created
+    bool& DatosCambiados;                        ///< raised by a save: the workspace calculates again
 };
 
 /// Operations of the window that edits a self-supporting stair.
 class EscaleraTDatos {
   public:
-    EscaleraTDatos(TrabajoEscaleraT trabajo, CajaMensajes& caja, VistaDeCampos<CampoEscaleraT>& vista)
+    EscaleraTDatos(TrabajoEscaleraT trabajo, programa::CajaMensajes& caja,
+                   VistaDeCampos<CampoEscaleraT>& vista)
         : trabajo_(trabajo), caja_(caja), vista_(vista) {}
 
     /// Name of the stair on which the list stands.
@@ -50,9 +51,9 @@ class EscaleraTDatos {
 
   private:
     TrabajoEscaleraT trabajo_;
-    CajaMensajes& caja_;
+    programa::CajaMensajes& caja_;
     VistaDeCampos<CampoEscaleraT>& vista_;
     bool modificada_ = false;
 };
 
-}  // namespace trabex
+}  // namespace trabex::escaleras::ui

@@ -4,7 +4,7 @@
 
 #include "base/Enteros.h"
 
-namespace trabex {
+namespace trabex::escaleras::ui {
 
 EntradaEscaleraTG EscaleraTG::Mostrar() const {
     const DatosGenerales& g = generales_;
@@ -40,9 +40,9 @@ bool EscaleraTG::Aceptar(const EntradaEscaleraTG& entrados) {
         caja_.Mostrar(AvisoDeError(error));
         return false;
     }
-    if (!GuardarGenerales(conexion_, clase_, generales_)) caja_.Mostrar(AvisoDeNoSalvado());
+    if (!almacen::tablas::GuardarGenerales(conexion_, clase_, generales_)) caja_.Mostrar(AvisoDeNoSalvado());
     datosCambiados_ = true;
     return true;
 }
 
-}  // namespace trabex
+}  // namespace trabex::escaleras::ui

@@ -8,7 +8,7 @@
 #include "stairs/ui/CamposEscalera.h"
 #include "store/tablas/TablasEscalera.h"
 
-namespace trabex {
+namespace trabex::escaleras::ui {
 
 /// Fields of the design parameters of stairs, in the order in which they stand and are checked.
 enum class CampoEscaleraTG : std::size_t { FC, FY, D8, FS, FiMomento, FiCorte };
@@ -27,8 +27,8 @@ struct EntradaEscaleraTG {
 class EscaleraTG {
   public:
     /// `conexion` is the workspace's, `generales` its working values; a save raises `datosCambiados`.
-    EscaleraTG(Conexion& conexion, ClaseEscalera clase, DatosGenerales& generales, bool& datosCambiados,
-               CajaMensajes& caja, VistaDeCampos<CampoEscaleraTG>& vista)
+    EscaleraTG(almacen::Conexion& conexion, almacen::tablas::ClaseEscalera clase, DatosGenerales& generales,
+               bool& datosCambiados, programa::CajaMensajes& caja, VistaDeCampos<CampoEscaleraTG>& vista)
         : conexion_(conexion),
           clase_(clase),
           generales_(generales),
@@ -49,12 +49,12 @@ class EscaleraTG {
   private:
     void Copiar(const EntradaEscaleraTG& entrados);
 
-    Conexion& conexion_;
-    ClaseEscalera clase_;
+    almacen::Conexion& conexion_;
+    almacen::tablas::ClaseEscalera clase_;
     DatosGenerales& generales_;
     bool& datosCambiados_;
-    CajaMensajes& caja_;
+    programa::CajaMensajes& caja_;
     VistaDeCampos<CampoEscaleraTG>& vista_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::escaleras::ui

@@ -2,7 +2,7 @@
 
 #include "store/Filas.h"
 
-namespace trabex {
+namespace trabex::almacen::tablas {
 
 namespace {
 
@@ -60,7 +60,7 @@ bool GuardarGenerales(Conexion& conexion, ClaseEscalera clase, const DatosGenera
     return agregado && guardado.Confirmar();
 }
 
-bool LeaDatosEscalera(ProyectoAbierto& proyecto, DatosEscaleraT& escalera) {
+bool LeaDatosEscalera(ProyectoAbierto& proyecto, escaleras::DatosEscaleraT& escalera) {
     escalera = {};
     escalera.Nombre = proyecto.RegistrosProyecto.Texto("Nombre");
     escalera.Titulo = proyecto.RegistrosProyecto.Texto("Titulo");
@@ -78,7 +78,7 @@ bool LeaDatosEscalera(ProyectoAbierto& proyecto, DatosEscaleraT& escalera) {
     return true;
 }
 
-bool LeaDatosEscalera(ProyectoAbierto& proyecto, DatosEscaleraH& escalera) {
+bool LeaDatosEscalera(ProyectoAbierto& proyecto, helices::DatosEscaleraH& escalera) {
     escalera = {};
     escalera.Nombre = proyecto.RegistrosProyecto.Texto("Nombre");
     escalera.Titulo = proyecto.RegistrosProyecto.Texto("Titulo");
@@ -95,7 +95,7 @@ bool LeaDatosEscalera(ProyectoAbierto& proyecto, DatosEscaleraH& escalera) {
     return true;
 }
 
-bool GuardarEscalera(Conexion& conexion, const DatosEscaleraT& escalera) {
+bool GuardarEscalera(Conexion& conexion, const escaleras::DatosEscaleraT& escalera) {
     Transaccion guardado(conexion);
     const bool escrita =
         EscribirFilas(conexion, "EscaleraT", escalera.Nombre, 1, [&](Recordset& r, std::size_t) {
@@ -111,7 +111,7 @@ bool GuardarEscalera(Conexion& conexion, const DatosEscaleraT& escalera) {
     return escrita && guardado.Confirmar();
 }
 
-bool GuardarEscalera(Conexion& conexion, const DatosEscaleraH& escalera) {
+bool GuardarEscalera(Conexion& conexion, const helices::DatosEscaleraH& escalera) {
     Transaccion guardado(conexion);
     const bool escrita =
         EscribirFilas(conexion, "EscaleraH", escalera.Nombre, 1, [&](Recordset& r, std::size_t) {
@@ -126,4 +126,4 @@ bool GuardarEscalera(Conexion& conexion, const DatosEscaleraH& escalera) {
     return escrita && guardado.Confirmar();
 }
 
-}  // namespace trabex
+}  // namespace trabex::almacen::tablas

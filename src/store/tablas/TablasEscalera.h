@@ -8,7 +8,7 @@
 #include "stairs/DatosEscaleraT.h"
 #include "store/tablas/TablasProyecto.h"
 
-namespace trabex {
+namespace trabex::almacen::tablas {
 
 /// The two kinds of stair. Each has its list, its data and its design parameters, in tables of its own.
 enum class ClaseEscalera { Autoportante, Helicoidal };
@@ -29,12 +29,12 @@ bool GuardarGenerales(Conexion& conexion, ClaseEscalera clase, const DatosGenera
 
 /// Loads the stair on which the list stands. False when it has no row of data: its values are then zeros (and
 /// an interval of 5 degrees).
-bool LeaDatosEscalera(ProyectoAbierto& proyecto, DatosEscaleraT& escalera);
-bool LeaDatosEscalera(ProyectoAbierto& proyecto, DatosEscaleraH& escalera);
+bool LeaDatosEscalera(ProyectoAbierto& proyecto, escaleras::DatosEscaleraT& escalera);
+bool LeaDatosEscalera(ProyectoAbierto& proyecto, helices::DatosEscaleraH& escalera);
 
 /// Writes a stair's row of data, by its name, over the stored one, as one save. False when it could not be
 /// stored; the stored row then stands.
-bool GuardarEscalera(Conexion& conexion, const DatosEscaleraT& escalera);
-bool GuardarEscalera(Conexion& conexion, const DatosEscaleraH& escalera);
+bool GuardarEscalera(Conexion& conexion, const escaleras::DatosEscaleraT& escalera);
+bool GuardarEscalera(Conexion& conexion, const helices::DatosEscaleraH& escalera);
 
-}  // namespace trabex
+}  // namespace trabex::almacen::tablas

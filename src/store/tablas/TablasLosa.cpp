@@ -4,7 +4,7 @@
 
 #include "store/Filas.h"
 
-namespace trabex {
+namespace trabex::almacen::tablas {
 
 namespace {
 
@@ -23,7 +23,7 @@ void LeerFilas(Conexion& conexion, const std::string& consulta, std::vector<Regi
     }
 }
 
-void LeerSeccion(Conexion& conexion, Losa& losa) {
+void LeerSeccion(Conexion& conexion, losas::Losa& losa) {
     Recordset registros;
     AbrirRecordset(conexion, registros, ConsultaDe("LosaDatos", losa.Nombre));
     if (registros.NumeroRegistros() == 0) return;
@@ -39,7 +39,7 @@ void LeerSeccion(Conexion& conexion, Losa& losa) {
 
 }  // namespace
 
-void PonerSeccion(Recordset& registros, Losa& losa) {
+void PonerSeccion(Recordset& registros, losas::Losa& losa) {
     if (losa.Loseta == 0) losa.Loseta = LosetaPorDefecto;
     registros.Poner("OpcionMaciza", losa.OpcionMaciza);
     registros.Poner("Bo", losa.Bo);
@@ -50,9 +50,9 @@ void PonerSeccion(Recordset& registros, Losa& losa) {
     registros.Poner("Loseta", losa.Loseta);
 }
 
-void EscribirElementos(Conexion& conexion, const std::string& nombre, const Losa& losa) {
+void EscribirElementos(Conexion& conexion, const std::string& nombre, const losas::Losa& losa) {
     EscribirFilas(conexion, "LosaTramos", nombre, losa.Tramos.size() - 1, [&](Recordset& r, std::size_t k) {
-        const Tramo& tramo = losa.Tramos[k];
+        const losas::Tramo& tramo = losa.Tramos[k];
         r.Poner("Numero", Numero(k));
         r.Poner("LT", tramo.LT);
         r.Poner("Wp", tramo.Wp);
@@ -61,7 +61,7 @@ void EscribirElementos(Conexion& conexion, const std::string& nombre, const Losa
         r.Poner("L1", tramo.L1);
     });
     EscribirFilas(conexion, "LosaEjes", nombre, losa.Tramos.size(), [&](Recordset& r, std::size_t k) {
-        const EjeLosa eje = k < losa.Ejes.size() ? losa.Ejes[k] : EjeLosa{};
+        const losas::EjeLosa eje = k < losa.Ejes.size() ? losa.Ejes[k] : losas::EjeLosa{};
         r.Poner("Numero", Numero(k));
         r.Poner("Eje", eje.Eje);
         r.Poner("Tipo", eje.Tipo);
@@ -76,26 +76,27 @@ void EscribirElementos(Conexion& conexion, const std::string& nombre, const Losa
     });
 }
 
-void LeerLosa(ProyectoAbierto& proyecto, Losa& losa) {
-    VaciarLosa(losa);
+void LeerLosa(ProyectoAbierto& proyecto, losas::Losa& losa) {
+    losas::VaciarLosa(losa);
     Conexion& conexion = proyecto.ConexionProyecto;
     losa.Nombre = proyecto.RegistrosProyecto.Texto("Nombre");
     LeerSeccion(conexion, losa);
-    LeerFilas<Tramo>(
-        conexion, ConsultaDe("LosaTramos", losa.Nombre, "Numero"), losa.Tramos, [](const Recordset& r) {
-            return Tramo{r.Doble("LT"), r.Entero32("Wp"), r.Entero32("WV"), r.Entero32("p1"), r.Doble("L1")};
-        });
-    LeerFilas<EjeLosa>(conexion, ConsultaDe("LosaEjes", losa.Nombre, "Numero"), losa.Ejes,
-                       [](const Recordset& r) {
-                           return EjeLosa{r.Texto("Eje"), r.Entero16("Tipo"), 0, 0, 0};
-                       });
-    LeerFilas<JuntaD>(conexion, ConsultaDe("LosaJuntasD", losa.Nombre, "Junta"), losa.JuntasD,
-                      [](const Recordset& r) {
-                          return JuntaD{r.Entero16("Junta"), r.Doble("x"), r.Doble("y")};
-                      });
+    LeerFilas<losas::Tramo>(conexion, ConsultaDe("LosaTramos", losa.Nombre, "Numero"), losa.Tramos,
+                            [](const Recordset& r) {
+                                return losas::Tramo{r.Doble("LT"), r.Entero32("Wp"), r.Entero32("WV"),
+                                                    r.Entero32("p1"), r.Doble("L1")};
+                            });
+    LeerFilas<losas::EjeLosa>(conexion, ConsultaDe("LosaEjes", losa.Nombre, "Numero"), losa.Ejes,
+                              [](const Recordset& r) {
+                                  return losas::EjeLosa{r.Texto("Eje"), r.Entero16("Tipo"), 0, 0, 0};
+                              });
+    LeerFilas<losas::JuntaD>(conexion, ConsultaDe("LosaJuntasD", losa.Nombre, "Junta"), losa.JuntasD,
+                             [](const Recordset& r) {
+                                 return losas::JuntaD{r.Entero16("Junta"), r.Doble("x"), r.Doble("y")};
+                             });
 }
 
-bool GuardarLosa(ProyectoAbierto& proyecto, Losa& losa) {
+bool GuardarLosa(ProyectoAbierto& proyecto, losas::Losa& losa) {
     Recordset& lista = proyecto.RegistrosProyecto;
     if (lista.Posicion() < 1 || lista.EOF_()) return false;
     Transaccion guardado(proyecto.ConexionProyecto);
@@ -105,4 +106,4 @@ bool GuardarLosa(ProyectoAbierto& proyecto, Losa& losa) {
     return guardado.Confirmar();
 }
 
-}  // namespace trabex
+}  // namespace trabex::almacen::tablas

@@ -2,15 +2,15 @@
 
 #include "store/Filas.h"
 
-namespace trabex {
+namespace trabex::almacen::tablas {
 
-void LeerMarcus(ProyectoAbierto& proyecto, NivelMarcus& nivel) {
+void LeerMarcus(ProyectoAbierto& proyecto, marcus::NivelMarcus& nivel) {
     nivel.Nombre = proyecto.RegistrosProyecto.Texto("Nombre");
     nivel.Panos = proyecto.RegistrosProyecto.Entero16("Paños");
     Recordset registros;
     AbrirRecordset(proyecto.ConexionProyecto, registros, ConsultaDe("Marcus", nivel.Nombre, "Numero"));
     nivel.Filas.assign(static_cast<std::size_t>(registros.NumeroRegistros()), {});
-    for (PanoMarcus& pano : nivel.Filas) {
+    for (marcus::PanoMarcus& pano : nivel.Filas) {
         pano.Carga = registros.Doble("Carga");
         pano.Caso = registros.Entero16("Caso");
         pano.LX = registros.Doble("LX");
@@ -19,7 +19,7 @@ void LeerMarcus(ProyectoAbierto& proyecto, NivelMarcus& nivel) {
     }
 }
 
-bool GuardarMarcus(ProyectoAbierto& proyecto, const NivelMarcus& nivel) {
+bool GuardarMarcus(ProyectoAbierto& proyecto, const marcus::NivelMarcus& nivel) {
     Recordset& lista = proyecto.RegistrosProyecto;
     if (lista.NumeroRegistros() == 0) return false;
     Transaccion guardado(proyecto.ConexionProyecto);
@@ -30,7 +30,7 @@ bool GuardarMarcus(ProyectoAbierto& proyecto, const NivelMarcus& nivel) {
     }
     const bool escritas = EscribirFilas(proyecto.ConexionProyecto, "Marcus", nivel.Nombre, nivel.Filas.size(),
                                         [&](Recordset& r, std::size_t k) {
-                                            const PanoMarcus& pano = nivel.Filas[k - 1];
+                                            const marcus::PanoMarcus& pano = nivel.Filas[k - 1];
                                             r.Poner("Numero", Numero(k));
                                             r.Poner("Carga", pano.Carga);
                                             r.Poner("Caso", pano.Caso);
@@ -40,4 +40,4 @@ bool GuardarMarcus(ProyectoAbierto& proyecto, const NivelMarcus& nivel) {
     return escritas && guardado.Confirmar();
 }
 
-}  // namespace trabex
+}  // namespace trabex::almacen::tablas

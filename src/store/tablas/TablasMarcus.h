@@ -5,18 +5,18 @@
 #include "markus/CalculeMarcus.h"
 #include "store/tablas/TablasProyecto.h"
 
-namespace trabex {
+namespace trabex::almacen::tablas {
 
 /// The text that opens the list of Markus levels on RegistrosProyecto.
 inline constexpr std::string_view ConsultaListaMarcus = "SELECT * FROM MarcusDatos  ORDER BY Nombre";
 
 /// Loads the level on which the list stands. Its stored rows decide how many panels there are, whatever the
 /// list tells; results are not stored and come back as zeros.
-void LeerMarcus(ProyectoAbierto& proyecto, NivelMarcus& nivel);
+void LeerMarcus(ProyectoAbierto& proyecto, marcus::NivelMarcus& nivel);
 
 /// Writes a level's panels over the stored ones, numbered from 1, and their count into the list, as one save.
 /// The list then stands on the level. False when it could not be stored; what was stored then stands. A
 /// project without levels stores nothing.
-bool GuardarMarcus(ProyectoAbierto& proyecto, const NivelMarcus& nivel);
+bool GuardarMarcus(ProyectoAbierto& proyecto, const marcus::NivelMarcus& nivel);
 
-}  // namespace trabex
+}  // namespace trabex::almacen::tablas

@@ -1,6 +1,6 @@
 #include "store/tablas/TablasProyecto.h"
 
-namespace trabex {
+namespace trabex::almacen::tablas {
 
 void LeerProyecto(Conexion& conexion, std::string_view usuario, DatosDelProyecto& datos) {
     datos = {.Proyecto = "",
@@ -65,4 +65,4 @@ void LeerDatosGenerales(Conexion& conexion, std::string_view usuario, DatosDelPr
     generales.FiCorte = registros.Doble("FiCorte");
 }
 
-}  // namespace trabex
+}  // namespace trabex::almacen::tablas

@@ -7,7 +7,7 @@
 #include "store/Conexion.h"
 #include "store/Recordset.h"
 
-namespace trabex {
+namespace trabex::almacen::tablas {
 
 /// A project while a workspace is up: the connection and the list of the workspace's elements, whose position
 /// is the selected element. They open together and close together.
@@ -28,4 +28,4 @@ void LeerProyecto(Conexion& conexion, std::string_view usuario, DatosDelProyecto
 void LeerDatosGenerales(Conexion& conexion, std::string_view usuario, DatosDelProyecto& datos,
                         DatosGenerales& generales);
 
-}  // namespace trabex
+}  // namespace trabex::almacen::tablas

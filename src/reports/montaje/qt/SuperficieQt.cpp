@@ -5,7 +5,7 @@
 #include "drawing/qt/ImagenDeHoja.h"
 #include "reports/salidas/ImagenDePaleta.h"
 
-namespace trabex {
+namespace trabex::montaje::qt {
 
 namespace {
 
@@ -15,20 +15,20 @@ constexpr int Calidad = 100;
 }  // namespace
 
 void SuperficieQt::Dibujar(std::int32_t ancho, std::int32_t alto,
-                           const std::function<void(Lienzo&)>& dibujar) {
-    imagen_ = DibujarImagen(ancho / TwipsPorUnidad, alto / TwipsPorUnidad, finura_, dibujar);
+                           const std::function<void(dibujo::Lienzo&)>& dibujar) {
+    imagen_ = dibujo::qt::DibujarImagen(ancho / TwipsPorUnidad, alto / TwipsPorUnidad, finura_, dibujar);
 }
 
-Bytes SuperficieQt::MapaDeBits() const {
+almacen::Bytes SuperficieQt::MapaDeBits() const {
     const auto ancho = static_cast<std::size_t>(imagen_.width());
     const auto alto = static_cast<std::size_t>(imagen_.height());
     const auto* pixeles = reinterpret_cast<const std::uint32_t*>(imagen_.constBits());
-    ImagenDePaleta reducida = ReducirColores({pixeles, ancho * alto}, ancho, alto);
-    reducida.PuntosPorMetro = static_cast<std::int32_t>(PuntosPorMetro * finura_);
-    return MapaDeBitsDe(reducida);
+    salidas::ImagenDePaleta reducida = salidas::ReducirColores({pixeles, ancho * alto}, ancho, alto);
+    reducida.PuntosPorMetro = static_cast<std::int32_t>(dibujo::qt::PuntosPorMetro * finura_);
+    return salidas::MapaDeBitsDe(reducida);
 }
 
-Bytes SuperficieQt::Foto() const {
+almacen::Bytes SuperficieQt::Foto() const {
     QBuffer bytes;
     bytes.open(QIODevice::WriteOnly);
     imagen_.save(&bytes, "JPG", Calidad);
@@ -36,4 +36,4 @@ Bytes SuperficieQt::Foto() const {
     return {datos, datos + bytes.data().size()};
 }
 
-}  // namespace trabex
+}  // namespace trabex::montaje::qt

@@ -4,7 +4,7 @@
 
 #include "reports/montaje/SuperficieOculta.h"
 
-namespace trabex {
+namespace trabex::montaje::qt {
 
 /// The hidden surface of reports: a picture of 96 units an inch, so that fonts and lines are as on the
 /// screen, drawn with `finura` pixels to a unit, so that they stay sharp on paper.
@@ -12,9 +12,10 @@ class SuperficieQt : public SuperficieOculta {
   public:
     explicit SuperficieQt(double finura = FinuraDePapel) : finura_(finura) {}
 
-    void Dibujar(std::int32_t ancho, std::int32_t alto, const std::function<void(Lienzo&)>& dibujar) override;
-    Bytes MapaDeBits() const override;
-    Bytes Foto() const override;
+    void Dibujar(std::int32_t ancho, std::int32_t alto,
+                 const std::function<void(dibujo::Lienzo&)>& dibujar) override;
+    almacen::Bytes MapaDeBits() const override;
+    almacen::Bytes Foto() const override;
 
     /// 2820 by 1740 pixels: some 280 to the inch on a page.
     static constexpr double FinuraDePapel = 3;
@@ -24,4 +25,4 @@ class SuperficieQt : public SuperficieOculta {
     QImage imagen_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::montaje::qt

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace trabex {
+namespace trabex::planex::ui {
 
 /// For which edition of the drawing program Planex a file is made.
 enum VersionDePlanex : std::uint8_t { Planex8 = 0, Planex2023 = 1 };
@@ -18,4 +18,4 @@ inline void AceptarCuadroCAD(DestinoCAD& destino) {
     destino = {Planex2023, true};
 }
 
-}  // namespace trabex
+}  // namespace trabex::planex::ui

@@ -10,7 +10,7 @@
 #include "slab/CalcularLosa.h"
 #include "store/tablas/TablasLosa.h"
 
-namespace trabex {
+namespace trabex::planex::ui {
 
 namespace {
 
@@ -41,8 +41,8 @@ std::string NombrePropuesto(const std::string& proyecto) {
     return proyecto.size() < letras ? "cad" : proyecto.substr(0, proyecto.size() - letras) + "cad";
 }
 
-Mensaje Aviso(const std::string& texto, const std::string& encabezado, IconoCaja icono) {
-    Mensaje mensaje;
+programa::Mensaje Aviso(const std::string& texto, const std::string& encabezado, programa::IconoCaja icono) {
+    programa::Mensaje mensaje;
     mensaje.Texto = texto;
     mensaje.Encabezado = encabezado;
     mensaje.Icono = icono;
@@ -50,14 +50,15 @@ Mensaje Aviso(const std::string& texto, const std::string& encabezado, IconoCaja
 }
 
 /// A file that could not be opened takes nothing in silence; one that refuses a save is an error.
-void Exigir(bool escrito, const Conexion& destino) {
+void Exigir(bool escrito, const almacen::Conexion& destino) {
     if (!escrito && !destino.ConexionFallida()) throw ErrorEjecucion(CodigoError::ErrorAccesoRuta);
 }
 
 }  // namespace
 
-ExportarCAD::ExportarCAD(Aplicacion& aplicacion, std::uint8_t versionCAD, VistaExportarCAD& vista,
-                         CajaMensajes& caja, DialogosArchivo& dialogos, Plataforma& plataforma)
+ExportarCAD::ExportarCAD(programa::Aplicacion& aplicacion, std::uint8_t versionCAD, VistaExportarCAD& vista,
+                         programa::CajaMensajes& caja, programa::DialogosArchivo& dialogos,
+                         programa::Plataforma& plataforma)
     : aplicacion_(aplicacion),
       version_(versionCAD),
       vista_(vista),
@@ -71,7 +72,7 @@ ExportarCAD::~ExportarCAD() {
 }
 
 std::vector<std::string> ExportarCAD::Nombres() {
-    Recordset& lista = aplicacion_.Proyecto.RegistrosProyecto;
+    almacen::Recordset& lista = aplicacion_.Proyecto.RegistrosProyecto;
     std::vector<std::string> nombres;
     for (int fila = 1; fila <= lista.NumeroRegistros(); ++fila) {
         lista.MoverA(fila);
@@ -80,10 +81,10 @@ std::vector<std::string> ExportarCAD::Nombres() {
     return nombres;
 }
 
-Losa ExportarCAD::LosaDe(int fila) {
-    Losa losa;
+losas::Losa ExportarCAD::LosaDe(int fila) {
+    losas::Losa losa;
     aplicacion_.Proyecto.RegistrosProyecto.MoverA(fila);
-    LeerLosa(aplicacion_.Proyecto, losa);
+    almacen::tablas::LeerLosa(aplicacion_.Proyecto, losa);
     return losa;
 }
 
@@ -99,8 +100,8 @@ std::vector<int> ExportarCAD::FilasMarcadas() const {
 /// keeps its own data there.
 std::filesystem::path ExportarCAD::CarpetaDe(std::uint8_t version) const {
     const auto raiz = plataforma_.RaizComun();
-    return (raiz ? *raiz : plataforma_.CarpetaDeDocumentos()) / CarpetaComun / Ediciones[version].Carpeta /
-           "Proyectos";
+    return (raiz ? *raiz : plataforma_.CarpetaDeDocumentos()) / programa::CarpetaComun /
+           Ediciones[version].Carpeta / "Proyectos";
 }
 
 std::optional<std::filesystem::path> ExportarCAD::ElegirExistente() {
@@ -115,9 +116,9 @@ std::optional<std::filesystem::path> ExportarCAD::ElegirNuevo() {
         auto archivo = dialogos_.Elegir({Ediciones[version_].TituloCrear, FiltroPlanex, CarpetaDe(version_),
                                          true, false, false, NombrePropuesto(aplicacion_.NombreProyecto)});
         if (!archivo || !Existe(*archivo)) return archivo;
-        const Mensaje pregunta =
-            Pregunta(TituloDe(*archivo) + " Ya Existe...\n¿Desea Usted Reemplazarlo?", EncabezadoPlanex);
-        if (caja_.Mostrar(pregunta) != RespuestaQueReemplaza) continue;
+        const programa::Mensaje pregunta = programa::Pregunta(
+            TituloDe(*archivo) + " Ya Existe...\n¿Desea Usted Reemplazarlo?", EncabezadoPlanex);
+        if (caja_.Mostrar(pregunta) != programa::RespuestaQueReemplaza) continue;
         BorrarArchivo(*archivo);
         return archivo;
     }
@@ -127,13 +128,13 @@ void ExportarCAD::ExportarCAD80() {
     const std::vector<int> filas = FilasMarcadas();
     if (filas.empty()) {
         caja_.Mostrar(Aviso("No ha Seleccionado Losas para Exportar a Planex Estructural...",
-                            "Planex Estructural 2023", IconoCaja::Advertencia));
+                            "Planex Estructural 2023", programa::IconoCaja::Advertencia));
         return;
     }
     try {
         Exportar(filas);
     } catch (const ErrorEjecucion& error) {
-        caja_.Mostrar(MensajeDeError(error, ErrorInesperado));
+        caja_.Mostrar(programa::MensajeDeError(error, programa::ErrorInesperado));
     }
 }
 
@@ -143,28 +144,28 @@ void ExportarCAD::Exportar(const std::vector<int>& filas) {
     if (!Existe(*archivo))
         CopiarArchivo(aplicacion_.CaminoPrograma / "Imagen" / Ediciones[version_].Plantilla, *archivo);
     // The question names one edition, whichever the file is for.
-    const Mensaje pregunta =
-        Pregunta(TituloDe(*archivo) + "\n¿Anexar las Losas Seleccionadas a Planex Estructural 2023?",
-                 EncabezadoPlanex);
-    if (caja_.Mostrar(pregunta) != RespuestaSi) return;
+    const programa::Mensaje pregunta = programa::Pregunta(
+        TituloDe(*archivo) + "\n¿Anexar las Losas Seleccionadas a Planex Estructural 2023?",
+        EncabezadoPlanex);
+    if (caja_.Mostrar(pregunta) != programa::RespuestaSi) return;
     const int exportadas = EscribirLosas(filas, *archivo);
     caja_.Mostrar(
         Aviso("¡Se Exportaron ( " + std::to_string(exportadas) + " ) Losa(s) con Exito a Planex Estructural!",
-              EncabezadoPlanex, IconoCaja::Informacion));
+              EncabezadoPlanex, programa::IconoCaja::Informacion));
     vista_.Cerrar();
 }
 
 int ExportarCAD::EscribirLosas(const std::vector<int>& filas, const std::filesystem::path& archivo) {
-    const Espera<VistaExportarCAD> espera(vista_);
-    Conexion destino;
-    AbrirConexion(destino, archivo);
+    const programa::Espera<VistaExportarCAD> espera(vista_);
+    almacen::Conexion destino;
+    almacen::AbrirConexion(destino, archivo);
     if (vista_.Opcion() == ArchivoCAD::CrearNuevo)
         Exigir(EscribirProyectoPlanex(destino, aplicacion_.Datos, aplicacion_.Generales), destino);
     int exportadas = 0;
     for (const int fila : filas) {
-        const Losa losa = LosaDe(fila);
-        ResultadosLosa resultados;
-        CalcularLosa(losa, aplicacion_.Generales, resultados);
+        const losas::Losa losa = LosaDe(fila);
+        losas::ResultadosLosa resultados;
+        losas::CalcularLosa(losa, aplicacion_.Generales, resultados);
         Exigir(ReemplazarLosaPlanex(destino, losa, resultados), destino);
         ++exportadas;
     }
@@ -173,7 +174,8 @@ int ExportarCAD::EscribirLosas(const std::vector<int>& filas, const std::filesys
 
 void ExportarCAD::AbrirCarpeta() {
     if (!plataforma_.AbrirCarpeta(CarpetaDe(Planex8)))
-        caja_.Mostrar(MensajeDeError(ErrorEjecucion(CodigoError::RutaNoEncontrada), ErrorInesperado));
+        caja_.Mostrar(programa::MensajeDeError(ErrorEjecucion(CodigoError::RutaNoEncontrada),
+                                               programa::ErrorInesperado));
 }
 
-}  // namespace trabex
+}  // namespace trabex::planex::ui

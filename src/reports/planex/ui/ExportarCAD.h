@@ -12,7 +12,7 @@
 #include "shell/Plataforma.h"
 #include "slab/Losa.h"
 
-namespace trabex {
+namespace trabex::planex::ui {
 
 /// How the file that takes the slabs is found.
 enum class ArchivoCAD { CrearNuevo, AnexarAExistente };
@@ -32,8 +32,9 @@ class VistaExportarCAD {
 /// It moves the project's slab list and leaves it at the end where it stood.
 class ExportarCAD {
   public:
-    ExportarCAD(Aplicacion& aplicacion, std::uint8_t versionCAD, VistaExportarCAD& vista, CajaMensajes& caja,
-                DialogosArchivo& dialogos, Plataforma& plataforma);
+    ExportarCAD(programa::Aplicacion& aplicacion, std::uint8_t versionCAD, VistaExportarCAD& vista,
+                programa::CajaMensajes& caja, programa::DialogosArchivo& dialogos,
+                programa::Plataforma& plataforma);
     ~ExportarCAD();
     ExportarCAD(const ExportarCAD&) = delete;
     ExportarCAD& operator=(const ExportarCAD&) = delete;
@@ -41,7 +42,7 @@ class ExportarCAD {
     /// Names of the grid's rows.
     std::vector<std::string> Nombres();
     /// The slab of a row, for its sketch.
-    Losa LosaDe(int fila);
+    losas::Losa LosaDe(int fila);
 
     /// " Aceptar ": exports the checked slabs to a file that the user chooses, tells how many, and closes the
     /// window. The count takes in the slabs of a file that could not be opened: nothing is written there, and
@@ -58,13 +59,13 @@ class ExportarCAD {
     void Exportar(const std::vector<int>& filas);
     int EscribirLosas(const std::vector<int>& filas, const std::filesystem::path& archivo);
 
-    Aplicacion& aplicacion_;
+    programa::Aplicacion& aplicacion_;
     std::uint8_t version_;
     VistaExportarCAD& vista_;
-    CajaMensajes& caja_;
-    DialogosArchivo& dialogos_;
-    Plataforma& plataforma_;
+    programa::CajaMensajes& caja_;
+    programa::DialogosArchivo& dialogos_;
+    programa::Plataforma& plataforma_;
     int posicion_;  // of the slab list when the window opened
 };
 
-}  // namespace trabex
+}  // namespace trabex::planex::ui

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
-namespace trabex {
+namespace trabex::salidas::qt {
 
 namespace {
 
@@ -36,7 +36,8 @@ std::vector<double> Repartir(const std::vector<double>& deseados, const std::vec
 
 }  // namespace
 
-CajaTabla::CajaTabla(const Tabla& tabla, const Documento& documento, const Letras& letras, double ancho)
+CajaTabla::CajaTabla(const documento::Tabla& tabla, const documento::Documento& documento,
+                     const Letras& letras, double ancho)
     : tabla_(tabla), separadores_(documento.Locales), normal_(&letras.Normal), negrita_(&letras.Negrita) {
     MedirColumnas(documento.Letra, ancho);
     MedirFilas();
@@ -50,10 +51,10 @@ void CajaTabla::Achicar(double puntos) {
 }
 
 QString CajaTabla::Celda(std::size_t fila, std::size_t columna) const {
-    const std::vector<Valor>& celdas = tabla_.Filas[fila].Celdas;
+    const std::vector<almacen::Valor>& celdas = tabla_.Filas[fila].Celdas;
     if (columna >= celdas.size()) return {};
     return QString::fromStdString(
-        TextoDeValor(celdas[columna], tabla_.Columnas[columna].Formato, separadores_));
+        documento::TextoDeValor(celdas[columna], tabla_.Columnas[columna].Formato, separadores_));
 }
 
 std::vector<double> CajaTabla::AnchosMinimos() const {
@@ -107,7 +108,7 @@ void CajaTabla::MedirFilas() {
         altoTitulos_ =
             std::max(altoTitulos_, alto(LineasDeTitulo(tabla_.Columnas[i].Titulo, anchos_[i]).size()));
     if (tabla_.TieneGrupos()) {
-        for (const GrupoDeColumnas& grupo : GruposDe(tabla_)) {
+        for (const documento::GrupoDeColumnas& grupo : documento::GruposDe(tabla_)) {
             const double ancho = Ancho(grupo.Desde, grupo.Cuantas);
             altoGrupos_ = std::max(altoGrupos_, alto(LineasDeTitulo(grupo.Titulo, ancho).size()));
         }
@@ -145,7 +146,7 @@ double CajaTabla::PintarCabecera(Tinta& tinta, const QPointF& esquina) const {
     const double ancho = Suma(anchos_);
     tinta.Fondo({esquina.x(), esquina.y(), ancho, alto}, FondoDeTitulo);
     double x = esquina.x();
-    for (const GrupoDeColumnas& grupo : GruposDe(tabla_)) {
+    for (const documento::GrupoDeColumnas& grupo : documento::GruposDe(tabla_)) {
         const double anchoGrupo = Ancho(grupo.Desde, grupo.Cuantas);
         const bool conGrupo = !grupo.Titulo.empty();
         if (conGrupo) {
@@ -178,10 +179,10 @@ void CajaTabla::PintarFila(Tinta& tinta, const QPointF& esquina, std::size_t fil
         double y = esquina.y() + EntreLineas / 2 * letra.Alto() + letra.Ascenso();
         for (const QString& linea : LineasDeCelda(Celda(fila, i), i, letra)) {
             const double hueco = anchos_[i] - letra.Ancho(linea);
-            const Alineacion lado = tabla_.Columnas[i].Lado;
-            const double sangria = lado == Alineacion::Izquierda ? Margen
-                                   : lado == Alineacion::Centro  ? hueco / 2
-                                                                 : hueco - Margen;
+            const documento::Alineacion lado = tabla_.Columnas[i].Lado;
+            const double sangria = lado == documento::Alineacion::Izquierda ? Margen
+                                   : lado == documento::Alineacion::Centro  ? hueco / 2
+                                                                            : hueco - Margen;
             if (!linea.isEmpty()) tinta.Texto({x + sangria, y}, linea, letra, TinteDeCelda);
             y += letra.Alto();
         }
@@ -200,4 +201,4 @@ void CajaTabla::Pintar(Tinta& tinta, const QPointF& esquina, std::size_t desde, 
     }
 }
 
-}  // namespace trabex
+}  // namespace trabex::salidas::qt

@@ -6,7 +6,7 @@
 
 #include "reports/salidas/qt/Cajas.h"
 
-namespace trabex {
+namespace trabex::salidas::qt {
 
 /// A table on pages: its header stands over every part of it.
 ///
@@ -14,7 +14,8 @@ namespace trabex {
 /// those that have room to spare; when none has, the letters get smaller. No number is ever cut or broken.
 class CajaTabla : public Caja {
   public:
-    CajaTabla(const Tabla& tabla, const Documento& documento, const Letras& letras, double ancho);
+    CajaTabla(const documento::Tabla& tabla, const documento::Documento& documento, const Letras& letras,
+              double ancho);
 
     double Antes() const override { return 0.2 * normal_->Alto(); }
     double Despues() const override { return 0.6 * normal_->Alto(); }
@@ -28,7 +29,9 @@ class CajaTabla : public Caja {
     void MedirColumnas(double puntos, double ancho);
     void Achicar(double puntos);
     void MedirFilas();
-    bool SeParte(std::size_t columna) const { return tabla_.Columnas[columna].Lado == Alineacion::Izquierda; }
+    bool SeParte(std::size_t columna) const {
+        return tabla_.Columnas[columna].Lado == documento::Alineacion::Izquierda;
+    }
     QString Celda(std::size_t fila, std::size_t columna) const;
     QStringList LineasDeCelda(const QString& texto, std::size_t columna, const TipoDeLetra& letra) const;
     QStringList LineasDeTitulo(const std::string& titulo, double ancho) const;
@@ -37,7 +40,7 @@ class CajaTabla : public Caja {
     void PintarTitulo(Tinta& tinta, const QRectF& donde, const std::string& titulo) const;
     void PintarFila(Tinta& tinta, const QPointF& esquina, std::size_t fila) const;
 
-    const Tabla& tabla_;
+    const documento::Tabla& tabla_;
     const Separadores& separadores_;
     std::unique_ptr<const TipoDeLetra> chica_;  // of a table that does not fit in the document's letters
     std::unique_ptr<const TipoDeLetra> chicaNegrita_;
@@ -49,4 +52,4 @@ class CajaTabla : public Caja {
     double altoTitulos_ = 0;
 };
 
-}  // namespace trabex
+}  // namespace trabex::salidas::qt

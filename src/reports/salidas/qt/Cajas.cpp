@@ -10,7 +10,7 @@
 
 #include "reports/salidas/qt/CajaTabla.h"
 
-namespace trabex {
+namespace trabex::salidas::qt {
 
 namespace {
 
@@ -48,7 +48,7 @@ class CajaTexto : public Caja {
 
 class CajaTitulo : public CajaTexto {
   public:
-    CajaTitulo(const Titulo& titulo, const Letras& letras, double ancho)
+    CajaTitulo(const documento::Titulo& titulo, const Letras& letras, double ancho)
         : CajaTexto(Q(titulo.Texto), letras.Titulos[Lugar(titulo)], TinteDeTitulo, ancho),
           subrayado_(titulo.Nivel == 1 ? ancho : 0) {}
     double Antes() const override { return 0.7 * letra_.Alto(); }
@@ -65,7 +65,7 @@ class CajaTitulo : public CajaTexto {
     }
 
   private:
-    static std::size_t Lugar(const Titulo& titulo) {
+    static std::size_t Lugar(const documento::Titulo& titulo) {
         return static_cast<std::size_t>(std::clamp(titulo.Nivel, 1, 3) - 1);
     }
     double subrayado_;
@@ -74,7 +74,8 @@ class CajaTitulo : public CajaTexto {
 /// Names and values in pairs of columns.
 class CajaFicha : public Caja {
   public:
-    CajaFicha(const Ficha& ficha, const Separadores& separadores, const Letras& letras, double ancho);
+    CajaFicha(const documento::Ficha& ficha, const Separadores& separadores, const Letras& letras,
+              double ancho);
     double Despues() const override { return 0.5 * letras_.Normal.Alto(); }
     std::size_t Filas() const override { return altos_.size(); }
     std::size_t FilasDelPrincipio() const override { return Filas(); }
@@ -99,7 +100,8 @@ class CajaFicha : public Caja {
 
 constexpr double Separacion = 2 * Milimetro;
 
-CajaFicha::CajaFicha(const Ficha& ficha, const Separadores& separadores, const Letras& letras, double ancho)
+CajaFicha::CajaFicha(const documento::Ficha& ficha, const Separadores& separadores, const Letras& letras,
+                     double ancho)
     : letras_(letras),
       columnas_(static_cast<std::size_t>(ficha.Columnas)),
       paso_(ancho / ficha.Columnas),
@@ -109,8 +111,8 @@ CajaFicha::CajaFicha(const Ficha& ficha, const Separadores& separadores, const L
         rotulo = std::max(rotulo, std::min(letras.Normal.Ancho(Q(ficha.Datos[i].Rotulo)), 0.7 * paso_));
     }
     for (std::size_t i = 0; i < ficha.Datos.size(); ++i) {
-        const Ficha::Dato& dato = ficha.Datos[i];
-        std::string valor = TextoDeValor(dato.Contenido, dato.Formato, separadores);
+        const documento::Ficha::Dato& dato = ficha.Datos[i];
+        std::string valor = documento::TextoDeValor(dato.Contenido, dato.Formato, separadores);
         if (!valor.empty() && !dato.Unidad.empty()) valor += " " + dato.Unidad;
         const double sitio = paso_ - rotulos_[i % columnas_] - 2 * Separacion;
         pares_.push_back({Q(dato.Rotulo), letras.Negrita.Lineas(Q(valor), sitio)});
@@ -140,7 +142,7 @@ void CajaFicha::Pintar(Tinta& tinta, const QPointF& esquina, std::size_t desde, 
 /// A picture in the middle, over its caption.
 class CajaImagen : public Caja {
   public:
-    CajaImagen(const Imagen& imagen, const Letras& letras, const QSizeF& util);
+    CajaImagen(const documento::Imagen& imagen, const Letras& letras, const QSizeF& util);
     double Antes() const override { return 0.5 * letras_.Normal.Alto(); }
     double Despues() const override { return letras_.Normal.Alto(); }
     double Alto(std::size_t, std::size_t) const override {
@@ -151,7 +153,7 @@ class CajaImagen : public Caja {
   private:
     double AltoDelPie() const { return static_cast<double>(pie_.size()) * letras_.Cursiva.Alto(); }
 
-    const Imagen& imagen_;
+    const documento::Imagen& imagen_;
     const Letras& letras_;
     double ancho_;
     QStringList pie_;
@@ -160,14 +162,14 @@ class CajaImagen : public Caja {
 };
 
 /// The size in pixels that a picture's first bytes tell.
-QSize MedidaEnPixeles(const Bytes& bytes) {
+QSize MedidaEnPixeles(const almacen::Bytes& bytes) {
     QByteArray vista = QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
                                                static_cast<qsizetype>(bytes.size()));
     QBuffer archivo(&vista);
     return QImageReader(&archivo).size();
 }
 
-CajaImagen::CajaImagen(const Imagen& imagen, const Letras& letras, const QSizeF& util)
+CajaImagen::CajaImagen(const documento::Imagen& imagen, const Letras& letras, const QSizeF& util)
     : imagen_(imagen),
       letras_(letras),
       ancho_(util.width()),
@@ -177,8 +179,8 @@ CajaImagen::CajaImagen(const Imagen& imagen, const Letras& letras, const QSizeF&
     legible_ = !pixeles.isEmpty();
     if (!legible_) return;
     const double sitio = util.height() - AltoDelPie() - 0.3 * letras.Normal.Alto();
-    const MedidaHoja medida =
-        MedidaDe(imagen, pixeles.width(), pixeles.height(), {ancho_ / Milimetro, sitio / Milimetro});
+    const documento::MedidaHoja medida = documento::MedidaDe(imagen, pixeles.width(), pixeles.height(),
+                                                             {ancho_ / Milimetro, sitio / Milimetro});
     medida_ = QSizeF(medida.Ancho, medida.Alto) * Milimetro;
 }
 
@@ -186,9 +188,9 @@ void CajaImagen::Pintar(Tinta& tinta, const QPointF& esquina, std::size_t, std::
     if (legible_) {
         tinta.Mapa(QRectF(esquina + QPointF((ancho_ - medida_.width()) / 2, 0), medida_), imagen_);
     } else {
-        const double izquierda = (ancho_ - letras_.Normal.Ancho(ImagenIlegible)) / 2;
-        tinta.Texto(esquina + QPointF(izquierda, letras_.Normal.Ascenso()), ImagenIlegible, letras_.Normal,
-                    TinteSuave);
+        const double izquierda = (ancho_ - letras_.Normal.Ancho(documento::ImagenIlegible)) / 2;
+        tinta.Texto(esquina + QPointF(izquierda, letras_.Normal.Ascenso()), documento::ImagenIlegible,
+                    letras_.Normal, TinteSuave);
     }
     QPointF base =
         esquina + QPointF(0, medida_.height() + 0.3 * letras_.Normal.Alto() + letras_.Cursiva.Ascenso());
@@ -209,20 +211,20 @@ Letras::Letras(double puntos)
       Titulos{TipoDeLetra(1.5 * puntos, true), TipoDeLetra(1.2 * puntos, true),
               TipoDeLetra(1.05 * puntos, true)} {}
 
-std::unique_ptr<Caja> CajaDe(const Bloque& bloque, const Documento& documento, const Letras& letras,
-                             const QSizeF& util) {
-    if (const auto* titulo = std::get_if<Titulo>(&bloque))
+std::unique_ptr<Caja> CajaDe(const documento::Bloque& bloque, const documento::Documento& documento,
+                             const Letras& letras, const QSizeF& util) {
+    if (const auto* titulo = std::get_if<documento::Titulo>(&bloque))
         return std::make_unique<CajaTitulo>(*titulo, letras, util.width());
-    if (const auto* parrafo = std::get_if<Parrafo>(&bloque))
+    if (const auto* parrafo = std::get_if<documento::Parrafo>(&bloque))
         return std::make_unique<CajaTexto>(
             Q(parrafo->Texto), parrafo->Destacado ? letras.Negrita : letras.Normal, Tinte, util.width());
-    if (const auto* ficha = std::get_if<Ficha>(&bloque))
+    if (const auto* ficha = std::get_if<documento::Ficha>(&bloque))
         return std::make_unique<CajaFicha>(*ficha, documento.Locales, letras, util.width());
-    if (const auto* tabla = std::get_if<Tabla>(&bloque))
+    if (const auto* tabla = std::get_if<documento::Tabla>(&bloque))
         return std::make_unique<CajaTabla>(*tabla, documento, letras, util.width());
-    if (const auto* imagen = std::get_if<Imagen>(&bloque))
+    if (const auto* imagen = std::get_if<documento::Imagen>(&bloque))
         return std::make_unique<CajaImagen>(*imagen, letras, util);
     return nullptr;
 }
 
-}  // namespace trabex
+}  // namespace trabex::salidas::qt

@@ -8,7 +8,7 @@
 #include "reports/documento/Documento.h"
 #include "reports/salidas/qt/Tinta.h"
 
-namespace trabex {
+namespace trabex::salidas::qt {
 
 /// The fonts of a document.
 struct Letras {
@@ -42,7 +42,7 @@ class Caja {
 
 /// The box of a block on a page whose text is `util` wide and high, in hundredths of a millimetre. Null for a
 /// page break.
-std::unique_ptr<Caja> CajaDe(const Bloque& bloque, const Documento& documento, const Letras& letras,
-                             const QSizeF& util);
+std::unique_ptr<Caja> CajaDe(const documento::Bloque& bloque, const documento::Documento& documento,
+                             const Letras& letras, const QSizeF& util);
 
-}  // namespace trabex
+}  // namespace trabex::salidas::qt

@@ -10,7 +10,7 @@
 #include "base/Archivos.h"
 #include "reports/salidas/qt/Paginador.h"
 
-namespace trabex {
+namespace trabex::salidas::qt {
 
 namespace {
 
@@ -41,7 +41,7 @@ class Dispositivo : public QIODevice {
 };
 
 /// What the document is called and who made it, as readers of PDF look for it.
-QByteArray Metadatos(const Documento& documento) {
+QByteArray Metadatos(const documento::Documento& documento) {
     const auto texto = [](const std::string& t) {
         return QString::fromStdString(t).toHtmlEscaped().toUtf8();
     };
@@ -59,7 +59,7 @@ QByteArray Metadatos(const Documento& documento) {
 
 constexpr int PuntosPorPulgada = 2540;  // hundredths of a millimetre, the unit of the pages
 
-void Pintar(const Documento& documento, QIODevice& dispositivo) {
+void Pintar(const documento::Documento& documento, QIODevice& dispositivo) {
     const Paginador paginas(documento);
     QPdfWriter escritor(&dispositivo);
     escritor.setResolution(PuntosPorPulgada);
@@ -78,7 +78,7 @@ void Pintar(const Documento& documento, QIODevice& dispositivo) {
 
 }  // namespace
 
-void EscribirPdf(const Documento& documento, const std::filesystem::path& destino) {
+void EscribirPdf(const documento::Documento& documento, const std::filesystem::path& destino) {
     ArchivoNuevo archivo(destino);
     Dispositivo dispositivo(archivo);
     Pintar(documento, dispositivo);
@@ -86,4 +86,4 @@ void EscribirPdf(const Documento& documento, const std::filesystem::path& destin
     archivo.Colocar();
 }
 
-}  // namespace trabex
+}  // namespace trabex::salidas::qt

@@ -4,10 +4,10 @@
 
 #include "reports/documento/Documento.h"
 
-namespace trabex {
+namespace trabex::salidas::qt {
 
 /// Writes a document as PDF: texts that can be searched, in embedded fonts, pictures without loss, title and
 /// author told. Throws ErrorEjecucion; the file that stood there then stays.
-void EscribirPdf(const Documento& documento, const std::filesystem::path& destino);
+void EscribirPdf(const documento::Documento& documento, const std::filesystem::path& destino);
 
-}  // namespace trabex
+}  // namespace trabex::salidas::qt

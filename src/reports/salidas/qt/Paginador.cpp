@@ -4,7 +4,7 @@
 #include <array>
 #include <utility>
 
-namespace trabex {
+namespace trabex::salidas::qt {
 
 namespace {
 
@@ -14,17 +14,17 @@ constexpr double AireDeBanda = 3 * Milimetro;  // from the text of the page to i
 
 QString ConNumeros(const std::string& texto, int pagina, int paginas) {
     QString salida = QString::fromStdString(texto);
-    salida.replace(QChar(MarcaPagina), QString::number(pagina));
-    return salida.replace(QChar(MarcaPaginas), QString::number(paginas));
+    salida.replace(QChar(documento::MarcaPagina), QString::number(pagina));
+    return salida.replace(QChar(documento::MarcaPaginas), QString::number(paginas));
 }
 
-bool EsVacia(const BandaDePagina& banda) {
+bool EsVacia(const documento::BandaDePagina& banda) {
     return banda.Izquierda.empty() && banda.Centro.empty() && banda.Derecha.empty();
 }
 
 }  // namespace
 
-Paginador::Paginador(const Documento& documento, const MedidaHoja& hoja)
+Paginador::Paginador(const documento::Documento& documento, const documento::MedidaHoja& hoja)
     : documento_(documento),
       hoja_(hoja),
       letras_(documento.Letra),
@@ -32,9 +32,9 @@ Paginador::Paginador(const Documento& documento, const MedidaHoja& hoja)
                    hoja.Alto - documento.Hoja.MargenSuperior - documento.Hoja.MargenInferior) *
             Milimetro) {
     paginas_.emplace_back();
-    for (const Seccion& seccion : documento.Secciones) {
+    for (const documento::Seccion& seccion : documento.Secciones) {
         Cajas cajas;
-        for (const Bloque& bloque : seccion.Bloques)
+        for (const documento::Bloque& bloque : seccion.Bloques)
             cajas.push_back(CajaDe(bloque, documento, letras_, util_));
         Colocar(seccion, cajas);
         std::move(cajas.begin(), cajas.end(), std::back_inserter(cajas_));
@@ -64,7 +64,7 @@ double Paginador::AltoTotal(const Cajas& cajas) const {
     return alto;
 }
 
-void Paginador::Colocar(const Seccion& seccion, const Cajas& cajas) {
+void Paginador::Colocar(const documento::Seccion& seccion, const Cajas& cajas) {
     const double total = seccion.Junta ? AltoTotal(cajas) : 0;
     const bool noCabe = total > util_.height() - y_ && total <= util_.height();
     if (!AlPrincipio() && (seccion.PaginaNueva || noCabe)) PaginaNueva();
@@ -99,7 +99,7 @@ void Paginador::ColocarCaja(const Caja& caja) {
 }
 
 void Paginador::Pintar(int pagina, Tinta& tinta) const {
-    const Pagina& hoja = documento_.Hoja;
+    const documento::Pagina& hoja = documento_.Hoja;
     const QPointF esquina = QPointF(hoja.MargenIzquierdo, hoja.MargenSuperior) * Milimetro;
     for (const Pieza& pieza : paginas_[static_cast<std::size_t>(pagina)])
         pieza.De->Pintar(tinta, esquina + QPointF(0, pieza.Y), pieza.Desde, pieza.Hasta);
@@ -118,7 +118,8 @@ void Paginador::Pintar(int pagina, Tinta& tinta) const {
 }
 
 /// The texts of a band beside one another; one that would run into its neighbour is cut short.
-void Paginador::PintarBanda(Tinta& tinta, const BandaDePagina& banda, double base, int pagina) const {
+void Paginador::PintarBanda(Tinta& tinta, const documento::BandaDePagina& banda, double base,
+                            int pagina) const {
     const QFontMetricsF metrica(letras_.Chica.Fuente());
     const std::array<std::pair<const std::string*, double>, 3> textos{
         {{&banda.Izquierda, 0.0}, {&banda.Centro, 0.5}, {&banda.Derecha, 1.0}}};
@@ -136,4 +137,4 @@ void Paginador::PintarBanda(Tinta& tinta, const BandaDePagina& banda, double bas
     }
 }
 
-}  // namespace trabex
+}  // namespace trabex::salidas::qt

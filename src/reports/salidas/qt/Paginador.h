@@ -7,18 +7,19 @@
 #include "reports/documento/Documento.h"
 #include "reports/salidas/qt/Cajas.h"
 
-namespace trabex {
+namespace trabex::salidas::qt {
 
 /// A document broken into pages of a sheet. What it refers to (the document) must outlive it. One routine for
 /// paper, PDF and screen: they differ only in the ink.
 class Paginador {
   public:
-    explicit Paginador(const Documento& documento) : Paginador(documento, MedidaDe(documento.Hoja)) {}
+    explicit Paginador(const documento::Documento& documento)
+        : Paginador(documento, documento::MedidaDe(documento.Hoja)) {}
     /// On another sheet than the document's own, as when the engineer chooses one at the printer.
-    Paginador(const Documento& documento, const MedidaHoja& hoja);
+    Paginador(const documento::Documento& documento, const documento::MedidaHoja& hoja);
 
     int NumeroPaginas() const { return static_cast<int>(paginas_.size()); }
-    const MedidaHoja& Hoja() const { return hoja_; }
+    const documento::MedidaHoja& Hoja() const { return hoja_; }
     /// Puts the ink of a page, from 0.
     void Pintar(int pagina, Tinta& tinta) const;
 
@@ -32,16 +33,16 @@ class Paginador {
     };
     using Cajas = std::vector<std::unique_ptr<Caja>>;  // null: a page break
 
-    void Colocar(const Seccion& seccion, const Cajas& cajas);
+    void Colocar(const documento::Seccion& seccion, const Cajas& cajas);
     void ColocarCaja(const Caja& caja);
     double AltoPrincipio(const Cajas& cajas, std::size_t i) const;
     double AltoTotal(const Cajas& cajas) const;
     void PaginaNueva();
     bool AlPrincipio() const { return paginas_.back().empty(); }
-    void PintarBanda(Tinta& tinta, const BandaDePagina& banda, double base, int pagina) const;
+    void PintarBanda(Tinta& tinta, const documento::BandaDePagina& banda, double base, int pagina) const;
 
-    const Documento& documento_;
-    MedidaHoja hoja_;
+    const documento::Documento& documento_;
+    documento::MedidaHoja hoja_;
     Letras letras_;
     QSizeF util_;
     Cajas cajas_;
@@ -49,4 +50,4 @@ class Paginador {
     double y_ = 0;  // below what stands on the last page
 };
 
-}  // namespace trabex
+}  // namespace trabex::salidas::qt

@@ -7,7 +7,7 @@
 
 #include "reports/documento/Documento.h"
 
-namespace trabex {
+namespace trabex::salidas::qt {
 
 void TintaDePintor::Texto(const QPointF& base, const QString& texto, const TipoDeLetra& letra,
                           const QColor& color) {
@@ -28,8 +28,8 @@ void TintaDePintor::Fondo(const QRectF& donde, const QColor& color) {
     pintor_.fillRect(donde, color);
 }
 
-void TintaDePintor::Mapa(const QRectF& donde, const Imagen& imagen) {
-    const Bytes bytes = imagen.Leer();
+void TintaDePintor::Mapa(const QRectF& donde, const documento::Imagen& imagen) {
+    const almacen::Bytes bytes = imagen.Leer();
     QImage mapa;
     mapa.loadFromData(reinterpret_cast<const uchar*>(bytes.data()), static_cast<int>(bytes.size()));
     // On a raster a drawing shown much smaller is averaged, which the painter by itself is not good at.
@@ -42,4 +42,4 @@ void TintaDePintor::Mapa(const QRectF& donde, const Imagen& imagen) {
     pintor_.drawImage(donde, mapa);
 }
 
-}  // namespace trabex
+}  // namespace trabex::salidas::qt

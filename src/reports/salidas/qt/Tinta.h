@@ -9,9 +9,11 @@
 
 class QPainter;
 
-namespace trabex {
-
+namespace trabex::documento {
 struct Imagen;
+}
+
+namespace trabex::salidas::qt {
 
 /// What a page is made of, in hundredths of a millimetre from its corner. A painter puts it on paper or on
 /// the screen; a search reads only its texts.
@@ -23,7 +25,7 @@ class Tinta {
                        const QColor& color) = 0;
     virtual void Raya(const QPointF& desde, const QPointF& hasta, double grosor, const QColor& color) = 0;
     virtual void Fondo(const QRectF& donde, const QColor& color) = 0;
-    virtual void Mapa(const QRectF& donde, const Imagen& imagen) = 0;
+    virtual void Mapa(const QRectF& donde, const documento::Imagen& imagen) = 0;
 };
 
 /// Ink on any device of the toolkit; the painter's unit must be that of the pages.
@@ -34,11 +36,11 @@ class TintaDePintor : public Tinta {
                const QColor& color) override;
     void Raya(const QPointF& desde, const QPointF& hasta, double grosor, const QColor& color) override;
     void Fondo(const QRectF& donde, const QColor& color) override;
-    void Mapa(const QRectF& donde, const Imagen& imagen) override;
+    void Mapa(const QRectF& donde, const documento::Imagen& imagen) override;
 
   private:
     QPainter& pintor_;
     const TipoDeLetra* letra_ = nullptr;  // that of the painter
 };
 
-}  // namespace trabex
+}  // namespace trabex::salidas::qt

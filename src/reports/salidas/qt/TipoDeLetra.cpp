@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace trabex {
+namespace trabex::salidas::qt {
 
 namespace {
 
@@ -80,4 +80,4 @@ double TipoDeLetra::AnchoDePalabra(const QString& texto) const {
     return ancho;
 }
 
-}  // namespace trabex
+}  // namespace trabex::salidas::qt

@@ -6,7 +6,7 @@
 #include <QStringList>
 #include <array>
 
-namespace trabex {
+namespace trabex::salidas::qt {
 
 /// Pages are laid out in hundredths of a millimetre, whatever they are painted on: the same document breaks
 /// in the same places on the screen, in a PDF and on a printer.
@@ -36,4 +36,4 @@ class TipoDeLetra {
     double ascenso_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::salidas::qt

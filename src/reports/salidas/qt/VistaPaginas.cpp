@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace trabex {
+namespace trabex::salidas::qt {
 
 namespace {
 
@@ -43,7 +43,7 @@ class TintaDeBusqueda : public Tinta {
     }
     void Raya(const QPointF&, const QPointF&, double, const QColor&) override {}
     void Fondo(const QRectF&, const QColor&) override {}
-    void Mapa(const QRectF&, const Imagen&) override {}
+    void Mapa(const QRectF&, const documento::Imagen&) override {}
 
   private:
     QString buscado_;
@@ -51,7 +51,7 @@ class TintaDeBusqueda : public Tinta {
 
 }  // namespace
 
-VistaPaginas::VistaPaginas(const Documento& documento, QWidget* padre)
+VistaPaginas::VistaPaginas(const documento::Documento& documento, QWidget* padre)
     : QAbstractScrollArea(padre), paginas_(documento), estampas_(MemoriaDeEstampas) {
     setFocusPolicy(Qt::StrongFocus);
     setFrameShape(QFrame::NoFrame);
@@ -234,4 +234,4 @@ int VistaPaginas::IrAlHallazgo(bool adelante) {
     return hallazgo_ + 1;
 }
 
-}  // namespace trabex
+}  // namespace trabex::salidas::qt

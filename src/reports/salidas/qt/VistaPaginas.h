@@ -8,12 +8,12 @@
 
 #include "reports/salidas/qt/Paginador.h"
 
-namespace trabex {
+namespace trabex::salidas::qt {
 
 /// The pages of a document on the screen, one below another. The same pages as on paper, with the same ink.
 class VistaPaginas : public QAbstractScrollArea {
   public:
-    explicit VistaPaginas(const Documento& documento, QWidget* padre = nullptr);
+    explicit VistaPaginas(const documento::Documento& documento, QWidget* padre = nullptr);
 
     int NumeroPaginas() const { return paginas_.NumeroPaginas(); }
     /// The page that fills most of the view, from 0.
@@ -64,4 +64,4 @@ class VistaPaginas : public QAbstractScrollArea {
     int paginaAvisada_ = 0;
 };
 
-}  // namespace trabex
+}  // namespace trabex::salidas::qt

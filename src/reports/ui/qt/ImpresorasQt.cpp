@@ -10,21 +10,21 @@
 #include "reports/salidas/qt/Paginador.h"
 #include "shell/qt/ComunVentanas.h"
 
-namespace trabex {
+namespace trabex::reportes::ui::qt {
 
 namespace {
 
-QPageLayout HojaDe(const Pagina& pagina) {
-    const QPageSize tamano(pagina.Tamano == TamanoPagina::A4 ? QPageSize::A4 : QPageSize::Letter);
+QPageLayout HojaDe(const documento::Pagina& pagina) {
+    const QPageSize tamano(pagina.Tamano == documento::TamanoPagina::A4 ? QPageSize::A4 : QPageSize::Letter);
     const auto orientacion = pagina.Apaisada ? QPageLayout::Landscape : QPageLayout::Portrait;
     return {tamano, orientacion, QMarginsF()};
 }
 
 }  // namespace
 
-void ImprimirPaginas(const Documento& documento, QPrinter& impresora) {
+void ImprimirPaginas(const documento::Documento& documento, QPrinter& impresora) {
     const QRectF papel = impresora.paperRect(QPrinter::Millimeter);
-    const Paginador paginas(documento, {papel.width(), papel.height()});
+    const salidas::qt::Paginador paginas(documento, {papel.width(), papel.height()});
     const int primera = impresora.fromPage() > 0 ? impresora.fromPage() - 1 : 0;
     const int ultima = std::min(impresora.toPage() > 0 ? impresora.toPage() : paginas.NumeroPaginas(),
                                 paginas.NumeroPaginas());
@@ -32,14 +32,14 @@ void ImprimirPaginas(const Documento& documento, QPrinter& impresora) {
     const int copias = impresora.supportsMultipleCopies() ? 1 : impresora.copyCount();
     QPainter pintor;
     if (!pintor.begin(&impresora)) throw ErrorEjecucion(CodigoError::ErrorImpresora);
-    const double escala = impresora.resolution() / (25.4 * Milimetro);
+    const double escala = impresora.resolution() / (25.4 * salidas::qt::Milimetro);
     pintor.scale(escala, escala);
     bool primeraHoja = true;
     for (int copia = 0; copia < copias; ++copia) {
         for (int i = primera; i < ultima; ++i) {
             if (!primeraHoja && !impresora.newPage()) throw ErrorEjecucion(CodigoError::ErrorImpresora);
             primeraHoja = false;
-            TintaDePintor tinta(pintor);
+            salidas::qt::TintaDePintor tinta(pintor);
             paginas.Pintar(i, tinta);
         }
     }
@@ -47,19 +47,20 @@ void ImprimirPaginas(const Documento& documento, QPrinter& impresora) {
 
 std::vector<std::string> ImpresorasQt::Disponibles() const {
     std::vector<std::string> nombres;
-    for (const QString& nombre : QPrinterInfo::availablePrinterNames()) nombres.push_back(S(nombre));
+    for (const QString& nombre : QPrinterInfo::availablePrinterNames())
+        nombres.push_back(programa::qt::S(nombre));
     return nombres;
 }
 
 std::string ImpresorasQt::PorDefecto() const {
-    return S(QPrinterInfo::defaultPrinterName());
+    return programa::qt::S(QPrinterInfo::defaultPrinterName());
 }
 
-bool ImpresorasQt::Imprimir(const Documento& documento, const std::string& impresora, bool preguntar,
-                            int copias) {
+bool ImpresorasQt::Imprimir(const documento::Documento& documento, const std::string& impresora,
+                            bool preguntar, int copias) {
     QPrinter salida(QPrinter::HighResolution);
-    if (!impresora.empty()) salida.setPrinterName(Q(impresora));
-    salida.setDocName(Q(documento.Titulo));
+    if (!impresora.empty()) salida.setPrinterName(programa::qt::Q(impresora));
+    salida.setDocName(programa::qt::Q(documento.Titulo));
     salida.setCopyCount(copias);
     salida.setFullPage(true);
     salida.setPageLayout(HojaDe(documento.Hoja));
@@ -73,4 +74,4 @@ bool ImpresorasQt::Imprimir(const Documento& documento, const std::string& impre
     return true;
 }
 
-}  // namespace trabex
+}  // namespace trabex::reportes::ui::qt

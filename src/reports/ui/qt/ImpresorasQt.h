@@ -4,19 +4,19 @@
 
 class QPrinter;
 
-namespace trabex {
+namespace trabex::reportes::ui::qt {
 
 /// Sends a document to a printer that is set up: on its own sheet, the pages and copies that were chosen.
 /// Throws ErrorEjecucion 482 when the printer refuses.
-void ImprimirPaginas(const Documento& documento, QPrinter& impresora);
+void ImprimirPaginas(const documento::Documento& documento, QPrinter& impresora);
 
 /// The system's printers by the toolkit.
 class ImpresorasQt : public Impresoras {
   public:
     std::vector<std::string> Disponibles() const override;
     std::string PorDefecto() const override;
-    bool Imprimir(const Documento& documento, const std::string& impresora, bool preguntar,
+    bool Imprimir(const documento::Documento& documento, const std::string& impresora, bool preguntar,
                   int copias) override;
 };
 
-}  // namespace trabex
+}  // namespace trabex::reportes::ui::qt

@@ -7,7 +7,7 @@
 
 #include "shell/qt/ComunVentanas.h"
 
-namespace trabex {
+namespace trabex::reportes::ui::qt {
 
 PanelProgresoQt::PanelProgresoQt(QWidget* ventana)
     : panel_(ventana, Qt::Dialog | Qt::FramelessWindowHint),
@@ -39,7 +39,8 @@ void PanelProgresoQt::Mostrar() {
 
 void PanelProgresoQt::Avanzar(double porcentaje, const std::string& rotulo) {
     barra_->setValue(static_cast<int>(porcentaje));
-    rotulo_->setText(rotulo_->fontMetrics().elidedText(Q(rotulo), Qt::ElideMiddle, rotulo_->width()));
+    rotulo_->setText(
+        rotulo_->fontMetrics().elidedText(programa::qt::Q(rotulo), Qt::ElideMiddle, rotulo_->width()));
     QCoreApplication::processEvents();
 }
 
@@ -47,4 +48,4 @@ void PanelProgresoQt::Ocultar() {
     panel_.hide();
 }
 
-}  // namespace trabex
+}  // namespace trabex::reportes::ui::qt

@@ -7,11 +7,11 @@
 class QLabel;
 class QProgressBar;
 
-namespace trabex {
+namespace trabex::reportes::ui::qt {
 
 /// The progress panel: over its window, which takes no command meanwhile. Nothing closes it but the end of
 /// the work.
-class PanelProgresoQt : public PanelProgreso {
+class PanelProgresoQt : public montaje::PanelProgreso {
   public:
     explicit PanelProgresoQt(QWidget* ventana);
 
@@ -32,4 +32,4 @@ class PanelProgresoQt : public PanelProgreso {
     QProgressBar* barra_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::reportes::ui::qt

@@ -13,7 +13,7 @@
 #include "drawing/qt/WidgetLienzo.h"
 #include "shell/qt/ComunVentanas.h"
 
-namespace trabex {
+namespace trabex::reportes::ui::qt {
 
 namespace {
 
@@ -28,16 +28,16 @@ VentanaExportarGrafico::VentanaExportarGrafico(EntornoGrafico entorno, DibujoDeE
       entorno_(entorno),
       operaciones_(entorno_, *this),
       dibujar_(std::move(dibujar)),
-      lienzo_(new WidgetLienzo(
-          operaciones_.Viewport(), [this](Lienzo& lienzo) { dibujar_(lienzo, operaciones_.Viewport()); },
-          this)) {
+      lienzo_(new dibujo::qt::WidgetLienzo(
+          operaciones_.Viewport(),
+          [this](dibujo::Lienzo& lienzo) { dibujar_(lienzo, operaciones_.Viewport()); }, this)) {
     setObjectName("ExportarGrafico");
     setWindowTitle("EXPORTAR GRÁFICOS");
     auto* columna = new QVBoxLayout(this);
     columna->addWidget(lienzo_, 1);
     columna->addLayout(Controles());
-    TamanoInicial(this, {980, 700});
-    PrepararVentana(this, entorno_.LaAplicacion.Preferencias);
+    programa::qt::TamanoInicial(this, {980, 700});
+    programa::qt::PrepararVentana(this, entorno_.LaAplicacion.Preferencias);
 }
 
 QLayout* VentanaExportarGrafico::Controles() {
@@ -56,14 +56,14 @@ QLayout* VentanaExportarGrafico::Controles() {
     fila->addStretch(1);
     const auto agregar = [this, fila](const QString& texto, const char* icono, const char* ayuda,
                                       auto accion) {
-        auto* boton = Boton(texto, icono, this);
+        auto* boton = programa::qt::Boton(texto, icono, this);
         boton->setAutoDefault(false);
-        PonerAyuda(boton, texto.trimmed().isEmpty() ? "Carpeta" : texto.trimmed(), ayuda);
+        programa::qt::PonerAyuda(boton, texto.trimmed().isEmpty() ? "Carpeta" : texto.trimmed(), ayuda);
         connect(boton, &QPushButton::clicked, this, accion);
         fila->addWidget(boton, 0, Qt::AlignBottom);
         return boton;
     };
-    Visor& visor = lienzo_->Comandos();
+    dibujo::Visor& visor = lienzo_->Comandos();
     agregar(" Zoom Más ", "acercar", "Acercar el gráfico.", [&visor] { visor.EjecuteZoomIn(); });
     agregar(" Zoom Menos ", "alejar", "Alejar el gráfico.", [&visor] { visor.EjecuteZoomOut(); });
     agregar(" Zoom Extents ", "pantalla", "Ver el gráfico completo.",
@@ -81,13 +81,13 @@ QLayout* VentanaExportarGrafico::Controles() {
 
 void VentanaExportarGrafico::Guardar(const std::filesystem::path& archivo, const FormatoGrafico& formato) {
     // On a copy of the viewport, since a drawing leaves its scale in it.
-    EstadoVista visor = operaciones_.Viewport();
-    const QImage imagen = DibujarImagen(lienzo_->width(), lienzo_->height(), Finura,
-                                        [&](Lienzo& lienzo) { dibujar_(lienzo, visor); });
+    dibujo::EstadoVista visor = operaciones_.Viewport();
+    const QImage imagen = dibujo::qt::DibujarImagen(lienzo_->width(), lienzo_->height(), Finura,
+                                                    [&](dibujo::Lienzo& lienzo) { dibujar_(lienzo, visor); });
     QBuffer bytes;
     bytes.open(QIODevice::WriteOnly);
     if (!imagen.save(&bytes, formato.Clase, Calidad)) throw ErrorEjecucion(CodigoError::ErrorDispositivo);
     EscribirArchivo(archivo, {bytes.data().constData(), static_cast<std::size_t>(bytes.data().size())});
 }
 
-}  // namespace trabex
+}  // namespace trabex::reportes::ui::qt

@@ -8,12 +8,14 @@
 
 class QButtonGroup;
 
-namespace trabex {
-
+namespace trabex::dibujo::qt {
 class WidgetLienzo;
+}
+
+namespace trabex::reportes::ui::qt {
 
 /// Draws the current drawing of the calling workspace whole, through a viewport that is not the workspace's.
-using DibujoDeEspacio = std::function<void(Lienzo&, EstadoVista&)>;
+using DibujoDeEspacio = std::function<void(dibujo::Lienzo&, dibujo::EstadoVista&)>;
 
 /// The window that shows a drawing with its own zoom and saves it as a picture.
 class VentanaExportarGrafico : public QDialog, private VistaExportarGrafico {
@@ -27,8 +29,8 @@ class VentanaExportarGrafico : public QDialog, private VistaExportarGrafico {
     EntornoGrafico entorno_;
     ExportarGrafico operaciones_;
     DibujoDeEspacio dibujar_;
-    WidgetLienzo* lienzo_;
+    dibujo::qt::WidgetLienzo* lienzo_;
     QButtonGroup* formatos_ = nullptr;
 };
 
-}  // namespace trabex
+}  // namespace trabex::reportes::ui::qt

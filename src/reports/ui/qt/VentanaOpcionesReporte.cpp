@@ -9,7 +9,7 @@
 
 #include "shell/qt/ComunVentanas.h"
 
-namespace trabex {
+namespace trabex::reportes::ui::qt {
 
 namespace {
 
@@ -36,8 +36,8 @@ constexpr const char* Orientaciones[]{"Vertical", "Horizontal"};
 
 }  // namespace
 
-VentanaOpcionImpreLosas::VentanaOpcionImpreLosas(EstadoReportes& estado, const Tapiz& preferencias,
-                                                 QWidget* padre)
+VentanaOpcionImpreLosas::VentanaOpcionImpreLosas(montaje::EstadoReportes& estado,
+                                                 const programa::Tapiz& preferencias, QWidget* padre)
     : QDialog(padre), operaciones_(estado) {
     setObjectName("OpcionImpreLosas");
     setWindowTitle(OpcionImpreLosas::Titulo);
@@ -47,16 +47,16 @@ VentanaOpcionImpreLosas::VentanaOpcionImpreLosas(EstadoReportes& estado, const T
     desplazamientos->setChecked(estado.ExportarDesplazamientos);
     columna->addWidget(desplazamientos);
     columna->addStretch(1);
-    columna->addLayout(FilaAceptarCancelar(this, [this, losas, desplazamientos] {
+    columna->addLayout(programa::qt::FilaAceptarCancelar(this, [this, losas, desplazamientos] {
         operaciones_.Aceptar(static_cast<std::uint8_t>(losas->checkedId()), desplazamientos->isChecked());
         accept();
     }));
     setMinimumWidth(340);
-    PrepararVentana(this, preferencias);
+    programa::qt::PrepararVentana(this, preferencias);
 }
 
-VentanaOpcionGrafico::VentanaOpcionGrafico(const DialogoDeGraficos& dialogo, EstadoReportes& estado,
-                                           const Tapiz& preferencias, QWidget* padre)
+VentanaOpcionGrafico::VentanaOpcionGrafico(const DialogoDeGraficos& dialogo, montaje::EstadoReportes& estado,
+                                           const programa::Tapiz& preferencias, QWidget* padre)
     : QDialog(padre) {
     setObjectName(dialogo.Nombre);
     setWindowTitle(dialogo.Titulo);
@@ -71,14 +71,14 @@ VentanaOpcionGrafico::VentanaOpcionGrafico(const DialogoDeGraficos& dialogo, Est
         columna->addLayout(fila);
     }
     columna->addStretch(1);
-    columna->addLayout(FilaAceptarCancelar(this, [this, &estado, graficos, papel, orientacion] {
+    columna->addLayout(programa::qt::FilaAceptarCancelar(this, [this, &estado, graficos, papel, orientacion] {
         estado.OpcionGrafico = static_cast<std::uint8_t>(graficos->checkedId());
         if (papel != nullptr) estado.PapelA4 = papel->checkedId() == 1;
         if (orientacion != nullptr) estado.Apaisado = orientacion->checkedId() == 1;
         accept();
     }));
     setMinimumWidth(340);
-    PrepararVentana(this, preferencias);
+    programa::qt::PrepararVentana(this, preferencias);
 }
 
-}  // namespace trabex
+}  // namespace trabex::reportes::ui::qt

@@ -5,12 +5,13 @@
 #include "reports/ui/OpcionesReporte.h"
 #include "shell/Tapiz.h"
 
-namespace trabex {
+namespace trabex::reportes::ui::qt {
 
 /// Asks for the slabs of a results report.
 class VentanaOpcionImpreLosas : public QDialog {
   public:
-    VentanaOpcionImpreLosas(EstadoReportes& estado, const Tapiz& preferencias, QWidget* padre);
+    VentanaOpcionImpreLosas(montaje::EstadoReportes& estado, const programa::Tapiz& preferencias,
+                            QWidget* padre);
     bool Aceptado() const { return operaciones_.Aceptado(); }
 
   private:
@@ -21,8 +22,8 @@ class VentanaOpcionImpreLosas : public QDialog {
 /// state.
 class VentanaOpcionGrafico : public QDialog {
   public:
-    VentanaOpcionGrafico(const DialogoDeGraficos& dialogo, EstadoReportes& estado, const Tapiz& preferencias,
-                         QWidget* padre);
+    VentanaOpcionGrafico(const DialogoDeGraficos& dialogo, montaje::EstadoReportes& estado,
+                         const programa::Tapiz& preferencias, QWidget* padre);
 };
 
-}  // namespace trabex
+}  // namespace trabex::reportes::ui::qt

@@ -9,7 +9,7 @@
 
 #include "reports/ui/qt/VentanaVerReportes.h"
 
-namespace trabex {
+namespace trabex::reportes::ui::qt {
 
 VentanaSalidaReporte::VentanaSalidaReporte(EntornoSalida& entorno, Clase clase, QWidget* padre)
     : QDialog(padre), entorno_(entorno) {
@@ -21,7 +21,7 @@ VentanaSalidaReporte::VentanaSalidaReporte(EntornoSalida& entorno, Clase clase, 
     setWindowTitle(clase == Clase::Tabular ? "IMPRIMIR Y EXPORTAR EL REPORTE"
                                            : "IMPRIMIR Y EXPORTAR LOS GRÁFICOS");
     Armar();
-    PrepararVentana(this, entorno.LaAplicacion.Preferencias);
+    programa::qt::PrepararVentana(this, entorno.LaAplicacion.Preferencias);
 }
 
 void VentanaSalidaReporte::Armar() {
@@ -37,15 +37,15 @@ void VentanaSalidaReporte::Armar() {
     opciones_->button(anterior < static_cast<int>(Salidas.size()) ? anterior : SalidaPantalla)
         ->setChecked(true);
 
-    auto* carpeta = Boton("", "carpeta", this);
+    auto* carpeta = programa::qt::Boton("", "carpeta", this);
     carpeta->setObjectName("Carpeta");
     carpeta->setAutoDefault(false);
-    PonerAyuda(carpeta, "Carpeta", "Abrir la carpeta de los reportes exportados.");
+    programa::qt::PonerAyuda(carpeta, "Carpeta", "Abrir la carpeta de los reportes exportados.");
     connect(carpeta, &QPushButton::clicked, this, [this] { operaciones_->AbrirCarpeta(); });
     auto* pie = new QHBoxLayout;
     pie->addWidget(carpeta);
     pie->addStretch(1);
-    pie->addLayout(FilaAceptarCancelar(
+    pie->addLayout(programa::qt::FilaAceptarCancelar(
         this, [this] { operaciones_->Aceptar(static_cast<std::uint8_t>(opciones_->checkedId())); }));
 
     auto* columna = new QVBoxLayout(this);
@@ -55,8 +55,8 @@ void VentanaSalidaReporte::Armar() {
     setMinimumWidth(380);
 }
 
-void VentanaSalidaReporte::Ver(const Documento& documento) {
+void VentanaSalidaReporte::Ver(const documento::Documento& documento) {
     VentanaVerReportes(entorno_, documento, this).exec();
 }
 
-}  // namespace trabex
+}  // namespace trabex::reportes::ui::qt

@@ -8,7 +8,7 @@
 
 class QButtonGroup;
 
-namespace trabex {
+namespace trabex::reportes::ui::qt {
 
 /// The dialog of report output, on the operations of the tabular or of the drawing reports.
 class VentanaSalidaReporte : public QDialog, public VistaSalidaReporte {
@@ -19,13 +19,13 @@ class VentanaSalidaReporte : public QDialog, public VistaSalidaReporte {
   private:
     void Armar();
     void PunteroDeEspera(bool espera) override { puntero_.Poner(espera); }
-    void Ver(const Documento& documento) override;
+    void Ver(const documento::Documento& documento) override;
     void Cerrar() override { accept(); }
 
     EntornoSalida& entorno_;
     std::unique_ptr<SalidaReporte> operaciones_;
     QButtonGroup* opciones_ = nullptr;
-    PunteroDeTrabajo puntero_;
+    programa::qt::PunteroDeTrabajo puntero_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::reportes::ui::qt

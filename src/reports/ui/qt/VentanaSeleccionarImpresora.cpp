@@ -7,7 +7,7 @@
 #include "shell/qt/ComunVentanas.h"
 #include "shell/qt/Iconos.h"
 
-namespace trabex {
+namespace trabex::reportes::ui::qt {
 
 VentanaSeleccionarImpresora::VentanaSeleccionarImpresora(EntornoSalida& entorno, QWidget* padre)
     : QDialog(padre), operaciones_(entorno) {
@@ -15,7 +15,7 @@ VentanaSeleccionarImpresora::VentanaSeleccionarImpresora(EntornoSalida& entorno,
     setWindowTitle("Cambiar de Impresora");
     Armar();
     resize(460, 300);
-    PrepararVentana(this, entorno.LaAplicacion.Preferencias);
+    programa::qt::PrepararVentana(this, entorno.LaAplicacion.Preferencias);
 }
 
 void VentanaSeleccionarImpresora::Armar() {
@@ -27,7 +27,7 @@ void VentanaSeleccionarImpresora::Armar() {
     lista_->setMovement(QListView::Static);
     lista_->setWordWrap(true);
     for (const std::string& nombre : operaciones_.Disponibles())
-        lista_->addItem(new QListWidgetItem(Icono("impresora"), Q(nombre)));
+        lista_->addItem(new QListWidgetItem(programa::qt::Icono("impresora"), programa::qt::Q(nombre)));
     if (const auto actual = operaciones_.MarcarImpresoraDefecto())
         lista_->setCurrentRow(static_cast<int>(*actual));
     connect(lista_, &QListWidget::itemActivated, this, [this] { Aceptar(); });
@@ -43,7 +43,7 @@ void VentanaSeleccionarImpresora::Armar() {
         aviso->setAlignment(Qt::AlignCenter);
         columna->addWidget(aviso, 1);
     }
-    columna->addLayout(FilaAceptarCancelar(this, [this] { Aceptar(); }));
+    columna->addLayout(programa::qt::FilaAceptarCancelar(this, [this] { Aceptar(); }));
 }
 
 void VentanaSeleccionarImpresora::Aceptar() {
@@ -52,11 +52,11 @@ void VentanaSeleccionarImpresora::Aceptar() {
         reject();
         return;
     }
-    if (operaciones_.Aceptar(S(elegida->text()))) accept();
+    if (operaciones_.Aceptar(programa::qt::S(elegida->text()))) accept();
 }
 
 void SeleccionarImpresoraTBX(EntornoSalida& entorno, QWidget* padre) {
     VentanaSeleccionarImpresora(entorno, padre).exec();
 }
 
-}  // namespace trabex
+}  // namespace trabex::reportes::ui::qt

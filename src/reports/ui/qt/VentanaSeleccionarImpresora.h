@@ -6,7 +6,7 @@
 
 class QListWidget;
 
-namespace trabex {
+namespace trabex::reportes::ui::qt {
 
 /// Chooses the printer of the program, until it ends.
 class VentanaSeleccionarImpresora : public QDialog {
@@ -24,4 +24,4 @@ class VentanaSeleccionarImpresora : public QDialog {
 /// The command of the workspaces.
 void SeleccionarImpresoraTBX(EntornoSalida& entorno, QWidget* padre);
 
-}  // namespace trabex
+}  // namespace trabex::reportes::ui::qt

@@ -16,7 +16,7 @@
 #include "shell/qt/ComunVentanas.h"
 #include "shell/qt/Iconos.h"
 
-namespace trabex {
+namespace trabex::reportes::ui::qt {
 
 namespace {
 
@@ -27,7 +27,7 @@ constexpr int OpcionAncho = -1;
 constexpr int OpcionPagina = -2;
 
 QAction* Accion(QToolBar& barra, const char* icono, const QString& titulo, const QKeySequence& tecla) {
-    QAction* accion = barra.addAction(Icono(icono), titulo);
+    QAction* accion = barra.addAction(programa::qt::Icono(icono), titulo);
     accion->setShortcut(tecla);
     accion->setToolTip(tecla.isEmpty() ? titulo
                                        : titulo + " (" + tecla.toString(QKeySequence::NativeText) + ")");
@@ -36,18 +36,19 @@ QAction* Accion(QToolBar& barra, const char* icono, const QString& titulo, const
 
 }  // namespace
 
-VentanaVerReportes::VentanaVerReportes(EntornoSalida& entorno, const Documento& documento, QWidget* padre)
+VentanaVerReportes::VentanaVerReportes(EntornoSalida& entorno, const documento::Documento& documento,
+                                       QWidget* padre)
     : QDialog(padre),
       entorno_(entorno),
       exportador_(entorno),
       documento_(documento),
-      vista_(new VistaPaginas(documento, this)) {
+      vista_(new salidas::qt::VistaPaginas(documento, this)) {
     setObjectName("VerReportes");
     setWindowTitle("TBX-Visualizador de Reportes");
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     Armar();
-    TamanoInicial(this, {1000, 760});
-    PrepararVentana(this, entorno.LaAplicacion.Preferencias);
+    programa::qt::TamanoInicial(this, {1000, 760});
+    programa::qt::PrepararVentana(this, entorno.LaAplicacion.Preferencias);
     vista_->PonerZoom(ZoomInicial);
     vista_->setFocus();
 }
@@ -65,9 +66,9 @@ void VentanaVerReportes::Armar() {
     auto* hueco = new QWidget(barra);
     hueco->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     barra->addWidget(hueco);
-    auto* retorno = Boton("Retorno", "salida", barra);
+    auto* retorno = programa::qt::Boton("Retorno", "salida", barra);
     retorno->setAutoDefault(false);
-    PonerAyuda(retorno, "Retorno", "Cerrar el visualizador.");
+    programa::qt::PonerAyuda(retorno, "Retorno", "Cerrar el visualizador.");
     connect(retorno, &QPushButton::clicked, this, &QDialog::accept);
     barra->addWidget(retorno);
 
@@ -89,10 +90,10 @@ void VentanaVerReportes::ArmarSalidas(QToolBar& barra) {
     }
     auto* exportar = new QToolButton(&barra);
     exportar->setObjectName("Exportar");
-    exportar->setIcon(Icono("salvar"));
+    exportar->setIcon(programa::qt::Icono("salvar"));
     exportar->setPopupMode(QToolButton::InstantPopup);
     exportar->setMenu(menu);
-    PonerAyuda(exportar, "Exportar", "Exportar el reporte a un archivo.");
+    programa::qt::PonerAyuda(exportar, "Exportar", "Exportar el reporte a un archivo.");
     barra.addWidget(exportar);
     QAction* carpeta = Accion(barra, "carpeta", "Abrir la carpeta de los reportes exportados", {});
     connect(carpeta, &QAction::triggered, this, [this] { exportador_.AbrirCarpeta(); });
@@ -147,7 +148,7 @@ void VentanaVerReportes::ArmarBusqueda(QToolBar& barra) {
     busqueda_->setPlaceholderText("Buscar");
     busqueda_->setClearButtonEnabled(true);
     busqueda_->setMaximumWidth(190);
-    busqueda_->addAction(Icono("buscar"), QLineEdit::LeadingPosition);
+    busqueda_->addAction(programa::qt::Icono("buscar"), QLineEdit::LeadingPosition);
     barra.addWidget(busqueda_);
     hallazgos_ = new QLabel(&barra);
     hallazgos_->setObjectName("Hallazgos");
@@ -216,4 +217,4 @@ void VentanaVerReportes::Buscar(bool adelante) {
         hallazgos_->setText(QString(" %1 de %2 ").arg(cual).arg(vista_->NumeroHallazgos()));
 }
 
-}  // namespace trabex
+}  // namespace trabex::reportes::ui::qt

@@ -10,15 +10,17 @@ class QLineEdit;
 class QSpinBox;
 class QToolBar;
 
-namespace trabex {
-
+namespace trabex::salidas::qt {
 class VistaPaginas;
+}
+
+namespace trabex::reportes::ui::qt {
 
 /// `VerReportes`: a report on the screen, to be read, searched, printed and exported.
 class VentanaVerReportes : public QDialog {
   public:
     /// The document must outlive the window.
-    VentanaVerReportes(EntornoSalida& entorno, const Documento& documento, QWidget* padre);
+    VentanaVerReportes(EntornoSalida& entorno, const documento::Documento& documento, QWidget* padre);
 
   private:
     void Armar();
@@ -35,8 +37,8 @@ class VentanaVerReportes : public QDialog {
 
     EntornoSalida& entorno_;
     ExportadorReportes exportador_;
-    const Documento& documento_;
-    VistaPaginas* vista_;
+    const documento::Documento& documento_;
+    salidas::qt::VistaPaginas* vista_;
     QSpinBox* pagina_ = nullptr;
     QComboBox* zoom_ = nullptr;
     QLineEdit* busqueda_ = nullptr;
@@ -44,4 +46,4 @@ class VentanaVerReportes : public QDialog {
     QString buscado_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::reportes::ui::qt

@@ -9,39 +9,44 @@
 #include "shell/qt/ComunVentanas.h"
 #include "slab/salida/GraficosLosas.h"
 
-namespace trabex {
+namespace trabex::losas::ui::qt {
 
-void ImprimirGraficosLosas(QPrinter& impresora, const ProyectoParaReporte& origen, const HojaLosa& pantalla,
-                           const std::string& usuario, EstadoReportes& estado) {
-    const BanderaEnAlto generando(estado.GenerandoReporte);
-    const PedidoDeGraficos pedido = PedidoDe(estado.OpcionGrafico);
-    const DatosDePagina pagina{usuario, origen.Datos.Proyecto, origen.Datos.Calculista};
-    HojaLosa hoja = pantalla;
+void ImprimirGraficosLosas(QPrinter& impresora, const losas::salida::ProyectoParaReporte& origen,
+                           const dibujo::losa::HojaLosa& pantalla, const std::string& usuario,
+                           montaje::EstadoReportes& estado) {
+    const montaje::BanderaEnAlto generando(estado.GenerandoReporte);
+    const losas::salida::PedidoDeGraficos pedido = losas::salida::PedidoDe(estado.OpcionGrafico);
+    const dibujo::losa::DatosDePagina pagina{usuario, origen.Datos.Proyecto, origen.Datos.Calculista};
+    dibujo::losa::HojaLosa hoja = pantalla;
     if (pedido.Todas) hoja.Vista = {};
-    impresora.setResolution(UnidadesPorPulgadaDePapel);
-    PapelQt papel(impresora);
-    RecorrerLosas(origen, pedido.Todas, [&](const LosaDelProyecto& losa) {
-        for (const DibujoDeLosa& dibujo : pedido.Dibujos) {
+    impresora.setResolution(dibujo::qt::UnidadesPorPulgadaDePapel);
+    dibujo::qt::PapelQt papel(impresora);
+    losas::salida::RecorrerLosas(origen, pedido.Todas, [&](const losas::salida::LosaDelProyecto& losa) {
+        for (const losas::salida::DibujoDeLosa& dibujo : pedido.Dibujos) {
             hoja.VistaActual = dibujo.Vista;
             hoja.SoloReacciones = dibujo.SoloReacciones;
-            papel.Pagina([&](Lienzo& lienzo) {
-                GuardeGraficos1(lienzo, hoja, {losa.Datos, losa.Generales, losa.Resultados}, pagina);
+            papel.Pagina([&](dibujo::Lienzo& lienzo) {
+                dibujo::losa::GuardeGraficos1(lienzo, hoja, {losa.Datos, losa.Generales, losa.Resultados},
+                                              pagina);
             });
         }
     });
     papel.Terminar();
 }
 
-void PedirEImprimirGraficosLosas(EntornoSalida& entorno, const ProyectoParaReporte& origen,
-                                 const HojaLosa& pantalla, EstadoReportes& estado, QWidget* padre) {
-    ExportadorReportes exportador(entorno);
+void PedirEImprimirGraficosLosas(reportes::ui::EntornoSalida& entorno,
+                                 const losas::salida::ProyectoParaReporte& origen,
+                                 const dibujo::losa::HojaLosa& pantalla, montaje::EstadoReportes& estado,
+                                 QWidget* padre) {
+    reportes::ui::ExportadorReportes exportador(entorno);
     if (!exportador.HayImpresoras()) return;
     QPrinter impresora(QPrinter::HighResolution);
-    if (!entorno.Estado.Impresora.empty()) impresora.setPrinterName(Q(entorno.Estado.Impresora));
+    if (!entorno.Estado.Impresora.empty())
+        impresora.setPrinterName(programa::qt::Q(entorno.Estado.Impresora));
     impresora.setDocName("Trabex 2024");
     QPrintDialog dialogo(&impresora, padre);
     if (dialogo.exec() != QDialog::Accepted) return;
-    PunteroDeTrabajo puntero;
+    programa::qt::PunteroDeTrabajo puntero;
     puntero.Poner(true);
     try {
         ImprimirGraficosLosas(impresora, origen, pantalla, entorno.LaAplicacion.Usuario, estado);
@@ -52,4 +57,4 @@ void PedirEImprimirGraficosLosas(EntornoSalida& entorno, const ProyectoParaRepor
     }
 }
 
-}  // namespace trabex
+}  // namespace trabex::losas::ui::qt

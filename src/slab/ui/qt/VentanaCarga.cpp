@@ -12,21 +12,22 @@
 #include "shell/qt/CampoNumero.h"
 #include "shell/qt/ComunVentanas.h"
 
-namespace trabex {
+namespace trabex::losas::ui::qt {
 
 VentanaCarga::VentanaCarga(CargaDeTramos& operaciones, const Separadores& separadores,
-                           const Tapiz& preferencias, QWidget* padre)
+                           const programa::Tapiz& preferencias, QWidget* padre)
     : QDialog(padre),
       operaciones_(operaciones),
       separadores_(separadores),
       preferencias_(preferencias),
-      marco_(new QGroupBox(Q(operaciones.Marco()), this)),
+      marco_(new QGroupBox(programa::qt::Q(operaciones.Marco()), this)),
       formulario_(new QFormLayout(marco_)),
       encabezado_(new QLabel(this)),
       deslizador_(new QScrollBar(Qt::Horizontal, this)) {}
 
-CampoNumero* VentanaCarga::Campo(const QString& rotulo, const ClaseNumero& clase) {
-    auto* campo = new CampoNumero(clase, separadores_, marco_);
+programa::qt::CampoNumero* VentanaCarga::Campo(const QString& rotulo,
+                                               const programa::qt::ClaseNumero& clase) {
+    auto* campo = new programa::qt::CampoNumero(clase, separadores_, marco_);
     campo->installEventFilter(this);
     connect(campo, &QLineEdit::textEdited, this, [this] { TomarSiValen(); });
     formulario_->addRow(rotulo, campo);
@@ -58,16 +59,16 @@ void VentanaCarga::Armar(const QString& titulo, QWidget* pie) {
     columna->addStretch(1);
     columna->addLayout(FilaDeBotones());
     MostrarTramo();
-    PrepararVentana(this, preferencias_);
+    programa::qt::PrepararVentana(this, preferencias_);
     campos_.front()->setFocus();
 }
 
 QLayout* VentanaCarga::FilaDeBotones() {
-    auto* fijar = Boton("&Fijar Carga", "", this);
-    auto* igualar = Boton("&Igualar", "", this);
-    auto* cancelar = Boton(" Cancelar ", "", this);
-    PonerAyuda(fijar, "Fijar Carga", "Fijar las cargas de todos los tramos. ");
-    PonerAyuda(igualar, "Igualar", "Igualar todos los tramos a la carga seleccionada. ");
+    auto* fijar = programa::qt::Boton("&Fijar Carga", "", this);
+    auto* igualar = programa::qt::Boton("&Igualar", "", this);
+    auto* cancelar = programa::qt::Boton(" Cancelar ", "", this);
+    programa::qt::PonerAyuda(fijar, "Fijar Carga", "Fijar las cargas de todos los tramos. ");
+    programa::qt::PonerAyuda(igualar, "Igualar", "Igualar todos los tramos a la carga seleccionada. ");
     connect(fijar, &QPushButton::clicked, this, [this] {
         if (!Entradas()) return;
         operaciones_.Fijar();
@@ -83,14 +84,15 @@ QLayout* VentanaCarga::FilaDeBotones() {
     return fila;
 }
 
-CampoNumero* VentanaCarga::PrimerMalo() const {
-    const auto malo = std::find_if(campos_.begin(), campos_.end(),
-                                   [](const CampoNumero* campo) { return !campo->hasAcceptableInput(); });
+programa::qt::CampoNumero* VentanaCarga::PrimerMalo() const {
+    const auto malo =
+        std::find_if(campos_.begin(), campos_.end(),
+                     [](const programa::qt::CampoNumero* campo) { return !campo->hasAcceptableInput(); });
     return malo == campos_.end() ? nullptr : *malo;
 }
 
 bool VentanaCarga::Entradas() {
-    CampoNumero* malo = PrimerMalo();
+    programa::qt::CampoNumero* malo = PrimerMalo();
     if (malo == nullptr) return true;
     malo->setFocus();
     malo->selectAll();
@@ -102,7 +104,7 @@ void VentanaCarga::TomarSiValen() {
 }
 
 void VentanaCarga::MostrarTramo() {
-    encabezado_->setText(Q(operaciones_.Encabezado()));
+    encabezado_->setText(programa::qt::Q(operaciones_.Encabezado()));
     MostrarCampos();
 }
 
@@ -135,16 +137,16 @@ bool VentanaCarga::eventFilter(QObject* objeto, QEvent* evento) {
 }
 
 VentanaCarga01::VentanaCarga01(Carga01& operaciones, const Separadores& separadores,
-                               const Tapiz& preferencias, QWidget* padre)
+                               const programa::Tapiz& preferencias, QWidget* padre)
     : VentanaCarga(operaciones, separadores, preferencias, padre),
       operaciones_(operaciones),
-      permanente_(Campo("Carga Permanente (kgf/m)  Wp =", EnteroDe32)),
-      variable_(Campo("Carga Variable (kgf/m)  WV =", EnteroDe32)),
+      permanente_(Campo("Carga Permanente (kgf/m)  Wp =", programa::qt::EnteroDe32)),
+      variable_(Campo("Carga Variable (kgf/m)  WV =", programa::qt::EnteroDe32)),
       suma_(new QLabel(this)) {
     suma_->setAlignment(Qt::AlignRight);
     suma_->setFixedWidth(permanente_->width());
     static_cast<QFormLayout*>(permanente_->parentWidget()->layout())->addRow("Carga Total (kgf/m) =", suma_);
-    auto* leyenda = new QLabel(Q(operaciones.Leyenda()), this);
+    auto* leyenda = new QLabel(programa::qt::Q(operaciones.Leyenda()), this);
     leyenda->setWordWrap(true);
     Armar("CARGA UNIFORME", leyenda);
 }
@@ -152,21 +154,21 @@ VentanaCarga01::VentanaCarga01(Carga01& operaciones, const Separadores& separado
 void VentanaCarga01::MostrarCampos() {
     permanente_->PonerValor(operaciones_.Actual().Wp);
     variable_->PonerValor(operaciones_.Actual().WV);
-    suma_->setText(Q(operaciones_.Suma()));
+    suma_->setText(programa::qt::Q(operaciones_.Suma()));
 }
 
 void VentanaCarga01::TomarCampos() {
     operaciones_.Poner(static_cast<std::int32_t>(permanente_->Valor()),
                        static_cast<std::int32_t>(variable_->Valor()));
-    suma_->setText(Q(operaciones_.Suma()));
+    suma_->setText(programa::qt::Q(operaciones_.Suma()));
 }
 
 VentanaCarga02::VentanaCarga02(Carga02& operaciones, const Separadores& separadores,
-                               const Tapiz& preferencias, QWidget* padre)
+                               const programa::Tapiz& preferencias, QWidget* padre)
     : VentanaCarga(operaciones, separadores, preferencias, padre),
       operaciones_(operaciones),
-      carga_(Campo("Carga Puntual (Permanente)", EnteroDe32)),
-      distancia_(Campo("Distancia al Eje Izquierdo (m)  L1 =", Longitud)) {
+      carga_(Campo("Carga Puntual (Permanente)", programa::qt::EnteroDe32)),
+      distancia_(Campo("Distancia al Eje Izquierdo (m)  L1 =", programa::qt::Longitud)) {
     Armar("CARGA PUNTUAL", nullptr);
 }
 
@@ -179,4 +181,4 @@ void VentanaCarga02::TomarCampos() {
     operaciones_.Poner(static_cast<std::int32_t>(carga_->Valor()), distancia_->Valor());
 }
 
-}  // namespace trabex
+}  // namespace trabex::losas::ui::qt

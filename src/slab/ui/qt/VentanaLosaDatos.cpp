@@ -22,7 +22,7 @@
 #include "shell/qt/Iconos.h"
 #include "slab/ui/qt/VentanaCarga.h"
 
-namespace trabex {
+namespace trabex::losas::ui::qt {
 
 namespace {
 
@@ -54,19 +54,19 @@ std::size_t Indice(int fila) {
 
 QToolButton* BotonDeBarra(const QString& icono, const QString& texto, const QString& ayuda, QWidget* padre) {
     auto* boton = new QToolButton(padre);
-    boton->setIcon(Icono(icono));
+    boton->setIcon(programa::qt::Icono(icono));
     boton->setIconSize({24, 24});
     boton->setText(texto);
     boton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     boton->setAutoRaise(true);
     boton->setFocusPolicy(Qt::TabFocus);
-    PonerAyuda(boton, texto.trimmed().remove('&'), ayuda);
+    programa::qt::PonerAyuda(boton, texto.trimmed().remove('&'), ayuda);
     return boton;
 }
 
 }  // namespace
 
-VentanaLosaDatos::VentanaLosaDatos(Losas& losas, CajaMensajes& caja, QWidget* padre)
+VentanaLosaDatos::VentanaLosaDatos(Losas& losas, programa::CajaMensajes& caja, QWidget* padre)
     : QDialog(padre),
       losas_(losas),
       caja_(caja),
@@ -76,7 +76,7 @@ VentanaLosaDatos::VentanaLosaDatos(Losas& losas, CajaMensajes& caja, QWidget* pa
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     redibujo_.setSingleShot(true);
     connect(&redibujo_, &QTimer::timeout, this,
-            [this] { static_cast<WidgetLienzo*>(bocetos_->currentWidget())->RedibujeVista(); });
+            [this] { static_cast<dibujo::qt::WidgetLienzo*>(bocetos_->currentWidget())->RedibujeVista(); });
     paginas_ = new QTabWidget(this);
     paginas_->addTab(PaginaDeSeccion(), "Sección");
     paginas_->addTab(PaginaDeTramos(), "Tramos y Ejes");
@@ -94,9 +94,9 @@ VentanaLosaDatos::VentanaLosaDatos(Losas& losas, CajaMensajes& caja, QWidget* pa
     columna->addWidget(partes, 1);
     for (QPushButton* boton : findChildren<QPushButton*>()) boton->setAutoDefault(false);
     connect(paginas_, &QTabWidget::currentChanged, this, [this] { CambiarPagina(); });
-    TamanoInicial(this, {1060, 600});
+    programa::qt::TamanoInicial(this, {1060, 600});
     operaciones_.Abrir();
-    PrepararVentana(this, losas_.Programa().Preferencias);
+    programa::qt::PrepararVentana(this, losas_.Programa().Preferencias);
     primeros_[0]->setFocus();
 }
 
@@ -118,7 +118,7 @@ QLayout* VentanaLosaDatos::FilaDeComandos() {
     selector_ = new QComboBox(this);
     selector_->setMinimumWidth(240);
     selector_->setFocusPolicy(Qt::TabFocus);
-    PonerAyuda(selector_, "Losas", "Elegir otra losa del proyecto. ");
+    programa::qt::PonerAyuda(selector_, "Losas", "Elegir otra losa del proyecto. ");
     connect(selector_, &QComboBox::activated, this, [this](int lugar) { ElegirLosa(lugar); });
     auto* rotulo = new QLabel("&Losa:", this);
     rotulo->setBuddy(selector_);
@@ -147,7 +147,7 @@ QWidget* VentanaLosaDatos::PaginaDeSeccion() {
     auto* medidas = new QGroupBox("Sección", pagina);
     formulario_ = new QFormLayout(medidas);
     for (const RotuloDeCampo& rotulo : CamposDeSeccion) {
-        auto* campo = new CampoNumero(Longitud, numeros_, medidas);
+        auto* campo = new programa::qt::CampoNumero(programa::qt::Longitud, numeros_, medidas);
         seccion_[static_cast<std::size_t>(rotulo.Campo)] = campo;
         campo->setObjectName(rotulo.Nombre);
         formulario_->addRow(rotulo.Texto, campo);
@@ -164,7 +164,7 @@ QWidget* VentanaLosaDatos::PaginaDeSeccion() {
 }
 
 /// Enter in a count goes on to the table that it sizes.
-void VentanaLosaDatos::SeguirEn(QSpinBox* contador, TablaDatos* tabla) {
+void VentanaLosaDatos::SeguirEn(QSpinBox* contador, programa::qt::TablaDatos* tabla) {
     connect(contador->findChild<QLineEdit*>(), &QLineEdit::returnPressed, this, [tabla] {
         if (tabla->Filas() == 0) return;
         tabla->setFocus();
@@ -182,8 +182,9 @@ QSpinBox* VentanaLosaDatos::Contador(int maximo, const char* nombre) {
     return contador;
 }
 
-TablaDatos* VentanaLosaDatos::Tabla(std::vector<ColumnaDatos> columnas, Avance avance, const char* nombre) {
-    auto* tabla = new TablaDatos(std::move(columnas), numeros_, avance, this);
+programa::qt::TablaDatos* VentanaLosaDatos::Tabla(std::vector<programa::qt::ColumnaDatos> columnas,
+                                                  programa::qt::Avance avance, const char* nombre) {
+    auto* tabla = new programa::qt::TablaDatos(std::move(columnas), numeros_, avance, this);
     tabla->setObjectName(nombre);
     tabla->AlCambiarFila([this](int) { Redibujar(); });
     return tabla;
@@ -193,25 +194,26 @@ QWidget* VentanaLosaDatos::PaginaDeTramos() {
     auto* pagina = new QWidget(this);
     numeroTramos_ = Contador(MaximoDeTramos, "NumeroTramos");
     connect(numeroTramos_, &QSpinBox::valueChanged, this, [this](int tramos) { PonerNumeroTramos(tramos); });
-    ejes_ = Tabla({{.Titulo = "Nombre Eje",
-                    .Numero = std::nullopt,
-                    .Leer = [this](int j) { return Q(operaciones_.Edicion().Ejes[Indice(j)].Eje); },
-                    .Poner =
-                        [this](int j, const QVariant& eje) {
-                            operaciones_.PonerEje(Indice(j), S(eje.toString().trimmed()));
-                            return true;
-                        },
-                    .Largo = LargoDeEje}},
-                  Avance::Abajo, "Ejes");
+    ejes_ =
+        Tabla({{.Titulo = "Nombre Eje",
+                .Numero = std::nullopt,
+                .Leer = [this](int j) { return programa::qt::Q(operaciones_.Edicion().Ejes[Indice(j)].Eje); },
+                .Poner =
+                    [this](int j, const QVariant& eje) {
+                        operaciones_.PonerEje(Indice(j), programa::qt::S(eje.toString().trimmed()));
+                        return true;
+                    },
+                .Largo = LargoDeEje}},
+              programa::qt::Avance::Abajo, "Ejes");
     luces_ = Tabla({{.Titulo = "Longitud (m)",
-                     .Numero = Longitud,
+                     .Numero = programa::qt::Longitud,
                      .Leer = [this](int i) { return operaciones_.Edicion().Tramos[Indice(i)].LT; },
                      .Poner =
                          [this](int i, const QVariant& LT) {
                              operaciones_.PonerLongitud(Indice(i), LT.toDouble());
                              return true;
                          }}},
-                   Avance::Abajo, "Luces");
+                   programa::qt::Avance::Abajo, "Luces");
     auto* fila = new QHBoxLayout;
     auto* rotulo = new QLabel("Número de &Tramos =", pagina);
     rotulo->setBuddy(numeroTramos_);
@@ -231,9 +233,10 @@ QWidget* VentanaLosaDatos::PaginaDeTramos() {
     return pagina;
 }
 
-ColumnaDatos VentanaLosaDatos::ColumnaDeCorrimiento(const QString& titulo, double JuntaD::*campo) {
+programa::qt::ColumnaDatos VentanaLosaDatos::ColumnaDeCorrimiento(const QString& titulo,
+                                                                  double JuntaD::*campo) {
     return {.Titulo = titulo,
-            .Numero = Distancia,
+            .Numero = programa::qt::Distancia,
             .Leer = [this, campo](int k) { return operaciones_.Edicion().JuntasD[Indice(k)].*campo; },
             .Poner =
                 [this, campo](int k, const QVariant& valor) {
@@ -251,7 +254,7 @@ QWidget* VentanaLosaDatos::PaginaDeJuntasD() {
             [this](int juntas) { PonerNumeroJuntasD(juntas); });
     juntasD_ = Tabla(
         {{.Titulo = "Junta Número",
-          .Numero = NaturalDe16,
+          .Numero = programa::qt::NaturalDe16,
           .Leer =
               [this](int k) { return static_cast<double>(operaciones_.Edicion().JuntasD[Indice(k)].Junta); },
           .Poner =
@@ -260,7 +263,7 @@ QWidget* VentanaLosaDatos::PaginaDeJuntasD() {
               }},
          ColumnaDeCorrimiento("X (m)", &JuntaD::x),
          ColumnaDeCorrimiento("Y (m)", &JuntaD::y)},
-        Avance::Derecha, "JuntasD");
+        programa::qt::Avance::Derecha, "JuntasD");
     auto* fila = new QHBoxLayout;
     auto* rotulo = new QLabel("&Juntas Desplazadas =", pagina);
     rotulo->setBuddy(numeroJuntasD_);
@@ -279,12 +282,12 @@ QLayout* VentanaLosaDatos::FilaDeBotonesDeApoyo() {
     auto* fila = new QHBoxLayout;
     for (std::int16_t tipo = ApoyoFijo; tipo <= SinApoyo; ++tipo) {
         auto* boton = new QToolButton(this);
-        boton->setIcon(Icono("apoyo-" + QString::number(tipo)));
+        boton->setIcon(programa::qt::Icono("apoyo-" + QString::number(tipo)));
         boton->setIconSize({32, 32});
         boton->setText(QString::number(tipo));
         boton->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
         boton->setFocusPolicy(Qt::TabFocus);
-        PonerAyuda(boton, "Tipo " + QString::number(tipo), TextosDeApoyo[Indice(tipo - 1)]);
+        programa::qt::PonerAyuda(boton, "Tipo " + QString::number(tipo), TextosDeApoyo[Indice(tipo - 1)]);
         connect(boton, &QToolButton::clicked, this, [this, tipo] { operaciones_.PulsarTipo(tipo); });
         fila->addWidget(boton);
     }
@@ -297,10 +300,10 @@ QWidget* VentanaLosaDatos::PaginaDeApoyos() {
     const auto eje = [this](int j) -> const EjeLosa& { return operaciones_.Edicion().Ejes[Indice(j)]; };
     apoyos_ = Tabla({{.Titulo = "Eje",
                       .Numero = std::nullopt,
-                      .Leer = [eje](int j) { return Q(eje(j).Eje); },
+                      .Leer = [eje](int j) { return programa::qt::Q(eje(j).Eje); },
                       .Ancho = 70},
                      {.Titulo = "Tipo",
-                      .Numero = NaturalDe16,
+                      .Numero = programa::qt::NaturalDe16,
                       .Leer = [eje](int j) { return static_cast<double>(eje(j).Tipo); },
                       .Poner =
                           [this](int j, const QVariant& tipo) {
@@ -316,7 +319,7 @@ QWidget* VentanaLosaDatos::PaginaDeApoyos() {
                                          ? QString()
                                          : QString(TextosDeApoyo[Indice(tipo - 1)]).trimmed();
                           }}},
-                    Avance::Abajo, "Apoyos");
+                    programa::qt::Avance::Abajo, "Apoyos");
     auto* columna = new QVBoxLayout(pagina);
     columna->addLayout(FilaDeBotonesDeApoyo());
     columna->addWidget(apoyos_, 1);
@@ -324,9 +327,9 @@ QWidget* VentanaLosaDatos::PaginaDeApoyos() {
     return pagina;
 }
 
-ColumnaDatos VentanaLosaDatos::ColumnaDeCarga(const QString& titulo, const ClaseNumero& clase,
-                                              const std::function<double(const Tramo&)>& leer,
-                                              const std::function<void(Tramo&, double)>& poner) {
+programa::qt::ColumnaDatos VentanaLosaDatos::ColumnaDeCarga(
+    const QString& titulo, const programa::qt::ClaseNumero& clase,
+    const std::function<double(const Tramo&)>& leer, const std::function<void(Tramo&, double)>& poner) {
     return {.Titulo = titulo,
             .Numero = clase,
             .Leer = [this, leer](int i) { return leer(operaciones_.Edicion().Tramos[Indice(i)]); },
@@ -365,19 +368,19 @@ QWidget* VentanaLosaDatos::PaginaDeCargas() {
     auto* pagina = new QWidget(this);
     marcoCargas_ = new QGroupBox(pagina);
     const auto entero = [](double valor) { return static_cast<std::int32_t>(valor); };
-    cargas_ = Tabla(
-        {ColumnaDeCarga(
-             "Wp (kgf/m)", EnteroDe32, [](const Tramo& t) { return t.Wp; },
-             [entero](Tramo& t, double v) { t.Wp = entero(v); }),
-         ColumnaDeCarga(
-             "WV (kgf/m)", EnteroDe32, [](const Tramo& t) { return t.WV; },
-             [entero](Tramo& t, double v) { t.WV = entero(v); }),
-         ColumnaDeCarga(
-             "P1 (kgf)", EnteroDe32, [](const Tramo& t) { return t.p1; },
-             [entero](Tramo& t, double v) { t.p1 = entero(v); }),
-         ColumnaDeCarga(
-             "L1 (m)", Longitud, [](const Tramo& t) { return t.L1; }, [](Tramo& t, double v) { t.L1 = v; })},
-        Avance::Abajo, "Cargas");
+    cargas_ = Tabla({ColumnaDeCarga(
+                         "Wp (kgf/m)", programa::qt::EnteroDe32, [](const Tramo& t) { return t.Wp; },
+                         [entero](Tramo& t, double v) { t.Wp = entero(v); }),
+                     ColumnaDeCarga(
+                         "WV (kgf/m)", programa::qt::EnteroDe32, [](const Tramo& t) { return t.WV; },
+                         [entero](Tramo& t, double v) { t.WV = entero(v); }),
+                     ColumnaDeCarga(
+                         "P1 (kgf)", programa::qt::EnteroDe32, [](const Tramo& t) { return t.p1; },
+                         [entero](Tramo& t, double v) { t.p1 = entero(v); }),
+                     ColumnaDeCarga(
+                         "L1 (m)", programa::qt::Longitud, [](const Tramo& t) { return t.L1; },
+                         [](Tramo& t, double v) { t.L1 = v; })},
+                    programa::qt::Avance::Abajo, "Cargas");
     cargas_->AlCambiarFila([this](int tramo) {
         operaciones_.MoverATramo(Indice(tramo));
         MostrarTramo();
@@ -393,24 +396,24 @@ QWidget* VentanaLosaDatos::PaginaDeCargas() {
 
 QWidget* VentanaLosaDatos::Bocetos() {
     bocetos_ = new QStackedWidget(this);
-    lienzos_[0] = new WidgetLienzo(
+    lienzos_[0] = new dibujo::qt::WidgetLienzo(
         vistas_[0],
-        [this](Lienzo& lienzo) {
-            DibujeLosaDatos(lienzo, vistas_[0], operaciones_.Edicion(), Marca(), numeros_);
+        [this](dibujo::Lienzo& lienzo) {
+            dibujo::losa::DibujeLosaDatos(lienzo, vistas_[0], operaciones_.Edicion(), Marca(), numeros_);
         },
         bocetos_);
-    lienzos_[1] = new WidgetLienzo(
+    lienzos_[1] = new dibujo::qt::WidgetLienzo(
         vistas_[1],
-        [this](Lienzo& lienzo) {
-            DibujeLosaCargas(lienzo, vistas_[1], operaciones_.Edicion(), Marca(), numeros_);
+        [this](dibujo::Lienzo& lienzo) {
+            dibujo::losa::DibujeLosaCargas(lienzo, vistas_[1], operaciones_.Edicion(), Marca(), numeros_);
         },
         bocetos_);
-    for (WidgetLienzo* lienzo : lienzos_) bocetos_->addWidget(lienzo);
+    for (dibujo::qt::WidgetLienzo* lienzo : lienzos_) bocetos_->addWidget(lienzo);
     return bocetos_;
 }
 
 /// The span or the joint in hand on the page on show.
-MarcaBoceto VentanaLosaDatos::Marca() const {
+dibujo::losa::MarcaBoceto VentanaLosaDatos::Marca() const {
     switch (Pagina()) {
         case PaginaLosa::Tramos:
             if (ejes_->hasFocus()) return {0, Indice(ejes_->FilaActual())};
@@ -431,9 +434,9 @@ MarcaBoceto VentanaLosaDatos::Marca() const {
 
 void VentanaLosaDatos::Rellenar() {
     rellenando_ = true;
-    setWindowTitle(Q(operaciones_.Titulo()));
+    setWindowTitle(programa::qt::Q(operaciones_.Titulo()));
     selector_->clear();
-    for (const std::string& nombre : losas_.Nombres()) selector_->addItem(Q(nombre));
+    for (const std::string& nombre : losas_.Nombres()) selector_->addItem(programa::qt::Q(nombre));
     selector_->setCurrentIndex(losas_.Fila() - 1);
     (operaciones_.Edicion().OpcionMaciza ? maciza_ : nervada_)->setChecked(true);
     for (const RotuloDeCampo& rotulo : CamposDeSeccion)
@@ -445,12 +448,12 @@ void VentanaLosaDatos::Rellenar() {
 void VentanaLosaDatos::MostrarClase() {
     const bool maciza = operaciones_.Edicion().OpcionMaciza;
     for (const RotuloDeCampo& rotulo : CamposDeSeccion) {
-        CampoNumero* campo = seccion_[static_cast<std::size_t>(rotulo.Campo)];
+        programa::qt::CampoNumero* campo = seccion_[static_cast<std::size_t>(rotulo.Campo)];
         const bool visible = (rotulo.Campo == CampoSeccion::Hm) == maciza;
         campo->setVisible(visible);
         formulario_->labelForField(campo)->setVisible(visible);
     }
-    marcoCargas_->setTitle(Q(operaciones_.LeyendaDeCargas()));
+    marcoCargas_->setTitle(programa::qt::Q(operaciones_.LeyendaDeCargas()));
     Redibujar();
 }
 
@@ -472,7 +475,7 @@ void VentanaLosaDatos::Refrescar() {
 
 void VentanaLosaDatos::MostrarTramo() {
     const int tramo = static_cast<int>(operaciones_.TramoActual());
-    leyendaTramo_->setText(Q(operaciones_.LeyendaDeTramo()));
+    leyendaTramo_->setText(programa::qt::Q(operaciones_.LeyendaDeTramo()));
     const QSignalBlocker quieto(deslizador_);
     deslizador_->setValue(tramo);
     if (tramo > 0 && cargas_->FilaActual() != tramo)
@@ -505,7 +508,7 @@ void VentanaLosaDatos::CambiarPagina() {
 }
 
 void VentanaLosaDatos::EnfocarCampo(CampoSeccion campo) {
-    CampoNumero* cual = seccion_[static_cast<std::size_t>(campo)];
+    programa::qt::CampoNumero* cual = seccion_[static_cast<std::size_t>(campo)];
     cual->setFocus();
     cual->selectAll();
 }
@@ -537,18 +540,19 @@ void VentanaLosaDatos::PonerNumeroJuntasD(int juntas) {
 void VentanaLosaDatos::MostrarCarga01(const EntradaDeCarga& entrada) {
     Carga01 operaciones(entrada, caja_);
     VentanaCarga01 ventana(operaciones, numeros_, losas_.Programa().Preferencias, this);
-    MostrarModal(ventana);
+    programa::qt::MostrarModal(ventana);
 }
 
 void VentanaLosaDatos::MostrarCarga02(const EntradaDeCarga& entrada) {
     Carga02 operaciones(entrada, caja_);
     VentanaCarga02 ventana(operaciones, numeros_, losas_.Programa().Preferencias, this);
-    MostrarModal(ventana);
+    programa::qt::MostrarModal(ventana);
 }
 
 void VentanaLosaDatos::TerminarEdiciones() {
     for (QSpinBox* contador : {numeroTramos_, numeroJuntasD_}) contador->interpretText();
-    for (TablaDatos* tabla : {luces_, ejes_, juntasD_, apoyos_, cargas_}) tabla->TerminarEdicion();
+    for (programa::qt::TablaDatos* tabla : {luces_, ejes_, juntasD_, apoyos_, cargas_})
+        tabla->TerminarEdicion();
 }
 
 void VentanaLosaDatos::Salvar() {
@@ -571,4 +575,4 @@ void VentanaLosaDatos::reject() {
     operaciones_.Retorno();
 }
 
-}  // namespace trabex
+}  // namespace trabex::losas::ui::qt

@@ -18,14 +18,16 @@ class QSpinBox;
 class QStackedWidget;
 class QTabWidget;
 
-namespace trabex {
-
+namespace trabex::dibujo::qt {
 class WidgetLienzo;
+}
+
+namespace trabex::losas::ui::qt {
 
 /// Edits one slab: five pages of fields and tables beside a sketch that follows what is typed.
 class VentanaLosaDatos : public QDialog, public VistaLosaDatos {
   public:
-    VentanaLosaDatos(Losas& losas, CajaMensajes& caja, QWidget* padre);
+    VentanaLosaDatos(Losas& losas, programa::CajaMensajes& caja, QWidget* padre);
 
     void Rellenar() override;
     void Refrescar() override;
@@ -53,12 +55,13 @@ class VentanaLosaDatos : public QDialog, public VistaLosaDatos {
     QLayout* FilaDeBotonesDeApoyo();
     QLayout* FilaDeBotonesDeCarga();
     QSpinBox* Contador(int maximo, const char* nombre);
-    void SeguirEn(QSpinBox* contador, TablaDatos* tabla);
-    TablaDatos* Tabla(std::vector<ColumnaDatos> columnas, Avance avance, const char* nombre);
-    ColumnaDatos ColumnaDeCarga(const QString& titulo, const ClaseNumero& clase,
-                                const std::function<double(const Tramo&)>& leer,
-                                const std::function<void(Tramo&, double)>& poner);
-    ColumnaDatos ColumnaDeCorrimiento(const QString& titulo, double JuntaD::*campo);
+    void SeguirEn(QSpinBox* contador, programa::qt::TablaDatos* tabla);
+    programa::qt::TablaDatos* Tabla(std::vector<programa::qt::ColumnaDatos> columnas,
+                                    programa::qt::Avance avance, const char* nombre);
+    programa::qt::ColumnaDatos ColumnaDeCarga(const QString& titulo, const programa::qt::ClaseNumero& clase,
+                                              const std::function<double(const Tramo&)>& leer,
+                                              const std::function<void(Tramo&, double)>& poner);
+    programa::qt::ColumnaDatos ColumnaDeCorrimiento(const QString& titulo, double JuntaD::*campo);
 
     void PonerNumeroTramos(int tramos);
     void PonerNumeroJuntasD(int juntas);
@@ -69,10 +72,10 @@ class VentanaLosaDatos : public QDialog, public VistaLosaDatos {
     void ElegirLosa(int lugar);
     /// What is being typed is taken, as leaving it would.
     void TerminarEdiciones();
-    MarcaBoceto Marca() const;
+    dibujo::losa::MarcaBoceto Marca() const;
 
     Losas& losas_;
-    CajaMensajes& caja_;
+    programa::CajaMensajes& caja_;
     LosaDatos operaciones_;
     Separadores numeros_;
     bool rellenando_ = true;
@@ -83,22 +86,22 @@ class VentanaLosaDatos : public QDialog, public VistaLosaDatos {
     QRadioButton* nervada_;
     QRadioButton* maciza_;
     QFormLayout* formulario_;
-    std::array<CampoNumero*, 5> seccion_{};
+    std::array<programa::qt::CampoNumero*, 5> seccion_{};
     QSpinBox* numeroTramos_;
     QSpinBox* numeroJuntasD_;
-    TablaDatos* ejes_;
-    TablaDatos* luces_;
-    TablaDatos* juntasD_;
-    TablaDatos* apoyos_;
-    TablaDatos* cargas_;
+    programa::qt::TablaDatos* ejes_;
+    programa::qt::TablaDatos* luces_;
+    programa::qt::TablaDatos* juntasD_;
+    programa::qt::TablaDatos* apoyos_;
+    programa::qt::TablaDatos* cargas_;
     QGroupBox* marcoCargas_;
     QLabel* leyendaTramo_;
     QScrollBar* deslizador_;
     std::array<QWidget*, PaginasDeLosa> primeros_{};  // what takes the focus on each page
 
     QStackedWidget* bocetos_;
-    std::array<EstadoVista, 2> vistas_;
-    std::array<WidgetLienzo*, 2> lienzos_{};
+    std::array<dibujo::EstadoVista, 2> vistas_;
+    std::array<dibujo::qt::WidgetLienzo*, 2> lienzos_{};
 };
 
-}  // namespace trabex
+}  // namespace trabex::losas::ui::qt

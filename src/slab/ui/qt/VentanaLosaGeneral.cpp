@@ -9,11 +9,11 @@
 #include "shell/qt/CampoNumero.h"
 #include "shell/qt/ComunVentanas.h"
 
-namespace trabex {
+namespace trabex::losas::ui::qt {
 
 namespace {
 
-constexpr ClaseNumero EnteroDe16{true, -32768, 32767, 0};
+constexpr programa::qt::ClaseNumero EnteroDe16{true, -32768, 32767, 0};
 
 bool EsEntero(std::size_t campo) {
     return campo <= static_cast<std::size_t>(CampoLosaGeneral::FY);
@@ -21,7 +21,8 @@ bool EsEntero(std::size_t campo) {
 
 }  // namespace
 
-VentanaLosaGeneral::VentanaLosaGeneral(Aplicacion& aplicacion, CajaMensajes& caja, QWidget* padre)
+VentanaLosaGeneral::VentanaLosaGeneral(programa::Aplicacion& aplicacion, programa::CajaMensajes& caja,
+                                       QWidget* padre)
     : QDialog(padre),
       aplicacion_(aplicacion),
       caja_(caja),
@@ -30,7 +31,7 @@ VentanaLosaGeneral::VentanaLosaGeneral(Aplicacion& aplicacion, CajaMensajes& caj
     setWindowTitle("DATOS GENERALES");
     Armar();
     Mostrar(operaciones_.Valores());
-    PrepararVentana(this, aplicacion_.Preferencias);
+    programa::qt::PrepararVentana(this, aplicacion_.Preferencias);
 }
 
 void VentanaLosaGeneral::Armar() {
@@ -50,8 +51,9 @@ void VentanaLosaGeneral::Armar() {
         auto* formulario = new QFormLayout(caja);
         for (const char* rotulo : marco.Rotulos) {
             if (rotulo == nullptr) continue;
-            campos_[campo] = new CampoNumero(EsEntero(campo) ? EnteroDe16 : ClaseNumero{},
-                                             aplicacion_.SeparadoresLocales, caja);
+            campos_[campo] =
+                new programa::qt::CampoNumero(EsEntero(campo) ? EnteroDe16 : programa::qt::ClaseNumero{},
+                                              aplicacion_.SeparadoresLocales, caja);
             auto* etiqueta = new QLabel(rotulo, caja);
             etiqueta->setMinimumWidth(etiqueta->fontMetrics().horizontalAdvance(marcos[0].Rotulos[0]) + 8);
             formulario->addRow(etiqueta, campos_[campo++]);
@@ -59,7 +61,7 @@ void VentanaLosaGeneral::Armar() {
         columna->addWidget(caja);
     }
     columna->addStretch(1);
-    columna->addLayout(FilaAceptarCancelar(this, [this] { Aceptar(); }));
+    columna->addLayout(programa::qt::FilaAceptarCancelar(this, [this] { Aceptar(); }));
 }
 
 void VentanaLosaGeneral::Mostrar(const DatosGenerales& g) {
@@ -86,14 +88,14 @@ DatosGenerales VentanaLosaGeneral::Entrados() const {
 void VentanaLosaGeneral::Aceptar() {
     const DatosGenerales entrados = Entrados();
     if (const auto cero = LosaGeneral::PrimerCero(entrados)) {
-        CampoNumero* campo = campos_[static_cast<std::size_t>(*cero)];
+        programa::qt::CampoNumero* campo = campos_[static_cast<std::size_t>(*cero)];
         campo->setFocus();
         campo->selectAll();
         return;
     }
-    if (!operaciones_.Aceptar(entrados)) caja_.Mostrar(MensajeSinGuardar());
+    if (!operaciones_.Aceptar(entrados)) caja_.Mostrar(programa::MensajeSinGuardar());
     aplicacion_.LosaModificada = true;
     accept();
 }
 
-}  // namespace trabex
+}  // namespace trabex::losas::ui::qt

@@ -7,14 +7,16 @@
 #include "shell/CajaMensajes.h"
 #include "slab/ui/LosaGeneral.h"
 
-namespace trabex {
-
+namespace trabex::programa::qt {
 class CampoNumero;
+}
+
+namespace trabex::losas::ui::qt {
 
 /// Edits the design parameters of all slabs of the project that is connected.
 class VentanaLosaGeneral : public QDialog {
   public:
-    VentanaLosaGeneral(Aplicacion& aplicacion, CajaMensajes& caja, QWidget* padre);
+    VentanaLosaGeneral(programa::Aplicacion& aplicacion, programa::CajaMensajes& caja, QWidget* padre);
 
   private:
     void Armar();
@@ -23,10 +25,10 @@ class VentanaLosaGeneral : public QDialog {
     double Numero(CampoLosaGeneral campo) const;
     void Aceptar();
 
-    Aplicacion& aplicacion_;
-    CajaMensajes& caja_;
+    programa::Aplicacion& aplicacion_;
+    programa::CajaMensajes& caja_;
     LosaGeneral operaciones_;
-    std::array<CampoNumero*, 7> campos_{};
+    std::array<programa::qt::CampoNumero*, 7> campos_{};
 };
 
-}  // namespace trabex
+}  // namespace trabex::losas::ui::qt

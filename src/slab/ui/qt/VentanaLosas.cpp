@@ -25,7 +25,7 @@
 #include "slab/ui/qt/VentanaLosaGeneral.h"
 #include "slab/ui/qt/VentanaNombreLosa.h"
 
-namespace trabex {
+namespace trabex::losas::ui::qt {
 
 namespace {
 
@@ -38,8 +38,8 @@ QString Texto(std::string_view texto) {
 
 }  // namespace
 
-VentanaLosas::VentanaLosas(Aplicacion& aplicacion, CajaMensajes& caja, DialogosArchivo& dialogos,
-                           const EnchufesLosas& enchufes, QWidget* padre)
+VentanaLosas::VentanaLosas(programa::Aplicacion& aplicacion, programa::CajaMensajes& caja,
+                           programa::DialogosArchivo& dialogos, const EnchufesLosas& enchufes, QWidget* padre)
     : QDialog(padre), aplicacion_(aplicacion), caja_(caja), operaciones_(aplicacion, *this, caja, dialogos) {
     setObjectName("Losas");
     setWindowFlags(windowFlags() | Qt::WindowMinMaxButtonsHint);
@@ -60,9 +60,9 @@ VentanaLosas::VentanaLosas(Aplicacion& aplicacion, CajaMensajes& caja, DialogosA
     columna->addWidget(Barra());
     columna->addWidget(partes, 1);
     columna->addWidget(pie_);
-    TamanoInicial(this, {1100, 700});
+    programa::qt::TamanoInicial(this, {1100, 700});
     operaciones_.Abrir();
-    PrepararVentana(this, aplicacion_.Preferencias);
+    programa::qt::PrepararVentana(this, aplicacion_.Preferencias);
     lista_->setFocus();
 }
 
@@ -72,9 +72,10 @@ VentanaLosas::~VentanaLosas() {
 
 void VentanaLosas::CrearAcciones(const EnchufesLosas& enchufes) {
     for (const ComandoLosas& comando : ComandosLosas) {
-        auto* accion = new QAction(Icono(Texto(comando.Icono)), Texto(comando.Nombre).trimmed(), this);
+        auto* accion =
+            new QAction(programa::qt::Icono(Texto(comando.Icono)), Texto(comando.Nombre).trimmed(), this);
         accion->setObjectName(Texto(comando.Clave));
-        accion->setToolTip(TextoDeAyuda(Texto(comando.Titulo), Texto(comando.Ayuda)));
+        accion->setToolTip(programa::qt::TextoDeAyuda(Texto(comando.Titulo), Texto(comando.Ayuda)));
         acciones_[comando.Clave] = accion;
         Conectar(comando.Clave, enchufes);
     }
@@ -88,7 +89,7 @@ void VentanaLosas::CrearAcciones(const EnchufesLosas& enchufes) {
 }
 
 void VentanaLosas::Conectar(std::string_view clave, const EnchufesLosas& enchufes) {
-    Visor& visor = lienzo_->Comandos();
+    dibujo::Visor& visor = lienzo_->Comandos();
     const std::map<std::string_view, std::function<void(bool)>> propias{
         {"ID_Abrir", [this](bool) { operaciones_.AbrirProyecto(); }},
         {"ID_Generales", [this](bool) { operaciones_.DatosGenerales(); }},
@@ -142,9 +143,9 @@ QWidget* VentanaLosas::Barra() {
     auto* hueco = new QWidget(barra);
     hueco->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     barra->addWidget(hueco);
-    auto* retorno = Boton(" &Retorno ", "salida", barra);
+    auto* retorno = programa::qt::Boton(" &Retorno ", "salida", barra);
     retorno->setAutoDefault(false);
-    PonerAyuda(retorno, "Retorno", "Volver al menú principal. ");
+    programa::qt::PonerAyuda(retorno, "Retorno", "Volver al menú principal. ");
     connect(retorno, &QPushButton::clicked, this, &QDialog::accept);
     barra->addWidget(retorno);
     return barra;
@@ -187,15 +188,16 @@ QWidget* VentanaLosas::OpcionesDeCarga() {
     auto* marco = new QGroupBox("Cargas en los Tramos", this);
     auto* columna = new QVBoxLayout(marco);
     opcionCarga_ = new QButtonGroup(this);
-    for (const auto& [opcion, texto] : {std::pair{CargaTotal, "Mostrar la Carga Total"},
-                                        std::pair{CargaPorCasos, "Permanente + Variable"}}) {
+    for (const auto& [opcion, texto] : {std::pair{dibujo::losa::CargaTotal, "Mostrar la Carga Total"},
+                                        std::pair{dibujo::losa::CargaPorCasos, "Permanente + Variable"}}) {
         auto* boton = new QRadioButton(texto, marco);
         opcionCarga_->addButton(boton, opcion);
         columna->addWidget(boton);
     }
-    opcionCarga_->button(CargaTotal)->setChecked(true);
-    connect(opcionCarga_, &QButtonGroup::idClicked, this,
-            [this](int opcion) { operaciones_.ElegirOpcionCarga(static_cast<OpcionDeCarga>(opcion)); });
+    opcionCarga_->button(dibujo::losa::CargaTotal)->setChecked(true);
+    connect(opcionCarga_, &QButtonGroup::idClicked, this, [this](int opcion) {
+        operaciones_.ElegirOpcionCarga(static_cast<dibujo::losa::OpcionDeCarga>(opcion));
+    });
     return marco;
 }
 
@@ -213,11 +215,11 @@ QWidget* VentanaLosas::PanelDeHojas() {
     hojas_->setExpanding(false);
     for (const char* titulo : TitulosDeHoja) hojas_->addTab(titulo);
     connect(hojas_, &QTabBar::currentChanged, this,
-            [this](int hoja) { operaciones_.ElegirVista(static_cast<VistaLosa>(hoja)); });
-    lienzo_ = new WidgetLienzo(
+            [this](int hoja) { operaciones_.ElegirVista(static_cast<dibujo::losa::VistaLosa>(hoja)); });
+    lienzo_ = new dibujo::qt::WidgetLienzo(
         operaciones_.Estado().Hoja.Vista,
-        [this](Lienzo& lienzo) {
-            RedibujeVista(lienzo, operaciones_.Estado().Hoja, operaciones_.Calculada());
+        [this](dibujo::Lienzo& lienzo) {
+            dibujo::losa::RedibujeVista(lienzo, operaciones_.Estado().Hoja, operaciones_.Calculada());
         },
         panel);
     auto* columna = new QVBoxLayout(panel);
@@ -238,29 +240,29 @@ void VentanaLosas::HabilitarComandos() {
 }
 
 void VentanaLosas::PonerTitulo(const std::string& titulo) {
-    setWindowTitle(Q(titulo));
+    setWindowTitle(programa::qt::Q(titulo));
     opcionCarga_->button(operaciones_.Estado().Hoja.OpcionCarga)->setChecked(true);
 }
 
 void VentanaLosas::PonerEstado(const std::string& texto) {
-    pie_->setText(Q(texto));
-    pie_->setToolTip(Q(texto));
+    pie_->setText(programa::qt::Q(texto));
+    pie_->setToolTip(programa::qt::Q(texto));
 }
 
 void VentanaLosas::PonerEncabezado(const std::string& texto) {
-    encabezado_->setText(Q(texto));
+    encabezado_->setText(programa::qt::Q(texto));
 }
 
 void VentanaLosas::LlenarLista(const std::vector<std::string>& nombres) {
     const QSignalBlocker quieta(lista_);
     lista_->clear();
-    for (const std::string& nombre : nombres) lista_->addItem(Q(nombre));
+    for (const std::string& nombre : nombres) lista_->addItem(programa::qt::Q(nombre));
     HabilitarComandos();
 }
 
 void VentanaLosas::AgregarFila(const std::string& nombre) {
     const QSignalBlocker quieta(lista_);
-    lista_->addItem(Q(nombre));
+    lista_->addItem(programa::qt::Q(nombre));
     HabilitarComandos();
 }
 
@@ -290,7 +292,7 @@ void VentanaLosas::MostrarLosaNueva() {
     VentanaNombreLosa ventana(
         "CREAR NUEVA LOSA", operaciones_,
         [&](const std::string& nombre) { return operaciones.Aceptar(nombre); }, this);
-    MostrarModal(ventana);
+    programa::qt::MostrarModal(ventana);
 }
 
 void VentanaLosas::MostrarLosaSalvarComo() {
@@ -298,23 +300,24 @@ void VentanaLosas::MostrarLosaSalvarComo() {
     VentanaNombreLosa ventana(
         "Salvar Como...", operaciones_,
         [&](const std::string& nombre) { return operaciones.Aceptar(nombre); }, this);
-    MostrarModal(ventana);
+    programa::qt::MostrarModal(ventana);
 }
 
 void VentanaLosas::MostrarLosaDatos() {
     VentanaLosaDatos ventana(operaciones_, caja_, this);
-    MostrarModal(ventana);
+    programa::qt::MostrarModal(ventana);
 }
 
 void VentanaLosas::MostrarLosaGeneral() {
     VentanaLosaGeneral ventana(aplicacion_, caja_, this);
-    MostrarModal(ventana);
+    programa::qt::MostrarModal(ventana);
 }
 
 std::string VentanaLosas::MostrarRenombrar(const std::string& actual) {
-    Renombrar operaciones(aplicacion_.Proyecto.ConexionProyecto, caja_, RenombrarLosa, actual);
-    VentanaRenombrar ventana(operaciones, aplicacion_.Preferencias, this);
-    MostrarModal(ventana);
+    programa::Renombrar operaciones(aplicacion_.Proyecto.ConexionProyecto, caja_, programa::RenombrarLosa,
+                                    actual);
+    programa::qt::VentanaRenombrar ventana(operaciones, aplicacion_.Preferencias, this);
+    programa::qt::MostrarModal(ventana);
     return operaciones.NombreNuevo();
 }
 
@@ -323,4 +326,4 @@ void VentanaLosas::keyPressEvent(QKeyEvent* evento) {
     QDialog::keyPressEvent(evento);
 }
 
-}  // namespace trabex
+}  // namespace trabex::losas::ui::qt

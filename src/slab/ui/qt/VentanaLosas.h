@@ -15,9 +15,11 @@ class QListWidget;
 class QMenu;
 class QTabBar;
 
-namespace trabex {
-
+namespace trabex::dibujo::qt {
 class WidgetLienzo;
+}
+
+namespace trabex::losas::ui::qt {
 
 /// What other parts of the program do with the workspace's slabs, by the command's key. A command without its
 /// operation is disabled.
@@ -26,8 +28,8 @@ using EnchufesLosas = std::map<std::string_view, std::function<void(Losas& losas
 /// The slab workspace: the list of slabs, their commands, and the three sheets of the selected one.
 class VentanaLosas : public QDialog, public VistaLosas {
   public:
-    VentanaLosas(Aplicacion& aplicacion, CajaMensajes& caja, DialogosArchivo& dialogos,
-                 const EnchufesLosas& enchufes, QWidget* padre);
+    VentanaLosas(programa::Aplicacion& aplicacion, programa::CajaMensajes& caja,
+                 programa::DialogosArchivo& dialogos, const EnchufesLosas& enchufes, QWidget* padre);
     ~VentanaLosas() override;
 
     QAction* Accion(std::string_view clave) const { return acciones_.at(clave); }
@@ -63,8 +65,8 @@ class VentanaLosas : public QDialog, public VistaLosas {
     void AtajosDeLista();
     void HabilitarComandos();
 
-    Aplicacion& aplicacion_;
-    CajaMensajes& caja_;
+    programa::Aplicacion& aplicacion_;
+    programa::CajaMensajes& caja_;
     Losas operaciones_;
     std::map<std::string_view, QAction*> acciones_;
     QListWidget* lista_;
@@ -72,7 +74,7 @@ class VentanaLosas : public QDialog, public VistaLosas {
     QLabel* pie_;
     QTabBar* hojas_;
     QButtonGroup* opcionCarga_;
-    WidgetLienzo* lienzo_;
+    dibujo::qt::WidgetLienzo* lienzo_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::losas::ui::qt

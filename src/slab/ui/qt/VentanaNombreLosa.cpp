@@ -11,7 +11,7 @@
 #include "shell/qt/ComunVentanas.h"
 #include "shell/qt/VentanaRenombrar.h"
 
-namespace trabex {
+namespace trabex::losas::ui::qt {
 
 VentanaNombreLosa::VentanaNombreLosa(const QString& titulo, Losas& losas,
                                      std::function<bool(const std::string&)> aceptar, QWidget* padre)
@@ -22,7 +22,7 @@ VentanaNombreLosa::VentanaNombreLosa(const QString& titulo, Losas& losas,
     auto* formulario = new QFormLayout(marco);
     nombre_ = new QLineEdit(marco);
     nombre_->setObjectName("Nombre");
-    nombre_->setMaxLength(LargoDeNombre);
+    nombre_->setMaxLength(programa::qt::LargoDeNombre);
     nombre_->setMinimumWidth(320);
     nombre_->installEventFilter(this);
     formulario->addRow("Nombre:", nombre_);
@@ -30,12 +30,12 @@ VentanaNombreLosa::VentanaNombreLosa(const QString& titulo, Losas& losas,
     auto* columna = new QVBoxLayout(this);
     columna->addWidget(marco);
     columna->addStretch(1);
-    columna->addLayout(FilaAceptarCancelar(this, [this, aceptar = std::move(aceptar)] {
-        if (aceptar(S(nombre_->text()))) return accept();
+    columna->addLayout(programa::qt::FilaAceptarCancelar(this, [this, aceptar = std::move(aceptar)] {
+        if (aceptar(programa::qt::S(nombre_->text()))) return accept();
         nombre_->setFocus();
         nombre_->selectAll();
     }));
-    PrepararVentana(this, losas_.Programa().Preferencias);
+    programa::qt::PrepararVentana(this, losas_.Programa().Preferencias);
 }
 
 QLayout* VentanaNombreLosa::FilaDeExistentes() {
@@ -62,7 +62,7 @@ QLayout* VentanaNombreLosa::FilaDeExistentes() {
 }
 
 void VentanaNombreLosa::MostrarExistente() {
-    existente_->setText(Q(losas_.Estado().Abierta.Nombre));
+    existente_->setText(programa::qt::Q(losas_.Estado().Abierta.Nombre));
 }
 
 /// The arrows walk the slabs while the name is being typed.
@@ -77,4 +77,4 @@ bool VentanaNombreLosa::eventFilter(QObject* objeto, QEvent* evento) {
     return QDialog::eventFilter(objeto, evento);
 }
 
-}  // namespace trabex
+}  // namespace trabex::losas::ui::qt

@@ -10,7 +10,7 @@ class QLabel;
 class QLineEdit;
 class QScrollBar;
 
-namespace trabex {
+namespace trabex::losas::ui::qt {
 
 /// Asks for the name of a slab that does not exist yet: `LosaNueva` and `LosaSalvarComo`. Its scroller walks
 /// the slabs of the project, so that the names taken can be seen.
@@ -33,4 +33,4 @@ class VentanaNombreLosa : public QDialog {
     QScrollBar* deslizador_;
 };
 
-}  // namespace trabex
+}  // namespace trabex::losas::ui::qt

@@ -6,22 +6,24 @@
 
 #include "shell/qt/ComunVentanas.h"
 
-namespace trabex {
+namespace trabex::planex::ui::qt {
 
-VentanaCuadroCAD::VentanaCuadroCAD(const Aplicacion& aplicacion, DestinoCAD& destino, QWidget* padre)
+VentanaCuadroCAD::VentanaCuadroCAD(const programa::Aplicacion& aplicacion, DestinoCAD& destino,
+                                   QWidget* padre)
     : QDialog(padre) {
     setObjectName("CuadroCAD");
     setWindowTitle("EXPORTAR A Planex ESTRUCTURAL");
     auto* pregunta = new QLabel("Versión del programa que recibirá las losas:", this);
-    auto* edicion = Boton(" Planex Estructural 2023 ", "salvar", this);
-    auto* cancelar = Boton(" Cancelar ", "", this);
+    auto* edicion = programa::qt::Boton(" Planex Estructural 2023 ", "salvar", this);
+    auto* cancelar = programa::qt::Boton(" Cancelar ", "", this);
     edicion->setDefault(true);
     connect(edicion, &QPushButton::clicked, this, [this, &destino] {
         AceptarCuadroCAD(destino);
         accept();
     });
     connect(cancelar, &QPushButton::clicked, this, &QDialog::reject);
-    PonerAyuda(edicion, "Planex Estructural 2023", "Exportar las losas a un proyecto de esta versión. ");
+    programa::qt::PonerAyuda(edicion, "Planex Estructural 2023",
+                             "Exportar las losas a un proyecto de esta versión. ");
 
     auto* columna = new QVBoxLayout(this);
     columna->setSizeConstraint(QLayout::SetFixedSize);
@@ -30,7 +32,7 @@ VentanaCuadroCAD::VentanaCuadroCAD(const Aplicacion& aplicacion, DestinoCAD& des
     columna->addWidget(pregunta);
     columna->addWidget(edicion);
     columna->addWidget(cancelar);
-    PrepararVentana(this, aplicacion.Preferencias);
+    programa::qt::PrepararVentana(this, aplicacion.Preferencias);
 }
 
-}  // namespace trabex
+}  // namespace trabex::planex::ui::qt

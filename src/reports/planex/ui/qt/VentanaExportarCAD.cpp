@@ -16,7 +16,7 @@
 #include "drawing/qt/WidgetLienzo.h"
 #include "reports/planex/ui/qt/VentanaCuadroCAD.h"
 
-namespace trabex {
+namespace trabex::planex::ui::qt {
 
 namespace {
 
@@ -29,8 +29,9 @@ int FilaDeLista(int filaDeTabla) {
 
 }  // namespace
 
-VentanaExportarCAD::VentanaExportarCAD(Aplicacion& aplicacion, std::uint8_t versionCAD, CajaMensajes& caja,
-                                       DialogosArchivo& dialogos, Plataforma& plataforma, QWidget* padre)
+VentanaExportarCAD::VentanaExportarCAD(programa::Aplicacion& aplicacion, std::uint8_t versionCAD,
+                                       programa::CajaMensajes& caja, programa::DialogosArchivo& dialogos,
+                                       programa::Plataforma& plataforma, QWidget* padre)
     : QDialog(padre),
       aplicacion_(aplicacion),
       operaciones_(aplicacion, versionCAD, *this, caja, dialogos, plataforma) {
@@ -38,7 +39,7 @@ VentanaExportarCAD::VentanaExportarCAD(Aplicacion& aplicacion, std::uint8_t vers
     setWindowTitle("EXPORTAR A Planex ESTRUCTURAL");
     Armar();
     LlenarLista();
-    PrepararVentana(this, aplicacion_.Preferencias);
+    programa::qt::PrepararVentana(this, aplicacion_.Preferencias);
 }
 
 void VentanaExportarCAD::Armar() {
@@ -52,8 +53,8 @@ void VentanaExportarCAD::Armar() {
     auto* columna = new QVBoxLayout(this);
     columna->addWidget(division, 1);
     columna->addLayout(CrearOpciones());
-    columna->addLayout(FilaAceptarCancelar(this, [this] { operaciones_.ExportarCAD80(); }));
-    TamanoInicial(this, {820, 480});
+    columna->addLayout(programa::qt::FilaAceptarCancelar(this, [this] { operaciones_.ExportarCAD80(); }));
+    programa::qt::TamanoInicial(this, {820, 480});
 }
 
 QWidget* VentanaExportarCAD::CrearLista(QWidget* padre) {
@@ -78,8 +79,8 @@ QWidget* VentanaExportarCAD::CrearLista(QWidget* padre) {
     espacio->setContext(Qt::WidgetShortcut);
     connect(espacio, &QShortcut::activated, this, [this] { CambiarMarca(lista_->currentRow()); });
 
-    auto* todas = Boton("Seleccionar &Todas", "todos", panel);
-    auto* ninguna = Boton("&Ninguna", "ninguno", panel);
+    auto* todas = programa::qt::Boton("Seleccionar &Todas", "todos", panel);
+    auto* ninguna = programa::qt::Boton("&Ninguna", "ninguno", panel);
     connect(todas, &QPushButton::clicked, this, [this] { MarcarTodas(true); });
     connect(ninguna, &QPushButton::clicked, this, [this] { MarcarTodas(false); });
     auto* botones = new QHBoxLayout;
@@ -97,10 +98,10 @@ QWidget* VentanaExportarCAD::CrearVista(QWidget* padre) {
     auto* panel = new QWidget(padre);
     titulo_ = new QLabel(panel);
     titulo_->setTextFormat(Qt::PlainText);
-    croquis_ = new WidgetLienzo(
+    croquis_ = new dibujo::qt::WidgetLienzo(
         vistaCroquis_,
-        [this](Lienzo& lienzo) {
-            DibujeLosaExportar(lienzo, vistaCroquis_, losa_, aplicacion_.SeparadoresLocales);
+        [this](dibujo::Lienzo& lienzo) {
+            dibujo::losa::DibujeLosaExportar(lienzo, vistaCroquis_, losa_, aplicacion_.SeparadoresLocales);
         },
         panel);
     auto* columna = new QVBoxLayout(panel);
@@ -114,8 +115,9 @@ QLayout* VentanaExportarCAD::CrearOpciones() {
     auto* nuevo = new QRadioButton("&Crear un Nuevo Proyecto", this);
     anexar_ = new QRadioButton("&Anexar a un Proyecto Existente", this);
     nuevo->setChecked(true);
-    auto* carpeta = Boton("", "carpeta", this);
-    PonerAyuda(carpeta, "Proyectos de Planex", "Abrir la carpeta de los proyectos de Planex Estructural. ");
+    auto* carpeta = programa::qt::Boton("", "carpeta", this);
+    programa::qt::PonerAyuda(carpeta, "Proyectos de Planex",
+                             "Abrir la carpeta de los proyectos de Planex Estructural. ");
     carpeta->setAccessibleName("Carpeta de proyectos de Planex");
     connect(carpeta, &QPushButton::clicked, this, [this] { operaciones_.AbrirCarpeta(); });
     auto* fila = new QHBoxLayout;
@@ -137,7 +139,7 @@ void VentanaExportarCAD::LlenarLista() {
         marca->setCheckState(Qt::Unchecked);
         lista_->setItem(fila, ColumnaMarca, marca);
         lista_->setItem(fila, ColumnaNombre,
-                        new QTableWidgetItem(Q(nombres[static_cast<std::size_t>(fila)])));
+                        new QTableWidgetItem(programa::qt::Q(nombres[static_cast<std::size_t>(fila)])));
     }
     if (lista_->rowCount() > 0) lista_->setCurrentCell(std::max(elegida - 1, 0), ColumnaNombre);
 }
@@ -172,17 +174,18 @@ void VentanaExportarCAD::CambiarMarca(int fila) {
 void VentanaExportarCAD::MostrarLosa(int fila) {
     if (fila < 0) return;
     losa_ = operaciones_.LosaDe(FilaDeLista(fila));
-    titulo_->setText(Q(RotuloDeLosa(losa_) + losa_.Nombre));
+    titulo_->setText(programa::qt::Q(dibujo::losa::RotuloDeLosa(losa_) + losa_.Nombre));
     croquis_->Comandos().Restablecer();
     croquis_->RedibujeVista();
 }
 
-void MostrarExportarCAD(Aplicacion& aplicacion, CajaMensajes& caja, DialogosArchivo& dialogos,
-                        Plataforma& plataforma, QWidget* padre) {
+void MostrarExportarCAD(programa::Aplicacion& aplicacion, programa::CajaMensajes& caja,
+                        programa::DialogosArchivo& dialogos, programa::Plataforma& plataforma,
+                        QWidget* padre) {
     DestinoCAD destino;
     VentanaCuadroCAD(aplicacion, destino, padre).exec();
     if (!destino.Aceptado) return;
     VentanaExportarCAD(aplicacion, destino.VersionCAD, caja, dialogos, plataforma, padre).exec();
 }
 
-}  // namespace trabex
+}  // namespace trabex::planex::ui::qt

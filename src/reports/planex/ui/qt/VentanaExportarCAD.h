@@ -10,15 +10,18 @@ class QLabel;
 class QRadioButton;
 class QTableWidget;
 
-namespace trabex {
-
+namespace trabex::dibujo::qt {
 class WidgetLienzo;
+}
+
+namespace trabex::planex::ui::qt {
 
 /// Chooses slabs of the connected project and hands them to Planex.
 class VentanaExportarCAD : public QDialog, public VistaExportarCAD {
   public:
-    VentanaExportarCAD(Aplicacion& aplicacion, std::uint8_t versionCAD, CajaMensajes& caja,
-                       DialogosArchivo& dialogos, Plataforma& plataforma, QWidget* padre);
+    VentanaExportarCAD(programa::Aplicacion& aplicacion, std::uint8_t versionCAD,
+                       programa::CajaMensajes& caja, programa::DialogosArchivo& dialogos,
+                       programa::Plataforma& plataforma, QWidget* padre);
 
     bool Marcada(int fila) const override;
     ArchivoCAD Opcion() const override;
@@ -35,20 +38,21 @@ class VentanaExportarCAD : public QDialog, public VistaExportarCAD {
     void CambiarMarca(int fila);
     void MostrarLosa(int fila);
 
-    Aplicacion& aplicacion_;
+    programa::Aplicacion& aplicacion_;
     ExportarCAD operaciones_;
     QTableWidget* lista_;
     QLabel* titulo_;
-    Losa losa_;  // the one under the cursor, sketched
-    EstadoVista vistaCroquis_;
-    WidgetLienzo* croquis_;
+    losas::Losa losa_;  // the one under the cursor, sketched
+    dibujo::EstadoVista vistaCroquis_;
+    dibujo::qt::WidgetLienzo* croquis_;
     QRadioButton* anexar_;
-    PunteroDeTrabajo puntero_;
+    programa::qt::PunteroDeTrabajo puntero_;
 };
 
 /// The whole command, for the workspace of slabs: asks for the edition of Planex and, with an answer, shows
 /// the window until it closes.
-void MostrarExportarCAD(Aplicacion& aplicacion, CajaMensajes& caja, DialogosArchivo& dialogos,
-                        Plataforma& plataforma, QWidget* padre);
+void MostrarExportarCAD(programa::Aplicacion& aplicacion, programa::CajaMensajes& caja,
+                        programa::DialogosArchivo& dialogos, programa::Plataforma& plataforma,
+                        QWidget* padre);
 
-}  // namespace trabex
+}  // namespace trabex::planex::ui::qt
