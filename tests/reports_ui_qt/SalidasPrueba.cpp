@@ -20,6 +20,7 @@
 #include "reports/ui/qt/VentanaVerReportes.h"
 #include "slab/ui/qt/ImprimirGraficos.h"
 #include "support/CarpetaTemporal.h"
+#include "support/ImpresorasGuiadas.h"
 #include "support/LosasDePrueba.h"
 #include "support/ProyectoDePrueba.h"
 #include "support/ShellGuiado.h"
@@ -40,22 +41,6 @@ using namespace reportes::ui::qt;
 using namespace salidas;
 using namespace salidas::qt;
 namespace {
-
-struct ImpresorasGuiadas : Impresoras {
-    std::vector<std::string> Nombres{"HP LaserJet", "Epson Ñ"};
-    bool Acepta = true;
-    std::vector<std::string> Impresos;
-    bool Preguntado = false;
-    int Copias = 0;
-    std::vector<std::string> Disponibles() const override { return Nombres; }
-    std::string PorDefecto() const override { return "EPSON ñ"; }
-    bool Imprimir(const Documento&, const std::string& impresora, bool preguntar, int copias) override {
-        Preguntado = preguntar;
-        Copias = copias;
-        if (Acepta) Impresos.push_back(impresora);
-        return Acepta;
-    }
-};
 
 struct VistaGuiada : VistaSalidaReporte {
     bool Esperando = false;
@@ -84,7 +69,7 @@ class SalidasDeReporte : public prueba::ReportePreparado {
     prueba::PlataformaGuiada plataforma;
     prueba::CajaGuiada caja;
     prueba::DialogosGuiados dialogos;
-    ImpresorasGuiadas impresoras;
+    prueba::ImpresorasGuiadas impresoras;
     Aplicacion aplicacion;
     EstadoSalida estado;
     EntornoSalida entorno;
@@ -121,8 +106,8 @@ TEST_F(SalidasDeReporte, CancelarUnErrorOUnReporteDesconocidoDejanLaVentana) {
     operaciones.Aceptar(1);  // the file dialog is cancelled
     impresoras.Acepta = false;
     operaciones.Aceptar(SalidaImpresora);
-    EXPECT_TRUE(impresoras.Preguntado);
-    EXPECT_EQ(impresoras.Copias, 1);
+    EXPECT_TRUE(impresoras.Ultimo.Preguntar);
+    EXPECT_EQ(impresoras.Ultimo.Copias, 1);
     for (const std::int16_t actual : std::array<std::int16_t, 3>{0, 6, -1}) {
         estado.ReporteActual = actual;
         operaciones.Aceptar(SalidaPantalla);

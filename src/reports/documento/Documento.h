@@ -32,6 +32,13 @@ struct BandaDePagina {
     std::string Derecha;
 };
 
+/// A line of the letterhead, in a size of its own.
+struct LineaDeMembrete {
+    std::string Texto;
+    double Puntos = 10;
+    bool Negrita = false;
+};
+
 struct Pagina {
     TamanoPagina Tamano = TamanoPagina::A4;
     bool Apaisada = false;
@@ -41,6 +48,8 @@ struct Pagina {
     double MargenInferior = 15;
     BandaDePagina Encabezado;
     BandaDePagina Pie;
+    std::vector<LineaDeMembrete> Membrete;  ///< at the top of every page, within its margins
+    Alineacion LadoDeMembrete = Alineacion::Centro;
 };
 
 /// The width and height of the sheet, after its orientation.
@@ -101,10 +110,20 @@ struct FilaDeTabla {
     bool Destacada = false;  ///< totals: bold, under a rule
 };
 
+/// How a table looks on pages.
+struct EstiloDeTabla {
+    bool Titulos = true;           ///< those of its columns are shown
+    bool PrimeraEsTitulo = false;  ///< its first column holds titles of its rows
+    bool Lineas = false;           ///< upright lines between cells as well
+    bool Color = true;             ///< or else greys
+    bool Sombras = true;           ///< grounds under titles
+};
+
 /// A table. Where it breaks over pages its header is repeated; a row is never broken.
 struct Tabla {
     std::vector<ColumnaDeTabla> Columnas;
     std::vector<FilaDeTabla> Filas;
+    EstiloDeTabla Estilo{};
 
     bool TieneGrupos() const;
     /// The columns' widths, made narrower in proportion when they do not fit in `ancho`.

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "base/Archivos.h"
+#include "base/Marcado.h"
 #include "reports/salidas/ImagenPng.h"
 
 namespace trabex::salidas {
@@ -36,19 +37,12 @@ p.banda { color: #555555; font-size: 90%; border-bottom: 1px solid #d9dfe5; padd
 @media print { div.pagina { page-break-before: always } body { max-width: none; margin: 0 } }
 )";
 
+/// A line feed of a text stays one.
 std::string Escapado(std::string_view texto) {
     std::string salida;
     salida.reserve(texto.size());
-    for (const char c : texto) {
-        if (c == '&')
-            salida += "&amp;";
-        else if (c == '<')
-            salida += "&lt;";
-        else if (c == '>')
-            salida += "&gt;";
-        else if (c == '"')
-            salida += "&quot;";
-        else if (c == '\n')
+    for (const char c : TextoDeMarcado(texto)) {
+        if (c == '\n')
             salida += "<br>";
         else
             salida += c;

@@ -5,6 +5,7 @@
 
 #include "base/Texto.h"
 #include "reports/salidas/ImagenPng.h"
+#include "reports/salidas/ValorEnXls.h"
 
 namespace trabex::salidas {
 
@@ -19,25 +20,6 @@ constexpr std::size_t MayorEncabezadoFijo = 16;  ///< rows that may stay while t
 
 constexpr std::uint32_t FondoTitulos = 0xE6EDF4, LineaTitulos = 0xB9C6D3, LineaDatos = 0xD9DFE5;
 constexpr std::uint32_t TintaTitulos = 0x2F5D8A, TintaRotulos = 0x555555;
-
-xls::AlineacionXls Lado(documento::Alineacion lado) {
-    switch (lado) {
-        case documento::Alineacion::Izquierda:
-            return xls::AlineacionXls::Izquierda;
-        case documento::Alineacion::Centro:
-            return xls::AlineacionXls::Centro;
-        default:
-            return xls::AlineacionXls::Derecha;
-    }
-}
-
-/// `formato` with the unit after it: the cell stays a number.
-std::string FormatoConUnidad(const std::string& formato, const std::string& unidad) {
-    if (unidad.empty()) return formato;
-    std::string limpia;
-    for (const char c : unidad) limpia += c == '"' ? '\'' : c;
-    return (formato.empty() ? "General" : formato) + "\" " + limpia + "\"";
-}
 
 /// The part of a page's header or footer in the format's codes.
 std::string Banda(const documento::BandaDePagina& banda) {
@@ -270,7 +252,7 @@ class EscritorDeHoja {
         for (std::size_t c = 0; c < tabla.Columnas.size(); ++c) {
             xls::EstiloXls estilo = Estilo();
             estilo.Negrita = fila.Destacada;
-            estilo.Alineacion = Lado(tabla.Columnas[c].Lado);
+            estilo.Alineacion = LadoEnXls(tabla.Columnas[c].Lado);
             estilo.Bordes.Inferior = xls::BordeXls::Fino;
             estilo.Bordes.Superior = fila.Destacada ? xls::BordeXls::Fino : xls::BordeXls::Ninguno;
             estilo.Bordes.Color = fila.Destacada ? 0 : LineaDatos;
@@ -280,22 +262,11 @@ class EscritorDeHoja {
         ++fila_;
     }
 
-    /// A number or a date as such, anything else as its text.
     void PonerValor(std::size_t columna, std::size_t cuantas, const almacen::Valor& valor,
                     const std::string& formato, const std::string& unidad, xls::EstiloXls estilo) {
-        const std::optional<double> numero = documento::NumeroDe(valor);
-        if (numero && formato.find('|') == std::string::npos) {
-            estilo.Formato = FormatoConUnidad(formato, unidad);
-            Celda(columna, cuantas, *numero, estilo);
-        } else if (const auto* fecha = std::get_if<Fecha>(&valor)) {
-            Celda(columna, cuantas, *fecha, estilo);
-        } else {
-            const std::string texto = documento::TextoDeValor(valor, formato, documento_.Locales);
-            Celda(
-                columna,
-                texto.empty() ? xls::ValorXls{} : xls::ValorXls{texto + (unidad.empty() ? "" : " " + unidad)},
-                estilo);
-        }
+        ValorEnXls celda = ValorDeCelda(valor, formato, unidad, documento_.Locales);
+        estilo.Formato = std::move(celda.Formato);
+        Celda(columna, cuantas, celda.Valor, estilo);
     }
 
     void Poner(const documento::Imagen& imagen) {

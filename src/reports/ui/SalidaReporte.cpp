@@ -15,6 +15,10 @@ bool EsArchivo(std::uint8_t salida) {
 
 }  // namespace
 
+ErrorEjecucion SinProgramaQueAbra() {
+    return {CodigoError::ArchivoNoEncontrado, "No se encontró un programa que abra el archivo"};
+}
+
 std::filesystem::path ExportadorReportes::Carpeta() const {
     return entorno_.LaAplicacion.CaminoUsuario / "ReportesExportados";
 }
@@ -42,9 +46,7 @@ void ExportadorReportes::Exportar(const documento::Documento& documento, std::ui
     if (entorno_.Caja.Mostrar(programa::Pregunta(texto, "Abrir el Archivo Exportado...")) !=
         programa::RespuestaSi)
         return;
-    if (!entorno_.LaPlataforma.AbrirArchivo(archivo))
-        throw ErrorEjecucion(CodigoError::ArchivoNoEncontrado,
-                             "No se encontró un programa que abra el archivo");
+    if (!entorno_.LaPlataforma.AbrirArchivo(archivo)) throw SinProgramaQueAbra();
 }
 
 bool ExportadorReportes::HayImpresoras() {
@@ -57,8 +59,8 @@ bool ExportadorReportes::HayImpresoras() {
     return false;
 }
 
-bool ExportadorReportes::Imprimir(const documento::Documento& documento) {
-    return HayImpresoras() && entorno_.LasImpresoras.Imprimir(documento, entorno_.Estado.Impresora, true, 1);
+bool ExportadorReportes::Imprimir(const documento::Documento& documento, const PedidoDeImpresion& pedido) {
+    return HayImpresoras() && entorno_.LasImpresoras.Imprimir(documento, entorno_.Estado.Impresora, pedido);
 }
 
 void ExportadorReportes::Avisar(const ErrorEjecucion& error) {

@@ -47,6 +47,19 @@ inline constexpr std::array<OpcionDeSalida, 6> Salidas{{
     {"Impresora...", nullptr, nullptr, 0},
 }};
 
+/// The pages that a print takes, from 1; all of them while `Ultima` is 0.
+struct PaginasAImprimir {
+    int Primera = 1;
+    int Ultima = 0;
+};
+
+/// How a document is sent to the printer.
+struct PedidoDeImpresion {
+    bool Preguntar = true;  ///< the system's prompt comes first
+    int Copias = 1;
+    PaginasAImprimir Paginas{};
+};
+
 /// The printers of the system.
 class Impresoras {
   public:
@@ -54,11 +67,14 @@ class Impresoras {
     virtual std::vector<std::string> Disponibles() const = 0;
     /// The system's default printer; empty when there is none.
     virtual std::string PorDefecto() const = 0;
-    /// Prints on `impresora` (empty: the default one), after the system's prompt where asked to. False when
-    /// the engineer cancels. Throws ErrorEjecucion 482 when the printer refuses.
-    virtual bool Imprimir(const documento::Documento& documento, const std::string& impresora, bool preguntar,
-                          int copias) = 0;
+    /// Prints on `impresora` (empty: the default one). False when the engineer cancels the prompt. Throws
+    /// ErrorEjecucion 482 when the printer refuses.
+    virtual bool Imprimir(const documento::Documento& documento, const std::string& impresora,
+                          const PedidoDeImpresion& pedido) = 0;
 };
+
+/// What is told where the desktop has no program for an exported file.
+ErrorEjecucion SinProgramaQueAbra();
 
 /// What the windows of report output work with.
 struct EntornoSalida {
@@ -84,8 +100,8 @@ class ExportadorReportes {
     void Exportar(const documento::Documento& documento, std::uint8_t salida);
     /// There is a printer to print on; otherwise says so.
     bool HayImpresoras();
-    /// With a prompt, one copy. False when nothing was printed. Throws ErrorEjecucion.
-    bool Imprimir(const documento::Documento& documento);
+    /// On the program's printer. False when nothing was printed. Throws ErrorEjecucion.
+    bool Imprimir(const documento::Documento& documento, const PedidoDeImpresion& pedido = {});
     void Avisar(const ErrorEjecucion& error);
 
   private:

@@ -100,19 +100,22 @@ double CajaTabla::Ancho(std::size_t desde, std::size_t cuantas) const {
     return std::accumulate(primera, primera + static_cast<std::ptrdiff_t>(cuantas), 0.0);
 }
 
+void CajaTabla::MedirTitulos(const std::function<double(qsizetype lineas)>& alto) {
+    for (std::size_t i = 0; i < anchos_.size(); ++i)
+        altoTitulos_ =
+            std::max(altoTitulos_, alto(LineasDeTitulo(tabla_.Columnas[i].Titulo, anchos_[i]).size()));
+    if (!tabla_.TieneGrupos()) return;
+    for (const documento::GrupoDeColumnas& grupo : documento::GruposDe(tabla_)) {
+        const double ancho = Ancho(grupo.Desde, grupo.Cuantas);
+        altoGrupos_ = std::max(altoGrupos_, alto(LineasDeTitulo(grupo.Titulo, ancho).size()));
+    }
+}
+
 void CajaTabla::MedirFilas() {
     const auto alto = [this](qsizetype lineas) {
         return (static_cast<double>(lineas) + EntreLineas) * normal_->Alto();
     };
-    for (std::size_t i = 0; i < anchos_.size(); ++i)
-        altoTitulos_ =
-            std::max(altoTitulos_, alto(LineasDeTitulo(tabla_.Columnas[i].Titulo, anchos_[i]).size()));
-    if (tabla_.TieneGrupos()) {
-        for (const documento::GrupoDeColumnas& grupo : documento::GruposDe(tabla_)) {
-            const double ancho = Ancho(grupo.Desde, grupo.Cuantas);
-            altoGrupos_ = std::max(altoGrupos_, alto(LineasDeTitulo(grupo.Titulo, ancho).size()));
-        }
-    }
+    if (tabla_.Estilo.Titulos) MedirTitulos(alto);
     for (std::size_t fila = 0; fila < tabla_.Filas.size(); ++fila) {
         const TipoDeLetra& letra = tabla_.Filas[fila].Destacada ? *negrita_ : *normal_;
         qsizetype lineas = 1;
@@ -140,11 +143,22 @@ void CajaTabla::PintarTitulo(Tinta& tinta, const QRectF& donde, const std::strin
     }
 }
 
+QColor CajaTabla::Tono(const QColor& color) const {
+    const int gris = qGray(color.rgb());
+    return tabla_.Estilo.Color ? color : QColor(gris, gris, gris);
+}
+
+void CajaTabla::PintarFondo(Tinta& tinta, const QRectF& donde) const {
+    if (tabla_.Estilo.Sombras) tinta.Fondo(donde, Tono(FondoDeTitulo));
+}
+
 /// Paints the header and tells how high it is. A column without group takes the height of both rows.
 double CajaTabla::PintarCabecera(Tinta& tinta, const QPointF& esquina) const {
     const double alto = altoGrupos_ + altoTitulos_;
+    const QColor raya = Tono(RayaDeTitulo);
+    if (!tabla_.Estilo.Titulos) return 0;
     const double ancho = Suma(anchos_);
-    tinta.Fondo({esquina.x(), esquina.y(), ancho, alto}, FondoDeTitulo);
+    PintarFondo(tinta, {esquina.x(), esquina.y(), ancho, alto});
     double x = esquina.x();
     for (const documento::GrupoDeColumnas& grupo : documento::GruposDe(tabla_)) {
         const double anchoGrupo = Ancho(grupo.Desde, grupo.Cuantas);
@@ -152,7 +166,7 @@ double CajaTabla::PintarCabecera(Tinta& tinta, const QPointF& esquina) const {
         if (conGrupo) {
             PintarTitulo(tinta, {x, esquina.y(), anchoGrupo, altoGrupos_}, grupo.Titulo);
             tinta.Raya({x, esquina.y() + altoGrupos_}, {x + anchoGrupo, esquina.y() + altoGrupos_}, Grosor,
-                       RayaDeTitulo);
+                       raya);
         }
         double xColumna = x;
         for (std::size_t i = grupo.Desde; i < grupo.Desde + grupo.Cuantas; ++i) {
@@ -160,22 +174,26 @@ double CajaTabla::PintarCabecera(Tinta& tinta, const QPointF& esquina) const {
             PintarTitulo(tinta, {xColumna, esquina.y() + arriba, anchos_[i], alto - arriba},
                          tabla_.Columnas[i].Titulo);
             tinta.Raya({xColumna, esquina.y() + (i == grupo.Desde ? 0 : arriba)},
-                       {xColumna, esquina.y() + alto}, Grosor, RayaDeTitulo);
+                       {xColumna, esquina.y() + alto}, Grosor, raya);
             xColumna += anchos_[i];
         }
         x += anchoGrupo;
     }
-    tinta.Raya({x, esquina.y()}, {x, esquina.y() + alto}, Grosor, RayaDeTitulo);
+    tinta.Raya({x, esquina.y()}, {x, esquina.y() + alto}, Grosor, raya);
     for (const double y : {esquina.y(), esquina.y() + alto})
-        tinta.Raya({esquina.x(), y}, {x, y}, Grosor, RayaDeTitulo);
+        tinta.Raya({esquina.x(), y}, {x, y}, Grosor, raya);
     return alto;
 }
 
 void CajaTabla::PintarFila(Tinta& tinta, const QPointF& esquina, std::size_t fila) const {
     const bool destacada = tabla_.Filas[fila].Destacada;
     const TipoDeLetra& letra = destacada ? *negrita_ : *normal_;
+    const double pie = esquina.y() + altos_[fila];
+    if (tabla_.Estilo.PrimeraEsTitulo)
+        PintarFondo(tinta, {esquina.x(), esquina.y(), anchos_.front(), altos_[fila]});
     double x = esquina.x();
     for (std::size_t i = 0; i < anchos_.size(); ++i) {
+        if (tabla_.Estilo.Lineas) tinta.Raya({x, esquina.y()}, {x, pie}, Grosor, Tono(RayaDeFila));
         double y = esquina.y() + EntreLineas / 2 * letra.Alto() + letra.Ascenso();
         for (const QString& linea : LineasDeCelda(Celda(fila, i), i, letra)) {
             const double hueco = anchos_[i] - letra.Ancho(linea);
@@ -188,8 +206,8 @@ void CajaTabla::PintarFila(Tinta& tinta, const QPointF& esquina, std::size_t fil
         }
         x += anchos_[i];
     }
-    const double pie = esquina.y() + altos_[fila];
-    tinta.Raya({esquina.x(), pie}, {x, pie}, Grosor, RayaDeFila);
+    if (tabla_.Estilo.Lineas) tinta.Raya({x, esquina.y()}, {x, pie}, Grosor, Tono(RayaDeFila));
+    tinta.Raya({esquina.x(), pie}, {x, pie}, Grosor, Tono(RayaDeFila));
     if (destacada) tinta.Raya(esquina, {x, esquina.y()}, 2 * Grosor, TinteDeCelda);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStringList>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -28,6 +29,7 @@ class CajaTabla : public Caja {
     std::vector<double> AnchosMinimos() const;
     void MedirColumnas(double puntos, double ancho);
     void Achicar(double puntos);
+    void MedirTitulos(const std::function<double(qsizetype lineas)>& alto);
     void MedirFilas();
     bool SeParte(std::size_t columna) const {
         return tabla_.Columnas[columna].Lado == documento::Alineacion::Izquierda;
@@ -36,6 +38,8 @@ class CajaTabla : public Caja {
     QStringList LineasDeCelda(const QString& texto, std::size_t columna, const TipoDeLetra& letra) const;
     QStringList LineasDeTitulo(const std::string& titulo, double ancho) const;
     double Ancho(std::size_t desde, std::size_t cuantas) const;
+    QColor Tono(const QColor& color) const;
+    void PintarFondo(Tinta& tinta, const QRectF& donde) const;
     double PintarCabecera(Tinta& tinta, const QPointF& esquina) const;
     void PintarTitulo(Tinta& tinta, const QRectF& donde, const std::string& titulo) const;
     void PintarFila(Tinta& tinta, const QPointF& esquina, std::size_t fila) const;

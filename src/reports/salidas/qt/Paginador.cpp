@@ -8,6 +8,7 @@ namespace trabex::salidas::qt {
 
 namespace {
 
+const QColor TinteDeMembrete(0x1A, 0x1A, 0x1A);
 const QColor TinteDeBanda(0x60, 0x60, 0x60);
 const QColor RayaDeBanda(0x8F, 0xA3, 0xB8);
 constexpr double AireDeBanda = 3 * Milimetro;  // from the text of the page to its header and footer
@@ -31,6 +32,8 @@ Paginador::Paginador(const documento::Documento& documento, const documento::Med
       util_(QSizeF(hoja.Ancho - documento.Hoja.MargenIzquierdo - documento.Hoja.MargenDerecho,
                    hoja.Alto - documento.Hoja.MargenSuperior - documento.Hoja.MargenInferior) *
             Milimetro) {
+    ComponerMembrete();
+    util_.rheight() -= altoMembrete_;
     paginas_.emplace_back();
     for (const documento::Seccion& seccion : documento.Secciones) {
         Cajas cajas;
@@ -39,6 +42,19 @@ Paginador::Paginador(const documento::Documento& documento, const documento::Med
         Colocar(seccion, cajas);
         std::move(cajas.begin(), cajas.end(), std::back_inserter(cajas_));
     }
+}
+
+void Paginador::ComponerMembrete() {
+    for (const documento::LineaDeMembrete& linea : documento_.Hoja.Membrete) {
+        const auto letra = std::make_shared<const TipoDeLetra>(linea.Puntos, linea.Negrita);
+        for (const QString& texto : letra->Lineas(QString::fromStdString(linea.Texto), util_.width())) {
+            membrete_.push_back({texto, letra, altoMembrete_ + letra->Ascenso()});
+            altoMembrete_ += letra->Alto();
+        }
+    }
+    if (!membrete_.empty()) altoMembrete_ += AireDeBanda;
+    // A head that leaves no room for the text is cut at half a page.
+    altoMembrete_ = std::min(altoMembrete_, util_.height() / 2);
 }
 
 void Paginador::PaginaNueva() {
@@ -100,13 +116,15 @@ void Paginador::ColocarCaja(const Caja& caja) {
 
 void Paginador::Pintar(int pagina, Tinta& tinta) const {
     const documento::Pagina& hoja = documento_.Hoja;
-    const QPointF esquina = QPointF(hoja.MargenIzquierdo, hoja.MargenSuperior) * Milimetro;
+    const QPointF esquina =
+        QPointF(hoja.MargenIzquierdo, hoja.MargenSuperior) * Milimetro + QPointF(0, altoMembrete_);
+    PintarMembrete(tinta);
     for (const Pieza& pieza : paginas_[static_cast<std::size_t>(pagina)])
         pieza.De->Pintar(tinta, esquina + QPointF(0, pieza.Y), pieza.Desde, pieza.Hasta);
     const double derecha = esquina.x() + util_.width();
     const TipoDeLetra& letra = letras_.Chica;
     if (!EsVacia(hoja.Encabezado)) {
-        const double raya = esquina.y() - AireDeBanda;
+        const double raya = esquina.y() - altoMembrete_ - AireDeBanda;
         PintarBanda(tinta, hoja.Encabezado, raya - letra.Alto() * 1.2 + letra.Ascenso(), pagina);
         tinta.Raya({esquina.x(), raya}, {derecha, raya}, 0.15 * Milimetro, RayaDeBanda);
     }
@@ -114,6 +132,18 @@ void Paginador::Pintar(int pagina, Tinta& tinta) const {
         const double raya = esquina.y() + util_.height() + AireDeBanda;
         tinta.Raya({esquina.x(), raya}, {derecha, raya}, 0.15 * Milimetro, RayaDeBanda);
         PintarBanda(tinta, hoja.Pie, raya + letra.Alto() * 0.2 + letra.Ascenso(), pagina);
+    }
+}
+
+void Paginador::PintarMembrete(Tinta& tinta) const {
+    const documento::Pagina& hoja = documento_.Hoja;
+    const QPointF esquina = QPointF(hoja.MargenIzquierdo, hoja.MargenSuperior) * Milimetro;
+    constexpr std::array<double, 3> lugares{0, 0.5, 1};
+    for (const LineaCompuesta& linea : membrete_) {
+        if (linea.Base > altoMembrete_) return;
+        const double hueco = util_.width() - linea.Letra->Ancho(linea.Texto);
+        const double x = lugares[static_cast<std::size_t>(hoja.LadoDeMembrete)] * hueco;
+        tinta.Texto(esquina + QPointF(x, linea.Base), linea.Texto, *linea.Letra, TinteDeMembrete);
     }
 }
 

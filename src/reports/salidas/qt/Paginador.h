@@ -31,19 +31,29 @@ class Paginador {
         std::size_t Desde;
         std::size_t Hasta;
     };
+    /// A line of the letterhead: one of the document's that is too long makes several.
+    struct LineaCompuesta {
+        QString Texto;
+        std::shared_ptr<const TipoDeLetra> Letra;
+        double Base;  // from the top of the page's text
+    };
     using Cajas = std::vector<std::unique_ptr<Caja>>;  // null: a page break
 
+    void ComponerMembrete();
     void Colocar(const documento::Seccion& seccion, const Cajas& cajas);
     void ColocarCaja(const Caja& caja);
     double AltoPrincipio(const Cajas& cajas, std::size_t i) const;
     double AltoTotal(const Cajas& cajas) const;
     void PaginaNueva();
     bool AlPrincipio() const { return paginas_.back().empty(); }
+    void PintarMembrete(Tinta& tinta) const;
     void PintarBanda(Tinta& tinta, const documento::BandaDePagina& banda, double base, int pagina) const;
 
     const documento::Documento& documento_;
     documento::MedidaHoja hoja_;
     Letras letras_;
+    std::vector<LineaCompuesta> membrete_;
+    double altoMembrete_ = 0;
     QSizeF util_;
     Cajas cajas_;
     std::vector<std::vector<Pieza>> paginas_;

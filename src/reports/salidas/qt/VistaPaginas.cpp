@@ -12,8 +12,8 @@ namespace trabex::salidas::qt {
 namespace {
 
 constexpr int Hueco = 14;  // pixels around pages
-constexpr double ZoomMenor = 25;
-constexpr double ZoomMayor = 400;
+constexpr double ZoomMenor = 5;
+constexpr double ZoomMayor = 500;
 constexpr int MemoriaDeEstampas = 96 * 1024;  // KB
 const QColor ColorDeHallazgo(255, 213, 0, 90);
 const QColor ColorDelActual(255, 140, 0, 130);
@@ -52,7 +52,9 @@ class TintaDeBusqueda : public Tinta {
 }  // namespace
 
 VistaPaginas::VistaPaginas(const documento::Documento& documento, QWidget* padre)
-    : QAbstractScrollArea(padre), paginas_(documento), estampas_(MemoriaDeEstampas) {
+    : QAbstractScrollArea(padre),
+      paginas_(std::make_unique<const Paginador>(documento)),
+      estampas_(MemoriaDeEstampas) {
     setFocusPolicy(Qt::StrongFocus);
     setFrameShape(QFrame::NoFrame);
     viewport()->setBackgroundRole(QPalette::Mid);
@@ -61,12 +63,23 @@ VistaPaginas::VistaPaginas(const documento::Documento& documento, QWidget* padre
     horizontalScrollBar()->setSingleStep(40);
 }
 
+void VistaPaginas::PonerDocumento(const documento::Documento& documento) {
+    const int pagina = PaginaActual();
+    paginas_ = std::make_unique<const Paginador>(documento);
+    estampas_.clear();
+    hallazgos_.clear();
+    hallazgo_ = -1;
+    Acomodar();
+    IrAPagina(pagina);
+    viewport()->update();
+}
+
 double VistaPaginas::Escala() const {
     return zoom_ / 100 * logicalDpiX() / (25.4 * Milimetro);
 }
 
 QSize VistaPaginas::Lado() const {
-    const QSizeF hoja = QSizeF(paginas_.Hoja().Ancho, paginas_.Hoja().Alto) * Milimetro * Escala();
+    const QSizeF hoja = QSizeF(paginas_->Hoja().Ancho, paginas_->Hoja().Alto) * Milimetro * Escala();
     return {static_cast<int>(std::lround(hoja.width())), static_cast<int>(std::lround(hoja.height()))};
 }
 
@@ -76,29 +89,50 @@ int VistaPaginas::Paso() const {
 
 QRect VistaPaginas::Lugar(int pagina) const {
     const QSize lado = Lado();
-    const int sobra = viewport()->width() - lado.width();
-    const int x = sobra > 2 * Hueco ? sobra / 2 : Hueco - horizontalScrollBar()->value();
-    return {QPoint(x, Hueco + pagina * Paso() - verticalScrollBar()->value()), lado};
+    const int ancho = columnas_ * (lado.width() + Hueco) - Hueco;
+    const int sobra = viewport()->width() - ancho;
+    const int x = (sobra > 2 * Hueco ? sobra / 2 : Hueco - horizontalScrollBar()->value()) +
+                  pagina % columnas_ * (lado.width() + Hueco);
+    return {QPoint(x, Hueco + pagina / columnas_ * Paso() - verticalScrollBar()->value()), lado};
 }
 
 int VistaPaginas::PaginaActual() const {
     const int medio = verticalScrollBar()->value() + viewport()->height() / 3;
-    return std::clamp((medio - Hueco) / std::max(Paso(), 1), 0, NumeroPaginas() - 1);
+    return std::clamp((medio - Hueco) / std::max(Paso(), 1) * columnas_, 0, NumeroPaginas() - 1);
 }
 
 void VistaPaginas::IrAPagina(int pagina) {
-    verticalScrollBar()->setValue(std::clamp(pagina, 0, NumeroPaginas() - 1) * Paso());
+    verticalScrollBar()->setValue(std::clamp(pagina, 0, NumeroPaginas() - 1) / columnas_ * Paso());
+}
+
+QSizeF VistaPaginas::LadoAlCien() const {
+    return QSizeF(paginas_->Hoja().Ancho, paginas_->Hoja().Alto) * (logicalDpiX() / 25.4);
 }
 
 double VistaPaginas::ZoomDeAncho() const {
-    const double ancho = viewport()->width() - 2 * Hueco;
-    return std::clamp(100 * ancho / (Lado().width() * 100 / zoom_), ZoomMenor, ZoomMayor);
+    return std::clamp(100 * (viewport()->width() - 2 * Hueco) / LadoAlCien().width(), ZoomMenor, ZoomMayor);
+}
+
+double VistaPaginas::ZoomDeAlto() const {
+    return std::clamp(100 * (viewport()->height() - 2 * Hueco) / LadoAlCien().height(), ZoomMenor, ZoomMayor);
 }
 
 double VistaPaginas::ZoomDePagina() const {
-    const double alto = viewport()->height() - 2 * Hueco;
-    return std::min(ZoomDeAncho(),
-                    std::clamp(100 * alto / (Lado().height() * 100 / zoom_), ZoomMenor, ZoomMayor));
+    return std::min(ZoomDeAncho(), ZoomDeAlto());
+}
+
+double VistaPaginas::ZoomDeCuadricula(int columnas, int filas) const {
+    const double ancho = (viewport()->width() - (columnas + 1) * Hueco) / (columnas * LadoAlCien().width());
+    const double alto = (viewport()->height() - (filas + 1) * Hueco) / (filas * LadoAlCien().height());
+    return std::clamp(100 * std::min(ancho, alto), ZoomMenor, ZoomMayor);
+}
+
+void VistaPaginas::PonerColumnas(int columnas) {
+    const int pagina = PaginaActual();
+    columnas_ = columnas;
+    Acomodar();
+    IrAPagina(pagina);
+    viewport()->update();
 }
 
 void VistaPaginas::PonerZoom(double porcentaje) {
@@ -117,9 +151,11 @@ void VistaPaginas::PonerZoom(double porcentaje) {
 void VistaPaginas::Acomodar() {
     const QSize lado = Lado();
     const QSize vista = viewport()->size();
-    verticalScrollBar()->setRange(0, std::max(0, Hueco + NumeroPaginas() * Paso() - vista.height()));
+    const int filas = (NumeroPaginas() + columnas_ - 1) / columnas_;
+    verticalScrollBar()->setRange(0, std::max(0, Hueco + filas * Paso() - vista.height()));
     verticalScrollBar()->setPageStep(vista.height());
-    horizontalScrollBar()->setRange(0, std::max(0, lado.width() + 2 * Hueco - vista.width()));
+    horizontalScrollBar()->setRange(0,
+                                    std::max(0, columnas_ * (lado.width() + Hueco) + Hueco - vista.width()));
     horizontalScrollBar()->setPageStep(vista.width());
 }
 
@@ -133,7 +169,7 @@ const QPixmap& VistaPaginas::Estampa(int pagina) {
     pintor.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     pintor.scale(Escala(), Escala());
     TintaDePintor tinta(pintor);
-    paginas_.Pintar(pagina, tinta);
+    paginas_->Pintar(pagina, tinta);
     pintor.end();
     suelta_ = estampa;
     const qint64 peso = qint64{4} * estampa.width() * estampa.height() / 1024;
@@ -154,7 +190,7 @@ void VistaPaginas::PintarHallazgos(QPainter& pintor, int pagina) const {
 
 void VistaPaginas::paintEvent(QPaintEvent* evento) {
     QPainter pintor(viewport());
-    const int primera = std::max(0, (verticalScrollBar()->value() - Hueco) / Paso());
+    const int primera = std::max(0, (verticalScrollBar()->value() - Hueco) / Paso()) * columnas_;
     for (int i = primera; i < NumeroPaginas() && Lugar(i).top() < viewport()->height(); ++i) {
         const QRect lugar = Lugar(i);
         if (!lugar.intersects(evento->rect())) continue;
@@ -167,6 +203,7 @@ void VistaPaginas::paintEvent(QPaintEvent* evento) {
 void VistaPaginas::resizeEvent(QResizeEvent* evento) {
     QAbstractScrollArea::resizeEvent(evento);
     Acomodar();
+    if (AlCambiarTamano) AlCambiarTamano();
 }
 
 void VistaPaginas::scrollContentsBy(int, int) {
@@ -208,7 +245,7 @@ void VistaPaginas::Buscar(const QString& texto) {
     const QString buscado = Llano(texto);
     for (int i = 0; !buscado.isEmpty() && i < NumeroPaginas(); ++i) {
         TintaDeBusqueda tinta(buscado);
-        paginas_.Pintar(i, tinta);
+        paginas_->Pintar(i, tinta);
         for (const QRectF& donde : tinta.Hallados) hallazgos_.push_back({i, donde});
     }
     viewport()->update();
@@ -226,7 +263,7 @@ int VistaPaginas::IrAlHallazgo(bool adelante) {
         hallazgo_ = (hallazgo_ + (adelante ? 1 : cuantos - 1)) % cuantos;
     }
     const Hallazgo& actual = hallazgos_[static_cast<std::size_t>(hallazgo_)];
-    const double y = Hueco + actual.Pagina * Paso() + actual.Donde.y() * Escala();
+    const double y = Hueco + actual.Pagina / columnas_ * Paso() + actual.Donde.y() * Escala();
     verticalScrollBar()->setValue(static_cast<int>(y - viewport()->height() / 3.0));
     horizontalScrollBar()->setValue(
         static_cast<int>(actual.Donde.x() * Escala() - viewport()->width() / 3.0));

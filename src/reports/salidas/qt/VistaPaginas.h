@@ -4,18 +4,23 @@
 #include <QCache>
 #include <QPixmap>
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "reports/salidas/qt/Paginador.h"
 
 namespace trabex::salidas::qt {
 
-/// The pages of a document on the screen, one below another. The same pages as on paper, with the same ink.
+/// The pages of a document on the screen, one below another or in rows. The same pages as on paper, with the
+/// same ink.
 class VistaPaginas : public QAbstractScrollArea {
   public:
     explicit VistaPaginas(const documento::Documento& documento, QWidget* padre = nullptr);
 
-    int NumeroPaginas() const { return paginas_.NumeroPaginas(); }
+    /// Shows another document, or the same one changed. It must outlive the view.
+    void PonerDocumento(const documento::Documento& documento);
+
+    int NumeroPaginas() const { return paginas_->NumeroPaginas(); }
     /// The page that fills most of the view, from 0.
     int PaginaActual() const;
     void IrAPagina(int pagina);
@@ -24,7 +29,13 @@ class VistaPaginas : public QAbstractScrollArea {
     void PonerZoom(double porcentaje);
     double Zoom() const { return zoom_; }
     double ZoomDeAncho() const;
+    double ZoomDeAlto() const;
     double ZoomDePagina() const;
+
+    /// Pages beside one another; one at the beginning.
+    void PonerColumnas(int columnas);
+    /// The zoom at which so many pages beside and below one another fill the view.
+    double ZoomDeCuadricula(int columnas, int filas) const;
 
     /// Looks for a text without regard to case and accents; the answers are marked.
     void Buscar(const QString& texto);
@@ -34,6 +45,7 @@ class VistaPaginas : public QAbstractScrollArea {
 
     std::function<void(int pagina)> AlCambiarPagina;
     std::function<void(double porcentaje)> AlCambiarZoom;
+    std::function<void()> AlCambiarTamano;  ///< of the view
 
   protected:
     void paintEvent(QPaintEvent* evento) override;
@@ -47,15 +59,17 @@ class VistaPaginas : public QAbstractScrollArea {
         int Pagina;
         QRectF Donde;  // in the units of the pages
     };
-    double Escala() const;  // pixels of the screen in a unit of the pages
-    QSize Lado() const;     // of a page on the screen
+    QSizeF LadoAlCien() const;  // of a page at 100 %, in pixels of the screen
+    double Escala() const;      // pixels of the screen in a unit of the pages
+    QSize Lado() const;         // of a page on the screen
     int Paso() const;
     QRect Lugar(int pagina) const;
     void Acomodar();
     const QPixmap& Estampa(int pagina);
     void PintarHallazgos(QPainter& pintor, int pagina) const;
 
-    Paginador paginas_;
+    std::unique_ptr<const Paginador> paginas_;
+    int columnas_ = 1;
     double zoom_ = 100;
     QCache<int, QPixmap> estampas_;
     QPixmap suelta_;  // a page too large to be kept

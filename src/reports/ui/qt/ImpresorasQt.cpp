@@ -57,14 +57,15 @@ std::string ImpresorasQt::PorDefecto() const {
 }
 
 bool ImpresorasQt::Imprimir(const documento::Documento& documento, const std::string& impresora,
-                            bool preguntar, int copias) {
+                            const PedidoDeImpresion& pedido) {
     QPrinter salida(QPrinter::HighResolution);
     if (!impresora.empty()) salida.setPrinterName(programa::qt::Q(impresora));
     salida.setDocName(programa::qt::Q(documento.Titulo));
-    salida.setCopyCount(copias);
+    salida.setCopyCount(pedido.Copias);
+    if (pedido.Paginas.Ultima > 0) salida.setFromTo(pedido.Paginas.Primera, pedido.Paginas.Ultima);
     salida.setFullPage(true);
     salida.setPageLayout(HojaDe(documento.Hoja));
-    if (preguntar) {
+    if (pedido.Preguntar) {
         QPrintDialog dialogo(&salida, QApplication::activeWindow());
         dialogo.setOption(QAbstractPrintDialog::PrintPageRange);
         if (dialogo.exec() != QDialog::Accepted) return false;

@@ -15,8 +15,8 @@ class ImpresorasQt : public Impresoras {
   public:
     std::vector<std::string> Disponibles() const override;
     std::string PorDefecto() const override;
-    bool Imprimir(const documento::Documento& documento, const std::string& impresora, bool preguntar,
-                  int copias) override;
+    bool Imprimir(const documento::Documento& documento, const std::string& impresora,
+                  const PedidoDeImpresion& pedido) override;
 };
 
 }  // namespace trabex::reportes::ui::qt

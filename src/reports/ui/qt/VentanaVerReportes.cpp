@@ -1,6 +1,7 @@
 #include "reports/ui/qt/VentanaVerReportes.h"
 
 #include <QComboBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -13,6 +14,7 @@
 #include <cmath>
 
 #include "reports/salidas/qt/VistaPaginas.h"
+#include "reports/ui/qt/BarraDeVisor.h"
 #include "shell/qt/ComunVentanas.h"
 #include "shell/qt/Iconos.h"
 
@@ -25,14 +27,6 @@ constexpr double ZoomInicial = 100;
 constexpr double PasoDeZoom = 1.25;
 constexpr int OpcionAncho = -1;
 constexpr int OpcionPagina = -2;
-
-QAction* Accion(QToolBar& barra, const char* icono, const QString& titulo, const QKeySequence& tecla) {
-    QAction* accion = barra.addAction(programa::qt::Icono(icono), titulo);
-    accion->setShortcut(tecla);
-    accion->setToolTip(tecla.isEmpty() ? titulo
-                                       : titulo + " (" + tecla.toString(QKeySequence::NativeText) + ")");
-    return accion;
-}
 
 }  // namespace
 
@@ -80,7 +74,7 @@ void VentanaVerReportes::Armar() {
 }
 
 void VentanaVerReportes::ArmarSalidas(QToolBar& barra) {
-    QAction* imprimir = Accion(barra, "impresora", "Imprimir el reporte", QKeySequence::Print);
+    QAction* imprimir = AccionDeBarra(barra, "impresora", "Imprimir el reporte", QKeySequence::Print);
     connect(imprimir, &QAction::triggered, this, [this] { Imprimir(); });
     auto* menu = new QMenu(&barra);
     for (std::size_t i = 0; i < Salidas.size(); ++i) {
@@ -95,37 +89,31 @@ void VentanaVerReportes::ArmarSalidas(QToolBar& barra) {
     exportar->setMenu(menu);
     programa::qt::PonerAyuda(exportar, "Exportar", "Exportar el reporte a un archivo.");
     barra.addWidget(exportar);
-    QAction* carpeta = Accion(barra, "carpeta", "Abrir la carpeta de los reportes exportados", {});
+    QAction* carpeta = AccionDeBarra(barra, "carpeta", "Abrir la carpeta de los reportes exportados", {});
     connect(carpeta, &QAction::triggered, this, [this] { exportador_.AbrirCarpeta(); });
 }
 
 void VentanaVerReportes::ArmarPaginas(QToolBar& barra) {
-    const auto ir = [this](int pagina) { vista_->IrAPagina(pagina); };
-    const int ultima = vista_->NumeroPaginas() - 1;
-    connect(Accion(barra, "pagina-primera", "Primera página", QKeySequence("Ctrl+Home")), &QAction::triggered,
-            this, [ir] { ir(0); });
-    connect(Accion(barra, "pagina-anterior", "Página anterior", QKeySequence("Ctrl+PgUp")),
-            &QAction::triggered, this, [this, ir] { ir(vista_->PaginaActual() - 1); });
-    pagina_ = new QSpinBox(&barra);
-    pagina_->setRange(1, ultima + 1);
+    auto* lugar = new QWidget(&barra);
+    pagina_ = new QSpinBox(lugar);
+    pagina_->setRange(1, vista_->NumeroPaginas());
     pagina_->setButtonSymbols(QAbstractSpinBox::NoButtons);
     pagina_->setAlignment(Qt::AlignRight);
     pagina_->setKeyboardTracking(false);
     pagina_->setAccessibleName("Página");
-    connect(pagina_, &QSpinBox::valueChanged, this, [this, ir](int numero) {
-        if (numero - 1 != vista_->PaginaActual()) ir(numero - 1);
+    connect(pagina_, &QSpinBox::valueChanged, this, [this](int numero) {
+        if (numero - 1 != vista_->PaginaActual()) vista_->IrAPagina(numero - 1);
     });
-    barra.addWidget(pagina_);
-    barra.addWidget(new QLabel(" de " + QString::number(ultima + 1) + " ", &barra));
-    connect(Accion(barra, "pagina-siguiente", "Página siguiente", QKeySequence("Ctrl+PgDown")),
-            &QAction::triggered, this, [this, ir] { ir(vista_->PaginaActual() + 1); });
-    connect(Accion(barra, "pagina-ultima", "Última página", QKeySequence("Ctrl+End")), &QAction::triggered,
-            this, [ir, ultima] { ir(ultima); });
+    auto* fila = new QHBoxLayout(lugar);
+    fila->setContentsMargins(0, 0, 0, 0);
+    fila->addWidget(pagina_);
+    fila->addWidget(new QLabel(" de " + QString::number(vista_->NumeroPaginas()) + " ", lugar));
+    PonerAccionesDePaginas(barra, *vista_, lugar);
     vista_->AlCambiarPagina = [this](int pagina) { MostrarPagina(pagina); };
 }
 
 void VentanaVerReportes::ArmarZoom(QToolBar& barra) {
-    connect(Accion(barra, "alejar", "Alejar", QKeySequence("Ctrl+-")), &QAction::triggered, this,
+    connect(AccionDeBarra(barra, "alejar", "Alejar", QKeySequence("Ctrl+-")), &QAction::triggered, this,
             [this] { vista_->PonerZoom(vista_->Zoom() / PasoDeZoom); });
     zoom_ = new QComboBox(&barra);
     zoom_->setAccessibleName("Zoom");
@@ -136,7 +124,7 @@ void VentanaVerReportes::ArmarZoom(QToolBar& barra) {
     zoom_->setMinimumWidth(zoom_->sizeHint().width());
     connect(zoom_, &QComboBox::activated, this, [this](int) { PonerZoom(zoom_->currentData().toInt()); });
     barra.addWidget(zoom_);
-    connect(Accion(barra, "acercar", "Acercar", QKeySequence("Ctrl++")), &QAction::triggered, this,
+    connect(AccionDeBarra(barra, "acercar", "Acercar", QKeySequence("Ctrl++")), &QAction::triggered, this,
             [this] { vista_->PonerZoom(vista_->Zoom() * PasoDeZoom); });
     vista_->AlCambiarZoom = [this](double zoom) { MostrarZoom(zoom); };
     MostrarZoom(vista_->Zoom());

@@ -1,0 +1,193 @@
+// The preview of a grid and its exports, answered by a script and by real widgets.
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include "base/Archivos.h"
+#include "reports/salidas/qt/VistaPaginas.h"
+#include "reports/ui/OpcionExportar2.h"
+#include "reports/ui/qt/VentanaVistaPreviaR.h"
+#include "support/CarpetaTemporal.h"
+#include "support/CuadriculaDePrueba.h"
+#include "support/ImpresorasGuiadas.h"
+#include "support/ProyectoDePrueba.h"
+#include "support/ShellGuiado.h"
+
+namespace trabex {
+
+using namespace programa;
+using namespace reportes::ui;
+using namespace reportes::ui::qt;
+using namespace salidas::qt;
+
+namespace {
+
+struct VistaGuiada : VistaOpcionExportar2 {
+    std::vector<bool> Esperas;
+    bool Cerrada = false;
+    void PunteroDeEspera(bool espera) override { Esperas.push_back(espera); }
+    void Cerrar() override { Cerrada = true; }
+};
+
+class PreviaDeCuadricula : public testing::Test {
+  protected:
+    PreviaDeCuadricula()
+        : plataforma(carpeta.Camino()), entorno{aplicacion, estado,   motor,     impresoras,
+                                                caja,       dialogos, plataforma} {
+        aplicacion.CaminoUsuario = carpeta / "usuario";
+        aplicacion.Usuario = "ING. NÚÑEZ";
+    }
+    VistaGuiada Exportar(std::uint8_t formato) {
+        VistaGuiada vista;
+        OpcionExportar2(entorno, vista, grilla).Aceptar(formato);
+        return vista;
+    }
+    prueba::CarpetaTemporal carpeta;
+    prueba::PlataformaGuiada plataforma;
+    prueba::CajaGuiada caja;
+    prueba::DialogosGuiados dialogos;
+    prueba::ImpresorasGuiadas impresoras;
+    Aplicacion aplicacion;
+    EstadoSalida estado;
+    salidas::MotorReportes motor;
+    EntornoSalida entorno;
+    cuadricula::Cuadricula grilla = prueba::CuadriculaDePrueba(1);
+};
+
+TEST_F(PreviaDeCuadricula, CadaFormatoPideEscribeRegistraYPregunta) {
+    struct Caso {
+        std::uint8_t Formato;
+        const char *Nombre, *Registro, *Titulo, *Filtro, *Pregunta, *Encabezado, *Contiene;
+    };
+    const std::array<Caso, 5> casos{{
+        {1, "a.xls", "a.Log", "Crear Archivo EXCEL", "Archivos xls (*.xls)|*.xls",
+         "¿Desea Abrir el Archivo con el Excel?", "Abrir el Archivo con Excel...", "\xD0\xCF\x11\xE0"},
+        {2, "ñandú.htm", "ñandú.Log", "Crear Archivo HTML", "Archivos htm (*.htm)|*.htm",
+         "¿Desea Abrir el Archivo con el Internet Explorer?", "Abrir el Archivo con el Explorer...",
+         "border=\"0\""},
+        {3, "c.html", "c.hLog", "Crear Archivo HTML", "Archivos htm (*.htm)|*.htm",
+         "¿Desea Abrir el Archivo con el Internet Explorer?", "Abrir el Archivo con el Explorer...",
+         "border=\"1\""},
+        {4, "d.txt", "", "Crear Archivo de Texto", "Archivos txt (*.txt)|*.txt",
+         "¿Desea Abrir el Archivo con el Block de Notas?", "Abrir el Archivo...", "1250,50\t1300,00"},
+        {5, "e", "Log", "Crear Archivo XML", "Archivos xls (*.xml)|*.xml", "¿Desea Abrir el Archivo XML?",
+         "Abrir el Archivo XML...", "<collection_element>"},
+    }};
+    for (const Caso& caso : casos) {
+        const std::filesystem::path archivo = carpeta / caso.Nombre;
+        dialogos.Elegidos = {archivo};
+        caja.Respuestas = {RespuestaSi};
+        const VistaGuiada vista = Exportar(caso.Formato);
+        EXPECT_EQ(estado.FormatoSalida, caso.Formato);
+        const PeticionArchivo& peticion = dialogos.Peticiones.back();
+        EXPECT_EQ(peticion.Titulo, caso.Titulo);
+        EXPECT_EQ(peticion.Filtro, caso.Filtro);
+        EXPECT_EQ(peticion.Nombre, "");
+        EXPECT_TRUE(peticion.Guardar && peticion.AvisarReemplazo);
+        EXPECT_EQ(peticion.Carpeta, aplicacion.CaminoUsuario / "ReportesExportados");
+        EXPECT_EQ(caja.Mensajes.back().Texto, caso.Pregunta);
+        EXPECT_EQ(caja.Mensajes.back().Encabezado, caso.Encabezado);
+        EXPECT_EQ(plataforma.Abiertos.back(), archivo);
+        EXPECT_NE(prueba::LeerArchivo(archivo).find(caso.Contiene), std::string::npos) << caso.Nombre;
+        EXPECT_EQ(vista.Esperas, (std::vector<bool>{true, false}));
+        EXPECT_TRUE(vista.Cerrada);
+        const std::filesystem::path registro = carpeta / caso.Registro;
+        if (*caso.Registro == 0) continue;
+        EXPECT_TRUE(std::filesystem::is_regular_file(registro)) << registro;
+    }
+    EXPECT_FALSE(Existe(carpeta / "d.Log"));
+}
+
+TEST_F(PreviaDeCuadricula, CancelarNoHaceNadaYLaFallaSeDice) {
+    EXPECT_FALSE(Exportar(CuadriculaExcel).Cerrada);
+    EXPECT_TRUE(caja.Mensajes.empty());
+    const std::array<std::pair<std::uint8_t, const char*>, 5> fallas{
+        {{1, "Error Creando el Archivo en Excel..."},
+         {2, "Error al Crear el Archivo en HTML..."},
+         {3, "Error al Crear el Archivo en HTML..."},
+         {4, "Error Creando el Archivo..."},
+         {5, "Error Creando el Archivo XML..."}}};
+    for (const auto& [formato, texto] : fallas) {
+        dialogos.Elegidos = {carpeta / "no existe" / "tabla.xls"};
+        const VistaGuiada vista = Exportar(formato);
+        EXPECT_EQ(caja.Mensajes.back().Texto, texto);
+        EXPECT_EQ(caja.Mensajes.back().Encabezado, "Reportes Exportados...");
+        EXPECT_EQ(vista.Esperas.back(), false);
+    }
+    EXPECT_TRUE(plataforma.Abiertos.empty());
+}
+
+TEST_F(PreviaDeCuadricula, PaginasTituloYZoom) {
+    for (int i = 0; i < 200; ++i) grilla.Hojas[0].Celdas.Filas.push_back(grilla.Hojas[0].Celdas.Filas[1]);
+    aplicacion.NombreProyecto = "torre.los";
+    aplicacion.Datos.Proyecto = "Torre";
+    VentanaVistaPreviaR ventana(entorno, grilla, "Cargas", documento::Alineacion::Centro, false, nullptr);
+    ventana.resize(1000, 760);
+    ventana.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&ventana));
+    auto* vista = ventana.findChild<VistaPaginas*>();
+    auto* pagina = ventana.findChild<QLabel*>("Pagina");
+    const int paginas = vista->NumeroPaginas();
+    EXPECT_GT(paginas, 4);
+    EXPECT_EQ(pagina->text(), QString("1  de  %1").arg(paginas));
+    // The whole first page is in sight: its height at this zoom is the view's.
+    EXPECT_LT(std::abs(vista->Zoom() - vista->ZoomDePagina()), 0.01);
+
+    auto* modo = ventana.findChild<QComboBox*>("Modo");
+    const auto elegir = [modo](ModoDeZoom cual) {
+        modo->setCurrentIndex(static_cast<int>(cual));
+        Q_EMIT modo->activated(modo->currentIndex());
+    };
+    elegir(ModoDeZoom::TamanoNormal);
+    EXPECT_EQ(vista->Zoom(), 100);
+    elegir(ModoDeZoom::Porcentaje);
+    auto* porcentaje = ventana.findChild<QComboBox*>("Porcentaje");
+    for (int i = 0; i < porcentaje->count(); ++i) {
+        porcentaje->setCurrentIndex(i);
+        Q_EMIT porcentaje->activated(i);
+        EXPECT_EQ(vista->Zoom(), PorcentajesDeZoom[static_cast<std::size_t>(i)]);
+    }
+    elegir(ModoDeZoom::MultiplesPaginas);
+    const double cuatro = vista->Zoom();
+    elegir(ModoDeZoom::PaginaEntera);
+    EXPECT_GT(vista->Zoom(), 1.8 * cuatro);
+
+    vista->IrAPagina(paginas - 1);
+    EXPECT_EQ(pagina->text(), QString("%1  de  %1").arg(paginas));
+    auto* titulo = ventana.findChild<QLineEdit*>("Titulo");
+    EXPECT_EQ(titulo->text(), "Cargas");
+    titulo->setFocus();
+    titulo->selectAll();
+    QTest::keyClicks(titulo, "Otros pesos");
+    vista->Buscar("Otros pesos");
+    EXPECT_EQ(vista->NumeroHallazgos(), paginas);
+    vista->Buscar("Proyecto: Torre");
+    EXPECT_EQ(vista->NumeroHallazgos(), paginas);
+    vista->Buscar(QString("Página: %1").arg(paginas));
+    EXPECT_EQ(vista->NumeroHallazgos(), 1);
+}
+
+TEST_F(PreviaDeCuadricula, ImprimirPreguntaYTomaSusAjustes) {
+    VistaPreviaR operaciones(entorno, grilla, "Cargas", documento::Alineacion::Centro, true);
+    EXPECT_FALSE(operaciones.Imprimir({.MargenIzquierdo = 1440, .NumeroDePagina = false}, {2, 3}));
+    EXPECT_EQ(caja.Mensajes.back().Texto, "¿Imprimir el Reporte?");
+    EXPECT_EQ(caja.Mensajes.back().Encabezado, "Reportes del Programa...");
+    EXPECT_TRUE(impresoras.Impresos.empty());
+    EXPECT_EQ(operaciones.Ajustes().MargenIzquierdo, 800);
+    caja.Respuestas = {RespuestaSi};
+    EXPECT_TRUE(
+        operaciones.Imprimir({.MargenIzquierdo = 1440, .Apaisada = true, .NumeroDePagina = false}, {2, 3}));
+    EXPECT_EQ(impresoras.Impresos.size(), 1U);
+    EXPECT_FALSE(impresoras.Ultimo.Preguntar);
+    EXPECT_EQ(impresoras.Ultimo.Paginas.Primera, 2);
+    EXPECT_EQ(impresoras.Ultimo.Paginas.Ultima, 3);
+    EXPECT_NEAR(impresoras.Hoja.MargenIzquierdo, 25.4, 0.01);
+    EXPECT_TRUE(impresoras.Hoja.Pie.Derecha.empty());
+}
+
+}  // namespace
+}  // namespace trabex
