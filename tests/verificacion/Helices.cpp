@@ -1,0 +1,145 @@
+// Helical stairs and beams: equilibrium, a chain of bars in space, the bow girder of the textbooks.
+
+#include <cmath>
+#include <random>
+
+#include "Verificacion.h"
+#include "helical/CalcularEscaleraH.h"
+#include "support/HelicePorBarras.h"
+
+namespace trabex::verificacion {
+
+using namespace helices;
+using namespace prueba;
+
+namespace {
+
+constexpr const char* Nombre = "Escaleras y vigas helicoidales";
+
+double Grados(double grados) {
+    return grados * std::acos(-1) / 180;
+}
+
+ResultadosEscaleraH Calcular(const DatosEscaleraH& e) {
+    ResultadosEscaleraH r;
+    CalcularEscaleraH(e, {}, r);
+    return r;
+}
+
+Accion AccionDe(const EstacionEscaleraH& s, const EjeHelice& eje, double t) {
+    const Vector3 tangente = eje.Tangente(t), radial = eje.Radial(t), normal = eje.Normal(t);
+    return {s.N * tangente + s.QY * radial - s.QX * normal, s.MY * normal - s.MT * tangente - s.MX * radial};
+}
+
+DatosEscaleraH AlAzar(std::mt19937& azar, bool plana) {
+    const auto entre = [&azar](double a, double b) { return std::uniform_real_distribution<>(a, b)(azar); };
+    DatosEscaleraH e{"",   "", entre(0.8, 2), entre(0.1, 0.4), plana ? 0 : entre(1, 5), entre(1.2, 4), 0,
+                     1500, 5};
+    e.Angulo = 10.0 * std::uniform_int_distribution<>(6, 36)(azar);
+    return e;
+}
+
+void Equilibrio(Problemas& problemas) {
+    Problema& fuerza = problemas.emplace_back(
+        Nombre, "Fuerzas del apoyo superior al inferior contra la carga", "Equilibrio en el espacio", 1e-9);
+    Problema& momento =
+        problemas.emplace_back(Nombre, "Momentos del apoyo superior al inferior contra la carga",
+                               "Equilibrio en el espacio (Simpson)", 1e-7);
+    Problema& reaccion = problemas.emplace_back(
+        Nombre, "Reacción vertical: la mitad de la carga (kgf enteros)", "Equilibrio vertical", 1e-3);
+    std::mt19937 azar(5);
+    for (int vez = 0; vez < 60; ++vez) {
+        const DatosEscaleraH e = AlAzar(azar, false);
+        const ResultadosEscaleraH r = Calcular(e);
+        const EjeHelice eje(e);
+        const double hasta = Grados(static_cast<double>(r.NEst - 1) * e.Inter), desde = -hasta;
+        const Vector3 punto = eje.Posicion(hasta);
+        const Accion arriba = AccionDe(r.TramoSuperior[1], eje, desde);
+        const Accion abajo = AccionDe(r.TramoInferior[r.NEst], eje, hasta);
+        Accion suma{arriba.F, arriba.M + Cruz(eje.Posicion(desde) - punto, arriba.F)};
+        constexpr int trozos = 1000;
+        for (int i = 0; i <= trozos; ++i) {
+            const double t = desde + (hasta - desde) * i / trozos;
+            const double peso = (i == 0 || i == trozos ? 1 : (i % 2 == 1 ? 4 : 2)) / 3.0;
+            const Vector3 dF{0, 0, -e.W * e.R * (hasta - desde) / trozos * peso};
+            suma.F = suma.F + dF;
+            suma.M = suma.M + Cruz(eje.Carga(t) - punto, dF);
+        }
+        for (Problema* p : {&fuerza, &momento, &reaccion}) p->NuevoCaso();
+        for (std::size_t k = 0; k < 3; ++k) {
+            fuerza.Comparar(suma.F[k], abajo.F[k], e.W * e.R);
+            momento.Comparar(suma.M[k], abajo.M[k], e.W * e.R * e.R);
+        }
+        reaccion.Comparar(r.FV, e.W * r.L / 2, e.W * r.L / 2);
+    }
+}
+
+void Barras(Problemas& problemas) {
+    Problema& barras = problemas.emplace_back(
+        Nombre, "Las seis acciones de cada estación, con dos incógnitas en forma cerrada",
+        "Cadena de barras rectas en el espacio, dos por grado, por el método de las rigideces", 1e-3);
+    const DatosEscaleraH casos[]{EscaleraHNuevaDe("", ""),
+                                 {"", "", 1, 0.2, 3, 1.5, 180, 1200, 10},
+                                 {"", "", 0.3, 0.3, 2, 3, 90, 900, 5},
+                                 {"", "", 1.2, 0.25, 4, 2, 360, 1000, 20},
+                                 {"", "", 1.2, 0.4, 0, 2, 120, 1000, 10},
+                                 {"", "", 2, 0.12, 5, 1.4, 300, 1800, 15}};
+    for (const DatosEscaleraH& e : casos) {
+        const ResultadosEscaleraH r = Calcular(e);
+        const EjeHelice eje(e);
+        constexpr std::size_t porGrado = 2;
+        const auto total = static_cast<std::size_t>(e.Angulo) * porGrado;
+        const HelicePorBarras cadena(e, total);
+        barras.NuevoCaso();
+        for (std::size_t i = 1; i < r.NEst; ++i) {
+            const std::size_t grados = (i - 1) * static_cast<std::size_t>(e.Inter);
+            const Accion a = cadena.En(total / 2 + grados * porGrado);
+            const Accion b = AccionDe(r.TramoInferior[i], eje, Grados(static_cast<double>(grados)));
+            for (std::size_t k = 0; k < 3; ++k) {
+                barras.Comparar(b.F[k], a.F[k], e.W * e.R);
+                barras.Comparar(b.M[k], a.M[k], e.W * e.R * e.R);
+            }
+        }
+    }
+}
+
+/// A flat curved beam fixed at both ends: one unknown, the moment at the crown, by least work.
+void VigaBalcon(Problemas& problemas) {
+    Problema& balcon =
+        problemas.emplace_back(Nombre, "Viga balcón (H = 0): momento y torsor de cada estación",
+                               "Trabajo mínimo con una incógnita, el momento en la clave "
+                               "(Timoshenko, Strength of Materials II)",
+                               1e-9);
+    Problema& nulos = problemas.emplace_back(
+        Nombre, "Viga balcón (H = 0): axial, corte y momento laterales nulos", "Simetría", 1e-12);
+    std::mt19937 azar(9);
+    for (int vez = 0; vez < 60; ++vez) {
+        const DatosEscaleraH e = AlAzar(azar, true);
+        const ResultadosEscaleraH r = Calcular(e);
+        const double fi = Grados(e.Angulo / 2), lambda = (1 + std::pow(e.T / e.B, 2)) / 2;
+        const double g = 1 + e.B * e.B / (12 * e.R * e.R), q = e.W * e.R * e.R;
+        const double s = std::sin(fi), s2 = std::sin(2 * fi) / 4;
+        const double coseno2 = fi / 2 + s2, seno2 = fi / 2 - s2;
+        const double clave = q * (g * (s - coseno2) + lambda * (s - fi * std::cos(fi) - g * seno2)) /
+                             (coseno2 + lambda * seno2);
+        balcon.NuevoCaso();
+        nulos.NuevoCaso();
+        for (std::size_t i = 1; i <= r.NEst; ++i) {
+            const double t = Grados(static_cast<double>(i - 1) * e.Inter);
+            const EstacionEscaleraH& p = r.TramoInferior[i];
+            balcon.Comparar(p.MX, clave * std::cos(t) - g * q * (1 - std::cos(t)), q);
+            balcon.Comparar(p.MT, q * t - (clave + g * q) * std::sin(t), q);
+            for (const double nulo : {p.N, p.QY, p.MY}) nulos.Comparar(nulo, 0, q);
+        }
+    }
+}
+
+}  // namespace
+
+void VerificarHelices(Problemas& problemas) {
+    Equilibrio(problemas);
+    Barras(problemas);
+    VigaBalcon(problemas);
+}
+
+}  // namespace trabex::verificacion
