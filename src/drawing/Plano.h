@@ -33,7 +33,7 @@ class Plano {
     Plano(Lienzo& lienzo, const EstadoVista& vista, std::string_view fuente)
         : lienzo_(lienzo), vista_(vista), fuente_(fuente) {}
 
-    Lienzo& lienzo() const { return lienzo_; }
+    Lienzo& ElLienzo() const { return lienzo_; }
     double Escala() const { return vista_.Escala; }
 
     /// A length in pixels as canvas units: the same number on a screen.
