@@ -61,9 +61,6 @@ class Plano {
     /// Places a text by its possible centres and writes it. `grados`: 0 or 90.
     void Rotular(std::string_view texto, const std::vector<Centro>& centros, double grados = 0);
 
-    /// A thin line with an arrowhead at each end and its text above the middle.
-    void Acotar(double x1, double x2, std::int32_t y, std::string_view texto, EstiloLinea estilo) const;
-
   private:
     double Solape(const CajaTexto& caja) const;
 

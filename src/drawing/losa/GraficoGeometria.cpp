@@ -1,5 +1,6 @@
 #include "drawing/losa/GraficoGeometria.h"
 
+#include "drawing/Cotas.h"
 #include "drawing/Primitivas.h"
 #include "drawing/losa/BaseLosa.h"
 
@@ -18,8 +19,8 @@ void DibujeCotas(const Trazado& t) {
     p.Letra(LetraDeCotas);
     const std::int32_t fila = p.Fila(FilaDeCotas);
     for (std::size_t i = 1; i <= t.N; ++i)
-        p.Acotar(t.EjeX(i), t.EjeX(i + 1), fila, t.Numero(t.Losa.Tramos[i].LT, "0.00"),
-                 EstiloLinea::Punteada);
+        Acotar(p, {p.X(t.EjeX(i)), fila}, {p.X(t.EjeX(i + 1)), fila}, t.Numero(t.Losa.Tramos[i].LT, "0.00"),
+               TextoDeCota::Encima, {1, EstiloLinea::Punteada, {}});
     constexpr std::string_view rotulo = "DESPIECE:";
     const MedidaTexto medida = p.ElLienzo().Medir(rotulo);
     p.Escribir(rotulo, Ancla::Izquierda, p.X(t.EjeX(1)) - Pixeles(1.1 * medida.Ancho),

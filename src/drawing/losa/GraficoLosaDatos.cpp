@@ -5,6 +5,7 @@
 #include <cmath>
 #include <optional>
 
+#include "drawing/Cotas.h"
 #include "drawing/Primitivas.h"
 #include "drawing/Superficie.h"
 #include "drawing/losa/Apoyos.h"
@@ -20,7 +21,7 @@ constexpr Color FondoMarca{255, 205, 96};
 constexpr Color FondoCarga{248, 214, 210};
 constexpr Color FondoConcreto{222, 226, 227};
 constexpr Color TintaMarca{196, 84, 20};
-constexpr Color TintaCota{90, 98, 100};
+constexpr Pluma PlumaCota{1, EstiloLinea::Solida, {90, 98, 100}};
 constexpr double Letra = 8;
 constexpr double AnchoUtil = 0.80;
 
@@ -87,8 +88,8 @@ void DibujeCotasDeTramos(Plano& p, const Boceto& b, double sobre) {
     for (std::size_t i = 1; i <= b.N; ++i) {
         const double nivel = std::max(b.Ejes.EjesY[i], b.Ejes.EjesY[i + 1]) + sobre;
         p.ElLienzo().PonerColorTexto(b.Datos.Tramos[i].LT > 0 && i != b.Marca.Tramo ? Contorno : TintaMarca);
-        p.Acotar(b.Ejes.EjesX[i], b.Ejes.EjesX[i + 1], p.Y(nivel), b.Numero(b.Datos.Tramos[i].LT, "0.00"),
-                 EstiloLinea::Solida);
+        Acotar(p, {p.X(b.Ejes.EjesX[i]), p.Y(nivel)}, {p.X(b.Ejes.EjesX[i + 1]), p.Y(nivel)},
+               b.Numero(b.Datos.Tramos[i].LT, "0.00"), TextoDeCota::Encima);
     }
     p.ElLienzo().PonerColorTexto(Contorno);
 }
@@ -127,7 +128,7 @@ class Seccion {
             DibujarMaciza();
         else
             DibujarNervada();
-        CotaVertical(total, 0, altura, -1);
+        CotaVertical(X(0) - 10, 0, altura, TextoDeCota::Izquierda);
     }
 
   private:
@@ -157,29 +158,18 @@ class Seccion {
         p_.ElLienzo().Poligono(figura, PlumaContorno, FondoConcreto);
         CotaHorizontal(0, losa.Bo, losa.Ho, losa.Bo);
         CotaHorizontal(losa.Bo / 2, losa.So + losa.Bo / 2, losa.Ho + SegundaCota(), losa.So);
-        CotaVertical(fin, 0, losa.Loseta, 1);
+        CotaVertical(X(fin) + 10, 0, losa.Loseta, TextoDeCota::Derecha);
     }
 
     double SegundaCota() const { return (p_.ElLienzo().Medir("WW").Alto + 8) / unidades_; }
 
     void CotaHorizontal(double desde, double hasta, double abajo, double valor) {
-        const std::int32_t alto = p_.ElLienzo().Medir("WW").Alto;
-        const std::int32_t y = Y(abajo) + alto + 6;
-        DibujeLinea(p_.ElLienzo(), X(desde), y, X(hasta), y, 1, EstiloLinea::Solida, TintaCota);
-        DibujeFlechaPixel(p_.ElLienzo(), X(desde), y, HaciaIzquierda, TintaCota);
-        DibujeFlechaPixel(p_.ElLienzo(), X(hasta), y, HaciaDerecha, TintaCota);
-        p_.Escribir(b_.Numero(valor, "0.00"), Ancla::Izquierda, X(hasta) + 6, y - alto / 2);
+        const std::int32_t y = Y(abajo) + p_.ElLienzo().Medir("WW").Alto + 6;
+        Acotar(p_, {X(desde), y}, {X(hasta), y}, b_.Numero(valor, "0.00"), TextoDeCota::AlFinal, PlumaCota);
     }
 
-    /// `lado`: 1 at the right of the section, -1 at its left.
-    void CotaVertical(double total, double desde, double hasta, int lado) {
-        const MedidaTexto medida = p_.ElLienzo().Medir(b_.Numero(hasta - desde, "0.00"));
-        const std::int32_t x = lado > 0 ? X(total) + 10 : X(0) - 10;
-        DibujeLinea(p_.ElLienzo(), x, Y(desde), x, Y(hasta), 1, EstiloLinea::Solida, TintaCota);
-        DibujeFlechaPixel(p_.ElLienzo(), x, Y(desde), HaciaArriba, TintaCota);
-        DibujeFlechaPixel(p_.ElLienzo(), x, Y(hasta), HaciaAbajo, TintaCota);
-        p_.Escribir(b_.Numero(hasta - desde, "0.00"), Ancla::Izquierda,
-                    lado > 0 ? x + 6 : x - 6 - medida.Ancho, (Y(desde) + Y(hasta)) / 2 - medida.Alto / 2);
+    void CotaVertical(std::int32_t x, double desde, double hasta, TextoDeCota lado) {
+        Acotar(p_, {x, Y(desde)}, {x, Y(hasta)}, b_.Numero(hasta - desde, "0.00"), lado, PlumaCota);
     }
 
     Plano& p_;
