@@ -16,6 +16,10 @@
 namespace {
 
 using namespace trabex;
+using namespace losas;
+using namespace dibujo;
+using namespace dibujo::losa;
+using namespace dibujo::qt;
 
 QImage Pantalla() {
     QImage imagen(1280, 720, QImage::Format_RGB32);

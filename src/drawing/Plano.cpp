@@ -97,13 +97,4 @@ void Plano::Rotular(std::string_view texto, const std::vector<Centro>& centros, 
     EscribirCentrado(texto, caja.x + caja.Ancho / 2, caja.y + caja.Alto / 2, grados);
 }
 
-void Plano::Acotar(double x1, double x2, std::int32_t y, std::string_view texto, EstiloLinea estilo) const {
-    const std::int32_t desde = X(x1);
-    const std::int32_t hasta = X(x2);
-    DibujeLinea(lienzo_, desde, y, hasta, y, 1, estilo, {});
-    DibujeFlechaPixel(lienzo_, desde, y, HaciaIzquierda, {});
-    DibujeFlechaPixel(lienzo_, hasta, y, HaciaDerecha, {});
-    Escribir(texto, Ancla::Centro, (desde + hasta) / 2, y - lienzo_.Medir("WW").Alto - Unidades(1));
-}
-
 }  // namespace trabex::dibujo

@@ -33,7 +33,7 @@ class Plano {
     Plano(Lienzo& lienzo, const EstadoVista& vista, std::string_view fuente)
         : lienzo_(lienzo), vista_(vista), fuente_(fuente) {}
 
-    Lienzo& lienzo() const { return lienzo_; }
+    Lienzo& ElLienzo() const { return lienzo_; }
     double Escala() const { return vista_.Escala; }
 
     /// A length in pixels as canvas units: the same number on a screen.
@@ -60,9 +60,6 @@ class Plano {
     CajaTexto Colocar(double ancho, double alto, const std::vector<Centro>& centros);
     /// Places a text by its possible centres and writes it. `grados`: 0 or 90.
     void Rotular(std::string_view texto, const std::vector<Centro>& centros, double grados = 0);
-
-    /// A thin line with an arrowhead at each end and its text above the middle.
-    void Acotar(double x1, double x2, std::int32_t y, std::string_view texto, EstiloLinea estilo) const;
 
   private:
     double Solape(const CajaTexto& caja) const;

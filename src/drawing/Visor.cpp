@@ -5,7 +5,6 @@ namespace trabex::dibujo {
 namespace {
 constexpr double PasoDeZoom = 0.1;
 constexpr double ZoomMinimo = 0.1;
-constexpr double PasoDeTecla = 0.4;  // m
 }  // namespace
 
 void Visor::CambiarZoom(double paso) {
@@ -88,12 +87,10 @@ void Visor::Mover(BotonRaton boton, std::int32_t x, std::int32_t y) {
         y_ = y;
         Desplazar(dx, dy);
     }
-    if (boton != BotonRaton::Ninguno) return;
-    if (pan_ && !mano_) {
+    if (boton == BotonRaton::Ninguno && pan_ && !mano_) {
         mano_ = true;
         MostrarPuntero();
     }
-    anfitrion_.DetenerAyuda();
 }
 
 void Visor::Desplazar(double dx, double dy) {
@@ -103,7 +100,8 @@ void Visor::Desplazar(double dx, double dy) {
 }
 
 void Visor::Teclear(TeclaVista tecla) {
-    const double paso = PasoDeTecla * estado_.Escala;
+    if (teclas_.Antes && teclas_.Antes(tecla)) return;
+    const double paso = teclas_.PasoMetros * estado_.Escala + teclas_.PasoPixeles;
     switch (tecla) {
         case TeclaVista::Mas:
             return EjecuteZoomIn();

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <utility>
 
 namespace trabex::dibujo {
 
@@ -30,6 +32,14 @@ enum class TeclaVista {
     Menos = 109,
 };
 
+/// What the keys do to the drawing of an element.
+struct TeclasDeVista {
+    double PasoMetros = 0.4;  ///< step of the arrow keys: so many metres of the drawing...
+    double PasoPixeles = 0;   ///< ...and so many pixels
+    /// Sees each key first; true when that was all the key had to do.
+    std::function<bool(TeclaVista)> Antes;
+};
+
 /// Pointer of the canvas. The hand, pointer 99 of the canvas, shows open or closed.
 enum class PunteroVista { Normal, ManoAbierta, ManoCerrada };
 
@@ -42,7 +52,6 @@ class AnfitrionVista {
     virtual void PonerPuntero(PunteroVista puntero) = 0;
     /// The tool button `ID_PanRealtime` comes up.
     virtual void SoltarPanRealtime() = 0;
-    virtual void DetenerAyuda() = 0;
     /// Opens the menu `ID_Pantalla` at a point of the canvas.
     virtual void AbrirMenuPantalla(std::int32_t x, std::int32_t y) = 0;
 };
@@ -50,7 +59,8 @@ class AnfitrionVista {
 /// Commands, mouse and keys of a drawing canvas. Every redraw is whole and synchronous.
 class Visor {
   public:
-    Visor(EstadoVista& estado, AnfitrionVista& anfitrion) : estado_(estado), anfitrion_(anfitrion) {}
+    Visor(EstadoVista& estado, AnfitrionVista& anfitrion, TeclasDeVista teclas = {})
+        : estado_(estado), anfitrion_(anfitrion), teclas_(std::move(teclas)) {}
 
     void EjecuteZoomIn();
     /// Zoom stops at 0.1.
@@ -73,8 +83,6 @@ class Visor {
     void Mover(BotonRaton boton, std::int32_t x, std::int32_t y);
     void Teclear(TeclaVista tecla);
 
-    bool EnPan() const { return pan_; }
-
   private:
     void CambiarZoom(double paso);
     void Desplazar(double dx, double dy);
@@ -82,6 +90,7 @@ class Visor {
 
     EstadoVista& estado_;
     AnfitrionVista& anfitrion_;
+    TeclasDeVista teclas_;
     bool pan_ = false;
     bool mano_ = false;     // pointer 99
     bool cerrada_ = false;  // image of the hand

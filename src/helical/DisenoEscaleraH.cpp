@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "base/AceroMinimo.h"
 #include "base/Enteros.h"
 #include "base/Round.h"
 
@@ -87,8 +88,7 @@ EstribosHelice EstribosEscalera(double Cortante, double Torsor, double Ancho, do
 double AceroMinimo(const DatosEscaleraH& escalera, const DatosGenerales& generales) {
     const double b = escalera.B * 100;
     const double d = (escalera.T - generales.D8) * 100;
-    if (b > d) return b * 0.002 * d;
-    return (14.0 / generales.FY) * b * d;
+    return b > d ? AceroMinimoDeLosa(b, d) : AceroMinimoDeViga(generales.FY, b, d);
 }
 
 }  // namespace trabex::helices

@@ -22,7 +22,8 @@ struct EstribosHelice {
 EstribosHelice EstribosEscalera(double Cortante, double Torsion, double Ancho, double Alto,
                                 const DatosGenerales& generales);
 
-/// Minimum flexural steel of the flight, cm².
+/// Minimum flexural steel of the flight, cm²: AceroMinimoDeLosa of one that is wider than deep,
+/// AceroMinimoDeViga otherwise.
 double AceroMinimo(const DatosEscaleraH& escalera, const DatosGenerales& generales);
 
 }  // namespace trabex::helices

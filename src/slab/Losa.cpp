@@ -1,25 +1,6 @@
 #include "slab/Losa.h"
 
-#include "base/Enteros.h"
-
 namespace trabex::losas {
-
-namespace {
-
-template <class Registro>
-std::int16_t NumeroDeRegistros(const std::vector<Registro>& arreglo) {
-    return Entero16(static_cast<std::int64_t>(arreglo.size()) - 1);
-}
-
-}  // namespace
-
-std::int16_t NumeroTramos(const Losa& losa) {
-    return NumeroDeRegistros(losa.Tramos);
-}
-
-std::int16_t NumeroJuntasD(const Losa& losa) {
-    return NumeroDeRegistros(losa.JuntasD);
-}
 
 SeccionLosa SeccionDeCalculo(const Losa& losa) {
     return losa.OpcionMaciza ? SeccionLosa{losa.Bm, losa.Hm} : SeccionLosa{losa.Bo, losa.Ho};

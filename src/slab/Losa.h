@@ -58,11 +58,9 @@ struct Losa {
     std::vector<JuntaD> JuntasD = std::vector<JuntaD>(1);
 };
 
-/// Number of spans. Throws ErrorEjecucion 6 past 32767.
-std::int16_t NumeroTramos(const Losa& losa);
-
-/// Number of displaced-joint records. Throws ErrorEjecucion 6 past 32767.
-std::int16_t NumeroJuntasD(const Losa& losa);
+inline std::size_t NumeroTramos(const Losa& losa) {
+    return losa.Tramos.size() - 1;
+}
 
 /// The rectangular section that is analysed and designed: (Bm, Hm) of a solid slab, (Bo, Ho) of a ribbed one.
 struct SeccionLosa {

@@ -19,12 +19,10 @@ class AnfitrionGrabador : public AnfitrionVista {
     void RedibujeVista() override { ++Redibujos; }
     void PonerPuntero(PunteroVista puntero) override { Puntero = puntero; }
     void SoltarPanRealtime() override { ++PanSueltos; }
-    void DetenerAyuda() override { ++AyudasDetenidas; }
     void AbrirMenuPantalla(std::int32_t x, std::int32_t y) override { Menu = {x, y}; }
 
     int Redibujos = 0;
     int PanSueltos = 0;
-    int AyudasDetenidas = 0;
     PunteroVista Puntero = PunteroVista::Normal;
     PuntoLienzo Menu;
 };
@@ -55,7 +53,9 @@ TEST_F(VisorPrueba, ExtensionDeshaceTodoYSueltaElPan) {
     EXPECT_EQ(Estado.Zoom, 1);
     EXPECT_EQ(Estado.PanX, 0);
     EXPECT_EQ(Estado.PanY, 0);
-    EXPECT_FALSE(Vista.EnPan());
+    Vista.BajarBoton(BotonRaton::Izquierdo, 0, 0);
+    Vista.Mover(BotonRaton::Izquierdo, 9, 9);
+    EXPECT_EQ(Estado.PanX, 0);
     EXPECT_EQ(Anfitrion.PanSueltos, 1);
     EXPECT_EQ(Anfitrion.Puntero, PunteroVista::Normal);
 }
@@ -93,7 +93,6 @@ TEST_F(VisorPrueba, LaManoSeCierraAlArrastrarYVuelveAlMoverSinBoton) {
     EXPECT_EQ(Anfitrion.Puntero, PunteroVista::Normal);
     Vista.Mover(BotonRaton::Ninguno, 1, 1);
     EXPECT_EQ(Anfitrion.Puntero, PunteroVista::ManoAbierta);
-    EXPECT_EQ(Anfitrion.AyudasDetenidas, 1);
 }
 
 TEST_F(VisorPrueba, LasFlechasMuevenElDibujoContraLaTecla) {
@@ -106,6 +105,27 @@ TEST_F(VisorPrueba, LasFlechasMuevenElDibujoContraLaTecla) {
     Vista.Teclear(TeclaVista::Arriba);
     EXPECT_EQ(Estado.PanX, 0);
     EXPECT_EQ(Estado.PanY, 0);
+}
+
+TEST_F(VisorPrueba, UnElementoTomaTeclasAntesYTieneSuPaso) {
+    std::vector<TeclaVista> tomadas;
+    bool girando = true;
+    Visor propio(Estado, Anfitrion, {0, 10, [&](TeclaVista tecla) {
+                                         if (girando && tecla != TeclaVista::Escape) tomadas.push_back(tecla);
+                                         return girando && tecla != TeclaVista::Escape;
+                                     }});
+    Estado.Escala = 50;
+    Estado.Zoom = 2;
+    propio.Teclear(TeclaVista::Izquierda);
+    propio.Teclear(TeclaVista::Mas);
+    EXPECT_EQ(tomadas, (std::vector{TeclaVista::Izquierda, TeclaVista::Mas}));
+    EXPECT_EQ(Estado.PanX, 0);
+    EXPECT_EQ(Estado.Zoom, 2);
+    propio.Teclear(TeclaVista::Escape);
+    EXPECT_EQ(Estado.Zoom, 1);
+    girando = false;
+    propio.Teclear(TeclaVista::Izquierda);
+    EXPECT_EQ(Estado.PanX, 10);
 }
 
 struct PuntaDeFlecha {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "drawing/losa/GraficoLosa.h"
 #include "drawing/losa/GraficoLosaDatos.h"
 #include "drawing/losa/GraficoLosasPrinter.h"
 #include "slab/CalcularLosa.h"

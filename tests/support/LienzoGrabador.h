@@ -20,6 +20,7 @@ class LienzoGrabador : public Lienzo {
         std::int32_t Decimas;
         Fuente Letra;
         MedidaTexto Medida;
+        Color Tinta;
 
         double CentroX() const { return Lugar.x + Medida.Ancho / 2.0; }
     };
@@ -42,7 +43,7 @@ class LienzoGrabador : public Lienzo {
         Pixeles.clear();
     }
     void PonerFuente(const Fuente& fuente) override { fuente_ = fuente; }
-    void PonerColorTexto(Color) override {}
+    void PonerColorTexto(Color color) override { tinta_ = color; }
     Color ColorTextoDeBotones() const override { return {}; }
     MedidaTexto Medir(std::string_view texto) override {
         const double unidades = fuente_.Puntos * 96 / 72;
@@ -52,7 +53,7 @@ class LienzoGrabador : public Lienzo {
                 static_cast<std::int32_t>(std::ceil(1.3 * unidades))};
     }
     void Texto(std::string_view texto, PuntoLienzo lugar, std::int32_t decimas) override {
-        Textos.push_back({std::string(texto), lugar, decimas, fuente_, Medir(texto)});
+        Textos.push_back({std::string(texto), lugar, decimas, fuente_, Medir(texto), tinta_});
     }
     void Linea(PuntoLienzo desde, PuntoLienzo hasta, const Pluma& pluma) override {
         Lineas.push_back({{desde, hasta}, pluma, {}});
@@ -90,6 +91,7 @@ class LienzoGrabador : public Lienzo {
     std::int32_t ancho_;
     std::int32_t alto_;
     Fuente fuente_;
+    Color tinta_;
 };
 
 }  // namespace trabex::prueba

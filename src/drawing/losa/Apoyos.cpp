@@ -1,18 +1,18 @@
+#include "drawing/losa/Apoyos.h"
+
 #include <algorithm>
 #include <array>
 
 #include "drawing/Primitivas.h"
-#include "drawing/losa/HojaComun.h"
+#include "drawing/losa/FigurasLosa.h"
+#include "slab/Losa.h"
 
 namespace trabex::dibujo::losa {
 
 namespace {
 
-using namespace hoja;
-
 constexpr Color FondoTriangulo{255, 219, 117};
 constexpr Color FondoRodillo{253, 192, 160};
-constexpr Pluma PlumaContorno{1, EstiloLinea::Solida, Contorno};
 constexpr double LadoDeApoyo = 0.2;
 
 void DibujeTriangulo(Lienzo& lienzo, PuntoLienzo punta, PuntoLienzo base1, PuntoLienzo base2) {
@@ -22,9 +22,8 @@ void DibujeTriangulo(Lienzo& lienzo, PuntoLienzo punta, PuntoLienzo base1, Punto
 
 }  // namespace
 
-/// wheels.
 void DibujeApoyo(const Plano& p, double xEje, double yEje, std::int16_t tipo) {
-    Lienzo& lienzo = p.lienzo();
+    Lienzo& lienzo = p.ElLienzo();
     const std::int32_t lado = Pixeles(p.Escala() * LadoDeApoyo);
     const std::int32_t radio = std::max(1, Pixeles(p.Escala() * LadoDeApoyo / 4));
     const std::int32_t x = p.X(xEje);

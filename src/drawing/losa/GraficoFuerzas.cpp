@@ -1,17 +1,16 @@
+#include "drawing/losa/GraficoFuerzas.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdlib>
 
 #include "drawing/Primitivas.h"
-#include "drawing/losa/GraficoLosa.h"
-#include "drawing/losa/HojaComun.h"
+#include "drawing/losa/BaseLosa.h"
 
 namespace trabex::dibujo::losa {
 
 namespace {
-
-using namespace hoja;
 
 constexpr Color FondoCorte{165, 191, 235};
 constexpr Color FondoMomento{247, 194, 187};
@@ -29,37 +28,37 @@ struct Diagrama {
     double Unidades;       ///< canvas units per kgf or kgf·m
     double Sentido;
     Color Fondo;
-    double PuntoDiagrama::*Valor;
+    double losas::PuntoDiagrama::*Valor;
 
     double Subida(double valor) const { return Sentido * Unidades * valor; }
 };
 
-std::int32_t EjeDelDiagrama(const Hoja& h, const Diagrama& diagrama, std::size_t i, double d,
+std::int32_t EjeDelDiagrama(const Trazado& t, const Diagrama& diagrama, std::size_t i, double d,
                             double tangente) {
-    return h.Papel.Y(h.EjeY(i) + tangente * d) + diagrama.Desfase;
+    return t.EnMetros.Y(t.EjeY(i) + tangente * d) + diagrama.Desfase;
 }
 
-void DibujeFranjas(const Hoja& h, const Diagrama& diagrama, std::size_t i, double tangente,
-                   const std::vector<PuntoDiagrama>& puntos) {
-    const auto x = [&](const PuntoDiagrama& punto) { return h.Papel.X(h.EjeX(i) + punto.d); };
-    const auto eje = [&](const PuntoDiagrama& punto) {
-        return EjeDelDiagrama(h, diagrama, i, punto.d, tangente);
+void DibujeFranjas(const Trazado& t, const Diagrama& diagrama, std::size_t i, double tangente,
+                   const std::vector<losas::PuntoDiagrama>& puntos) {
+    const auto x = [&](const losas::PuntoDiagrama& punto) { return t.EnMetros.X(t.EjeX(i) + punto.d); };
+    const auto eje = [&](const losas::PuntoDiagrama& punto) {
+        return EjeDelDiagrama(t, diagrama, i, punto.d, tangente);
     };
-    const auto extremo = [&](const PuntoDiagrama& punto) {
+    const auto extremo = [&](const losas::PuntoDiagrama& punto) {
         return eje(punto) + Pixeles(diagrama.Subida(punto.*diagrama.Valor));
     };
     const Pluma pluma{1, EstiloLinea::Solida, diagrama.Fondo};
     for (std::size_t k = 1; k < puntos.size(); ++k) {
-        const PuntoDiagrama& a = puntos[k - 1];
-        const PuntoDiagrama& b = puntos[k];
+        const losas::PuntoDiagrama& a = puntos[k - 1];
+        const losas::PuntoDiagrama& b = puntos[k];
         const std::array<PuntoLienzo, 4> franja{
             {{x(a), eje(a)}, {x(a), extremo(a)}, {x(b), extremo(b)}, {x(b), eje(b)}}};
-        h.Papel.lienzo().Poligono(franja, pluma, diagrama.Fondo);
+        t.EnMetros.ElLienzo().Poligono(franja, pluma, diagrama.Fondo);
     }
     for (std::size_t k = 1; k < puntos.size(); ++k)
-        DibujeLinea(h.Papel.lienzo(), x(puntos[k - 1]), extremo(puntos[k - 1]), x(puntos[k]),
+        DibujeLinea(t.EnMetros.ElLienzo(), x(puntos[k - 1]), extremo(puntos[k - 1]), x(puntos[k]),
                     extremo(puntos[k]), 1, EstiloLinea::Solida, Contorno);
-    DibujeLinea(h.Papel.lienzo(), x(puntos.front()), eje(puntos.front()), x(puntos.back()),
+    DibujeLinea(t.EnMetros.ElLienzo(), x(puntos.front()), eje(puntos.front()), x(puntos.back()),
                 eje(puntos.back()), 1, EstiloLinea::Solida, Contorno);
 }
 
@@ -74,15 +73,15 @@ struct ValorDeTramo {
 
 /// A value at the end of a diagram's ordinate: the block arrow that points to it from outside, and its text
 /// beside the arrow. A text stays in its diagram's band; `Lado` is the side of the arrow that it prefers.
-void RotularExtremo(Hoja& h, const Diagrama& diagrama, double x, double eje, const ValorDeTramo& v) {
-    const std::string texto = h.Numero(v.Valor, "0");
+void RotularExtremo(Trazado& t, const Diagrama& diagrama, double x, double eje, const ValorDeTramo& v) {
+    const std::string texto = t.Numero(v.Valor, "0");
     if (texto == "0" || texto.empty()) return;
-    Plano& p = h.Papel;
+    Plano& p = t.EnMetros;
     const double subida = diagrama.Subida(v.Ordenada);
     const double fuera = subida < 0 ? -1 : 1;
-    DibujeFlecha(p.lienzo(), Pixeles(x), Pixeles(eje + subida), subida < 0 ? HaciaAbajo : HaciaArriba,
+    DibujeFlecha(p.ElLienzo(), Pixeles(x), Pixeles(eje + subida), subida < 0 ? HaciaAbajo : HaciaArriba,
                  FlechaBloque, p.Escala());
-    const MedidaTexto medida = p.lienzo().Medir(texto);
+    const MedidaTexto medida = p.ElLienzo().Medir(texto);
     const double medio = medida.Alto / 2.0;
     const double limite = std::max(p.Escala() * MediaFranja - medio, medio);
     const double junto = 0.06 * p.Escala() + p.Unidades(2) + medida.Ancho / 2.0;
@@ -97,32 +96,32 @@ void RotularExtremo(Hoja& h, const Diagrama& diagrama, double x, double eje, con
     p.Rotular(texto, centros);
 }
 
-void DibujeDiagrama(Hoja& h, const Diagrama& diagrama) {
-    for (std::size_t i = 1; i <= h.N; ++i) {
-        const double pendiente = PendienteDeTramo(h.Datos.Ejes, i);
-        const std::vector<PuntoDiagrama> puntos = EstacionesDeTramo(h.Losa, i, pendiente);
-        if (!puntos.empty()) DibujeFranjas(h, diagrama, i, std::tan(pendiente), puntos);
+void DibujeDiagrama(Trazado& t, const Diagrama& diagrama) {
+    for (std::size_t i = 1; i <= t.N; ++i) {
+        const double pendiente = PendienteDeTramo(t.Hoja.Ejes, i);
+        const std::vector<losas::PuntoDiagrama> puntos = losas::EstacionesDeTramo(t.Calculada, i, pendiente);
+        if (!puntos.empty()) DibujeFranjas(t, diagrama, i, std::tan(pendiente), puntos);
     }
 }
 
-void RotularDiagrama(Hoja& h, const Diagrama& diagrama, std::size_t i,
+void RotularDiagrama(Trazado& t, const Diagrama& diagrama, std::size_t i,
                      const std::vector<ValorDeTramo>& valores) {
-    const double tangente = std::tan(PendienteDeTramo(h.Datos.Ejes, i));
+    const double tangente = std::tan(PendienteDeTramo(t.Hoja.Ejes, i));
     for (const ValorDeTramo& v : valores)
-        RotularExtremo(h, diagrama, h.Papel.X(h.EjeX(i) + v.d), EjeDelDiagrama(h, diagrama, i, v.d, tangente),
-                       v);
+        RotularExtremo(t, diagrama, t.EnMetros.X(t.EjeX(i) + v.d),
+                       EjeDelDiagrama(t, diagrama, i, v.d, tangente), v);
 }
 
 /// Factored reaction under each axis.
-void DibujeReacciones(Hoja& h, std::int32_t fila) {
-    Plano& p = h.Papel;
+void DibujeReacciones(Trazado& t, std::int32_t fila) {
+    Plano& p = t.EnMetros;
     const double tamano = FlechaDeReaccion * p.Escala();
-    for (std::size_t eje = 1; eje <= h.N + 1; ++eje) {
-        const std::string texto = h.Numero(ReaccionMayorada(h.Losa, eje), "0");
+    for (std::size_t eje = 1; eje <= t.N + 1; ++eje) {
+        const std::string texto = t.Numero(losas::ReaccionMayorada(t.Calculada, eje), "0");
         if (texto == "0" || texto.empty()) continue;
-        const std::int32_t x = p.X(h.EjeX(eje));
-        DibujeFlecha(p.lienzo(), x, fila, HaciaArriba, FlechaBloque, tamano);
-        const MedidaTexto medida = p.lienzo().Medir(texto);
+        const std::int32_t x = p.X(t.EjeX(eje));
+        DibujeFlecha(p.ElLienzo(), x, fila, HaciaArriba, FlechaBloque, tamano);
+        const MedidaTexto medida = p.ElLienzo().Medir(texto);
         const double lado = 0.06 * p.Escala() + p.Unidades(2) + medida.Ancho / 2.0;
         const double y = fila + std::max(0.32 * tamano, medida.Alto / 2.0);
         p.Rotular(texto,
@@ -131,10 +130,10 @@ void DibujeReacciones(Hoja& h, std::int32_t fila) {
 }
 
 /// A text at the left of the first axis and its values, centred on a row.
-void RotularFila(const Hoja& h, std::string_view texto, std::int32_t fila) {
-    const double margen = 0.5 * h.Papel.Escala() + h.Papel.lienzo().Medir("00000").Ancho;
-    h.Papel.Escribir(texto, Ancla::Derecha, h.Papel.X(h.EjeX(1)) - Pixeles(margen),
-                     fila - h.Papel.lienzo().Medir("WW").Alto / 2);
+void RotularFila(const Trazado& t, std::string_view texto, std::int32_t fila) {
+    const double margen = 0.5 * t.EnMetros.Escala() + t.EnMetros.ElLienzo().Medir("00000").Ancho;
+    t.EnMetros.Escribir(texto, Ancla::Derecha, t.EnMetros.X(t.EjeX(1)) - Pixeles(margen),
+                        fila - t.EnMetros.ElLienzo().Medir("WW").Alto / 2);
 }
 
 double Unidades(double escala, double maximo) {
@@ -143,42 +142,44 @@ double Unidades(double escala, double maximo) {
 
 }  // namespace
 
-void DibujeFuerzas(Lienzo& lienzo, HojaLosa& hoja, const LosaCalculada& losa, const EstiloHoja& estilo) {
-    Hoja h = EmpezarHoja(lienzo, hoja, losa, estilo);
-    if (h.N == 0) return;
-    Plano& p = h.Papel;
+void DibujeFuerzas(Lienzo& lienzo, HojaLosa& hoja, const losas::LosaCalculada& losa,
+                   const EstiloHoja& estilo) {
+    Trazado t = DibujeBaseLosa(lienzo, hoja, losa, estilo);
+    if (t.N == 0) return;
+    Plano& p = t.EnMetros;
     const losas::ResultadosLosa& r = losa.Resultados;
     const std::int32_t primera = Pixeles(p.Escala() * PrimeraBanda);
     const std::int32_t franja = 2 * Pixeles(p.Escala() * MediaFranja);
-    const Diagrama cortes{primera, Unidades(p.Escala(), r.MaxCorte), -1, FondoCorte, &PuntoDiagrama::V};
+    const Diagrama cortes{primera, Unidades(p.Escala(), r.MaxCorte), -1, FondoCorte,
+                          &losas::PuntoDiagrama::V};
     const Diagrama momentos{primera + franja,
                             Unidades(p.Escala(), std::max(r.MaxMomentoApoyo, r.MaxMomentoTramo)), 1,
-                            FondoMomento, &PuntoDiagrama::M};
+                            FondoMomento, &losas::PuntoDiagrama::M};
     p.Letra(LetraNormal);
-    RotularFila(h, estilo.Textos.VU, p.Fila(0, h.EjeY(1)) + cortes.Desfase);
-    RotularFila(h, estilo.Textos.MU, p.Fila(0, h.EjeY(1)) + momentos.Desfase);
-    DibujeDiagrama(h, cortes);
-    DibujeDiagrama(h, momentos);
-    for (std::size_t i = 1; i <= h.N; ++i) {
-        const ExtremosDeTramo e = ExtremosDe(losa, i);
+    RotularFila(t, estilo.Textos.VU, p.Fila(0, t.EjeY(1)) + cortes.Desfase);
+    RotularFila(t, estilo.Textos.MU, p.Fila(0, t.EjeY(1)) + momentos.Desfase);
+    DibujeDiagrama(t, cortes);
+    DibujeDiagrama(t, momentos);
+    for (std::size_t i = 1; i <= t.N; ++i) {
+        const losas::ExtremosDeTramo e = losas::ExtremosDe(losa, i);
         const double LT = losa.Datos.Tramos[i].LT;
-        RotularDiagrama(h, cortes, i, {{0, e.VA, e.VA, 1}, {LT, -e.VB, e.VB, -1}});
+        RotularDiagrama(t, cortes, i, {{0, e.VA, e.VA, 1}, {LT, -e.VB, e.VB, -1}});
         const double C = std::cos(PendienteDeTramo(hoja.Ejes, i));
-        RotularDiagrama(h, momentos, i, {{0, e.MA, e.MA, 1}, {LT, e.MB, e.MB, -1}, {e.x * C, e.MT, e.MT, 1}});
+        RotularDiagrama(t, momentos, i, {{0, e.MA, e.MA, 1}, {LT, e.MB, e.MB, -1}, {e.x * C, e.MT, e.MT, 1}});
     }
     const std::int32_t filaReacciones = hoja.Vista.OrigenY + momentos.Desfase + franja / 2;
-    RotularFila(h, losa.Datos.OpcionMaciza ? "(kgf/metro):" : "(kgf/Nervio):",
+    RotularFila(t, losa.Datos.OpcionMaciza ? "(kgf/metro):" : "(kgf/Nervio):",
                 filaReacciones + lienzo.Medir("WW").Alto / 2);
-    DibujeReacciones(h, filaReacciones);
+    DibujeReacciones(t, filaReacciones);
 
     const DatosGenerales& g = losa.Generales;
     const std::int32_t titulos =
         std::max(p.Fila(FilaDeTitulos), filaReacciones + 2 * lienzo.Medir("WW").Alto + p.Unidades(4));
-    DibujeTitulos(h, titulos,
-                  {RotuloDeLosa(losa.Datos) + "E = " + h.Espesor() + " m", losa.Datos.Nombre,
+    DibujeTitulos(t, titulos,
+                  {RotuloDeLosa(losa.Datos) + "E = " + t.Espesor() + " m", losa.Datos.Nombre,
                    "(DIAGRAMAS DE CORTES Y MOMENTOS MAYORADOS)",
-                   "COMBINACIONES DE CARGA (U = " + h.Numero(g.FCP, "0.00") + " CP + " +
-                       h.Numero(g.FCV, "0.00") + " CV)"});
+                   "COMBINACIONES DE CARGA (U = " + t.Numero(g.FCP, "0.00") + " CP + " +
+                       t.Numero(g.FCV, "0.00") + " CV)"});
 }
 
 }  // namespace trabex::dibujo::losa

@@ -5,8 +5,12 @@
 #include <cmath>
 #include <optional>
 
+#include "drawing/Cotas.h"
 #include "drawing/Primitivas.h"
-#include "drawing/losa/HojaComun.h"
+#include "drawing/Superficie.h"
+#include "drawing/losa/Apoyos.h"
+#include "drawing/losa/FigurasLosa.h"
+#include "drawing/losa/TextosDeLosa.h"
 
 namespace trabex::dibujo::losa {
 
@@ -17,8 +21,7 @@ constexpr Color FondoMarca{255, 205, 96};
 constexpr Color FondoCarga{248, 214, 210};
 constexpr Color FondoConcreto{222, 226, 227};
 constexpr Color TintaMarca{196, 84, 20};
-constexpr Color TintaCota{90, 98, 100};
-constexpr Pluma PlumaContorno{1, EstiloLinea::Solida, hoja::Contorno};
+constexpr Pluma PlumaCota{1, EstiloLinea::Solida, {90, 98, 100}};
 constexpr double Letra = 8;
 constexpr double AnchoUtil = 0.80;
 
@@ -35,42 +38,31 @@ struct Boceto {
 
 Boceto Empezar(Lienzo& lienzo, const EstadoVista& vista, const losas::Losa& losa, const MarcaBoceto& marca,
                const Separadores& numeros) {
-    lienzo.Limpiar();
-    if (vista.CuadriculaVisible) DibujeCuadricula(lienzo, hoja::SeparacionCuadricula);
+    Despejar(lienzo, vista, EnPantalla);
     losas::Losa dibujada = losa;
     for (std::size_t i = 1; i < dibujada.Tramos.size(); ++i) {
         double& LT = dibujada.Tramos[i].LT;
         if (!(LT > 0)) LT = 1;
     }
-    return {losa, marca, numeros, UbicarEjes(dibujada), losa.Tramos.size() - 1};
+    return {losa, marca, numeros, UbicarEjes(dibujada), losas::NumeroTramos(losa)};
 }
 
 /// Fits the slab in the width, and `metros` of height in `parte` of the canvas; the slab's level lies at
 /// `nivel` of the height.
-void Ubicar(const Lienzo& lienzo, EstadoVista& vista, const EjesDeHoja& ejes, double metros, double parte,
-            double nivel) {
-    const double W = lienzo.ScaleWidth();
-    const double H = lienzo.ScaleHeight();
-    const double alto = metros + ejes.YMaximo - ejes.YMinimo;
-    const double base = std::min(W * AnchoUtil / std::max(ejes.Longitud, 1.0), H * parte / alto);
-    if (!(vista.Zoom > 0)) vista.Zoom = 1;
-    vista.Escala = vista.Zoom * base;
-    if (vista.Zoom == 1.0) vista.EscalaBase = 1 / vista.Escala;
-    vista.OrigenX = Pixeles(W / 2 + vista.PanX);
-    vista.OrigenY = Pixeles((ejes.YMaximo + ejes.YMinimo) / 2 * vista.Escala + H * nivel + vista.PanY);
-}
-
-std::array<PuntoLienzo, 4> Banda(const Plano& p, const Boceto& b, std::size_t i, double desde, double hasta) {
-    const auto punto = [&](std::size_t eje, double sobre) {
-        return PuntoLienzo{p.X(b.Ejes.EjesX[eje]), p.Y(b.Ejes.EjesY[eje] + sobre)};
-    };
-    return {punto(i, desde), punto(i + 1, desde), punto(i + 1, hasta), punto(i, hasta)};
+Plano Ubicar(Lienzo& lienzo, EstadoVista& vista, const EjesDeHoja& ejes, double metros, double parte,
+             double nivel) {
+    const double escala = EscalaDeRegla(lienzo, {AnchoUtil, parte}, std::max(ejes.Longitud, 1.0),
+                                        metros + ejes.YMaximo - ejes.YMinimo);
+    Plano plano = Encuadrar(lienzo, vista, EnPantalla, {escala, nivel, (ejes.YMaximo + ejes.YMinimo) / 2});
+    plano.Letra(Letra);
+    lienzo.PonerColorTexto(Contorno);
+    return plano;
 }
 
 void DibujeTramos(Plano& p, const Boceto& b) {
     for (std::size_t i = 1; i <= b.N; ++i)
-        p.lienzo().Poligono(Banda(p, b, i, -hoja::MediaBanda, hoja::MediaBanda), PlumaContorno,
-                            i == b.Marca.Tramo ? FondoMarca : FondoBanda);
+        DibujeBanda(p, b.Ejes, i, -MediaBanda, MediaBanda, PlumaContorno,
+                    i == b.Marca.Tramo ? FondoMarca : FondoBanda);
     for (std::size_t eje = 1; eje <= b.N + 1 && eje < b.Datos.Ejes.size(); ++eje)
         DibujeApoyo(p, b.Ejes.EjesX[eje], b.Ejes.EjesY[eje], b.Datos.Ejes[eje].Tipo);
 }
@@ -79,14 +71,14 @@ void DibujeNombres(Plano& p, const Boceto& b, double abajo) {
     p.Letra(Letra, true);
     for (std::size_t eje = 1; eje <= b.N + 1 && eje < b.Datos.Ejes.size(); ++eje) {
         const std::string& nombre = b.Datos.Ejes[eje].Eje;
-        const MedidaTexto medida = p.lienzo().Medir(nombre.empty() ? "0" : nombre);
+        const MedidaTexto medida = p.ElLienzo().Medir(nombre.empty() ? "0" : nombre);
         const std::int32_t radio = std::max(medida.Ancho, medida.Alto) / 2 + 3;
         const std::int32_t x = p.X(b.Ejes.EjesX[eje]);
         const std::int32_t y = p.Fila(abajo, b.Ejes.EjesY[eje]) + radio;
         const bool marcado = eje == b.Marca.Junta;
-        p.lienzo().Circulo({x, y}, radio,
-                           Pluma{marcado ? 2 : 1, EstiloLinea::Solida, marcado ? TintaMarca : hoja::Contorno},
-                           marcado ? FondoMarca : hoja::FondoTexto);
+        p.ElLienzo().Circulo({x, y}, radio,
+                             Pluma{marcado ? 2 : 1, EstiloLinea::Solida, marcado ? TintaMarca : Contorno},
+                             marcado ? FondoMarca : FondoNombreDeEje);
         p.EscribirCentrado(nombre, x, y);
     }
     p.Letra(Letra);
@@ -95,12 +87,11 @@ void DibujeNombres(Plano& p, const Boceto& b, double abajo) {
 void DibujeCotasDeTramos(Plano& p, const Boceto& b, double sobre) {
     for (std::size_t i = 1; i <= b.N; ++i) {
         const double nivel = std::max(b.Ejes.EjesY[i], b.Ejes.EjesY[i + 1]) + sobre;
-        p.lienzo().PonerColorTexto(b.Datos.Tramos[i].LT > 0 && i != b.Marca.Tramo ? hoja::Contorno
-                                                                                  : TintaMarca);
-        p.Acotar(b.Ejes.EjesX[i], b.Ejes.EjesX[i + 1], p.Y(nivel), b.Numero(b.Datos.Tramos[i].LT, "0.00"),
-                 EstiloLinea::Solida);
+        p.ElLienzo().PonerColorTexto(b.Datos.Tramos[i].LT > 0 && i != b.Marca.Tramo ? Contorno : TintaMarca);
+        Acotar(p, {p.X(b.Ejes.EjesX[i]), p.Y(nivel)}, {p.X(b.Ejes.EjesX[i + 1]), p.Y(nivel)},
+               b.Numero(b.Datos.Tramos[i].LT, "0.00"), TextoDeCota::Encima);
     }
-    p.lienzo().PonerColorTexto(hoja::Contorno);
+    p.ElLienzo().PonerColorTexto(Contorno);
 }
 
 void DibujeCorrimientos(Plano& p, const Boceto& b) {
@@ -110,12 +101,12 @@ void DibujeCorrimientos(Plano& p, const Boceto& b) {
         const auto eje = static_cast<std::size_t>(junta.Junta);
         const std::int32_t x = p.X(b.Ejes.EjesX[eje]);
         const double y = b.Ejes.EjesY[eje];
-        DibujeLinea(p.lienzo(), x, p.Fila(0.25, y), x, p.Y(y + 0.25), 2, EstiloLinea::Solida, TintaMarca);
-        p.lienzo().PonerColorTexto(TintaMarca);
+        DibujeLinea(p.ElLienzo(), x, p.Fila(0.25, y), x, p.Y(y + 0.25), 2, EstiloLinea::Solida, TintaMarca);
+        p.ElLienzo().PonerColorTexto(TintaMarca);
         p.Rotular("(" + b.Numero(junta.x, "0.00") + " ; " + b.Numero(junta.y, "0.00") + ")",
-                  {{static_cast<double>(x), p.Y(y + 0.3) - p.lienzo().Medir("WW").Alto / 2.0},
-                   {static_cast<double>(x), p.Y(y + 0.3) - p.lienzo().Medir("WW").Alto * 1.5}});
-        p.lienzo().PonerColorTexto(hoja::Contorno);
+                  {{static_cast<double>(x), p.Y(y + 0.3) - p.ElLienzo().Medir("WW").Alto / 2.0},
+                   {static_cast<double>(x), p.Y(y + 0.3) - p.ElLienzo().Medir("WW").Alto * 1.5}});
+        p.ElLienzo().PonerColorTexto(Contorno);
     }
 }
 
@@ -137,7 +128,7 @@ class Seccion {
             DibujarMaciza();
         else
             DibujarNervada();
-        CotaVertical(total, 0, altura, -1);
+        CotaVertical(X(0) - 10, 0, altura, TextoDeCota::Izquierda);
     }
 
   private:
@@ -148,7 +139,7 @@ class Seccion {
         const losas::Losa& losa = b_.Datos;
         const std::array<PuntoLienzo, 4> figura{
             {{X(0), Y(0)}, {X(losa.Bm), Y(0)}, {X(losa.Bm), Y(losa.Hm)}, {X(0), Y(losa.Hm)}}};
-        p_.lienzo().Poligono(figura, PlumaContorno, FondoConcreto);
+        p_.ElLienzo().Poligono(figura, PlumaContorno, FondoConcreto);
         CotaHorizontal(0, losa.Bm, losa.Hm, losa.Bm);
     }
 
@@ -164,32 +155,21 @@ class Seccion {
                                                  {X(losa.Bo), Y(losa.Loseta)},
                                                  {X(losa.Bo), Y(losa.Ho)},
                                                  {X(0), Y(losa.Ho)}}};
-        p_.lienzo().Poligono(figura, PlumaContorno, FondoConcreto);
+        p_.ElLienzo().Poligono(figura, PlumaContorno, FondoConcreto);
         CotaHorizontal(0, losa.Bo, losa.Ho, losa.Bo);
         CotaHorizontal(losa.Bo / 2, losa.So + losa.Bo / 2, losa.Ho + SegundaCota(), losa.So);
-        CotaVertical(fin, 0, losa.Loseta, 1);
+        CotaVertical(X(fin) + 10, 0, losa.Loseta, TextoDeCota::Derecha);
     }
 
-    double SegundaCota() const { return (p_.lienzo().Medir("WW").Alto + 8) / unidades_; }
+    double SegundaCota() const { return (p_.ElLienzo().Medir("WW").Alto + 8) / unidades_; }
 
     void CotaHorizontal(double desde, double hasta, double abajo, double valor) {
-        const std::int32_t alto = p_.lienzo().Medir("WW").Alto;
-        const std::int32_t y = Y(abajo) + alto + 6;
-        DibujeLinea(p_.lienzo(), X(desde), y, X(hasta), y, 1, EstiloLinea::Solida, TintaCota);
-        DibujeFlechaPixel(p_.lienzo(), X(desde), y, HaciaIzquierda, TintaCota);
-        DibujeFlechaPixel(p_.lienzo(), X(hasta), y, HaciaDerecha, TintaCota);
-        p_.Escribir(b_.Numero(valor, "0.00"), Ancla::Izquierda, X(hasta) + 6, y - alto / 2);
+        const std::int32_t y = Y(abajo) + p_.ElLienzo().Medir("WW").Alto + 6;
+        Acotar(p_, {X(desde), y}, {X(hasta), y}, b_.Numero(valor, "0.00"), TextoDeCota::AlFinal, PlumaCota);
     }
 
-    /// `lado`: 1 at the right of the section, -1 at its left.
-    void CotaVertical(double total, double desde, double hasta, int lado) {
-        const MedidaTexto medida = p_.lienzo().Medir(b_.Numero(hasta - desde, "0.00"));
-        const std::int32_t x = lado > 0 ? X(total) + 10 : X(0) - 10;
-        DibujeLinea(p_.lienzo(), x, Y(desde), x, Y(hasta), 1, EstiloLinea::Solida, TintaCota);
-        DibujeFlechaPixel(p_.lienzo(), x, Y(desde), HaciaArriba, TintaCota);
-        DibujeFlechaPixel(p_.lienzo(), x, Y(hasta), HaciaAbajo, TintaCota);
-        p_.Escribir(b_.Numero(hasta - desde, "0.00"), Ancla::Izquierda,
-                    lado > 0 ? x + 6 : x - 6 - medida.Ancho, (Y(desde) + Y(hasta)) / 2 - medida.Alto / 2);
+    void CotaVertical(std::int32_t x, double desde, double hasta, TextoDeCota lado) {
+        Acotar(p_, {x, Y(desde)}, {x, Y(hasta)}, b_.Numero(hasta - desde, "0.00"), lado, PlumaCota);
     }
 
     Plano& p_;
@@ -205,25 +185,20 @@ void DibujeCargasDeTramo(Plano& p, const Boceto& b, std::size_t i) {
     const losas::Tramo& tramo = b.Datos.Tramos[i];
     const bool marcado = i == b.Marca.Tramo;
     if (tramo.Wp != 0 || tramo.WV != 0)
-        p.lienzo().Poligono(Banda(p, b, i, hoja::MediaBanda, hoja::BordeCarga), std::nullopt,
-                            marcado ? FondoMarca : FondoCarga);
+        DibujeBanda(p, b.Ejes, i, MediaBanda, BordeCarga, std::nullopt, marcado ? FondoMarca : FondoCarga);
     const double medio = (p.X(b.Ejes.EjesX[i]) + p.X(b.Ejes.EjesX[i + 1])) / 2.0;
     const double nivel = (b.Ejes.EjesY[i] + b.Ejes.EjesY[i + 1]) / 2;
     if (tramo.p1 != 0 && tramo.L1 >= 0 && tramo.L1 <= tramo.LT) {
-        const double pendiente = std::tan(PendienteDeTramo(b.Ejes, i));
-        const std::int32_t x = p.X(b.Ejes.EjesX[i] + tramo.L1);
-        const std::int32_t y = p.Y(b.Ejes.EjesY[i] + pendiente * tramo.L1 + hoja::BordeCarga);
-        DibujeFlecha(p.lienzo(), x, y, HaciaAbajo, hoja::FlechaBloque, p.Escala());
-        p.Reservar({x - 0.15 * p.Escala(), y - 0.5 * p.Escala(), 0.3 * p.Escala(), 0.5 * p.Escala()});
-        const MedidaTexto medida = p.lienzo().Medir(b.Numero(tramo.p1, "0"));
+        const auto [x, y] = DibujeFlechaDeCarga(p, b.Ejes, i, tramo.L1);
+        const MedidaTexto medida = p.ElLienzo().Medir(b.Numero(tramo.p1, "0"));
         const double lado = 0.15 * p.Escala() + medida.Ancho / 2.0 + 3;
         p.Rotular(b.Numero(tramo.p1, "0"),
                   {{x + lado, y - 0.25 * p.Escala()}, {x - lado, y - 0.25 * p.Escala()}});
     }
     const std::string texto = TextoDeCarga(tramo, CargaPorCasos);
-    const double alto = p.lienzo().Medir(texto).Alto;
+    const double alto = p.ElLienzo().Medir(texto).Alto;
     const double cuarto = (p.X(b.Ejes.EjesX[i + 1]) - p.X(b.Ejes.EjesX[i])) / 4.0;
-    const double enBanda = p.Y(nivel + (hoja::MediaBanda + hoja::BordeCarga) / 2);
+    const double enBanda = p.Y(nivel + (MediaBanda + BordeCarga) / 2);
     p.Rotular(texto, {{medio, enBanda},
                       {medio - cuarto, enBanda},
                       {medio + cuarto, enBanda},
@@ -235,10 +210,7 @@ void DibujeCargasDeTramo(Plano& p, const Boceto& b, std::size_t i) {
 void DibujeTramosYSeccion(Lienzo& lienzo, EstadoVista& vista, const losas::Losa& losa,
                           const MarcaBoceto& marca, const Separadores& numeros) {
     const Boceto b = Empezar(lienzo, vista, losa, marca, numeros);
-    Ubicar(lienzo, vista, b.Ejes, 3.2, 0.55, 0.30);
-    Plano p(lienzo, vista, "Tahoma");
-    p.Letra(Letra);
-    lienzo.PonerColorTexto(hoja::Contorno);
+    Plano p = Ubicar(lienzo, vista, b.Ejes, 3.2, 0.55, 0.30);
     if (b.N > 0) {
         DibujeTramos(p, b);
         DibujeCotasDeTramos(p, b, 0.75);
@@ -262,10 +234,7 @@ void DibujeLosaCargas(Lienzo& lienzo, EstadoVista& vista, const losas::Losa& los
                       const Separadores& numeros) {
     const Boceto b = Empezar(lienzo, vista, losa, marca, numeros);
     if (b.N == 0) return;
-    Ubicar(lienzo, vista, b.Ejes, 4, 0.9, 0.5);
-    Plano p(lienzo, vista, "Tahoma");
-    p.Letra(Letra);
-    lienzo.PonerColorTexto(hoja::Contorno);
+    Plano p = Ubicar(lienzo, vista, b.Ejes, 4, 0.9, 0.5);
     DibujeTramos(p, b);
     for (std::size_t i = 1; i <= b.N; ++i) DibujeCargasDeTramo(p, b, i);
     DibujeNombres(p, b, 0.6);

@@ -13,11 +13,11 @@
 
 namespace trabex::dibujo::qt {
 
-/// Shaped texts of earlier redraws: a drawing that is panned shows the same ones again. One per surface.
+/// Shaped texts of earlier redraws: a drawing that is panned shows the same ones again. One per surface. A
+/// zoom step brings a new size of each text, so it starts afresh when it is full.
 class MemoriaDeTextos {
   public:
     const QStaticText& Buscar(std::string_view texto, const QFont& fuente);
-    void Vaciar() { textos_.clear(); }
 
   private:
     QHash<QString, QStaticText> textos_;

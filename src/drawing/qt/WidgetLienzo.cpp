@@ -58,8 +58,9 @@ std::optional<TeclaVista> TeclaDe(const QKeyEvent& evento) {
 
 }  // namespace
 
-WidgetLienzo::WidgetLienzo(EstadoVista& estado, std::function<void(Lienzo&)> dibujar, QWidget* padre)
-    : QWidget(padre), visor_(estado, *this), dibujar_(std::move(dibujar)) {
+WidgetLienzo::WidgetLienzo(EstadoVista& estado, std::function<void(Lienzo&)> dibujar, QWidget* padre,
+                           TeclasDeVista teclas)
+    : QWidget(padre), visor_(estado, *this, std::move(teclas)), dibujar_(std::move(dibujar)) {
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -137,10 +138,6 @@ void WidgetLienzo::PonerPuntero(PunteroVista puntero) {
 
 void WidgetLienzo::SoltarPanRealtime() {
     if (alSoltarPan_) alSoltarPan_();
-}
-
-void WidgetLienzo::DetenerAyuda() {
-    if (alDetenerAyuda_) alDetenerAyuda_();
 }
 
 void WidgetLienzo::AbrirMenuPantalla(std::int32_t x, std::int32_t y) {

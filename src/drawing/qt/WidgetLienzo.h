@@ -16,7 +16,8 @@ namespace trabex::dibujo::qt {
 /// viewport. `dibujar` draws the current view whole; it runs at every redraw and change of size.
 class WidgetLienzo : public QWidget, private AnfitrionVista {
   public:
-    WidgetLienzo(EstadoVista& estado, std::function<void(Lienzo&)> dibujar, QWidget* padre = nullptr);
+    WidgetLienzo(EstadoVista& estado, std::function<void(Lienzo&)> dibujar, QWidget* padre = nullptr,
+                 TeclasDeVista teclas = {});
 
     /// Zoom, pan and grid commands, for tool bars and menus.
     Visor& Comandos() { return visor_; }
@@ -26,8 +27,6 @@ class WidgetLienzo : public QWidget, private AnfitrionVista {
     void PonerMenuPantalla(QMenu* menu) { menu_ = menu; }
     /// What to do when the pan mode ends by itself: the tool button comes up.
     void AlSoltarPan(std::function<void()> accion) { alSoltarPan_ = std::move(accion); }
-    /// Stops the workspace's hint timer.
-    void AlDetenerAyuda(std::function<void()> accion) { alDetenerAyuda_ = std::move(accion); }
 
     /// The picture as it stands.
     const QImage& Imagen() const { return imagen_; }
@@ -48,13 +47,11 @@ class WidgetLienzo : public QWidget, private AnfitrionVista {
   private:
     void PonerPuntero(PunteroVista puntero) override;
     void SoltarPanRealtime() override;
-    void DetenerAyuda() override;
     void AbrirMenuPantalla(std::int32_t x, std::int32_t y) override;
 
     Visor visor_;
     std::function<void(Lienzo&)> dibujar_;
     std::function<void()> alSoltarPan_;
-    std::function<void()> alDetenerAyuda_;
     QMenu* menu_ = nullptr;
     QImage imagen_;
     MemoriaDeTextos memoria_;

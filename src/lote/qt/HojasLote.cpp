@@ -37,7 +37,7 @@ void EscribirPng(const QImage& imagen, const std::filesystem::path& archivo) {
 }
 
 /// The three sheets, each on its page of A4 across.
-void EscribirPapel(const losas::salida::LosaDelProyecto& losa, const dibujo::losa::DatosDePagina& pagina,
+void EscribirPapel(const losas::salida::LosaDelProyecto& losa, const dibujo::DatosDePagina& pagina,
                    const std::filesystem::path& archivo) {
     QBuffer bytes;
     bytes.open(QIODevice::WriteOnly);

@@ -4,6 +4,7 @@
 
 #include "slab/DisenoSeccion.h"
 #include "slab/EsfuerzosTramo.h"
+#include "slab/ValoresLosa.h"
 #include "store/Insercion.h"
 
 namespace trabex::losas::salida {
@@ -14,20 +15,6 @@ namespace {
 template <class Registro>
 Registro En(const std::vector<Registro>& arreglo, std::size_t i) {
     return i < arreglo.size() ? arreglo[i] : Registro{};
-}
-
-/// Reactions of a joint: vertical and horizontal.
-struct Reacciones {
-    double V = 0;
-    double H = 0;
-};
-
-Reacciones ReaccionesDe(const EstadoJunta& junta) {
-    return {junta.RV, junta.RH};
-}
-
-Reacciones Suma(const Reacciones& a, const Reacciones& b) {
-    return {a.V + b.V, a.H + b.H};
 }
 
 /// The scratch tables of slabs, each emptied and open for its rows.
@@ -99,20 +86,17 @@ struct ColumnasDeReaccion {
 constexpr ColumnasDeReaccion ReaccionesA{{"VA", "FA"}, {"VACP", "FACP"}, {"VACV", "FACV"}};
 constexpr ColumnasDeReaccion ReaccionesB{{"VB", "FB"}, {"VBCP", "FBCP"}, {"VBCV", "FBCV"}};
 
-/// Reactions of an axis as the beams take them: a ribbed slab's, of one rib, become those of a metre of
-/// width.
-void EscribirReacciones(almacen::Insercion& tabla, const ColumnasDeReaccion& columnas, const Losa& losa,
-                        const ResultadosLosa& r, std::size_t eje) {
-    const double ancho = losa.OpcionMaciza ? 1 : losa.So;
-    const auto poner = [&](const std::array<const char*, 2>& nombres, const Reacciones& reacciones) {
-        tabla.Poner(nombres[0], reacciones.V / ancho);
-        tabla.Poner(nombres[1], reacciones.H / ancho);
+/// Reactions of an axis as its beam takes them.
+void EscribirReacciones(almacen::Insercion& tabla, const ColumnasDeReaccion& columnas,
+                        const LosaCalculada& losa, std::size_t eje) {
+    const auto poner = [&](const std::array<const char*, 2>& nombres, const Reaccion& reaccion) {
+        tabla.Poner(nombres[0], reaccion.V);
+        tabla.Poner(nombres[1], reaccion.H);
     };
-    const Reacciones permanente = ReaccionesDe(En(r.ResultadoJunta[CasoPermanente], eje));
-    const Reacciones variable = ReaccionesDe(En(r.ResultadoJunta[CasoVariable], eje));
-    poner(columnas.Total, Suma(permanente, variable));
-    poner(columnas.Permanente, permanente);
-    poner(columnas.Variable, variable);
+    const ReaccionesPorMetro reacciones = ReaccionesEnEje(losa, eje);
+    poner(columnas.Total, reacciones.Total);
+    poner(columnas.Permanente, reacciones.Permanente);
+    poner(columnas.Variable, reacciones.Variable);
 }
 
 void EscribirEsfuerzos(almacen::Insercion& tabla, const DatosGenerales& g, const ResultadosLosa& r,
@@ -154,8 +138,8 @@ void EscribirTramo(almacen::Insercion& tabla, const Losa& losa, const DatosGener
     tabla.Poner("TipoA", ejeA.Tipo);
     tabla.Poner("TipoB", ejeB.Tipo);
     EscribirEsfuerzos(tabla, generales, r, i);
-    EscribirReacciones(tabla, ReaccionesA, losa, r, i);
-    EscribirReacciones(tabla, ReaccionesB, losa, r, i + 1);
+    EscribirReacciones(tabla, ReaccionesA, {losa, generales, r}, i);
+    EscribirReacciones(tabla, ReaccionesB, {losa, generales, r}, i + 1);
     EscribirDiseno(tabla, r, i);
     tabla.Poner("L", losa.Tramos[i].LT);
     tabla.Agregar();

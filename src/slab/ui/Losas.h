@@ -85,9 +85,7 @@ class Losas {
     void ElegirOpcionCarga(dibujo::losa::OpcionDeCarga opcion);
 
     EstadoLosas& Estado() { return estado_; }
-    dibujo::losa::LosaCalculada Calculada() const {
-        return {estado_.Abierta, aplicacion_.Generales, estado_.Resultados};
-    }
+    LosaCalculada Calculada() const { return {estado_.Abierta, aplicacion_.Generales, estado_.Resultados}; }
     programa::Aplicacion& Programa() { return aplicacion_; }
 
   private:

@@ -16,7 +16,7 @@ void ImprimirGraficosLosas(QPrinter& impresora, const losas::salida::ProyectoPar
                            montaje::EstadoReportes& estado) {
     const montaje::BanderaEnAlto generando(estado.GenerandoReporte);
     const losas::salida::PedidoDeGraficos pedido = losas::salida::PedidoDe(estado.OpcionGrafico);
-    const dibujo::losa::DatosDePagina pagina{usuario, origen.Datos.Proyecto, origen.Datos.Calculista};
+    const dibujo::DatosDePagina pagina{usuario, origen.Datos.Proyecto, origen.Datos.Calculista};
     dibujo::losa::HojaLosa hoja = pantalla;
     if (pedido.Todas) hoja.Vista = {};
     impresora.setResolution(dibujo::qt::UnidadesPorPulgadaDePapel);

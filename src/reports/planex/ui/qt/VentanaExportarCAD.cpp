@@ -12,7 +12,7 @@
 #include <algorithm>
 
 #include "drawing/losa/GraficoLosaDatos.h"
-#include "drawing/losa/ValoresHoja.h"
+#include "drawing/losa/TextosDeLosa.h"
 #include "drawing/qt/WidgetLienzo.h"
 #include "reports/planex/ui/qt/VentanaCuadroCAD.h"
 

@@ -1,0 +1,42 @@
+#include "drawing/losa/EjesDeHoja.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace trabex::dibujo::losa {
+
+EjesDeHoja UbicarEjes(const losas::Losa& losa) {
+    const std::size_t N = losas::NumeroTramos(losa);
+    EjesDeHoja ejes;
+    for (std::size_t i = 1; i <= N; ++i) ejes.Longitud += losa.Tramos[i].LT;
+    ejes.EjesX.assign(N + 2, 0);
+    ejes.EjesY.assign(N + 2, 0);
+    ejes.EjesX[1] = -ejes.Longitud / 2;
+    for (std::size_t i = 1; i <= N; ++i) ejes.EjesX[i + 1] = ejes.EjesX[i] + losa.Tramos[i].LT;
+    for (std::size_t k = 1; k < losa.JuntasD.size(); ++k) {
+        const losas::JuntaD& junta = losa.JuntasD[k];
+        if (junta.Junta < 1 || static_cast<std::size_t>(junta.Junta) > N + 1) continue;
+        ejes.EjesX[static_cast<std::size_t>(junta.Junta)] += junta.x;
+        ejes.EjesY[static_cast<std::size_t>(junta.Junta)] += junta.y;
+    }
+    const auto [menor, mayor] = std::minmax_element(ejes.EjesY.begin() + 1, ejes.EjesY.end());
+    ejes.YMinimo = *menor;
+    ejes.YMaximo = *mayor;
+    return ejes;
+}
+
+double PendienteDeTramo(const EjesDeHoja& ejes, std::size_t i) {
+    const double dx = ejes.EjesX[i + 1] - ejes.EjesX[i];
+    const double dy = ejes.EjesY[i + 1] - ejes.EjesY[i];
+    return dx != 0 ? std::atan(dy / dx) : 0;
+}
+
+Lugar EnTramo(const EjesDeHoja& ejes, std::size_t i, double d) {
+    return {ejes.EjesX[i] + d, ejes.EjesY[i] + std::tan(PendienteDeTramo(ejes, i)) * d};
+}
+
+Lugar MitadDeTramo(const EjesDeHoja& ejes, std::size_t i) {
+    return {(ejes.EjesX[i] + ejes.EjesX[i + 1]) / 2, (ejes.EjesY[i] + ejes.EjesY[i + 1]) / 2};
+}
+
+}  // namespace trabex::dibujo::losa
