@@ -5,6 +5,7 @@
 #include "slab/DisenoSeccion.h"
 #include "slab/EsfuerzosTramo.h"
 #include "store/Insercion.h"
+#include "store/tablas/TablasLosa.h"
 
 namespace trabex::losas::salida {
 
