@@ -16,6 +16,10 @@
 namespace {
 
 using namespace trabex;
+using namespace trabex::almacen;
+using namespace trabex::almacen::tablas;
+using namespace trabex::losas;
+using namespace trabex::lote;
 
 constexpr int Losas = 2000;
 constexpr int Tramos = 8;

@@ -18,8 +18,8 @@ import sys
 RAIZ = pathlib.Path(__file__).resolve().parent.parent
 FUENTES = RAIZ / "src"
 ELEMENTOS = {"slab", "stairs", "helical", "markus", "loads"}
-SERVICIOS = {"store", "drawing", "drawing_qt", "documento", "xls", "cuadricula", "salidas", "salidas_qt", "montaje", "montaje_qt",
-             "shell", "shell_qt", "lote", "reports_ui", "reports_ui_qt"}
+SERVICIOS = {"store", "proyecto", "drawing", "drawing_qt", "documento", "xls", "cuadricula", "salidas", "salidas_qt",
+             "montaje", "montaje_qt", "shell", "shell_qt", "lote", "reports_ui", "reports_ui_qt"}
 SQL = re.compile(r'"\s*(SELECT \*|SELECT |DELETE \*|DELETE FROM|UPDATE |INSERT INTO|CREATE TABLE|DROP TABLE|ALTER TABLE)')
 
 

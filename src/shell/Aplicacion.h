@@ -3,11 +3,11 @@
 #include <filesystem>
 #include <string>
 
+#include "base/DatosGenerales.h"
 #include "base/Formatos.h"
 #include "base/Proyecto.h"
 #include "shell/Tapiz.h"
-#include "slab/Losa.h"
-#include "store/tablas/TablasProyecto.h"
+#include "store/proyecto/ProyectoAbierto.h"
 
 namespace trabex::programa {
 
@@ -25,7 +25,7 @@ struct Aplicacion {
     Separadores SeparadoresLocales;
     Tapiz Preferencias;
 
-    almacen::tablas::ProyectoAbierto Proyecto;  ///< connected while a workspace is up
+    almacen::proyecto::ProyectoAbierto Proyecto;  ///< connected while a workspace is up
     DatosDelProyecto Datos;
     DatosGenerales Generales;
     bool LosaModificada = false;  ///< a window saved something: the workspace calculates again

@@ -1,23 +1,20 @@
 #include "shell/DatosProyecto.h"
 
+#include "store/proyecto/TablaProyecto.h"
+
 namespace trabex::programa {
 
 const DatosDelProyecto& DatosProyecto::Leer() {
     almacen::Conexion conexion;
     almacen::AbrirConexion(conexion, aplicacion_.ArchivoProyecto);
-    almacen::tablas::LeerProyecto(conexion, aplicacion_.Usuario, aplicacion_.Datos);
+    almacen::proyecto::LeerProyecto(conexion, aplicacion_.Usuario, aplicacion_.Datos);
     return aplicacion_.Datos;
 }
 
 bool DatosProyecto::Salvar(const DatosDelProyecto& datos) {
     almacen::Conexion conexion;
     almacen::AbrirConexion(conexion, aplicacion_.ArchivoProyecto);
-    almacen::Transaccion guardado(conexion);
-    conexion.Ejecutar("DELETE * FROM Proyecto");
-    almacen::Recordset registros;
-    almacen::AbrirRecordset(conexion, registros, "Proyecto");
-    const bool agregado = almacen::tablas::AgregarProyecto(registros, datos);
-    if (!guardado.Confirmar() || !agregado) {
+    if (!almacen::proyecto::GuardarProyecto(conexion, datos)) {
         caja_.Mostrar(MensajeSinGuardar());
         return false;
     }

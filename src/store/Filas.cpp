@@ -23,7 +23,28 @@ bool EscribirFilas(Conexion& conexion, const char* tabla, const std::string& nom
     return escritas;
 }
 
-Valor Numero(std::size_t k) {
+bool ReemplazarFila(Conexion& conexion, const char* tabla, const std::function<void(Recordset&)>& poner) {
+    Transaccion guardado(conexion);
+    conexion.Ejecutar("DELETE * FROM " + std::string(tabla));
+    Recordset registros;
+    AbrirRecordset(conexion, registros, tabla);
+    registros.AgregarNuevo();
+    poner(registros);
+    const bool agregada = registros.Actualizar();
+    return agregada && guardado.Confirmar();
+}
+
+bool SembrarFila(Recordset& registros, const std::function<void(Recordset&)>& poner) {
+    if (registros.NumeroRegistros() == 0) {
+        registros.AgregarNuevo();
+        poner(registros);
+        registros.Actualizar();
+    }
+    registros.MoverAlPrimero();
+    return registros.NumeroRegistros() > 0;
+}
+
+Valor NumeroDeFila(std::size_t k) {
     return static_cast<double>(k);
 }
 

@@ -19,7 +19,15 @@ std::string ConsultaDe(std::string_view tabla, const std::string& nombre, std::s
 bool EscribirFilas(Conexion& conexion, const char* tabla, const std::string& nombre, std::size_t filas,
                    const std::function<void(Recordset&, std::size_t)>& poner);
 
+/// Writes the one row of a table of general data over whatever stands there, as one save. False when it could
+/// not be stored; what was stored then stands.
+bool ReemplazarFila(Conexion& conexion, const char* tabla, const std::function<void(Recordset&)>& poner);
+
+/// Puts the set of such a table on its row, which `poner` first fills where there is none. False when the
+/// table can't be reached or written.
+bool SembrarFila(Recordset& registros, const std::function<void(Recordset&)>& poner);
+
 /// A row's number; one past the column's 16 bits is refused there.
-Valor Numero(std::size_t k);
+Valor NumeroDeFila(std::size_t k);
 
 }  // namespace trabex::almacen

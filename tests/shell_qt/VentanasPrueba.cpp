@@ -21,6 +21,7 @@
 #include "shell/qt/VentanaDatosProyecto.h"
 #include "shell/qt/VentanaMenuPrincipal.h"
 #include "slab/ui/qt/VentanaLosaGeneral.h"
+#include "store/proyecto/TablaProyecto.h"
 #include "support/CarpetaTemporal.h"
 #include "support/ProyectoDePrueba.h"
 #include "support/ShellGuiado.h"
@@ -133,7 +134,7 @@ TEST_F(Ventanas, LosDatosTecleadosLleganAlArchivo) {
     Conexion conexion;
     DatosDelProyecto datos;
     AbrirConexion(conexion, aplicacion.ArchivoProyecto);
-    LeerProyecto(conexion, "", datos);
+    proyecto::LeerProyecto(conexion, "", datos);
     EXPECT_EQ(datos.Proyecto, "EDIFICIO 1");
     EXPECT_EQ(datos.Comentario, std::string(250, 'a') + "bcdef");
     EXPECT_EQ(FormatoFecha(datos.Fecha), "29/02/2024");

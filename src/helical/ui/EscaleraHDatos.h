@@ -6,7 +6,7 @@
 
 #include "helical/DatosEscaleraH.h"
 #include "stairs/ui/CamposEscalera.h"
-#include "store/tablas/TablasProyecto.h"
+#include "store/proyecto/ProyectoAbierto.h"
 
 namespace trabex::helices::ui {
 
@@ -31,8 +31,8 @@ class VistaEscaleraHDatos : public escaleras::ui::VistaDeCampos<CampoEscaleraH> 
 
 /// What the data window of helical stairs works on; the workspace owns it all.
 struct TrabajoEscaleraH {
-    almacen::tablas::ProyectoAbierto& Proyecto;  ///< its list stands on the selected stair
-    DatosEscaleraH& Actual;                      ///< the current stair
+    almacen::proyecto::ProyectoAbierto& Proyecto;  ///< its list stands on the selected stair
+    DatosEscaleraH& Actual;                        ///< the current stair
     bool& Nueva;           ///< set by the creation of a stair until the window has saved it
     bool& DatosCambiados;  ///< raised by a save: the workspace calculates again
 };

@@ -7,7 +7,7 @@
 #include "base/Proyecto.h"
 #include "slab/Losa.h"
 #include "slab/ResultadosLosa.h"
-#include "store/tablas/TablasProyecto.h"
+#include "store/proyecto/ProyectoAbierto.h"
 
 namespace trabex::losas::salida {
 
@@ -22,7 +22,7 @@ struct LosaDelProyecto {
 
 /// A project whose slabs are to be reported, as the workspace or the batch program has it open.
 struct ProyectoParaReporte {
-    almacen::tablas::ProyectoAbierto& Proyecto;
+    almacen::proyecto::ProyectoAbierto& Proyecto;
     const DatosDelProyecto& Datos;
     const DatosGenerales& Generales;
     int FilaSeleccionada = 1;  ///< position of the workspace's selected slab in the list

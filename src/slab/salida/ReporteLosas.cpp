@@ -6,6 +6,7 @@
 #include "slab/EsfuerzosTramo.h"
 #include "slab/ValoresLosa.h"
 #include "store/Insercion.h"
+#include "store/tablas/TablasLosa.h"
 
 namespace trabex::losas::salida {
 

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "store/tablas/TablasProyecto.h"
+#include "store/tablas/TablasLosa.h"
 
 namespace trabex::losas::ui {
 
@@ -17,12 +17,7 @@ std::optional<CampoLosaGeneral> LosaGeneral::PrimerCero(const DatosGenerales& e)
 
 bool LosaGeneral::Aceptar(const DatosGenerales& entrados) {
     generales_ = entrados;
-    almacen::Transaccion guardado(conexion_);
-    conexion_.Ejecutar("DELETE * FROM LosaG");
-    almacen::Recordset registros;
-    almacen::AbrirRecordset(conexion_, registros, "LosaG");
-    const bool agregado = almacen::tablas::AgregarGenerales(registros, entrados);
-    return guardado.Confirmar() && agregado;
+    return almacen::tablas::GuardarGeneralesLosa(conexion_, entrados);
 }
 
 }  // namespace trabex::losas::ui

@@ -1,19 +1,12 @@
 #include "slab/ui/Losas.h"
 
-#include <array>
-
 #include "base/Archivos.h"
 #include "base/Texto.h"
 #include "slab/CalcularLosa.h"
+#include "store/Elementos.h"
 #include "store/tablas/TablasLosa.h"
 
 namespace trabex::losas::ui {
-
-namespace {
-
-constexpr std::array<const char*, 3> TablasDeElementos{"LosaEjes", "LosaJuntasD", "LosaTramos"};
-
-}  // namespace
 
 Losas::Losas(programa::Aplicacion& aplicacion, VistaLosas& vista, programa::CajaMensajes& caja,
              programa::DialogosArchivo& dialogos)
@@ -168,23 +161,13 @@ void Losas::DatosGenerales() {
     CalcularSiModificada();
 }
 
-/// Names are concatenated: one that holds a quote breaks these statements, and nothing changes.
-bool Losas::CambiarNombre(const std::string& actual, const std::string& nuevo) {
-    almacen::Conexion& conexion = aplicacion_.Proyecto.ConexionProyecto;
-    almacen::Transaccion guardado(conexion);
-    for (const char* tabla : {"LosaEjes", "LosaJuntasD", "LosaTramos", "LosaDatos"}) {
-        conexion.Ejecutar(std::string("UPDATE ") + tabla + " SET Nombre=" + almacen::EntreComillas(nuevo) +
-                          " WHERE Nombre=" + almacen::EntreComillas(actual));
-    }
-    return guardado.Confirmar();
-}
-
 void Losas::Renombrar() {
     if (NumeroDeLosas() == 0) return;
     const std::string actual = Lista().Texto("Nombre");
     const std::string nuevo = vista_.MostrarRenombrar(actual);
     if (nuevo.empty()) return;
-    if (!CambiarNombre(actual, nuevo)) {
+    if (!almacen::RenombrarElemento(aplicacion_.Proyecto.ConexionProyecto, almacen::tablas::TablasDeLosa,
+                                    actual, nuevo)) {
         caja_.Mostrar(programa::MensajeSinGuardar());
         return;
     }
@@ -194,24 +177,14 @@ void Losas::Renombrar() {
     Seleccionar(Fila());
 }
 
-bool Losas::BorrarSeleccionada() {
-    almacen::Conexion& conexion = aplicacion_.Proyecto.ConexionProyecto;
-    const std::string nombre = Lista().Texto("Nombre");
-    almacen::Transaccion guardado(conexion);
-    for (const char* tabla : TablasDeElementos)
-        conexion.Ejecutar(std::string("DELETE * FROM ") + tabla +
-                          " WHERE Nombre=" + almacen::EntreComillas(nombre));
-    const bool borrada = Lista().Borrar();
-    return guardado.Confirmar() && borrada;
-}
-
 void Losas::Eliminar() {
     if (NumeroDeLosas() == 0) return;
     const int fila = Fila();
     const std::string pregunta =
         "Losa: " + Lista().Texto("Nombre") + "\n¿Esta Usted Seguro de Eliminar la Losa del Proyecto?";
     if (caja_.Mostrar(programa::Pregunta(pregunta, "Eliminar la Losa...")) != programa::RespuestaSi) return;
-    if (!BorrarSeleccionada()) {
+    if (!almacen::BorrarElemento(aplicacion_.Proyecto.ConexionProyecto, almacen::tablas::TablasDeLosa,
+                                 Lista())) {
         caja_.Mostrar(programa::MensajeSinGuardar());
         return;
     }

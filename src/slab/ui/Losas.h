@@ -97,8 +97,6 @@ class Losas {
     void Redibujar();
     void EntrarDatosDeLaNueva();
     void CalcularSiModificada();
-    bool CambiarNombre(const std::string& actual, const std::string& nuevo);
-    bool BorrarSeleccionada();
 
     programa::Aplicacion& aplicacion_;
     VistaLosas& vista_;

@@ -6,7 +6,7 @@
 
 #include "stairs/DatosEscaleraT.h"
 #include "stairs/ui/CamposEscalera.h"
-#include "store/tablas/TablasProyecto.h"
+#include "store/proyecto/ProyectoAbierto.h"
 
 namespace trabex::escaleras::ui {
 
@@ -15,10 +15,10 @@ enum class CampoEscaleraT : std::size_t { L, B, H, HT, Hd, WT, Wd, WpD };
 
 /// What the data window of stairs works on; the workspace owns it all.
 struct TrabajoEscaleraT {
-    almacen::tablas::ProyectoAbierto& Proyecto;  ///< its list stands on the selected stair
-    DatosEscaleraT& Actual;                      ///< the current stair
-    bool Nueva;                                  ///< the window opens on a stair just created
-    bool& DatosCambiados;                        ///< raised by a save: the workspace calculates again
+    almacen::proyecto::ProyectoAbierto& Proyecto;  ///< its list stands on the selected stair
+    DatosEscaleraT& Actual;                        ///< the current stair
+    bool Nueva;                                    ///< the window opens on a stair just created
+    bool& DatosCambiados;                          ///< raised by a save: the workspace calculates again
 };
 
 /// Operations of the window that edits a self-supporting stair.

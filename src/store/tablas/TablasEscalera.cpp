@@ -1,6 +1,7 @@
 #include "store/tablas/TablasEscalera.h"
 
 #include "store/Filas.h"
+#include "store/proyecto/TablaProyecto.h"
 
 namespace trabex::almacen::tablas {
 
@@ -10,15 +11,13 @@ const char* TablaDeGenerales(ClaseEscalera clase) {
     return clase == ClaseEscalera::Helicoidal ? "EscaleraHG" : "EscaleraTG";
 }
 
-bool AgregarGeneralesEscalera(Recordset& registros, const DatosGenerales& generales) {
-    registros.AgregarNuevo();
+void PonerGeneralesEscalera(Recordset& registros, const DatosGenerales& generales) {
     registros.Poner("FC", generales.FC);
     registros.Poner("FY", generales.FY);
     registros.Poner("D8", generales.D8);
     registros.Poner("FS", generales.FS);
     registros.Poner("FiMomento", generales.FiMomento);
     registros.Poner("FiCorte", generales.FiCorte);
-    return registros.Actualizar();
 }
 
 /// The factors of slabs are not the stairs' to change.
@@ -34,14 +33,11 @@ void CopiarDeEscalera(const DatosGenerales& origen, DatosGenerales& destino) {
 
 void LeaDatosGenerales(Conexion& conexion, ClaseEscalera clase, std::string_view usuario,
                        DatosDelProyecto& datos, DatosGenerales& generales) {
-    LeerProyecto(conexion, usuario, datos);
+    proyecto::LeerProyecto(conexion, usuario, datos);
     CopiarDeEscalera({}, generales);
     Recordset registros;
     AbrirRecordset(conexion, registros, TablaDeGenerales(clase));
-    if (!registros.Abierto()) return;
-    if (registros.NumeroRegistros() == 0) AgregarGeneralesEscalera(registros, generales);
-    registros.MoverAlPrimero();
-    if (registros.NumeroRegistros() == 0) return;
+    if (!SembrarFila(registros, [&](Recordset& r) { PonerGeneralesEscalera(r, generales); })) return;
     generales.FC = registros.Entero16("FC");
     generales.FY = registros.Entero16("FY");
     generales.D8 = registros.Doble("D8");
@@ -51,13 +47,8 @@ void LeaDatosGenerales(Conexion& conexion, ClaseEscalera clase, std::string_view
 }
 
 bool GuardarGenerales(Conexion& conexion, ClaseEscalera clase, const DatosGenerales& generales) {
-    const std::string tabla = TablaDeGenerales(clase);
-    Transaccion guardado(conexion);
-    conexion.Ejecutar("DELETE * FROM " + tabla);
-    Recordset registros;
-    AbrirRecordset(conexion, registros, tabla);
-    const bool agregado = AgregarGeneralesEscalera(registros, generales);
-    return agregado && guardado.Confirmar();
+    return ReemplazarFila(conexion, TablaDeGenerales(clase),
+                          [&](Recordset& r) { PonerGeneralesEscalera(r, generales); });
 }
 
 bool LeaDatosEscalera(ProyectoAbierto& proyecto, escaleras::DatosEscaleraT& escalera) {

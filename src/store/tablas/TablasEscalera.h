@@ -6,9 +6,11 @@
 #include "base/Proyecto.h"
 #include "helical/DatosEscaleraH.h"
 #include "stairs/DatosEscaleraT.h"
-#include "store/tablas/TablasProyecto.h"
+#include "store/proyecto/ProyectoAbierto.h"
 
 namespace trabex::almacen::tablas {
+
+using proyecto::ProyectoAbierto;
 
 /// The two kinds of stair. Each has its list, its data and its design parameters, in tables of its own.
 enum class ClaseEscalera { Autoportante, Helicoidal };

@@ -3,12 +3,24 @@
 #include <functional>
 
 #include "store/Filas.h"
+#include "store/proyecto/TablaProyecto.h"
 
 namespace trabex::almacen::tablas {
 
 namespace {
 
+constexpr const char* TablaDeGenerales = "LosaG";
 constexpr double LosetaPorDefecto = 0.05;
+
+void PonerGenerales(Recordset& registros, const DatosGenerales& generales) {
+    registros.Poner("FC", generales.FC);
+    registros.Poner("FY", generales.FY);
+    registros.Poner("D8", generales.D8);
+    registros.Poner("FCP", generales.FCP);
+    registros.Poner("FCV", generales.FCV);
+    registros.Poner("FiMomento", generales.FiMomento);
+    registros.Poner("FiCorte", generales.FiCorte);
+}
 
 /// Reads a slab's rows of one table into an array that counts from 1.
 template <class Registro>
@@ -39,6 +51,32 @@ void LeerSeccion(Conexion& conexion, losas::Losa& losa) {
 
 }  // namespace
 
+bool AgregarGenerales(Recordset& registros, const DatosGenerales& generales) {
+    registros.AgregarNuevo();
+    PonerGenerales(registros, generales);
+    return registros.Actualizar();
+}
+
+bool GuardarGeneralesLosa(Conexion& conexion, const DatosGenerales& generales) {
+    return ReemplazarFila(conexion, TablaDeGenerales, [&](Recordset& r) { PonerGenerales(r, generales); });
+}
+
+void LeerDatosGenerales(Conexion& conexion, std::string_view usuario, DatosDelProyecto& datos,
+                        DatosGenerales& generales) {
+    proyecto::LeerProyecto(conexion, usuario, datos);
+    generales = {};
+    Recordset registros;
+    AbrirRecordset(conexion, registros, TablaDeGenerales);
+    if (!SembrarFila(registros, [&](Recordset& r) { PonerGenerales(r, generales); })) return;
+    generales.FC = registros.Entero16("FC");
+    generales.FY = registros.Entero16("FY");
+    generales.D8 = registros.Doble("D8");
+    generales.FCP = registros.Doble("FCP");
+    generales.FCV = registros.Doble("FCV");
+    generales.FiMomento = registros.Doble("FiMomento");
+    generales.FiCorte = registros.Doble("FiCorte");
+}
+
 void PonerSeccion(Recordset& registros, losas::Losa& losa) {
     if (losa.Loseta == 0) losa.Loseta = LosetaPorDefecto;
     registros.Poner("OpcionMaciza", losa.OpcionMaciza);
@@ -53,7 +91,7 @@ void PonerSeccion(Recordset& registros, losas::Losa& losa) {
 void EscribirElementos(Conexion& conexion, const std::string& nombre, const losas::Losa& losa) {
     EscribirFilas(conexion, "LosaTramos", nombre, losa.Tramos.size() - 1, [&](Recordset& r, std::size_t k) {
         const losas::Tramo& tramo = losa.Tramos[k];
-        r.Poner("Numero", Numero(k));
+        r.Poner("Numero", NumeroDeFila(k));
         r.Poner("LT", tramo.LT);
         r.Poner("Wp", tramo.Wp);
         r.Poner("WV", tramo.WV);
@@ -62,7 +100,7 @@ void EscribirElementos(Conexion& conexion, const std::string& nombre, const losa
     });
     EscribirFilas(conexion, "LosaEjes", nombre, losa.Tramos.size(), [&](Recordset& r, std::size_t k) {
         const losas::EjeLosa eje = k < losa.Ejes.size() ? losa.Ejes[k] : losas::EjeLosa{};
-        r.Poner("Numero", Numero(k));
+        r.Poner("Numero", NumeroDeFila(k));
         r.Poner("Eje", eje.Eje);
         r.Poner("Tipo", eje.Tipo);
         r.Poner("Lizq", eje.Lizq);

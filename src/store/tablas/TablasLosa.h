@@ -1,15 +1,36 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 
+#include "base/DatosGenerales.h"
+#include "base/Proyecto.h"
 #include "slab/Losa.h"
-#include "store/tablas/TablasProyecto.h"
+#include "store/Elementos.h"
+#include "store/proyecto/ProyectoAbierto.h"
 
 namespace trabex::almacen::tablas {
 
+using proyecto::ProyectoAbierto;
+
 /// The text that opens the slab list on RegistrosProyecto.
 inline constexpr std::string_view ConsultaListaLosas = "SELECT * FROM LosaDatos  ORDER BY Nombre";
+
+inline constexpr std::array<const char*, 3> HijasDeLosa{"LosaEjes", "LosaJuntasD", "LosaTramos"};
+inline constexpr TablasDeElemento TablasDeLosa{HijasDeLosa, "LosaDatos"};
+
+/// Adds the row of `LosaG` to its opened set. False when it could not be stored.
+bool AgregarGenerales(Recordset& registros, const DatosGenerales& generales);
+
+/// Writes the one row of `LosaG` over the stored one, as one save. False when it could not be stored; the
+/// stored row then stands.
+bool GuardarGeneralesLosa(Conexion& conexion, const DatosGenerales& generales);
+
+/// Reads `Proyecto` and `LosaG`, seeding each when empty. When the tables can't be reached the values become
+/// the seeds.
+void LeerDatosGenerales(Conexion& conexion, std::string_view usuario, DatosDelProyecto& datos,
+                        DatosGenerales& generales);
 
 /// Sets the section fields of a slab's record, without storing it. A depth of topping of 0 becomes 0.05.
 void PonerSeccion(Recordset& registros, losas::Losa& losa);

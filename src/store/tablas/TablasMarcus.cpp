@@ -25,13 +25,13 @@ bool GuardarMarcus(ProyectoAbierto& proyecto, const marcus::NivelMarcus& nivel) 
     Transaccion guardado(proyecto.ConexionProyecto);
     BuscarRegistro(lista, "Nombre=" + EntreComillas(nivel.Nombre));
     if (lista.Encontrado()) {
-        lista.Poner("Paños", Numero(nivel.Filas.size()));
+        lista.Poner("Paños", NumeroDeFila(nivel.Filas.size()));
         lista.Actualizar();
     }
     const bool escritas = EscribirFilas(proyecto.ConexionProyecto, "Marcus", nivel.Nombre, nivel.Filas.size(),
                                         [&](Recordset& r, std::size_t k) {
                                             const marcus::PanoMarcus& pano = nivel.Filas[k - 1];
-                                            r.Poner("Numero", Numero(k));
+                                            r.Poner("Numero", NumeroDeFila(k));
                                             r.Poner("Carga", pano.Carga);
                                             r.Poner("Caso", pano.Caso);
                                             r.Poner("LX", pano.LX);

@@ -3,9 +3,11 @@
 #include <string_view>
 
 #include "markus/CalculeMarcus.h"
-#include "store/tablas/TablasProyecto.h"
+#include "store/proyecto/ProyectoAbierto.h"
 
 namespace trabex::almacen::tablas {
+
+using proyecto::ProyectoAbierto;
 
 /// The text that opens the list of Markus levels on RegistrosProyecto.
 inline constexpr std::string_view ConsultaListaMarcus = "SELECT * FROM MarcusDatos  ORDER BY Nombre";
