@@ -33,14 +33,13 @@ void LanzarFalta() {
 
 namespace vigilancia {
 
-bool HuboFalta(Tarea tarea, void* datos) {
+bool HuboError(Tarea tarea, void* datos) {
     const BanderasBajas banderas;
     const volatile Tarea opaca = tarea;
     try {
         opaca(datos);
-    } catch (...) {
-        if (std::fetestexcept(Faltas) != 0) return true;
-        throw;
+    } catch (const ErrorEjecucion&) {
+        return true;
     }
     return std::fetestexcept(Faltas) != 0;
 }

@@ -18,9 +18,9 @@ namespace vigilancia {
 
 using Tarea = void (*)(void*);
 
-/// Runs tarea(datos) with the flags down, puts them back as they were, and tells whether a fault arose.
-/// Lets an exception of the task pass only when no fault came before it.
-bool HuboFalta(Tarea tarea, void* datos);
+/// Runs tarea(datos) with the flags down, puts them back as they were, and tells whether a fault or an
+/// ErrorEjecucion came of it.
+bool HuboError(Tarea tarea, void* datos);
 
 /// Runs tarea(datos) with the flags down, puts them back as they were, and throws as Vigilar does when a
 /// fault arose.
@@ -38,6 +38,9 @@ class Pasos {
   public:
     Pasos() = default;
     explicit Pasos(bool vigilados) : vigilados_(vigilados) {}
+
+    /// Whether each step is looked at.
+    bool Vigilados() const { return vigilados_; }
 
     /// What `paso` returns. When the steps are looked at, throws instead where a fault arose in it, so that
     /// registro.Campo = pasos([&] { return …; }) stores nothing that is faulty.
@@ -64,14 +67,15 @@ class Pasos {
 /// arose in stores nothing, and no later one is run.
 ///
 /// Reading the flags halts the processor's pipeline, so the calculation runs straight through and they are
-/// read once; only when a fault shows is it run again, each step looked at. Hence its two duties: it begins
-/// with emptying all that it fills, and it ends whatever its numbers are. All its arithmetic belongs in
-/// steps, one for each record or field that is stored; of two faults in one step, division by zero goes
-/// before overflow, and that before an invalid operation, which may follow from them.
+/// read once; only when a fault or another ErrorEjecucion shows is it run again, each step looked at. Hence
+/// its duties: run again, it begins with emptying all that it fills; run straight through, it ends whatever
+/// its numbers are. All its arithmetic belongs in steps, one for each record or field that is stored; of two
+/// faults in one step, division by zero goes before overflow, and that before an invalid operation, which may
+/// follow from them.
 template <class Calculo>
 void Vigilar(Calculo calculo) {
     auto deCorrido = [&] { calculo(Pasos(false)); };
-    if (!vigilancia::HuboFalta(&vigilancia::Llamar<decltype(deCorrido)>, &deCorrido)) return;
+    if (!vigilancia::HuboError(&vigilancia::Llamar<decltype(deCorrido)>, &deCorrido)) return;
     auto pasoAPaso = [&] { calculo(Pasos(true)); };
     vigilancia::CorrerVigilada(&vigilancia::Llamar<decltype(pasoAPaso)>, &pasoAPaso);
 }

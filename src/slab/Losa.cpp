@@ -1,5 +1,7 @@
 #include "slab/Losa.h"
 
+#include <array>
+
 #include "base/Enteros.h"
 
 namespace trabex::losas {
@@ -19,6 +21,16 @@ std::int16_t NumeroTramos(const Losa& losa) {
 
 std::int16_t NumeroJuntasD(const Losa& losa) {
     return NumeroDeRegistros(losa.JuntasD);
+}
+
+Restriccion RestriccionDe(std::int16_t tipo) {
+    constexpr std::array<Restriccion, 6> tabla{{{},
+                                                {true, true, false},   // ApoyoFijo
+                                                {false, true, false},  // RodilloEnX
+                                                {true, false, false},  // RodilloEnY
+                                                {true, true, true},    // Empotramiento
+                                                {}}};                  // SinApoyo
+    return tipo >= ApoyoFijo && tipo <= SinApoyo ? tabla[static_cast<std::size_t>(tipo)] : tabla[0];
 }
 
 SeccionLosa SeccionDeCalculo(const Losa& losa) {
