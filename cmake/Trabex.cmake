@@ -5,12 +5,13 @@ set(TRABEX_PROGRAMA ${CMAKE_BINARY_DIR}/programa)
 
 add_library(trabex_opciones INTERFACE)
 if(MSVC)
-    target_compile_options(trabex_opciones INTERFACE /W4 /WX /utf-8 /permissive- /fp:precise)
+    target_compile_options(trabex_opciones INTERFACE /W4 /WX /utf-8 /permissive- /fp:precise /fp:except)
 else()
-    # No contraction and no reassociation: results are the same bits in debug and release.
+    # No contraction and no reassociation: results are the same bits in debug and release. And no arithmetic that
+    # the code does not ask for (what a condition guards, done ahead of it): its faults would be taken for the code's.
     target_compile_options(trabex_opciones INTERFACE
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror
-        -ffp-contract=off)
+        -ffp-contract=off $<IF:$<CXX_COMPILER_ID:GNU>,-ftrapping-math,-ffp-exception-behavior=maytrap>)
     if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
         # GCC 12 sees overlapping copies in std::string's concatenation where there are none (its bug 105651).
         target_compile_options(trabex_opciones INTERFACE -Wno-restrict)

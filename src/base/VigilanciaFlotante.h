@@ -2,17 +2,85 @@
 
 #include <cfenv>
 #include <cstddef>
-
-#if defined(__SSE2__) || defined(_M_X64)
-#include <xmmintrin.h>
-#endif
+#include <optional>
+#include <type_traits>
+#include <utility>
 
 namespace trabex {
 
-/// Turns the processor's floating-point flags into run-time errors.
+/// The fence between arithmetic and the processor's floating-point flags.
 ///
-/// A calculation makes one at its start and calls `Comprobar` where a span or a station is done and its
-/// values are stored. The flags that were up before are put back at the end.
+/// No compiler promises to leave arithmetic on its side of a flag that is read. So flags are cleared and read
+/// in VigilanciaFlotante.cpp alone, around a call that goes through a pointer no compiler can follow: what
+/// the task computes and stores is done when the call returns, and nothing of its caller's can slip in
+/// between.
+namespace vigilancia {
+
+using Tarea = void (*)(void*);
+
+/// Runs tarea(datos) with the flags down, puts them back as they were, and tells whether a fault or an
+/// ErrorEjecucion came of it.
+bool HuboError(Tarea tarea, void* datos);
+
+/// Runs tarea(datos) with the flags down, puts them back as they were, and throws as Vigilar does when a
+/// fault arose.
+void CorrerVigilada(Tarea tarea, void* datos);
+
+template <class F>
+void Llamar(void* f) {
+    (*static_cast<F*>(f))();
+}
+
+}  // namespace vigilancia
+
+/// The steps of a calculation, as Vigilar hands them to it: run straight through, or each looked at.
+class Pasos {
+  public:
+    Pasos() = default;
+    explicit Pasos(bool vigilados) : vigilados_(vigilados) {}
+
+    /// Whether each step is looked at.
+    bool Vigilados() const { return vigilados_; }
+
+    /// What `paso` returns. When the steps are looked at, throws instead where a fault arose in it, so that
+    /// registro.Campo = pasos([&] { return …; }) stores nothing that is faulty.
+    template <class Paso>
+    std::invoke_result_t<Paso&> operator()(Paso paso) const {
+        if (!vigilados_) return paso();
+        using Valor = std::invoke_result_t<Paso&>;
+        if constexpr (std::is_void_v<Valor>) {
+            vigilancia::CorrerVigilada(&vigilancia::Llamar<Paso>, &paso);
+        } else {
+            std::optional<Valor> valor;
+            auto tarea = [&] { valor.emplace(paso()); };
+            vigilancia::CorrerVigilada(&vigilancia::Llamar<decltype(tarea)>, &tarea);
+            return *std::move(valor);
+        }
+    }
+
+  private:
+    bool vigilados_ = false;
+};
+
+/// Runs calculo(pasos) with division by zero, overflow and invalid operation as run-time errors: throws
+/// ErrorEjecucion 11, 6 or 5 for the first one to arise. What was stored before it stays; the step that it
+/// arose in stores nothing, and no later one is run.
+///
+/// Reading the flags halts the processor's pipeline, so the calculation runs straight through and they are
+/// read once; only when a fault or another ErrorEjecucion shows is it run again, each step looked at. Hence
+/// its duties: run again, it begins with emptying all that it fills; run straight through, it ends whatever
+/// its numbers are. All its arithmetic belongs in steps, one for each record or field that is stored; of two
+/// faults in one step, division by zero goes before overflow, and that before an invalid operation, which may
+/// follow from them.
+template <class Calculo>
+void Vigilar(Calculo calculo) {
+    auto deCorrido = [&] { calculo(Pasos(false)); };
+    if (!vigilancia::HuboError(&vigilancia::Llamar<decltype(deCorrido)>, &deCorrido)) return;
+    auto pasoAPaso = [&] { calculo(Pasos(true)); };
+    vigilancia::CorrerVigilada(&vigilancia::Llamar<decltype(pasoAPaso)>, &pasoAPaso);
+}
+
+/// The watch that calculations without steps keep: they call `Comprobar` where a station is done.
 class VigilanciaFlotante {
   public:
     VigilanciaFlotante();
@@ -22,15 +90,10 @@ class VigilanciaFlotante {
 
     /// Throws ErrorEjecucion 11 after a division by zero, 6 after an overflow and 5 after an invalid
     /// operation.
-    void Comprobar() const {
-        if (Levantadas()) Lanzar();
-    }
+    void Comprobar() const;
 
     /// Runs guardar(i, calcular(i)) for i = desde … hasta, and throws as Comprobar does where a fault arises:
     /// the records before it are stored, that one and those after it are not.
-    ///
-    /// Reading the flags halts the processor's pipeline, so they are read once at the end; only when a fault
-    /// shows does `borrar` undo the run, and a second run looks for its place.
     template <class Calcular, class Guardar, class Borrar>
     void Recorrer(std::size_t desde, std::size_t hasta, Calcular calcular, Guardar guardar,
                   Borrar borrar) const {
@@ -46,15 +109,7 @@ class VigilanciaFlotante {
     }
 
   private:
-    /// On x86-64 doubles are the vector unit's, whose flags alone are read: several times cheaper.
-    static bool Levantadas() {
-#if defined(__SSE2__) || defined(_M_X64)
-        return (_mm_getcsr() & (_MM_EXCEPT_INVALID | _MM_EXCEPT_DIV_ZERO | _MM_EXCEPT_OVERFLOW)) != 0;
-#else
-        return std::fetestexcept(FE_DIVBYZERO | FE_OVERFLOW | FE_INVALID) != 0;
-#endif
-    }
-    [[noreturn]] static void Lanzar();
+    static bool Levantadas();
     std::fexcept_t anteriores_{};
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/VigilanciaFlotante.h"
 #include "slab/Losa.h"
 #include "slab/ResultadosLosa.h"
 
@@ -15,9 +16,15 @@ inline constexpr std::int16_t MaximoTramos = 10919;
 /// along Y, 3j rotation), E = 15100·√F'c (kgf/cm²), one section throughout; supports by penalty. A load on a
 /// restrained direction is dropped, so a point load right over a support appears in no reaction.
 ///
-/// Returns false, leaving the results as they stood, for a slab without spans or with one of length 0.
-/// Throws ErrorEjecucion, with the results filled as far as it came: 6 past MaximoTramos, 9 for a joint that
-/// does not exist, 11, 6 or 5 for a floating-point fault.
-bool Analizar(const Losa& losa, const DatosGenerales& generales, ResultadosLosa& resultados);
+/// Directions that nothing holds are named in `DireccionesLibres`; the numbers are those that the solver
+/// gives.
+///
+/// Its arithmetic is done in `pasos`. Throws ErrorEjecucion, with the results filled as far as it came: 6
+/// past MaximoTramos, 9 for a joint that does not exist, and what the steps throw.
+void Analizar(const Losa& losa, const DatosGenerales& generales, const Pasos& pasos,
+              ResultadosLosa& resultados);
+
+/// False for a slab without spans or with one of length 0: no results come of it.
+bool SePuedeAnalizar(const Losa& losa);
 
 }  // namespace trabex::losas

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <vector>
 
@@ -56,8 +57,9 @@ void EliminarFila(MatrizBanda<B>& K, std::vector<ParDeCasos>& F, std::size_t r) 
     K.Fila(r + 1) = factor;
 }
 
-/// Eliminates rows desde + 1 … hasta of K, once all that adds to them has been added. Rows in front that a
-/// bar does not reach yet may still be open.
+/// Eliminates rows desde + 1 … hasta of K, once all has been added to them and to every row that they reach:
+/// a support among those, too, is put on the diagonal as it was assembled, not on what elimination left of
+/// it.
 template <std::size_t B>
 void EliminarFilas(MatrizBanda<B>& K, std::vector<ParDeCasos>& F, std::size_t desde, std::size_t hasta) {
     for (std::size_t r = desde; r < hasta; ++r) {
@@ -84,13 +86,30 @@ void SustituirAtras(MatrizBanda<B>& K, std::vector<ParDeCasos>& F, std::size_t N
     }
 }
 
+/// A pivot so much smaller than the diagonal that was assembled is what rounding left of it: nothing holds
+/// that direction. A chain of a thousand spans on its two ends, or 8 m beside 5 mm, still stays above it.
+inline constexpr double PivoteNulo = 1e-10;
+
+/// Rows of an eliminated K, from 1, whose pivot vanishes beside the diagonal that had been assembled there.
+template <std::size_t B>
+std::vector<std::size_t> FilasSinPivote(const MatrizBanda<B>& K, const std::vector<double>& diagonal) {
+    std::vector<std::size_t> filas;
+    for (std::size_t r = 1; r <= diagonal.size(); ++r) {
+        const double inverso = std::fabs(K(r, 1));
+        const double armada = std::fabs(diagonal[r - 1]);
+        const bool nulo = inverso == 0 ? std::isfinite(armada) : inverso * PivoteNulo * armada > 1;
+        if (nulo) filas.push_back(r);
+    }
+    return filas;
+}
+
 /// Solves K·d = F for both load cases with one factorisation, K = UᵀDU in the band (Gaussian elimination of a
 /// symmetric matrix, no pivoting). K has NDOF + B rows and is overwritten. F has as many, zero past NDOF; it
 /// comes in as the loads, F[0] being that of degree of freedom 1, and goes out as the displacements. The
 /// first `eliminadas` rows have been eliminated already.
 ///
-/// K is positive definite for a stable structure, and nothing tests for that. A direction whose stiffness
-/// vanishes exactly and that carries no load stays where it is; under a load it divides by zero.
+/// K is positive definite for a stable structure. A direction whose stiffness vanishes exactly and that
+/// carries no load stays where it is; under a load it divides by zero.
 template <std::size_t B>
 void CalculoDPZ(MatrizBanda<B>& K, std::vector<ParDeCasos>& F, std::size_t NDOF, std::size_t eliminadas = 0) {
     EliminarFilas(K, F, eliminadas, NDOF);

@@ -16,13 +16,15 @@ namespace {
 /// Design of an analysed slab, joint by joint and span by span.
 class Diseno {
   public:
-    Diseno(const Losa& losa, const DatosGenerales& generales, ResultadosLosa& resultados, double total)
+    Diseno(const Losa& losa, const DatosGenerales& generales, const Pasos& pasos, double total,
+           ResultadosLosa& resultados)
         : losa_(losa),
           generales_(generales),
+          pasos_(pasos),
           resultados_(resultados),
           N_(losa.Tramos.size() - 1),
-          seccion_(losa, generales),
-          dibujo_(CoordenarJuntas(losa, total / 2)) {}
+          seccion_(pasos([&] { return DisenoSeccion(losa, generales); })),
+          dibujo_(pasos([&] { return CoordenarJuntas(losa, total / 2); })) {}
 
     void Ejecutar() {
         DisenarJuntas();
@@ -30,27 +32,18 @@ class Diseno {
     }
 
   private:
-    /// What span i gives to its joints. Zones that are not judged stay 0.
-    struct Juntas {
-        AceroCaras Acero;        // of joint i
-        AceroCaras AceroUltimo;  // of joint N + 1, when i = N
-        double MczI = 0, MczD = 0, MczIUltimo = 0;
-        double PtoD, PtoI;  // of joint i and of joint i + 1
-    };
-
     void DisenarJuntas();
     void DisenarTramos();
-    Juntas JuntasDe(std::size_t i) const;
     double Coseno(std::size_t i) const;
-    void CalcularMacizados(std::size_t i, double C, const ExtremosMayorados& tramo, Juntas& juntas) const;
-    void CalcularInflexiones(std::size_t i, double C, const ExtremosMayorados& tramo, Juntas& juntas) const;
-    void Guardar(std::size_t i, const Juntas& juntas);
+    void DisenarJunta(std::size_t j, double M);
+    void CalcularMacizados(std::size_t i, double C, const ExtremosMayorados& tramo);
+    void CalcularInflexiones(std::size_t i, double C, const ExtremosMayorados& tramo);
 
     const Losa& losa_;
     const DatosGenerales& generales_;
+    const Pasos& pasos_;
     ResultadosLosa& resultados_;
     const std::size_t N_;
-    VigilanciaFlotante vigilancia_;
     const DisenoSeccion seccion_;
     const CoordenadasJuntas dibujo_;  // centred on 0: they serve only to get the cosines
 };
@@ -62,83 +55,77 @@ double Diseno::Coseno(std::size_t i) const {
     return std::cos(std::atan(dy / dx));
 }
 
-/// Joint i and span i, which starts there. The steel of a joint comes from the moment at the start of the
-/// span to its right; only the last joint reads the end of a span.
-Diseno::Juntas Diseno::JuntasDe(std::size_t i) const {
-    const double C = Coseno(i);
-    const ExtremosMayorados tramo = MayorarExtremos(resultados_, generales_, i);
-    Juntas juntas{};
-    juntas.Acero = seccion_.CalcularAcero(tramo.Mi);
-    if (i == N_) juntas.AceroUltimo = seccion_.CalcularAcero(tramo.Mj);
-    if (!losa_.OpcionMaciza && losa_.Ejes[i].Tipo != SinApoyo) CalcularMacizados(i, C, tramo, juntas);
-    CalcularInflexiones(i, C, tramo, juntas);
-    return juntas;
+/// Joint after joint. The steel of a joint comes from the moment at the start of the span to its right; only
+/// the last joint reads the end of a span.
+void Diseno::DisenarJuntas() {
+    resultados_.DisenoEje.assign(N_ + 2, {});
+    for (std::size_t i = 1; i <= N_; ++i) {
+        const double C = pasos_([this, i] { return Coseno(i); });
+        const ExtremosMayorados tramo =
+            pasos_([this, i] { return MayorarExtremos(resultados_, generales_, i); });
+        DisenarJunta(i, tramo.Mi);
+        if (i == N_) DisenarJunta(N_ + 1, tramo.Mj);
+        if (!losa_.OpcionMaciza && losa_.Ejes[i].Tipo != SinApoyo) CalcularMacizados(i, C, tramo);
+        CalcularInflexiones(i, C, tramo);
+    }
+}
+
+void Diseno::DisenarJunta(std::size_t j, double M) {
+    const AceroCaras As = pasos_([&] { return seccion_.CalcularAcero(M); });
+    resultados_.DisenoEje[j].AS1 = As.AsSup;
+    resultados_.DisenoEje[j].AS2 = As.AsInf;
 }
 
 /// The cosine of span i serves both sides of its joint, and the last joint is judged with the number and the
 /// support of the one before it.
-void Diseno::CalcularMacizados(std::size_t i, double C, const ExtremosMayorados& tramo,
-                               Juntas& juntas) const {
-    const ExtremosMayorados izquierdo = MayorarExtremos(resultados_, generales_, i - 1);
-    juntas.MczI = seccion_.CalcularMacizado(i, izquierdo.Vj, izquierdo.Mj, C);
-    juntas.MczD = seccion_.CalcularMacizado(i, tramo.Vi, tramo.Mi, C);
-    if (i == N_) juntas.MczIUltimo = seccion_.CalcularMacizado(N_, tramo.Vj, tramo.Mj, C);
+void Diseno::CalcularMacizados(std::size_t i, double C, const ExtremosMayorados& tramo) {
+    const ExtremosMayorados izquierdo =
+        pasos_([this, i] { return MayorarExtremos(resultados_, generales_, i - 1); });
+    const auto macizado = [&](double V, double M) {
+        return pasos_([&] { return seccion_.CalcularMacizado(i, V, M, C); });
+    };
+    resultados_.DisenoEje[i].MczI = macizado(izquierdo.Vj, izquierdo.Mj);
+    resultados_.DisenoEje[i].MczD = macizado(tramo.Vi, tramo.Mi);
+    if (i == N_) resultados_.DisenoEje[i + 1].MczI = macizado(tramo.Vj, tramo.Mj);
 }
 
-void Diseno::CalcularInflexiones(std::size_t i, double C, const ExtremosMayorados& tramo,
-                                 Juntas& juntas) const {
-    const PuntosInflexion p = CalcularInflexion(losa_.Tramos[i], generales_, tramo.Vi, tramo.Mi, C);
-    const double Ls = losa_.Tramos[i].LT / C;
+void Diseno::CalcularInflexiones(std::size_t i, double C, const ExtremosMayorados& tramo) {
+    const PuntosInflexion p =
+        pasos_([&] { return CalcularInflexion(losa_.Tramos[i], generales_, tramo.Vi, tramo.Mi, C); });
+    const double Ls = pasos_([&] { return losa_.Tramos[i].LT / C; });
     const auto dentro = [Ls](double x) { return x > 0 && Round(x, 2) < Round(Ls, 2); };
-    juntas.PtoD = dentro(p.salida2) ? p.salida2 : 0;
-    juntas.PtoI = dentro(p.salida1) ? Ls - p.salida1 : 0;
-}
-
-void Diseno::Guardar(std::size_t i, const Juntas& juntas) {
-    DisenoDeEje& eje = resultados_.DisenoEje[i];
-    DisenoDeEje& siguiente = resultados_.DisenoEje[i + 1];
-    eje.AS1 = juntas.Acero.AsSup;
-    eje.AS2 = juntas.Acero.AsInf;
-    eje.MczI = juntas.MczI;
-    eje.MczD = juntas.MczD;
-    eje.PtoD = juntas.PtoD;
-    siguiente.PtoI = juntas.PtoI;
-    if (i != N_) return;
-    siguiente.AS1 = juntas.AceroUltimo.AsSup;
-    siguiente.AS2 = juntas.AceroUltimo.AsInf;
-    siguiente.MczI = juntas.MczIUltimo;
-}
-
-void Diseno::DisenarJuntas() {
-    const auto borrar = [this] { resultados_.DisenoEje.assign(N_ + 2, {}); };
-    borrar();
-    vigilancia_.Recorrer(
-        1, N_, [this](std::size_t i) { return JuntasDe(i); },
-        [this](std::size_t i, const Juntas& juntas) { Guardar(i, juntas); }, borrar);
+    resultados_.DisenoEje[i].PtoD = pasos_([&] { return dentro(p.salida2) ? p.salida2 : 0; });
+    resultados_.DisenoEje[i + 1].PtoI = pasos_([&] { return dentro(p.salida1) ? Ls - p.salida1 : 0; });
 }
 
 void Diseno::DisenarTramos() {
-    std::vector<DisenoDeTramo>& tramos = resultados_.DisenoTramo;
-    vigilancia_.Recorrer(
-        1, N_, [&](std::size_t i) { return seccion_.CalcularAcero(tramos[i].MT); },
-        [&](std::size_t i, const AceroCaras& As) {
-            tramos[i].AS1 = As.AsSup;
-            tramos[i].AS2 = As.AsInf;
-        },
-        [&] {
-            for (DisenoDeTramo& tramo : tramos) tramo.AS1 = tramo.AS2 = 0;
-        });
+    for (std::size_t i = 1; i <= N_; ++i) {
+        DisenoDeTramo& tramo = resultados_.DisenoTramo[i];
+        const AceroCaras As = pasos_([&] { return seccion_.CalcularAcero(tramo.MT); });
+        tramo.AS1 = As.AsSup;
+        tramo.AS2 = As.AsInf;
+    }
+}
+
+void AnalizarYDisenar(const Losa& losa, const DatosGenerales& generales, const Pasos& pasos,
+                      ResultadosLosa& resultados) {
+    Analizar(losa, generales, pasos, resultados);
+    const double total = pasos([&] {
+        double suma = 0;
+        for (const Tramo& tramo : losa.Tramos) suma += tramo.LT;
+        return suma;
+    });
+    if (total == 0) return;
+    Diseno(losa, generales, pasos, total, resultados).Ejecutar();
 }
 
 }  // namespace
 
 void CalcularLosa(const Losa& losa, const DatosGenerales& generales, ResultadosLosa& resultados) {
+    if (!SePuedeAnalizar(losa)) return;
+    resultados.Error.reset();
     try {
-        if (!Analizar(losa, generales, resultados)) return;
-        double total = 0;
-        for (const Tramo& tramo : losa.Tramos) total += tramo.LT;
-        if (total == 0) return;
-        Diseno(losa, generales, resultados, total).Ejecutar();
+        Vigilar([&](const Pasos& pasos) { AnalizarYDisenar(losa, generales, pasos, resultados); });
     } catch (const ErrorEjecucion& error) {
         resultados.Error = error;
     }

@@ -8,10 +8,15 @@ namespace trabex::losas {
 
 namespace {
 
+/// A walk of 1000 steps takes a few more when the step is rounded; one whose step vanishes has no end of its
+/// own.
+constexpr int EstacionesPosibles = 2000;
+
 /// First station with V ≤ 0, by thousandths of the span; 0 when there is none.
 double CorteNulo(const TramoMayorado& m, double Vi) {
     const double dx = m.Ls / 1000;
-    for (double x = 0; dx < 0 ? x >= m.Ls : x <= m.Ls; x += dx) {
+    double x = 0;
+    for (int k = 0; k < EstacionesPosibles && (dx < 0 ? x >= m.Ls : x <= m.Ls); ++k, x += dx) {
         double V = Vi - x * m.w;
         if (x >= m.a) V -= m.P;
         if (V <= 0) return x;
@@ -30,7 +35,8 @@ PuntosInflexion InflexionConPuntual(const TramoMayorado& m, double V, double M) 
     PuntosInflexion puntos;
     const double dx = m.Ls / 1000;
     bool encontrado = false;
-    for (double x = 0;; x += dx) {
+    double x = 0;
+    for (int k = 0; k < EstacionesPosibles; ++k, x += dx) {
         double momento = M + V * x - m.w * (x * x) / 2;
         if (!(x < m.a)) momento -= (x - m.a) * m.P;
         if (!encontrado && momento >= 0) {
@@ -43,6 +49,7 @@ PuntosInflexion InflexionConPuntual(const TramoMayorado& m, double V, double M) 
             return puntos;
         }
     }
+    return puntos;
 }
 
 }  // namespace

@@ -27,6 +27,14 @@ enum TipoApoyo : std::int16_t {
     SinApoyo = 5,       ///< nothing
 };
 
+/// What a support restrains.
+struct Restriccion {
+    bool X = false;
+    bool Y = false;
+    bool Giro = false;
+};
+Restriccion RestriccionDe(std::int16_t tipo);
+
 /// One joint: the axis that the engineer sees, and its support.
 struct EjeLosa {
     std::string Eje;        ///< axis name

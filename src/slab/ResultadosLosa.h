@@ -59,11 +59,21 @@ struct DisenoDeTramo {
     double AS2 = 0;  ///< bottom steel for MT, cm²
 };
 
+/// Directions of a joint.
+enum class Direccion { X, Y, Giro };
+
+/// A direction in which nothing holds the slab: its pivot vanishes beside the stiffness assembled there.
+struct DireccionLibre {
+    std::size_t Junta;
+    Direccion En;
+};
+
 /// All that a calculation leaves. Joints and spans count from 1; slot 0 stays zero and is read.
 /// Arrays are empty until the calculation that fills them has begun.
 struct ResultadosLosa {
     std::array<std::vector<EstadoJunta>, 3> ResultadoJunta;     ///< by case, then joint
     std::array<std::vector<EsfuerzosTramo>, 3> ResultadoTramo;  ///< by case, then span
+    std::vector<DireccionLibre> DireccionesLibres;              ///< empty when the slab holds
     std::vector<DisenoDeEje> DisenoEje;
     std::vector<DisenoDeTramo> DisenoTramo;
     double MaxMomentoApoyo = 0;           ///< largest absolute factored end moment, kgf·m
