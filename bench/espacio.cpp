@@ -29,7 +29,8 @@ QApplication& Programa() {
 struct Ventana {
     explicit Ventana(std::int64_t tramos)
         : e({Larga(tramos, "L-1"), Larga(tramos, "L-2")}),
-          ventana((Programa(), e.espacio.Cerrar(), e.aplicacion), e.caja, e.dialogos, {}, nullptr) {
+          ventana((Programa(), e.espacio.Lista().Cerrar(), e.aplicacion), e.servicios, e.memoria, {},
+                  nullptr) {
         ventana.show();
         QApplication::processEvents();
     }
@@ -67,7 +68,7 @@ BENCHMARK(MedirSalvar)
 void MedirSeleccionar(benchmark::State& estado) {
     Ventana v(estado.range(0));
     int fila = 1;
-    for (auto _ : estado) v.ventana.Operaciones().Seleccionar(fila = 3 - fila);
+    for (auto _ : estado) v.ventana.Operaciones().Lista().Seleccionar(fila = 3 - fila);
 }
 BENCHMARK(MedirSeleccionar)->ArgName("tramos")->Arg(60)->Unit(benchmark::kMillisecond);
 

@@ -21,8 +21,8 @@ montaje::EntornoReportes EntornoDe(const programa::Aplicacion& aplicacion) {
     return {aplicacion.CaminoPrograma, aplicacion.CaminoUsuario, aplicacion.Usuario};
 }
 
-losas::salida::ProyectoParaReporte OrigenDe(programa::Aplicacion& aplicacion, const losas::ui::Losas& losas) {
-    return {aplicacion.Proyecto, aplicacion.Datos, aplicacion.Generales, losas.Fila()};
+losas::salida::ProyectoParaReporte OrigenDe(programa::Aplicacion& aplicacion, losas::ui::Losas& losas) {
+    return {aplicacion.Proyecto, aplicacion.Datos, aplicacion.Generales, losas.Lista().Fila()};
 }
 
 }  // namespace
@@ -39,10 +39,12 @@ EspaciosTrabex::EspaciosTrabex(programa::Aplicacion& aplicacion, programa::CajaM
 
 void EspaciosTrabex::Mostrar(programa::Espacio espacio, QWidget* padre) {
     if (espacio == programa::Espacio::Losas)
-        losas::ui::qt::VentanaLosas(aplicacion_, caja_, dialogos_, Enchufes(), padre).exec();
+        losas::ui::qt::VentanaLosas(aplicacion_, {caja_, dialogos_, plataforma_}, losas_, Operaciones(),
+                                    padre)
+            .exec();
 }
 
-losas::ui::qt::EnchufesLosas EspaciosTrabex::Enchufes() {
+losas::ui::qt::OperacionesDeLosas EspaciosTrabex::Operaciones() {
     using Operacion = void (EspaciosTrabex::*)(losas::ui::Losas&, QWidget&);
     const auto propia = [this](Operacion operacion) {
         return [this, operacion](losas::ui::Losas& losas, QWidget& ventana) {

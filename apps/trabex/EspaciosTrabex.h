@@ -17,7 +17,7 @@ class EspaciosTrabex : public programa::qt::EspaciosDeTrabajo {
     void Mostrar(programa::Espacio espacio, QWidget* padre) override;
 
   private:
-    losas::ui::qt::EnchufesLosas Enchufes();
+    losas::ui::qt::OperacionesDeLosas Operaciones();
     void ExportarResultados(losas::ui::Losas& losas, QWidget& ventana);
     void ExportarGraficos(losas::ui::Losas& losas, QWidget& ventana);
     void ImprimirGraficos(losas::ui::Losas& losas, QWidget& ventana);
@@ -27,6 +27,7 @@ class EspaciosTrabex : public programa::qt::EspaciosDeTrabajo {
     programa::CajaMensajes& caja_;
     programa::DialogosArchivo& dialogos_;
     programa::Plataforma& plataforma_;
+    losas::ui::MemoriaLosas losas_;
     montaje::EstadoReportes reportes_;
     reportes::ui::EstadoSalida salida_;
     salidas::MotorReportes motor_;

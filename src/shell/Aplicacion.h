@@ -28,9 +28,6 @@ struct Aplicacion {
     almacen::proyecto::ProyectoAbierto Proyecto;  ///< connected while a workspace is up
     DatosDelProyecto Datos;
     DatosGenerales Generales;
-    bool LosaModificada = false;  ///< a window saved something: the workspace calculates again
-    double UltimoHo = 0.25;  ///< depths of the slab last saved in this run, m: a new one starts with them
-    double UltimoHm = 0.2;
 };
 
 /// Version of the program, "24.0.0".

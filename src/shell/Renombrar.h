@@ -8,22 +8,19 @@
 
 namespace trabex::programa {
 
-/// A kind of element as the rename window names it.
-struct ClaseRenombrable {
-    std::string_view Tabla;     ///< where its names are
+/// What the rename window says of a kind of element.
+struct TextosDeRenombrar {
     std::string_view YaExiste;  ///< of a name that is taken, below the name itself
     std::string_view Pregunta;  ///< before the old name
 };
 
-inline constexpr ClaseRenombrable RenombrarLosa{
-    "LosaDatos", "Este Nombre ya Existe en las Losas del Proyecto...", "Renombrar la Losa: "};
-
 /// Operations of the window that asks for an element's new name. It writes nothing: the workspace does.
 class Renombrar {
   public:
-    Renombrar(almacen::Conexion& conexion, CajaMensajes& caja, const ClaseRenombrable& clase,
-              std::string actual)
-        : conexion_(conexion), caja_(caja), clase_(clase), actual_(std::move(actual)) {}
+    /// `tabla`: where the names of its kind are.
+    Renombrar(almacen::Conexion& conexion, CajaMensajes& caja, std::string_view tabla,
+              const TextosDeRenombrar& textos, std::string actual)
+        : conexion_(conexion), caja_(caja), tabla_(tabla), textos_(textos), actual_(std::move(actual)) {}
 
     const std::string& NombreActual() const { return actual_; }
     /// The name that was accepted, without the blanks around it.
@@ -35,7 +32,8 @@ class Renombrar {
   private:
     almacen::Conexion& conexion_;
     CajaMensajes& caja_;
-    const ClaseRenombrable& clase_;
+    std::string_view tabla_;
+    TextosDeRenombrar textos_;
     std::string actual_;
     std::string nuevo_;
 };

@@ -161,7 +161,7 @@ TEST_F(Ventanas, UnCeroEnLosGeneralesTomaElFoco) {
     BotonDe(ventana, "Aceptar")->click();
     EXPECT_FALSE(ventana.isVisible());
     EXPECT_EQ(aplicacion.Generales.FiCorte, 0.85);
-    EXPECT_TRUE(aplicacion.LosaModificada);
+    EXPECT_EQ(ventana.result(), QDialog::Accepted);
 }
 
 TEST_F(Ventanas, LaConfiguracionSeGuardaAlAceptar) {

@@ -13,10 +13,7 @@ using prueba::LosaContinua;
 using prueba::Nombrada;
 
 struct Datos : testing::Test {
-    Datos() {
-        e.aplicacion.LosaModificada = true;
-        datos.Abrir();
-    }
+    Datos() { datos.Abrir(); }
     std::string Dicho() const { return e.caja.Mensajes.empty() ? "" : e.caja.Mensajes.back().Texto; }
 
     prueba::EspacioDePrueba e{
@@ -26,7 +23,7 @@ struct Datos : testing::Test {
 };
 
 TEST_F(Datos, EditaUnaCopiaYGuardaEntera) {
-    EXPECT_FALSE(e.aplicacion.LosaModificada);
+    EXPECT_FALSE(datos.LosaModificada());
     EXPECT_EQ(datos.Titulo(), "Datos Generales Losa: L-1");
     datos.PonerNumeroTramos(2);
     datos.PonerLongitud(2, 4.25);
@@ -37,11 +34,11 @@ TEST_F(Datos, EditaUnaCopiaYGuardaEntera) {
     EXPECT_TRUE(datos.PonerJunta(1, 2));
     datos.PonerCorrimiento(1, 0.2, -0.4);
     EXPECT_EQ(e.espacio.Estado().Abierta.Tramos.size(), 4U);
-    EXPECT_TRUE(datos.HayCambios());
     EXPECT_TRUE(datos.Salvar());
-    EXPECT_FALSE(datos.HayCambios());
-    EXPECT_TRUE(e.aplicacion.LosaModificada);
-    EXPECT_EQ(e.aplicacion.UltimoHo, 0.35);
+    EXPECT_TRUE(datos.PuedeCerrar());
+    EXPECT_TRUE(e.caja.Mensajes.empty());  // there is nothing left to ask about
+    EXPECT_TRUE(datos.LosaModificada());
+    EXPECT_EQ(e.memoria.UltimoHo, 0.35);
     EXPECT_EQ(datos.Seccion(CampoSeccion::Loseta), 0.05);
     const Losa losa = e.Guardada("L-1");
     ASSERT_EQ(losa.Tramos.size(), 3U);
@@ -74,7 +71,6 @@ TEST_F(Datos, UnCeroTomaElFocoSegunLaClaseDeLosa) {
         if (!caso.salva) {
             EXPECT_EQ(vista.EnPagina, PaginaLosa::Seccion);
             EXPECT_EQ(vista.Enfocado, caso.campo);
-            EXPECT_TRUE(datos.HayCambios());
         }
         datos.PonerSeccion(caso.campo, antes);
     }
@@ -136,7 +132,7 @@ TEST_F(Datos, RetornoPreguntaSoloConCambios) {
     EXPECT_EQ(Dicho(), "Losa: L-1\n¿Desea Salvar las Modificaciones?");
     EXPECT_EQ(e.caja.Mensajes[0].Encabezado, "Losas del Proyecto...");
     EXPECT_EQ(e.Guardada("L-1").Tramos[1].LT, 5);
-    EXPECT_FALSE(e.aplicacion.LosaModificada);
+    EXPECT_FALSE(datos.LosaModificada());
 
     vista.Cerrada = false;
     datos.PonerSeccion(CampoSeccion::Bo, 0);
@@ -148,7 +144,7 @@ TEST_F(Datos, RetornoPreguntaSoloConCambios) {
     datos.Retorno();
     EXPECT_TRUE(vista.Cerrada);
     EXPECT_EQ(e.Guardada("L-1").Tramos[1].LT, 9);
-    EXPECT_TRUE(e.aplicacion.LosaModificada);
+    EXPECT_TRUE(datos.LosaModificada());
 }
 
 TEST_F(Datos, ElSelectorCambiaDeLosaEnLasDosVentanas) {
@@ -166,7 +162,7 @@ TEST_F(Datos, ElSelectorCambiaDeLosaEnLasDosVentanas) {
     datos.PonerSeccion(CampoSeccion::Bo, 0);
     e.caja.Respuestas = {RespuestaSi};
     EXPECT_FALSE(datos.ElegirLosa(2));
-    EXPECT_EQ(e.espacio.Fila(), 1);
+    EXPECT_EQ(e.espacio.Lista().Fila(), 1);
 }
 
 TEST_F(Datos, UnGuardadoQueFallaDejaLaLosaEntera) {
@@ -177,9 +173,8 @@ TEST_F(Datos, UnGuardadoQueFallaDejaLaLosaEntera) {
         EXPECT_FALSE(datos.Salvar());
     }
     EXPECT_EQ(Dicho().rfind("Error Número: 75", 0), 0U);
-    EXPECT_TRUE(datos.HayCambios());
-    EXPECT_FALSE(e.aplicacion.LosaModificada);
-    EXPECT_EQ(e.aplicacion.UltimoHo, 0.25);
+    EXPECT_FALSE(datos.LosaModificada());
+    EXPECT_EQ(e.memoria.UltimoHo, 0.25);
     EXPECT_EQ(e.Guardada("L-1").Tramos.size(), 4U);
     EXPECT_EQ(e.espacio.Estado().Abierta.Tramos.size(), 4U);
 
@@ -203,10 +198,12 @@ TEST_F(Datos, LasCargasSeFijanSeIgualanOSeDejan) {
         EXPECT_EQ(carga.Suma(), "600");
         carga.MoverA(3);
         carga.Poner(1, 2);
+        return carga.LosaModificada();
     };
     datos.CargaUniforme();  // left without accepting
     EXPECT_EQ(datos.Edicion().Tramos[2].Wp, 300);
-    EXPECT_FALSE(datos.HayCambios());
+    EXPECT_TRUE(datos.PuedeCerrar());
+    EXPECT_TRUE(e.caja.Mensajes.empty());
 
     vista.Carga = [&](const EntradaDeCarga& entrada) {
         Carga02 carga(entrada, e.caja);
@@ -215,10 +212,10 @@ TEST_F(Datos, LasCargasSeFijanSeIgualanOSeDejan) {
         carga.Poner(250, 1.5);
         EXPECT_FALSE(carga.Igualar());  // no
         carga.Fijar();
+        return carga.LosaModificada();
     };
     datos.CargaPuntual();
     EXPECT_EQ(Dicho(), "Igualar Todos los Tramos a la Carga Seleccionada?");
-    EXPECT_TRUE(datos.HayCambios());
     EXPECT_EQ(datos.Edicion().Tramos[2].L1, 99);
     EXPECT_EQ(datos.Edicion().Tramos[1].p1, 250);
     EXPECT_EQ(datos.Edicion().Tramos[1].Wp, 300);
@@ -230,11 +227,14 @@ TEST_F(Datos, LasCargasSeFijanSeIgualanOSeDejan) {
         carga.Poner(410, 150);
         e.caja.Respuestas = {RespuestaSi};
         EXPECT_TRUE(carga.Igualar());
+        return carga.LosaModificada();
     };
     datos.CargaUniforme();
     EXPECT_EQ(Dicho(), "¿Igualar Todos los Tramos a la Carga Seleccionada?");
     for (std::size_t i = 1; i <= 3; ++i) EXPECT_EQ(datos.Edicion().Tramos[i].Wp, 410);
     EXPECT_EQ(datos.Edicion().Tramos[1].p1, 250);
+    EXPECT_TRUE(datos.PuedeCerrar());
+    EXPECT_EQ(Dicho(), "Losa: L-1\n¿Desea Salvar las Modificaciones?");
 }
 
 TEST_F(Datos, AbrirUnaCargaTrasGuardarOlvidaQueSeGuardo) {
@@ -242,8 +242,11 @@ TEST_F(Datos, AbrirUnaCargaTrasGuardarOlvidaQueSeGuardo) {
         datos.Abrir();
         datos.PonerLongitud(1, 2);
         EXPECT_TRUE(datos.Salvar());
-        vista.Carga = [&](const EntradaDeCarga& entrada) { const Carga01 carga(entrada, e.caja); };
+        vista.Carga = [&](const EntradaDeCarga& entrada) {
+            return Carga01(entrada, e.caja).LosaModificada();
+        };
         datos.CargaUniforme();
+        return datos.LosaModificada();
     };
     const double antes = e.espacio.Estado().Resultados.MaxCorte;
     e.espacio.Modificar();

@@ -37,7 +37,7 @@ struct Espacio : testing::Test {
     prueba::EspacioDePrueba e{{Desplazada(), Maciza()}};
     Losas& espacio = e.espacio;
 
-    bool Nueva(const std::string& nombre) { return LosaNueva(espacio, e.caja).Aceptar(nombre); }
+    bool Nueva(const std::string& nombre) { return LosaNueva(espacio).Aceptar(nombre); }
     bool Copia(const std::string& nombre) { return LosaSalvarComo(espacio, e.caja).Aceptar(nombre); }
 };
 
@@ -48,35 +48,35 @@ TEST_F(Espacio, AbreEnLaPrimeraYMuestraCadaSeleccionada) {
     EXPECT_EQ(e.vista.Dibujos, 1);  // nothing is drawn while it loads
     espacio.ElegirVista(VistaDiseno);
     const int restablecida = e.vista.Restablecida;
-    espacio.Seleccionar(2);
+    espacio.Lista().Seleccionar(2);
     EXPECT_EQ(e.vista.Encabezado, "LOSA NERVADA: Nivel 1");
     EXPECT_EQ(e.vista.Marcada, 2);
     EXPECT_GT(e.vista.Restablecida, restablecida);
     EXPECT_EQ(espacio.Estado().Hoja.VistaActual, VistaDiseno);
     EXPECT_EQ(espacio.Estado().Resultados.DisenoTramo.size(), 4U);
-    espacio.Seleccionar(3);
-    EXPECT_EQ(espacio.Fila(), 2);
+    espacio.Lista().Seleccionar(3);
+    EXPECT_EQ(espacio.Lista().Fila(), 2);
 }
 
 TEST_F(Espacio, CreaUnaLosaYEntraSusDatos) {
-    e.aplicacion.UltimoHo = 0.3;
+    e.memoria.UltimoHo = 0.3;
     e.vista.LosaNueva = [&] {
         EXPECT_FALSE(Nueva("   "));
         EXPECT_FALSE(Nueva(" nivel 1 "));
-        espacio.Seleccionar(2);  // the scroller
-        EXPECT_TRUE(Nueva("  Azotea "));
+        espacio.Lista().Seleccionar(2);  // the scroller
+        return Nueva("  Azotea ");
     };
     e.vista.Datos = [&] {
         EXPECT_EQ(e.vista.Encabezado, "LOSA NERVADA: Azotea");
         EXPECT_EQ(espacio.Estado().Abierta.Tramos.size(), 1U);
+        return false;
     };
     espacio.CrearNueva();
     ASSERT_EQ(e.caja.Mensajes.size(), 1U);
     EXPECT_EQ(e.caja.Mensajes[0].Texto, "La Losa: nivel 1\nLa Losa ya Existe en el Proyecto...");
     EXPECT_EQ(e.caja.Mensajes[0].Encabezado, "Creando Nueva Losa...");
     EXPECT_THAT(e.vista.Filas, ElementsAre("BALCON", "Nivel 1", "Azotea"));  // last, not in its place
-    EXPECT_EQ(espacio.Fila(), 3);
-    EXPECT_FALSE(espacio.Estado().LosaCreada);
+    EXPECT_EQ(espacio.Lista().Fila(), 3);
     const Losa azotea = e.Guardada("Azotea");
     EXPECT_FALSE(azotea.OpcionMaciza);
     EXPECT_EQ(azotea.Bo, 0.1);
@@ -87,11 +87,11 @@ TEST_F(Espacio, CreaUnaLosaYEntraSusDatos) {
 }
 
 TEST_F(Espacio, CopiaTodoLoDeLaSeleccionada) {
-    espacio.Seleccionar(2);
+    espacio.Lista().Seleccionar(2);
     e.vista.SalvarComo = [&] {
         EXPECT_FALSE(Copia("BALCÓN "));  // first the user says no
         e.caja.Respuestas = {RespuestaSi};
-        EXPECT_TRUE(Copia("Nivel 2"));
+        return Copia("Nivel 2");
     };
     espacio.CrearDesdeSeleccionada();
     ASSERT_EQ(e.caja.Mensajes.size(), 2U);
@@ -109,9 +109,8 @@ TEST_F(Espacio, CopiaTodoLoDeLaSeleccionada) {
 }
 
 TEST_F(Espacio, RenombraEnTodasLasTablas) {
-    espacio.Seleccionar(2);
-    e.vista.Renombrar = [&](const std::string& actual) {
-        Renombrar ventana(e.aplicacion.Proyecto.ConexionProyecto, e.caja, RenombrarLosa, actual);
+    espacio.Lista().Seleccionar(2);
+    e.vista.Renombrar = [&](Renombrar& ventana) {
         EXPECT_FALSE(ventana.Aceptar(" "));
         EXPECT_FALSE(ventana.Aceptar("balcon"));
         EXPECT_FALSE(ventana.Aceptar("NIVEL 1"));  // its own name by another case is taken too
@@ -119,9 +118,8 @@ TEST_F(Espacio, RenombraEnTodasLasTablas) {
         EXPECT_EQ(ventana.NombreNuevo(), "");
         e.caja.Respuestas = {RespuestaSi};
         EXPECT_TRUE(ventana.Aceptar(" Azotea "));
-        return ventana.NombreNuevo();
     };
-    espacio.Renombrar();
+    espacio.Lista().Renombrar();
     ASSERT_EQ(e.caja.Mensajes.size(), 4U);
     EXPECT_EQ(e.caja.Mensajes[0].Texto, "Nombre: balcon\nEste Nombre ya Existe en las Losas del Proyecto...");
     EXPECT_EQ(e.caja.Mensajes[3].Texto,
@@ -136,109 +134,118 @@ TEST_F(Espacio, RenombraEnTodasLasTablas) {
 }
 
 TEST_F(Espacio, EliminaHastaQueNoQuedaNingunaYLosBotonesCallan) {
-    espacio.Eliminar();
+    espacio.Lista().Eliminar();
     EXPECT_EQ(e.vista.Filas.size(), 2U);
     EXPECT_EQ(e.caja.Mensajes[0].Texto, "Losa: BALCON\n¿Esta Usted Seguro de Eliminar la Losa del Proyecto?");
     EXPECT_EQ(e.caja.Mensajes[0].Encabezado, "Eliminar la Losa...");
-    espacio.Seleccionar(2);
+    espacio.Lista().Seleccionar(2);
     e.caja.Respuestas = {RespuestaSi, RespuestaSi};
-    espacio.Eliminar();
+    espacio.Lista().Eliminar();
     EXPECT_THAT(e.vista.Filas, ElementsAre("BALCON"));
     EXPECT_EQ(e.vista.Encabezado, "LOSA MACIZA: BALCON");
     for (const char* tabla : {"LosaDatos", "LosaTramos", "LosaEjes", "LosaJuntasD"})
         EXPECT_EQ(e.Filas(tabla, "Nivel 1"), 0) << tabla;
-    espacio.Eliminar();
+    espacio.Lista().Eliminar();
     EXPECT_THAT(e.vista.Filas, IsEmpty());
     EXPECT_EQ(e.vista.Encabezado, "");
     EXPECT_TRUE(espacio.Estado().Resultados.DisenoEje.empty());
 
     const std::size_t mensajes = e.caja.Mensajes.size();
-    e.vista.Datos = e.vista.General = e.vista.SalvarComo = [] { ADD_FAILURE(); };
-    e.vista.Renombrar = [](const std::string&) {
+    e.vista.Datos = e.vista.General = e.vista.SalvarComo = [] {
         ADD_FAILURE();
-        return std::string();
+        return false;
     };
+    e.vista.Renombrar = [](Renombrar&) { ADD_FAILURE(); };
     espacio.Modificar();
     espacio.DatosGenerales();
     espacio.CrearDesdeSeleccionada();
-    espacio.Renombrar();
-    espacio.Eliminar();
+    espacio.Lista().Renombrar();
+    espacio.Lista().Eliminar();
     EXPECT_EQ(e.caja.Mensajes.size(), mensajes);
 
     e.vista.Datos = nullptr;
-    e.vista.LosaNueva = [&] { EXPECT_TRUE(Nueva("O'Higgins")); };  // nothing to find its name in
+    e.vista.LosaNueva = [&] { return Nueva("O'Higgins"); };  // nothing to find its name in
     espacio.CrearNueva();
     EXPECT_THAT(e.vista.Filas, ElementsAre("O'Higgins"));
 }
 
 TEST_F(Espacio, UnNombreConComillaRompeSoloSusSentencias) {
-    espacio.Seleccionar(2);
-    e.vista.LosaNueva = [&] { EXPECT_FALSE(Nueva("L'1")); };
+    espacio.Lista().Seleccionar(2);
+    e.vista.LosaNueva = [&] { return Nueva("L'1"); };
     espacio.CrearNueva();
-    e.vista.Renombrar = [](const std::string&) { return "L'1"; };
-    espacio.Renombrar();
+    e.vista.Renombrar = [&](Renombrar& ventana) {
+        e.caja.Respuestas = {RespuestaSi};
+        ventana.Aceptar("L'1");
+    };
+    espacio.Lista().Renombrar();
     EXPECT_THAT(e.vista.Filas, ElementsAre("BALCON", "Nivel 1"));
     EXPECT_EQ(e.Filas("LosaTramos", "Nivel 1"), 3);
 
-    espacio.Cerrar();
+    espacio.Lista().Cerrar();
     const auto otra = e.CrearProyecto("otra.los", {Nombrada(LosaContinua({3, 3}, 200), "L'1"), Maciza()});
     e.aplicacion.ArchivoProyecto = otra;
-    espacio.Abrir();
-    espacio.Seleccionar(2);
+    espacio.Lista().Abrir();
+    espacio.Lista().Seleccionar(2);
     EXPECT_EQ(espacio.Estado().Abierta.Nombre, "L'1");
     EXPECT_EQ(espacio.Estado().Abierta.Tramos.size(), 1U);  // its reading breaks
     e.caja.Respuestas = {RespuestaSi};
-    espacio.Eliminar();
+    espacio.Lista().Eliminar();
     EXPECT_THAT(e.vista.Filas, ElementsAre("BALCON"));
     EXPECT_EQ(e.Guardada("BALCON").Tramos.size(), 2U);
 }
 
 TEST_F(Espacio, UnProyectoQueNoSePuedeEscribirQuedaComoEstaba) {
-    espacio.Seleccionar(2);
+    espacio.Lista().Seleccionar(2);
     const prueba::ProyectoOcupado ocupado(e.aplicacion.ArchivoProyecto);
-    e.vista.LosaNueva = [&] { EXPECT_FALSE(Nueva("Azotea")); };
-    e.vista.SalvarComo = [&] { EXPECT_FALSE(Copia("Azotea")); };
-    e.vista.Renombrar = [](const std::string&) { return "Azotea"; };
+    e.vista.LosaNueva = [&] { return Nueva("Azotea"); };
+    e.vista.SalvarComo = [&] { return Copia("Azotea"); };
+    e.vista.Renombrar = [&](Renombrar& ventana) {
+        e.caja.Respuestas = {RespuestaSi};
+        EXPECT_TRUE(ventana.Aceptar("Azotea"));
+    };
     espacio.CrearNueva();
     e.caja.Respuestas = {RespuestaSi};
     espacio.CrearDesdeSeleccionada();
-    espacio.Renombrar();
+    espacio.Lista().Renombrar();
     e.caja.Respuestas = {RespuestaSi};
-    espacio.Eliminar();
+    espacio.Lista().Eliminar();
     int errores = 0;
     for (const Mensaje& mensaje : e.caja.Mensajes)
         errores += mensaje.Texto.rfind("Error Número: 75", 0) == 0 ? 1 : 0;
     EXPECT_EQ(errores, 4);
     EXPECT_THAT(e.vista.Filas, ElementsAre("BALCON", "Nivel 1"));
-    EXPECT_EQ(espacio.NumeroDeLosas(), 2);
+    EXPECT_EQ(espacio.Lista().NumeroDeElementos(), 2);
     EXPECT_EQ(e.Filas("LosaTramos", "Nivel 1"), 3);
 }
 
 TEST_F(Espacio, LosDatosGeneralesRecalculanSoloSiCambiaron) {
-    e.vista.General = [&] { e.aplicacion.Generales.FCP = 2; };
+    e.vista.General = [&] {
+        e.aplicacion.Generales.FCP = 2;
+        return false;
+    };
     espacio.DatosGenerales();
     const double antes = espacio.Estado().Resultados.MaxCorte;
-    e.vista.General = [&] { e.aplicacion.LosaModificada = true; };
+    e.vista.General = [] { return true; };
     espacio.DatosGenerales();
     EXPECT_GT(espacio.Estado().Resultados.MaxCorte, antes);
-    EXPECT_FALSE(e.aplicacion.LosaModificada);
 }
 
 TEST_F(Espacio, AbreOtroProyectoYUnoQueNoSePuedeLeerCuentaComoVacio) {
     espacio.ElegirOpcionCarga(CargaPorCasos);
-    espacio.AbrirProyecto();  // cancelled
+    espacio.Lista().AbrirProyecto();  // cancelled
     EXPECT_EQ(e.vista.Filas.size(), 2U);
     EXPECT_EQ(e.dialogos.Peticiones[0].Filtro, "Archivos de Proyectos (.los)|*.los");
     e.dialogos.Elegidos = {e.CrearProyecto("otra ñ.los", {Maciza()})};
-    espacio.AbrirProyecto();
+    espacio.Lista().AbrirProyecto();
     EXPECT_EQ(e.vista.Titulo, "Trabex 2024   Proyecto:[OTRA Ñ.LOS]");
     EXPECT_EQ(e.aplicacion.NombreProyecto, "otra ñ.los");
     EXPECT_THAT(e.vista.Filas, ElementsAre("BALCON"));
     EXPECT_EQ(espacio.Estado().Hoja.OpcionCarga, CargaTotal);
+    EXPECT_EQ(e.vista.OpcionCarga, CargaTotal);
 
     prueba::EscribirArchivo(e.carpeta / "roto.los", "no es un proyecto");
     e.dialogos.Elegidos = {e.carpeta / "roto.los"};
-    espacio.AbrirProyecto();
+    espacio.Lista().AbrirProyecto();
     EXPECT_THAT(e.vista.Filas, IsEmpty());
     EXPECT_EQ(e.vista.Encabezado, "");
     EXPECT_THAT(e.vista.Pie, testing::HasSubstr("No se pudo leer"));

@@ -137,7 +137,7 @@ TEST_F(Ventanas, LasCargasRecorrenLosTramosConEnter) {
     EXPECT_EQ(cargas->model()->index(1, 0).data(), "420");
     EXPECT_EQ(cargas->model()->index(1, 1).data(), "120");
     EXPECT_EQ(cargas->model()->index(2, 1).data(), "90");
-    EXPECT_TRUE(e.aplicacion.LosaModificada);
+    EXPECT_TRUE(ventana.LosaModificada());
 }
 
 TEST_F(Ventanas, UnaCargaFueraDeRangoNoSeTomaPorCero) {
@@ -161,11 +161,11 @@ TEST_F(Ventanas, UnaCargaFueraDeRangoNoSeTomaPorCero) {
 }
 
 struct Espacio : Ventanas {
-    Espacio() { e.espacio.Cerrar(); }
+    Espacio() { e.espacio.Lista().Cerrar(); }
 };
 
 TEST_F(Espacio, SeleccionaHojaYCargasYDibujaAlMomento) {
-    VentanaLosas ventana(e.aplicacion, e.caja, e.dialogos, {}, nullptr);
+    VentanaLosas ventana(e.aplicacion, e.servicios, e.memoria, {}, nullptr);
     ventana.show();
     auto* lista = ventana.findChild<QListWidget*>("Lista");
     auto* encabezado = ventana.findChild<QLabel*>("Encabezado");
@@ -191,11 +191,11 @@ TEST_F(Espacio, SeleccionaHojaYCargasYDibujaAlMomento) {
 
 TEST_F(Espacio, LosMandosDeOtrasPartesSeEnchufanYPidenUnaLosa) {
     int veces = 0;
-    const EnchufesLosas enchufes{{"ID_Exportar", [&](Losas& losas, QWidget&) {
-                                      ++veces;
-                                      EXPECT_EQ(losas.NumeroDeLosas(), 2);
-                                  }}};
-    VentanaLosas ventana(e.aplicacion, e.caja, e.dialogos, enchufes, nullptr);
+    const OperacionesDeLosas otras{{"ID_Exportar", [&](Losas& losas, QWidget&) {
+                                        ++veces;
+                                        EXPECT_EQ(losas.Lista().NumeroDeElementos(), 2);
+                                    }}};
+    VentanaLosas ventana(e.aplicacion, e.servicios, e.memoria, otras, nullptr);
     EXPECT_FALSE(ventana.Accion("ID_Planex")->isEnabled());
     ventana.Accion("ID_Exportar")->trigger();
     EXPECT_EQ(veces, 1);
@@ -208,7 +208,7 @@ TEST_F(Espacio, LosMandosDeOtrasPartesSeEnchufanYPidenUnaLosa) {
 }
 
 TEST_F(Espacio, CreaConElDeslizadorDeNombresYRenombra) {
-    VentanaLosas ventana(e.aplicacion, e.caja, e.dialogos, {}, nullptr);
+    VentanaLosas ventana(e.aplicacion, e.servicios, e.memoria, {}, nullptr);
     ventana.show();
     auto* lista = ventana.findChild<QListWidget*>("Lista");
     EnLaVentana([&](QWidget& nueva) {

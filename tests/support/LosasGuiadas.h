@@ -20,32 +20,29 @@ using namespace losas::ui;
 using namespace programa;
 
 /// The workspace's window as a record of what was shown; modal windows are functions of the test.
-struct VistaLosasGuiada : VistaLosas {
+struct VistaLosasGuiada : VistaEspacio, VistaLosas {
     void PonerTitulo(const std::string& titulo) override { Titulo = titulo; }
     void PonerEstado(const std::string& texto) override { Pie = texto; }
     void PonerEncabezado(const std::string& texto) override { Encabezado = texto; }
     void LlenarLista(const std::vector<std::string>& nombres) override { Filas = nombres; }
-    void AgregarFila(const std::string& nombre) override { Filas.push_back(nombre); }
-    void QuitarFila(int fila) override { Filas.erase(Filas.begin() + fila - 1); }
     void MarcarFila(int fila) override { Marcada = fila; }
     void RestablecerVista() override { ++Restablecida; }
     void Redibujar() override { ++Dibujos; }
-    void MostrarLosaNueva() override { Llamar(LosaNueva); }
-    void MostrarLosaSalvarComo() override { Llamar(SalvarComo); }
-    void MostrarLosaDatos() override { Llamar(Datos); }
-    void MostrarLosaGeneral() override { Llamar(General); }
-    std::string MostrarRenombrar(const std::string& actual) override {
-        return Renombrar ? Renombrar(actual) : std::string();
+    void MarcarOpcionCarga(dibujo::losa::OpcionDeCarga opcion) override { OpcionCarga = opcion; }
+    bool MostrarLosaNueva() override { return LosaNueva && LosaNueva(); }
+    bool MostrarLosaSalvarComo() override { return SalvarComo && SalvarComo(); }
+    bool MostrarLosaDatos() override { return Datos && Datos(); }
+    bool MostrarLosaGeneral() override { return General && General(); }
+    void MostrarRenombrar(programa::Renombrar& operaciones) override {
+        if (Renombrar) Renombrar(operaciones);
     }
 
-    static void Llamar(const std::function<void()>& ventana) {
-        if (ventana) ventana();
-    }
     std::string Titulo, Pie, Encabezado;
     std::vector<std::string> Filas;
     int Marcada = 0, Restablecida = 0, Dibujos = 0;
-    std::function<void()> LosaNueva, SalvarComo, Datos, General;
-    std::function<std::string(const std::string&)> Renombrar;
+    dibujo::losa::OpcionDeCarga OpcionCarga = dibujo::losa::CargaPorCasos;
+    std::function<bool()> LosaNueva, SalvarComo, Datos, General;
+    std::function<void(programa::Renombrar&)> Renombrar;
 };
 
 struct VistaLosaDatosGuiada : VistaLosaDatos {
@@ -57,10 +54,8 @@ struct VistaLosaDatosGuiada : VistaLosaDatos {
     void EnfocarCampo(CampoSeccion campo) override { Enfocado = campo; }
     std::size_t FilaDeApoyo() const override { return Apoyo; }
     void IrAFilaDeApoyo(std::size_t fila) override { Apoyo = fila; }
-    void MostrarCarga01(const EntradaDeCarga& entrada) override {
-        if (Carga) Carga(entrada);
-    }
-    void MostrarCarga02(const EntradaDeCarga& entrada) override { MostrarCarga01(entrada); }
+    bool MostrarCarga01(const EntradaDeCarga& entrada) override { return Carga && Carga(entrada); }
+    bool MostrarCarga02(const EntradaDeCarga& entrada) override { return MostrarCarga01(entrada); }
     void Cerrar() override { Cerrada = true; }
 
     PaginaLosa EnPagina = PaginaLosa::Cargas;
@@ -68,7 +63,7 @@ struct VistaLosaDatosGuiada : VistaLosaDatos {
     std::size_t Apoyo = 1;
     int Rellenos = 0, Refrescos = 0;
     bool Cerrada = false;
-    std::function<void(const EntradaDeCarga&)> Carga;
+    std::function<bool(const EntradaDeCarga&)> Carga;
 };
 
 /// A project on disk with the given slabs, and the workspace open on it.
@@ -78,7 +73,7 @@ class EspacioDePrueba {
         aplicacion.CaminoUsuario = carpeta.Camino();
         aplicacion.ArchivoProyecto = CrearProyecto("obra.los", losas);
         aplicacion.NombreProyecto = "obra.los";
-        espacio.Abrir();
+        espacio.Lista().Abrir();
     }
     std::filesystem::path CrearProyecto(const std::string& nombre, const std::vector<Losa>& losas) const {
         const auto archivo = carpeta / nombre;
@@ -111,8 +106,11 @@ class EspacioDePrueba {
     Aplicacion aplicacion;
     CajaGuiada caja;
     DialogosGuiados dialogos;
+    PlataformaGuiada plataforma{carpeta.Camino()};
+    Servicios servicios{caja, dialogos, plataforma};
+    MemoriaLosas memoria;
     VistaLosasGuiada vista;
-    Losas espacio{aplicacion, vista, caja, dialogos};
+    Losas espacio{aplicacion, servicios, vista, vista, memoria};
 };
 
 inline Losa Nombrada(Losa losa, const std::string& nombre) {

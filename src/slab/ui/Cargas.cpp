@@ -10,9 +10,7 @@ CargaDeTramos::CargaDeTramos(const EntradaDeCarga& entrada, programa::CajaMensaj
     : entrada_(entrada),
       caja_(caja),
       copia_(entrada.Edicion.Tramos),
-      tramo_(std::min(entrada.Tramo, copia_.size() - 1)) {
-    entrada_.LosaModificada = false;
-}
+      tramo_(std::min(entrada.Tramo, copia_.size() - 1)) {}
 
 void CargaDeTramos::MoverA(std::size_t tramo) {
     if (tramo >= 1 && tramo < copia_.size()) tramo_ = tramo;
@@ -28,13 +26,13 @@ std::string CargaDeTramos::Marco() const {
 
 void CargaDeTramos::Fijar() {
     for (std::size_t i = 1; i < copia_.size(); ++i) CopiarCarga(copia_[i], entrada_.Edicion.Tramos[i]);
-    entrada_.LosaModificada = true;
+    modificada_ = true;
 }
 
 bool CargaDeTramos::Igualar() {
     if (caja_.Mostrar(PreguntaIgualar()) != programa::RespuestaSi) return false;
     for (std::size_t i = 1; i < copia_.size(); ++i) CopiarCarga(Actual(), entrada_.Edicion.Tramos[i]);
-    entrada_.LosaModificada = true;
+    modificada_ = true;
     return true;
 }
 

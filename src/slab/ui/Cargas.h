@@ -9,12 +9,9 @@
 
 namespace trabex::losas::ui {
 
-/// What a load window works on: the editing copy of the data window, the span in hand and the flag that
-/// tells the data window that loads changed. Opening a load window clears the flag, also where a save had
-/// just set it.
+/// What a load window works on: the editing copy of the data window and the span in hand.
 struct EntradaDeCarga {
     Losa& Edicion;
-    bool& LosaModificada;
     std::size_t Tramo;
 };
 
@@ -39,6 +36,8 @@ class CargaDeTramos {
     void Fijar();
     /// "Igualar": asks, and gives all spans the loads on show. True when the window closes.
     bool Igualar();
+    /// Loads went to the editing copy.
+    bool LosaModificada() const { return modificada_; }
 
   protected:
     CargaDeTramos(const EntradaDeCarga& entrada, programa::CajaMensajes& caja);
@@ -54,6 +53,7 @@ class CargaDeTramos {
     programa::CajaMensajes& caja_;
     std::vector<Tramo> copia_;
     std::size_t tramo_;
+    bool modificada_ = false;
 };
 
 /// Uniform loads, kgf/m.

@@ -31,7 +31,7 @@ LosaDatos::LosaDatos(Losas& losas, VistaLosaDatos& vista, programa::CajaMensajes
     : losas_(losas), vista_(vista), caja_(caja) {}
 
 void LosaDatos::Abrir() {
-    losas_.Programa().LosaModificada = false;
+    modificada_ = false;
     edicion_ = losas_.Estado().Abierta;
     edicion_.Ejes.resize(edicion_.Tramos.size() + 1);  // one joint more than spans, whatever the file held
     tramo_ = std::min<std::size_t>(1, NumeroDeTramos());
@@ -148,11 +148,10 @@ void LosaDatos::MoverATramo(std::size_t tramo) {
     vista_.Redibujar();
 }
 
-void LosaDatos::AbrirCarga(void (VistaLosaDatos::*mostrar)(const EntradaDeCarga&)) {
+void LosaDatos::AbrirCarga(bool (VistaLosaDatos::*mostrar)(const EntradaDeCarga&)) {
     if (tramo_ == 0) return;
-    bool& modificada = losas_.Programa().LosaModificada;
-    (vista_.*mostrar)({edicion_, modificada, tramo_});
-    if (modificada) cambios_ = true;
+    modificada_ = (vista_.*mostrar)({edicion_, tramo_});
+    if (modificada_) cambios_ = true;
     vista_.Refrescar();
 }
 
@@ -177,10 +176,9 @@ bool LosaDatos::Salvar() {
 }
 
 bool LosaDatos::SalvarDatos() {
-    programa::Aplicacion& aplicacion = losas_.Programa();
     Losa guardada = edicion_;
     guardada.Bm = 1;
-    if (!almacen::tablas::GuardarLosa(aplicacion.Proyecto, guardada)) {
+    if (!almacen::tablas::GuardarLosa(losas_.Programa().Proyecto, guardada)) {
         caja_.Mostrar(programa::MensajeSinGuardar());
         return false;
     }
@@ -189,9 +187,8 @@ bool LosaDatos::SalvarDatos() {
         edicion_ = guardada;
         vista_.Rellenar();
     }
-    aplicacion.UltimoHo = guardada.Ho;
-    aplicacion.UltimoHm = guardada.Hm;
-    aplicacion.LosaModificada = true;
+    losas_.Memoria() = {guardada.Ho, guardada.Hm};
+    modificada_ = true;
     cambios_ = false;
     return true;
 }
@@ -216,10 +213,10 @@ void LosaDatos::Retorno() {
 
 bool LosaDatos::ElegirLosa(int fila) {
     if (!SalvarSiSePide(edicion_.Nombre)) return false;
-    const bool modificada = losas_.Programa().LosaModificada;
-    losas_.Seleccionar(fila);
+    const bool modificada = modificada_;
+    losas_.Lista().Seleccionar(fila);
     Abrir();
-    losas_.Programa().LosaModificada = modificada;
+    modificada_ = modificada;
     return true;
 }
 

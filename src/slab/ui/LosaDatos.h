@@ -29,8 +29,9 @@ class VistaLosaDatos {
     /// Current row of the support table, from 1.
     virtual std::size_t FilaDeApoyo() const = 0;
     virtual void IrAFilaDeApoyo(std::size_t fila) = 0;
-    virtual void MostrarCarga01(const EntradaDeCarga& entrada) = 0;
-    virtual void MostrarCarga02(const EntradaDeCarga& entrada) = 0;
+    /// Load windows, each modal; true when loads changed.
+    virtual bool MostrarCarga01(const EntradaDeCarga& entrada) = 0;
+    virtual bool MostrarCarga02(const EntradaDeCarga& entrada) = 0;
     virtual void Cerrar() = 0;
 };
 
@@ -45,7 +46,9 @@ class LosaDatos {
     const Losa& Edicion() const { return edicion_; }
     std::size_t NumeroDeTramos() const { return edicion_.Tramos.size() - 1; }
     std::size_t NumeroDeJuntasD() const { return edicion_.JuntasD.size() - 1; }
-    bool HayCambios() const { return cambios_; }
+    /// What the window tells when it closes: something was saved, so the slab is to be calculated again. A
+    /// load window that was opened after the save and changed nothing takes it back.
+    bool LosaModificada() const { return modificada_; }
 
     std::string Titulo() const { return "Datos Generales Losa: " + edicion_.Nombre; }
     std::string LeyendaDeCargas() const;
@@ -90,13 +93,14 @@ class LosaDatos {
     bool SalvarDatos();
     bool ConCeros();
     void Cambiado();
-    void AbrirCarga(void (VistaLosaDatos::*mostrar)(const EntradaDeCarga&));
+    void AbrirCarga(bool (VistaLosaDatos::*mostrar)(const EntradaDeCarga&));
 
     Losas& losas_;
     VistaLosaDatos& vista_;
     programa::CajaMensajes& caja_;
     Losa edicion_;
-    bool cambios_ = false;
+    bool cambios_ = false;  // not saved yet
+    bool modificada_ = false;
     std::size_t tramo_ = 0;
 };
 

@@ -7,17 +7,16 @@
 namespace trabex::losas::ui {
 
 /// Operations of the window that names a new slab. While the name is typed, a scroller walks the slabs that
-/// exist by `Losas::Seleccionar`.
+/// exist by `ListaElementos::Seleccionar`.
 class LosaNueva {
   public:
-    LosaNueva(Losas& losas, programa::CajaMensajes& caja) : losas_(losas), caja_(caja) {}
+    explicit LosaNueva(Losas& losas) : losas_(losas) {}
     /// " Aceptar ": adds the slab, without spans, at the list's end, and makes it the open one. True when the
     /// window closes; an empty name, one that exists, or a project that can't be written keep it open.
     bool Aceptar(const std::string& entrado);
 
   private:
     Losas& losas_;
-    programa::CajaMensajes& caja_;
 };
 
 /// Operations of the window that names a copy of the selected slab.
@@ -28,8 +27,6 @@ class LosaSalvarComo {
     bool Aceptar(const std::string& entrado);
 
   private:
-    bool Copiar(const std::string& nombre);
-
     Losas& losas_;
     programa::CajaMensajes& caja_;
 };

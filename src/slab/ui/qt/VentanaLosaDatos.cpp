@@ -436,8 +436,8 @@ void VentanaLosaDatos::Rellenar() {
     rellenando_ = true;
     setWindowTitle(programa::qt::Q(operaciones_.Titulo()));
     selector_->clear();
-    for (const std::string& nombre : losas_.Nombres()) selector_->addItem(programa::qt::Q(nombre));
-    selector_->setCurrentIndex(losas_.Fila() - 1);
+    for (const std::string& nombre : losas_.Lista().Nombres()) selector_->addItem(programa::qt::Q(nombre));
+    selector_->setCurrentIndex(losas_.Lista().Fila() - 1);
     (operaciones_.Edicion().OpcionMaciza ? maciza_ : nervada_)->setChecked(true);
     for (const RotuloDeCampo& rotulo : CamposDeSeccion)
         seccion_[static_cast<std::size_t>(rotulo.Campo)]->PonerValor(operaciones_.Seccion(rotulo.Campo));
@@ -537,16 +537,18 @@ void VentanaLosaDatos::PonerNumeroJuntasD(int juntas) {
     Redibujar();
 }
 
-void VentanaLosaDatos::MostrarCarga01(const EntradaDeCarga& entrada) {
+bool VentanaLosaDatos::MostrarCarga01(const EntradaDeCarga& entrada) {
     Carga01 operaciones(entrada, caja_);
     VentanaCarga01 ventana(operaciones, numeros_, losas_.Programa().Preferencias, this);
     programa::qt::MostrarModal(ventana);
+    return operaciones.LosaModificada();
 }
 
-void VentanaLosaDatos::MostrarCarga02(const EntradaDeCarga& entrada) {
+bool VentanaLosaDatos::MostrarCarga02(const EntradaDeCarga& entrada) {
     Carga02 operaciones(entrada, caja_);
     VentanaCarga02 ventana(operaciones, numeros_, losas_.Programa().Preferencias, this);
     programa::qt::MostrarModal(ventana);
+    return operaciones.LosaModificada();
 }
 
 void VentanaLosaDatos::TerminarEdiciones() {
@@ -562,8 +564,8 @@ void VentanaLosaDatos::Salvar() {
 
 void VentanaLosaDatos::ElegirLosa(int lugar) {
     TerminarEdiciones();
-    if (lugar + 1 == losas_.Fila()) return;
-    if (!operaciones_.ElegirLosa(lugar + 1)) selector_->setCurrentIndex(losas_.Fila() - 1);
+    if (lugar + 1 == losas_.Lista().Fila()) return;
+    if (!operaciones_.ElegirLosa(lugar + 1)) selector_->setCurrentIndex(losas_.Lista().Fila() - 1);
 }
 
 void VentanaLosaDatos::Cerrar() {

@@ -37,9 +37,12 @@ class VentanaLosaDatos : public QDialog, public VistaLosaDatos {
     void EnfocarCampo(CampoSeccion campo) override;
     std::size_t FilaDeApoyo() const override;
     void IrAFilaDeApoyo(std::size_t fila) override;
-    void MostrarCarga01(const EntradaDeCarga& entrada) override;
-    void MostrarCarga02(const EntradaDeCarga& entrada) override;
+    bool MostrarCarga01(const EntradaDeCarga& entrada) override;
+    bool MostrarCarga02(const EntradaDeCarga& entrada) override;
     void Cerrar() override;
+
+    /// Something was saved while the window was up.
+    bool LosaModificada() const { return operaciones_.LosaModificada(); }
 
     /// Escape and the window's cross.
     void reject() override;

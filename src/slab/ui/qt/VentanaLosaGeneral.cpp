@@ -94,7 +94,6 @@ void VentanaLosaGeneral::Aceptar() {
         return;
     }
     if (!operaciones_.Aceptar(entrados)) caja_.Mostrar(programa::MensajeSinGuardar());
-    aplicacion_.LosaModificada = true;
     accept();
 }
 

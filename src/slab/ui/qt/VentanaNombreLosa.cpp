@@ -45,13 +45,13 @@ QLayout* VentanaNombreLosa::FilaDeExistentes() {
     existente_->setMargin(4);
     existente_->setMinimumHeight(44);
     deslizador_ = new QScrollBar(Qt::Vertical, this);
-    deslizador_->setRange(1, std::max(1, losas_.NumeroDeLosas()));
+    deslizador_->setRange(1, std::max(1, losas_.Lista().NumeroDeElementos()));
     deslizador_->setPageStep(1);
-    deslizador_->setEnabled(losas_.NumeroDeLosas() > 0);
-    deslizador_->setValue(losas_.Fila());
+    deslizador_->setEnabled(losas_.Lista().NumeroDeElementos() > 0);
+    deslizador_->setValue(losas_.Lista().Fila());
     deslizador_->setMaximumHeight(44);
     connect(deslizador_, &QScrollBar::valueChanged, this, [this](int fila) {
-        losas_.Seleccionar(fila);
+        losas_.Lista().Seleccionar(fila);
         MostrarExistente();
     });
     MostrarExistente();

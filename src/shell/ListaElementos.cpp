@@ -1,0 +1,151 @@
+#include "shell/ListaElementos.h"
+
+#include "base/Archivos.h"
+#include "base/Texto.h"
+
+namespace trabex::programa {
+
+namespace {
+
+std::string Con(const TextoDeElemento& texto, const std::string& nombre) {
+    return std::string(texto.Antes) + nombre + "\n" + std::string(texto.Despues);
+}
+
+}  // namespace
+
+ListaElementos::ListaElementos(Aplicacion& aplicacion, const Servicios& servicios, VistaEspacio& vista,
+                               const ClaseDeElemento& clase, ElementoDeLista& elemento)
+    : aplicacion_(aplicacion), servicios_(servicios), vista_(vista), clase_(clase), elemento_(elemento) {}
+
+void ListaElementos::Abrir() {
+    cargando_ = true;
+    Conectar();
+    cargando_ = false;
+    Redibujar();
+}
+
+void ListaElementos::Cerrar() {
+    aplicacion_.Proyecto.RegistrosProyecto.Cerrar();
+    aplicacion_.Proyecto.ConexionProyecto.Cerrar();
+}
+
+void ListaElementos::AbrirProyecto() {
+    const auto archivo =
+        servicios_.Dialogos.Elegir({"Abrir un Proyecto Existente", "Archivos de Proyectos (.los)|*.los",
+                                    aplicacion_.CaminoUsuario / "Proyectos", false, false, true});
+    if (!archivo) return;
+    aplicacion_.ArchivoProyecto = *archivo;
+    aplicacion_.NombreProyecto = TextoDeCamino(archivo->filename());
+    Conectar();
+}
+
+void ListaElementos::Conectar() {
+    almacen::Conexion& conexion = aplicacion_.Proyecto.ConexionProyecto;
+    almacen::AbrirConexion(conexion, aplicacion_.ArchivoProyecto);
+    elemento_.AlConectar();
+    AbrirLista();
+    vista_.RestablecerVista();
+    MostrarPrimera();
+    const std::string camino = TextoDeCamino(aplicacion_.ArchivoProyecto);
+    vista_.PonerEstado(conexion.ConexionFallida() ? "No se pudo leer el proyecto: " + camino : camino);
+    vista_.PonerTitulo(TituloConProyecto(Mayusculas(aplicacion_.NombreProyecto)));
+}
+
+void ListaElementos::AbrirLista() {
+    almacen::AbrirRecordset(aplicacion_.Proyecto.ConexionProyecto, Lista(), clase_.Consulta);
+    vista_.LlenarLista(Nombres());
+}
+
+std::vector<std::string> ListaElementos::Nombres() {
+    almacen::Recordset& lista = Lista();
+    const int donde = lista.Posicion();
+    std::vector<std::string> nombres;
+    for (int fila = 1; fila <= lista.NumeroRegistros(); ++fila) {
+        lista.MoverA(fila);
+        nombres.push_back(lista.Texto("Nombre"));
+    }
+    lista.MoverA(donde);
+    return nombres;
+}
+
+void ListaElementos::MostrarPrimera() {
+    if (!Vacia()) return Seleccionar(1);
+    vista_.PonerEncabezado("");
+    elemento_.AlVaciar();
+}
+
+void ListaElementos::Seleccionar(int fila) {
+    if (fila < 1 || fila > NumeroDeElementos()) return;
+    Lista().MoverA(fila);
+    vista_.MarcarFila(fila);
+    elemento_.AlSeleccionar();
+}
+
+void ListaElementos::Redibujar() {
+    if (!cargando_) vista_.Redibujar();
+}
+
+void ListaElementos::Crear(const std::function<bool()>& nombrar) {
+    if (!nombrar()) return;
+    Lista().MoverAlUltimo();
+    vista_.LlenarLista(Nombres());
+    vista_.MarcarFila(Fila());
+    elemento_.AlAgregar();
+}
+
+void ListaElementos::Copiar(const std::function<bool()>& nombrar) {
+    if (!Vacia()) Crear(nombrar);
+}
+
+bool ListaElementos::VerifiqueNombre(const std::string& nombre) {
+    if (!ExisteNombre(aplicacion_.Proyecto.ConexionProyecto, clase_.Tablas.Lista, nombre)) return true;
+    servicios_.Caja.Mostrar(Aviso(Con(clase_.YaExiste, nombre), std::string(clase_.YaExiste.Encabezado)));
+    return false;
+}
+
+bool ListaElementos::Agregar(const std::string& nombre,
+                             const std::function<void(almacen::Recordset&)>& columnas,
+                             const std::function<void(almacen::Conexion&)>& hijas) {
+    almacen::Transaccion guardado(aplicacion_.Proyecto.ConexionProyecto);
+    Lista().AgregarNuevo();
+    Lista().Poner("Nombre", nombre);
+    columnas(Lista());
+    Lista().Actualizar();  // what the columns refuse spoils the save
+    if (hijas) hijas(aplicacion_.Proyecto.ConexionProyecto);
+    if (guardado.Confirmar()) return true;
+    servicios_.Caja.Mostrar(MensajeSinGuardar());
+    return false;
+}
+
+void ListaElementos::Renombrar() {
+    if (Vacia()) return;
+    almacen::Conexion& conexion = aplicacion_.Proyecto.ConexionProyecto;
+    const std::string actual = Lista().Texto("Nombre");
+    programa::Renombrar operaciones(conexion, servicios_.Caja, clase_.Tablas.Lista, clase_.Renombrar, actual);
+    vista_.MostrarRenombrar(operaciones);
+    const std::string& nuevo = operaciones.NombreNuevo();
+    if (nuevo.empty()) return;
+    if (!almacen::RenombrarElemento(conexion, clase_.Tablas, actual, nuevo)) {
+        servicios_.Caja.Mostrar(MensajeSinGuardar());
+        return;
+    }
+    AbrirLista();
+    almacen::BuscarRegistro(Lista(), "Nombre=" + almacen::EntreComillas(nuevo));
+    if (!Lista().Encontrado()) Lista().MoverAlPrimero();
+    Seleccionar(Fila());
+}
+
+void ListaElementos::Eliminar() {
+    if (Vacia()) return;
+    const std::string pregunta = Con(clase_.Eliminar, Lista().Texto("Nombre"));
+    if (servicios_.Caja.Mostrar(Pregunta(pregunta, std::string(clase_.Eliminar.Encabezado))) != RespuestaSi)
+        return;
+    if (!almacen::BorrarElemento(aplicacion_.Proyecto.ConexionProyecto, clase_.Tablas, Lista())) {
+        servicios_.Caja.Mostrar(MensajeSinGuardar());
+        return;
+    }
+    vista_.LlenarLista(Nombres());
+    MostrarPrimera();
+}
+
+}  // namespace trabex::programa

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "shell/CajaMensajes.h"
+#include "shell/DialogosArchivo.h"
+#include "shell/Plataforma.h"
+
+namespace trabex::programa {
+
+/// What every window asks of the world around it.
+struct Servicios {
+    CajaMensajes& Caja;
+    DialogosArchivo& Dialogos;
+    Plataforma& Sistema;
+};
+
+}  // namespace trabex::programa

@@ -1,0 +1,319 @@
+#include "shell/qt/VentanaEspacio.h"
+
+#include <QAction>
+#include <QFont>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSettings>
+#include <QSignalBlocker>
+#include <QSplitter>
+#include <QTabBar>
+#include <QToolBar>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "drawing/qt/WidgetLienzo.h"
+#include "shell/qt/ComunVentanas.h"
+#include "shell/qt/Iconos.h"
+#include "shell/qt/VentanaRenombrar.h"
+
+namespace trabex::programa::qt {
+
+namespace {
+
+constexpr QSize TamanoDeEspacio(1100, 700);
+constexpr int AnchoDeLista = 230;
+
+QString Texto(std::string_view texto) {
+    return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
+}
+
+QLabel* LineaDeTexto(const char* nombre, QWidget* padre) {
+    auto* linea = new QLabel(padre);
+    linea->setObjectName(nombre);
+    linea->setTextFormat(Qt::PlainText);
+    linea->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    return linea;
+}
+
+/// Gives each entry of a menu a letter of its own.
+void PonerMnemonicos(const QMenu& menu) {
+    QString usadas;
+    for (QAction* accion : menu.actions()) {
+        const QString texto = accion->text();
+        const auto libre = std::find_if(texto.begin(), texto.end(), [&](QChar letra) {
+            return letra.isLetter() && !usadas.contains(letra, Qt::CaseInsensitive);
+        });
+        if (libre == texto.end()) continue;
+        usadas += *libre;
+        accion->setText(QString(texto).insert(libre - texto.begin(), '&'));
+    }
+}
+
+}  // namespace
+
+VentanaEspacio::VentanaEspacio(const Tapiz& preferencias, QWidget* padre)
+    : QDialog(padre), preferencias_(preferencias) {
+    setWindowFlags(windowFlags() | Qt::WindowMinMaxButtonsHint);
+}
+
+void VentanaEspacio::Armar(const DatosDeEspacio& datos) {
+    setObjectName(datos.Nombre);
+    operaciones_ = &datos.Lista;
+    auto* partes = Partes(datos);
+    pie_ = LineaDeTexto("Pie", this);
+    CrearAcciones(datos);
+    CrearMenusDeContexto();
+    auto* columna = new QVBoxLayout(this);
+    columna->setContentsMargins(6, 4, 6, 4);
+    columna->setSpacing(4);
+    columna->setMenuBar(BarraDeMenus(datos));
+    columna->addWidget(BarraDeMandos());
+    columna->addWidget(partes, 1);
+    columna->addWidget(pie_);
+    TamanoInicial(this, TamanoDeEspacio);
+    datos.Lista.Abrir();
+    PrepararVentana(this, preferencias_);
+    lista_->setFocus();
+}
+
+QSplitter* VentanaEspacio::Partes(const DatosDeEspacio& datos) {
+    partes_ = new QSplitter(Qt::Horizontal, this);
+    partes_->addWidget(PanelDeLista(datos));
+    partes_->addWidget(PanelDeHojas(datos));
+    partes_->setStretchFactor(1, 1);
+    partes_->setChildrenCollapsible(false);
+    partes_->setSizes({AnchoDeLista, TamanoDeEspacio.width() - AnchoDeLista});
+    partes_->restoreState(QSettings().value("partes/" + objectName()).toByteArray());
+    return partes_;
+}
+
+void VentanaEspacio::CrearAcciones(const DatosDeEspacio& datos) {
+    comandos_.assign(datos.Comandos.begin(), datos.Comandos.end());
+    comandos_.insert(comandos_.end(), ComandosDeVista.begin(), ComandosDeVista.end());
+    for (const ComandoEspacio& comando : comandos_) CrearAccion(comando, datos);
+    ConectarVista();
+    Accion("ID_Cuadricula")->setChecked(datos.Vista.CuadriculaVisible);
+    PonerAtajos();
+}
+
+void VentanaEspacio::CrearAccion(const ComandoEspacio& comando, const DatosDeEspacio& datos) {
+    const std::map<std::string_view, std::function<void()>> deLista{
+        {"ID_Abrir", [this] { operaciones_->AbrirProyecto(); }},
+        {"ID_Renombrar", [this] { operaciones_->Renombrar(); }},
+        {"ID_Eliminar", [this] { operaciones_->Eliminar(); }},
+    };
+    auto* accion = new QAction(Icono(Texto(comando.Icono)), Texto(comando.Nombre).trimmed(), this);
+    accion->setObjectName(Texto(comando.Clave));
+    accion->setToolTip(TextoDeAyuda(Texto(comando.Titulo), Texto(comando.Ayuda)));
+    acciones_[comando.Clave] = accion;
+    if (comando.Grupo == GrupoComandos::Vista) return;
+    if (const auto comun = deLista.find(comando.Clave); comun != deLista.end()) {
+        connect(accion, &QAction::triggered, this, comun->second);
+    } else if (const auto propia = datos.Operaciones.find(comando.Clave); propia != datos.Operaciones.end()) {
+        connect(accion, &QAction::triggered, this, propia->second);
+    } else {
+        accion->setEnabled(false);
+        accion->setToolTip(accion->toolTip() + "<br>(no disponible en esta edición)");
+        accion->setData("sin operacion");
+    }
+}
+
+void VentanaEspacio::ConectarVista() {
+    dibujo::Visor& visor = lienzo_->Comandos();
+    const std::map<std::string_view, std::function<void(bool)>> operaciones{
+        {"ID_ZoomIN", [&visor](bool) { visor.EjecuteZoomIn(); }},
+        {"ID_ZoomOut", [&visor](bool) { visor.EjecuteZoomOut(); }},
+        {"ID_ZoomExtents", [&visor](bool) { visor.EjecuteZoomExtents(); }},
+        {"ID_PanRealtime", [&visor](bool activo) { visor.EjecutePanRealtime(activo); }},
+        {"ID_Cuadricula", [&visor](bool activo) { visor.CuadriculaFondo(activo); }},
+        {"ID_Plotear", [&visor](bool) { visor.EjecutePlotear(); }},
+    };
+    for (const auto& [clave, operacion] : operaciones)
+        connect(Accion(clave), &QAction::triggered, this, operacion);
+    for (const char* clave : {"ID_PanRealtime", "ID_Cuadricula"}) Accion(clave)->setCheckable(true);
+    lienzo_->AlSoltarPan([this] { Accion("ID_PanRealtime")->setChecked(false); });
+}
+
+void VentanaEspacio::PonerAtajos() {
+    struct Atajo {
+        std::string_view Clave;
+        QKeySequence Tecla;
+        bool SoloEnLaLista;
+    };
+    const std::array<Atajo, 5> atajos{{{"ID_Abrir", QKeySequence::Open, false},
+                                       {"ID_Nueva", QKeySequence::New, false},
+                                       {"ID_Renombrar", Qt::Key_F2, true},
+                                       {"ID_Eliminar", QKeySequence::Delete, true},
+                                       {"ID_Copiar", QKeySequence::Copy, true}}};
+    for (const Atajo& atajo : atajos) {
+        const auto hallada = acciones_.find(atajo.Clave);
+        if (hallada == acciones_.end()) continue;
+        hallada->second->setShortcut(atajo.Tecla);
+        if (!atajo.SoloEnLaLista) continue;
+        hallada->second->setShortcutContext(Qt::WidgetShortcut);
+        lista_->addAction(hallada->second);
+    }
+}
+
+void VentanaEspacio::AgregarComandos(QWidget& destino, GrupoComandos grupo) const {
+    for (const ComandoEspacio& comando : comandos_) {
+        if (comando.Grupo == grupo) destino.addAction(Accion(comando.Clave));
+    }
+}
+
+QMenuBar* VentanaEspacio::BarraDeMenus(const DatosDeEspacio& datos) {
+    auto* barra = new QMenuBar(this);
+    const std::array<std::pair<GrupoComandos, const char*>, 4> menus{
+        {{GrupoComandos::Proyecto, "&Proyecto"},
+         {GrupoComandos::Elemento, datos.MenuElemento},
+         {GrupoComandos::Salida, "&Salida"},
+         {GrupoComandos::Vista, "&Vista"}}};
+    for (const auto& [grupo, titulo] : menus) {
+        QMenu* menu = barra->addMenu(titulo);
+        AgregarComandos(*menu, grupo);
+        if (grupo == GrupoComandos::Proyecto) {
+            menu->addSeparator();
+            menu->addAction(Icono("salida"), "Retorno", this, &QDialog::accept);
+        }
+        PonerMnemonicos(*menu);
+    }
+    return barra;
+}
+
+QWidget* VentanaEspacio::BarraDeMandos() {
+    auto* barra = new QToolBar(this);
+    barra->setIconSize({24, 24});
+    for (const GrupoComandos grupo :
+         {GrupoComandos::Proyecto, GrupoComandos::Elemento, GrupoComandos::Salida, GrupoComandos::Vista}) {
+        if (grupo != GrupoComandos::Proyecto) barra->addSeparator();
+        AgregarComandos(*barra, grupo);
+    }
+    auto* hueco = new QWidget(barra);
+    hueco->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    barra->addWidget(hueco);
+    auto* retorno = Boton(" &Retorno ", "salida", barra);
+    retorno->setAutoDefault(false);
+    PonerAyuda(retorno, "Retorno", "Volver al menú principal. ");
+    connect(retorno, &QPushButton::clicked, this, &QDialog::accept);
+    barra->addWidget(retorno);
+    return barra;
+}
+
+void VentanaEspacio::CrearMenusDeContexto() {
+    auto* pantalla = new QMenu(this);
+    pantalla->setObjectName("ID_Pantalla");
+    AgregarComandos(*pantalla, GrupoComandos::Vista);
+    lienzo_->PonerMenuPantalla(pantalla);
+    auto* deLista = new QMenu(lista_);
+    AgregarComandos(*deLista, GrupoComandos::Elemento);
+    lista_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(lista_, &QWidget::customContextMenuRequested, this,
+            [this, deLista](const QPoint& lugar) { deLista->popup(lista_->mapToGlobal(lugar)); });
+}
+
+QWidget* VentanaEspacio::PanelDeLista(const DatosDeEspacio& datos) {
+    auto* panel = new QWidget(this);
+    auto* titulo = new QLabel(datos.RotuloLista, panel);
+    lista_ = new QListWidget(panel);
+    lista_->setObjectName("Lista");
+    lista_->setAlternatingRowColors(true);
+    lista_->setSpacing(1);
+    titulo->setBuddy(lista_);
+    connect(lista_, &QListWidget::currentRowChanged, this,
+            [this](int fila) { operaciones_->Seleccionar(fila + 1); });
+    connect(lista_, &QListWidget::itemActivated, this, [this] { Accion("ID_Editar")->trigger(); });
+    auto* columna = new QVBoxLayout(panel);
+    columna->setContentsMargins(0, 0, 0, 0);
+    columna->addWidget(titulo);
+    columna->addWidget(lista_, 1);
+    if (datos.BajoLaLista != nullptr) columna->addWidget(datos.BajoLaLista);
+    return panel;
+}
+
+QWidget* VentanaEspacio::PanelDeHojas(const DatosDeEspacio& datos) {
+    auto* panel = new QWidget(this);
+    encabezado_ = LineaDeTexto("Encabezado", panel);
+    QFont fuente = encabezado_->font();
+    fuente.setBold(true);
+    fuente.setPointSize(fuente.pointSize() + 2);
+    encabezado_->setFont(fuente);
+    auto* hojas = new QTabBar(panel);
+    hojas->setExpanding(false);
+    for (const char* titulo : datos.Hojas) hojas->addTab(titulo);
+    connect(hojas, &QTabBar::currentChanged, this, datos.AlElegirHoja);
+    lienzo_ = new dibujo::qt::WidgetLienzo(datos.Vista, datos.Dibujar, panel, datos.Teclas);
+    auto* columna = new QVBoxLayout(panel);
+    columna->setContentsMargins(0, 0, 0, 0);
+    columna->setSpacing(2);
+    columna->addWidget(encabezado_);
+    columna->addWidget(hojas);
+    columna->addWidget(lienzo_, 1);
+    return panel;
+}
+
+void VentanaEspacio::HabilitarComandos() {
+    const bool hay = lista_->count() > 0;
+    for (const ComandoEspacio& comando : comandos_) {
+        QAction* accion = Accion(comando.Clave);
+        if (comando.PideElemento && !accion->data().isValid()) accion->setEnabled(hay);
+    }
+}
+
+void VentanaEspacio::PonerTitulo(const std::string& titulo) {
+    setWindowTitle(Q(titulo));
+}
+
+void VentanaEspacio::PonerEstado(const std::string& texto) {
+    pie_->setText(Q(texto));
+    pie_->setToolTip(Q(texto));
+}
+
+void VentanaEspacio::PonerEncabezado(const std::string& texto) {
+    encabezado_->setText(Q(texto));
+}
+
+void VentanaEspacio::LlenarLista(const std::vector<std::string>& nombres) {
+    const QSignalBlocker quieta(lista_);
+    lista_->clear();
+    for (const std::string& nombre : nombres) lista_->addItem(Q(nombre));
+    HabilitarComandos();
+}
+
+void VentanaEspacio::MarcarFila(int fila) {
+    const QSignalBlocker quieta(lista_);
+    lista_->setCurrentRow(fila - 1);
+}
+
+void VentanaEspacio::RestablecerVista() {
+    lienzo_->Comandos().Restablecer();
+}
+
+/// At once: what the calculation left is on the screen when it returns.
+void VentanaEspacio::Redibujar() {
+    lienzo_->RedibujeVista();
+    lienzo_->repaint();
+}
+
+void VentanaEspacio::MostrarRenombrar(Renombrar& operaciones) {
+    VentanaRenombrar ventana(operaciones, preferencias_, this);
+    MostrarModal(ventana);
+}
+
+void VentanaEspacio::keyPressEvent(QKeyEvent* evento) {
+    if (evento->key() == Qt::Key_Escape) return lienzo_->Comandos().EjecuteZoomExtents();
+    QDialog::keyPressEvent(evento);
+}
+
+void VentanaEspacio::hideEvent(QHideEvent* evento) {
+    QSettings().setValue("partes/" + objectName(), partes_->saveState());
+    QDialog::hideEvent(evento);
+}
+
+}  // namespace trabex::programa::qt

@@ -1,0 +1,95 @@
+#pragma once
+
+#include <QDialog>
+#include <functional>
+#include <map>
+#include <span>
+#include <string_view>
+
+#include "drawing/Visor.h"
+#include "shell/ComandosEspacio.h"
+#include "shell/ListaElementos.h"
+#include "shell/VistaEspacio.h"
+
+class QAction;
+class QLabel;
+class QListWidget;
+class QMenuBar;
+class QSplitter;
+
+namespace trabex::dibujo {
+class Lienzo;
+}
+namespace trabex::dibujo::qt {
+class WidgetLienzo;
+}
+
+namespace trabex::programa::qt {
+
+/// What an element gives to its workspace window.
+struct DatosDeEspacio {
+    const char* Nombre;                        ///< of the window: its layout is remembered under it
+    const char* RotuloLista;                   ///< over the list, with its mnemonic
+    const char* MenuElemento;                  ///< title of the menu of what acts on the list
+    std::span<const ComandoEspacio> Comandos;  ///< beside those of the drawing; grouped, in order
+    std::span<const char* const> Hojas;        ///< titles of the tabs
+    ListaElementos& Lista;
+    dibujo::EstadoVista& Vista;
+    std::function<void(dibujo::Lienzo&)> Dibujar;  ///< the sheet on show, whole
+    std::function<void(int)> AlElegirHoja;
+    /// What each command does, by its key, but those that the list and the drawing have themselves
+    /// (`ID_Abrir`, `ID_Renombrar`, `ID_Eliminar`). A command without any is disabled.
+    std::map<std::string_view, std::function<void()>> Operaciones;
+    QWidget* BajoLaLista = nullptr;
+    dibujo::TeclasDeVista Teclas = {};
+};
+
+/// The workspace of an element: its list and the sheets of the selected one, with tool bar, menu bar, context
+/// menus and keys from a table of commands.
+class VentanaEspacio : public QDialog, public VistaEspacio {
+  public:
+    QAction* Accion(std::string_view clave) const { return acciones_.at(clave); }
+
+    void PonerTitulo(const std::string& titulo) override;
+    void PonerEstado(const std::string& texto) override;
+    void PonerEncabezado(const std::string& texto) override;
+    void LlenarLista(const std::vector<std::string>& nombres) override;
+    void MarcarFila(int fila) override;
+    void RestablecerVista() override;
+    void Redibujar() override;
+    void MostrarRenombrar(Renombrar& operaciones) override;
+
+  protected:
+    VentanaEspacio(const Tapiz& preferencias, QWidget* padre);
+    /// Builds the window and opens its list. To be called once, by the constructor of the element's window.
+    void Armar(const DatosDeEspacio& datos);
+    /// Escape belongs to the drawing; the window closes by " Retorno " or its cross.
+    void keyPressEvent(QKeyEvent* evento) override;
+    void hideEvent(QHideEvent* evento) override;
+
+  private:
+    void CrearAcciones(const DatosDeEspacio& datos);
+    void CrearAccion(const ComandoEspacio& comando, const DatosDeEspacio& datos);
+    void ConectarVista();
+    void PonerAtajos();
+    QMenuBar* BarraDeMenus(const DatosDeEspacio& datos);
+    QWidget* BarraDeMandos();
+    void CrearMenusDeContexto();
+    void AgregarComandos(QWidget& destino, GrupoComandos grupo) const;
+    QWidget* PanelDeLista(const DatosDeEspacio& datos);
+    QWidget* PanelDeHojas(const DatosDeEspacio& datos);
+    QSplitter* Partes(const DatosDeEspacio& datos);
+    void HabilitarComandos();
+
+    const Tapiz& preferencias_;
+    ListaElementos* operaciones_ = nullptr;
+    std::vector<ComandoEspacio> comandos_;
+    std::map<std::string_view, QAction*> acciones_;
+    QListWidget* lista_ = nullptr;
+    QLabel* encabezado_ = nullptr;
+    QLabel* pie_ = nullptr;
+    QSplitter* partes_ = nullptr;
+    dibujo::qt::WidgetLienzo* lienzo_ = nullptr;
+};
+
+}  // namespace trabex::programa::qt
