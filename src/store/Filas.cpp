@@ -2,21 +2,41 @@
 
 namespace trabex::almacen {
 
-std::string ConsultaDe(std::string_view tabla, const std::string& nombre, std::string_view orden) {
-    std::string consulta = "SELECT * FROM " + std::string(tabla) + " WHERE Nombre=" + EntreComillas(nombre);
-    if (!orden.empty()) consulta += " ORDER BY " + std::string(orden);
-    return consulta;
+Clave PorNombre(const std::string& nombre) {
+    return {"Nombre", nombre};
 }
 
-bool EscribirFilas(Conexion& conexion, const char* tabla, const std::string& nombre, std::size_t filas,
+Clave PorID(std::int32_t id) {
+    return {"ID", id};
+}
+
+std::string Criterio(const Clave& clave) {
+    const auto* texto = std::get_if<std::string>(&clave.Dato);
+    return std::string(clave.Columna) + "=" +
+           (texto ? EntreComillas(*texto) : std::to_string(std::get<std::int32_t>(clave.Dato)));
+}
+
+void AbrirFilas(Conexion& conexion, Recordset& registros, const TablaDeFilas& tabla, const Clave& clave) {
+    std::string consulta = std::string("SELECT * FROM ") + tabla.Nombre + " WHERE " + Criterio(clave);
+    if (tabla.Orden) consulta += std::string(" ORDER BY ") + tabla.Orden;
+    AbrirRecordset(conexion, registros, consulta);
+}
+
+void BorrarFilas(Conexion& conexion, const TablaDeFilas& tabla, const Clave& clave) {
+    conexion.Ejecutar(std::string("DELETE * FROM ") + tabla.Nombre + " WHERE " + Criterio(clave));
+}
+
+bool EscribirFilas(Conexion& conexion, const TablaDeFilas& tabla, const Clave& clave, std::size_t filas,
                    const std::function<void(Recordset&, std::size_t)>& poner) {
-    conexion.Ejecutar("DELETE * FROM " + std::string(tabla) + " WHERE Nombre=" + EntreComillas(nombre));
+    BorrarFilas(conexion, tabla, clave);
     Recordset registros;
-    AbrirRecordset(conexion, registros, tabla);
+    AbrirRecordset(conexion, registros, tabla.Nombre);
     bool escritas = true;
     for (std::size_t k = 1; k <= filas; ++k) {
         registros.AgregarNuevo();
-        registros.Poner("Nombre", nombre);
+        registros.Poner(clave.Columna, clave.Dato);
+        // A number past the column's 16 bits is refused there.
+        if (tabla.Numerada) registros.Poner(tabla.Orden, static_cast<double>(k));
         poner(registros, k);
         escritas = registros.Actualizar() && escritas;
     }
@@ -42,10 +62,6 @@ bool SembrarFila(Recordset& registros, const std::function<void(Recordset&)>& po
     }
     registros.MoverAlPrimero();
     return registros.NumeroRegistros() > 0;
-}
-
-Valor NumeroDeFila(std::size_t k) {
-    return static_cast<double>(k);
 }
 
 }  // namespace trabex::almacen

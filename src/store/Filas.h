@@ -1,22 +1,46 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
+#include <span>
 #include <string>
-#include <string_view>
+#include <vector>
 
+#include "store/Campos.h"
 #include "store/Conexion.h"
 #include "store/Recordset.h"
 #include "store/Valor.h"
 
 namespace trabex::almacen {
 
-/// "SELECT * FROM tabla WHERE Nombre=…", with an order where one is given.
-std::string ConsultaDe(std::string_view tabla, const std::string& nombre, std::string_view orden = {});
+/// What ties rows to their element: the value that they share in one column.
+struct Clave {
+    const char* Columna;
+    Valor Dato;  ///< a text or a whole number
+};
+Clave PorNombre(const std::string& nombre);
+Clave PorID(std::int32_t id);
 
-/// Writes an element's rows of one table over its stored ones: `poner` fills row k of 1 … filas. False when a
-/// row could not be written.
-bool EscribirFilas(Conexion& conexion, const char* tabla, const std::string& nombre, std::size_t filas,
+/// "Nombre='…'" or "ID=…": what statements and searches take.
+std::string Criterio(const Clave& clave);
+
+/// A table of rows of elements.
+struct TablaDeFilas {
+    const char* Nombre;
+    const char* Orden = nullptr;  ///< the column by which they are read, where there is one
+    bool Numerada = false;        ///< that column is the row's running number, from 1, rewritten at each save
+};
+
+/// Opens an element's rows, in their order.
+void AbrirFilas(Conexion& conexion, Recordset& registros, const TablaDeFilas& tabla, const Clave& clave);
+
+/// Deletes an element's rows.
+void BorrarFilas(Conexion& conexion, const TablaDeFilas& tabla, const Clave& clave);
+
+/// Writes an element's rows over its stored ones, its key and number in each: `poner` fills the rest of row k
+/// of 1 … filas. False when a row could not be written.
+bool EscribirFilas(Conexion& conexion, const TablaDeFilas& tabla, const Clave& clave, std::size_t filas,
                    const std::function<void(Recordset&, std::size_t)>& poner);
 
 /// Writes the one row of a table of general data over whatever stands there, as one save. False when it could
@@ -27,7 +51,28 @@ bool ReemplazarFila(Conexion& conexion, const char* tabla, const std::function<v
 /// table can't be reached or written.
 bool SembrarFila(Recordset& registros, const std::function<void(Recordset&)>& poner);
 
-/// A row's number; one past the column's 16 bits is refused there.
-Valor NumeroDeFila(std::size_t k);
+/// An element's rows as records, from slot `desde` of the array on; the slots before it hold empty records.
+template <class Registro, class Campos>
+void LeerFilas(Conexion& conexion, const TablaDeFilas& tabla, const Clave& clave,
+               std::vector<Registro>& arreglo, std::size_t desde, const Campos& campos) {
+    Recordset registros;
+    AbrirFilas(conexion, registros, tabla, clave);
+    arreglo.assign(static_cast<std::size_t>(registros.NumeroRegistros()) + desde, {});
+    for (std::size_t k = desde; k < arreglo.size(); ++k) {
+        LeerCampos(registros, arreglo[k], campos);
+        registros.MoverAlSiguiente();
+    }
+}
+
+/// Records from slot `desde` of an array on as an element's rows, over its stored ones. False when one could
+/// not be written.
+template <class Registro, class Campos>
+bool GuardarFilas(Conexion& conexion, const TablaDeFilas& tabla, const Clave& clave,
+                  const std::vector<Registro>& arreglo, std::size_t desde, const Campos& campos) {
+    const std::size_t filas = arreglo.size() < desde ? 0 : arreglo.size() - desde;
+    return EscribirFilas(conexion, tabla, clave, filas, [&](Recordset& registros, std::size_t k) {
+        PonerCampos(registros, arreglo[desde + k - 1], campos);
+    });
+}
 
 }  // namespace trabex::almacen

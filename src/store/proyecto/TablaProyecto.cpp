@@ -2,21 +2,13 @@
 
 #include "store/Filas.h"
 #include "store/Recordset.h"
+#include "store/proyecto/CamposProyecto.h"
 
 namespace trabex::almacen::proyecto {
 
 namespace {
 
 constexpr const char* Tabla = "Proyecto";
-
-void PonerProyecto(Recordset& registros, const DatosDelProyecto& datos) {
-    registros.Poner("Proyecto", datos.Proyecto);
-    registros.Poner("Propietario", datos.Propietario);
-    registros.Poner("Calculista", datos.Calculista);
-    registros.Poner("Fecha", datos.Fecha);
-    registros.Poner("Cliente", datos.Cliente);
-    registros.Poner("Comentario", datos.Comentario);
-}
 
 }  // namespace
 
@@ -29,17 +21,12 @@ void LeerProyecto(Conexion& conexion, std::string_view usuario, DatosDelProyecto
              .Comentario = ""};
     Recordset registros;
     AbrirRecordset(conexion, registros, Tabla);
-    if (!SembrarFila(registros, [&](Recordset& r) { PonerProyecto(r, datos); })) return;
-    datos.Proyecto = registros.Texto("Proyecto");
-    datos.Propietario = registros.Texto("Propietario");
-    datos.Calculista = registros.Texto("Calculista");
-    datos.Fecha = registros.LeerFecha("Fecha");
-    datos.Cliente = registros.Texto("Cliente");
-    datos.Comentario = registros.Texto("Comentario");
+    if (SembrarFila(registros, [&](Recordset& r) { PonerCampos(r, datos, CamposProyecto); }))
+        LeerCampos(registros, datos, CamposProyecto);
 }
 
 bool GuardarProyecto(Conexion& conexion, const DatosDelProyecto& datos) {
-    return ReemplazarFila(conexion, Tabla, [&](Recordset& r) { PonerProyecto(r, datos); });
+    return ReemplazarFila(conexion, Tabla, [&](Recordset& r) { PonerCampos(r, datos, CamposProyecto); });
 }
 
 }  // namespace trabex::almacen::proyecto

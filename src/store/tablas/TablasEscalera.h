@@ -1,11 +1,13 @@
 #pragma once
 
+#include <array>
 #include <string_view>
 
 #include "base/DatosGenerales.h"
 #include "base/Proyecto.h"
 #include "helical/DatosEscaleraH.h"
 #include "stairs/DatosEscaleraT.h"
+#include "store/Elementos.h"
 #include "store/proyecto/ProyectoAbierto.h"
 
 namespace trabex::almacen::tablas {
@@ -18,6 +20,11 @@ enum class ClaseEscalera { Autoportante, Helicoidal };
 /// The texts that open each list of stairs on RegistrosProyecto.
 inline constexpr std::string_view ConsultaListaEscalerasT = "SELECT * FROM EscaleraTDatos ORDER BY Nombre";
 inline constexpr std::string_view ConsultaListaEscalerasH = "SELECT * FROM EscaleraHDatos  ORDER BY Nombre";
+
+inline constexpr std::array<const char*, 1> HijasDeEscaleraT{"EscaleraT"};
+inline constexpr TablasDeElemento TablasDeEscaleraT{HijasDeEscaleraT, "EscaleraTDatos"};
+inline constexpr std::array<const char*, 1> HijasDeEscaleraH{"EscaleraH"};
+inline constexpr TablasDeElemento TablasDeEscaleraH{HijasDeEscaleraH, "EscaleraHDatos"};
 
 /// Reads `Proyecto` and `EscaleraTG` or `EscaleraHG` into the working values, seeding each table when empty:
 /// 250, 4200, 0.025, 0.9, 0.75, 1.55. The factors of slabs stay as they were. When the tables can't be

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <array>
 #include <string_view>
 
 #include "markus/CalculeMarcus.h"
+#include "store/Elementos.h"
 #include "store/proyecto/ProyectoAbierto.h"
 
 namespace trabex::almacen::tablas {
@@ -11,6 +13,9 @@ using proyecto::ProyectoAbierto;
 
 /// The text that opens the list of Markus levels on RegistrosProyecto.
 inline constexpr std::string_view ConsultaListaMarcus = "SELECT * FROM MarcusDatos  ORDER BY Nombre";
+
+inline constexpr std::array<const char*, 1> HijasDeMarcus{"Marcus"};
+inline constexpr TablasDeElemento TablasDeMarcus{HijasDeMarcus, "MarcusDatos"};
 
 /// Loads the level on which the list stands. Its stored rows decide how many panels there are, whatever the
 /// list tells; results are not stored and come back as zeros.
