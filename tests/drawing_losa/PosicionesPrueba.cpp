@@ -1,0 +1,319 @@
+// Where every text and figure of a slab's sheets stands, against places worked out by hand. The canvases are
+// chosen so that a metre is 100 pixels: 1000 · 0.65 / 6.5 for 6.5 m of slab, 2000 · 0.70 / 14 for 14 m. The
+// recording canvas makes a line of 8.5 points 15 pixels tall and each of its letters 187/30 wide, one of 9
+// points 16 and 6.6, one of 11.5 points 20 and 8.43, one of 7 points 13 and 5.13.
+
+#include <set>
+
+#include <gtest/gtest.h>
+
+#include "drawing/losa/Apoyos.h"
+#include "drawing/losa/GraficoLosa.h"
+#include "slab/CalcularLosa.h"
+#include "support/LienzoGrabador.h"
+#include "support/LosasDePrueba.h"
+
+namespace trabex {
+
+using namespace dibujo;
+using namespace dibujo::losa;
+using namespace losas;
+namespace {
+
+using prueba::LienzoGrabador;
+using Puntos = std::vector<PuntoLienzo>;
+
+std::string Descrito(const std::string& texto, int x, int y, int decimas = 0) {
+    std::string dicho = texto + " @" + std::to_string(x) + "," + std::to_string(y);
+    return decimas == 0 ? dicho : dicho + " /" + std::to_string(decimas);
+}
+
+using Escritos = std::multiset<std::string>;
+Escritos EscritosEn(const LienzoGrabador& lienzo) {
+    Escritos escritos;
+    for (const auto& t : lienzo.Textos) escritos.insert(Descrito(t.Texto, t.Lugar.x, t.Lugar.y, t.Decimas));
+    return escritos;
+}
+
+bool HayLinea(const LienzoGrabador& lienzo, const Puntos& puntos, EstiloLinea estilo, int ancho = 1) {
+    return std::any_of(lienzo.Lineas.begin(), lienzo.Lineas.end(), [&](const auto& linea) {
+        return linea.Puntos == puntos && linea.Borde->Estilo == estilo && linea.Borde->Ancho == ancho;
+    });
+}
+
+bool HayPoligono(const LienzoGrabador& lienzo, const Puntos& puntos, Color relleno) {
+    const auto deColor = lienzo.DeColor(relleno);
+    return std::any_of(deColor.begin(), deColor.end(), [&](const auto& f) { return f.Puntos == puntos; });
+}
+
+/// The three points of a block arrow that tell where it is and where it looks.
+bool HayFlecha(const LienzoGrabador& lienzo, PuntoLienzo punta, int haciaY, int largo) {
+    const auto flechas = lienzo.DeColor({189, 207, 240});
+    return std::any_of(flechas.begin(), flechas.end(), [&](const auto& f) {
+        return f.Puntos[0] == punta && f.Puntos[3].y == punta.y - haciaY * largo;
+    });
+}
+
+/// Two spans of 4 and 2.5 m, axes at 175, 575 and 825, the slab's level at 198.
+struct HojaPrueba : testing::Test {
+    HojaPrueba() {
+        Hoja.Vista.CuadriculaVisible = false;
+        Datos.Tramos[1].p1 = 1000;
+        Datos.Tramos[1].L1 = 1;
+    }
+    void Dibujar(std::uint8_t vista) {
+        Hoja.VistaActual = vista;
+        RedibujeVista(Lienzo, Hoja, {Datos, Generales, Resultados});
+        EXPECT_EQ(Hoja.Vista.Escala, 100);
+    }
+
+    Losa Datos = prueba::LosaContinua({4, 2.5}, 300, 100);
+    DatosGenerales Generales;
+    ResultadosLosa Resultados;
+    HojaLosa Hoja;
+    LienzoGrabador Lienzo{1000, 1100};
+};
+
+TEST_F(HojaPrueba, LaGeometriaEstaDondeSeDice) {
+    Dibujar(VistaGeometria);
+    const Escritos esperados{
+        // in and over the load band, the point load's value turned and beside its arrow
+        Descrito("400", 366, 156), Descrito("400", 690, 156), Descrito("1000", 290, 141, 900),
+        // below the slab's band, then in the circles
+        Descrito("4,00", 362, 215), Descrito("2,50", 688, 215), Descrito("1", 170, 319),
+        Descrito("2", 570, 319), Descrito("3", 820, 319),
+        // the dimension chain
+        Descrito("DESPIECE:", 123, 852), Descrito("4,00", 365, 844), Descrito("2,50", 690, 844),
+        // the titles, centred on the slab
+        Descrito("LOSA NERVADA: E = 0,25 m", 421, 918), Descrito("PRUEBA", 480, 934),
+        Descrito("(GEOMETRIA DE LA LOSA)", 427, 950)};
+    EXPECT_EQ(EscritosEn(Lienzo), esperados);
+
+    EXPECT_TRUE(HayLinea(Lienzo, {{175, 198}, {825, 198}}, EstiloLinea::Punteada));
+    EXPECT_TRUE(HayPoligono(Lienzo, {{175, 213}, {575, 213}, {575, 183}, {175, 183}}, {156, 177, 182}));
+    EXPECT_TRUE(HayPoligono(Lienzo, {{575, 183}, {825, 183}, {825, 143}, {575, 143}}, {248, 199, 199}));
+    EXPECT_TRUE(HayFlecha(Lienzo, {275, 143}, 1, 50));
+    ASSERT_EQ(Lienzo.Circulos.size(), 3U + 2 * 2U);  // axes, and two wheels under each roller
+    for (std::size_t eje = 0; eje < 3; ++eje) {
+        const std::int32_t x = std::array{175, 575, 825}[eje];
+        EXPECT_EQ(Lienzo.Circulos[eje].Puntos, (Puntos{{x, 329}, {x + 26, 329}}));
+        EXPECT_EQ(Lienzo.Circulos[eje].Relleno, (Color{255, 244, 214}));
+        EXPECT_TRUE(HayLinea(Lienzo, {{x, 213}, {x, 273}}, EstiloLinea::Solida));
+        EXPECT_TRUE(HayLinea(Lienzo, {{x, 366}, {x, 878}}, EstiloLinea::Punteada));
+    }
+    EXPECT_DOUBLE_EQ(Lienzo.Hallar("1")->Letra.Puntos, 11.5);
+    EXPECT_TRUE(Lienzo.Hallar("1")->Letra.Negrita);
+    EXPECT_DOUBLE_EQ(Lienzo.Hallar("DESPIECE:")->Letra.Puntos, 7);
+    EXPECT_DOUBLE_EQ(Lienzo.Hallar("PRUEBA")->Letra.Puntos, 9);
+    EXPECT_TRUE(Lienzo.Hallar("PRUEBA")->Letra.Negrita);
+}
+
+TEST_F(HojaPrueba, CadaValorDelDisenoEstaEnSuFila) {
+    for (const auto& [caso, factor] : {std::pair{CasoPermanente, 10.0}, {CasoVariable, 1.0}}) {
+        Resultados.ResultadoTramo[caso].resize(3);
+        for (const double eje : {0, 1, 2, 3}) {
+            Resultados.ResultadoJunta[caso].emplace_back();
+            Resultados.ResultadoJunta[caso].back().RV = 10 * factor * eje;
+        }
+    }
+    Resultados.ResultadoTramo[CasoPermanente][1].MomentoA = -10;  // by 1.2
+    Resultados.ResultadoTramo[CasoVariable][1].MomentoB = -1000;
+    Resultados.ResultadoTramo[CasoPermanente][2].MomentoA = -50;
+    Resultados.ResultadoTramo[CasoVariable][2].MomentoB = -5;  // by 1.6
+    Resultados.DisenoEje = {
+        {}, {1.11, 9, 0, 0.31, 0, 0.8}, {2.22, 9, 0.52, 0.3, 0.9, 0.7}, {3.33, 9, 0.75, 0, 0.6, 0}};
+    Resultados.DisenoTramo = {{}, {700, 1.5, 9, 4.44}, {800, 1.2, 9, 5.55}};
+    Dibujar(VistaGeometria);
+    Escritos esperados;
+    for (std::size_t i = 0; i < 8; ++i) {  // the slab's own
+        const auto& t = Lienzo.Textos[i];
+        esperados.insert(Descrito(t.Texto, t.Lugar.x, t.Lugar.y, t.Decimas));
+    }
+    Dibujar(VistaDiseno);
+    esperados.merge(Escritos{
+        // one rib every half metre: reactions are doubled
+        Descrito("CP (kgf/metro):", 40, 508),
+        Descrito("200", 166, 508),
+        Descrito("400", 566, 508),
+        Descrito("600", 816, 508),  //
+        Descrito("CV (kgf/metro):", 40, 550),
+        Descrito("20", 169, 550),
+        Descrito("40", 569, 550),
+        Descrito("60", 819, 550),  //
+        Descrito("Total (kgf/metro):", 40, 592),
+        Descrito("220", 166, 592),
+        Descrito("440", 566, 592),
+        Descrito("660", 816, 592),  //
+        Descrito("Macizados (m):", 40, 634),
+        Descrito("0,31", 180, 634),
+        Descrito("0,52", 546, 634),
+        Descrito("0,75", 796, 634),  //
+        Descrito("Mu Sup (kgf-m):", 40, 676),
+        Descrito("-12", 166, 676),
+        Descrito("-60", 566, 676),
+        Descrito("-8", 819, 676),  //
+        Descrito("Mu Inf (kgf-m):", 40, 718),
+        Descrito("700", 366, 718),
+        Descrito("800", 691, 718),
+        Descrito("As Sup (cm2):", 40, 760),
+        Descrito("1,11", 163, 760),
+        Descrito("2,22", 563, 760),
+        Descrito("3,33", 813, 760),  //
+        Descrito("As Inf (cm2):", 40, 802),
+        Descrito("4,44", 363, 802),
+        Descrito("5,55", 688, 802),
+        Descrito("Puntos Inflexión (m):", 40, 844),
+        Descrito("0,80", 243, 850),
+        Descrito("0,90", 473, 850),
+        Descrito("0,70", 633, 850),
+        Descrito("0,60", 753, 850),  //
+        Descrito("Despiece:", 40, 886),
+        Descrito("AsMín = 0,75 cm2", 450, 886),  // 14/4200 · 10 · 22.5
+        Descrito("LOSA NERVADA: E = 0,25 m   (DISEÑO Y REACCIONES DE SERVICIO POR METRO LINEAL SOBRE LAS "
+                 "VIGAS)",
+                 193, 940),
+        Descrito("PRUEBA", 480, 956)});
+    EXPECT_EQ(EscritosEn(Lienzo), esperados);
+
+    const auto fondo = [](int arriba) {
+        return Puntos{{36, arriba}, {871, arriba}, {871, arriba + 42}, {36, arriba + 42}};
+    };
+    EXPECT_TRUE(HayPoligono(Lienzo, fondo(621), {226, 233, 214}));
+    EXPECT_TRUE(HayPoligono(Lienzo, fondo(663), {232, 223, 244}));
+    EXPECT_TRUE(HayPoligono(Lienzo, fondo(705), {232, 223, 244}));
+    EXPECT_TRUE(HayPoligono(Lienzo, fondo(747), {224, 233, 248}));
+    EXPECT_TRUE(HayPoligono(Lienzo, fondo(789), {224, 233, 248}));
+    for (const std::int32_t x : {255, 485, 645, 765})
+        EXPECT_TRUE(HayPoligono(Lienzo, {{x, 831}, {x + 6, 843}, {x - 6, 843}}, {255, 170, 170}));
+    for (const std::int32_t y : {873, 915})
+        EXPECT_TRUE(HayLinea(Lienzo, {{175, y}, {825, y}}, EstiloLinea::Solida));
+}
+
+TEST_F(HojaPrueba, ValoresQueSeEncontrarianBajanDeLinea) {
+    Datos = prueba::LosaContinua({0.2, 0.2, 6.1}, 300, 100);  // axes at 175, 195, 215, 825
+    Resultados.DisenoEje = {{}, {1.11}, {2.22}, {3.33}, {4.44}};
+    Dibujar(VistaDiseno);
+    const auto lugar = [&](const char* texto) { return Lienzo.Hallar(texto)->Lugar; };
+    EXPECT_EQ(lugar("1,11"), (PuntoLienzo{163, 753}));  // two lines of 15 in a row of 42 that begins at 747
+    EXPECT_EQ(lugar("2,22"), (PuntoLienzo{183, 768}));
+    EXPECT_EQ(lugar("3,33"), (PuntoLienzo{203, 753}));
+    EXPECT_EQ(lugar("4,44"), (PuntoLienzo{813, 753}));
+    EXPECT_EQ(lugar("As Sup (cm2):").y, 760);
+}
+
+/// One span of 6.5 m under 520 kgf/m: 1690 kgf at each end, 2746.25 kgf·m in the middle.
+TEST_F(HojaPrueba, LosDiagramasTienenSusValoresEnSuBanda) {
+    Datos = prueba::LosaContinua({6.5}, 300, 100);
+    CalcularLosa(Datos, Generales, Resultados);
+    Dibujar(VistaFuerzas);
+    const Escritos esperados{
+        Descrito("400", 490, 156), Descrito("6,50", 488, 215), Descrito("1", 170, 319),
+        Descrito("2", 820, 319),
+        // shears: the axis of their band at 495, 80 pixels the largest
+        Descrito("VU (kgf):", 36, 488), Descrito("1690", 183, 378), Descrito("1690", 792, 598),
+        // moments: at 773, on the side in tension
+        Descrito("MU (kgf-m):", 24, 766), Descrito("2746", 508, 876),
+        // reactions, below both bands
+        Descrito("(kgf/Nervio):", 11, 912), Descrito("1690", 183, 930), Descrito("1690", 833, 930),
+        Descrito("LOSA NERVADA: E = 0,25 m", 421, 960), Descrito("PRUEBA", 480, 976),
+        Descrito("(DIAGRAMAS DE CORTES Y MOMENTOS MAYORADOS)", 361, 992),
+        Descrito("COMBINACIONES DE CARGA (U = 1,20 CP + 1,60 CV)", 348, 1008)};
+    EXPECT_EQ(EscritosEn(Lienzo), esperados);
+    EXPECT_TRUE(HayFlecha(Lienzo, {175, 415}, 1, 50));
+    EXPECT_TRUE(HayFlecha(Lienzo, {825, 575}, -1, 50));
+    EXPECT_TRUE(HayFlecha(Lienzo, {500, 853}, -1, 50));
+    EXPECT_TRUE(HayFlecha(Lienzo, {175, 912}, -1, 40));
+    EXPECT_TRUE(HayFlecha(Lienzo, {825, 912}, -1, 40));
+    for (const std::int32_t eje : {495, 773})
+        EXPECT_TRUE(HayLinea(Lienzo, {{175, eje}, {825, eje}}, EstiloLinea::Solida));
+
+    const auto cortes = Lienzo.DeColor({165, 191, 235});
+    const auto momentos = Lienzo.DeColor({247, 194, 187});
+    ASSERT_EQ(cortes.size(), 26U);  // four strips a metre
+    ASSERT_EQ(momentos.size(), 26U);
+    EXPECT_EQ(cortes.front().Puntos, (Puntos{{175, 495}, {175, 415}, {200, 421}, {200, 495}}));
+    EXPECT_EQ(cortes.back().Puntos, (Puntos{{800, 495}, {800, 569}, {825, 575}, {825, 495}}));
+    // At 0.25 m the moment is 1690·0.25 − 520·0.25²/2 = 406.25, at 3.25 m the largest.
+    EXPECT_EQ(momentos.front().Puntos, (Puntos{{175, 773}, {175, 773}, {200, 785}, {200, 773}}));
+    EXPECT_EQ(momentos[13].Puntos[1], (PuntoLienzo{500, 853}));
+    EXPECT_TRUE(HayLinea(Lienzo, {{175, 415}, {200, 421}}, EstiloLinea::Solida));
+}
+
+/// Spans of 8 and 6 m, the middle axis half a metre up: axes at 300, 1100 and 1700, the origin's row at 241.
+TEST_F(HojaPrueba, UnaLosaEscalonadaSigueSuPendiente) {
+    Datos = prueba::LosaContinua({8, 6}, 300, 100);
+    Datos.JuntasD.push_back({2, 0, 0.5});
+    Datos.Tramos[1].p1 = 500;
+    Datos.Tramos[1].L1 = 3;
+    Datos.Ejes[3].Tipo = SinApoyo;
+    Lienzo = LienzoGrabador(2000, 1200);
+    CalcularLosa(Datos, Generales, Resultados);
+    Datos.JuntasD.push_back({4, 3, 3});  // no such joint
+    Dibujar(VistaGeometria);
+    EXPECT_TRUE(HayPoligono(Lienzo, {{300, 256}, {1100, 206}, {1100, 176}, {300, 226}}, {156, 177, 182}));
+    EXPECT_TRUE(HayPoligono(Lienzo, {{1100, 176}, {1700, 226}, {1700, 186}, {1100, 136}}, {248, 199, 199}));
+    EXPECT_TRUE(HayFlecha(Lienzo, {600, 167}, 1, 50));  // 0.1875 + 0.55 m over the origin
+    EXPECT_TRUE(HayLinea(Lienzo, {{1100, 201}, {1100, 175}}, EstiloLinea::Solida, 2));
+    EXPECT_TRUE(HayLinea(Lienzo, {{1100, 206}, {1100, 266}}, EstiloLinea::Solida));
+    EXPECT_TRUE(HayLinea(Lienzo, {{1100, 359}, {1100, 921}}, EstiloLinea::Punteada));
+    const auto lugar = [&](const char* texto) { return Lienzo.Hallar(texto)->Lugar; };
+    EXPECT_EQ(lugar("0,50"), (PuntoLienzo{1088, 119}));
+    EXPECT_EQ(lugar("8,00"), (PuntoLienzo{688, 233}));
+    EXPECT_EQ(lugar("2").y, 312);
+    std::vector<int> giros;
+    for (const auto& t : Lienzo.Textos) {
+        if (t.Texto == "400") giros.push_back(t.Decimas);
+    }
+    EXPECT_EQ(giros, (std::vector{40, -50}));  // 3.6 and -4.8 degrees
+
+    Dibujar(VistaFuerzas);
+    const double VA =
+        1.2 * Resultados.ResultadoTramo[1][1].CorteA + 1.6 * Resultados.ResultadoTramo[2][1].CorteA;
+    const auto subida = static_cast<std::int32_t>(std::lrint(80 * VA / Resultados.MaxCorte));
+    const auto primera = Lienzo.DeColor({165, 191, 235}).front().Puntos;
+    EXPECT_EQ(primera[0], (PuntoLienzo{300, 538}));
+    EXPECT_EQ(primera[1], (PuntoLienzo{300, 538 - subida}));
+    EXPECT_EQ(primera[3], (PuntoLienzo{325, 536}));  // 1.56 px up the slope
+    EXPECT_EQ(Lienzo.DeColor({247, 194, 187}).front().Puntos[0], (PuntoLienzo{300, 816}));
+    EXPECT_EQ(lugar("VU (kgf):").y, 531);
+
+    Dibujar(VistaDiseno);
+    EXPECT_EQ(lugar("CP (kgf/metro):").y, 614);  // the ten rows of 42 end 7.8 m below the origin
+    EXPECT_EQ(lugar("Despiece:").y, 992);
+}
+
+TEST(Apoyos, CadaTipoTieneSuSimbolo) {
+    LienzoGrabador lienzo(1000, 600);
+    const EstadoVista vista{1, 0, 0, 100, 0.01, 500, 300, true, false};
+    const Plano plano(lienzo, vista, "Tahoma");
+    const Color triangulo{255, 219, 117};
+    const auto dibujar = [&](std::int16_t tipo) {
+        lienzo.Limpiar();
+        DibujeApoyo(plano, -1, 0.5, tipo);  // the joint at (400, 250), its band's foot at 265
+    };
+    dibujar(ApoyoFijo);
+    EXPECT_TRUE(HayPoligono(lienzo, {{400, 265}, {380, 285}, {420, 285}}, triangulo));
+    EXPECT_TRUE(HayLinea(lienzo, {{370, 285}, {430, 285}}, EstiloLinea::Solida, 2));
+    EXPECT_TRUE(lienzo.Circulos.empty());
+    dibujar(RodilloEnX);
+    EXPECT_TRUE(HayPoligono(lienzo, {{400, 265}, {380, 285}, {420, 285}}, triangulo));
+    ASSERT_EQ(lienzo.Circulos.size(), 2U);
+    EXPECT_EQ(lienzo.Circulos[0].Puntos, (Puntos{{390, 290}, {395, 290}}));
+    EXPECT_EQ(lienzo.Circulos[1].Puntos, (Puntos{{410, 290}, {415, 290}}));
+    EXPECT_EQ(lienzo.Circulos[0].Relleno, (Color{253, 192, 160}));
+    dibujar(RodilloEnY);
+    EXPECT_TRUE(HayPoligono(lienzo, {{400, 285}, {380, 265}, {380, 305}}, triangulo));
+    ASSERT_EQ(lienzo.Circulos.size(), 2U);
+    EXPECT_EQ(lienzo.Circulos[0].Puntos, (Puntos{{375, 275}, {380, 275}}));
+    EXPECT_EQ(lienzo.Circulos[1].Puntos, (Puntos{{375, 295}, {380, 295}}));
+    EXPECT_TRUE(HayLinea(lienzo, {{370, 265}, {370, 305}}, EstiloLinea::Solida));
+    dibujar(Empotramiento);
+    EXPECT_TRUE(HayPoligono(lienzo, {{390, 225}, {410, 225}, {410, 275}, {390, 275}}, triangulo));
+    for (const std::int16_t tipo : {SinApoyo, TipoApoyo{}}) {
+        dibujar(tipo);
+        EXPECT_TRUE(lienzo.Poligonos.empty());
+    }
+}
+
+}  // namespace
+}  // namespace trabex
