@@ -9,6 +9,7 @@
 
 #include "drawing/losa/Apoyos.h"
 #include "drawing/losa/GraficoLosa.h"
+#include "drawing/losa/GraficoLosaDatos.h"
 #include "slab/CalcularLosa.h"
 #include "support/LienzoGrabador.h"
 #include "support/LosasDePrueba.h"
@@ -239,6 +240,74 @@ TEST_F(HojaPrueba, LosDiagramasTienenSusValoresEnSuBanda) {
     EXPECT_TRUE(HayLinea(Lienzo, {{175, 415}, {200, 421}}, EstiloLinea::Solida));
 }
 
+/// Both ends fixed: -1830.8 kgf·m at each, half of it in the middle.
+TEST_F(HojaPrueba, LosMomentosDeApoyoVanHaciaArriba) {
+    Datos = prueba::LosaContinua({6.5}, 300, 100);
+    Datos.OpcionMaciza = true;
+    for (EjeLosa& eje : Datos.Ejes) eje.Tipo = Empotramiento;
+    CalcularLosa(Datos, Generales, Resultados);
+    Hoja.OpcionCarga = CargaPorCasos;
+    Dibujar(VistaFuerzas);
+    const Escritos escritos = EscritosEn(Lienzo);
+    EXPECT_EQ(escritos.count(Descrito("300 + 100", 472, 156)), 1U);
+    EXPECT_EQ(escritos.count(Descrito("-1831", 183, 656)), 1U);
+    EXPECT_EQ(escritos.count(Descrito("-1831", 785, 656)), 1U);
+    EXPECT_EQ(escritos.count(Descrito("(kgf/metro):", 18, 912)), 1U);
+    EXPECT_EQ(escritos.count(Descrito("LOSA MACIZA: E = 0,20 m", 424, 960)), 1U);
+    const auto* campo = Lienzo.Hallar("915");
+    ASSERT_NE(campo, nullptr);
+    EXPECT_EQ(campo->Lugar.x, 508);
+    EXPECT_NEAR(campo->Lugar.y, 836, 1);
+    EXPECT_TRUE(HayFlecha(Lienzo, {175, 693}, 1, 50));
+    EXPECT_TRUE(HayFlecha(Lienzo, {500, 813}, -1, 50));
+}
+
+TEST_F(HojaPrueba, LasReaccionesSolasDejanTresFilasYSusTitulos) {
+    Hoja.SoloReacciones = true;
+    Dibujar(VistaDiseno);
+    const Escritos escritos = EscritosEn(Lienzo);
+    EXPECT_EQ(escritos.size(), 8U + 3 * 4U + 3U);
+    EXPECT_EQ(escritos.count(Descrito("Total (kgf/metro):", 54, 592)), 1U);  // 113 wide, clear of its "0"
+    EXPECT_EQ(escritos.count(Descrito("LOSA NERVADA: E = 0,25 m", 421, 646)), 1U);
+    EXPECT_EQ(escritos.count(Descrito("PRUEBA", 480, 662)), 1U);
+    EXPECT_EQ(escritos.count(Descrito("REACCIONES SOBRE LAS VIGAS", 414, 678)), 1U);
+}
+
+TEST_F(HojaPrueba, EnPapelLosTextosSonMasCortos) {
+    Hoja.VistaActual = VistaDiseno;
+    const auto textos = [&](std::uint8_t vista, bool maciza, const EstiloHoja& estilo) {
+        Hoja.VistaActual = vista;
+        Datos.OpcionMaciza = maciza;
+        RedibujeVista(Lienzo, Hoja, {Datos, Generales, Resultados}, estilo);
+        std::set<std::string> vistos;
+        for (const auto& t : Lienzo.Textos) vistos.insert(t.Texto);
+        return vistos;
+    };
+    using Textos = std::vector<const char*>;
+    const auto estan = [](const std::set<std::string>& vistos, const Textos& esperados) {
+        for (const char* texto : esperados) EXPECT_EQ(vistos.count(texto), 1U) << texto;
+    };
+    estan(textos(VistaGeometria, false, HojaEnPapel), {"LOSA NERVADA: H = 0,25 m  (Geometría)", "PRUEBA"});
+    estan(textos(VistaGeometria, true, HojaEnPapel), {"LOSA MACIZA: H = 0,20 m  (Geometría)", "DESPIECE:"});
+    estan(textos(VistaFuerzas, false, HojaEnPapel), {"Vu (kgf):", "Mu (kgf-m):", "(kgf/Nervio):"});
+    estan(textos(VistaDiseno, false, HojaEnPapel),
+          {"CP (kgf/ml):", "CV (kgf/ml):", "Total (kgf/ml):", "Macizado (m):", "Mu Sup(kgf-m):",
+           "Mu Inf (kgf-m):", "As Sup(cm2):", "As Inf(cm2):", "Inflexión (m):", "Despiece:",
+           "AsMín = 0,75 cm2", "LOSA NERVADA: E = 0,25 m   (ANALISIS Y DISEÑO)"});
+    estan(textos(VistaDiseno, true, HojaEnPapel), {"As Sup(cm2/m):", "As Inf(cm2/m):", "AsMín = 3,50 cm2/m"});
+    estan(textos(VistaDiseno, true, HojaEnPantalla), {"As Sup (cm2/m):", "As Inf (cm2/m):"});
+    EXPECT_EQ(textos(9, false, HojaEnPapel).count("AsMín = 0,75 cm2"), 0U);  // no such sheet: as it stood
+}
+
+TEST(TextosDeLosa, DicenLoSuyo) {
+    const Separadores coma;
+    EXPECT_EQ(TextoDeCorrimiento({1, 0.1, 0}, coma), "0,10");
+    EXPECT_EQ(TextoDeCorrimiento({1, 0, -0.2}, coma), "-0,20");
+    EXPECT_EQ(TextoDeCorrimiento({1, 0.1, -0.2}, coma), "0,10 ; -0,20");
+    EXPECT_EQ(TextoDeCarga({5, 2147483647, 1, 0, 0}, CargaTotal), "2147483648");
+    EXPECT_EQ(TextoDeCarga({5, 300, 90, 0, 0}, CargaSinUso), "390");
+}
+
 /// Spans of 8 and 6 m, the middle axis half a metre up: axes at 300, 1100 and 1700, the origin's row at 241.
 TEST_F(HojaPrueba, UnaLosaEscalonadaSigueSuPendiente) {
     Datos = prueba::LosaContinua({8, 6}, 300, 100);
@@ -280,6 +349,88 @@ TEST_F(HojaPrueba, UnaLosaEscalonadaSigueSuPendiente) {
     Dibujar(VistaDiseno);
     EXPECT_EQ(lugar("CP (kgf/metro):").y, 614);  // the ten rows of 42 end 7.8 m below the origin
     EXPECT_EQ(lugar("Despiece:").y, 992);
+}
+
+/// Sketches on 1000 by 600: a metre of 8 is 100 pixels, a line of 8 points 14 tall and its letters 5.87 wide.
+struct BocetoPrueba : testing::Test {
+    BocetoPrueba() { Vista.CuadriculaVisible = false; }
+
+    Losa Datos = prueba::LosaContinua({5, 3}, 300, 100);
+    EstadoVista Vista;
+    LienzoGrabador Lienzo{1000, 600};
+    static constexpr Color Marca{255, 205, 96};
+};
+
+TEST_F(BocetoPrueba, LosDatosConSuSeccionNervada) {
+    Datos.JuntasD.push_back({2, 0, 0});
+    Datos.JuntasD.push_back({4, 1, 1});  // no such joint
+    DibujeLosaDatos(Lienzo, Vista, Datos, {2, 1}, {});
+    const Escritos esperados{Descrito("5,00", 338, 90), Descrito("3,00", 738, 90),
+                             Descrito("(0,00 ; 0,00)", 562, 136), Descrito("1", 97, 243),
+                             Descrito("2", 597, 243), Descrito("3", 897, 243),
+                             // width of a rib, spacing, topping and depth of the section
+                             Descrito("0,10", 420, 523), Descrito("0,50", 614, 545),
+                             Descrito("0,05", 646, 406), Descrito("0,25", 330, 449)};
+    EXPECT_EQ(EscritosEn(Lienzo), esperados);
+    EXPECT_EQ(Lienzo.Hallar("5,00")->Tinta, (Color{26, 33, 34}));
+    EXPECT_EQ(Lienzo.Hallar("3,00")->Tinta, (Color{196, 84, 20}));  // marked
+    EXPECT_TRUE(HayPoligono(Lienzo, {{100, 195}, {600, 195}, {600, 165}, {100, 165}}, {205, 216, 219}));
+    EXPECT_TRUE(HayPoligono(Lienzo, {{600, 195}, {900, 195}, {900, 165}, {600, 165}}, Marca));
+    EXPECT_TRUE(HayPoligono(
+        Lienzo,
+        {{370, 402}, {630, 402}, {630, 510}, {586, 510}, {586, 424}, {414, 424}, {414, 510}, {370, 510}},
+        {222, 226, 227}));
+    EXPECT_TRUE(HayLinea(Lienzo, {{600, 205}, {600, 155}}, EstiloLinea::Solida, 2));
+    for (const Puntos& cota : std::vector<Puntos>{{{100, 105}, {600, 105}},
+                                                  {{370, 530}, {414, 530}},
+                                                  {{392, 552}, {608, 552}},
+                                                  {{640, 402}, {640, 424}},
+                                                  {{360, 402}, {360, 510}}})
+        EXPECT_TRUE(HayLinea(Lienzo, cota, EstiloLinea::Solida)) << cota[0].x;
+    const auto& nombre = Lienzo.Circulos[Lienzo.Circulos.size() - 3];
+    EXPECT_EQ(nombre.Puntos, (Puntos{{100, 250}, {110, 250}}));
+    EXPECT_EQ(nombre.Borde->Ancho, 2);
+    EXPECT_EQ(nombre.Relleno, Marca);
+    EXPECT_EQ(Lienzo.Circulos.back().Relleno, (Color{255, 244, 214}));
+}
+
+TEST_F(BocetoPrueba, LaSeccionMacizaYUnTramoSinLongitud) {
+    Datos.OpcionMaciza = true;
+    Datos.Tramos[1].LT = 0;  // drawn as one of 1 m
+    Datos.Tramos[2].LT = 7;
+    DibujeLosaExportar(Lienzo, Vista, Datos, {});
+    const Escritos escritos = EscritosEn(Lienzo);
+    EXPECT_EQ(escritos.count(Descrito("1,00", 776, 523)), 1U);
+    EXPECT_EQ(escritos.count(Descrito("0,20", 190, 449)), 1U);
+    EXPECT_EQ(escritos.count(Descrito("0,00", 138, 90)), 1U);
+    EXPECT_EQ(Lienzo.Hallar("0,00")->Tinta, (Color{196, 84, 20}));
+    EXPECT_TRUE(HayPoligono(Lienzo, {{230, 402}, {770, 402}, {770, 510}, {230, 510}}, {222, 226, 227}));
+    EXPECT_TRUE(HayPoligono(Lienzo, {{100, 195}, {200, 195}, {200, 165}, {100, 165}}, {205, 216, 219}));
+    Vista.Zoom = 0.5;  // about the middle of the canvas, the section too
+    Vista.PanY = 40;
+    DibujeLosaExportar(Lienzo, Vista, Datos, {});
+    EXPECT_TRUE(HayPoligono(Lienzo, {{365, 391}, {635, 391}, {635, 445}, {365, 445}}, {222, 226, 227}));
+}
+
+TEST_F(BocetoPrueba, LasCargasDeCadaTramo) {
+    Datos.Tramos[1].p1 = 800;
+    Datos.Tramos[1].L1 = 2;
+    Datos.Tramos[2].p1 = 500;
+    Datos.Tramos[2].L1 = 4;  // beyond the span
+    DibujeLosaCargas(Lienzo, Vista, Datos, {2, 0}, {});
+    const Escritos esperados{Descrito("800", 318, 213),       Descrito("300 + 100", 324, 258),
+                             Descrito("300 + 100", 724, 258), Descrito("1", 97, 363),
+                             Descrito("2", 597, 363),         Descrito("3", 897, 363)};
+    EXPECT_EQ(EscritosEn(Lienzo), esperados);
+    EXPECT_TRUE(HayFlecha(Lienzo, {300, 245}, 1, 50));
+    EXPECT_TRUE(HayPoligono(Lienzo, {{100, 285}, {600, 285}, {600, 245}, {100, 245}}, {248, 214, 210}));
+    EXPECT_TRUE(HayPoligono(Lienzo, {{600, 285}, {900, 285}, {900, 245}, {600, 245}}, Marca));
+    Datos.Tramos[1].Wp = Datos.Tramos[1].WV = 0;
+    DibujeLosaCargas(Lienzo, Vista, Datos, {}, {});
+    EXPECT_EQ(Lienzo.DeColor({248, 214, 210}).size(), 1U);
+    VaciarLosa(Datos);
+    DibujeLosaCargas(Lienzo, Vista, Datos, {}, {});
+    EXPECT_TRUE(Lienzo.Textos.empty());
 }
 
 TEST(Apoyos, CadaTipoTieneSuSimbolo) {
