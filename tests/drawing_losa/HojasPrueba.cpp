@@ -165,18 +165,23 @@ struct Caja {
     double x1 = 1e9, x2 = -1e9, y1 = 1e9, y2 = -1e9;
 };
 
+/// 1 to 10 spans of 2 to 8 m, some with a point load.
+Losa LosaCorriente(std::mt19937& azar, int vez) {
+    Losa losa;
+    const int tramos = 1 + vez % 10;
+    for (int i = 0; i < tramos; ++i) {
+        const double LT = std::uniform_real_distribution<>(2, 8)(azar);
+        losa.Tramos.push_back({LT, 310, 120, vez % 3 == 0 && i % 4 == 1 ? 900 : 0, LT * 0.45});
+    }
+    for (int j = 1; j <= tramos + 1; ++j)
+        losa.Ejes.push_back({std::to_string(j), j == 1 ? ApoyoFijo : RodilloEnX, 0, 0, 0});
+    return losa;
+}
+
 TEST(Hojas, NingunTextoPisaAOtroEnLosasCorrientes) {
     std::mt19937 azar(11);
     for (int vez = 0; vez < 120; ++vez) {
-        Losa losa;
-        const int tramos = 1 + vez % 10;
-        for (int i = 0; i < tramos; ++i) {
-            const double LT = std::uniform_real_distribution<>(2, 8)(azar);
-            losa.Tramos.push_back({LT, 310, 120, vez % 3 == 0 && i % 4 == 1 ? 900 : 0, LT * 0.45});
-        }
-        for (int j = 1; j <= tramos + 1; ++j)
-            losa.Ejes.push_back({std::to_string(j), j == 1 ? ApoyoFijo : RodilloEnX, 0, 0, 0});
-        Caso caso(losa);
+        Caso caso(LosaCorriente(azar, vez));
         for (const std::uint8_t vista : {VistaGeometria, VistaFuerzas, VistaDiseno}) {
             caso.Dibujar(vista);
             const auto& textos = caso.Lienzo.Textos;
@@ -186,6 +191,33 @@ TEST(Hojas, NingunTextoPisaAOtroEnLosasCorrientes) {
                         << "slab " << vez << " view " << int(vista) << ": " << textos[a].Texto << " / "
                         << textos[b].Texto;
                 }
+            }
+        }
+    }
+}
+
+/// A value in the neighbour's band would be read as another quantity.
+TEST(Hojas, NingunValorSaleDeLaBandaDeSuDiagrama) {
+    std::mt19937 azar(11);
+    for (int vez = 0; vez < 120; ++vez) {
+        Caso caso(LosaCorriente(azar, vez));
+        caso.Dibujar(VistaFuerzas);
+        const double E = caso.Hoja.Vista.Escala;
+        const double cortes = caso.Hoja.Vista.OrigenY + 2.97 * E;
+        const double momentos = cortes + 2 * 1.39 * E;
+        const TextoGrabado* texto = caso.Lienzo.Hallar("MU (kgf-m):");
+        for (std::size_t i = 1; i < caso.Datos.Tramos.size(); ++i) {
+            const ExtremosDeTramo e = ExtremosDe(caso.Calculada(), i);
+            for (const auto& [valor, eje] : {std::pair{e.VA, cortes},
+                                             {e.VB, cortes},
+                                             {e.MA, momentos},
+                                             {e.MB, momentos},
+                                             {e.MT, momentos}}) {
+                if (Formato(valor, "0", {}) == "0") continue;
+                ++texto;
+                ASSERT_EQ(texto->Texto, Formato(valor, "0", {}));
+                EXPECT_GE(texto->Lugar.y, eje - 1.39 * E - 2) << "slab " << vez;
+                EXPECT_LE(texto->Lugar.y + texto->Medida.Alto, eje + 1.39 * E + 2) << "slab " << vez;
             }
         }
     }

@@ -72,7 +72,8 @@ struct ValorDeTramo {
 };
 
 /// A value at the end of a diagram's ordinate: the block arrow that points to it from outside, and its text
-/// beside the arrow. A text stays in its diagram's band; `Lado` is the side of the arrow that it prefers.
+/// beside the arrow, or as near as there is room. A text stays in its diagram's band; `Lado` is the side of
+/// the arrow that it prefers.
 void RotularExtremo(Trazado& t, const Diagrama& diagrama, double x, double eje, const ValorDeTramo& v) {
     const std::string texto = t.Numero(v.Valor, "0");
     if (texto == "0" || texto.empty()) return;
@@ -87,9 +88,8 @@ void RotularExtremo(Trazado& t, const Diagrama& diagrama, double x, double eje, 
     const double junto = 0.06 * p.Escala() + p.Unidades(2) + medida.Ancho / 2.0;
     const double alto = std::fabs(subida);
     std::vector<Centro> centros;
-    for (const double distancia :
-         {std::min(alto + 0.6 * LargoDeFlecha * p.Escala(), limite), std::min(alto + medio, limite), medio,
-          limite, limite + 2 * medio, -medio}) {
+    for (const double distancia : {std::min(alto + 0.6 * LargoDeFlecha * p.Escala(), limite),
+                                   std::min(alto + medio, limite), medio, limite, -medio, -limite}) {
         for (const double corrimiento : {1.0, -1.0, 0.0, 2.0, -2.0, 3.0})
             centros.push_back({x + corrimiento * v.Lado * junto, eje + fuera * distancia});
     }
