@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "base/Enteros.h"
 #include "slab/Banda.h"
 #include "slab/Barra.h"
 #include "slab/EsfuerzosTramo.h"
@@ -80,9 +79,8 @@ class Analisis {
     std::vector<ParDeCasos> F_;     // loads, then displacements, of degree of freedom k + 1
 };
 
-/// The rows of the band matrix are a 16-bit count.
 void Analisis::Dimensionar() {
-    Entero16(static_cast<std::int64_t>(NDOF() + AnchoBanda));
+    if (N_ > MaximoTramos) throw ErrorEjecucion(CodigoError::Desbordamiento);
     restricciones_.resize(N_ + 2);
     barras_.reserve(N_ + 1);
     diagonal_.resize(NDOF());

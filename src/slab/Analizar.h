@@ -7,7 +7,7 @@
 namespace trabex::losas {
 
 /// Largest number of spans: past it the 16-bit count of the stiffness matrix' rows, 3(N + 1) + 6, overflows.
-inline constexpr std::int16_t MaximoTramos = 10919;
+inline constexpr std::size_t MaximoTramos = 10919;
 
 /// Solves the slab as a plane frame by direct stiffness, for the permanent and the live load case, and leaves
 /// displacements, reactions, end forces, the largest moment of each span and the three scalars.

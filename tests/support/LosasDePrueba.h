@@ -1,8 +1,10 @@
 #pragma once
 
+#include <array>
 #include <initializer_list>
 #include <random>
 #include <string>
+#include <vector>
 
 #include "slab/Losa.h"
 
@@ -53,6 +55,29 @@ inline Losa LosaAlAzar(std::mt19937& azar, bool desplazada) {
     for (int k = entero(1, 3); desplazada && k > 0; --k)
         losa.JuntasD.push_back(
             {static_cast<std::int16_t>(entero(1, tramos + 1)), entre(-0.3, 0.3), entre(-1, 1)});
+    return losa;
+}
+
+/// A slab of the given support types with spans of 0.8 to 7 m and a point load in every place that it can
+/// have: none, inside, over either joint, past the span.
+inline Losa LosaDeTipos(std::mt19937& azar, const std::vector<std::int16_t>& tipos, bool desplazada) {
+    const auto entre = [&](double a, double b) { return std::uniform_real_distribution<>(a, b)(azar); };
+    const auto entero = [&](int a, int b) { return std::uniform_int_distribution<>(a, b)(azar); };
+    Losa losa;
+    losa.OpcionMaciza = entero(0, 1) == 1;
+    for (std::size_t i = 1; i < tipos.size(); ++i) {
+        Tramo tramo{entre(0.8, 7), entero(50, 900), entero(0, 500), entero(100, 3000), 0};
+        const std::array<double, 5> lugares{0, tramo.LT, tramo.LT * entre(0.05, 0.95), tramo.LT + 0.1, 0};
+        const int lugar = entero(0, 4);
+        tramo.L1 = lugares[static_cast<std::size_t>(lugar)];
+        if (lugar == 4) tramo.p1 = 0;
+        losa.Tramos.push_back(tramo);
+    }
+    for (std::size_t j = 1; j <= tipos.size(); ++j)
+        losa.Ejes.push_back({std::to_string(j), tipos[j - 1], 0, 0, 0});
+    for (int k = 0; desplazada && k < 2; ++k)
+        losa.JuntasD.push_back({static_cast<std::int16_t>(entero(1, static_cast<int>(tipos.size()))),
+                                entre(-0.3, 0.3), entre(-1, 1)});
     return losa;
 }
 

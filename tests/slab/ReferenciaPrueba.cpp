@@ -1,0 +1,276 @@
+#include <array>
+#include <cmath>
+#include <functional>
+
+#include <gtest/gtest.h>
+
+#include "slab/CalcularLosa.h"
+#include "slab/EsfuerzosTramo.h"
+#include "support/DisenoDeReferencia.h"
+#include "support/LosasDePrueba.h"
+
+namespace trabex {
+
+using namespace losas;
+namespace {
+
+using prueba::Real;
+
+/// One rounded digit, with what the factors of a moment make of it.
+constexpr double Decima8 = 1.01e-8;
+constexpr double Diseno = 1e-7;
+
+void Cerca(double valor, Real referencia, double tolerancia, const std::string& que) {
+    EXPECT_NEAR(valor, static_cast<double>(referencia), tolerancia) << que;
+}
+
+/// The forces of every span and the state of every joint, to the last of their 8 decimals.
+void CompararCaso(const Losa& losa, const ResultadosLosa& r, std::size_t caso, const prueba::PorticoDenso& p,
+                  double tolerancia) {
+    for (std::size_t i = 1; i < losa.Tramos.size(); ++i) {
+        const EsfuerzosTramo& t = r.ResultadoTramo[caso][i];
+        const auto& e = p.ExtremosDeBarras()[i];
+        const std::string que = "caso " + std::to_string(caso) + " tramo " + std::to_string(i);
+        Cerca(t.MomentoA, e.MA, tolerancia, que);
+        Cerca(t.CorteA, e.VA, tolerancia, que);
+        Cerca(t.AxialA, e.NA, tolerancia, que);
+        Cerca(t.MomentoB, e.MB, tolerancia, que);
+        Cerca(t.CorteB, e.VB, tolerancia, que);
+        Cerca(t.AxialB, e.NB, tolerancia, que);
+    }
+    for (std::size_t j = 1; j <= losa.Tramos.size(); ++j) {
+        const EstadoJunta& junta = r.ResultadoJunta[caso][j];
+        const auto d = p.DesplazamientoDe(j);
+        const auto [RV, RH] = p.FuerzasEn(j);
+        const std::string que = "caso " + std::to_string(caso) + " junta " + std::to_string(j);
+        const double menor = 0.01 * tolerancia;
+        Cerca(junta.DX, d.DX, menor, que);
+        Cerca(junta.DY, d.DY, menor, que);
+        Cerca(junta.Giro, d.Giro, menor, que);
+        const int tipo = losa.Ejes[j].Tipo;
+        const bool X = tipo == 1 || tipo == 3 || tipo == 4;
+        const bool Y = tipo == 1 || tipo == 2 || tipo == 4;
+        EXPECT_EQ(junta.RestringidaX, X) << que;
+        EXPECT_EQ(junta.RestringidaY, Y) << que;
+        EXPECT_EQ(junta.RestringidoGiro, tipo == 4) << que;
+        Cerca(junta.RV, Y ? RV : 0, 2 * tolerancia, que);
+        Cerca(junta.RH, X ? RH : 0, 2 * tolerancia, que);
+    }
+}
+
+/// Every field of the design. Spans that the rules judge by the last digit are left out.
+void CompararDiseno(const Losa& losa, const ResultadosLosa& r, const prueba::DisenoDeReferencia& d,
+                    double tolerancia) {
+    for (std::size_t j = 1; j <= losa.Tramos.size(); ++j) {
+        const DisenoDeEje& eje = r.DisenoEje[j];
+        const std::string que = "junta " + std::to_string(j);
+        Cerca(eje.AS1, d.Ejes[j].AS1, tolerancia, que);
+        Cerca(eje.AS2, d.Ejes[j].AS2, tolerancia, que);
+        Cerca(eje.MczI, d.Ejes[j].MczI, tolerancia, que);
+        Cerca(eje.MczD, d.Ejes[j].MczD, tolerancia, que);
+        if (j < losa.Tramos.size() && !d.Dudoso[j]) Cerca(eje.PtoD, d.Ejes[j].PtoD, tolerancia, que);
+        if (!d.Dudoso[j - 1]) Cerca(eje.PtoI, d.Ejes[j].PtoI, tolerancia, que);
+    }
+    for (std::size_t i = 1; i < losa.Tramos.size(); ++i) {
+        const DisenoDeTramo& tramo = r.DisenoTramo[i];
+        const std::string que = "tramo " + std::to_string(i);
+        Cerca(tramo.MT, d.Tramos[i].MT, tolerancia, que);
+        if (!d.Dudoso[i]) Cerca(tramo.x, d.Tramos[i].x, tolerancia, que);
+        Cerca(tramo.AS1, d.Tramos[i].AS1, tolerancia, que);
+        Cerca(tramo.AS2, d.Tramos[i].AS2, tolerancia, que);
+    }
+    Cerca(r.MaxMomentoApoyo, d.MaxMomentoApoyo, tolerancia, "MaxMomentoApoyo");
+    Cerca(r.MaxCorte, d.MaxCorte, tolerancia, "MaxCorte");
+    Cerca(r.MaxMomentoTramo, d.MaxMomentoTramo, tolerancia, "MaxMomentoTramo");
+}
+
+/// A slab that hardly holds moves by centimetres, and its forces lose as many digits as it moves more.
+double Holgura(const Losa& losa, const prueba::PorticoDenso& p) {
+    Real mayor = 0;
+    for (std::size_t j = 1; j <= losa.Tramos.size(); ++j) {
+        const auto d = p.DesplazamientoDe(j);
+        mayor = std::max({mayor, std::fabs(d.DX), std::fabs(d.DY)});
+    }
+    return std::max(1.0, static_cast<double>(mayor) / 0.05);
+}
+
+void CompararTodo(const Losa& losa) {
+    DatosGenerales g;
+    g.FC = losa.OpcionMaciza ? 210 : 350;
+    ResultadosLosa r;
+    CalcularLosa(losa, g, r);
+    ASSERT_FALSE(r.Error);
+    const prueba::PorticoDenso permanente(losa, g.FC, false);
+    const prueba::PorticoDenso variable(losa, g.FC, true);
+    const double holgura = std::max(Holgura(losa, permanente), Holgura(losa, variable));
+    CompararCaso(losa, r, CasoPermanente, permanente, Decima8 * holgura);
+    CompararCaso(losa, r, CasoVariable, variable, Decima8 * holgura);
+    CompararDiseno(losa, r, prueba::DisenoDeReferencia(losa, g, permanente, variable), Diseno * holgura);
+}
+
+/// Whether the supports leave the rigid slab no motion: their rows on (X, Y, turn) have rank 3.
+bool SeSostiene(const Losa& losa) {
+    std::vector<std::array<double, 3>> base;
+    double x = 0;
+    for (std::size_t j = 1; j < losa.Ejes.size(); ++j) {
+        double X = x;
+        double Y = 0;
+        for (const JuntaD& d : losa.JuntasD) {
+            if (static_cast<std::size_t>(d.Junta) == j) X += d.x, Y += d.y;
+        }
+        if (j < losa.Tramos.size()) x += losa.Tramos[j].LT;
+        const int tipo = losa.Ejes[j].Tipo;
+        std::vector<std::array<double, 3>> filas;
+        if (tipo == 1 || tipo == 3 || tipo == 4) filas.push_back({1, 0, Y});
+        if (tipo == 1 || tipo == 2 || tipo == 4) filas.push_back({0, 1, X});
+        if (tipo == 4) filas.push_back({0, 0, 1});
+        for (auto fila : filas) {
+            for (const auto& b : base) {
+                const double proyeccion = fila[0] * b[0] + fila[1] * b[1] + fila[2] * b[2];
+                for (std::size_t k = 0; k < 3; ++k) fila[k] -= proyeccion * b[k];
+            }
+            const double norma = std::hypot(fila[0], fila[1], fila[2]);
+            if (norma > 1e-6) base.push_back({fila[0] / norma, fila[1] / norma, fila[2] / norma});
+        }
+    }
+    return base.size() == 3;
+}
+
+/// Calls `accion` with each row of `juntas` support types.
+void CadaFilaDeTipos(std::size_t juntas,
+                     const std::function<void(const std::vector<std::int16_t>&)>& accion) {
+    std::vector<std::int16_t> tipos(juntas, 1);
+    for (;;) {
+        accion(tipos);
+        std::size_t k = 0;
+        while (k < juntas && tipos[k] == 5) tipos[k++] = 1;
+        if (k == juntas) return;
+        ++tipos[k];
+    }
+}
+
+TEST(Referencia, CadaTipoDeApoyoEnCadaLugar) {
+    std::mt19937 azar(17);
+    int sostenidas = 0;
+    for (const std::size_t juntas : {2, 3, 4}) {
+        CadaFilaDeTipos(juntas, [&](const std::vector<std::int16_t>& tipos) {
+            for (const bool desplazada : {false, true}) {
+                const Losa losa = prueba::LosaDeTipos(azar, tipos, desplazada);
+                SCOPED_TRACE(testing::PrintToString(tipos) + (desplazada ? " desplazada" : ""));
+                if (!SeSostiene(losa)) continue;
+                ++sostenidas;
+                CompararTodo(losa);
+            }
+        });
+    }
+    EXPECT_GT(sostenidas, 1000);
+}
+
+TEST(Referencia, LosasDeIngenieros) {
+    std::mt19937 azar(11);
+    for (int vez = 0; vez < 400; ++vez) {
+        SCOPED_TRACE(vez);
+        CompararTodo(prueba::LosaAlAzar(azar, vez % 2 == 0));
+    }
+}
+
+TEST(Referencia, MuchosTramos) {
+    std::mt19937 azar(19);
+    std::vector<std::int16_t> tipos(151, RodilloEnX);
+    tipos[0] = tipos[150] = SinApoyo;
+    tipos[70] = ApoyoFijo;
+    CompararTodo(prueba::LosaDeTipos(azar, tipos, false));
+    // On its two ends alone, the chain is a beam of 40 m.
+    CompararTodo(prueba::LosaUniforme(8, 5, 30, 10));
+}
+
+/// Equal spans without end: at the k-th inner support M = −w·L²/12·(1 − (√3 − 2)^k).
+TEST(Referencia, ElMayorNumeroDeTramos) {
+    ResultadosLosa r;
+    CalcularLosa(prueba::LosaUniforme(10919, 5, 300, 200), {}, r);
+    for (std::size_t k = 0; k < 12; ++k) {
+        const double M = -300 * 25 / 12.0 * (1 - std::pow(std::sqrt(3) - 2, static_cast<double>(k)));
+        EXPECT_NEAR(r.ResultadoTramo[1][k + 1].MomentoA, M, 0.02) << k;
+        EXPECT_NEAR(r.ResultadoTramo[1][10919 - k].MomentoB, M, 0.02) << k;
+    }
+}
+
+/// The same slab from its other end. What the rules take from one side only is left out: the steel of a joint
+/// (its right span), solid zones (the load of its left span), inflection points of a span whose shear is
+/// negative at its start (|V|) or that is walked from one end under a point load.
+TEST(Referencia, ElEspejoDaLoMismoAlReves) {
+    std::mt19937 azar(31);
+    CadaFilaDeTipos(4, [&](const std::vector<std::int16_t>& tipos) {
+        Losa losa = prueba::LosaDeTipos(azar, tipos, false);
+        for (Tramo& tramo : losa.Tramos) {
+            if (tramo.L1 > tramo.LT) tramo.p1 = 0;
+        }
+        if (!SeSostiene(losa)) return;
+        SCOPED_TRACE(testing::PrintToString(tipos));
+        const std::size_t N = losa.Tramos.size() - 1;
+        ResultadosLosa r;
+        ResultadosLosa e;
+        CalcularLosa(losa, {}, r);
+        CalcularLosa(prueba::Espejo(losa), {}, e);
+        for (std::size_t i = 1; i <= N; ++i) {
+            for (const std::size_t caso : {CasoPermanente, CasoVariable}) {
+                const EsfuerzosTramo& a = r.ResultadoTramo[caso][i];
+                const EsfuerzosTramo& b = e.ResultadoTramo[caso][N + 1 - i];
+                EXPECT_NEAR(a.MomentoA, b.MomentoB, 2 * Decima8);
+                EXPECT_NEAR(a.CorteA, b.CorteB, 2 * Decima8);
+                EXPECT_NEAR(a.AxialA, b.AxialB, 2 * Decima8);
+            }
+            const Tramo& tramo = losa.Tramos[i];
+            const ExtremosMayorados x = MayorarExtremos(r, {}, i);
+            if ((tramo.p1 != 0 && tramo.L1 != 0 && tramo.L1 != tramo.LT) || x.Vi < 1e-3 || x.Vj < 1e-3)
+                continue;
+            EXPECT_NEAR(r.DisenoEje[i].PtoD, e.DisenoEje[N + 2 - i].PtoI, Diseno);
+            EXPECT_NEAR(r.DisenoEje[i + 1].PtoI, e.DisenoEje[N + 1 - i].PtoD, Diseno);
+            EXPECT_NEAR(r.DisenoTramo[i].MT, e.DisenoTramo[N + 1 - i].MT, Diseno);
+            EXPECT_NEAR(r.DisenoTramo[i].AS2, e.DisenoTramo[N + 1 - i].AS2, Diseno);
+        }
+        for (std::size_t j = 1; j <= N + 1; ++j) {
+            EXPECT_NEAR(r.ResultadoJunta[1][j].RV, e.ResultadoJunta[1][N + 2 - j].RV, 4 * Decima8);
+            EXPECT_NEAR(r.ResultadoJunta[1][j].Giro, -e.ResultadoJunta[1][N + 2 - j].Giro, 1e-12);
+        }
+    });
+}
+
+TEST(Referencia, SoloLoQueNadaSujetaSeNombra) {
+    std::mt19937 azar(41);
+    std::array<int, 2> cuantas{};
+    for (const std::size_t juntas : {2, 3, 5}) {
+        CadaFilaDeTipos(juntas, [&](const std::vector<std::int16_t>& tipos) {
+            for (const bool desplazada : {false, true}) {
+                const Losa losa = prueba::LosaDeTipos(azar, tipos, desplazada);
+                ResultadosLosa r;
+                CalcularLosa(losa, {}, r);
+                EXPECT_EQ(r.DireccionesLibres.empty(), SeSostiene(losa))
+                    << testing::PrintToString(tipos) << desplazada;
+                ++cuantas[r.DireccionesLibres.empty() ? 0 : 1];
+            }
+        });
+    }
+    EXPECT_GT(cuantas[0], 1000);
+    EXPECT_GT(cuantas[1], 400);
+}
+
+TEST(Referencia, LaDireccionQueNadaSujeta) {
+    const auto libres = [](std::vector<std::int16_t> tipos) {
+        Losa losa = prueba::LosaContinua({4, 5}, 300);
+        for (std::size_t j = 0; j < 3; ++j) losa.Ejes[j + 1].Tipo = tipos[j];
+        ResultadosLosa r;
+        CalcularLosa(losa, {}, r);
+        std::vector<std::pair<std::size_t, Direccion>> pares;
+        for (const DireccionLibre& libre : r.DireccionesLibres) pares.emplace_back(libre.Junta, libre.En);
+        return pares;
+    };
+    using Pares = std::vector<std::pair<std::size_t, Direccion>>;
+    EXPECT_EQ(libres({RodilloEnX, RodilloEnX, RodilloEnX}), (Pares{{3, Direccion::X}}));
+    EXPECT_EQ(libres({ApoyoFijo, SinApoyo, SinApoyo}), (Pares{{3, Direccion::Giro}}));
+    EXPECT_EQ(libres({RodilloEnY, RodilloEnY, Empotramiento}), Pares{});
+    EXPECT_EQ(libres({RodilloEnY, RodilloEnX, SinApoyo}), (Pares{{3, Direccion::Giro}}));
+}
+
+}  // namespace
+}  // namespace trabex
