@@ -4,10 +4,11 @@
 
 namespace trabex {
 
-AceroCaras RefuerzoEscalera(double M, double Ancho, double Alto, const DatosGenerales& generales) {
-    const double Mu = ((std::fabs(M) * generales.FS) / generales.FiMomento) * 100;
-    const SeccionFlexion seccion{Ancho * 100, Alto * 100, generales.D8 * 100};
-    return RepartirEnCaras(M, RefuerzoFlexion(Mu, seccion, {generales.FC, generales.FY}));
+AceroCaras RefuerzoEscalera(double M, double Ancho, double Alto, const DatosGenerales& generales,
+                            const Pasos& pasos) {
+    const double Mu = pasos([&] { return ((std::fabs(M) * generales.FS) / generales.FiMomento) * 100; });
+    const auto seccion = pasos([&] { return SeccionFlexion{Ancho * 100, Alto * 100, generales.D8 * 100}; });
+    return RepartirEnCaras(M, RefuerzoFlexion(Mu, seccion, {generales.FC, generales.FY}, pasos));
 }
 
 }  // namespace trabex

@@ -1,5 +1,6 @@
 #include "base/RefuerzoFlexion.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace trabex {
@@ -26,22 +27,23 @@ double EjeNeutroLimite(double d, std::int16_t FC) {
 
 }  // namespace
 
-AcerosFlexion RefuerzoFlexion(double Mu, const SeccionFlexion& seccion, const Materiales& materiales) {
+AcerosFlexion RefuerzoFlexion(double Mu, const SeccionFlexion& seccion, const Materiales& materiales,
+                              const Pasos& pasos) {
     const double fc = materiales.FC;
     const double fy = materiales.FY;
     const double rec = seccion.Recubrimiento;
     const double b = seccion.b;
     const double d = seccion.h - rec;
-    const double Mlim = d * d * (((fc * 0.2) * 0.882) * b);
-    if (!(Mu > Mlim)) return {SoloTraccion(Mu, b, d, fc, fy), 0};
+    const double Mlim = pasos([&] { return d * d * (((fc * 0.2) * 0.882) * b); });
+    if (!(Mu > Mlim)) return {pasos([&] { return SoloTraccion(Mu, b, d, fc, fy); }), 0};
 
-    const double As1 = Mlim / ((fy * 0.882) * d);
-    const double Mr = Mu - Mlim;
-    const double As2 = Mr / ((d - rec) * fy);
-    const double c = EjeNeutroLimite(d, materiales.FC);
-    double fs = ((c - rec) * 6300) / c;
-    if (fs > fy) fs = fy;
-    return {As1 + As2, Mr / ((d - rec) * fs)};
+    const double As1 = pasos([&] { return Mlim / ((fy * 0.882) * d); });
+    const double Mr = pasos([&] { return Mu - Mlim; });
+    const double As2 = pasos([&] { return Mr / ((d - rec) * fy); });
+    const double Ast = pasos([&] { return As1 + As2; });
+    const double c = pasos([&] { return EjeNeutroLimite(d, materiales.FC); });
+    const double fs = pasos([&] { return std::min(((c - rec) * 6300) / c, fy); });
+    return {Ast, pasos([&] { return Mr / ((d - rec) * fs); })};
 }
 
 AceroCaras RepartirEnCaras(double M, const AcerosFlexion& As) {

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include "base/VigilanciaFlotante.h"
+
 namespace trabex {
 
 /// A rectangular section under flexure, in cm.
@@ -24,13 +26,18 @@ struct AcerosFlexion {
 };
 
 /// Flexural steel of a rectangular section by ultimate strength, for Mu = |M|·(load factor)/φ·100 in kgf·cm,
-/// not negative.
+/// not negative; lengths in cm, stresses in kgf/cm².
 ///
-/// Up to the moment of a mechanical ratio of 0.2 (Mlim = 0.2·F'c·0.882·b·d²) the section takes tension steel
-/// only, As = Mu/(Fy·(1 − 0.59ω)·d); beyond it the excess is carried by a couple of steels, the compression
-/// one at a stress of at most Fy. Neither minimum nor maximum steel applies. Whitney's rectangular block,
-/// as in ACI 318-63 and its successors. A section too small for its cover yields what the formulas yield.
-AcerosFlexion RefuerzoFlexion(double Mu, const SeccionFlexion& seccion, const Materiales& materiales);
+/// Whitney's rectangular block (ACI 318-63, 16.1, and its successors), with q = As·Fy/(b·d·F'c):
+///   up to Mlim = 0.2·F'c·(1 − 0.59·0.2)·b·d², of q = 0.2: tension steel alone,
+///       Mu = As·Fy·d·(1 − 0.59·q), solved for q by 0.59 = 1/(2·0.85) and then for As;
+///   beyond it: As1 = Mlim/(0.882·Fy·d), and a couple of steels at d − d' for the rest, the compression one
+///       at fs = 6300·(c − d')/c ≤ Fy, where c = 0.2·d/(0.85·β1) and β1 = 0.85 less 0.05 for each 70 kgf/cm²
+///       of F'c over 280.
+/// Neither minimum nor maximum steel applies, β1 and fs have no lower limit, and a section too small for its
+/// cover yields what the formulas yield.
+AcerosFlexion RefuerzoFlexion(double Mu, const SeccionFlexion& seccion, const Materiales& materiales,
+                              const Pasos& pasos = {});
 
 /// Theoretical steel at the two faces of a section, cm².
 struct AceroCaras {

@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "base/DatosGenerales.h"
+#include "base/VigilanciaFlotante.h"
 #include "helical/DatosEscaleraH.h"
 
 namespace trabex::helices {
@@ -14,13 +15,15 @@ struct EstribosHelice {
     double Longitudinal = 0;      ///< longitudinal steel for torsion, cm²
 };
 
-/// Stirrups and longitudinal steel for a service shear (kgf) and the area of the torsion diagram (ACI 318-83
-/// and its like, with a fixed reduction factor of 0.85); width and height in m.
+/// Stirrups and longitudinal steel for a service shear (kgf) and the area of the torsion diagram, taken as a
+/// torsion in kgf·m, by SeparacionPorArea with Tu = FS·|Torsion| and V = FS·|Cortante|; width and height in
+/// m.
 ///
-/// The spacing is a whole number. A spacing under 8 cm is worked out once more with the larger bar, and that
-/// result stands. A spacing of 0 raises a division by zero.
+/// The spacing is a whole number, at most (x1 + y1)/4 and 30 cm. A spacing under 8 cm is worked out once more
+/// with the 1/2" bar, and that result stands. Longitudinal steel: 2·A·(x1 + y1)/s (ACI 318-83, 11.6.9.3), so
+/// that a spacing of 0 raises a division by zero.
 EstribosHelice EstribosEscalera(double Cortante, double Torsion, double Ancho, double Alto,
-                                const DatosGenerales& generales);
+                                const DatosGenerales& generales, const Pasos& pasos = {});
 
 /// Minimum flexural steel of the flight, cm²: AceroMinimoDeLosa of one that is wider than deep,
 /// AceroMinimoDeViga otherwise.

@@ -2,11 +2,16 @@
 
 #include <cmath>
 
+#include "base/Angulos.h"
+
 namespace trabex::helices {
 
-GeometriaHelice GeometriaDe(const DatosEscaleraH& escalera) {
-    const double L = escalera.R * DosPiHelice * escalera.Angulo / 360;
-    return {L, EnGrados(std::atan(escalera.H / L))};
+double LargoEnPlanta(const DatosEscaleraH& escalera) {
+    return escalera.R * DosPi * escalera.Angulo / 360;
+}
+
+double PendienteEnGrados(const DatosEscaleraH& escalera, double L) {
+    return EnGrados(std::atan(escalera.H / L));
 }
 
 CalculoEstaticoH::CalculoEstaticoH(const DatosEscaleraH& e, double Alfa)
@@ -43,24 +48,32 @@ HiperestaticasHelice CalculoEstaticoH::Resolver(double fi, double m, double Rr) 
     return {-(E * D - C * F) / denominador, -(A * F - E * C) / denominador};
 }
 
-EstacionEscaleraH CalculoEstaticoH::EsfuerzosEn(double teta) const {
-    const auto [X, Y] = incognitas_;
+double CalculoEstaticoH::N(double teta) const {
+    return (seno_ * teta - coseno_ * incognitas_.X * std::sin(teta)) * W_ * R_;
+}
+
+double CalculoEstaticoH::QX(double teta) const {
+    return (coseno_ * teta + seno_ * incognitas_.X * std::sin(teta)) * W_ * R_;
+}
+
+void CalculoEstaticoH::EsfuerzosEn(double teta, const Pasos& pasos, EstacionEscaleraH& estacion) const {
+    const double X = incognitas_.X;
+    const double Y = incognitas_.Y;
     const double seno = std::sin(teta);
     const double coseno = std::cos(teta);
-    const double WR2 = R_ * R_ * W_;
-    EstacionEscaleraH estacion;
-    estacion.N = (seno_ * teta - coseno_ * X * seno) * W_ * R_;
-    estacion.QX = (coseno_ * teta + seno_ * X * seno) * W_ * R_;
-    estacion.QY = coseno * X * W_ * R_;
-    estacion.MT = WR2 * (coseno_ * teta - coseno_ * Y * seno - seno_ * X * teta * coseno + seno_ * X * seno);
-    estacion.MX = WR2 * (c0_ - tangente_ * X * teta * seno + coseno * Y);
-    if (estacion.MX < 0)
-        estacion.MS1 = estacion.MX;
-    else
-        estacion.MI1 = estacion.MX;
-    estacion.MY =
-        WR2 * (-seno_ * teta + seno_ * Y * seno + tangente_ * seno_ * X * teta * coseno + coseno_ * X * seno);
-    return estacion;
+    const double WR2 = pasos([&] { return R_ * R_ * W_; });
+    estacion.N = pasos([&] { return N(teta); });
+    estacion.QX = pasos([&] { return QX(teta); });
+    estacion.QY = pasos([&] { return coseno * X * W_ * R_; });
+    estacion.MT = pasos([&] {
+        return WR2 * (coseno_ * teta - coseno_ * Y * seno - seno_ * X * teta * coseno + seno_ * X * seno);
+    });
+    estacion.MX = pasos([&] { return WR2 * (c0_ - tangente_ * X * teta * seno + coseno * Y); });
+    (estacion.MX < 0 ? estacion.MS1 : estacion.MI1) = estacion.MX;
+    estacion.MY = pasos([&] {
+        return WR2 * (-seno_ * teta + seno_ * Y * seno + tangente_ * seno_ * X * teta * coseno +
+                      coseno_ * X * seno);
+    });
 }
 
 }  // namespace trabex::helices

@@ -1,27 +1,16 @@
 #pragma once
 
+#include "base/VigilanciaFlotante.h"
 #include "helical/DatosEscaleraH.h"
 #include "helical/ResultadosEscaleraH.h"
 
 namespace trabex::helices {
 
-/// π as the helical formulas write it.
-inline constexpr double PiHelice = 3.14159265358979;
-inline constexpr double DosPiHelice = 6.28318530717958;
+/// Developed plan length R·2π·Angulo/360, m.
+double LargoEnPlanta(const DatosEscaleraH& escalera);
 
-inline double EnRadianes(double grados) {
-    return grados * PiHelice / 180;
-}
-inline double EnGrados(double radianes) {
-    return radianes * 180 / PiHelice;
-}
-
-/// Developed plan length, m, and slope of the axis, degrees.
-struct GeometriaHelice {
-    double L;
-    double Alfa;
-};
-GeometriaHelice GeometriaDe(const DatosEscaleraH& escalera);
+/// Slope of the axis for that length, arctan(H/L), degrees.
+double PendienteEnGrados(const DatosEscaleraH& escalera, double L);
 
 /// The two unknowns at the centre of the flight, dimensionless: shear X·W·R and moment W·R²·(c0 + Y).
 struct HiperestaticasHelice {
@@ -32,9 +21,10 @@ struct HiperestaticasHelice {
 /// Forces in a helicoidal bar of section B by T, fixed at both ends, under W per metre of plan arc.
 ///
 /// Force method (V. A. Morgan, "Comparison of analysis of helical staircases", 1960): by symmetry about the
-/// centre only the horizontal shear and the moment about the radial axis are unknown there. Bending about
-/// both axes and torsion deform the bar, axial force and shear do not; the torsional stiffness is
-/// 2·E·I1·I2/(I1 + I2). The load acts at the centroid of the annular sector, B²/(12·R) outside the axis.
+/// centre only the horizontal shear and the moment about the radial axis are unknown there, and they make the
+/// work  ∫(MX²/2EI1 + MY²/2EI2 + MT²/2GJ)ds  least, with I1 = B·T³/12, I2 = T·B³/12 and
+/// GJ = 2·E·I1·I2/(I1 + I2): axial force and shear do not deform the bar. The load acts at the centroid of
+/// the annular sector, B²/(12·R) outside the axis. Lengths in m, forces in kgf, moments in kgf·m.
 class CalculoEstaticoH {
   public:
     /// `Alfa` in degrees.
@@ -42,8 +32,13 @@ class CalculoEstaticoH {
 
     const HiperestaticasHelice& Hiperestaticas() const { return incognitas_; }
 
-    /// Forces at the angle θ in plan from the centre, radians; negative towards the upper support.
-    EstacionEscaleraH EsfuerzosEn(double teta) const;
+    /// Axial force and the shear in the plane of the thickness at the angle θ in plan from the centre,
+    /// radians; negative towards the upper support.
+    double N(double teta) const;
+    double QX(double teta) const;
+
+    /// All forces at the angle θ.
+    void EsfuerzosEn(double teta, const Pasos& pasos, EstacionEscaleraH& estacion) const;
 
     /// Sine and cosine of the slope.
     double Seno() const { return seno_; }

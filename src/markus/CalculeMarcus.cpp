@@ -38,22 +38,40 @@ double CoeficienteX(const FormulaDeCaso& formula, double LX, double LY) {
     return (formula.DivideLX ? r : formula.Suma) / (r + formula.Suma);
 }
 
-/// Walks panels in order, carrying CX from one to the next.
-class Recorrido {
-  public:
-    RepartoMarcus Repartir(const PanoMarcus& pano) {
-        if (pano.Caso >= 1 && pano.Caso <= static_cast<int>(Formulas.size()))
-            CX_ = CoeficienteX(Formulas[static_cast<std::size_t>(pano.Caso) - 1], pano.LX, pano.LY);
-        const double CY = CX_ > 0 ? 1 - CX_ : 0;
-        const RepartoMarcus reparto{CX_, CY, pano.Carga * CX_, pano.Carga * CY};
-        vigilancia_.Comprobar();
-        return reparto;
-    }
+/// What a panel gets, where `CX` comes from the panel before it.
+RepartoMarcus Repartir(const PanoMarcus& pano, double CX) {
+    for (const double numero : {pano.Carga, pano.LX, pano.LY})
+        if (std::isnan(numero)) throw ErrorEjecucion(CodigoError::TiposNoCoinciden);
+    if (pano.Caso >= 1 && pano.Caso <= static_cast<int>(Formulas.size()))
+        CX = CoeficienteX(Formulas[static_cast<std::size_t>(pano.Caso) - 1], pano.LX, pano.LY);
+    const double CY = CX > 0 ? 1 - CX : 0;
+    return {CX, CY, pano.Carga * CX, pano.Carga * CY};
+}
 
-  private:
-    const VigilanciaFlotante vigilancia_;
-    double CX_ = 0;
-};
+/// Walks rows in order, carrying CX from one to the next. Those before a fault get what was found for them,
+/// the others keep what they had.
+template <class Fila, class Leer>
+void RepartirFilas(std::span<Fila> filas, Leer leer) {
+    std::vector<RepartoMarcus> repartos;
+    repartos.reserve(filas.size());
+    const auto guardar = [&] {
+        for (std::size_t i = 0; i < repartos.size(); ++i) filas[i].Reparto = repartos[i];
+    };
+    try {
+        Vigilar([&](const Pasos& pasos) {
+            repartos.clear();
+            double CX = 0;
+            for (const Fila& fila : filas) {
+                repartos.push_back(pasos([&] { return Repartir(leer(fila), CX); }));
+                CX = repartos.back().CX;
+            }
+        });
+    } catch (const ErrorEjecucion&) {
+        guardar();
+        throw;
+    }
+    guardar();
+}
 
 double Numero(const std::string& texto) {
     if (const auto numero = LeerNumero(texto)) return *numero;
@@ -72,13 +90,11 @@ PanoMarcus LeerFila(const FilaMarcus& fila) {
 }  // namespace
 
 void CalculePanos(std::span<PanoMarcus> panos) {
-    Recorrido recorrido;
-    for (PanoMarcus& pano : panos) pano.Reparto = recorrido.Repartir(pano);
+    RepartirFilas(panos, [](const PanoMarcus& pano) -> const PanoMarcus& { return pano; });
 }
 
 void CalculeMarcus(std::span<FilaMarcus> filas) {
-    Recorrido recorrido;
-    for (FilaMarcus& fila : filas) fila.Reparto = recorrido.Repartir(LeerFila(fila));
+    RepartirFilas(filas, LeerFila);
 }
 
 }  // namespace trabex::marcus

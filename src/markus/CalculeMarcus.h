@@ -15,7 +15,7 @@ struct RepartoMarcus {
     double WY = 0;
 };
 
-/// A rectangular two-way panel.
+/// A rectangular two-way panel. A number that was left empty is NaN.
 struct PanoMarcus {
     double Carga = 0;       ///< in whatever unit the engineer takes it to be: it is only shared out
     std::int16_t Caso = 1;  ///< support case, 1 to 9
@@ -44,8 +44,9 @@ struct FilaMarcus {
 /// centre (H. Marcus, "Die vereinfachte Berechnung biegsamer Platten", 1925), by support case.
 ///
 /// A length that is not above 0 where the formula divides by it gives shares of 0. A case out of 1 … 9
-/// repeats the CX of the panel before it, 0 at the first. Throws ErrorEjecucion 6 when the ratio of the
-/// lengths is past the range of numbers: that panel and those after it keep the results they had.
+/// repeats the CX of the panel before it, 0 at the first. Throws ErrorEjecucion 13 at an empty number, and 6
+/// when the ratio of the lengths is past the range of numbers: that panel and those after it keep the results
+/// they had.
 void CalculePanos(std::span<PanoMarcus> panos);
 
 /// The same on the grid's rows. An empty case is 1. Throws ErrorEjecucion 13 at a text that is no number, and

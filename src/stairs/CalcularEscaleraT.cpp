@@ -1,7 +1,9 @@
 #include "stairs/CalcularEscaleraT.h"
 
 #include <cmath>
+#include <tuple>
 
+#include "base/Angulos.h"
 #include "base/VigilanciaFlotante.h"
 #include "stairs/DisenoEscaleraT.h"
 #include "stairs/EstaticaEscaleraT.h"
@@ -10,43 +12,42 @@ namespace trabex::escaleras {
 
 namespace {
 
-constexpr std::size_t UltimaEstacion = 10;
-constexpr std::size_t UltimoDescanso = 7;
-constexpr int GradosPorEstacion = 15;
-
-/// The calculation of one stair, step by step. What a step leaves is looked at for faults before it is
-/// stored.
+/// The calculation of one stair, step by step.
 class Calculo {
   public:
-    Calculo(const DatosEscaleraT& escalera, const DatosGenerales& generales, ResultadosEscaleraT& resultados)
-        : escalera_(escalera), generales_(generales), resultados_(resultados), estatico_(escalera) {
-        resultados_.Estatica = {};
-        resultados_.TramoT.assign(UltimaEstacion + 1, {});
-        resultados_.DescansoT.assign(UltimoDescanso + 1, {});
-        vigilancia_.Comprobar();
-        resultados_.Estatica = estatico_.Estatica();
-    }
+    Calculo(const DatosEscaleraT& escalera, const DatosGenerales& generales, const Pasos& pasos,
+            ResultadosEscaleraT& resultados)
+        : escalera_(escalera), generales_(generales), pasos_(pasos), r_(resultados) {}
 
     void Ejecutar() {
-        CalcularTramo();
+        Vaciar();
+        FormarEstatica(escalera_, pasos_, r_.Estatica);
+        const EsfuerzosEscaleraT esfuerzos(escalera_, r_.Estatica);
+        CalcularTramo(esfuerzos);
         CalcularEstribos();
-        CalcularDescanso();
+        CalcularDescanso(esfuerzos);
         CalcularReacciones();
     }
 
   private:
-    void CalcularTramo();
+    void Vaciar();
+    void CalcularTramo(const EsfuerzosEscaleraT& esfuerzos);
     void CalcularEstribos();
-    void CalcularDescanso();
+    void CalcularDescanso(const EsfuerzosEscaleraT& esfuerzos);
     void CalcularReacciones();
-    double PasoDeEstacion() const { return escalera_.L / 10; }
 
-    const VigilanciaFlotante vigilancia_;  // first: it watches the statics too
     const DatosEscaleraT& escalera_;
     const DatosGenerales& generales_;
-    ResultadosEscaleraT& resultados_;
-    const CalculoEstaticoT estatico_;
+    const Pasos& pasos_;
+    ResultadosEscaleraT& r_;
 };
+
+/// Nothing of the stair before survives in a station.
+void Calculo::Vaciar() {
+    r_.Estatica = {};
+    r_.TramoT.assign(UltimaEstacion + 1, {});
+    r_.DescansoT.assign(UltimoDescanso + 1, {});
+}
 
 /// The greatest of 0 and the two absolute shears.
 double EnvolventeDeCorte(const EscaleraTramoPunto& punto) {
@@ -56,60 +57,43 @@ double EnvolventeDeCorte(const EscaleraTramoPunto& punto) {
     return corte;
 }
 
-void Calculo::CalcularTramo() {
-    const double dX = PasoDeEstacion();
-    double X = 0;
-    for (EscaleraTramoPunto& punto : resultados_.TramoT) {
-        EscaleraTramoPunto calculado = estatico_.EsfuerzosTramo(X);
-        vigilancia_.Comprobar();
-        punto = calculado;
-        DisenarFlexionTramo(escalera_, generales_, calculado);
-        vigilancia_.Comprobar();
-        punto = calculado;
+void Calculo::CalcularTramo(const EsfuerzosEscaleraT& esfuerzos) {
+    for (std::size_t i = 0; i <= UltimaEstacion; ++i) {
+        EscaleraTramoPunto& punto = r_.TramoT[i];
+        esfuerzos.EnTramo(XDeEstacion(escalera_, i), pasos_, punto);
+        DisenarFlexionTramo(escalera_, generales_, pasos_, punto);
         punto.CorteEnvolvente = EnvolventeDeCorte(punto);
-        X += dX;
     }
 }
 
 /// From the support to the landing: a station without torsion steel takes over the bar of the one before it.
 void Calculo::CalcularEstribos() {
-    const double dX = PasoDeEstacion();
-    double X = 0;
     double area = 0;
     for (std::size_t i = UltimaEstacion + 1; i-- > 0;) {
-        EscaleraTramoPunto& punto = resultados_.TramoT[i];
-        const EstribosTramo estribos = CalculeEstribos(punto.CorteEnvolvente, punto.Torsor,
-                                                       resultados_.Estatica, X, escalera_, generales_, area);
-        vigilancia_.Comprobar();
+        EscaleraTramoPunto& punto = r_.TramoT[i];
+        const double X = XDeEstacion(escalera_, UltimaEstacion - i);
+        const EstribosTramo estribos = CalculeEstribos(punto.CorteEnvolvente, punto.Torsor, r_.Estatica, X,
+                                                       escalera_, generales_, area, pasos_);
         punto.SeparacionEstribo = estribos.Separacion;
         punto.AreaEstribo = area;
         punto.AsTorsion = estribos.AsLongitudinal;
-        X += dX;
     }
 }
 
-void Calculo::CalcularDescanso() {
+void Calculo::CalcularDescanso(const EsfuerzosEscaleraT& esfuerzos) {
     for (std::size_t j = 1; j <= UltimoDescanso; ++j) {
-        const int grados = (static_cast<int>(j) - 1) * GradosPorEstacion;
-        EscaleraDescansoPunto calculado = estatico_.EsfuerzosDescanso((grados * 3.14159265358979) / 180);
-        vigilancia_.Comprobar();
-        resultados_.DescansoT[j] = calculado;
-        DisenarDescanso(escalera_, generales_, calculado);
-        vigilancia_.Comprobar();
-        resultados_.DescansoT[j] = calculado;
+        esfuerzos.EnDescanso(EnRadianes(GradosDeDescanso(j)), pasos_, r_.DescansoT[j]);
+        DisenarDescanso(escalera_, generales_, pasos_, r_.DescansoT[j]);
     }
 }
 
 void Calculo::CalcularReacciones() {
-    const EscaleraTramoPunto& apoyo = resultados_.TramoT[UltimaEstacion];
-    const double seno = std::sin(resultados_.Estatica.Alfa);
-    const double coseno = std::cos(resultados_.Estatica.Alfa);
-    const double vertical = seno * apoyo.Axial + coseno * apoyo.CorteTotal;
+    const EscaleraTramoPunto& apoyo = r_.TramoT[UltimaEstacion];
+    const double seno = std::sin(r_.Estatica.Alfa);
+    const double coseno = std::cos(r_.Estatica.Alfa);
+    r_.ReaccionVertical = pasos_([&] { return seno * apoyo.Axial + coseno * apoyo.CorteTotal; });
     // A sum, though the projections on the horizontal subtract: the sheets show this value.
-    const double horizontal = coseno * apoyo.Axial + seno * apoyo.CorteTotal;
-    vigilancia_.Comprobar();
-    resultados_.ReaccionVertical = vertical;
-    resultados_.ReaccionHorizontal = horizontal;
+    r_.ReaccionHorizontal = pasos_([&] { return coseno * apoyo.Axial + seno * apoyo.CorteTotal; });
 }
 
 }  // namespace
@@ -118,11 +102,23 @@ void CalcularEscaleraT(const DatosEscaleraT& escalera, const DatosGenerales& gen
                        ResultadosEscaleraT& resultados) {
     if (escalera.L == 0 || escalera.B == 0 || escalera.H == 0) return;
     resultados.Error.reset();
+    const std::tuple reacciones{resultados.ReaccionVertical, resultados.ReaccionHorizontal};
     try {
-        Calculo(escalera, generales, resultados).Ejecutar();
+        Vigilar([&](const Pasos& pasos) {
+            // Reactions that are not reached keep what they held.
+            std::tie(resultados.ReaccionVertical, resultados.ReaccionHorizontal) = reacciones;
+            Calculo(escalera, generales, pasos, resultados).Ejecutar();
+        });
     } catch (const ErrorEjecucion& error) {
         resultados.Error = error;
     }
+}
+
+double EmpujeEstatico(const ResultadosEscaleraT& resultados) {
+    if (resultados.TramoT.size() <= UltimaEstacion) return 0;
+    const EscaleraTramoPunto& apoyo = resultados.TramoT[UltimaEstacion];
+    return std::cos(resultados.Estatica.Alfa) * apoyo.Axial -
+           std::sin(resultados.Estatica.Alfa) * apoyo.CorteTotal;
 }
 
 }  // namespace trabex::escaleras

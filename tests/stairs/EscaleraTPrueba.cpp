@@ -202,25 +202,25 @@ TEST(EscaleraT, AcerosDeCadaCara) {
     EscaleraTramoPunto p;
     p.EnvolventeNegativa = -9000;  // past the limit moment: steel on both faces
     p.EnvolventePositiva = 500;
-    DisenarFlexionTramo(d, g, p);
+    DisenarFlexionTramo(d, g, {}, p);
     const AceroCaras negativo = CalculeRefuerzoEscalera(-9000, d.B, d.HT, g);
     const AceroCaras positivo = CalculeRefuerzoEscalera(500, d.B, d.HT, g);
     ASSERT_GT(negativo.AsInf, positivo.AsInf);
     EXPECT_EQ(p.AsSuperior, negativo.AsSup);
     EXPECT_EQ(p.AsInferior, negativo.AsInf);
     p.EnvolventePositiva = 20000;
-    DisenarFlexionTramo(d, g, p);
+    DisenarFlexionTramo(d, g, {}, p);
     EXPECT_EQ(p.AsInferior, CalculeRefuerzoEscalera(20000, d.B, d.HT, g).AsInf);
 
     EscaleraDescansoPunto q;
     q.MomentoY = -3000;
-    DisenarDescanso(d, g, q);
+    DisenarDescanso(d, g, {}, q);
     EXPECT_EQ(q.AsY, 0);
     q.MomentoY = 3000;
-    DisenarDescanso(d, g, q);
+    DisenarDescanso(d, g, {}, q);
     EXPECT_GT(q.AsY, 0);
     q.CorteY = -1e5;
-    DisenarDescanso(d, g, q);
+    DisenarDescanso(d, g, {}, q);
     EXPECT_EQ(q.FallaCorte, "Falla por Corte");
     EXPECT_EQ(CalculeRefuerzoEscalera(0, d.B, d.HT, g).AsSup, 0);
 }

@@ -1,5 +1,9 @@
 #include "store/tablas/TablasMarcus.h"
 
+#include <cmath>
+#include <utility>
+#include <variant>
+
 #include "store/Filas.h"
 #include "store/tablas/CamposMarcus.h"
 
@@ -9,11 +13,29 @@ namespace {
 
 constexpr TablaDeFilas TablaPanos{"Marcus", "Numero", true};
 
+bool EstaVacio(const Recordset& registros, const char* campo) {
+    return std::holds_alternative<std::monostate>(registros.Leer(campo));
+}
+
+/// An empty cell of the grid of panels is no number, and an empty case is the first one.
+void LeerVacios(const Recordset& registros, marcus::PanoMarcus& pano) {
+    for (const auto& [campo, dato] : {std::pair{"Carga", &pano.Carga}, {"LX", &pano.LX}, {"LY", &pano.LY}})
+        if (EstaVacio(registros, campo)) *dato = std::nan("");
+    if (EstaVacio(registros, "Caso")) pano.Caso = 1;
+}
+
 }  // namespace
 
 void LeerMarcus(ProyectoAbierto& proyecto, marcus::NivelMarcus& nivel) {
     LeerCampos(proyecto.RegistrosProyecto, nivel, CamposNivel);
-    LeerFilas(proyecto.ConexionProyecto, TablaPanos, PorNombre(nivel.Nombre), nivel.Filas, 0, CamposPano);
+    Recordset registros;
+    AbrirFilas(proyecto.ConexionProyecto, registros, TablaPanos, PorNombre(nivel.Nombre));
+    nivel.Filas.assign(static_cast<std::size_t>(registros.NumeroRegistros()), {});
+    for (marcus::PanoMarcus& pano : nivel.Filas) {
+        LeerCampos(registros, pano, CamposPano);
+        LeerVacios(registros, pano);
+        registros.MoverAlSiguiente();
+    }
 }
 
 bool GuardarMarcus(ProyectoAbierto& proyecto, const marcus::NivelMarcus& nivel) {

@@ -18,7 +18,7 @@ inline constexpr std::array<const char*, 1> HijasDeMarcus{"Marcus"};
 inline constexpr TablasDeElemento TablasDeMarcus{HijasDeMarcus, "MarcusDatos"};
 
 /// Loads the level on which the list stands. Its stored rows decide how many panels there are, whatever the
-/// list tells; results are not stored and come back as zeros.
+/// list tells; a panel without a case is of case 1; results are not stored and come back as zeros.
 void LeerMarcus(ProyectoAbierto& proyecto, marcus::NivelMarcus& nivel);
 
 /// Writes a level's panels over the stored ones, numbered from 1, and their count into the list, as one save.
