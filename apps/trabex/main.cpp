@@ -1,11 +1,13 @@
-// The desktop program: wiring, nothing else.
+// The desktop program: its services and the list of its modules, nothing else.
 
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QTranslator>
 #include <memory>
+#include <utility>
+#include <vector>
 
-#include "EspaciosTrabex.h"
+#include "reports/ui/qt/SalidaDelPrograma.h"
 #include "shell/Arranque.h"
 #include "shell/qt/CajaMensajesQt.h"
 #include "shell/qt/DialogosArchivoQt.h"
@@ -13,6 +15,7 @@
 #include "shell/qt/PlataformaQt.h"
 #include "shell/qt/VentanaMenuPrincipal.h"
 #include "shell/qt/VentanaSplash.h"
+#include "slab/ui/qt/ModuloLosas.h"
 
 int main(int argc, char** argv) {
     QApplication programa(argc, argv);
@@ -27,11 +30,15 @@ int main(int argc, char** argv) {
     trabex::programa::qt::PlataformaQt plataforma;
     trabex::programa::qt::CajaMensajesQt caja;
     trabex::programa::qt::DialogosArchivoQt dialogos;
-    trabex::EspaciosTrabex espacios(aplicacion, caja, dialogos, plataforma);
+    const trabex::programa::Servicios servicios{caja, dialogos, plataforma};
+    trabex::reportes::ui::qt::SalidaDelPrograma salida;
+    std::vector<trabex::programa::qt::Modulo> modulos{
+        trabex::losas::ui::qt::ModuloLosas(salida),
+    };
     std::unique_ptr<trabex::programa::qt::VentanaMenuPrincipal> menu;
     trabex::programa::qt::VentanaSplash splash([&] {
-        menu = std::make_unique<trabex::programa::qt::VentanaMenuPrincipal>(aplicacion, caja, dialogos,
-                                                                            plataforma, espacios);
+        menu = std::make_unique<trabex::programa::qt::VentanaMenuPrincipal>(aplicacion, servicios,
+                                                                            std::move(modulos));
         menu->show();
     });
     splash.show();

@@ -18,8 +18,6 @@ struct Aplicacion {
     std::filesystem::path CaminoTemporales;  ///< scratch folder of file maintenance
     std::filesystem::path ArchivoProyecto;   ///< the current project's file
     std::string NombreProyecto;              ///< its name with extension; empty while no project is chosen
-    bool ProyectoNuevo = false;              ///< only while a new project's data window is shown
-    bool EscaleraHelicoidal = false;         ///< sub-mode of the windows that serve both kinds of stair
     std::filesystem::path ArchivoAyuda;      ///< the help file, where there is one
     std::string Usuario;                     ///< the user's name, as reports print it
     Separadores SeparadoresLocales;

@@ -1,11 +1,13 @@
 #include "shell/MenuPrincipal.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
 #include "base/Archivos.h"
 #include "base/Texto.h"
 #include "shell/Arranque.h"
+#include "shell/Comandos.h"
 #include "shell/Espera.h"
 #include "store/Comparacion.h"
 #include "store/Mantenimiento.h"
@@ -23,15 +25,14 @@ std::string NombreDe(const std::filesystem::path& archivo) {
 
 }  // namespace
 
-MenuPrincipal::MenuPrincipal(Aplicacion& aplicacion, VistaMenuPrincipal& vista, CajaMensajes& caja,
-                             DialogosArchivo& dialogos, Plataforma& plataforma)
-    : aplicacion_(aplicacion), vista_(vista), caja_(caja), dialogos_(dialogos), plataforma_(plataforma) {}
+MenuPrincipal::MenuPrincipal(Aplicacion& aplicacion, const Servicios& servicios, VistaMenuPrincipal& vista)
+    : aplicacion_(aplicacion), servicios_(servicios), vista_(vista) {}
 
 void MenuPrincipal::Iniciar() {
     vista_.HabilitarSalvarComo(false);
     vista_.PonerTitulo(TituloConProyecto(""));
     vista_.PonerRevision(std::string("Revisión del Programa: ") + VersionPrograma);
-    aplicacion_.SeparadoresLocales = LeerSeparadores(plataforma_.NumeroDeMuestra());
+    aplicacion_.SeparadoresLocales = LeerSeparadores(servicios_.Sistema.NumeroDeMuestra());
     const std::filesystem::path ayuda = aplicacion_.CaminoPrograma / "AyudaLosas2024.chm";
     if (Existe(ayuda)) aplicacion_.ArchivoAyuda = ayuda;
     ColoqueTapiz();
@@ -40,19 +41,13 @@ void MenuPrincipal::Iniciar() {
 
 void MenuPrincipal::Ejecutar(std::string_view clave) {
     using Operacion = void (MenuPrincipal::*)();
-    constexpr std::array<std::pair<std::string_view, Operacion>, 17> operaciones{{
+    constexpr std::array<std::pair<std::string_view, Operacion>, 11> operaciones{{
         {"ID_Nuevo", &MenuPrincipal::CrearNuevoProyecto},
         {"ID_Abrir", &MenuPrincipal::AbrirProyecto},
         {"ID_Modificar", &MenuPrincipal::ModificarProyecto},
         {"ID_SalvarComo", &MenuPrincipal::SalvarComo},
         {"ID_ConfigurarPantalla", &MenuPrincipal::ConfigurarTapiz},
         {"ID_Salida", &MenuPrincipal::Salida},
-        {"ID_LosasD", &MenuPrincipal::AnalisisLosas},
-        {"ID_Marcus", &MenuPrincipal::CoeficientesMarcus},
-        {"ID_CargaP", &MenuPrincipal::VerAnalisisCargaP},
-        {"ID_Tijera", &MenuPrincipal::EjecutarEscalerasTijera},
-        {"ID_EscaleraH", &MenuPrincipal::EjecutarEscaleraH},
-        {"ID_Carga", &MenuPrincipal::VerAnalisisCarga},
         {"ID_Reparar", &MenuPrincipal::Reparar},
         {"ID_Temas", &MenuPrincipal::TemasAyuda},
         {"ID_Manual", &MenuPrincipal::ManualLosas},
@@ -60,8 +55,13 @@ void MenuPrincipal::Ejecutar(std::string_view clave) {
         {"ID_Explorador", &MenuPrincipal::AbreExplorador},
     }};
     for (const auto& [conocida, operacion] : operaciones) {
-        if (conocida == clave) (this->*operacion)();
+        if (conocida == clave) return (this->*operacion)();
     }
+    const auto comando = std::find_if(Comandos.begin(), Comandos.end(),
+                                      [&](const Comando& conocido) { return conocido.Clave == clave; });
+    if (comando == Comandos.end()) return;
+    if (comando->Ejecuta == Orden::Espacio) return vista_.MostrarEspacio(clave);
+    ConProyecto([&] { MostrarEspacio(clave); });
 }
 
 std::filesystem::path MenuPrincipal::CarpetaProyectos() const {
@@ -79,11 +79,11 @@ void MenuPrincipal::HacerActual(const std::filesystem::path& archivo) {
 void MenuPrincipal::CrearNuevoProyecto() {
     std::optional<std::filesystem::path> archivo;
     do {
-        archivo = dialogos_.Elegir(
+        archivo = servicios_.Dialogos.Elegir(
             {"Crear un Nuevo Proyecto", FiltroProyectos, CarpetaProyectos(), true, true, false});
         if (!archivo) return vista_.PunteroDeEspera(false);
     } while (Existe(*archivo) &&
-             caja_.Mostrar(Pregunta(
+             servicios_.Caja.Mostrar(Pregunta(
                  "Proyecto: " + NombreDe(*archivo) + "\n¿Esta Seguro de Reemplazar el Proyecto Existente?",
                  "Crear un Nuevo Proyecto...")) == RespuestaCancelar);
     aplicacion_.Proyecto.RegistrosProyecto.Cerrar();
@@ -92,13 +92,11 @@ void MenuPrincipal::CrearNuevoProyecto() {
         HacerActual(*archivo);
         Reemplazar(*archivo);
     } catch (const ErrorEjecucion& error) {
-        caja_.Mostrar(MensajeDeError(error, ErrorInesperado));
+        servicios_.Caja.Mostrar(MensajeDeError(error, ErrorInesperado));
         return vista_.PunteroDeEspera(false);
     }
     const Espera espera(vista_);
-    aplicacion_.ProyectoNuevo = true;
     vista_.MostrarDatosProyecto();
-    aplicacion_.ProyectoNuevo = false;
     vista_.HabilitarSalvarComo(true);
 }
 
@@ -109,7 +107,7 @@ void MenuPrincipal::Reemplazar(const std::filesystem::path& archivo) {
 }
 
 void MenuPrincipal::AbrirProyecto() {
-    const auto archivo = dialogos_.Elegir(
+    const auto archivo = servicios_.Dialogos.Elegir(
         {"Abrir un Proyecto Existente", FiltroAbrir, CarpetaProyectos(), false, false, true});
     vista_.PunteroDeEspera(false);
     if (!archivo) return;
@@ -122,7 +120,7 @@ void MenuPrincipal::AbrirProyecto() {
 std::optional<std::filesystem::path> MenuPrincipal::ElegirDestino() {
     const auto normal = [](const std::filesystem::path& camino) { return Recortar(TextoDeCamino(camino)); };
     for (;;) {
-        auto archivo = dialogos_.Elegir(
+        auto archivo = servicios_.Dialogos.Elegir(
             {"Salvar el Proyecto Como...", FiltroProyectos, CarpetaProyectos(), true, false, false});
         if (!archivo) return std::nullopt;
         const std::string titulo = NombreDe(*archivo);
@@ -131,14 +129,14 @@ std::optional<std::filesystem::path> MenuPrincipal::ElegirDestino() {
             mismo.Texto = "Proyecto: " + titulo + "\n!No se puede Salvar el Proyecto con el mismo Nombre!";
             mismo.Encabezado = "Salvar el Proyecto Como...";
             mismo.Icono = IconoCaja::Advertencia;
-            caja_.Mostrar(mismo);
+            servicios_.Caja.Mostrar(mismo);
             continue;
         }
         if (!Existe(*archivo)) return archivo;
         const Mensaje pregunta =
             Pregunta("El Proyecto: " + titulo + "  Ya Existe...\n¿Desea Usted Reemplazarlo?",
                      "Salvar el Proyecto Como...");
-        if (caja_.Mostrar(pregunta) == RespuestaQueReemplaza) return archivo;
+        if (servicios_.Caja.Mostrar(pregunta) == RespuestaQueReemplaza) return archivo;
     }
 }
 
@@ -152,7 +150,7 @@ void MenuPrincipal::SalvarComo() {
         CopiarArchivo(aplicacion_.ArchivoProyecto, *archivo);
         HacerActual(*archivo);
     } catch (const ErrorEjecucion& error) {
-        caja_.Mostrar(MensajeDeError(error, ErrorInesperado));
+        servicios_.Caja.Mostrar(MensajeDeError(error, ErrorInesperado));
     }
 }
 
@@ -165,46 +163,13 @@ void MenuPrincipal::ConProyecto(Mostrar mostrar) {
 }
 
 void MenuPrincipal::ModificarProyecto() {
-    ConProyecto([this] {
-        aplicacion_.ProyectoNuevo = false;
-        vista_.MostrarDatosProyecto();
-    });
+    ConProyecto([this] { vista_.MostrarDatosProyecto(); });
 }
 
 /// A workspace has its own open command: the title follows it.
-void MenuPrincipal::MostrarEspacio(Espacio espacio) {
-    vista_.MostrarEspacio(espacio);
+void MenuPrincipal::MostrarEspacio(std::string_view clave) {
+    vista_.MostrarEspacio(clave);
     vista_.PonerTitulo(TituloConProyecto(aplicacion_.NombreProyecto));
-}
-
-void MenuPrincipal::AnalisisLosas() {
-    ConProyecto([this] { MostrarEspacio(Espacio::Losas); });
-}
-
-void MenuPrincipal::CoeficientesMarcus() {
-    ConProyecto([this] { MostrarEspacio(Espacio::Marcus); });
-}
-
-void MenuPrincipal::VerAnalisisCargaP() {
-    ConProyecto([this] { MostrarEspacio(Espacio::AnalisisCargaP); });
-}
-
-void MenuPrincipal::EjecutarEscalerasTijera() {
-    ConProyecto([this] {
-        aplicacion_.EscaleraHelicoidal = false;
-        MostrarEspacio(Espacio::EscaleraT);
-    });
-}
-
-void MenuPrincipal::EjecutarEscaleraH() {
-    ConProyecto([this] {
-        aplicacion_.EscaleraHelicoidal = true;
-        MostrarEspacio(Espacio::EscaleraH);
-    });
-}
-
-void MenuPrincipal::VerAnalisisCarga() {
-    vista_.MostrarEspacio(Espacio::AnalisisCarga);
 }
 
 void MenuPrincipal::ConfigurarTapiz() {
@@ -220,15 +185,15 @@ void MenuPrincipal::Sobre() {
 }
 
 void MenuPrincipal::TemasAyuda() {
-    if (!aplicacion_.ArchivoAyuda.empty()) plataforma_.AbrirArchivo(aplicacion_.ArchivoAyuda);
+    if (!aplicacion_.ArchivoAyuda.empty()) servicios_.Sistema.AbrirArchivo(aplicacion_.ArchivoAyuda);
 }
 
 void MenuPrincipal::ManualLosas() {
-    plataforma_.AbrirArchivo(aplicacion_.CaminoPrograma / "Manual" / "ManualLosas2024.pdf");
+    servicios_.Sistema.AbrirArchivo(aplicacion_.CaminoPrograma / "Manual" / "ManualLosas2024.pdf");
 }
 
 void MenuPrincipal::AbreExplorador() {
-    plataforma_.AbrirCarpeta(CarpetaProyectos());
+    servicios_.Sistema.AbrirCarpeta(CarpetaProyectos());
 }
 
 void MenuPrincipal::Salida() {

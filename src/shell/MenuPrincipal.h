@@ -4,14 +4,9 @@
 #include <string_view>
 
 #include "shell/Aplicacion.h"
-#include "shell/CajaMensajes.h"
-#include "shell/DialogosArchivo.h"
-#include "shell/Plataforma.h"
+#include "shell/Servicios.h"
 
 namespace trabex::programa {
-
-/// The windows in which the elements of a project are worked on.
-enum class Espacio { Losas, Marcus, AnalisisCargaP, EscaleraT, EscaleraH, AnalisisCarga };
 
 /// What the main window's operations ask of the window.
 class VistaMenuPrincipal {
@@ -30,15 +25,15 @@ class VistaMenuPrincipal {
     virtual void MostrarConfiguracion() = 0;
     virtual void MostrarReparacion() = 0;
     virtual void MostrarSobre() = 0;
-    virtual void MostrarEspacio(Espacio espacio) = 0;
+    /// The workspace of a command.
+    virtual void MostrarEspacio(std::string_view clave) = 0;
 };
 
 /// Operations of the main window. A project is a path to it: the file on disk is the document, every
 /// workspace writes to it as the engineer works, and closing asks nothing.
 class MenuPrincipal {
   public:
-    MenuPrincipal(Aplicacion& aplicacion, VistaMenuPrincipal& vista, CajaMensajes& caja,
-                  DialogosArchivo& dialogos, Plataforma& plataforma);
+    MenuPrincipal(Aplicacion& aplicacion, const Servicios& servicios, VistaMenuPrincipal& vista);
 
     /// First title, status, locale, help file and wallpaper.
     void Iniciar();
@@ -50,12 +45,6 @@ class MenuPrincipal {
     void SalvarComo();
     void ModificarProyecto();
     void ConfigurarTapiz();
-    void AnalisisLosas();
-    void CoeficientesMarcus();
-    void VerAnalisisCargaP();
-    void EjecutarEscalerasTijera();
-    void EjecutarEscaleraH();
-    void VerAnalisisCarga();
     void Reparar();
     void TemasAyuda();
     void ManualLosas();
@@ -71,17 +60,15 @@ class MenuPrincipal {
     /// Runs `mostrar` with a project: with none it first lets the user open one.
     template <class Mostrar>
     void ConProyecto(Mostrar mostrar);
-    void MostrarEspacio(Espacio espacio);
+    void MostrarEspacio(std::string_view clave);
     void HacerActual(const std::filesystem::path& archivo);
     void Reemplazar(const std::filesystem::path& archivo);
 
     std::optional<std::filesystem::path> ElegirDestino();
 
     Aplicacion& aplicacion_;
+    Servicios servicios_;
     VistaMenuPrincipal& vista_;
-    CajaMensajes& caja_;
-    DialogosArchivo& dialogos_;
-    Plataforma& plataforma_;
 };
 
 }  // namespace trabex::programa

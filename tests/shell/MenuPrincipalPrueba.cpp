@@ -30,20 +30,14 @@ struct VistaGuiada : VistaMenuPrincipal {
     void PonerTapiz(const Tapiz&) override {}
     void Repintar() override {}
     void Cerrar() override { Cerrada = true; }
-    void MostrarDatosProyecto() override {
-        Mostradas.push_back("DatosProyecto");
-        if (AlMostrar) AlMostrar();
-    }
+    void MostrarDatosProyecto() override { Mostradas.push_back("DatosProyecto"); }
     void MostrarConfiguracion() override { Mostradas.push_back("Configuracion"); }
     void MostrarReparacion() override { Mostradas.push_back("Reparacion"); }
     void MostrarSobre() override { Mostradas.push_back("Sobre"); }
-    void MostrarEspacio(Espacio espacio) override {
-        Mostradas.push_back("Espacio " + std::to_string(static_cast<int>(espacio)));
-    }
+    void MostrarEspacio(std::string_view clave) override { Mostradas.emplace_back(clave); }
     std::string Titulo, Revision;
     bool SalvarComo = true, Espera = true, Cerrada = false;
     std::vector<std::string> Mostradas;
-    std::function<void()> AlMostrar;
 };
 
 class Menu_ : public testing::Test {
@@ -61,7 +55,7 @@ class Menu_ : public testing::Test {
     prueba::DialogosGuiados dialogos;
     VistaGuiada vista;
     Aplicacion aplicacion;
-    MenuPrincipal menu{aplicacion, vista, caja, dialogos, plataforma};
+    MenuPrincipal menu{aplicacion, {caja, dialogos, plataforma}, vista};
 };
 
 TEST_F(Menu_, Empieza) {
@@ -81,16 +75,14 @@ TEST_F(Menu_, NuevoSobreUnoExistenteReemplazaSeRespondaLoQueSeResponda) {
         caja.Mensajes.clear();
         caja.Respuestas = {RespuestaCancelar, respuesta};  // 2 alone comes back to the dialog
         dialogos.Elegidos = {archivo, archivo};
-        bool nuevo = false;
-        vista.AlMostrar = [&] { nuevo = aplicacion.ProyectoNuevo; };
+        vista.Mostradas.clear();
         menu.Ejecutar("ID_Nuevo");
         ASSERT_EQ(caja.Mensajes.size(), 2U);
         EXPECT_EQ(caja.Mensajes[0].Texto,
                   "Proyecto: Año Ñ 1.los\n¿Esta Seguro de Reemplazar el Proyecto Existente?");
         EXPECT_EQ(caja.Mensajes[0].Encabezado, "Crear un Nuevo Proyecto...");
         EXPECT_EQ(LeerArchivo(archivo), LeerArchivo(Plantilla()));
-        EXPECT_TRUE(nuevo);
-        EXPECT_FALSE(aplicacion.ProyectoNuevo);
+        EXPECT_EQ(vista.Mostradas, std::vector<std::string>{"DatosProyecto"});
         EXPECT_TRUE(vista.SalvarComo);
         EXPECT_EQ(vista.Titulo, "Trabex 2024   Proyecto:[Año Ñ 1.los]");
     }
@@ -185,12 +177,12 @@ TEST_F(Menu_, UnGuardadoCortadoNoPasaALaCopiaNiAlQueLoReemplaza) {
 }
 
 TEST_F(Menu_, LosComandosDeUnProyectoPrimeroLoAbren) {
-    for (const auto& [clave, espacio] : {std::pair{"ID_LosasD", "Espacio 0"},
-                                         {"ID_Marcus", "Espacio 1"},
-                                         {"ID_CargaP", "Espacio 2"},
-                                         {"ID_Tijera", "Espacio 3"},
-                                         {"ID_EscaleraH", "Espacio 4"},
-                                         {"ID_Modificar", "DatosProyecto"}}) {
+    for (const auto& [clave, mostrada] : {std::pair{"ID_LosasD", "ID_LosasD"},
+                                          {"ID_Marcus", "ID_Marcus"},
+                                          {"ID_CargaP", "ID_CargaP"},
+                                          {"ID_Tijera", "ID_Tijera"},
+                                          {"ID_EscaleraH", "ID_EscaleraH"},
+                                          {"ID_Modificar", "DatosProyecto"}}) {
         aplicacion.NombreProyecto = "  ";
         vista.Mostradas.clear();
         menu.Ejecutar(clave);  // the dialog is cancelled
@@ -198,13 +190,12 @@ TEST_F(Menu_, LosComandosDeUnProyectoPrimeroLoAbren) {
         EXPECT_EQ(dialogos.Peticiones.back().Titulo, "Abrir un Proyecto Existente");
         dialogos.Elegidos = {carpeta / "x.los"};
         menu.Ejecutar(clave);
-        EXPECT_EQ(vista.Mostradas, std::vector<std::string>{espacio});
+        EXPECT_EQ(vista.Mostradas, std::vector<std::string>{mostrada});
         EXPECT_FALSE(vista.Espera);
     }
-    EXPECT_FALSE(aplicacion.EscaleraHelicoidal && aplicacion.NombreProyecto.empty());
     aplicacion.NombreProyecto.clear();
     menu.Ejecutar("ID_Carga");
-    EXPECT_EQ(vista.Mostradas.back(), "Espacio 5");
+    EXPECT_EQ(vista.Mostradas.back(), "ID_Carga");
     menu.Ejecutar("ID_Normas");  // known to the menu, dispatched by none
     menu.Ejecutar("ID_Explorador");
     EXPECT_EQ(plataforma.Abiertos.back(), aplicacion.CaminoUsuario / "Proyectos");

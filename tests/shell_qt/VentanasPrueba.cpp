@@ -43,11 +43,6 @@ QAbstractButton* BotonDe(QWidget& ventana, const QString& texto) {
     return nullptr;
 }
 
-struct EspaciosGuiados : EspaciosDeTrabajo {
-    void Mostrar(Espacio espacio, QWidget*) override { Mostrados.push_back(espacio); }
-    std::vector<Espacio> Mostrados;
-};
-
 class Ventanas : public testing::Test {
   protected:
     Ventanas() : plataforma(carpeta.Camino()) {
@@ -96,22 +91,27 @@ TEST_F(Ventanas, LaCajaRespondePorBotonYPorEscape) {
 }
 
 TEST_F(Ventanas, ElMenuMandaLosComandos) {
-    EspaciosGuiados espacios;
-    VentanaMenuPrincipal menu(aplicacion, caja, dialogos, plataforma, espacios);
+    int abiertos = 0;
+    const auto abrir = [&](Aplicacion& suya, const Servicios&, QWidget* padre) {
+        ++abiertos;
+        EXPECT_EQ(suya.NombreProyecto, "otra.los");
+        EXPECT_NE(padre, nullptr);
+    };
+    VentanaMenuPrincipal menu(aplicacion, {caja, dialogos, plataforma}, {{"ID_LosasD", abrir}});
     EXPECT_EQ(menu.windowTitle(), "Trabex 2024   Proyecto:[]");
     for (const Comando& comando : Comandos) {
         ASSERT_NE(menu.Accion(comando.Clave), nullptr);
         EXPECT_FALSE(menu.Accion(comando.Clave)->icon().isNull());
         EXPECT_EQ(menu.Accion(comando.Clave)->isEnabled(),
-                  comando.Construido && comando.Clave != "ID_SalvarComo");
+                  comando.Clave == "ID_LosasD" ||
+                      (comando.Ejecuta == Orden::Propia && comando.Clave != "ID_SalvarComo"));
     }
     dialogos.Elegidos = {carpeta / "otra.los"};
     menu.Accion("ID_Abrir")->trigger();
     EXPECT_EQ(menu.windowTitle(), "Trabex 2024   Proyecto:[otra.los]");
     EXPECT_TRUE(menu.Accion("ID_SalvarComo")->isEnabled());
-    menu.Accion("ID_LosasD")->setEnabled(true);  // as when its window exists
     menu.Accion("ID_LosasD")->trigger();
-    EXPECT_EQ(espacios.Mostrados, std::vector<Espacio>{Espacio::Losas});
+    EXPECT_EQ(abiertos, 1);
     menu.Accion("ID_Explorador")->trigger();
     EXPECT_EQ(plataforma.Abiertos.size(), 1U);
 }

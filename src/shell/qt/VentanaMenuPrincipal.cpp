@@ -5,6 +5,8 @@
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QToolBar>
+#include <algorithm>
+#include <utility>
 
 #include "base/Archivos.h"
 #include "shell/Arranque.h"
@@ -26,15 +28,12 @@ QString Texto(std::string_view texto) {
 
 }  // namespace
 
-VentanaMenuPrincipal::VentanaMenuPrincipal(Aplicacion& aplicacion, CajaMensajes& caja,
-                                           DialogosArchivo& dialogos, Plataforma& plataforma,
-                                           EspaciosDeTrabajo& espacios)
+VentanaMenuPrincipal::VentanaMenuPrincipal(Aplicacion& aplicacion, const Servicios& servicios,
+                                           std::vector<Modulo> modulos)
     : aplicacion_(aplicacion),
-      caja_(caja),
-      dialogos_(dialogos),
-      plataforma_(plataforma),
-      espacios_(espacios),
-      operaciones_(aplicacion, *this, caja, dialogos, plataforma),
+      servicios_(servicios),
+      modulos_(std::move(modulos)),
+      operaciones_(aplicacion, servicios, *this),
       tapiz_(new LienzoTapiz(this)) {
     setObjectName("MenuPrincipal");
     resize(1100, 700);
@@ -47,13 +46,20 @@ VentanaMenuPrincipal::VentanaMenuPrincipal(Aplicacion& aplicacion, CajaMensajes&
     operaciones_.Iniciar();
 }
 
+const Modulo* VentanaMenuPrincipal::ModuloDe(std::string_view clave) const {
+    const auto hallado = std::find_if(modulos_.begin(), modulos_.end(),
+                                      [&](const Modulo& modulo) { return modulo.Clave == clave; });
+    return hallado == modulos_.end() ? nullptr : &*hallado;
+}
+
 void VentanaMenuPrincipal::CrearAcciones() {
     for (const Comando& comando : Comandos) {
         auto* accion = new QAction(Icono(Texto(comando.Icono)), Texto(comando.Texto), this);
         accion->setObjectName(Texto(comando.Clave));
-        accion->setEnabled(comando.Construido);
+        const bool existe = comando.Ejecuta == Orden::Propia || ModuloDe(comando.Clave) != nullptr;
+        accion->setEnabled(existe);
         QString rotulo = Texto(comando.Texto).remove('&');
-        if (!comando.Construido) rotulo += "\n(no disponible en esta edición)";
+        if (!existe) rotulo += "\n(no disponible en esta edición)";
         accion->setToolTip(rotulo);
         connect(accion, &QAction::triggered, this,
                 [this, clave = comando.Clave] { operaciones_.Ejecutar(clave); });
@@ -142,13 +148,13 @@ void VentanaMenuPrincipal::Cerrar() {
 }
 
 void VentanaMenuPrincipal::MostrarDatosProyecto() {
-    VentanaDatosProyecto ventana(aplicacion_, caja_, this);
+    VentanaDatosProyecto ventana(aplicacion_, servicios_.Caja, this);
     PunteroDeEspera(false);
     ventana.exec();
 }
 
 void VentanaMenuPrincipal::MostrarConfiguracion() {
-    VentanaConfigurar ventana(aplicacion_, caja_, dialogos_, this);
+    VentanaConfigurar ventana(aplicacion_, servicios_.Caja, servicios_.Dialogos, this);
     ventana.exec();
     if (ventana.Guardada()) {
         setStyleSheet(EstiloDeAyudas(aplicacion_.Preferencias));
@@ -157,18 +163,18 @@ void VentanaMenuPrincipal::MostrarConfiguracion() {
 }
 
 void VentanaMenuPrincipal::MostrarReparacion() {
-    VentanaCompactar ventana(aplicacion_, caja_, this);
+    VentanaCompactar ventana(aplicacion_, servicios_.Caja, this);
     ventana.exec();
 }
 
 void VentanaMenuPrincipal::MostrarSobre() {
-    VentanaSobre ventana(aplicacion_, plataforma_, this);
+    VentanaSobre ventana(aplicacion_, servicios_.Sistema, this);
     ventana.exec();
 }
 
-void VentanaMenuPrincipal::MostrarEspacio(Espacio espacio) {
+void VentanaMenuPrincipal::MostrarEspacio(std::string_view clave) {
     PunteroDeEspera(false);
-    espacios_.Mostrar(espacio, this);
+    if (const Modulo* modulo = ModuloDe(clave)) modulo->Abrir(aplicacion_, servicios_, this);
 }
 
 }  // namespace trabex::programa::qt

@@ -3,29 +3,21 @@
 #include <QMainWindow>
 #include <map>
 #include <string_view>
+#include <vector>
 
 #include "shell/MenuPrincipal.h"
 #include "shell/qt/ComunVentanas.h"
 #include "shell/qt/LienzoTapiz.h"
+#include "shell/qt/Modulo.h"
 
 class QLabel;
 
 namespace trabex::programa::qt {
 
-/// Opens the windows of the elements. The program gives it to the main window; an element that is not built
-/// has none.
-class EspaciosDeTrabajo {
-  public:
-    virtual ~EspaciosDeTrabajo() = default;
-    /// Shows a workspace until it closes.
-    virtual void Mostrar(Espacio espacio, QWidget* padre) = 0;
-};
-
 /// The main window: menus, tool bar, wallpaper and status panel over the operations of MenuPrincipal.
 class VentanaMenuPrincipal : public QMainWindow, public VistaMenuPrincipal {
   public:
-    VentanaMenuPrincipal(Aplicacion& aplicacion, CajaMensajes& caja, DialogosArchivo& dialogos,
-                         Plataforma& plataforma, EspaciosDeTrabajo& espacios);
+    VentanaMenuPrincipal(Aplicacion& aplicacion, const Servicios& servicios, std::vector<Modulo> modulos);
 
     /// The action of a command's key; null for an unknown one.
     QAction* Accion(std::string_view clave) const;
@@ -41,19 +33,19 @@ class VentanaMenuPrincipal : public QMainWindow, public VistaMenuPrincipal {
     void MostrarConfiguracion() override;
     void MostrarReparacion() override;
     void MostrarSobre() override;
-    void MostrarEspacio(Espacio espacio) override;
+    void MostrarEspacio(std::string_view clave) override;
 
   private:
+    /// The workspace of a command; null when the program has none.
+    const Modulo* ModuloDe(std::string_view clave) const;
     void CrearAcciones();
     void CrearMenus();
     void CrearBarra();
     void CrearPanelEstado();
 
     Aplicacion& aplicacion_;
-    CajaMensajes& caja_;
-    DialogosArchivo& dialogos_;
-    Plataforma& plataforma_;
-    EspaciosDeTrabajo& espacios_;
+    Servicios servicios_;
+    std::vector<Modulo> modulos_;
     MenuPrincipal operaciones_;
     std::map<std::string_view, QAction*> acciones_;
     LienzoTapiz* tapiz_;

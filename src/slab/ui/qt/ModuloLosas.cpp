@@ -1,0 +1,16 @@
+#include "slab/ui/qt/ModuloLosas.h"
+
+#include "slab/ui/qt/SalidasLosas.h"
+
+namespace trabex::losas::ui::qt {
+
+programa::qt::Modulo ModuloLosas(reportes::ui::qt::SalidaDelPrograma& salida) {
+    return {"ID_LosasD", [&salida, memoria = MemoriaLosas{}](programa::Aplicacion& aplicacion,
+                                                             const programa::Servicios& servicios,
+                                                             QWidget* padre) mutable {
+                SalidasLosas salidas(aplicacion, servicios, salida);
+                VentanaLosas(aplicacion, servicios, memoria, salidas.Operaciones(), padre).exec();
+            }};
+}
+
+}  // namespace trabex::losas::ui::qt

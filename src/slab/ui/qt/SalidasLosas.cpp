@@ -1,0 +1,107 @@
+#include "slab/ui/qt/SalidasLosas.h"
+
+#include "reports/montaje/qt/SuperficieQt.h"
+#include "reports/planex/ui/qt/VentanaExportarCAD.h"
+#include "reports/ui/qt/PanelProgresoQt.h"
+#include "reports/ui/qt/VentanaExportarGrafico.h"
+#include "reports/ui/qt/VentanaOpcionesReporte.h"
+#include "reports/ui/qt/VentanaSalidaReporte.h"
+#include "reports/ui/qt/VentanaSeleccionarImpresora.h"
+#include "slab/salida/GraficosLosas.h"
+#include "slab/ui/qt/ImprimirGraficos.h"
+
+namespace trabex::losas::ui::qt {
+
+namespace {
+
+constexpr std::int16_t ReporteResultadosLosa = 4;
+
+montaje::EntornoReportes EntornoDe(const programa::Aplicacion& aplicacion) {
+    return {aplicacion.CaminoPrograma, aplicacion.CaminoUsuario, aplicacion.Usuario};
+}
+
+salida::ProyectoParaReporte OrigenDe(programa::Aplicacion& aplicacion, Losas& losas) {
+    return {aplicacion.Proyecto, aplicacion.Datos, aplicacion.Generales, losas.Lista().Fila()};
+}
+
+}  // namespace
+
+SalidasLosas::SalidasLosas(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
+                           reportes::ui::qt::SalidaDelPrograma& salida)
+    : aplicacion_(aplicacion),
+      servicios_(servicios),
+      salida_(salida),
+      entorno_(salida.Entorno(aplicacion, servicios)) {}
+
+OperacionesDeLosas SalidasLosas::Operaciones() {
+    const auto propia = [this](void (SalidasLosas::*operacion)(Losas&, QWidget&)) {
+        return [this, operacion](Losas& losas, QWidget& ventana) { (this->*operacion)(losas, ventana); };
+    };
+    return {
+        {"ID_Exportar", propia(&SalidasLosas::ExportarResultados)},
+        {"ID_Graficos", propia(&SalidasLosas::ExportarGraficos)},
+        {"ID_Imprimir", propia(&SalidasLosas::ImprimirGraficos)},
+        {"ID_ExportarG", propia(&SalidasLosas::ExportarImagen)},
+        {"ID_Impresora", propia(&SalidasLosas::CambiarImpresora)},
+        {"ID_Planex", propia(&SalidasLosas::ExportarCAD)},
+    };
+}
+
+void SalidasLosas::CambiarImpresora(Losas& /*losas*/, QWidget& ventana) {
+    reportes::ui::qt::SeleccionarImpresoraTBX(entorno_, &ventana);
+}
+
+void SalidasLosas::ExportarCAD(Losas& /*losas*/, QWidget& ventana) {
+    planex::ui::qt::MostrarExportarCAD(aplicacion_, servicios_.Caja, servicios_.Dialogos, servicios_.Sistema,
+                                       &ventana);
+}
+
+void SalidasLosas::ExportarResultados(Losas& losas, QWidget& ventana) {
+    reportes::ui::qt::VentanaOpcionImpreLosas opciones(salida_.Opciones, aplicacion_.Preferencias, &ventana);
+    opciones.exec();
+    if (!opciones.Aceptado()) return;
+    salida::LLeneResultados(EntornoDe(aplicacion_), OrigenDe(aplicacion_, losas), salida_.Opciones);
+    salida_.Estado.ReporteActual = ReporteResultadosLosa;
+    reportes::ui::qt::VentanaSalidaReporte(entorno_, reportes::ui::qt::VentanaSalidaReporte::Clase::Tabular,
+                                           &ventana)
+        .exec();
+}
+
+void SalidasLosas::ExportarGraficos(Losas& losas, QWidget& ventana) {
+    reportes::ui::qt::VentanaOpcionGrafico opciones(reportes::ui::OpcionGraficoE, salida_.Opciones,
+                                                    aplicacion_.Preferencias, &ventana);
+    if (opciones.exec() != QDialog::Accepted) return;
+    montaje::qt::SuperficieQt superficie;
+    reportes::ui::qt::PanelProgresoQt panel(&ventana);
+    salida::GuardeGraficos(EntornoDe(aplicacion_), OrigenDe(aplicacion_, losas), losas.Estado().Hoja,
+                           superficie, panel, salida_.Opciones);
+    salida_.Estado.GraficoHelicoidal = false;
+    salida_.Estado.GraficoAutoportante = false;
+    reportes::ui::qt::VentanaSalidaReporte(entorno_, reportes::ui::qt::VentanaSalidaReporte::Clase::Grafico,
+                                           &ventana)
+        .exec();
+}
+
+void SalidasLosas::ImprimirGraficos(Losas& losas, QWidget& ventana) {
+    reportes::ui::qt::VentanaOpcionGrafico opciones(reportes::ui::OpcionGraficoE1, salida_.Opciones,
+                                                    aplicacion_.Preferencias, &ventana);
+    if (opciones.exec() != QDialog::Accepted) return;
+    PedirEImprimirGraficosLosas(entorno_, OrigenDe(aplicacion_, losas), losas.Estado().Hoja, salida_.Opciones,
+                                &ventana);
+}
+
+/// The window's zoom is its own: the workspace's comes back by itself.
+void SalidasLosas::ExportarImagen(Losas& losas, QWidget& ventana) {
+    dibujo::losa::HojaLosa hoja = losas.Estado().Hoja;
+    const auto dibujar = [&](dibujo::Lienzo& lienzo, dibujo::EstadoVista& vista) {
+        hoja.Vista = vista;
+        dibujo::losa::RedibujeVista(lienzo, hoja, losas.Calculada());
+        vista = hoja.Vista;
+    };
+    reportes::ui::qt::VentanaExportarGrafico(
+        {aplicacion_, salida_.Opciones, servicios_.Caja, servicios_.Dialogos, servicios_.Sistema}, dibujar,
+        &ventana)
+        .exec();
+}
+
+}  // namespace trabex::losas::ui::qt
