@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "base/Aviso.h"
+
 namespace trabex::programa {
 
 class Renombrar;
@@ -16,6 +18,8 @@ class VistaEspacio {
     virtual void PonerEstado(const std::string& texto) = 0;
     /// Line above the sheets: the selected element; empty without one.
     virtual void PonerEncabezado(const std::string& texto) = 0;
+    /// What is to be told of the selected element, beside the foot's line; a failure marks its row.
+    virtual void PonerAvisos(const Avisos& avisos) = 0;
 
     // The list. Rows count from 1.
     virtual void LlenarLista(const std::vector<std::string>& nombres) = 0;

@@ -58,6 +58,18 @@ TEST_F(Espacio, AbreEnLaPrimeraYMuestraCadaSeleccionada) {
     EXPECT_EQ(espacio.Lista().Fila(), 2);
 }
 
+TEST_F(Espacio, DiceLosAvisosDeLaSeleccionada) {
+    espacio.Lista().Seleccionar(2);
+    EXPECT_FALSE(HayFalla(e.vista.Puestos));
+    espacio.Estado().Abierta.Ejes[1].Tipo = RodilloEnX;  // stepped, and nothing holds it along X
+    espacio.Calcular();
+    ASSERT_TRUE(HayFalla(e.vista.Puestos));
+    EXPECT_EQ(Resumen(e.vista.Puestos).find("Eje 4: La losa no se sostiene: nada la sujeta en dirección X."),
+              0U);
+    espacio.Lista().Seleccionar(1);
+    EXPECT_FALSE(HayFalla(e.vista.Puestos));
+}
+
 TEST_F(Espacio, CreaUnaLosaYEntraSusDatos) {
     e.memoria.UltimoHo = 0.3;
     e.vista.LosaNueva = [&] {

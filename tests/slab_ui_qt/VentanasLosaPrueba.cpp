@@ -189,6 +189,25 @@ TEST_F(Espacio, SeleccionaHojaYCargasYDibujaAlMomento) {
               "Estructural 2023. <br>(no disponible en esta edición)");
 }
 
+TEST_F(Espacio, UnaLosaQueNoSeSostieneSeMarcaYSeDice) {
+    VentanaLosas ventana(e.aplicacion, e.servicios, e.memoria, {}, nullptr);
+    ventana.resize(800, 600);
+    ventana.show();
+    const auto* lista = ventana.findChild<QListWidget*>("Lista");
+    const auto* avisos = ventana.findChild<QLabel*>("Avisos");
+    EXPECT_TRUE(lista->item(0)->icon().isNull());
+    for (EjeLosa& eje : ventana.Operaciones().Estado().Abierta.Ejes) eje.Tipo = SinApoyo;
+    ventana.Operaciones().Calcular();
+    EXPECT_FALSE(lista->item(0)->icon().isNull());
+    EXPECT_TRUE(lista->item(1)->icon().isNull());
+    EXPECT_TRUE(avisos->isVisible());
+    EXPECT_TRUE(avisos->text().startsWith("Eje 4: La losa no se sostiene")) << avisos->text().toStdString();
+    EXPECT_TRUE(lista->item(0)->toolTip().contains("no se sostiene"));
+    EXPECT_EQ(ventana.width(), 800);  // a long line doesn't widen the window
+    ventana.Operaciones().Lista().Seleccionar(1);
+    EXPECT_TRUE(lista->item(0)->icon().isNull());
+}
+
 TEST_F(Espacio, LosMandosDeOtrasPartesSeEnchufanYPidenUnaLosa) {
     int veces = 0;
     const OperacionesDeLosas otras{{"ID_Exportar", [&](Losas& losas, QWidget&) {

@@ -24,6 +24,7 @@ struct VistaLosasGuiada : VistaEspacio, VistaLosas {
     void PonerTitulo(const std::string& titulo) override { Titulo = titulo; }
     void PonerEstado(const std::string& texto) override { Pie = texto; }
     void PonerEncabezado(const std::string& texto) override { Encabezado = texto; }
+    void PonerAvisos(const Avisos& avisos) override { Puestos = avisos; }
     void LlenarLista(const std::vector<std::string>& nombres) override { Filas = nombres; }
     void MarcarFila(int fila) override { Marcada = fila; }
     void RestablecerVista() override { ++Restablecida; }
@@ -39,6 +40,7 @@ struct VistaLosasGuiada : VistaEspacio, VistaLosas {
 
     std::string Titulo, Pie, Encabezado;
     std::vector<std::string> Filas;
+    Avisos Puestos;
     int Marcada = 0, Restablecida = 0, Dibujos = 0;
     dibujo::losa::OpcionDeCarga OpcionCarga = dibujo::losa::CargaPorCasos;
     std::function<bool()> LosaNueva, SalvarComo, Datos, General;

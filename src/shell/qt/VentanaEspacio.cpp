@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QFont>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
@@ -11,6 +12,7 @@
 #include <QSettings>
 #include <QSignalBlocker>
 #include <QSplitter>
+#include <QStyle>
 #include <QTabBar>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -68,6 +70,10 @@ void VentanaEspacio::Armar(const DatosDeEspacio& datos) {
     operaciones_ = &datos.Lista;
     auto* partes = Partes(datos);
     pie_ = LineaDeTexto("Pie", this);
+    avisos_ = LineaDeTexto("Avisos", this);
+    auto* lineaDelPie = new QHBoxLayout;
+    lineaDelPie->addWidget(pie_, 1);
+    lineaDelPie->addWidget(avisos_, 2);
     CrearAcciones(datos);
     CrearMenusDeContexto();
     auto* columna = new QVBoxLayout(this);
@@ -76,7 +82,7 @@ void VentanaEspacio::Armar(const DatosDeEspacio& datos) {
     columna->setMenuBar(BarraDeMenus(datos));
     columna->addWidget(BarraDeMandos());
     columna->addWidget(partes, 1);
-    columna->addWidget(pie_);
+    columna->addLayout(lineaDelPie);
     TamanoInicial(this, TamanoDeEspacio);
     datos.Lista.Abrir();
     PrepararVentana(this, preferencias_);
@@ -277,6 +283,18 @@ void VentanaEspacio::PonerEstado(const std::string& texto) {
 
 void VentanaEspacio::PonerEncabezado(const std::string& texto) {
     encabezado_->setText(Q(texto));
+}
+
+void VentanaEspacio::PonerAvisos(const Avisos& avisos) {
+    QStringList lineas;
+    for (const trabex::Aviso& aviso : avisos) lineas += Q(EnUnaLinea(aviso));
+    avisos_->setText(Q(Resumen(avisos)));
+    avisos_->setToolTip(lineas.join('\n'));
+    avisos_->setVisible(!avisos.empty());
+    if (QListWidgetItem* fila = lista_->currentItem()) {
+        fila->setIcon(HayFalla(avisos) ? style()->standardIcon(QStyle::SP_MessageBoxWarning) : QIcon());
+        fila->setToolTip(avisos_->toolTip());
+    }
 }
 
 void VentanaEspacio::LlenarLista(const std::vector<std::string>& nombres) {

@@ -53,6 +53,7 @@ class VentanaEspacio : public QDialog, public VistaEspacio {
     void PonerTitulo(const std::string& titulo) override;
     void PonerEstado(const std::string& texto) override;
     void PonerEncabezado(const std::string& texto) override;
+    void PonerAvisos(const Avisos& avisos) override;
     void LlenarLista(const std::vector<std::string>& nombres) override;
     void MarcarFila(int fila) override;
     void RestablecerVista() override;
@@ -88,6 +89,7 @@ class VentanaEspacio : public QDialog, public VistaEspacio {
     QListWidget* lista_ = nullptr;
     QLabel* encabezado_ = nullptr;
     QLabel* pie_ = nullptr;
+    QLabel* avisos_ = nullptr;
     QSplitter* partes_ = nullptr;
     dibujo::qt::WidgetLienzo* lienzo_ = nullptr;
 };

@@ -1,5 +1,6 @@
 #include "slab/ui/Losas.h"
 
+#include "slab/Avisos.h"
 #include "slab/CalcularLosa.h"
 #include "store/tablas/TablasLosa.h"
 
@@ -52,6 +53,7 @@ void Losas::AlAgregar() {
 void Losas::AlVaciar() {
     VaciarLosa(estado_.Abierta);
     estado_.Resultados = {};
+    espacio_.PonerAvisos({});
     lista_.Redibujar();
 }
 
@@ -61,6 +63,7 @@ void Losas::PonerEncabezado() {
 
 void Losas::Calcular() {
     CalcularLosa(estado_.Abierta, aplicacion_.Generales, estado_.Resultados);
+    espacio_.PonerAvisos(AvisosDe(Calculada(), estado_.Hoja.Numeros));
     lista_.Redibujar();
 }
 
