@@ -1,5 +1,7 @@
 #include "base/VigilanciaFlotante.h"
 
+#include <cfenv>
+
 #include "base/ErrorEjecucion.h"
 
 namespace trabex {
@@ -57,22 +59,5 @@ void CorrerVigilada(Tarea tarea, void* datos) {
 }
 
 }  // namespace vigilancia
-
-VigilanciaFlotante::VigilanciaFlotante() {
-    std::fegetexceptflag(&anteriores_, FE_ALL_EXCEPT);
-    std::feclearexcept(FE_ALL_EXCEPT);
-}
-
-VigilanciaFlotante::~VigilanciaFlotante() {
-    std::fesetexceptflag(&anteriores_, FE_ALL_EXCEPT);
-}
-
-void VigilanciaFlotante::Comprobar() const {
-    LanzarFalta();
-}
-
-bool VigilanciaFlotante::Levantadas() {
-    return std::fetestexcept(Faltas) != 0;
-}
 
 }  // namespace trabex

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cfenv>
-#include <cstddef>
 #include <optional>
 #include <type_traits>
 #include <utility>
@@ -79,38 +77,5 @@ void Vigilar(Calculo calculo) {
     auto pasoAPaso = [&] { calculo(Pasos(true)); };
     vigilancia::CorrerVigilada(&vigilancia::Llamar<decltype(pasoAPaso)>, &pasoAPaso);
 }
-
-/// The watch that calculations without steps keep: they call `Comprobar` where a station is done.
-class VigilanciaFlotante {
-  public:
-    VigilanciaFlotante();
-    ~VigilanciaFlotante();
-    VigilanciaFlotante(const VigilanciaFlotante&) = delete;
-    VigilanciaFlotante& operator=(const VigilanciaFlotante&) = delete;
-
-    /// Throws ErrorEjecucion 11 after a division by zero, 6 after an overflow and 5 after an invalid
-    /// operation.
-    void Comprobar() const;
-
-    /// Runs guardar(i, calcular(i)) for i = desde … hasta, and throws as Comprobar does where a fault arises:
-    /// the records before it are stored, that one and those after it are not.
-    template <class Calcular, class Guardar, class Borrar>
-    void Recorrer(std::size_t desde, std::size_t hasta, Calcular calcular, Guardar guardar,
-                  Borrar borrar) const {
-        for (std::size_t i = desde; i <= hasta; ++i) guardar(i, calcular(i));
-        if (!Levantadas()) return;
-        borrar();
-        std::feclearexcept(FE_ALL_EXCEPT);
-        for (std::size_t i = desde; i <= hasta; ++i) {
-            const auto calculado = calcular(i);
-            Comprobar();
-            guardar(i, calculado);
-        }
-    }
-
-  private:
-    static bool Levantadas();
-    std::fexcept_t anteriores_{};
-};
 
 }  // namespace trabex

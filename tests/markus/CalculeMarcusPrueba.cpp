@@ -100,5 +100,23 @@ TEST(Marcus, LasFilasSonTextos) {
               6);  // the fourth power fits, its double does not
 }
 
+/// An empty number is no number; the rows before it have theirs, the others keep what they had.
+TEST(Marcus, UnNumeroVacioEsUnErrorDeConversion) {
+    for (double PanoMarcus::*campo : {&PanoMarcus::Carga, &PanoMarcus::LX, &PanoMarcus::LY}) {
+        std::vector<PanoMarcus> panos(3, {100, 1, 4, 4, {}});
+        panos[1].*campo = std::nan("");
+        panos[2].Reparto.WX = 7;
+        try {
+            CalculePanos(panos);
+            ADD_FAILURE();
+        } catch (const ErrorEjecucion& error) {
+            EXPECT_EQ(error.Codigo(), 13);
+        }
+        EXPECT_EQ(panos[0].Reparto.WX, 50);
+        EXPECT_EQ(panos[1].Reparto.CX, 0);
+        EXPECT_EQ(panos[2].Reparto.WX, 7);
+    }
+}
+
 }  // namespace
 }  // namespace trabex

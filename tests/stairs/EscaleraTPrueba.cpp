@@ -5,7 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "stairs/CalcularEscaleraT.h"
-#include "stairs/DisenoEscaleraT.h"
+#include "stairs/EstaticaEscaleraT.h"
+#include "support/EscaleraPorTrabajo.h"
 
 namespace trabex {
 
@@ -195,92 +196,75 @@ TEST(EscaleraT, UnErrorDejaLoQueHabia) {
     EXPECT_FALSE(r.Error);
 }
 
-/// The flight's faces keep the greater of two demands, and the landing signs its lateral moment.
-TEST(EscaleraT, AcerosDeCadaCara) {
-    const DatosGenerales g;
-    DatosEscaleraT d = Modelo();
-    EscaleraTramoPunto p;
-    p.EnvolventeNegativa = -9000;  // past the limit moment: steel on both faces
-    p.EnvolventePositiva = 500;
-    DisenarFlexionTramo(d, g, {}, p);
-    const AceroCaras negativo = CalculeRefuerzoEscalera(-9000, d.B, d.HT, g);
-    const AceroCaras positivo = CalculeRefuerzoEscalera(500, d.B, d.HT, g);
-    ASSERT_GT(negativo.AsInf, positivo.AsInf);
-    EXPECT_EQ(p.AsSuperior, negativo.AsSup);
-    EXPECT_EQ(p.AsInferior, negativo.AsInf);
-    p.EnvolventePositiva = 20000;
-    DisenarFlexionTramo(d, g, {}, p);
-    EXPECT_EQ(p.AsInferior, CalculeRefuerzoEscalera(20000, d.B, d.HT, g).AsInf);
-
-    EscaleraDescansoPunto q;
-    q.MomentoY = -3000;
-    DisenarDescanso(d, g, {}, q);
-    EXPECT_EQ(q.AsY, 0);
-    q.MomentoY = 3000;
-    DisenarDescanso(d, g, {}, q);
-    EXPECT_GT(q.AsY, 0);
-    q.CorteY = -1e5;
-    DisenarDescanso(d, g, {}, q);
-    EXPECT_EQ(q.FallaCorte, "Falla por Corte");
-    EXPECT_EQ(CalculeRefuerzoEscalera(0, d.B, d.HT, g).AsSup, 0);
-}
-
-/// A flight of 1.20 m by 0.15 m: x1 = 115 cm, y1 = 10 cm, a sum of 27000 cm³.
-TEST(EscaleraT, Estribos) {
-    const DatosGenerales g;
-    const DatosEscaleraT d = Modelo();
-    EstaticaEscaleraT e;
-    double area = 0.5;
-    // Torsion that the concrete takes: the widest spacing, the bar as it came, steel of the smaller bar.
-    EstribosTramo estribos = CalculeEstribos(0, 100, e, 0, d, g, area);
-    EXPECT_EQ(estribos.Separacion, 30);
-    EXPECT_EQ(area, 0.5);
-    EXPECT_NEAR(estribos.AsLongitudinal, 125 * 1.42 / 30 / 2, 1e-12);
-    // Where concrete does not: s = at·x1·y1·Fy·A/(Ts·100), with the product of torsion and length less Tc.
-    const double Tlim = std::sqrt(250.0) * 0.13 * 27000 / 100;
-    const auto torsor = [&](double Tn) { return Tn * 0.85 / g.FS / d.L; };
-    const auto separacion = [&](double Tn, double A) {
-        return 1.5 * 115 * 10 * 4200 * A / ((Tn - Tlim * 0.21 / 0.13) * 100);
+/// The code is that of the first fault, and what was stored before it stays, in its own station too.
+TEST(EscaleraT, ElErrorEsElDeLaPrimeraFalta) {
+    struct Caso {
+        const char* Que;
+        double HT, FiMomento;
+        std::int16_t FC, FY;
+        int Codigo;
     };
-    estribos = CalculeEstribos(0, torsor(4000), e, 0, d, g, area);
-    EXPECT_NEAR(estribos.Separacion, separacion(4000, 0.71), 1e-9);
-    EXPECT_EQ(area, 0.71);
-    estribos = CalculeEstribos(0, -torsor(9000), e, 0, d, g, area);
-    EXPECT_NEAR(estribos.Separacion, separacion(9000, 1.27), 1e-9);  // under 10 cm with the smaller bar
-    EXPECT_EQ(area, 1.27);
-    EXPECT_NEAR(estribos.AsLongitudinal, 125 * 1.42 / estribos.Separacion / 2, 1e-9);
-    // Shear takes from the concrete's share; the horizontal moment and the distance take from the torsion.
-    EXPECT_LT(CalculeEstribos(8000, torsor(4000), e, 0, d, g, area).Separacion, separacion(4000, 0.71));
-    area = 0.5;
-    e.MomentoHorizontal = -2 * 0.85 * 3900 / (0.6 * 6.28318530717958 / 4);
-    EXPECT_EQ(CalculeEstribos(0, torsor(4000), e, 0, d, g, area).Separacion, 30);
-    e.MomentoHorizontal = 0;
-    EXPECT_EQ(CalculeEstribos(0, torsor(4000), e, d.L, d, g, area).Separacion, 30);
-    EXPECT_EQ(area, 0.5);
+    // A flight as thick as its cover: 0/0 in As1, and only then c = 0 divides. Steel of no strength, past the
+    // limit moment: As1 divides by it first. Concrete of none: the same 0/0.
+    for (const Caso& caso :
+         {Caso{"d = 0", 0.025, 0.9, 250, 4200, 5}, Caso{"φ = 0", 0.15, 0, 250, 4200, 11},
+          Caso{"Fy = 0", 0.05, 0.9, 250, 0, 11}, Caso{"F'c < 0", 0.15, 0.9, -250, 4200, 5}}) {
+        DatosEscaleraT d = Modelo();
+        d.HT = caso.HT;
+        DatosGenerales g;
+        g.FiMomento = caso.FiMomento;
+        g.FC = caso.FC;
+        g.FY = caso.FY;
+        ResultadosEscaleraT r;
+        CalcularEscaleraT(d, g, r);
+        ASSERT_TRUE(r.Error) << caso.Que;
+        EXPECT_EQ(r.Error->Codigo(), caso.Codigo) << caso.Que;
+        EXPECT_NEAR(r.TramoT[0].Torsor, 554.05, 5e-3) << caso.Que;
+        EXPECT_NEAR(r.TramoT[0].EnvolventeNegativa, -720, 5e-3) << caso.Que;
+    }
+    // A landing as thick as nothing: its steel stands; that of its lateral moment is 0/0, and the stress of
+    // its shear, which would divide by 0, is not reached.
+    DatosEscaleraT d = Modelo();
+    d.Hd = 0;
+    ResultadosEscaleraT r;
+    CalcularEscaleraT(d, {}, r);
+    ASSERT_TRUE(r.Error);
+    EXPECT_EQ(r.Error->Codigo(), 5);
+    EXPECT_NE(r.DescansoT[1].AsSuperior, 0);
+    EXPECT_EQ(r.DescansoT[1].TensionCorte, 0);
+    EXPECT_EQ(r.DescansoT[2].Torsor, 0);
+    EXPECT_EQ(r.TramoT[0].SeparacionEstribo, 30);
+    EXPECT_EQ(r.ReaccionVertical, 0);
 }
 
-/// Stirrups are found from the support to the landing, and a bar once chosen is carried over.
-TEST(EscaleraT, LaBarraSeLlevaDelApoyoAlDescanso) {
-    DatosEscaleraT d = Modelo();
-    d.WT = 6000;
-    d.Wd = 5000;
-    const ResultadosEscaleraT r = Calculada(d);
-    double barra = 0;
-    bool llevada = false;
-    double X = 0;
-    for (std::size_t i = 11; i-- > 0; X += d.L / 10) {
-        const EscaleraTramoPunto& p = r.TramoT[i];
-        double area = barra;
-        const EstribosTramo s = CalculeEstribos(p.CorteEnvolvente, p.Torsor, r.Estatica, X, d, {}, area);
-        EXPECT_EQ(p.SeparacionEstribo, s.Separacion);
-        EXPECT_EQ(p.AreaEstribo, area);
-        double marca = -1;
-        CalculeEstribos(p.CorteEnvolvente, p.Torsor, r.Estatica, X, d, {}, marca);
-        llevada = llevada || (marca == -1 && p.AreaEstribo > 0);
-        barra = area;
+/// Least work, which shares no formula with the coefficients, to the last digits.
+TEST(EscaleraT, LosHiperestaticosSonLosDelTrabajoMinimo) {
+    std::mt19937 azar(13);
+    for (int vez = 0; vez < 100; ++vez) {
+        const DatosEscaleraT d = AlAzar(azar);
+        const ResultadosEscaleraT r = Calculada(d);
+        const prueba::EscaleraPorTrabajo total(d, d.Wd);
+        const prueba::EscaleraPorTrabajo permanente(d, d.WpD);
+        const double tolerancia = 2e-14 * (d.L + d.B) * (d.L + d.B) * (d.WT + d.Wd + d.WpD + 1);
+        EXPECT_NEAR(r.Estatica.MomentoApoyoTotal, static_cast<double>(total.MomentoApoyo), tolerancia);
+        EXPECT_NEAR(r.Estatica.MomentoHorizontal, static_cast<double>(total.MomentoHorizontal), tolerancia);
+        EXPECT_NEAR(r.Estatica.MomentoApoyoPermanente, static_cast<double>(permanente.MomentoApoyo),
+                    tolerancia);
+        EXPECT_NEAR(r.Estatica.EmpujeFlexion, static_cast<double>(total.Empuje), tolerancia / d.H * 4);
+        EXPECT_NEAR(EmpujeEstatico(r), static_cast<double>(total.Empuje), tolerancia / d.H * 4);
+        EXPECT_NEAR(r.TramoT[7].MomentoTotal, static_cast<double>(total.Momento(0.7L * d.L)), 2 * tolerancia);
     }
-    EXPECT_TRUE(llevada);
-    EXPECT_LT(r.TramoT[10].SeparacionEstribo, 30);
+}
+
+TEST(EscaleraT, LugarDeLasEstaciones) {
+    const DatosEscaleraT d = Modelo();
+    EXPECT_EQ(XDeEstacion(d, 0), 0);
+    EXPECT_NEAR(XDeEstacion(d, 3), 0.72, 1e-15);
+    EXPECT_NEAR(XDeEstacion(d, 10), 2.4, 1e-14);
+    EXPECT_EQ(GradosDeDescanso(1), 0);
+    EXPECT_EQ(GradosDeDescanso(7), 90);
+    EXPECT_EQ(EmpujeEstatico({}), 0);
+    EXPECT_NEAR(EmpujeEstatico(Calculada(d)), 4250.54, 5e-3);  // beside the prescribed 5530.01
 }
 
 }  // namespace

@@ -26,11 +26,6 @@ ResultadosEscaleraH Calcular(const DatosEscaleraH& e) {
     return r;
 }
 
-Accion AccionDe(const EstacionEscaleraH& s, const EjeHelice& eje, double t) {
-    const Vector3 tangente = eje.Tangente(t), radial = eje.Radial(t), normal = eje.Normal(t);
-    return {s.N * tangente + s.QY * radial - s.QX * normal, s.MY * normal - s.MT * tangente - s.MX * radial};
-}
-
 DatosEscaleraH AlAzar(std::mt19937& azar, bool plana) {
     const auto entre = [&azar](double a, double b) { return std::uniform_real_distribution<>(a, b)(azar); };
     DatosEscaleraH e{"",   "", entre(0.8, 2), entre(0.1, 0.4), plana ? 0 : entre(1, 5), entre(1.2, 4), 0,

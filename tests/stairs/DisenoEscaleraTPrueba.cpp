@@ -1,0 +1,133 @@
+#include <cmath>
+
+#include <gtest/gtest.h>
+
+#include "base/RefuerzoEscalera.h"
+#include "stairs/CalcularEscaleraT.h"
+#include "stairs/DisenoEscaleraT.h"
+#include "support/EscalerasTrabajadas.h"
+
+namespace trabex {
+
+using namespace escaleras;
+namespace {
+
+/// To the digits of the worked values.
+void Igual(double obtenido, double esperado, const char* que, std::size_t estacion = 0) {
+    EXPECT_NEAR(obtenido, esperado, 1e-9 + 2e-10 * std::fabs(esperado)) << que << " " << estacion;
+}
+
+TEST(DisenoEscaleraT, SeccionesAFlexion) {
+    for (const auto& seccion : prueba::SeccionesAFlexion) {
+        const AceroCaras As = CalculeRefuerzoEscalera(seccion.M, seccion.Ancho, seccion.Alto, seccion.g);
+        Igual(As.AsSup, seccion.AsSup, seccion.Que);
+        Igual(As.AsInf, seccion.AsInf, seccion.Que);
+    }
+    const AceroCaras nada = CalculeRefuerzoEscalera(0, 1.2, 0.15, {});
+    EXPECT_EQ(nada.AsSup + nada.AsInf, 0);
+}
+
+TEST(DisenoEscaleraT, EstribosDeUnTramo) {
+    for (const auto& caso : prueba::EstribosDeTramos) {
+        DatosEscaleraT d;
+        d.B = caso.B;
+        d.HT = caso.HT;
+        d.L = caso.L;
+        EstaticaEscaleraT estatica;
+        estatica.Alfa = std::atan2(caso.H / 2, caso.L);
+        estatica.MomentoHorizontal = caso.MomentoHorizontal;
+        double area = 0;
+        const EstribosTramo estribos =
+            CalculeEstribos(caso.Corte, caso.Torsor, estatica, caso.X, d, caso.g, area);
+        Igual(estribos.Separacion, caso.Separacion, caso.Que);
+        Igual(estribos.AsLongitudinal, caso.AsLongitudinal, caso.Que);
+        EXPECT_EQ(area, caso.Area) << caso.Que;
+    }
+}
+
+/// A whole stair, worked apart: every field of every station.
+TEST(DisenoEscaleraT, EscaleraTrabajada) {
+    ResultadosEscaleraT r;
+    CalcularEscaleraT(prueba::EscaleraTTrabajada(), prueba::GeneralesTrabajados, r);
+    ASSERT_FALSE(r.Error);
+    for (std::size_t i = 0; i <= 10; ++i) {
+        const EscaleraTramoPunto& p = r.TramoT[i];
+        const prueba::TramoTrabajado& e = prueba::TramosTrabajados[i];
+        Igual(p.MomentoTotal, e.MomentoTotal, "MomentoTotal", i);
+        Igual(p.MomentoPermanente, e.MomentoPermanente, "MomentoPermanente", i);
+        Igual(p.CorteTotal, e.CorteTotal, "CorteTotal", i);
+        Igual(p.CortePermanente, e.CortePermanente, "CortePermanente", i);
+        Igual(p.Axial, e.Axial, "Axial", i);
+        Igual(p.MomentoY, e.MomentoY, "MomentoY", i);
+        Igual(p.Torsor, e.Torsor, "Torsor", i);
+        Igual(p.AsSuperior, e.AsSuperior, "AsSuperior", i);
+        Igual(p.AsInferior, e.AsInferior, "AsInferior", i);
+        Igual(p.AsTorsion, e.AsTorsion, "AsTorsion", i);
+        Igual(p.AsY, e.AsY, "AsY", i);
+        Igual(p.SeparacionEstribo, e.SeparacionEstribo, "SeparacionEstribo", i);
+        EXPECT_EQ(p.AreaEstribo, e.AreaEstribo) << i;
+    }
+    for (std::size_t j = 1; j <= 7; ++j) {
+        const EscaleraDescansoPunto& p = r.DescansoT[j];
+        const prueba::DescansoTrabajado& e = prueba::DescansosTrabajados[j - 1];
+        Igual(p.MomentoTotal, e.MomentoTotal, "MomentoTotal del descanso", j);
+        Igual(p.MomentoPermanente, e.MomentoPermanente, "MomentoPermanente del descanso", j);
+        Igual(p.CorteTotal, e.CorteTotal, "CorteTotal del descanso", j);
+        Igual(p.CortePermanente, e.CortePermanente, "CortePermanente del descanso", j);
+        Igual(p.CorteY, e.CorteY, "CorteY", j);
+        Igual(p.Axial, e.Axial, "Axial del descanso", j);
+        Igual(p.MomentoY, e.MomentoY, "MomentoY del descanso", j);
+        Igual(p.Torsor, e.Torsor, "Torsor del descanso", j);
+        Igual(p.AsSuperior, e.AsSuperior, "AsSuperior del descanso", j);
+        Igual(p.AsInferior, e.AsInferior, "AsInferior del descanso", j);
+        Igual(p.AsY, e.AsY, "AsY del descanso", j);
+        Igual(p.TensionCorte, e.TensionCorte, "TensionCorte", j);
+        Igual(p.TensionAdmisible, std::sqrt(210) * 0.53, "TensionAdmisible", j);
+        EXPECT_EQ(p.FallaCorte, j <= 2 ? "Falla por Corte" : "") << j;
+    }
+}
+
+/// What the flight and the landing do apart: greater of two demands, and the sign of the lateral moment.
+TEST(DisenoEscaleraT, CarasYSignos) {
+    const DatosEscaleraT d = prueba::EscaleraTTrabajada();
+    EscaleraTramoPunto p;
+    p.EnvolventeNegativa = -9000;  // past the limit moment: steel on both faces
+    p.EnvolventePositiva = 10000;
+    p.MomentoY = -3000;
+    DisenarFlexionTramo(d, {}, {}, p);
+    const double superior = p.AsSuperior;
+    const double inferior = p.AsInferior;
+    p.EnvolventePositiva = 0;
+    DisenarFlexionTramo(d, {}, {}, p);
+    EXPECT_EQ(p.AsSuperior, superior);  // that of the negative moment is the greater
+    EXPECT_GT(p.AsInferior, 0);
+    EXPECT_LT(p.AsInferior, inferior);
+    EXPECT_GT(p.AsY, 0);
+
+    EscaleraDescansoPunto q;
+    q.MomentoY = -3000;
+    DisenarDescanso(d, {}, {}, q);
+    EXPECT_EQ(q.AsY, 0);
+    // Equal stresses pass: 0.53·√FC against FS·CorteY/(0.85·t·dl), with numbers that are exact.
+    DatosEscaleraT igual;
+    igual.Hd = 0.2;
+    igual.B = 1.025;
+    DatosGenerales g;
+    g.FC = 100;
+    g.FS = 1;
+    q = {};
+    q.CorteY = -5.3 * 0.85 * 20 * 100 * (1 - 1e-12);
+    DisenarDescanso(igual, g, {}, q);
+    EXPECT_NEAR(q.TensionCorte, 5.3, 1e-9);
+    EXPECT_EQ(q.FallaCorte, "");
+}
+
+TEST(DisenoEscaleraT, AcerosMinimos) {
+    DatosGenerales g = prueba::GeneralesTrabajados;
+    const DatosEscaleraT d = prueba::EscaleraTTrabajada();
+    EXPECT_NEAR(AceroMinimoTramo(d, g), 14.0 / 2800 * 130 * 13, 1e-12);
+    EXPECT_NEAR(AceroMinimoDescanso(d, g), 0.002 * 130 * 18, 1e-12);
+}
+
+}  // namespace
+}  // namespace trabex
