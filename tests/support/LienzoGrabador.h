@@ -30,10 +30,12 @@ class LienzoGrabador : public Lienzo {
         std::optional<Color> Relleno;
     };
 
-    LienzoGrabador(std::int32_t ancho, std::int32_t alto) : ancho_(ancho), alto_(alto) {}
+    LienzoGrabador(std::int32_t ancho, std::int32_t alto, std::int32_t porPulgada = 96)
+        : ancho_(ancho), alto_(alto), porPulgada_(porPulgada) {}
 
     std::int32_t ScaleWidth() const override { return ancho_; }
     std::int32_t ScaleHeight() const override { return alto_; }
+    std::int32_t LadoDePixel() const override { return std::max(1, porPulgada_ / 96); }
     void Limpiar() override {
         ++Limpiezas;
         Textos.clear();
@@ -46,7 +48,7 @@ class LienzoGrabador : public Lienzo {
     void PonerColorTexto(Color color) override { tinta_ = color; }
     Color ColorTextoDeBotones() const override { return {}; }
     MedidaTexto Medir(std::string_view texto) override {
-        const double unidades = fuente_.Puntos * 96 / 72;
+        const double unidades = fuente_.Puntos * porPulgada_ / 72;
         const auto letras =
             std::count_if(texto.begin(), texto.end(), [](char c) { return (c & 0xC0) != 0x80; });
         return {static_cast<std::int32_t>(std::ceil(0.55 * unidades * static_cast<double>(letras))),
@@ -90,6 +92,7 @@ class LienzoGrabador : public Lienzo {
   private:
     std::int32_t ancho_;
     std::int32_t alto_;
+    std::int32_t porPulgada_;
     Fuente fuente_;
     Color tinta_;
 };

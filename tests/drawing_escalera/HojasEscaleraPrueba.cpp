@@ -1,0 +1,272 @@
+#include <cmath>
+
+#include <gtest/gtest.h>
+
+#include "drawing/Reparto.h"
+#include "drawing/escalera/GraficoEscalera.h"
+#include "stairs/CalcularEscaleraT.h"
+#include "support/LienzoGrabador.h"
+
+namespace trabex {
+
+using namespace dibujo;
+using namespace dibujo::escalera;
+using namespace escaleras;
+namespace {
+
+using prueba::LienzoGrabador;
+using TextoGrabado = LienzoGrabador::TextoGrabado;
+
+struct Dibujada {
+    explicit Dibujada(DatosEscaleraT datos) : Datos(std::move(datos)) {
+        CalcularEscaleraT(Datos, Generales, Resultados);
+    }
+    EscaleraCalculada Ver() const { return {Datos, Generales, Resultados}; }
+    void Dibujar(LienzoGrabador& lienzo, std::uint8_t vista, const EstiloEscalera& estilo = HojaEnPantalla) {
+        Hoja.VistaActual = vista;
+        RedibujeVista(lienzo, Hoja, Ver(), estilo);
+    }
+
+    DatosEscaleraT Datos;
+    DatosGenerales Generales;
+    ResultadosEscaleraT Resultados;
+    HojaEscalera Hoja;
+};
+
+DatosEscaleraT Modelo() {
+    return {"E-1", "Escalera principal", 2.4, 1.2, 3, 0.15, 0.15, 1200, 1000, 600};
+}
+
+/// The place that a text takes: level, or turned to be read from the right.
+CajaTexto CajaDe(const TextoGrabado& t) {
+    const double ancho = t.Medida.Ancho;
+    const double alto = t.Medida.Alto;
+    if (t.Decimas == 900) return {1.0 * t.Lugar.x, t.Lugar.y - ancho, alto, ancho};
+    return {1.0 * t.Lugar.x, 1.0 * t.Lugar.y, ancho, alto};
+}
+
+/// Descents of letters may touch the line below: boxes may share this part of a line.
+constexpr double Roce = 0.1;
+
+bool SeTocan(const CajaTexto& a, const CajaTexto& b, double holgura) {
+    return std::min(a.x + a.Ancho, b.x + b.Ancho) - std::max(a.x, b.x) > holgura &&
+           std::min(a.y + a.Alto, b.y + b.Alto) - std::max(a.y, b.y) > holgura;
+}
+
+std::string Faltas(const LienzoGrabador& lienzo) {
+    std::string faltas;
+    for (std::size_t i = 0; i < lienzo.Textos.size(); ++i) {
+        const CajaTexto a = CajaDe(lienzo.Textos[i]);
+        if (a.x < 0 || a.y < 0 || a.x + a.Ancho > lienzo.ScaleWidth() || a.y + a.Alto > lienzo.ScaleHeight())
+            faltas += "off: " + lienzo.Textos[i].Texto + " at " + std::to_string(a.x) + ", " +
+                      std::to_string(a.y) + "\n";
+        for (std::size_t k = 0; k < i; ++k)
+            if (SeTocan(a, CajaDe(lienzo.Textos[k]), Roce * lienzo.Textos[i].Medida.Alto))
+                faltas += "met: " + lienzo.Textos[i].Texto + " and " + lienzo.Textos[k].Texto + "\n";
+    }
+    return faltas;
+}
+
+struct SuperficieDePrueba {
+    const char* Nombre;
+    std::int32_t Ancho, Alto, PorPulgada;
+    bool DePapel;
+};
+void PrintTo(const SuperficieDePrueba& s, std::ostream* salida) {
+    *salida << s.Nombre;
+}
+
+class Rejilla : public testing::TestWithParam<SuperficieDePrueba> {};
+
+TEST_P(Rejilla, NingunTextoPisaOtroNiSale) {
+    const SuperficieDePrueba& s = GetParam();
+    for (const double L : {1.8, 2.4, 3.2, 4.0})
+        for (const double B : {0.9, 1.2, 1.5, 2.0})
+            for (const double H : {2.4, 3.0, 4.0}) {
+                Dibujada e({"E-1", "Escalera principal del edificio", L, B, H, 0.2, 0.2, 2076, 1865, 1040});
+                ASSERT_FALSE(e.Resultados.Error);
+                for (std::uint8_t vista = 0; vista < 4; ++vista) {
+                    LienzoGrabador lienzo(s.Ancho, s.Alto, s.PorPulgada);
+                    e.Hoja = {};
+                    e.Hoja.VistaActual = vista;
+                    if (s.DePapel)
+                        GuardeGraficos1(lienzo, e.Hoja, e.Ver(), {"U", "P", "C"});
+                    else
+                        e.Dibujar(lienzo, vista);
+                    EXPECT_EQ(Faltas(lienzo), "")
+                        << "sheet " << int(vista) << ", " << L << " " << B << " " << H;
+                    EXPECT_GT(lienzo.Textos.size(), 4U);
+                }
+            }
+}
+
+INSTANTIATE_TEST_SUITE_P(Superficies, Rejilla,
+                         testing::Values(SuperficieDePrueba{"screen", 1010, 560, 96, false},
+                                         SuperficieDePrueba{"report", 940, 580, 96, false},
+                                         SuperficieDePrueba{"portrait", 4500, 6000, 600, true},
+                                         SuperficieDePrueba{"landscape", 6000, 4500, 600, true}));
+
+struct Origen {
+    std::uint8_t Vista;
+    const EstiloEscalera& Estilo;
+    std::int32_t Ancho, Alto;
+    double Escala;
+    std::int32_t OrigenY;
+};
+
+// Plan length 3.6 m, two widths 2.4 m, rise 3 m: each rule's smaller limit, and the row of the origin.
+TEST(HojasEscalera, EscalaYOrigenDeCadaHoja) {
+    const Origen casos[]{
+        {0, HojaEnPantalla, 1000, 600, 600 * 0.8 / 6.7, 293},  // 300 − 0.1·71.64
+        {0, HojaEnPantalla, 300, 600, 300 * 0.8 / 3.6, 293},   // 300 − 0.1·66.67
+        {1, HojaEnPantalla, 1000, 600, 600 * 0.7 / 4.8, 44},   // 0.5·87.5, half to even
+        {2, HojaEnPantalla, 360, 600, 360 * 0.7 / 3.6, 35},
+        {3, HojaEnPantalla, 1000, 600, 600 / 5.4, 100},        // 300 − 1.8·111.1
+        {0, HojaEnPapel, 4500, 6000, 6000 * 0.7 / 5.9, 2929},  // 3000 − 0.1·711.9
+        {1, HojaEnPapel, 4500, 6000, 500, 490},                // 0.5·500 under the page's furniture
+        {1, HojaEnPapel, 6000, 4500, 600, 480},                // 666.7 is capped
+        {3, HojaEnPapel, 6000, 4500, 4500 * 0.8 / 5.4, 1050},  // 2250 − 1.8·666.7
+    };
+    for (const Origen& c : casos) {
+        Dibujada e(Modelo());
+        LienzoGrabador lienzo(c.Ancho, c.Alto);
+        e.Dibujar(lienzo, c.Vista, c.Estilo);
+        EXPECT_DOUBLE_EQ(e.Hoja.Vista.Escala, c.Escala);
+        EXPECT_EQ(e.Hoja.Vista.OrigenX, c.Ancho / 2);
+        EXPECT_EQ(e.Hoja.Vista.OrigenY, c.OrigenY);
+    }
+}
+
+TEST(HojasEscalera, PlantaYSeccion) {
+    Dibujada e(Modelo());
+    LienzoGrabador lienzo(1800, 670);  // 80 units to the metre, the origin at 900, 327
+    e.Dibujar(lienzo, VistaGeometria);
+    ASSERT_DOUBLE_EQ(e.Hoja.Vista.Escala, 80);
+    const auto lineaEn = [&](std::int32_t x) {
+        std::vector<LienzoGrabador::Figura> halladas;
+        for (const auto& linea : lienzo.Lineas)
+            if (linea.Puntos[0].x == x && linea.Puntos[1].x == x && linea.Borde->Tinta == Color{})
+                halladas.push_back(linea);
+        return halladas;
+    };
+    // The first tread, 0.3 m from the left edge at 900 − 1.8·80, crosses both flights.
+    const auto primera = lineaEn(780);
+    ASSERT_EQ(primera.size(), 2U);
+    EXPECT_EQ(primera[0].Puntos, (std::vector<PuntoLienzo>{{780, 303}, {780, 207}}));
+    EXPECT_EQ(primera[1].Puntos, (std::vector<PuntoLienzo>{{780, 183}, {780, 87}}));
+    // The last one, where the landing begins, one flight alone, a unit longer.
+    const auto ultima = lineaEn(948);
+    ASSERT_EQ(ultima.size(), 1U);
+    EXPECT_EQ(ultima[0].Puntos, (std::vector<PuntoLienzo>{{948, 304}, {948, 207}}));
+    // Flight: 0.15 m square to a slope of 1.5 in 2.4 (sine 0.53, cosine 0.848).
+    const auto seccion = lienzo.DeColor({181, 196, 200});
+    ASSERT_EQ(seccion.size(), 2U * (1 + 8) + 1);
+    EXPECT_EQ(seccion[0].Puntos, (std::vector<PuntoLienzo>{{756, 351}, {948, 471}, {942, 481}, {750, 361}}));
+    EXPECT_EQ(seccion[1].Puntos, (std::vector<PuntoLienzo>{{756, 351}, {780, 351}, {780, 366}}));
+    EXPECT_EQ(seccion[10].Puntos, (std::vector<PuntoLienzo>{{948, 471}, {924, 471}, {924, 486}}));
+    for (const char* texto :
+         {"2,40", "1,20", "0,30", "2,70", "1,50", "e1 = 0,15", "e2 = 0,15", "Escalera principal"})
+        EXPECT_TRUE(lienzo.Hallar(texto)) << texto;
+    EXPECT_EQ(std::count_if(lienzo.Textos.begin(), lienzo.Textos.end(),
+                            [](const TextoGrabado& t) { return t.Texto == "1,20"; }),
+              3);
+}
+
+TEST(HojasEscalera, CadaCifraEnSuColumnaYSuFila) {
+    Dibujada e(Modelo());
+    e.Resultados.DescansoT[7].FallaCorte = TextoFallaCorte;
+    LienzoGrabador lienzo(2400, 1200);  // 175 units to the metre, the origin at 1200, 88
+    e.Dibujar(lienzo, VistaSolicitaciones);
+    ASSERT_DOUBLE_EQ(e.Hoja.Vista.Escala, 175);
+    const auto centro = [&](const char* texto) {
+        const TextoGrabado* t = lienzo.Hallar(texto);
+        EXPECT_TRUE(t) << texto;
+        const CajaTexto caja = CajaDe(*t);
+        return Centro{caja.x + caja.Ancho / 2, caja.y + caja.Alto / 2};
+    };
+    EXPECT_NEAR(centro("-782").x, 1200 - 1.8 * 175, 1);   // the support
+    EXPECT_NEAR(centro("-436").x, 1200 - 1.56 * 175, 1);  // a tenth of the flight further
+    EXPECT_NEAR(centro("-1174").x, 1200 + 1.2 * 175, 1);  // 45 degrees, the middle of the landing
+    EXPECT_NEAR(centro("-941").x, 1200 + 1.8 * 175, 1);   // 0 degrees, its far edge
+    const double base = 88 + (1.5 + 0.4 + 0.374) * 175;
+    const CajaTexto encima = CajaDe(*lienzo.Hallar("-782"));
+    EXPECT_NEAR(encima.y + encima.Alto, base - 0.04 * 175, 1);
+    EXPECT_NEAR(CajaDe(*lienzo.Hallar("257")).y, base + 0.05 * 175, 1);
+    const TextoGrabado& rotulo = *lienzo.Hallar("ENVOL. MOMENTOS (kgf-m) MX:");
+    EXPECT_NEAR(rotulo.Lugar.x + rotulo.Medida.Ancho, 1200 - 1.96 * 175, 1);
+    EXPECT_NEAR(rotulo.Lugar.y + rotulo.Medida.Alto / 2.0, base, 1);
+    EXPECT_EQ(rotulo.Decimas, 0);
+    EXPECT_DOUBLE_EQ(rotulo.Letra.Puntos, 8);
+    // What fails in shear is red, in its row alone. Its column moved half a line from the flight's last.
+    for (const TextoGrabado& t : lienzo.Textos)
+        EXPECT_EQ(t.Tinta == (Color{255, 0, 0}),
+                  t.Texto == "0" && std::fabs(CajaDe(t).x + t.Medida.Alto / 2.0 - (1207 + 0.6 * 175)) < 2 &&
+                      t.Lugar.y > 88 + (1.9 + 2.828) * 175)
+            << t.Texto << " " << t.Lugar.x << " " << t.Lugar.y;
+}
+
+TEST(HojasEscalera, ElAceroMinimoSigueAlZoomEnPantallaYEsCiertoEnPapel) {
+    Dibujada e(Modelo());
+    LienzoGrabador pantalla(2400, 1200);
+    e.Dibujar(pantalla, VistaDiseno);
+    // 175·1.067 units to the metre instead of 100: 5 cm² and 3 cm² times their square.
+    EXPECT_TRUE(pantalla.Hallar("EN EL TRAMO ASMín = 17,43 cm2 (14/Fy)"));
+    EXPECT_TRUE(pantalla.Hallar("EN EL DESCANSO ASMín = 10,46 cm2 (0.002)"));
+    LienzoGrabador papel(2400, 1200);
+    e.Dibujar(papel, VistaDiseno, HojaEnPapel);
+    EXPECT_TRUE(papel.Hallar("EN EL TRAMO ASMín = 5,00 cm2 (14/Fy)"));
+    EXPECT_TRUE(papel.Hallar("EN EL DESCANSO ASMín = 3,00 cm2 (0.002)"));
+}
+
+TEST(HojasEscalera, ReaccionesEnLosDosApoyos) {
+    Dibujada e(Modelo());
+    LienzoGrabador lienzo(1000, 600);
+    e.Dibujar(lienzo, VistaReacciones);
+    EXPECT_EQ(lienzo.DeColor({248, 199, 199}).size(), 4U);
+    int verticales = 0;
+    int horizontales = 0;
+    for (const TextoGrabado& t : lienzo.Textos) {
+        verticales += t.Texto == "4.080" && t.Decimas == 900;
+        horizontales += t.Texto == "5.530" && t.Decimas == 0;
+    }
+    EXPECT_EQ(verticales, 2);
+    EXPECT_EQ(horizontales, 2);
+    EXPECT_TRUE(lienzo.Hallar("Escalera principal"));
+}
+
+TEST(HojasEscalera, SinMedidasOSinPeldanosQuedaLoDibujado) {
+    for (std::uint8_t vista = 0; vista < 4; ++vista) {
+        DatosEscaleraT datos = Modelo();
+        datos.H = 0;
+        Dibujada vacia(datos);
+        LienzoGrabador lienzo(1000, 600);
+        vacia.Hoja.Vista.CuadriculaVisible = false;
+        vacia.Dibujar(lienzo, vista);
+        EXPECT_EQ(lienzo.Limpiezas, 1);
+        EXPECT_TRUE(lienzo.Textos.empty() && lienzo.Lineas.empty() && lienzo.Poligonos.empty());
+        for (const auto& [L, H] : {std::pair{0.15, 3.0}, {2.4, 0.18}}) {  // no tread, no rise
+            datos = Modelo();
+            datos.L = L;
+            datos.H = H;
+            Dibujada corta(datos);
+            LienzoGrabador otro(1000, 600);
+            corta.Dibujar(otro, vista);
+            EXPECT_EQ(otro.Poligonos.size(), vista == VistaGeometria ? 3U : 0U);  // the plan
+            EXPECT_TRUE(otro.Textos.empty());
+        }
+    }
+    Dibujada e(Modelo());
+    LienzoGrabador lienzo(1000, 600);
+    e.Dibujar(lienzo, 4);
+    EXPECT_EQ(lienzo.Limpiezas, 0);
+}
+
+TEST(Reparto, SoloSeMuevenLosQueSeTocan) {
+    EXPECT_EQ(Repartir({0, 20, 40}, 10), (std::vector<double>{0, 20, 40}));
+    EXPECT_EQ(Repartir({0, 20, 20, 40}, 10), (std::vector<double>{0, 15, 25, 40}));
+    EXPECT_EQ(Repartir({0, 12, 12, 40}, 10), (std::vector<double>{-2, 8, 18, 40}));
+    EXPECT_EQ(Repartir({}, 10), std::vector<double>{});
+}
+
+}  // namespace
+}  // namespace trabex
