@@ -1,3 +1,4 @@
+#include <cmath>
 #include <random>
 
 #include <gmock/gmock.h>
@@ -28,6 +29,20 @@ using testing::HasSubstr;
 
 double N(const FilaSqlite& fila, const char* campo) {
     return std::stod(fila.at(campo));
+}
+
+/// Span i as long as its shifted joints make it, m.
+double LargoDeMiembro(const Losa& losa, std::size_t i) {
+    double dx = losa.Tramos[i].LT;
+    double dy = 0;
+    for (std::size_t k = 1; k < losa.JuntasD.size(); ++k) {
+        const JuntaD& corrida = losa.JuntasD[k];
+        const int signo = static_cast<std::size_t>(corrida.Junta) == i + 1 ? 1 : -1;
+        if (corrida.Junta != static_cast<int>(i) && signo < 0) continue;
+        dx += signo * corrida.x;
+        dy += signo * corrida.y;
+    }
+    return std::hypot(dx, dy);
 }
 
 /// A project of ribbed and solid slabs, one of them without spans, its folders and the state of its reports.
@@ -117,7 +132,7 @@ TEST_F(ReporteLosas, TodasLasLosasQuedanComoElMotorLasCalcula) {
             EXPECT_DOUBLE_EQ(N(t, "PtoB"), r.DisenoEje[i + 1].PtoI);
             EXPECT_DOUBLE_EQ(N(t, "Mczb"), N(ejes[i], "MczI"));
             EXPECT_DOUBLE_EQ(N(t, "L"), losa.Tramos[i].LT);
-            cargas += (losa.Tramos[i].Wp + losa.Tramos[i].WV) * N(t, "L") + losa.Tramos[i].p1;
+            cargas += (losa.Tramos[i].Wp + losa.Tramos[i].WV) * LargoDeMiembro(losa, i) + losa.Tramos[i].p1;
         }
         for (std::size_t i = 1; i <= ejes.size(); ++i) {
             const double macizado = r.DisenoEje[i].MczI;
@@ -126,9 +141,10 @@ TEST_F(ReporteLosas, TodasLasLosasQuedanComoElMotorLasCalcula) {
             EXPECT_DOUBLE_EQ(N(ejes[i - 1], "DY"), r.ResultadoJunta[1][i].DY + r.ResultadoJunta[2][i].DY);
             reacciones += N(ejes[i - 1], "RV");
         }
-        // What the beams take is what the slab carries, where no span was made longer by a shifted joint.
-        const bool recta = losa.JuntasD.size() == 1;
-        EXPECT_NEAR(reacciones, recta ? cargas : reacciones, 1e-3) << losa.Nombre;
+        // What the beams take is what the slab carries, along members that shifted joints made longer. Of
+        // displacements under 1e-8, which count as none, some tenths of a kgf a span go with sloped ones.
+        const double tolerancia = losa.JuntasD.size() == 1 ? 1e-3 : 0.3 * static_cast<double>(tramos.size());
+        EXPECT_NEAR(reacciones, cargas, tolerancia) << losa.Nombre;
     }
     EXPECT_TRUE(hubo) << "no solid zone short enough to be left out";
 }
