@@ -142,3 +142,36 @@ INSERT INTO Marcus VALUES
     ('TECHO', 1, 560, 1, 5, 5),
     ('TECHO', 2, 560, 6, 5, 4.2),
     ('TECHO', 3, 620, 8, 3.6, 4.2);
+
+-- Load analyses of the floors above.
+
+INSERT INTO AnalisisCargaG (ID, Descripcion) VALUES
+    (2741, 'ENTREPISO TIPO'),
+    (6120, 'ENTREPISO DE OFICINAS'),
+    (8893, 'TECHO');
+
+INSERT INTO AnalisisCargaCP VALUES
+    (2741, 1, 'Losa nervada con bloques de arcilla, h = 25 cm', 315),
+    (2741, 2, 'Pavimento de cerámica sobre mortero, e = 5 cm', 100),
+    (2741, 3, 'Friso de mortero, e = 1.5 cm', 30),
+    (2741, 4, 'Tabiquería de bloques de arcilla, e = 10 cm, repartida', 150),
+    (6120, 1, 'Losa nervada con bloques de poliestireno, h = 30 cm', 255),
+    (6120, 2, 'Pavimento de porcelanato sobre mortero, e = 5 cm', 110),
+    (6120, 3, 'Cielo raso de fibra mineral con entramado', 10),
+    (6120, 4, 'Ductos de aire acondicionado', 15),
+    (6120, 5, 'Tabiquería liviana de yeso y cartón, repartida', 50),
+    (8893, 1, 'Losa nervada con bloques de arcilla, h = 20 cm', 270),
+    (8893, 2, 'Mortero de pendiente, e media = 5 cm', 105),
+    (8893, 3, 'Impermeabilización con manto asfáltico doble', 10),
+    (8893, 4, 'Friso de yeso, e = 1.5 cm', 20);
+
+INSERT INTO AnalisisCargaCV VALUES
+    (2741, 'Viviendas', 175),
+    (6120, 'Oficinas', 250),
+    (8893, 'Techos sin acceso', 100);
+
+-- Totals as a save of each analysis sets them.
+UPDATE AnalisisCargaG SET
+    CP = (SELECT TOTAL(Peso) FROM AnalisisCargaCP WHERE AnalisisCargaCP.ID = AnalisisCargaG.ID),
+    CV = (SELECT Peso FROM AnalisisCargaCV WHERE AnalisisCargaCV.ID = AnalisisCargaG.ID);
+UPDATE AnalisisCargaG SET Carga = CP + CV, REL = CV / CP;

@@ -43,6 +43,18 @@ bool EscribirFilas(Conexion& conexion, const TablaDeFilas& tabla, const Clave& c
     return escritas;
 }
 
+bool CopiarFilas(Recordset& origen, Recordset& destino) {
+    bool copiadas = true;
+    for (int k = 1; k <= origen.NumeroRegistros(); ++k) {
+        origen.MoverA(k);
+        destino.AgregarNuevo();
+        for (const Columna& columna : origen.Columnas())
+            destino.Poner(columna.Nombre, origen.Leer(columna.Nombre));
+        copiadas = destino.Actualizar() && copiadas;
+    }
+    return copiadas;
+}
+
 bool ReemplazarFila(Conexion& conexion, const char* tabla, const std::function<void(Recordset&)>& poner) {
     Transaccion guardado(conexion);
     conexion.Ejecutar("DELETE * FROM " + std::string(tabla));

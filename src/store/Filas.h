@@ -43,6 +43,10 @@ void BorrarFilas(Conexion& conexion, const TablaDeFilas& tabla, const Clave& cla
 bool EscribirFilas(Conexion& conexion, const TablaDeFilas& tabla, const Clave& clave, std::size_t filas,
                    const std::function<void(Recordset&, std::size_t)>& poner);
 
+/// Adds the records of a set to another of the same columns, as they stand. False when one could not be
+/// written.
+bool CopiarFilas(Recordset& origen, Recordset& destino);
+
 /// Writes the one row of a table of general data over whatever stands there, as one save. False when it could
 /// not be stored; what was stored then stands.
 bool ReemplazarFila(Conexion& conexion, const char* tabla, const std::function<void(Recordset&)>& poner);

@@ -6,6 +6,7 @@
 
 #include "store/Filas.h"
 #include "store/proyecto/CamposProyecto.h"
+#include "store/tablas/CamposCargas.h"
 #include "store/tablas/CamposEscalera.h"
 #include "store/tablas/CamposLosa.h"
 #include "store/tablas/CamposMarcus.h"
@@ -104,6 +105,9 @@ TEST_F(CamposDeRegistros, CadaListaEsSuTablaYVuelveDelArchivo) {
     Probar<helices::DatosEscaleraH>("EscaleraH", CamposEscaleraH, {"Nombre"});
     Probar<marcus::NivelMarcus>("MarcusDatos", CamposNivel);
     Probar<marcus::PanoMarcus>("Marcus", CamposPano, {"Nombre", "Numero"});
+    Probar<cargas::AnalisisCarga>("AnalisisCargaG", CamposAnalisis);
+    Probar<cargas::PesoUnitario>("AnalisisCargaCP", CamposPeso, {"ID", "Numero"});
+    Probar<cargas::PesoUnitario>("AnalisisCargaCV", CamposPeso, {"ID"});
 }
 
 class Elementos : public CamposDeRegistros, public testing::WithParamInterface<TablasDeElemento> {
