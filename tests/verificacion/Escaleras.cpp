@@ -5,6 +5,7 @@
 
 #include "Verificacion.h"
 #include "stairs/CalcularEscaleraT.h"
+#include "support/EscaleraPorTrabajo.h"
 
 namespace trabex::verificacion {
 
@@ -28,9 +29,39 @@ DatosEscaleraT AlAzar(std::mt19937& azar) {
     return e;
 }
 
+/// The two redundants of the closed form, found again from their definition.
+void TrabajoMinimo(Problemas& problemas) {
+    constexpr const char* fuente =
+        "Trabajo mínimo con dos incógnitas, integrado con más cifras (descanso semicircular, GJ = 2·EI)";
+    Problema& apoyo =
+        problemas.emplace_back(Nombre, "Momento de apoyo, con carga total y permanente", fuente, 1e-12);
+    Problema& clave = problemas.emplace_back(Nombre, "Momento horizontal en la clave", fuente, 1e-12);
+    Problema& empuje = problemas.emplace_back(Nombre, "Empuje del par entre los dos tramos", fuente, 1e-12);
+    Problema& estaciones =
+        problemas.emplace_back(Nombre, "Momentos de las once estaciones del tramo", fuente, 1e-12);
+    std::mt19937 azar(17);
+    for (int vez = 0; vez < 100; ++vez) {
+        const DatosEscaleraT e = AlAzar(azar);
+        ResultadosEscaleraT r;
+        CalcularEscaleraT(e, {}, r);
+        const prueba::EscaleraPorTrabajo total(e, e.Wd), permanente(e, e.WpD);
+        const double V = e.WT * e.L + e.Wd * e.B, M = V * (e.L + e.B);
+        for (Problema* p : {&apoyo, &clave, &empuje, &estaciones}) p->NuevoCaso();
+        apoyo.Comparar(r.Estatica.MomentoApoyoTotal, static_cast<double>(total.MomentoApoyo), M);
+        apoyo.Comparar(r.Estatica.MomentoApoyoPermanente, static_cast<double>(permanente.MomentoApoyo), M);
+        clave.Comparar(r.Estatica.MomentoHorizontal, static_cast<double>(total.MomentoHorizontal), M);
+        empuje.Comparar(r.Estatica.EmpujeFlexion, static_cast<double>(total.Empuje), V + 2 * M / e.H);
+        for (std::size_t i = 0; i <= 10; ++i)
+            estaciones.Comparar(r.TramoT[i].MomentoTotal,
+                                static_cast<double>(total.Momento(e.L * static_cast<long double>(i) / 10)),
+                                M);
+    }
+}
+
 }  // namespace
 
 void VerificarEscaleras(Problemas& problemas) {
+    TrabajoMinimo(problemas);
     Problema& vertical = problemas.emplace_back(
         Nombre, "Reacción vertical: carga de un tramo y de medio descanso", "Equilibrio vertical", 1e-10);
     Problema& extremos = problemas.emplace_back(

@@ -6,6 +6,7 @@
 #include "Verificacion.h"
 #include "helical/CalcularEscaleraH.h"
 #include "support/HelicePorBarras.h"
+#include "support/HelicePorTrabajo.h"
 
 namespace trabex::verificacion {
 
@@ -98,6 +99,28 @@ void Barras(Problemas& problemas) {
     }
 }
 
+void TrabajoMinimo(Problemas& problemas) {
+    Problema& trabajo = problemas.emplace_back(
+        Nombre, "Las seis acciones de cada estación",
+        "Trabajo mínimo con las seis incógnitas del centro, integrado como vectores en el espacio", 1e-9);
+    std::mt19937 azar(13);
+    for (int vez = 0; vez < 40; ++vez) {
+        const DatosEscaleraH e = AlAzar(azar, false);
+        const ResultadosEscaleraH r = Calcular(e);
+        const EjeHelice eje(e);
+        const HelicePorTrabajo referencia(e);
+        trabajo.NuevoCaso();
+        for (std::size_t i = 1; i <= r.NEst; ++i) {
+            const double t = Grados(static_cast<double>(i - 1) * e.Inter);
+            const Accion a = AccionDe(r.TramoInferior[i], eje, t), b = referencia.En(t);
+            for (std::size_t k = 0; k < 3; ++k) {
+                trabajo.Comparar(a.F[k], b.F[k], e.W * e.R);
+                trabajo.Comparar(a.M[k], b.M[k], e.W * e.R * e.R);
+            }
+        }
+    }
+}
+
 /// A flat curved beam fixed at both ends: one unknown, the moment at the crown, by least work.
 void VigaBalcon(Problemas& problemas) {
     Problema& balcon =
@@ -133,6 +156,7 @@ void VigaBalcon(Problemas& problemas) {
 
 void VerificarHelices(Problemas& problemas) {
     Equilibrio(problemas);
+    TrabajoMinimo(problemas);
     Barras(problemas);
     VigaBalcon(problemas);
 }
