@@ -152,7 +152,7 @@ void CadaFilaDeTipos(std::size_t juntas,
 TEST(Referencia, CadaTipoDeApoyoEnCadaLugar) {
     std::mt19937 azar(17);
     int sostenidas = 0;
-    for (const std::size_t juntas : {2, 3, 4}) {
+    for (const std::size_t juntas : {std::size_t{2}, std::size_t{3}, std::size_t{4}}) {
         CadaFilaDeTipos(juntas, [&](const std::vector<std::int16_t>& tipos) {
             for (const bool desplazada : {false, true}) {
                 const Losa losa = prueba::LosaDeTipos(azar, tipos, desplazada);
@@ -239,7 +239,7 @@ TEST(Referencia, ElEspejoDaLoMismoAlReves) {
 TEST(Referencia, SoloLoQueNadaSujetaSeNombra) {
     std::mt19937 azar(41);
     std::array<int, 2> cuantas{};
-    for (const std::size_t juntas : {2, 3, 5}) {
+    for (const std::size_t juntas : {std::size_t{2}, std::size_t{3}, std::size_t{5}}) {
         CadaFilaDeTipos(juntas, [&](const std::vector<std::int16_t>& tipos) {
             for (const bool desplazada : {false, true}) {
                 const Losa losa = prueba::LosaDeTipos(azar, tipos, desplazada);
