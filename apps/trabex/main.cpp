@@ -16,6 +16,7 @@
 #include "shell/qt/VentanaMenuPrincipal.h"
 #include "shell/qt/VentanaSplash.h"
 #include "slab/ui/qt/ModuloLosas.h"
+#include "stairs/ui/qt/ModuloEscaleraT.h"
 
 int main(int argc, char** argv) {
     QApplication programa(argc, argv);
@@ -34,6 +35,7 @@ int main(int argc, char** argv) {
     trabex::reportes::ui::qt::SalidaDelPrograma salida;
     std::vector<trabex::programa::qt::Modulo> modulos{
         trabex::losas::ui::qt::ModuloLosas(salida),
+        trabex::escaleras::ui::qt::ModuloEscaleraT(salida),
     };
     std::unique_ptr<trabex::programa::qt::VentanaMenuPrincipal> menu;
     trabex::programa::qt::VentanaSplash splash([&] {

@@ -34,13 +34,18 @@ bool EscaleraTG::Aceptar(const EntradaEscaleraTG& entrados) {
         vista_.Enfocar(*cero);
         return false;
     }
+    const DatosGenerales anteriores = generales_;
     try {
         Copiar(entrados);
     } catch (const ErrorEjecucion& error) {
         caja_.Mostrar(AvisoDeError(error));
         return false;
     }
-    if (!almacen::tablas::GuardarGenerales(conexion_, clase_, generales_)) caja_.Mostrar(AvisoDeNoSalvado());
+    if (!almacen::tablas::GuardarGenerales(conexion_, clase_, generales_)) {
+        generales_ = anteriores;
+        caja_.Mostrar(AvisoDeNoSalvado());
+        return false;
+    }
     datosCambiados_ = true;
     return true;
 }

@@ -43,7 +43,7 @@ class EscaleraTG {
 
     /// " Aceptar ": whether the window closes. A 0 takes the focus, without a message. A strength past 32767
     /// is an overflow: nothing is stored, and the working values before it in the order of the fields have
-    /// changed.
+    /// changed. A save that did not go through leaves them as they were.
     bool Aceptar(const EntradaEscaleraTG& entrados);
 
   private:

@@ -1,0 +1,96 @@
+#include "stairs/ui/EscaleraT.h"
+
+#include "stairs/CalcularEscaleraT.h"
+#include "store/tablas/TablasEscalera.h"
+
+namespace trabex::escaleras::ui {
+
+namespace {
+
+constexpr programa::ClaseDeElemento ClaseEscaleraT{
+    almacen::tablas::ConsultaListaEscalerasT,
+    almacen::tablas::TablasDeEscaleraT,
+    {"La Escalera: ", "La Escalera ya Existe en el Proyecto...", "Creando Nueva Escalera..."},
+    {"Escalera: ", "¿Esta Usted Seguro de Eliminar la Escalera del Proyecto?", "Eliminar Escalera..."},
+    {"Este Nombre ya Existe en las Escaleras del Proyecto...", "Renombrar la Escalera: "},
+};
+
+}  // namespace
+
+EscaleraT::EscaleraT(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
+                     programa::VistaEspacio& espacio, VistaEscaleraT& vista)
+    : aplicacion_(aplicacion),
+      espacio_(espacio),
+      vista_(vista),
+      lista_(aplicacion, servicios, espacio, ClaseEscaleraT, *this) {
+    estado_.Hoja.Numeros = aplicacion.SeparadoresLocales;
+}
+
+void EscaleraT::AlConectar() {
+    almacen::tablas::LeaDatosGenerales(aplicacion_.Proyecto.ConexionProyecto,
+                                       almacen::tablas::ClaseEscalera::Autoportante, aplicacion_.Usuario,
+                                       aplicacion_.Datos, aplicacion_.Generales);
+    estado_.Hoja.VistaActual = dibujo::escalera::VistaGeometria;
+    vista_.MarcarHoja(dibujo::escalera::VistaGeometria);
+}
+
+void EscaleraT::AlSeleccionar() {
+    almacen::tablas::LeaDatosEscalera(aplicacion_.Proyecto, estado_.Abierta);
+    PonerEncabezado();
+    Calcular();
+}
+
+void EscaleraT::AlAgregar() {
+    PonerEncabezado();
+    MostrarDatos(true);
+    estado_.Abierta.Nombre = aplicacion_.Proyecto.RegistrosProyecto.Texto("Nombre");
+    estado_.Abierta.Titulo = aplicacion_.Proyecto.RegistrosProyecto.Texto("Titulo");
+    Calcular();
+}
+
+void EscaleraT::AlVaciar() {
+    estado_.Abierta = {};
+    estado_.Resultados = {};
+    lista_.Redibujar();
+}
+
+void EscaleraT::PonerEncabezado() {
+    espacio_.PonerEncabezado("ESCALERA: " + aplicacion_.Proyecto.RegistrosProyecto.Texto("Nombre"));
+}
+
+void EscaleraT::Calcular() {
+    CalcularEscaleraT(estado_.Abierta, aplicacion_.Generales, estado_.Resultados);
+    lista_.Redibujar();
+}
+
+bool EscaleraT::MostrarDatos(bool nueva) {
+    bool cambiados = false;
+    vista_.MostrarEscaleraTDatos({aplicacion_.Proyecto, estado_.Abierta, nueva, cambiados});
+    return cambiados;
+}
+
+void EscaleraT::Nueva() {
+    lista_.Crear([this] { return vista_.MostrarEscaleraTNueva(); });
+}
+
+void EscaleraT::Editar() {
+    if (!lista_.Vacia() && MostrarDatos(false)) Calcular();
+}
+
+void EscaleraT::DatosGenerales() {
+    if (vista_.MostrarEscaleraTG()) Calcular();
+}
+
+void EscaleraT::Titulo() {
+    if (lista_.Vacia() || !vista_.MostrarEscaleraTitulo()) return;
+    estado_.Abierta.Titulo = aplicacion_.Proyecto.RegistrosProyecto.Texto("Titulo");
+    lista_.Redibujar();
+}
+
+void EscaleraT::ElegirHoja(dibujo::escalera::VistaEscalera hoja) {
+    estado_.Hoja.VistaActual = hoja;
+    espacio_.RestablecerVista();
+    lista_.Redibujar();
+}
+
+}  // namespace trabex::escaleras::ui

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "drawing/escalera/GraficoEscalera.h"
+#include "shell/ListaElementos.h"
+#include "stairs/DatosEscaleraT.h"
+#include "stairs/ResultadosEscaleraT.h"
+#include "stairs/ui/EscaleraTDatos.h"
+
+namespace trabex::escaleras::ui {
+
+/// What the operations of the workspace of stairs ask of its window beside what those of every workspace do.
+/// Windows are modal: the call returns when they close.
+class VistaEscaleraT {
+  public:
+    virtual ~VistaEscaleraT() = default;
+    /// The tab of the sheet on show.
+    virtual void MarcarHoja(dibujo::escalera::VistaEscalera hoja) = 0;
+    /// True when a stair was added.
+    virtual bool MostrarEscaleraTNueva() = 0;
+    virtual void MostrarEscaleraTDatos(const TrabajoEscaleraT& trabajo) = 0;
+    /// True when something was saved.
+    virtual bool MostrarEscaleraTG() = 0;
+    virtual bool MostrarEscaleraTitulo() = 0;
+};
+
+/// What the workspace holds while it is up.
+struct EstadoEscaleraT {
+    DatosEscaleraT Abierta;  ///< the current stair
+    ResultadosEscaleraT Resultados;
+    dibujo::escalera::HojaEscalera Hoja;
+};
+
+/// Operations of the workspace of self-supporting stairs: what acts on the selected stair of its list.
+class EscaleraT : private programa::ElementoDeLista {
+  public:
+    EscaleraT(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
+              programa::VistaEspacio& espacio, VistaEscaleraT& vista);
+
+    programa::ListaElementos& Lista() { return lista_; }
+
+    void Nueva();
+    void Editar();
+    void DatosGenerales();
+    void Titulo();
+    /// Another tab: its sheet whole.
+    void ElegirHoja(dibujo::escalera::VistaEscalera hoja);
+
+    EstadoEscaleraT& Estado() { return estado_; }
+    EscaleraCalculada Calculada() const {
+        return {estado_.Abierta, aplicacion_.Generales, estado_.Resultados};
+    }
+
+  private:
+    void AlConectar() override;
+    void AlSeleccionar() override;
+    /// The stair just added is calculated without being read: left without a save, what is shown is still the
+    /// stair that was selected before, until a row is selected again.
+    void AlAgregar() override;
+    void AlVaciar() override;
+    void PonerEncabezado();
+    void Calcular();
+    /// Shows the data window; true when it saved.
+    bool MostrarDatos(bool nueva);
+
+    programa::Aplicacion& aplicacion_;
+    programa::VistaEspacio& espacio_;
+    VistaEscaleraT& vista_;
+    EstadoEscaleraT estado_;
+    programa::ListaElementos lista_;
+};
+
+}  // namespace trabex::escaleras::ui

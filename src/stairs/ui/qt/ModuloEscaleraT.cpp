@@ -1,0 +1,16 @@
+#include "stairs/ui/qt/ModuloEscaleraT.h"
+
+#include "stairs/ui/qt/SalidasEscaleraT.h"
+#include "stairs/ui/qt/VentanaEscaleraT.h"
+
+namespace trabex::escaleras::ui::qt {
+
+programa::qt::Modulo ModuloEscaleraT(reportes::ui::qt::SalidaDelPrograma& salida) {
+    return {"ID_Tijera", [&salida](programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
+                                   QWidget* padre) {
+                SalidasEscaleraT salidas(aplicacion, servicios, salida);
+                VentanaEscaleraT(aplicacion, servicios, salidas.Operaciones(), padre).exec();
+            }};
+}
+
+}  // namespace trabex::escaleras::ui::qt

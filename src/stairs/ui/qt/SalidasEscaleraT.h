@@ -1,0 +1,26 @@
+#pragma once
+
+#include "reports/ui/qt/SalidaDelPrograma.h"
+#include "stairs/ui/qt/VentanaEscaleraT.h"
+
+namespace trabex::escaleras::ui::qt {
+
+/// The commands of the workspace of stairs that send things out.
+class SalidasEscaleraT {
+  public:
+    SalidasEscaleraT(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
+                     reportes::ui::qt::SalidaDelPrograma& salida)
+        : aplicacion_(aplicacion), servicios_(servicios), salida_(salida) {}
+
+    /// By the key of each command.
+    OperacionesDeEscaleras Operaciones();
+
+  private:
+    void ExportarImagen(EscaleraT& escaleras, QWidget& ventana);
+
+    programa::Aplicacion& aplicacion_;
+    programa::Servicios servicios_;
+    reportes::ui::qt::SalidaDelPrograma& salida_;
+};
+
+}  // namespace trabex::escaleras::ui::qt
