@@ -16,7 +16,7 @@ LOSAS = "Trabex 2024   Proyecto:[OBRA.LOS]"
 DATOS = "Datos Generales Losa: "
 CAJA = "Trabex 2024"
 # second, third, ninth and twelfth of the workspace's tool bar
-BOTON_GENERALES, BOTON_NUEVA, BOTON_EXPORTAR, BOTON_PLANEX = (58, 22), (98, 22), (304, 22), (403, 22)
+BOTON_GENERALES, BOTON_NUEVA, BOTON_EXPORTAR, BOTON_PLANEX = (58, 42), (98, 42), (304, 42), (403, 42)
 LUCES, WP, WV = (5.2, 4.8, 5.2), 290, 90
 
 
