@@ -143,6 +143,19 @@ TEST(Avisos, ElAceroBajoElMinimoYElComprimido) {
                 StartsWith("nota. Tramo A-B: El acero inferior de 0,20 cm² es menor que el mínimo"));
     EXPECT_THAT(pocas[2], StartsWith("nota. Tramo B-C: El acero inferior de 0,20 cm²"));
 
+    // Over a joint without support the moment sags: both notices tell the faces the other way about.
+    losa.Ejes[2].Tipo = SinApoyo;
+    EXPECT_THAT(LineasDe(losa)[0], StartsWith("nota. Eje B: El acero inferior de 1,46 cm²"));
+    losa.Tramos[1].Wp = losa.Tramos[2].Wp = 1500;
+    EXPECT_THAT(LineasDe(losa),
+                Contains(testing::MatchesRegex(
+                    "nota. Eje B: Necesita .* cm² de acero a compresión en la cara superior.")));
+    losa.Tramos[1].p1 = 9000;
+    losa.Tramos[1].L1 = 3.5;
+    EXPECT_THAT(LineasDe(losa),
+                Contains(testing::MatchesRegex(
+                    "nota. Tramo A-B: Necesita .* cm² de acero a compresión en la cara superior.")));
+
     // A rib of 10 by 22.5 cm takes 2009 kgf·m without compression steel: w·L²/8 = 2400 at the middle axis.
     losa = LosaSinAvisos();
     losa.Tramos[1].Wp = losa.Tramos[2].Wp = 1000;

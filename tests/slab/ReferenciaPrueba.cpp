@@ -270,6 +270,9 @@ TEST(Referencia, LaDireccionQueNadaSujeta) {
     EXPECT_EQ(libres({ApoyoFijo, SinApoyo, SinApoyo}), (Pares{{3, Direccion::Giro}}));
     EXPECT_EQ(libres({RodilloEnY, RodilloEnY, Empotramiento}), Pares{});
     EXPECT_EQ(libres({RodilloEnY, RodilloEnX, SinApoyo}), (Pares{{3, Direccion::Giro}}));
+    for (const std::int16_t ninguno : std::vector<std::int16_t>{-1, 0, 6})
+        EXPECT_EQ(libres({RodilloEnX, ninguno, RodilloEnX}), (Pares{{3, Direccion::X}})) << ninguno;
+    EXPECT_EQ(libres({ApoyoFijo, 0, 6}), (Pares{{3, Direccion::Giro}}));
 }
 
 }  // namespace
