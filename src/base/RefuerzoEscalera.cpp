@@ -4,11 +4,16 @@
 
 namespace trabex {
 
-AceroCaras RefuerzoEscalera(double M, double Ancho, double Alto, const DatosGenerales& generales,
-                            const Pasos& pasos) {
+AcerosFlexion AcerosDeEscalera(double M, double Ancho, double Alto, const DatosGenerales& generales,
+                               const Pasos& pasos) {
     const double Mu = pasos([&] { return ((std::fabs(M) * generales.FS) / generales.FiMomento) * 100; });
     const auto seccion = pasos([&] { return SeccionFlexion{Ancho * 100, Alto * 100, generales.D8 * 100}; });
-    return RepartirEnCaras(M, RefuerzoFlexion(Mu, seccion, {generales.FC, generales.FY}, pasos));
+    return RefuerzoFlexion(Mu, seccion, {generales.FC, generales.FY}, pasos);
+}
+
+AceroCaras RefuerzoEscalera(double M, double Ancho, double Alto, const DatosGenerales& generales,
+                            const Pasos& pasos) {
+    return RepartirEnCaras(M, AcerosDeEscalera(M, Ancho, Alto, generales, pasos));
 }
 
 }  // namespace trabex

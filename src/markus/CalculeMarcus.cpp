@@ -20,15 +20,15 @@ struct FormulaDeCaso {
     double Veces;
     double Suma;
 };
-constexpr std::array<FormulaDeCaso, 9> Formulas{{{true, 1, 1},
-                                                 {true, 1, 1},
-                                                 {true, 1, 1},
-                                                 {true, 2, 5},
-                                                 {false, 2, 5},
-                                                 {false, 1, 5},
-                                                 {true, 1, 5},
-                                                 {true, 2, 1},
-                                                 {false, 2, 1}}};
+constexpr std::array<FormulaDeCaso, UltimoCaso> Formulas{{{true, 1, 1},
+                                                          {true, 1, 1},
+                                                          {true, 1, 1},
+                                                          {true, 2, 5},
+                                                          {false, 2, 5},
+                                                          {false, 1, 5},
+                                                          {true, 1, 5},
+                                                          {true, 2, 1},
+                                                          {false, 2, 1}}};
 
 double CoeficienteX(const FormulaDeCaso& formula, double LX, double LY) {
     const double divisor = formula.DivideLX ? LX : LY;
@@ -42,8 +42,8 @@ double CoeficienteX(const FormulaDeCaso& formula, double LX, double LY) {
 RepartoMarcus Repartir(const PanoMarcus& pano, double CX) {
     for (const double numero : {pano.Carga, pano.LX, pano.LY})
         if (std::isnan(numero)) throw ErrorEjecucion(CodigoError::TiposNoCoinciden);
-    if (pano.Caso >= 1 && pano.Caso <= static_cast<int>(Formulas.size()))
-        CX = CoeficienteX(Formulas[static_cast<std::size_t>(pano.Caso) - 1], pano.LX, pano.LY);
+    if (pano.Caso >= PrimerCaso && pano.Caso <= UltimoCaso)
+        CX = CoeficienteX(Formulas[static_cast<std::size_t>(pano.Caso - PrimerCaso)], pano.LX, pano.LY);
     const double CY = CX > 0 ? 1 - CX : 0;
     return {CX, CY, pano.Carga * CX, pano.Carga * CY};
 }

@@ -15,6 +15,10 @@ struct RepartoMarcus {
     double WY = 0;
 };
 
+/// The support cases.
+inline constexpr std::int16_t PrimerCaso = 1;
+inline constexpr std::int16_t UltimoCaso = 9;
+
 /// A rectangular two-way panel. A number that was left empty is NaN.
 struct PanoMarcus {
     double Carga = 0;       ///< in whatever unit the engineer takes it to be: it is only shared out

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "base/ErrorEjecucion.h"
+#include "markus/Avisos.h"
 #include "markus/CalculeMarcus.h"
 
 namespace trabex {
@@ -116,6 +117,17 @@ TEST(Marcus, UnNumeroVacioEsUnErrorDeConversion) {
         EXPECT_EQ(panos[1].Reparto.CX, 0);
         EXPECT_EQ(panos[2].Reparto.WX, 7);
     }
+}
+
+TEST(Marcus, Avisos) {
+    const std::vector<PanoMarcus> panos{
+        {100, 9, 4, 4, {}}, {100, 10, 4, 4, {}}, {100, 5, 0, 4, {}}, {100, 1, 3, -1, {}}};
+    const Avisos avisos = AvisosDe(panos);
+    ASSERT_EQ(avisos.size(), 3U);
+    EXPECT_EQ(EnUnaLinea(avisos[0]),
+              "Paño 2: El caso 10 no existe: el paño repite los coeficientes del anterior.");
+    EXPECT_EQ(EnUnaLinea(avisos[1]), "Paño 3: Una longitud no es mayor que cero: su reparto no vale.");
+    EXPECT_EQ(avisos[2].Lugar, "Paño 4");
 }
 
 }  // namespace

@@ -1,0 +1,53 @@
+#include "stairs/Avisos.h"
+
+#include "base/AvisosPorEstacion.h"
+#include "base/RefuerzoEscalera.h"
+#include "stairs/DisenoEscaleraT.h"
+#include "stairs/EstaticaEscaleraT.h"
+
+namespace trabex::escaleras {
+
+namespace {
+
+Avisos AvisosDelTramo(const DatosEscaleraT& d, const DatosGenerales& g, const ResultadosEscaleraT& r,
+                      const Separadores& numeros) {
+    AvisosPorEstacion avisos;
+    const double minimo = AceroMinimoTramo(d, g);
+    for (std::size_t i = 0; i <= UltimaEstacion; ++i) {
+        const EscaleraTramoPunto& punto = r.TramoT[i];
+        for (const double M : {punto.EnvolventeNegativa, punto.EnvolventePositiva})
+            AnotarFlexion(avisos, i, AcerosDeEscalera(M, d.B, d.HT, g), minimo, numeros);
+        AnotarLateral(avisos, i, AcerosDeEscalera(punto.MomentoY, d.HT, d.B, g));
+        AnotarEstribos(avisos, i, punto.SeparacionEstribo);
+    }
+    return avisos.Escribir(
+        "Tramo, X = ", [&](std::size_t i) { return Formato(XDeEstacion(d, i), "#,##0.00", numeros) + " m"; });
+}
+
+Avisos AvisosDelDescanso(const DatosEscaleraT& d, const DatosGenerales& g, const ResultadosEscaleraT& r,
+                         const Separadores& numeros) {
+    AvisosPorEstacion avisos;
+    const double minimo = AceroMinimoDescanso(d, g);
+    for (std::size_t j = 1; j <= UltimoDescanso; ++j) {
+        const EscaleraDescansoPunto& punto = r.DescansoT[j];
+        AnotarFlexion(avisos, j, AcerosDeEscalera(punto.MomentoTotal, d.B, d.Hd, g), minimo, numeros);
+        AnotarLateral(avisos, j, AcerosDeEscalera(punto.MomentoY, d.Hd, d.B, g));
+        if (!punto.FallaCorte.empty()) avisos.Anotar(Gravedad::Falla, "El descanso falla por corte.", j);
+    }
+    return avisos.Escribir("Descanso, θ = ",
+                           [](std::size_t j) { return std::to_string(GradosDeDescanso(j)) + "°"; });
+}
+
+}  // namespace
+
+Avisos AvisosDe(const DatosEscaleraT& escalera, const DatosGenerales& generales,
+                const ResultadosEscaleraT& resultados, const Separadores& numeros) {
+    if (resultados.TramoT.empty()) return {};
+    if (resultados.Error) return {AvisoDeError(*resultados.Error)};
+    Avisos avisos = AvisosDelTramo(escalera, generales, resultados, numeros);
+    const Avisos otros = AvisosDelDescanso(escalera, generales, resultados, numeros);
+    avisos.insert(avisos.end(), otros.begin(), otros.end());
+    return avisos;
+}
+
+}  // namespace trabex::escaleras
