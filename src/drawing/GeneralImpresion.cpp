@@ -1,5 +1,6 @@
 #include "drawing/GeneralImpresion.h"
 
+#include "base/Edicion.h"
 #include "drawing/Primitivas.h"
 #include "drawing/Superficie.h"
 
@@ -7,8 +8,7 @@ namespace trabex::dibujo {
 
 namespace {
 constexpr double LetraDePagina = 9;
-constexpr const char* Edicion = "2024";
-}  // namespace
+}
 
 void DibujePagina(Lienzo& pagina, const DatosDePagina& datos) {
     pagina.PonerFuente({std::string(EnPapel.FuenteNombre), LetraDePagina, false});

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 #include "drawing/Plano.h"
@@ -15,6 +16,12 @@ struct Superficie {
 };
 inline constexpr Superficie EnPantalla{"Tahoma", true, false};
 inline constexpr Superficie EnPapel{"Arial", false, true};
+
+/// Size of the hidden surfaces of reports and pictures, in twips (1/1440 inch), and twips to a unit of
+/// theirs. It, and not the size of the screen's canvas, sets the scale of a report's drawings.
+inline constexpr std::int32_t AnchoGraficoTwips = 14100;
+inline constexpr std::int32_t AltoGraficoTwips = 8700;
+inline constexpr std::int32_t TwipsPorUnidad = 15;
 
 /// How much of its surface a drawing fills.
 struct ReglaDeEscala {

@@ -161,6 +161,15 @@ TEST_P(FlechaPrueba, AbrenHaciaElLadoContrarioDelQueMiran) {
     }
     EXPECT_EQ(largo, 15);
     EXPECT_EQ(ancho, 4);
+    const PuntoLienzo fuste{bloque[2].x - bloque[5].x, bloque[2].y - bloque[5].y};
+    EXPECT_EQ(std::abs(fuste.x) + std::abs(fuste.y), 2);
+
+    DibujeFlechaDiagonal(lienzo, 50, 50, mira, {1, 2, 3}, 1000);  // 101, 30 and 354
+    const auto& diagonal = lienzo.Poligonos.at(1).Puntos;
+    const auto lado = [&](PuntoLienzo a, PuntoLienzo b) { return std::abs(a.x - b.x) + std::abs(a.y - b.y); };
+    EXPECT_EQ(lado(diagonal[1], diagonal[6]), 202);
+    EXPECT_EQ(lado(diagonal[2], diagonal[5]), 60);
+    EXPECT_EQ(lado(diagonal[2], diagonal[3]), 354 - 101);
 }
 
 INSTANTIATE_TEST_SUITE_P(Sentidos, FlechaPrueba,
@@ -174,7 +183,12 @@ TEST(Primitivas, LaCuadriculaPasaTreintaDelBorde) {
     DibujeCuadricula(lienzo, 80);
     ASSERT_EQ(lienzo.Lineas.size(), 3U + 3U);  // x 0, 80, 160; y 0, 80, 160
     EXPECT_EQ(lienzo.Lineas[2].Puntos, (std::vector<PuntoLienzo>{{160, 0}, {160, 200}}));
-    EXPECT_EQ(lienzo.Lineas[0].Borde->Tinta, (Color{226, 232, 239}));
+    EXPECT_EQ(lienzo.Lineas[5].Puntos, (std::vector<PuntoLienzo>{{0, 160}, {130, 160}}));
+    for (const auto& linea : lienzo.Lineas) {
+        EXPECT_EQ(linea.Borde->Tinta, (Color{226, 232, 239}));
+        EXPECT_EQ(linea.Borde->Estilo, EstiloLinea::Solida);
+        EXPECT_EQ(linea.Borde->Ancho, 1);
+    }
 }
 
 }  // namespace

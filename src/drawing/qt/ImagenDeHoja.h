@@ -4,13 +4,13 @@
 #include <cstdint>
 #include <functional>
 
-#include "drawing/Lienzo.h"
+#include "drawing/Superficie.h"
 
 namespace trabex::dibujo::qt {
 
-/// Size of the hidden surfaces of reports and pictures: 14100 by 8700 twips at 96 units an inch.
-inline constexpr std::int32_t AnchoSuperficie = 14100 / 15;
-inline constexpr std::int32_t AltoSuperficie = 8700 / 15;
+/// Size of the hidden surfaces of reports and pictures, in units.
+inline constexpr std::int32_t AnchoSuperficie = AnchoGraficoTwips / TwipsPorUnidad;
+inline constexpr std::int32_t AltoSuperficie = AltoGraficoTwips / TwipsPorUnidad;
 
 /// Resolution of canvases on a screen and of pictures: 96 units an inch, so that points of fonts turn into
 /// units alike on every machine.

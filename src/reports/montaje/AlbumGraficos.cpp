@@ -1,6 +1,7 @@
 #include "reports/montaje/AlbumGraficos.h"
 
 #include "base/Archivos.h"
+#include "drawing/Superficie.h"
 
 namespace trabex::montaje {
 
@@ -24,7 +25,7 @@ AlbumGraficos::~AlbumGraficos() {
 void AlbumGraficos::Agregar(const std::string& nombre, const std::string& titulo, const std::string& avance,
                             const std::function<void(dibujo::Lienzo&)>& dibujar) {
     panel_.Avanzar(100.0 * static_cast<double>(numero_) / static_cast<double>(total_), avance);
-    superficie_.Dibujar(AnchoGraficoTwips, AltoGraficoTwips, dibujar);
+    superficie_.Dibujar(dibujo::AnchoGraficoTwips, dibujo::AltoGraficoTwips, dibujar);
     ++numero_;
     tabla_.Poner("Numero", static_cast<double>(numero_));
     tabla_.Poner("Nombre", nombre);

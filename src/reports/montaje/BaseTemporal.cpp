@@ -1,13 +1,12 @@
 #include "reports/montaje/BaseTemporal.h"
 
 #include "base/Archivos.h"
+#include "base/Edicion.h"
 #include "store/Recordset.h"
 
 namespace trabex::montaje {
 
 namespace {
-
-constexpr const char* Version = "2024";  // the program's edition
 
 void Reponer(const EntornoReportes& entorno) {
     const std::filesystem::path base = TemporalMdb(entorno);
@@ -28,7 +27,7 @@ void EscribirGenerales(const EntornoReportes& entorno, const DatosDelProyecto& d
     almacen::AbrirRecordset(conexion, registros, "Generales");
     registros.AgregarNuevo();
     registros.Poner("Usuario", entorno.Usuario);
-    registros.Poner("Version", Version);
+    registros.Poner("Version", Edicion);
     registros.Poner("Titulo", encabezado.Titulo);
     registros.Poner("Propietario", datos.Propietario);
     registros.Poner("Calculista", datos.Calculista);

@@ -8,11 +8,6 @@
 
 namespace trabex::montaje {
 
-/// Size of the hidden surfaces of reports, in twips (1/1440 inch). It, and not that of the screen's canvas,
-/// sets the scale of a report's drawings.
-inline constexpr std::int32_t AnchoGraficoTwips = 14100;
-inline constexpr std::int32_t AltoGraficoTwips = 8700;
-
 /// A drawing surface off the screen, with the picture that was last drawn on it.
 class SuperficieOculta {
   public:

@@ -9,14 +9,14 @@ namespace trabex::montaje::qt {
 
 namespace {
 
-constexpr std::int32_t TwipsPorUnidad = 15;
 constexpr int Calidad = 100;
 
 }  // namespace
 
 void SuperficieQt::Dibujar(std::int32_t ancho, std::int32_t alto,
                            const std::function<void(dibujo::Lienzo&)>& dibujar) {
-    imagen_ = dibujo::qt::DibujarImagen(ancho / TwipsPorUnidad, alto / TwipsPorUnidad, finura_, dibujar);
+    imagen_ = dibujo::qt::DibujarImagen(ancho / dibujo::TwipsPorUnidad, alto / dibujo::TwipsPorUnidad,
+                                        finura_, dibujar);
 }
 
 almacen::Bytes SuperficieQt::MapaDeBits() const {
