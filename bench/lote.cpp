@@ -1,14 +1,15 @@
 // The batch program's road on a project of 2000 slabs of 8 spans, phase by phase.
 
-#include "lote/Lote.h"
-
-#include <thread>
+#include <array>
 
 #include <benchmark/benchmark.h>
 
 #include "base/Archivos.h"
-#include "lote/ResultadosJson.h"
+#include "lote/Calculo.h"
 #include "slab/CalcularLosa.h"
+#include "slab/salida/LosasJson.h"
+#include "slab/salida/ModuloLosas.h"
+#include "store/tablas/TablasLosa.h"
 #include "support/CarpetaTemporal.h"
 #include "support/LosasDePrueba.h"
 #include "support/ProyectoDePrueba.h"
@@ -91,17 +92,19 @@ BENCHMARK_DEFINE_F(Proyecto, Json)(benchmark::State& estado) {
     ResultadosLosa resultados;
     CalcularLosa(losa, {}, resultados);
     for (auto _ : estado) {
-        for (int n = 0; n < Losas; ++n) benchmark::DoNotOptimize(LosaJson(losa, resultados));
+        for (int n = 0; n < Losas; ++n) benchmark::DoNotOptimize(salida::LosaJson(losa, resultados));
     }
 }
 BENCHMARK_REGISTER_F(Proyecto, Json)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 BENCHMARK_DEFINE_F(Proyecto, Todo)(benchmark::State& estado) {
     const std::filesystem::path destino = Camino().parent_path() / "resultados.json";
+    const std::array<const Modulo*, 1> modulos{&salida::ModuloLosas};
+    const Marcha marcha{static_cast<unsigned>(estado.range(0)), {}};
     for (auto _ : estado) {
         ProyectoCalculado calculado;
-        CalcularProyecto(Camino(), static_cast<unsigned>(estado.range(0)), calculado);
-        EscribirArchivo(destino, DocumentoJson(calculado));
+        CalcularProyecto(Camino(), modulos, marcha, calculado);
+        EscribirArchivo(destino, DocumentoJson(calculado, marcha));
     }
 }
 BENCHMARK_REGISTER_F(Proyecto, Todo)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond)->UseRealTime();

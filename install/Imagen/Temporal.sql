@@ -21,7 +21,8 @@ CREATE TABLE Grafico (
     CargaTramo DOUBLE,
     CargaVolado DOUBLE,
     CargaPermanente DOUBLE,
-    Grafico BLOB
+    Grafico BLOB,
+    GraficoPng BLOB -- the same picture, compressed
 );
 
 -- Slabs

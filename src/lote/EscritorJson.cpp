@@ -30,13 +30,14 @@ void Escribir(Escritor& json, const Fecha& fecha) {
     Escribir(json, FechaIso(fecha));
 }
 
-void EscribirError(Escritor& json, const ErrorEjecucion& error) {
+void EscribirError(Escritor& json, const std::optional<ErrorEjecucion>& error) {
+    if (!error) return;
     json.Key("error");
     json.StartObject();
     json.Key("codigo");
-    json.Int(error.Codigo());
+    json.Int(error->Codigo());
     json.Key("texto");
-    Escribir(json, error.Texto());
+    Escribir(json, error->Texto());
     json.EndObject();
 }
 

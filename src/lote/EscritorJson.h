@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -12,22 +13,13 @@
 
 #include "base/ErrorEjecucion.h"
 #include "base/Fecha.h"
+#include "store/Campos.h"
 
-// How records become JSON objects: a tuple of their fields and names, written in order. For the library's own
-// sources.
+// How records become JSON objects: a tuple of their fields and names, written in order.
 
 namespace trabex::lote {
 
 using Escritor = rapidjson::Writer<rapidjson::StringBuffer>;
-
-/// A field of a record, by the name under which it is written.
-template <class Registro, class Tipo>
-struct Campo {
-    const char* Nombre;
-    Tipo Registro::*Dato;
-};
-template <class Registro, class Tipo>
-Campo(const char*, Tipo Registro::*) -> Campo<Registro, Tipo>;
 
 /// A value: a number that is none is null, a text is made valid UTF-8, a date is ISO 8601.
 void Escribir(Escritor& json, double valor);
@@ -37,8 +29,8 @@ void Escribir(Escritor& json, std::int32_t valor);
 void Escribir(Escritor& json, const std::string& texto);
 void Escribir(Escritor& json, const Fecha& fecha);
 
-/// The key `error` with its code and its text.
-void EscribirError(Escritor& json, const ErrorEjecucion& error);
+/// The key `error` with its code and its text, where there is one.
+void EscribirError(Escritor& json, const std::optional<ErrorEjecucion>& error);
 
 template <class Registro, class Campos>
 void EscribirCampos(Escritor& json, const Registro& registro, const Campos& campos) {
@@ -62,14 +54,20 @@ void EscribirArreglo(Escritor& json, const std::vector<Registro>& arreglo, const
     json.EndArray();
 }
 
-template <class Registro, class Campos>
-std::string ObjetoJson(const Registro& registro, const Campos& campos) {
+/// One object, whose members `escribir(json)` writes.
+template <class Contenido>
+std::string Objeto(Contenido escribir) {
     rapidjson::StringBuffer texto;
     Escritor json(texto);
     json.StartObject();
-    EscribirCampos(json, registro, campos);
+    escribir(json);
     json.EndObject();
     return {texto.GetString(), texto.GetSize()};
+}
+
+template <class Registro, class Campos>
+std::string ObjetoJson(const Registro& registro, const Campos& campos) {
+    return Objeto([&](Escritor& json) { EscribirCampos(json, registro, campos); });
 }
 
 }  // namespace trabex::lote

@@ -69,8 +69,8 @@ struct ReportesDeModulo {
     const char* Titulo;      ///< `Titulo` of the scratch table `Generales`
     const char* Resultados;  ///< layout of the report of results
     const char* Graficos;    ///< layout of the report of drawings; null: they have none
-    /// Fills the kind's own tables of the scratch database. False when a row could not be stored.
-    bool (*Montar)(almacen::Conexion& temporal, const Lista& lista);
+    /// Fills the kind's own tables of the scratch database.
+    void (*Montar)(almacen::Conexion& temporal, const Lista& lista);
 };
 
 /// A file for another program, with all elements of a kind.

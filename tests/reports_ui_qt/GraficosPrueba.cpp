@@ -70,24 +70,30 @@ TEST(SuperficieQt, ElMapaDeBitsEsElDibujoEnLaFinuraDelPapel) {
     };
     SuperficieQt superficie;
     superficie.Dibujar(AnchoGraficoTwips, AltoGraficoTwips, dibujar);
-    const Bytes mapa = superficie.MapaDeBits();
+    const auto [mapa, png] = superficie.Imagen();
     QImage leida;
     ASSERT_TRUE(leida.loadFromData(reinterpret_cast<const uchar*>(mapa.data()), static_cast<int>(mapa.size()),
                                    "BMP"));
     const QImage esperada = DibujarImagen(940, 580, SuperficieQt::FinuraDePapel, dibujar);
     ASSERT_EQ(leida.size(), esperada.size());
     EXPECT_LT(mapa.size(), 400000U);
+    const QImage comprimida =
+        QImage::fromData(reinterpret_cast<const uchar*>(png.data()), static_cast<int>(png.size()), "PNG");
+    ASSERT_EQ(comprimida.size(), esperada.size());
+    int distintos = 0;
     // Colours past the 256 most frequent are near to one of them: no pixel is visibly another.
     int mayor = 0;
     for (int y = 0; y < leida.height(); ++y) {
         for (int x = 0; x < leida.width(); ++x) {
             const QRgb a = leida.pixel(x, y);
             const QRgb b = esperada.pixel(x, y);
+            distintos += a != comprimida.pixel(x, y);
             mayor = std::max({mayor, std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
                               std::abs(qBlue(a) - qBlue(b))});
         }
     }
     EXPECT_LT(mayor, 24);
+    EXPECT_EQ(distintos, 0);
     const Bytes foto = superficie.Foto();
     EXPECT_TRUE(
         QImage::fromData(reinterpret_cast<const uchar*>(foto.data()), static_cast<int>(foto.size()), "JPG")

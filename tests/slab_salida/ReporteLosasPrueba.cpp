@@ -214,7 +214,9 @@ class SuperficieDeTextos : public SuperficieOculta {
         if (--FallaEn == 0) throw ErrorEjecucion(CodigoError::ErrorDispositivo);
         dibujar(lienzo_);
     }
-    Bytes MapaDeBits() const override { return ComoBytes(lienzo_.Textos); }
+    ImagenMontada Imagen() const override {
+        return {ComoBytes(lienzo_.Textos), ComoBytes("png de " + lienzo_.Textos)};
+    }
     Bytes Foto() const override { return ComoBytes("foto de " + lienzo_.Textos); }
     int FallaEn = 0;
 

@@ -2,12 +2,17 @@
 
 #include <filesystem>
 
+#include "base/Proyecto.h"
+#include "lote/Faltas.h"
+#include "lote/Marcha.h"
+#include "lote/Modulo.h"
+
 namespace trabex::lote::qt {
 
-/// Writes the three sheets of every slab of a project as `<number>-<name>-{geometria,fuerzas,diseno}.png`
-/// into a folder, on the surface of reports, and as the pages of `<number>-<name>-papel.pdf`. Draws on
-/// `hilos` threads; needs the toolkit's application. Throws ErrorEjecucion when one can't be written.
-void EscribirHojas(const std::filesystem::path& proyecto, unsigned hilos,
-                   const std::filesystem::path& carpeta);
+/// Writes the drawings of every element of a list as `<number>-<name>-<drawing>.png` into a folder, on the
+/// surface of reports, and its pages as `<number>-<name>-papel.pdf`. One that can't be written is noted and
+/// the others are written. Needs the toolkit's application.
+void EscribirHojas(const Lista& lista, const DatosDelProyecto& datos, const std::filesystem::path& carpeta,
+                   const Marcha& marcha, Faltas& faltas);
 
 }  // namespace trabex::lote::qt

@@ -1,67 +1,133 @@
 #include "lote/qt/ReportesLote.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <utility>
+#include <vector>
 
+#include "reports/montaje/TablaGraficos.h"
 #include "reports/montaje/qt/SuperficieQt.h"
 #include "reports/salidas/MotorReportes.h"
 #include "reports/salidas/qt/EscritorPdf.h"
-#include "slab/salida/GraficosLosas.h"
-#include "store/tablas/TablasLosa.h"
 
 namespace trabex::lote::qt {
 
 namespace {
-
-/// Nobody watches the batch program.
-class SinPanel : public montaje::PanelProgreso {
-  public:
-    void Mostrar() override {}
-    void Avanzar(double, const std::string&) override {}
-    void Ocultar() override {}
-};
 
 constexpr std::array<std::pair<int, const char*>, 4> Formatos{{{salidas::FormatoPdf, ".pdf"},
                                                                {salidas::FormatoHtml, ".htm"},
                                                                {salidas::FormatoXls, ".xls"},
                                                                {salidas::FormatoRtf, ".rtf"}}};
 
-void Exportar(const montaje::EntornoReportes& entorno, const char* diseno, const char* nombre) {
-    salidas::MotorReportes motor;
-    motor.Registrar(salidas::FormatoPdf, salidas::qt::EscribirPdf);
-    salidas::Reporte reporte(entorno.CaminoPrograma / "Reportes" / diseno, {});
-    reporte.Ubicar(montaje::TemporalMdb(entorno));
-    for (const auto& [codigo, extension] : Formatos)
-        motor.Exportar(reporte.Contenido(), codigo,
-                       entorno.CaminoUsuario / "reportes" / (std::string(nombre) + extension));
-}
+constexpr std::size_t DibujosALaVez = 48;  // what is drawn and not yet staged stays in memory
+
+/// The reports of one list on their way.
+class ReportesDeLista {
+  public:
+    ReportesDeLista(const montaje::EntornoReportes& entorno, const Lista& lista,
+                    const DatosDelProyecto& datos, const Marcha& marcha, Faltas& faltas)
+        : entorno_(entorno), lista_(lista), datos_(datos), marcha_(marcha), faltas_(faltas) {
+        motor_.Registrar(salidas::FormatoPdf, salidas::qt::EscribirPdf);
+    }
+
+    void Graficos() {
+        almacen::Conexion temporal;
+        montaje::AbrirTemporal(entorno_, datos_, {lista_.De->Reportes->Titulo}, temporal);
+        almacen::Transaccion guardado(temporal);
+        MontarDibujos(temporal);
+        if (!guardado.Confirmar()) return NoSeMonto("graficos");
+        temporal.Cerrar();
+        Exportar(lista_.De->Reportes->Graficos, "graficos");
+    }
+
+    /// The heading names the first element, as that of a workspace that has just opened does.
+    void Resultados() {
+        almacen::Conexion temporal;
+        const std::string primero = lista_.Elementos.empty() ? "" : lista_.Elementos.front().Nombre;
+        montaje::AbrirTemporal(entorno_, datos_, {lista_.De->Reportes->Titulo, primero, true}, temporal);
+        almacen::Transaccion guardado(temporal);
+        lista_.De->Reportes->Montar(temporal, lista_);
+        if (!guardado.Confirmar()) return NoSeMonto("resultados");
+        temporal.Cerrar();
+        Exportar(lista_.De->Reportes->Resultados, "resultados");
+    }
+
+  private:
+    std::string Reporte(const std::string& nombre) const {
+        return "el reporte " + std::string(lista_.De->Clave) + "-" + nombre;
+    }
+
+    void NoSeMonto(const std::string& nombre) {
+        faltas_.Anotar(Reporte(nombre), TextoDeError(CodigoError::ErrorAccesoRuta));
+    }
+
+    void MontarDibujos(almacen::Conexion& temporal) {
+        std::vector<std::pair<const Elemento*, Dibujo>> dibujos;
+        for (const Elemento& elemento : lista_.Elementos) {
+            for (Dibujo& dibujo : lista_.De->Dibujos(lista_, elemento))
+                dibujos.emplace_back(&elemento, std::move(dibujo));
+        }
+        montaje::TablaGraficos tabla(temporal);
+        for (std::size_t desde = 0; desde < dibujos.size(); desde += DibujosALaVez) {
+            std::vector<montaje::ImagenMontada> tanda(std::min(DibujosALaVez, dibujos.size() - desde));
+            EnParalelo(marcha_.Hilos, tanda.size(), [&](std::size_t i, unsigned) {
+                montaje::qt::SuperficieQt superficie;
+                superficie.Dibujar(dibujo::AnchoGraficoTwips, dibujo::AltoGraficoTwips,
+                                   dibujos[desde + i].second.Dibujar);
+                tanda[i] = superficie.Imagen();
+                if (desde + i + 1 == dibujos.size()) montaje::DejarFoto(entorno_, superficie.Foto());
+            });
+            for (std::size_t i = 0; i < tanda.size(); ++i) {
+                const auto& [elemento, dibujo] = dibujos[desde + i];
+                tabla.Agregar(elemento->Nombre, dibujo.Titulo, std::move(tanda[i]));
+                if (marcha_.Avance) marcha_.Avance("Montando los gráficos", desde + i + 1, dibujos.size());
+            }
+        }
+    }
+
+    void Exportar(const char* diseno, const std::string& nombre) {
+        try {
+            salidas::Reporte reporte(entorno_.CaminoPrograma / "Reportes" / diseno, {});
+            reporte.Ubicar(montaje::TemporalMdb(entorno_));
+            const documento::Documento& documento = reporte.Contenido();
+            Repartir(marcha_, "Exportando " + nombre, Formatos.size(),
+                     [&](std::size_t i, unsigned) { Escribir(documento, Formatos[i], nombre); });
+        } catch (const ErrorEjecucion& error) {
+            faltas_.Anotar(Reporte(nombre), error.Texto());
+        }
+    }
+
+    void Escribir(const documento::Documento& documento, const std::pair<int, const char*>& formato,
+                  const std::string& nombre) {
+        const std::string archivo = std::string(lista_.De->Clave) + "-" + nombre + formato.second;
+        try {
+            motor_.Exportar(documento, formato.first, entorno_.CaminoUsuario / "reportes" / archivo);
+        } catch (const ErrorEjecucion& error) {
+            faltas_.Anotar("el reporte " + archivo, error.Texto());
+        }
+    }
+
+    const montaje::EntornoReportes& entorno_;
+    const Lista& lista_;
+    const DatosDelProyecto& datos_;
+    const Marcha& marcha_;
+    Faltas& faltas_;
+    salidas::MotorReportes motor_;
+};
 
 }  // namespace
 
-void EscribirReportes(const std::filesystem::path& programa, const std::filesystem::path& proyecto,
-                      const std::filesystem::path& carpeta) {
-    almacen::tablas::ProyectoAbierto abierto;
-    almacen::AbrirCopiaEnMemoria(abierto.ConexionProyecto, proyecto);
-    almacen::AbrirRecordset(abierto.ConexionProyecto, abierto.RegistrosProyecto,
-                            almacen::tablas::ConsultaListaLosas);
-    DatosDelProyecto datos;
-    DatosGenerales generales;
-    almacen::tablas::LeerDatosGenerales(abierto.ConexionProyecto, "", datos, generales);
+void EscribirReportes(const std::filesystem::path& programa, const Lista& lista,
+                      const DatosDelProyecto& datos, bool dibujos, const std::filesystem::path& carpeta,
+                      const Marcha& marcha, Faltas& faltas) {
     std::error_code error;
     for (const char* parte : {"reportes", "Trabajo"})
         std::filesystem::create_directories(carpeta / parte, error);
-
     const montaje::EntornoReportes entorno{programa, carpeta, ""};
-    const losas::salida::ProyectoParaReporte origen{abierto, datos, generales};
-    montaje::EstadoReportes estado{
-        .OpcionExportarLosas = 1, .ExportarDesplazamientos = true, .OpcionGrafico = 1};
-    montaje::qt::SuperficieQt superficie;
-    SinPanel panel;
-    losas::salida::GuardeGraficos(entorno, origen, dibujo::losa::HojaLosa{}, superficie, panel, estado);
-    Exportar(entorno, "Grafico.rpt", "losas-graficos");
-    losas::salida::LLeneResultados(entorno, origen, estado);
-    Exportar(entorno, "ResultadosLosa.rpt", "losas-resultados");
+    ReportesDeLista reportes(entorno, lista, datos, marcha, faltas);
+    if (dibujos && lista.De->Reportes->Graficos) reportes.Graficos();
+    reportes.Resultados();
 }
 
 }  // namespace trabex::lote::qt

@@ -2,12 +2,19 @@
 
 #include <filesystem>
 
+#include "base/Proyecto.h"
+#include "lote/Faltas.h"
+#include "lote/Marcha.h"
+#include "lote/Modulo.h"
+
 namespace trabex::lote::qt {
 
-/// Writes the results of all slabs and their drawings, each as PDF, HTML, XLS and RTF, into `reportes/` of a
-/// folder, and leaves the scratch database of the results in `Trabajo/` there. `programa` holds templates and
-/// layouts. Needs the toolkit's application. Throws ErrorEjecucion when one can't be written.
-void EscribirReportes(const std::filesystem::path& programa, const std::filesystem::path& proyecto,
-                      const std::filesystem::path& carpeta);
+/// Writes the report of results of a list and, if `dibujos`, that of its drawings, each as PDF, HTML, XLS and
+/// RTF, into `reportes/` of a folder, and leaves the scratch database of the results in `Trabajo/` there.
+/// `programa` holds templates and layouts. One that can't be written is noted and the others are written.
+/// Needs the toolkit's application.
+void EscribirReportes(const std::filesystem::path& programa, const Lista& lista,
+                      const DatosDelProyecto& datos, bool dibujos, const std::filesystem::path& carpeta,
+                      const Marcha& marcha, Faltas& faltas);
 
 }  // namespace trabex::lote::qt

@@ -7,14 +7,14 @@
 
 #include "base/Texto.h"
 #include "reports/documento/Documento.h"
-#include "store/Dialecto.h"
-#include "store/Recordset.h"
+#include "store/LecturaPorIdentidad.h"
 
 namespace trabex::documento {
 
 namespace {
 
-constexpr const char* ColumnaIdentidad = "IdentidadDeFila";
+/// A picture may stand a second time, compressed, in a column of this further name.
+constexpr const char* SufijoPng = "Png";
 
 bool MismoNombre(std::string_view a, std::string_view b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
@@ -36,26 +36,20 @@ std::string Clave(const almacen::Valor& valor) {
 
 std::unique_ptr<TablaDeDatos> TablaDeDatos::Leer(almacen::Conexion& conexion, const std::string& nombre,
                                                  const std::string& orden) {
-    almacen::Recordset registros;
-    almacen::AbrirRecordset(conexion, registros, "SELECT * FROM " + nombre + " WHERE 0");
-    if (!registros.Abierto()) return nullptr;
+    const std::vector<almacen::Columna> columnas = almacen::ColumnasDe(conexion, nombre);
+    if (columnas.empty()) return nullptr;
     auto tabla = std::make_unique<TablaDeDatos>();
     tabla->conexion_ = &conexion;
     tabla->nombre_ = nombre;
-    const std::string calificador = almacen::Identificador(nombre) + ".";
-    std::string consulta = "SELECT " + calificador + "rowid AS " + ColumnaIdentidad;
-    for (const trabex::almacen::Columna& columna : registros.Columnas()) {
-        const bool esImagen = columna.Tipo == almacen::TipoColumna::Binario;
-        (esImagen ? tabla->imagenes_ : tabla->columnas_).push_back(columna.Nombre);
-        if (!esImagen) consulta += ", " + calificador + almacen::Identificador(columna.Nombre);
-    }
+    for (const almacen::Columna& columna : columnas)
+        (columna.Tipo == almacen::TipoColumna::Binario ? tabla->imagenes_ : tabla->columnas_)
+            .push_back(columna.Nombre);
     if (!orden.empty() && !tabla->Columna(orden)) return nullptr;
-    consulta += " FROM " + almacen::Identificador(nombre) + " ORDER BY ";
-    if (!orden.empty()) consulta += calificador + almacen::Identificador(orden) + ", ";
-    almacen::AbrirRecordset(conexion, registros, consulta + calificador + "rowid");
+    almacen::Recordset registros;
+    almacen::AbrirConIdentidad(conexion, registros, nombre, tabla->columnas_, orden);
     for (int i = 1; i <= registros.NumeroRegistros(); ++i) {
         registros.MoverA(i);
-        tabla->identidades_.push_back(TextoDeValor(registros.Leer(ColumnaIdentidad), {}, {}));
+        tabla->identidades_.push_back(TextoDeValor(registros.Leer(almacen::ColumnaIdentidad), {}, {}));
         std::vector<almacen::Valor>& fila = tabla->filas_.emplace_back();
         fila.reserve(tabla->columnas_.size());
         for (const std::string& columna : tabla->columnas_)
@@ -90,14 +84,13 @@ bool TablaDeDatos::EsImagen(std::string_view columna) const {
 }
 
 almacen::Bytes TablaDeDatos::LeerImagen(std::size_t fila, std::string_view columna) const {
-    almacen::Recordset registros;
-    almacen::AbrirRecordset(*conexion_, registros,
-                            "SELECT " + almacen::Identificador(nombre_) + "." +
-                                almacen::Identificador(columna) + " FROM " + almacen::Identificador(nombre_) +
-                                " WHERE rowid = " + identidades_[fila]);
-    almacen::Valor valor = registros.Leer(columna);
-    auto* bytes = std::get_if<almacen::Bytes>(&valor);
-    return bytes ? std::move(*bytes) : almacen::Bytes();
+    const std::string comprimida = std::string(columna) + SufijoPng;
+    const std::scoped_lock espera(turno_);
+    if (EsImagen(comprimida)) {
+        almacen::Bytes bytes = almacen::LeerBytes(*conexion_, nombre_, comprimida, identidades_[fila]);
+        if (!bytes.empty()) return bytes;
+    }
+    return almacen::LeerBytes(*conexion_, nombre_, columna, identidades_[fila]);
 }
 
 DatosReporte::Base& DatosReporte::Abierta(const std::filesystem::path& ubicacion) {

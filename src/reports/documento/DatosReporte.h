@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <map>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -33,6 +34,8 @@ class TablaDeDatos {
     const std::vector<std::size_t>& Todas() const { return todas_; }
 
     bool EsImagen(std::string_view columna) const;
+    /// The picture of a row; where the table keeps it compressed beside, in a column of the same name and
+    /// "Png", that one. Any thread may ask, while nothing else is read from the database.
     almacen::Bytes LeerImagen(std::size_t fila, std::string_view columna) const;
 
   private:
@@ -45,6 +48,7 @@ class TablaDeDatos {
     std::vector<std::vector<almacen::Valor>> filas_;
     std::vector<std::string> identidades_;
     std::vector<std::size_t> todas_;
+    mutable std::mutex turno_;                       // of reading pictures
     mutable std::map<std::size_t, Indice> indices_;  // by column, made when first asked for
 };
 

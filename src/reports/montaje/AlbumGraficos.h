@@ -2,10 +2,8 @@
 
 #include <string>
 
-#include "reports/montaje/BaseTemporal.h"
 #include "reports/montaje/PanelProgreso.h"
-#include "reports/montaje/SuperficieOculta.h"
-#include "store/Insercion.h"
+#include "reports/montaje/TablaGraficos.h"
 
 namespace trabex::montaje {
 
@@ -13,7 +11,7 @@ namespace trabex::montaje {
 /// each with a step of the progress panel.
 class AlbumGraficos {
   public:
-    /// Empties the table. `total` is the number of pictures to come. What it refers to must outlive it.
+    /// `total` is the number of pictures to come. What it refers to must outlive it.
     AlbumGraficos(almacen::Conexion& temporal, const EntornoReportes& entorno, SuperficieOculta& superficie,
                   PanelProgreso& panel, std::size_t total);
     /// Leaves the last picture in the file `Foto` of the scratch folder, in quality 100.
@@ -33,8 +31,7 @@ class AlbumGraficos {
     SuperficieOculta& superficie_;
     PanelProgreso& panel_;
     std::size_t total_;
-    std::size_t numero_ = 0;
-    almacen::Insercion tabla_;
+    TablaGraficos tabla_;
 };
 
 }  // namespace trabex::montaje

@@ -3,6 +3,7 @@
 #include "base/Archivos.h"
 #include "base/Edicion.h"
 #include "store/Recordset.h"
+#include "store/Vaciado.h"
 
 namespace trabex::montaje {
 
@@ -22,7 +23,7 @@ void Reponer(const EntornoReportes& entorno) {
 
 void EscribirGenerales(const EntornoReportes& entorno, const DatosDelProyecto& datos,
                        const EncabezadoReporte& encabezado, almacen::Conexion& conexion) {
-    conexion.Ejecutar("DELETE * FROM Generales");
+    almacen::VaciarTabla(conexion, "Generales");
     almacen::Recordset registros;
     almacen::AbrirRecordset(conexion, registros, "Generales");
     registros.AgregarNuevo();

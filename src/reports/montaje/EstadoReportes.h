@@ -12,7 +12,7 @@ namespace trabex::montaje {
 struct EstadoReportes {
     std::uint8_t OpcionExportarLosas = 0;  ///< 0 the selected slab, 1 all slabs
     bool ExportarDesplazamientos = false;  ///< the report shows the joints' displacements
-    std::uint8_t OpcionGrafico = 0;        ///< which drawings: see GuardeGraficos.h
+    std::uint8_t OpcionGrafico = 0;        ///< which drawings: see GraficosLosas.h
     bool PapelA4 = false;  ///< paper of the drawings whose dialog asks for it: A4, or else letter
     bool Apaisado = true;  ///< and lying, or else upright
     std::filesystem::path

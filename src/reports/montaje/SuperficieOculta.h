@@ -8,6 +8,13 @@
 
 namespace trabex::montaje {
 
+/// A picture as the scratch database keeps it: a Windows bitmap file, which any program opens, and beside it
+/// the same pixels as a PNG, which writers of reports take as it stands.
+struct ImagenMontada {
+    almacen::Bytes MapaDeBits;
+    almacen::Bytes Png;
+};
+
 /// A drawing surface off the screen, with the picture that was last drawn on it.
 class SuperficieOculta {
   public:
@@ -15,8 +22,7 @@ class SuperficieOculta {
     /// Draws anew on a surface of a size in twips.
     virtual void Dibujar(std::int32_t ancho, std::int32_t alto,
                          const std::function<void(dibujo::Lienzo&)>& dibujar) = 0;
-    /// The picture as a Windows bitmap file's bytes.
-    virtual almacen::Bytes MapaDeBits() const = 0;
+    virtual ImagenMontada Imagen() const = 0;
     /// The picture as a JPEG file's bytes, of quality 100.
     virtual almacen::Bytes Foto() const = 0;
 };

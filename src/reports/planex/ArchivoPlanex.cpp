@@ -5,10 +5,10 @@
 #include <string>
 #include <utility>
 
-#include "base/Archivos.h"
 #include "base/Formatos.h"
 #include "base/Texto.h"
-#include "slab/salida/RecorrerLosas.h"
+#include "store/Filas.h"
+#include "store/Vaciado.h"
 
 namespace trabex::planex {
 
@@ -124,9 +124,10 @@ bool AgregarAcero(almacen::Recordset& tabla, const std::string& nombre, const lo
 
 void BorrarLosa(almacen::Conexion& destino, const std::string& nombre) {
     for (const char* tabla : TablasQueSeVacian) {
-        const std::string todas = "DELETE * FROM " + std::string(tabla);
-        destino.Ejecutar(
-            tabla == TablaSinNombres ? todas : todas + " WHERE Nombre=" + almacen::EntreComillas(nombre));
+        if (tabla == TablaSinNombres)
+            almacen::VaciarTabla(destino, tabla);
+        else
+            almacen::BorrarFilas(destino, {tabla}, almacen::PorNombre(nombre));
     }
 }
 
@@ -154,7 +155,7 @@ NervioPlanex NervioParaPlanex(const losas::Losa& losa, std::size_t i) {
 bool EscribirProyectoPlanex(almacen::Conexion& destino, const DatosDelProyecto& datos,
                             const DatosGenerales& generales) {
     almacen::Transaccion guardado(destino);
-    destino.Ejecutar("DELETE * FROM Proyecto");
+    almacen::VaciarTabla(destino, "Proyecto");
     almacen::Recordset tabla;
     almacen::AbrirRecordset(destino, tabla, "Proyecto");
     const bool escrita = AgregarFila(tabla, {{"Proyecto", datos.Proyecto},
@@ -181,11 +182,11 @@ bool EscribirProyectoPlanex(almacen::Conexion& destino, const DatosDelProyecto& 
 }
 
 TablasPlanex::TablasPlanex(almacen::Conexion& destino) {
-    almacen::AbrirRecordset(destino, datos_, "SELECT * FROM LosaDatos");
-    almacen::AbrirRecordset(destino, tramos_, "SELECT * FROM LosaTramos");
-    almacen::AbrirRecordset(destino, nervios_, "SELECT * FROM LosaNervios");
-    almacen::AbrirRecordset(destino, ejes_, "SELECT * FROM LosaEjes");
-    almacen::AbrirRecordset(destino, teorico_, "SELECT * FROM LosaRefTeorico");
+    almacen::AbrirRecordset(destino, datos_, "LosaDatos");
+    almacen::AbrirRecordset(destino, tramos_, "LosaTramos");
+    almacen::AbrirRecordset(destino, nervios_, "LosaNervios");
+    almacen::AbrirRecordset(destino, ejes_, "LosaEjes");
+    almacen::AbrirRecordset(destino, teorico_, "LosaRefTeorico");
 }
 
 bool TablasPlanex::Agregar(const losas::Losa& losa, const losas::ResultadosLosa& resultados) {
@@ -209,25 +210,35 @@ bool ReemplazarLosaPlanex(almacen::Conexion& destino, const losas::Losa& losa,
     return TablasPlanex(destino).Agregar(losa, resultados) && guardado.Confirmar();
 }
 
-void EscribirArchivoPlanex(const std::filesystem::path& plantilla, const std::filesystem::path& destino,
-                           const std::filesystem::path& proyecto, const DatosDelProyecto& datos,
-                           const DatosGenerales& generales) {
-    ArchivoNuevo archivo(destino);
-    CopiarArchivo(plantilla, archivo.Provisional());
-    almacen::Conexion conexion;
-    almacen::AbrirConexion(conexion, archivo.Provisional());
-    {
-        almacen::Transaccion guardado(conexion);
-        TablasPlanex tablas(conexion);
-        bool escrito = EscribirProyectoPlanex(conexion, datos, generales);
-        const bool leido =
-            losas::salida::RecorrerLosas(proyecto, [&](const losas::salida::LosaDelProyecto& losa) {
-                escrito = escrito && tablas.Agregar(losa.Datos, losa.Resultados);
-            });
-        if (!leido || !escrito || !guardado.Confirmar()) throw ErrorEjecucion(CodigoError::ErrorAccesoRuta);
-    }
-    conexion.Cerrar();
-    archivo.Colocar();
+namespace {
+
+void Exigir(bool escrito) {
+    if (!escrito) throw ErrorEjecucion(CodigoError::ErrorAccesoRuta);
+}
+
+}  // namespace
+
+ArchivoNuevoPlanex::ArchivoNuevoPlanex(const std::filesystem::path& plantilla,
+                                       const std::filesystem::path& destino, const DatosDelProyecto& datos,
+                                       const DatosGenerales& generales)
+    : archivo_(destino) {
+    CopiarArchivo(plantilla, archivo_.Provisional());
+    almacen::AbrirConexion(conexion_, archivo_.Provisional());
+    guardado_.emplace(conexion_);
+    tablas_.emplace(conexion_);
+    Exigir(EscribirProyectoPlanex(conexion_, datos, generales));
+}
+
+void ArchivoNuevoPlanex::Agregar(const losas::Losa& losa, const losas::ResultadosLosa& resultados) {
+    Exigir(tablas_->Agregar(losa, resultados));
+}
+
+void ArchivoNuevoPlanex::Colocar() {
+    Exigir(guardado_->Confirmar());
+    tablas_.reset();
+    guardado_.reset();
+    conexion_.Cerrar();
+    archivo_.Colocar();
 }
 
 }  // namespace trabex::planex

@@ -2,7 +2,9 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <optional>
 
+#include "base/Archivos.h"
 #include "base/Proyecto.h"
 #include "slab/Losa.h"
 #include "slab/ResultadosLosa.h"
@@ -55,10 +57,20 @@ class TablasPlanex {
 bool ReemplazarLosaPlanex(almacen::Conexion& destino, const losas::Losa& losa,
                           const losas::ResultadosLosa& resultados);
 
-/// Writes a new file with all slabs of a project, from the template, in the place of what `destino` held.
-/// Throws ErrorEjecucion when it can't; `destino` then stands as it stood.
-void EscribirArchivoPlanex(const std::filesystem::path& plantilla, const std::filesystem::path& destino,
-                           const std::filesystem::path& proyecto, const DatosDelProyecto& datos,
-                           const DatosGenerales& generales);
+/// A new file with slabs of a project, made from the template: whole in the place of what `destino` held, or
+/// not at all. Every operation throws ErrorEjecucion when it can't; `destino` then stands as it stood.
+class ArchivoNuevoPlanex {
+  public:
+    ArchivoNuevoPlanex(const std::filesystem::path& plantilla, const std::filesystem::path& destino,
+                       const DatosDelProyecto& datos, const DatosGenerales& generales);
+    void Agregar(const losas::Losa& losa, const losas::ResultadosLosa& resultados);
+    void Colocar();
+
+  private:
+    ArchivoNuevo archivo_;
+    almacen::Conexion conexion_;
+    std::optional<almacen::Transaccion> guardado_;
+    std::optional<TablasPlanex> tablas_;
+};
 
 }  // namespace trabex::planex

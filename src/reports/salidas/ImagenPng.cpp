@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <span>
 #include <unordered_map>
+#include <utility>
 
 #include <png.h>
-
-#include "reports/salidas/ImagenDePaleta.h"
 
 namespace trabex::salidas {
 
@@ -99,24 +99,32 @@ std::optional<ConPaleta> Empaletar(const MapaDeBits& mapa) {
     return salida;
 }
 
-std::optional<ImagenPng> EscribirPng(const MapaDeBits& mapa) {
-    const auto paleta = Empaletar(mapa);
+/// Pixels as the bytes of a PNG: of one byte each with `colores` (three bytes an entry), or of three without.
+/// Empty when the library refuses.
+almacen::Bytes Comprimir(std::uint32_t ancho, std::uint32_t alto, std::span<const std::uint8_t> pixeles,
+                         std::span<const std::uint8_t> colores) {
     png_image imagen{};
     imagen.version = PNG_IMAGE_VERSION;
-    imagen.width = mapa.Ancho;
-    imagen.height = mapa.Alto;
-    imagen.format = paleta ? PNG_FORMAT_RGB_COLORMAP : PNG_FORMAT_RGB;
-    imagen.colormap_entries = paleta ? static_cast<png_uint_32>(paleta->Colores.size() / 3) : 0;
-    ImagenPng salida{mapa.Ancho, mapa.Alto, {}};
+    imagen.width = ancho;
+    imagen.height = alto;
+    imagen.format = colores.empty() ? PNG_FORMAT_RGB : PNG_FORMAT_RGB_COLORMAP;
+    imagen.colormap_entries = static_cast<png_uint_32>(colores.size() / 3);
     png_alloc_size_t bytes = PNG_IMAGE_PNG_SIZE_MAX(imagen);
-    salida.Archivo.resize(bytes);
-    const void* pixeles = paleta ? paleta->Indices.data() : mapa.Pixeles.data();
-    const void* colores = paleta ? paleta->Colores.data() : nullptr;
-    if (png_image_write_to_memory(&imagen, salida.Archivo.data(), &bytes, 0, pixeles, 0, colores) == 0)
-        return std::nullopt;
-    salida.Archivo.resize(bytes);
-    salida.Archivo.shrink_to_fit();
-    return salida;
+    almacen::Bytes archivo(bytes);
+    const void* paleta = colores.empty() ? nullptr : colores.data();
+    if (png_image_write_to_memory(&imagen, archivo.data(), &bytes, 0, pixeles.data(), 0, paleta) == 0)
+        return {};
+    archivo.resize(bytes);
+    archivo.shrink_to_fit();
+    return archivo;
+}
+
+std::optional<ImagenPng> EscribirPng(const MapaDeBits& mapa) {
+    const auto paleta = Empaletar(mapa);
+    almacen::Bytes archivo = paleta ? Comprimir(mapa.Ancho, mapa.Alto, paleta->Indices, paleta->Colores)
+                                    : Comprimir(mapa.Ancho, mapa.Alto, mapa.Pixeles, {});
+    if (archivo.empty()) return std::nullopt;
+    return ImagenPng{mapa.Ancho, mapa.Alto, std::move(archivo)};
 }
 
 constexpr std::array<unsigned char, 8> FirmaPng{0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
@@ -146,6 +154,16 @@ std::optional<MapaDeBits> LeerMapaDeBits(const almacen::Bytes& archivo) {
         }
     }
     return mapa;
+}
+
+almacen::Bytes PngDe(const ImagenDePaleta& imagen) {
+    std::vector<std::uint8_t> colores;
+    for (const std::uint32_t color : imagen.Paleta) {
+        for (const unsigned corrimiento : {16U, 8U, 0U})
+            colores.push_back(static_cast<std::uint8_t>(color >> corrimiento & 0xFF));
+    }
+    return Comprimir(static_cast<std::uint32_t>(imagen.Ancho), static_cast<std::uint32_t>(imagen.Alto),
+                     imagen.Pixeles, colores);
 }
 
 std::optional<ImagenPng> ComoPng(const almacen::Bytes& archivo) {

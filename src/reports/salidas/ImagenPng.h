@@ -4,6 +4,7 @@
 #include <optional>
 #include <vector>
 
+#include "reports/salidas/ImagenDePaleta.h"
 #include "store/Valor.h"
 
 namespace trabex::salidas {
@@ -25,6 +26,9 @@ struct ImagenPng {
     std::uint32_t Alto = 0;
     almacen::Bytes Archivo;
 };
+
+/// The picture as a PNG file's bytes; empty when it is too large for one.
+almacen::Bytes PngDe(const ImagenDePaleta& imagen);
 
 /// The bytes of a Windows bitmap or a PNG as a PNG. A drawing of up to 256 colours takes a palette, which
 /// makes it a fraction of the bitmap. Nothing when the bytes are neither.

@@ -41,18 +41,4 @@ void RecorrerLosas(const ProyectoParaReporte& origen, bool todas,
     }
 }
 
-bool RecorrerLosas(const std::filesystem::path& camino,
-                   const std::function<void(const LosaDelProyecto&)>& accion) {
-    almacen::tablas::ProyectoAbierto proyecto;
-    almacen::AbrirCopiaEnMemoria(proyecto.ConexionProyecto, camino);
-    almacen::AbrirRecordset(proyecto.ConexionProyecto, proyecto.RegistrosProyecto,
-                            almacen::tablas::ConsultaListaLosas);
-    if (!proyecto.RegistrosProyecto.Abierto()) return false;
-    DatosDelProyecto datos;
-    DatosGenerales generales;
-    almacen::tablas::LeerDatosGenerales(proyecto.ConexionProyecto, "", datos, generales);
-    RecorrerLosas({proyecto, datos, generales}, true, accion);
-    return true;
-}
-
 }  // namespace trabex::losas::salida

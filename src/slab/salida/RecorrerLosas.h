@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <filesystem>
 #include <functional>
 
 #include "base/Proyecto.h"
@@ -32,11 +31,6 @@ struct ProyectoParaReporte {
 /// of its own: what the workspace has on the screen stays as it is. The list comes back to where it stood
 /// after all of them, and stays on the selected one after it alone.
 void RecorrerLosas(const ProyectoParaReporte& origen, bool todas,
-                   const std::function<void(const LosaDelProyecto&)>& accion);
-
-/// Reads and calculates each slab of a project in list order; the project is not written to. False when the
-/// file is no project.
-bool RecorrerLosas(const std::filesystem::path& camino,
                    const std::function<void(const LosaDelProyecto&)>& accion);
 
 }  // namespace trabex::losas::salida

@@ -5,7 +5,7 @@
 #include "slab/DisenoSeccion.h"
 #include "slab/EsfuerzosTramo.h"
 #include "slab/ValoresLosa.h"
-#include "store/Insercion.h"
+#include "store/Vaciado.h"
 #include "store/tablas/TablasLosa.h"
 
 namespace trabex::losas::salida {
@@ -18,23 +18,16 @@ Registro En(const std::vector<Registro>& arreglo, std::size_t i) {
     return i < arreglo.size() ? arreglo[i] : Registro{};
 }
 
-/// The scratch tables of slabs, each emptied and open for its rows.
-struct TablasDeLosas {
-    explicit TablasDeLosas(almacen::Conexion& conexion)
-        : Datos(conexion, "LosaDatos"), Ejes(conexion, "LosaEjes"), Tramos(conexion, "LosaTramos") {
-        for (const char* tabla : {"LosaDatos", "LosaEjes", "LosaTramos"})
-            conexion.Ejecutar("DELETE * FROM " + std::string(tabla));
-    }
-    almacen::Insercion Datos;
-    almacen::Insercion Ejes;
-    almacen::Insercion Tramos;
-};
-
 void EscribirGenerales(almacen::Conexion& conexion, const DatosGenerales& generales) {
-    conexion.Ejecutar("DELETE * FROM LosaG");
+    almacen::VaciarTabla(conexion, "LosaG");
     almacen::Recordset registros;
     almacen::AbrirRecordset(conexion, registros, "LosaG");
     almacen::tablas::AgregarGenerales(registros, generales);
+}
+
+almacen::Conexion& SinFilas(almacen::Conexion& conexion, const char* tabla) {
+    almacen::VaciarTabla(conexion, tabla);
+    return conexion;
 }
 
 void EscribirDatos(almacen::Insercion& tabla, const Losa& losa) {
@@ -146,16 +139,23 @@ void EscribirTramo(almacen::Insercion& tabla, const Losa& losa, const DatosGener
     tabla.Agregar();
 }
 
-void EscribirLosa(TablasDeLosas& tablas, const Losa& losa, const DatosGenerales& generales,
-                  const ResultadosLosa& resultados) {
-    EscribirDatos(tablas.Datos, losa);
-    const std::size_t tramos = losa.Tramos.size() - 1;
-    if (tramos == 0) return;
-    for (std::size_t i = 1; i <= tramos + 1; ++i) EscribirEje(tablas.Ejes, losa, resultados, i);
-    for (std::size_t i = 1; i <= tramos; ++i) EscribirTramo(tablas.Tramos, losa, generales, resultados, i);
+}  // namespace
+
+MontajeDeLosas::MontajeDeLosas(almacen::Conexion& temporal, const DatosGenerales& generales)
+    : datos_(SinFilas(temporal, "LosaDatos"), "LosaDatos"),
+      ejes_(SinFilas(temporal, "LosaEjes"), "LosaEjes"),
+      tramos_(SinFilas(temporal, "LosaTramos"), "LosaTramos") {
+    EscribirGenerales(temporal, generales);
 }
 
-}  // namespace
+void MontajeDeLosas::Agregar(const LosaCalculada& losa) {
+    EscribirDatos(datos_, losa.Datos);
+    const std::size_t tramos = losa.Datos.Tramos.size() - 1;
+    if (tramos == 0) return;
+    for (std::size_t i = 1; i <= tramos + 1; ++i) EscribirEje(ejes_, losa.Datos, losa.Resultados, i);
+    for (std::size_t i = 1; i <= tramos; ++i)
+        EscribirTramo(tramos_, losa.Datos, losa.Generales, losa.Resultados, i);
+}
 
 bool LLeneResultados(const montaje::EntornoReportes& entorno, const ProyectoParaReporte& origen,
                      montaje::EstadoReportes& estado) {
@@ -173,10 +173,9 @@ bool LLeneResultados(const montaje::EntornoReportes& entorno, const ProyectoPara
                            {TituloReporteLosas, nombre, estado.ExportarDesplazamientos}, temporal);
     if (!temporal.Abierta()) return false;
     almacen::Transaccion guardado(temporal);
-    EscribirGenerales(temporal, origen.Generales);
-    TablasDeLosas tablas(temporal);
+    MontajeDeLosas montaje(temporal, origen.Generales);
     RecorrerLosas(origen, todas, [&](const LosaDelProyecto& losa) {
-        EscribirLosa(tablas, losa.Datos, losa.Generales, losa.Resultados);
+        montaje.Agregar({losa.Datos, losa.Generales, losa.Resultados});
     });
     return guardado.Confirmar();
 }

@@ -2,12 +2,25 @@
 
 #include "reports/montaje/BaseTemporal.h"
 #include "reports/montaje/EstadoReportes.h"
+#include "slab/ValoresLosa.h"
 #include "slab/salida/RecorrerLosas.h"
+#include "store/Insercion.h"
 
 namespace trabex::losas::salida {
 
 /// Title of the slabs' reports.
 inline constexpr const char* TituloReporteLosas = "ANALISIS Y DISEÑO DE LOSAS";
+
+/// The scratch tables of slabs on their way: `LosaG` with the factors, and `LosaDatos`, `LosaEjes`,
+/// `LosaTramos`, emptied and open for the rows of each slab. Must not outlive its connection.
+class MontajeDeLosas {
+  public:
+    MontajeDeLosas(almacen::Conexion& temporal, const DatosGenerales& generales);
+    void Agregar(const LosaCalculada& losa);
+
+  private:
+    almacen::Insercion datos_, ejes_, tramos_;
+};
 
 /// Fills the scratch database with the results of the selected slab or of all (`OpcionExportarLosas`):
 /// `Generales`, `LosaG`, `LosaDatos`, `LosaEjes`, `LosaTramos`. `GenerandoReporte` is up meanwhile. False

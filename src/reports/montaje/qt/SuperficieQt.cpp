@@ -4,6 +4,7 @@
 
 #include "drawing/qt/ImagenDeHoja.h"
 #include "reports/salidas/ImagenDePaleta.h"
+#include "reports/salidas/ImagenPng.h"
 
 namespace trabex::montaje::qt {
 
@@ -19,13 +20,13 @@ void SuperficieQt::Dibujar(std::int32_t ancho, std::int32_t alto,
                                         finura_, dibujar);
 }
 
-almacen::Bytes SuperficieQt::MapaDeBits() const {
+ImagenMontada SuperficieQt::Imagen() const {
     const auto ancho = static_cast<std::size_t>(imagen_.width());
     const auto alto = static_cast<std::size_t>(imagen_.height());
     const auto* pixeles = reinterpret_cast<const std::uint32_t*>(imagen_.constBits());
     salidas::ImagenDePaleta reducida = salidas::ReducirColores({pixeles, ancho * alto}, ancho, alto);
     reducida.PuntosPorMetro = static_cast<std::int32_t>(dibujo::qt::PuntosPorMetro * finura_);
-    return salidas::MapaDeBitsDe(reducida);
+    return {salidas::MapaDeBitsDe(reducida), salidas::PngDe(reducida)};
 }
 
 almacen::Bytes SuperficieQt::Foto() const {

@@ -14,7 +14,7 @@ class SuperficieQt : public SuperficieOculta {
 
     void Dibujar(std::int32_t ancho, std::int32_t alto,
                  const std::function<void(dibujo::Lienzo&)>& dibujar) override;
-    almacen::Bytes MapaDeBits() const override;
+    ImagenMontada Imagen() const override;
     almacen::Bytes Foto() const override;
 
     /// 2820 by 1740 pixels: some 280 to the inch on a page.

@@ -2,19 +2,17 @@
 
 #include <string>
 
-#include "base/Proyecto.h"
+#include "base/DatosGenerales.h"
 #include "slab/Losa.h"
 #include "slab/ResultadosLosa.h"
 
-namespace trabex::lote {
+namespace trabex::losas::salida {
 
 /// Records as JSON objects whose keys are the records' field names. Numbers are written in full precision, so
-/// that they read back as the same doubles; one that is no number is null. Dates are ISO 8601. Arrays leave
-/// slot 0 out.
-std::string ProyectoJson(const DatosDelProyecto& datos);
+/// that they read back as the same doubles; one that is no number is null. Arrays leave slot 0 out.
 std::string GeneralesJson(const DatosGenerales& generales);
 
 /// A slab with its data and its results; `error` stands in it only when its calculation ended in one.
-std::string LosaJson(const losas::Losa& losa, const losas::ResultadosLosa& resultados);
+std::string LosaJson(const Losa& losa, const ResultadosLosa& resultados);
 
-}  // namespace trabex::lote
+}  // namespace trabex::losas::salida

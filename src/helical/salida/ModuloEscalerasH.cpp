@@ -1,0 +1,89 @@
+#include "helical/salida/ModuloEscalerasH.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "helical/CalcularEscaleraH.h"
+#include "helical/salida/EscaleraHJson.h"
+#include "store/tablas/TablasEscalera.h"
+
+namespace trabex::helices::salida {
+
+namespace {
+
+struct Calculada {
+    DatosEscaleraH Datos;
+    ResultadosEscaleraH Resultados;
+};
+
+lote::Registro LeerGenerales(almacen::Conexion& proyecto) {
+    DatosDelProyecto datos;
+    DatosGenerales generales;
+    almacen::tablas::LeaDatosGenerales(proyecto, almacen::tablas::ClaseEscalera::Helicoidal, "", datos,
+                                       generales);
+    return lote::Guardar(generales);
+}
+
+/// A stair without stored data is not calculated at all.
+lote::Elemento Calcular(almacen::proyecto::ProyectoAbierto& proyecto, const lote::Registro& generales) {
+    Calculada escalera;
+    if (almacen::tablas::LeaDatosEscalera(proyecto, escalera.Datos))
+        CalcularEscaleraH(escalera.Datos, lote::Leer<DatosGenerales>(generales), escalera.Resultados);
+    const std::string error = escalera.Resultados.Error ? escalera.Resultados.Error->Texto() : "";
+    const std::string nombre = escalera.Datos.Nombre;
+    return {nombre, lote::Guardar(std::move(escalera)), error};
+}
+
+std::string GeneralesComoJson(const lote::Registro& generales) {
+    return GeneralesJson(lote::Leer<DatosGenerales>(generales));
+}
+
+std::string Json(const lote::Elemento& elemento) {
+    const auto& escalera = lote::Leer<Calculada>(elemento.Calculado);
+    return EscaleraHJson(escalera.Datos, escalera.Resultados);
+}
+
+constexpr std::array<lote::ColumnaResumen, 10> Columnas{{{"Escalera helicoidal", nullptr},
+                                                         {"R (m)", "0.00"},
+                                                         {"Angulo (º)", "0.0"},
+                                                         {"H (m)", "0.00"},
+                                                         {"RV (kgf)", "#,##0"},
+                                                         {"RH (kgf)", "#,##0"},
+                                                         {"MX (kgf-m)", "#,##0"},
+                                                         {"MY (kgf-m)", "#,##0"},
+                                                         {"MT (kgf-m)", "#,##0"},
+                                                         {"Estribos @ (cm)", "0"}}};
+
+/// The largest absolute moments of both halves and the closest stirrups (0: none).
+std::vector<lote::Celda> Resumir(const lote::Elemento& elemento) {
+    const auto& [escalera, r] = lote::Leer<Calculada>(elemento.Calculado);
+    double MX = 0, MY = 0, MT = 0, estribos = 0;
+    for (const auto* tramo : {&r.TramoSuperior, &r.TramoInferior}) {
+        for (const EstacionEscaleraH& estacion : *tramo) {
+            MX = std::max<double>(MX, std::fabs(estacion.MX));
+            MY = std::max<double>(MY, std::fabs(estacion.MY));
+            MT = std::max<double>(MT, std::fabs(estacion.MT));
+            const double separacion = estacion.SEP;
+            if (separacion != 0 && (estribos == 0 || separacion < estribos)) estribos = separacion;
+        }
+    }
+    return {
+        escalera.R, escalera.Angulo, escalera.H, static_cast<double>(r.FV), static_cast<double>(r.Fh), MX, MY,
+        MT,         estribos};
+}
+
+}  // namespace
+
+const lote::Modulo ModuloEscalerasH{.Nombre = "escalera helicoidal",
+                                    .Clave = "escalerasH",
+                                    .ClaveGenerales = "EscaleraHG",
+                                    .Consulta = almacen::tablas::ConsultaListaEscalerasH,
+                                    .LeerGenerales = LeerGenerales,
+                                    .Calcular = Calcular,
+                                    .GeneralesJson = GeneralesComoJson,
+                                    .Json = Json,
+                                    .Columnas = Columnas,
+                                    .Resumir = Resumir};
+
+}  // namespace trabex::helices::salida

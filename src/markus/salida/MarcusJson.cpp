@@ -1,0 +1,36 @@
+#include "markus/salida/MarcusJson.h"
+
+#include <tuple>
+
+#include "lote/EscritorJson.h"
+#include "store/tablas/CamposMarcus.h"
+
+namespace trabex::marcus::salida {
+
+namespace {
+
+using almacen::Campo;
+using lote::Escritor;
+
+constexpr std::tuple CamposReparto{Campo{"CX", &RepartoMarcus::CX}, Campo{"CY", &RepartoMarcus::CY},
+                                   Campo{"WX", &RepartoMarcus::WX}, Campo{"WY", &RepartoMarcus::WY}};
+
+}  // namespace
+
+std::string MarcusJson(const NivelMarcus& nivel, const std::optional<ErrorEjecucion>& error) {
+    return lote::Objeto([&](Escritor& json) {
+        lote::EscribirCampos(json, nivel, almacen::tablas::CamposNivel);
+        json.Key("Filas");
+        json.StartArray();
+        for (const PanoMarcus& pano : nivel.Filas) {
+            json.StartObject();
+            lote::EscribirCampos(json, pano, almacen::tablas::CamposPano);
+            lote::EscribirCampos(json, pano.Reparto, CamposReparto);
+            json.EndObject();
+        }
+        json.EndArray();
+        lote::EscribirError(json, error);
+    });
+}
+
+}  // namespace trabex::marcus::salida

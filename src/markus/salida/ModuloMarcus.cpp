@@ -1,0 +1,69 @@
+#include "markus/salida/ModuloMarcus.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "markus/salida/MarcusJson.h"
+#include "store/tablas/TablasMarcus.h"
+
+namespace trabex::marcus::salida {
+
+namespace {
+
+struct Calculado {
+    NivelMarcus Nivel;
+    std::optional<ErrorEjecucion> Error;
+};
+
+lote::Elemento Calcular(almacen::proyecto::ProyectoAbierto& proyecto, const lote::Registro&) {
+    Calculado calculado;
+    almacen::tablas::LeerMarcus(proyecto, calculado.Nivel);
+    try {
+        CalculePanos(calculado.Nivel.Filas);
+    } catch (const ErrorEjecucion& error) {
+        calculado.Error = error;
+    }
+    const std::string error = calculado.Error ? calculado.Error->Texto() : "";
+    const std::string nombre = calculado.Nivel.Nombre;
+    return {nombre, lote::Guardar(std::move(calculado)), error};
+}
+
+std::string Json(const lote::Elemento& elemento) {
+    const auto& calculado = lote::Leer<Calculado>(elemento.Calculado);
+    return MarcusJson(calculado.Nivel, calculado.Error);
+}
+
+constexpr std::array<lote::ColumnaResumen, 6> Columnas{{{"Nivel (Markus)", nullptr},
+                                                        {"Paños", "0"},
+                                                        {"Cx menor", "0.000"},
+                                                        {"Cx mayor", "0.000"},
+                                                        {"Wx mayor", "#,##0.0"},
+                                                        {"Wy mayor", "#,##0.0"}}};
+
+std::vector<lote::Celda> Resumir(const lote::Elemento& elemento) {
+    const NivelMarcus& nivel = lote::Leer<Calculado>(elemento.Calculado).Nivel;
+    double menorCX = nivel.Filas.empty() ? 0 : 1, mayorCX = 0, mayorWX = 0, mayorWY = 0;
+    for (const PanoMarcus& pano : nivel.Filas) {
+        menorCX = std::min(menorCX, pano.Reparto.CX);
+        mayorCX = std::max(mayorCX, pano.Reparto.CX);
+        mayorWX = std::max(mayorWX, std::fabs(pano.Reparto.WX));
+        mayorWY = std::max(mayorWY, std::fabs(pano.Reparto.WY));
+    }
+    return {static_cast<double>(nivel.Filas.size()), menorCX, mayorCX, mayorWX, mayorWY};
+}
+
+}  // namespace
+
+const lote::Modulo ModuloMarcus{.Nombre = "nivel de Markus",
+                                .Clave = "marcus",
+                                .ClaveGenerales = nullptr,
+                                .Consulta = almacen::tablas::ConsultaListaMarcus,
+                                .LeerGenerales = nullptr,
+                                .Calcular = Calcular,
+                                .GeneralesJson = nullptr,
+                                .Json = Json,
+                                .Columnas = Columnas,
+                                .Resumir = Resumir};
+
+}  // namespace trabex::marcus::salida
