@@ -101,7 +101,8 @@ TEST_P(Rejilla, NingunTextoPisaOtroNiSale) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Superficies, Rejilla,
-                         testing::Values(SuperficieDePrueba{"screen", 1010, 560, 96, false},
+                         testing::Values(SuperficieDePrueba{"screen", 1120, 632, 96, false},
+                                         SuperficieDePrueba{"small", 850, 560, 96, false},
                                          SuperficieDePrueba{"report", 940, 580, 96, false},
                                          SuperficieDePrueba{"portrait", 4500, 6000, 600, true},
                                          SuperficieDePrueba{"landscape", 6000, 4500, 600, true}));

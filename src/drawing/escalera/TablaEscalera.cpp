@@ -66,7 +66,9 @@ class Tabla {
         : p_(plano),
           sitio_(sitio),
           alto_(plano.ElLienzo().Medir("WW").Alto),
-          columnas_(Repartir(columnas, alto_)) {}
+          columnas_(Repartir(columnas, alto_)),
+          finDeRotulos_(std::min(sitio.FinDeRotulos,
+                                 columnas_.front() - alto_ / 2 - plano.Unidades(PixelesEntreFilas))) {}
 
     void Dibujar(const std::vector<FilaDeHoja>& filas) const {
         std::vector<FilaMedida> medidas;
@@ -90,7 +92,7 @@ class Tabla {
     }
 
     FilaMedida Medir(const FilaDeHoja& fila) const {
-        FilaMedida medida{fila, EnLineas(p_.ElLienzo(), fila.Rotulo, sitio_.FinDeRotulos)};
+        FilaMedida medida{fila, EnLineas(p_.ElLienzo(), fila.Rotulo, finDeRotulos_)};
         medida.MedioRotulo = static_cast<double>(medida.Rotulo.size()) * alto_ / 2;
         for (const LineaDeCifras& linea : fila.Lineas) {
             const double ancho = AnchoMayor(linea);
@@ -116,7 +118,7 @@ class Tabla {
     /// A line to read numbers along, where it does not run through them.
     void DibujarRegla(const FilaMedida& fila) const {
         if (fila.Fila.Lineas.front().Lugar == LugarDeCifra::Centrada) return;
-        DibujeLinea(p_.ElLienzo(), Pixeles(sitio_.FinDeRotulos), Pixeles(fila.Base),
+        DibujeLinea(p_.ElLienzo(), Pixeles(finDeRotulos_), Pixeles(fila.Base),
                     Pixeles(columnas_.back() + alto_ / 2), Pixeles(fila.Base), 1, EstiloLinea::Solida,
                     TintaRegla);
     }
@@ -130,7 +132,7 @@ class Tabla {
     void DibujarRotulo(const FilaMedida& fila) const {
         double y = fila.Base - fila.MedioRotulo;
         for (const std::string& linea : fila.Rotulo) {
-            p_.Escribir(linea, Ancla::Derecha, Pixeles(sitio_.FinDeRotulos), Pixeles(y));
+            p_.Escribir(linea, Ancla::Derecha, Pixeles(finDeRotulos_), Pixeles(y));
             y += alto_;
         }
     }
@@ -157,6 +159,7 @@ class Tabla {
     const SitioDeTabla& sitio_;
     double alto_;  // of a line of text
     std::vector<double> columnas_;
+    double finDeRotulos_;  // clear of the first column
 };
 
 }  // namespace

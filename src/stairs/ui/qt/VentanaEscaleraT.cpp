@@ -16,7 +16,7 @@ namespace trabex::escaleras::ui::qt {
 namespace {
 
 constexpr std::array<const char*, 4> TitulosDeHoja{"&Geometría de la Escalera", "&Cálculo de Solicitaciones",
-                                                   "&Envolvente de Diseño", "&Reacciones de la Escalera"};
+                                                   "E&nvolvente de Diseño", "Reacc&iones de la Escalera"};
 
 }  // namespace
 
@@ -34,7 +34,7 @@ VentanaEscaleraT::VentanaEscaleraT(programa::Aplicacion& aplicacion, const progr
     };
     for (const auto& [clave, operacion] : otras)
         propias[clave] = [this, operacion = operacion] { operacion(operaciones_, *this); };
-    Armar({"EscaleraT", "&Escaleras", "&Escalera", ComandosEscaleraT, TitulosDeHoja, operaciones_.Lista(),
+    Armar({"EscaleraT", "Esca&leras", "&Escalera", ComandosEscaleraT, TitulosDeHoja, operaciones_.Lista(),
            operaciones_.Estado().Hoja.Vista,
            [this](dibujo::Lienzo& lienzo) {
                dibujo::escalera::RedibujeVista(lienzo, operaciones_.Estado().Hoja, operaciones_.Calculada());

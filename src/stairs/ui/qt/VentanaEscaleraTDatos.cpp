@@ -101,7 +101,8 @@ void VentanaEscaleraTDatos::DibujarBoceto(dibujo::Lienzo& lienzo) {
     dibujo::escalera::HojaEscalera hoja;
     hoja.Vista = vista_;
     hoja.Numeros = aplicacion_.SeparadoresLocales;
-    dibujo::escalera::RedibujeVista(lienzo, hoja, {entrados, sinUso, sinCalcular});
+    dibujo::escalera::RedibujeVista(lienzo, hoja, {entrados, sinUso, sinCalcular},
+                                    dibujo::escalera::HojaDeBoceto);
     vista_ = hoja.Vista;
 }
 
