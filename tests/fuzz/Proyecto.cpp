@@ -3,17 +3,13 @@
 
 #include <cstdint>
 #include <cstdlib>
-#include <optional>
 #include <string>
-#include <string_view>
 
-#include "helical/CalcularEscaleraH.h"
-#include "lote/EscalerasJson.h"
-#include "lote/ResultadosJson.h"
-#include "slab/CalcularLosa.h"
-#include "stairs/CalcularEscaleraT.h"
-#include "store/tablas/TablasEscalera.h"
-#include "store/tablas/TablasMarcus.h"
+#include "helical/salida/ModuloEscalerasH.h"
+#include "lote/Modulo.h"
+#include "markus/salida/ModuloMarcus.h"
+#include "slab/salida/ModuloLosas.h"
+#include "stairs/salida/ModuloEscalerasT.h"
 #include "support/CarpetaTemporal.h"
 #include "support/ProyectoDePrueba.h"
 
@@ -21,63 +17,26 @@ namespace {
 
 using namespace trabex;
 using namespace trabex::almacen;
-using namespace trabex::almacen::tablas;
-using namespace trabex::losas;
-using namespace trabex::lote;
 
-/// Opens a list and does something at each of its rows.
-template <class Leer>
-void RecorrerLista(ProyectoAbierto& proyecto, std::string_view consulta, Leer leer) {
-    AbrirRecordset(proyecto.ConexionProyecto, proyecto.RegistrosProyecto, consulta);
-    for (int i = 1; i <= proyecto.RegistrosProyecto.NumeroRegistros(); ++i) {
-        proyecto.RegistrosProyecto.MoverA(i);
-        leer();
+/// Reads, calculates and writes every element of a kind.
+void LeerTodos(proyecto::ProyectoAbierto& abierto, const lote::Modulo& modulo) {
+    const lote::Registro generales =
+        modulo.LeerGenerales == nullptr ? lote::Registro() : modulo.LeerGenerales(abierto.ConexionProyecto);
+    AbrirRecordset(abierto.ConexionProyecto, abierto.RegistrosProyecto, modulo.Consulta);
+    for (int i = 1; i <= abierto.RegistrosProyecto.NumeroRegistros(); ++i) {
+        abierto.RegistrosProyecto.MoverA(i);
+        const lote::Elemento elemento = modulo.Calcular(abierto, generales);
+        modulo.Json(elemento);
+        modulo.Resumir(elemento);
     }
-}
-
-void CalcularEscalera(ProyectoAbierto& proyecto) {
-    escaleras::DatosEscaleraT escalera;
-    escaleras::ResultadosEscaleraT resultados;
-    LeaDatosEscalera(proyecto, escalera);
-    escaleras::CalcularEscaleraT(escalera, {}, resultados);
-    EscaleraTJson(escalera, resultados);
-}
-
-void CalcularHelice(ProyectoAbierto& proyecto) {
-    helices::DatosEscaleraH escalera;
-    helices::ResultadosEscaleraH resultados;
-    LeaDatosEscalera(proyecto, escalera);
-    helices::CalcularEscaleraH(escalera, {}, resultados);
-    EscaleraHJson(escalera, resultados);
-}
-
-void CalcularNivel(ProyectoAbierto& proyecto) {
-    marcus::NivelMarcus nivel;
-    LeerMarcus(proyecto, nivel);
-    std::optional<ErrorEjecucion> falta;
-    try {
-        marcus::CalculePanos(nivel.Filas);
-    } catch (const ErrorEjecucion& error) {
-        falta = error;
-    }
-    MarcusJson(nivel, falta);
-}
-
-void CalcularUnaLosa(ProyectoAbierto& proyecto) {
-    Losa losa;
-    ResultadosLosa resultados;
-    LeerLosa(proyecto, losa);
-    CalcularLosa(losa, {}, resultados);
-    LosaJson(losa, resultados);
 }
 
 void LeerTodo(const std::filesystem::path& camino) {
-    ProyectoAbierto proyecto;
-    prueba::Abrir(proyecto, camino);
-    RecorrerLista(proyecto, ConsultaListaLosas, [&] { CalcularUnaLosa(proyecto); });
-    RecorrerLista(proyecto, ConsultaListaEscalerasT, [&] { CalcularEscalera(proyecto); });
-    RecorrerLista(proyecto, ConsultaListaEscalerasH, [&] { CalcularHelice(proyecto); });
-    RecorrerLista(proyecto, ConsultaListaMarcus, [&] { CalcularNivel(proyecto); });
+    proyecto::ProyectoAbierto abierto;
+    prueba::Abrir(abierto, camino);
+    for (const lote::Modulo* modulo : {&losas::salida::ModuloLosas, &escaleras::salida::ModuloEscalerasT,
+                                       &helices::salida::ModuloEscalerasH, &marcus::salida::ModuloMarcus})
+        LeerTodos(abierto, *modulo);
 }
 
 }  // namespace

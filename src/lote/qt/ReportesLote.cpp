@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "drawing/Superficie.h"
 #include "reports/montaje/TablaGraficos.h"
 #include "reports/montaje/qt/SuperficieQt.h"
 #include "reports/salidas/MotorReportes.h"
