@@ -9,10 +9,12 @@ namespace trabex::escaleras {
 
 namespace {
 
-Avisos AvisosDelTramo(const DatosEscaleraT& d, const DatosGenerales& g, const ResultadosEscaleraT& r,
-                      const Separadores& numeros) {
+constexpr double CentimetrosPorMetro = 100;
+
+Avisos AvisosDelTramo(const EscaleraCalculada& escalera, const Separadores& numeros) {
+    const auto& [d, g, r] = escalera;
     AvisosPorEstacion avisos;
-    const double minimo = AceroMinimoTramo(d, g);
+    const double minimo = AceroMinimoTramo(escalera, CentimetrosPorMetro);
     for (std::size_t i = 0; i <= UltimaEstacion; ++i) {
         const EscaleraTramoPunto& punto = r.TramoT[i];
         for (const double M : {punto.EnvolventeNegativa, punto.EnvolventePositiva})
@@ -20,14 +22,15 @@ Avisos AvisosDelTramo(const DatosEscaleraT& d, const DatosGenerales& g, const Re
         AnotarLateral(avisos, i, AcerosDeEscalera(punto.MomentoY, d.HT, d.B, g));
         AnotarEstribos(avisos, i, punto.SeparacionEstribo);
     }
-    return avisos.Escribir(
-        "Tramo, X = ", [&](std::size_t i) { return Formato(XDeEstacion(d, i), "#,##0.00", numeros) + " m"; });
+    return avisos.Escribir("Tramo, X = ", [&](std::size_t i) {
+        return Formato(XDeEstacion(escalera.Datos, i), "#,##0.00", numeros) + " m";
+    });
 }
 
-Avisos AvisosDelDescanso(const DatosEscaleraT& d, const DatosGenerales& g, const ResultadosEscaleraT& r,
-                         const Separadores& numeros) {
+Avisos AvisosDelDescanso(const EscaleraCalculada& escalera, const Separadores& numeros) {
+    const auto& [d, g, r] = escalera;
     AvisosPorEstacion avisos;
-    const double minimo = AceroMinimoDescanso(d, g);
+    const double minimo = AceroMinimoDescanso(escalera, CentimetrosPorMetro);
     for (std::size_t j = 1; j <= UltimoDescanso; ++j) {
         const EscaleraDescansoPunto& punto = r.DescansoT[j];
         AnotarFlexion(avisos, j, AcerosDeEscalera(punto.MomentoTotal, d.B, d.Hd, g), minimo, numeros);
@@ -40,12 +43,11 @@ Avisos AvisosDelDescanso(const DatosEscaleraT& d, const DatosGenerales& g, const
 
 }  // namespace
 
-Avisos AvisosDe(const DatosEscaleraT& escalera, const DatosGenerales& generales,
-                const ResultadosEscaleraT& resultados, const Separadores& numeros) {
-    if (resultados.TramoT.empty()) return {};
-    if (resultados.Error) return {AvisoDeError(*resultados.Error)};
-    Avisos avisos = AvisosDelTramo(escalera, generales, resultados, numeros);
-    const Avisos otros = AvisosDelDescanso(escalera, generales, resultados, numeros);
+Avisos AvisosDe(const EscaleraCalculada& escalera, const Separadores& numeros) {
+    if (escalera.Resultados.TramoT.empty()) return {};
+    if (escalera.Resultados.Error) return {AvisoDeError(*escalera.Resultados.Error)};
+    Avisos avisos = AvisosDelTramo(escalera, numeros);
+    const Avisos otros = AvisosDelDescanso(escalera, numeros);
     avisos.insert(avisos.end(), otros.begin(), otros.end());
     return avisos;
 }

@@ -1,17 +1,14 @@
 #pragma once
 
 #include "base/Aviso.h"
-#include "base/DatosGenerales.h"
 #include "base/Formatos.h"
-#include "stairs/DatosEscaleraT.h"
-#include "stairs/ResultadosEscaleraT.h"
+#include "stairs/ValoresEscaleraT.h"
 
 namespace trabex::escaleras {
 
 /// What the engineer should know beside the numbers of a stair: a calculation that was cut short, steel below
 /// the minimum, in compression or negative, stirrups under 5 cm, a landing that fails in shear. Empty for a
 /// stair that can't be calculated.
-Avisos AvisosDe(const DatosEscaleraT& escalera, const DatosGenerales& generales,
-                const ResultadosEscaleraT& resultados, const Separadores& numeros = {});
+Avisos AvisosDe(const EscaleraCalculada& escalera, const Separadores& numeros = {});
 
 }  // namespace trabex::escaleras

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "base/AceroMinimo.h"
 #include "base/Angulos.h"
 #include "base/EstribosTorsion.h"
 
@@ -75,14 +74,6 @@ void DisenarDescanso(const DatosEscaleraT& escalera, const DatosGenerales& gener
     });
     punto.TensionAdmisible = pasos([&] { return std::sqrt(static_cast<double>(generales.FC)) * 0.53; });
     if (punto.TensionAdmisible < punto.TensionCorte) punto.FallaCorte = TextoFallaCorte;
-}
-
-double AceroMinimoTramo(const DatosEscaleraT& escalera, const DatosGenerales& generales) {
-    return AceroMinimoDeViga(generales.FY, escalera.B * 100, (escalera.HT - generales.D8) * 100);
-}
-
-double AceroMinimoDescanso(const DatosEscaleraT& escalera, const DatosGenerales& generales) {
-    return AceroMinimoDeLosa(escalera.B * 100, (escalera.Hd - generales.D8) * 100);
 }
 
 }  // namespace trabex::escaleras

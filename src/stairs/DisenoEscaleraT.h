@@ -47,9 +47,4 @@ void DisenarFlexionTramo(const DatosEscaleraT& escalera, const DatosGenerales& g
 void DisenarDescanso(const DatosEscaleraT& escalera, const DatosGenerales& generales, const Pasos& pasos,
                      EscaleraDescansoPunto& punto);
 
-/// Minimum steel of the flight (AceroMinimoDeViga) and of the landing (AceroMinimoDeLosa), cm². They are told
-/// beside the steel of the stations and applied to none.
-double AceroMinimoTramo(const DatosEscaleraT& escalera, const DatosGenerales& generales);
-double AceroMinimoDescanso(const DatosEscaleraT& escalera, const DatosGenerales& generales);
-
 }  // namespace trabex::escaleras

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "base/AceroMinimo.h"
 #include "base/Enteros.h"
 
 namespace trabex::escaleras {
@@ -59,13 +60,13 @@ std::int32_t AnguloDeColumna(std::size_t columna) {
 
 double AceroMinimoTramo(const EscaleraCalculada& escalera, double unidadesPorMetro) {
     const DatosEscaleraT& e = escalera.Datos;
-    const double fraccion = 14.0 / escalera.Generales.FY;
-    return fraccion * (e.B * unidadesPorMetro) * ((e.HT - escalera.Generales.D8) * unidadesPorMetro);
+    const DatosGenerales& g = escalera.Generales;
+    return AceroMinimoDeViga(g.FY, e.B * unidadesPorMetro, (e.HT - g.D8) * unidadesPorMetro);
 }
 
 double AceroMinimoDescanso(const EscaleraCalculada& escalera, double unidadesPorMetro) {
     const DatosEscaleraT& e = escalera.Datos;
-    return ((e.Hd - escalera.Generales.D8) * unidadesPorMetro) * ((e.B * unidadesPorMetro) * 0.002);
+    return AceroMinimoDeLosa(e.B * unidadesPorMetro, (e.Hd - escalera.Generales.D8) * unidadesPorMetro);
 }
 
 }  // namespace trabex::escaleras

@@ -47,8 +47,8 @@ double Progresiva(const DatosEscaleraT& escalera, std::size_t columna);
 EscaleraDescansoPunto DescansoEnColumna(const EscaleraCalculada& escalera, std::size_t columna);
 std::int32_t AnguloDeColumna(std::size_t columna);
 
-/// Minimum steel of a flight, 14/FY of its section, and of the landing, 0.002 of it. With 100 units to the
-/// metre it is in cm².
+/// Minimum steel of a flight (AceroMinimoDeViga) and of the landing (AceroMinimoDeLosa), told beside that of
+/// the stations and applied to none. With 100 units to the metre it is in cm².
 double AceroMinimoTramo(const EscaleraCalculada& escalera, double unidadesPorMetro);
 double AceroMinimoDescanso(const EscaleraCalculada& escalera, double unidadesPorMetro);
 

@@ -5,6 +5,7 @@
 #include "base/RefuerzoEscalera.h"
 #include "stairs/CalcularEscaleraT.h"
 #include "stairs/DisenoEscaleraT.h"
+#include "stairs/ValoresEscaleraT.h"
 #include "support/EscalerasTrabajadas.h"
 
 namespace trabex {
@@ -123,10 +124,10 @@ TEST(DisenoEscaleraT, CarasYSignos) {
 }
 
 TEST(DisenoEscaleraT, AcerosMinimos) {
-    DatosGenerales g = prueba::GeneralesTrabajados;
+    const DatosGenerales g = prueba::GeneralesTrabajados;
     const DatosEscaleraT d = prueba::EscaleraTTrabajada();
-    EXPECT_NEAR(AceroMinimoTramo(d, g), 14.0 / 2800 * 130 * 13, 1e-12);
-    EXPECT_NEAR(AceroMinimoDescanso(d, g), 0.002 * 130 * 18, 1e-12);
+    EXPECT_NEAR(AceroMinimoTramo({d, g, {}}, 100), 14.0 / 2800 * 130 * 13, 1e-12);
+    EXPECT_NEAR(AceroMinimoDescanso({d, g, {}}, 100), 0.002 * 130 * 18, 1e-12);
 }
 
 }  // namespace
