@@ -18,9 +18,11 @@ else()
     endif()
 endif()
 if(TRABEX_SANEAR)
+    # Nothing is inlined, so that each function is the one that the linker chose: two definitions of a name show.
     target_compile_options(trabex_opciones INTERFACE
-        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer
+        -O1 -g1 -fno-inline -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer
         -Wno-maybe-uninitialized)   # GCC loses track of std::variant under the sanitizers
+    target_compile_definitions(trabex_opciones INTERFACE _GLIBCXX_ASSERTIONS)
     target_link_options(trabex_opciones INTERFACE -fsanitize=address,undefined)
 endif()
 
@@ -31,11 +33,13 @@ if(TRABEX_FUZZ)
     target_link_options(trabex_opciones INTERFACE -fsanitize=address,undefined)
 endif()
 
-# trabex_revisar(<target>): clang-tidy on its sources while they compile, where the preset asks for it.
-function(trabex_revisar objetivo)
-    if(TRABEX_SANEAR)
-        set_target_properties(${objetivo} PROPERTIES
-            CXX_CLANG_TIDY "clang-tidy;--quiet;--extra-arg=-Wno-unknown-warning-option")
+# trabex_sin_qt(<name> <target> [<test>]): the target belongs to sin_qt unless <name> ends in _qt; a test that doesn't
+# belong is labelled con_qt.
+function(trabex_sin_qt nombre objetivo)
+    if(NOT nombre MATCHES "_qt$")
+        add_dependencies(sin_qt ${objetivo})
+    elseif(ARGN)
+        set_tests_properties(${ARGN} PROPERTIES LABELS con_qt)
     endif()
 endfunction()
 
@@ -47,10 +51,15 @@ function(trabex_biblioteca nombre)
     set_target_properties(trabex_${nombre} PROPERTIES LINKER_LANGUAGE CXX)
     target_include_directories(trabex_${nombre} PUBLIC ${CMAKE_SOURCE_DIR}/src)
     target_link_libraries(trabex_${nombre} PUBLIC trabex_opciones)
-    trabex_revisar(trabex_${nombre})
     foreach(otra IN LISTS ARGN)
         target_link_libraries(trabex_${nombre} PUBLIC trabex_${otra})
     endforeach()
+    trabex_sin_qt(${nombre} trabex_${nombre})
+endfunction()
+
+# trabex_sin_optimizar(<target>): a test's own sources, compiled once and run for a moment, are not worth optimising.
+function(trabex_sin_optimizar objetivo)
+    target_compile_options(${objetivo} PRIVATE $<$<CONFIG:Release>:$<IF:$<CXX_COMPILER_ID:MSVC>,/Od,-O0>>)
 endfunction()
 
 # trabex_prueba(<name> <library> ...): the folder's tests as the program and the ctest prueba_<name>.
@@ -66,8 +75,10 @@ function(trabex_prueba nombre)
     foreach(otra IN LISTS ARGN)
         target_link_libraries(prueba_${nombre} PRIVATE trabex_${otra})
     endforeach()
+    trabex_sin_optimizar(prueba_${nombre})
     add_test(NAME prueba_${nombre} COMMAND prueba_${nombre})
     set_tests_properties(prueba_${nombre} PROPERTIES TIMEOUT 600)
+    trabex_sin_qt(${nombre} prueba_${nombre} prueba_${nombre})
 endfunction()
 
 # trabex_biblioteca_qt(<name> [<library below> ...]): the same for a folder named qt/, the only ones that know Qt.

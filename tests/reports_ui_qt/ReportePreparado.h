@@ -53,7 +53,7 @@ class ReportePreparado : public testing::Test {
         return reporte;
     }
     std::filesystem::path Exportar(Reporte& reporte, int codigo, const std::string& nombre) {
-        const std::filesystem::path destino = carpeta / nombre;
+        std::filesystem::path destino = carpeta / nombre;
         motor.Exportar(reporte.Contenido(), codigo, destino);
         return destino;
     }

@@ -51,11 +51,11 @@ TEST(EscritorXls, NumerosYFechasSiguenSiendoloConSusFormatos) {
 }
 
 TEST(EscritorXls, LosGraficosSeGuardanComoImagenesYDejanSuSitio) {
-    const std::vector<std::uint32_t> pixeles(200 * 100, 0x336699);
+    const std::vector<std::uint32_t> pixeles(20000, 0x336699);
     const Bytes mapa = MapaDeBitsDe(ReducirColores(pixeles, 200, 100));
     Documento documento;
     Seccion& seccion = documento.Secciones.emplace_back();
-    seccion.Bloques.emplace_back(Imagen{[&mapa] { return mapa; }, 100, 0, "L1: GEOMETRÍA"});
+    seccion.Bloques.emplace_back(Imagen{[&mapa] { return Bytes(mapa); }, 100, 0, "L1: GEOMETRÍA"});
     seccion.Bloques.emplace_back(Imagen{[] { return Bytes{}; }, 0, 0, ""});
     const LibroXls libro = LibroDe(documento);
     ASSERT_EQ(libro.Hojas[0].Imagenes.size(), 1U);

@@ -59,22 +59,23 @@ TEST_F(Arranque, HaceLoQueFaltaYRespetaLoQueEsta) {
 }
 
 TEST_F(Arranque, LasPreferenciasSonRegistrosDe128Bytes) {
+    constexpr std::size_t registro = 128;
     Arrancar();
     const std::string bytes = LeerArchivo(Usuario("Tapiz.tbx"));
     const std::string imagen = TextoDeCamino(Usuario("Tapices/TapizTBX.jpg"));
     ASSERT_EQ(bytes.size(), 1280U);
     EXPECT_EQ(static_cast<unsigned char>(bytes[0]), imagen.size());
     EXPECT_EQ(bytes.substr(2, imagen.size()), imagen);
-    EXPECT_EQ(bytes[5 * 128], 4);
-    EXPECT_EQ(bytes.substr(6 * 128, 4), std::string("\xFF\xF4\xD6\0", 4));
+    EXPECT_EQ(bytes[5 * registro], 4);
+    EXPECT_EQ(bytes.substr(6 * registro, 4), std::string("\xFF\xF4\xD6\0", 4));
 
     std::string otros = bytes;
-    otros[1 * 128] = 2;
-    otros[1 * 128 + 1] = 1;  // 258 as it is read: out of range
-    otros[2 * 128] = 1;
-    otros[4 * 128] = 40;
-    otros[5 * 128] = 9;
-    otros.replace(6 * 128, 4, std::string(4, '\0'));
+    otros[1 * registro] = 2;
+    otros[1 * registro + 1] = 1;  // 258 as it is read: out of range
+    otros[2 * registro] = 1;
+    otros[4 * registro] = 40;
+    otros[5 * registro] = 9;
+    otros.replace(6 * registro, 4, std::string(4, '\0'));
     Tapiz leido = LeerRegistros(otros);
     EXPECT_EQ(leido.Horizontal, 0);
     EXPECT_EQ(leido.Vertical, 1);

@@ -78,7 +78,7 @@ class EspacioDePrueba {
         espacio.Lista().Abrir();
     }
     std::filesystem::path CrearProyecto(const std::string& nombre, const std::vector<Losa>& losas) const {
-        const auto archivo = carpeta / nombre;
+        auto archivo = carpeta / nombre;
         CrearBaseDatos(archivo, EsquemaDeProyecto());
         ProyectoAbierto proyecto;
         prueba::Abrir(proyecto, archivo);

@@ -95,7 +95,7 @@ std::size_t Tramo(std::span<const std::uint8_t> fila, std::size_t x) {
 
 void EscribirLiteral(almacen::Bytes& bytes, std::span<const std::uint8_t> literal) {
     if (literal.size() < 3) {  // fewer would read as a code
-        for (const std::uint8_t pixel : literal) Escribir(bytes, 1U | pixel << 8U, 2);
+        for (const std::uint8_t pixel : literal) Escribir(bytes, 1U | static_cast<unsigned>(pixel) << 8U, 2);
         return;
     }
     Escribir(bytes, literal.size() << 8U, 2);

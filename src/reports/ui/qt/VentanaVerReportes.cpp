@@ -33,7 +33,6 @@ constexpr int OpcionPagina = -2;
 VentanaVerReportes::VentanaVerReportes(EntornoSalida& entorno, const documento::Documento& documento,
                                        QWidget* padre)
     : QDialog(padre),
-      entorno_(entorno),
       exportador_(entorno),
       documento_(documento),
       vista_(new salidas::qt::VistaPaginas(documento, this)) {

@@ -35,7 +35,6 @@ class VentanaVerReportes : public QDialog {
     void MostrarPagina(int pagina);
     void Buscar(bool adelante);
 
-    EntornoSalida& entorno_;
     ExportadorReportes exportador_;
     const documento::Documento& documento_;
     salidas::qt::VistaPaginas* vista_;
