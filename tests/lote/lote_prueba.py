@@ -42,8 +42,9 @@ class Lote(unittest.TestCase):
         self.proyecto = self.carpeta / "Obra Año 1.los"
         shutil.copy(IMAGEN / "Ejemplo Demostrativo.tbx", self.proyecto)
 
-    def resultados(self):
-        corrida = correr(self.proyecto, self.carpeta / "salida")
+    def resultados(self, *opciones):
+        """A run that draws nothing unless it is asked to."""
+        corrida = correr(*(opciones or ["--solo=planex"]), self.proyecto, self.carpeta / "salida")
         self.assertEqual(corrida.returncode, 0, corrida.stderr)
         return json.loads((self.carpeta / "salida" / "resultados.json").read_text()), corrida.stdout
 
@@ -196,9 +197,14 @@ class Lote(unittest.TestCase):
         self.resultados()
         antes = self.planex()
         self.sql("UPDATE LosaEjes SET Eje = 'un eje de nombre más largo que su columna' WHERE Nombre = 'L-7 TECHO'",
-                 "UPDATE LosaTramos SET LT = 4")
-        self.assertEqual(correr(self.proyecto, self.carpeta / "salida").returncode, 1)
+                 "UPDATE LosaTramos SET LT = 4", "DELETE FROM LosaDatos WHERE Nombre <> 'L-7 TECHO'")
+        corrida = correr("--solo=hojas,planex", self.proyecto, self.carpeta / "salida")
+        self.assertEqual(corrida.returncode, 1)
         self.assertEqual(self.planex(), antes)
+        linea, = corrida.stderr.splitlines()
+        self.assertIn('Obra Año 1.cad de losa "L-7 TECHO"', linea)
+        self.assertIn("L-7 TECHO", corrida.stdout)
+        self.assertEqual(len(list((self.carpeta / "salida" / "losas").iterdir())), 4)  # the sheets all the same
 
     def test_los_errores_quedan_escritos(self):
         self.sql("DELETE FROM LosaDatos WHERE Nombre <> 'L-1 PLANTA BAJA'",
@@ -216,8 +222,9 @@ class Lote(unittest.TestCase):
         self.assertIn("L\uFFFD\uFFFD\uFFFD", losas)
 
     def test_cada_losa_tiene_sus_hojas(self):
-        self.sql("UPDATE LosaDatos SET Nombre='L/8: \"TECHO\"' WHERE Nombre='L-8 SALA DE MÁQUINAS'")
-        documento, _ = self.resultados()
+        self.sql("UPDATE LosaDatos SET Nombre='L/8: \"TECHO\"' WHERE Nombre='L-8 SALA DE MÁQUINAS'",
+                 "DELETE FROM LosaDatos WHERE Nombre < 'L-8' AND Nombre > 'L-2'")
+        documento, _ = self.resultados("--solo=hojas")
         hojas = self.carpeta / "salida" / "losas"
         for numero, losa in enumerate(documento["losas"], 1):
             nombre = "".join("_" if c in '\\/:*?"<>|' else c for c in losa["Nombre"])
@@ -246,7 +253,40 @@ class Lote(unittest.TestCase):
             self.assertIn(texto, pdf)
             self.assertIn(texto, html)
 
+    def test_se_escribe_lo_que_se_pide(self):
+        self.sql("DELETE FROM LosaDatos WHERE Nombre <> 'L-7 TECHO'")
+        pedidos = ((["--solo=resultados"], []), (["--solo=planex,resultados"], ["planex"]),
+                   (["--sin-dibujos", "--solo=hojas,planex"], ["planex"]),
+                   (["--solo=reportes", "--sin-dibujos"], ["Trabajo", "reportes"]))
+        for k, (opciones, partes) in enumerate(pedidos):
+            carpeta = self.carpeta / str(k)
+            corrida = correr(*opciones, self.proyecto, carpeta)
+            self.assertEqual((corrida.returncode, corrida.stderr), (0, ""))
+            self.assertEqual(sorted(os.listdir(carpeta)), sorted(partes + ["resultados.json"]))
+        self.assertEqual(sorted(os.listdir(carpeta / "reportes")),
+                         [f"losas-resultados.{formato}" for formato in ("htm", "pdf", "rtf", "xls")])
+
+    def test_ningun_valor_ensancha_el_resumen(self):
+        self.sql("DELETE FROM LosaDatos WHERE Nombre <> 'L-7 TECHO'",
+                 f"INSERT INTO LosaDatos (Nombre) VALUES ('{'Ñ' * 300}')",
+                 "INSERT INTO LosaTramos VALUES ('L-7 TECHO', 9, 1e200, 1e100, 0, NULL, NULL)")
+        _, resumen = self.resultados("--solo=resultados")
+        self.assertIn("Ñ" * 39 + "…", resumen)
+        self.assertRegex(resumen, r"L-7 TECHO .* 1,00e\+200 ")
+
+    def test_un_reporte_que_no_se_puede_escribir_deja_los_otros(self):
+        self.sql("DELETE FROM LosaDatos WHERE Nombre <> 'L-7 TECHO'")
+        (self.carpeta / "salida" / "reportes" / "losas-resultados.xls").mkdir(parents=True)
+        corrida = correr("--solo=reportes", "--sin-dibujos", self.proyecto, self.carpeta / "salida")
+        self.assertEqual(corrida.returncode, 1)
+        linea, = corrida.stderr.splitlines()
+        self.assertIn("losas-resultados.xls", linea)
+        for formato in ("htm", "pdf", "rtf"):
+            self.assertGreater((self.carpeta / "salida" / "reportes" / f"losas-resultados.{formato}").stat().st_size, 0)
+
     def test_lo_que_no_se_puede(self):
+        for opciones in (["--solo="], ["--solo=dibujos"], ["--solo=hojas,"], ["--con-dibujos"]):
+            self.assertEqual(correr(*opciones, self.proyecto, self.carpeta / "salida").returncode, 2)
         self.assertEqual(correr().returncode, 2)
         self.assertEqual(correr(self.proyecto).returncode, 2)
         (self.carpeta / "carta.los").write_text("no es un proyecto")
