@@ -31,7 +31,8 @@ int main(int argc, char** argv) {
     trabex::programa::qt::PlataformaQt plataforma;
     trabex::programa::qt::CajaMensajesQt caja;
     trabex::programa::qt::DialogosArchivoQt dialogos;
-    const trabex::programa::Servicios servicios{caja, dialogos, plataforma};
+    trabex::programa::Carpetas carpetas;
+    const trabex::programa::Servicios servicios{caja, dialogos, plataforma, carpetas};
     trabex::reportes::ui::qt::SalidaDelPrograma salida;
     std::vector<trabex::programa::qt::Modulo> modulos{
         trabex::losas::ui::qt::ModuloLosas(salida),
@@ -45,7 +46,7 @@ int main(int argc, char** argv) {
     });
     splash.show();
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    trabex::programa::PrepararArranque(plataforma, aplicacion);
+    trabex::programa::PrepararArranque(plataforma, carpetas, aplicacion);
     splash.Contar();
     return QApplication::exec();
 }

@@ -13,13 +13,10 @@ namespace trabex::programa {
 
 /// The state of the program, one instance for the life of the process, passed by reference.
 struct Aplicacion {
-    std::filesystem::path CaminoPrograma;    ///< folder of the executable
-    std::filesystem::path CaminoUsuario;     ///< folder of the user's data
-    std::filesystem::path CaminoTemporales;  ///< scratch folder of file maintenance
-    std::filesystem::path ArchivoProyecto;   ///< the current project's file
-    std::string NombreProyecto;              ///< its name with extension; empty while no project is chosen
-    std::filesystem::path ArchivoAyuda;      ///< the help file, where there is one
-    std::string Usuario;                     ///< the user's name, as reports print it
+    std::filesystem::path ArchivoProyecto;  ///< the current project's file
+    std::string NombreProyecto;             ///< its name with extension; empty while no project is chosen
+    std::filesystem::path ArchivoAyuda;     ///< the help file, where there is one
+    std::string Usuario;                    ///< the user's name, as reports print it
     Separadores SeparadoresLocales;
     Tapiz Preferencias;
 

@@ -17,18 +17,17 @@ std::filesystem::path BaseDeDatos(const Plataforma& plataforma) {
     return raiz && Existe(*raiz / CarpetaComun) ? *raiz : plataforma.CarpetaDeDocumentos();
 }
 
-void CrearCarpetas(const std::filesystem::path& base, const Aplicacion& aplicacion) {
-    const std::filesystem::path& usuario = aplicacion.CaminoUsuario;
+void CrearCarpetas(const std::filesystem::path& base, const Carpetas& carpetas) {
     for (const std::filesystem::path& carpeta :
-         {base / CarpetaComun, usuario, usuario / "Proyectos", usuario / "ReportesExportados",
-          usuario / "Tapices", usuario / "Trabajo", aplicacion.CaminoTemporales}) {
+         {base / CarpetaComun, carpetas.CaminoUsuario, carpetas.Proyectos(), carpetas.ReportesExportados(),
+          carpetas.Tapices(), carpetas.CaminoUsuario / "Trabajo", carpetas.CaminoTemporales}) {
         std::error_code ignorado;
         std::filesystem::create_directory(carpeta, ignorado);
     }
 }
 
-std::filesystem::path ImagenEntregada(const Aplicacion& aplicacion) {
-    return aplicacion.CaminoPrograma / "Imagen" / "TapizTBX.jpg";
+std::filesystem::path ImagenEntregada(const Carpetas& carpetas) {
+    return carpetas.CaminoPrograma / "Imagen" / "TapizTBX.jpg";
 }
 
 /// A wallpaper of the default name that differs from the delivered one goes, so that a new edition's replaces
@@ -53,39 +52,38 @@ void CopiarSiFalta(const std::filesystem::path& origen, const std::filesystem::p
     }
 }
 
-void CopiarArchivos(const Aplicacion& aplicacion) {
-    const std::filesystem::path imagen = aplicacion.CaminoPrograma / "Imagen";
-    const std::filesystem::path& usuario = aplicacion.CaminoUsuario;
-    CopiarSiFalta(imagen / "Ejemplo Demostrativo.tbx", usuario / "Proyectos" / "Ejemplo Demostrativo.los");
-    CopiarSiFalta(ImagenEntregada(aplicacion), ImagenPorDefecto(aplicacion));
-    CopiarSiFalta(imagen / "AnalisisCarga.tbx", usuario / "Proyectos" / "AnalisisCarga.mdb");
+void CopiarArchivos(const Carpetas& carpetas) {
+    const std::filesystem::path imagen = carpetas.CaminoPrograma / "Imagen";
+    CopiarSiFalta(imagen / "Ejemplo Demostrativo.tbx", carpetas.Proyectos() / "Ejemplo Demostrativo.los");
+    CopiarSiFalta(ImagenEntregada(carpetas), ImagenPorDefecto(carpetas));
+    CopiarSiFalta(imagen / "AnalisisCarga.tbx", carpetas.Proyectos() / "AnalisisCarga.mdb");
 }
 
 }  // namespace
 
-std::filesystem::path ArchivoTapiz(const Aplicacion& aplicacion) {
-    return aplicacion.CaminoUsuario / "Tapiz.tbx";
+std::filesystem::path ArchivoTapiz(const Carpetas& carpetas) {
+    return carpetas.CaminoUsuario / "Tapiz.tbx";
 }
 
-std::filesystem::path ImagenPorDefecto(const Aplicacion& aplicacion) {
-    return aplicacion.CaminoUsuario / "Tapices" / "TapizTBX.jpg";
+std::filesystem::path ImagenPorDefecto(const Carpetas& carpetas) {
+    return carpetas.Tapices() / "TapizTBX.jpg";
 }
 
-void PrepararArranque(Plataforma& plataforma, Aplicacion& aplicacion) {
+void PrepararArranque(Plataforma& plataforma, Carpetas& carpetas, Aplicacion& aplicacion) {
     const std::filesystem::path base = BaseDeDatos(plataforma);
-    aplicacion.CaminoPrograma = plataforma.CarpetaDelPrograma();
-    aplicacion.CaminoUsuario = base / CarpetaComun / CarpetaPropia;
-    aplicacion.CaminoTemporales = aplicacion.CaminoUsuario / "Temporales";
+    carpetas.CaminoPrograma = plataforma.CarpetaDelPrograma();
+    carpetas.CaminoUsuario = base / CarpetaComun / CarpetaPropia;
+    carpetas.CaminoTemporales = carpetas.CaminoUsuario / "Temporales";
     aplicacion.Usuario = plataforma.NombreDelUsuario();
-    CrearCarpetas(base, aplicacion);
-    CopiarArchivos(aplicacion);
-    LeerPreferencias(aplicacion);
+    CrearCarpetas(base, carpetas);
+    CopiarArchivos(carpetas);
+    LeerPreferencias(carpetas, aplicacion);
 }
 
-void LeerPreferencias(Aplicacion& aplicacion) {
-    const std::filesystem::path imagen = ImagenPorDefecto(aplicacion);
-    RefrescarTapiz(ImagenEntregada(aplicacion), imagen);
-    aplicacion.Preferencias = LeerTapiz(ArchivoTapiz(aplicacion), imagen);
+void LeerPreferencias(const Carpetas& carpetas, Aplicacion& aplicacion) {
+    const std::filesystem::path imagen = ImagenPorDefecto(carpetas);
+    RefrescarTapiz(ImagenEntregada(carpetas), imagen);
+    aplicacion.Preferencias = LeerTapiz(ArchivoTapiz(carpetas), imagen);
 }
 
 }  // namespace trabex::programa

@@ -39,18 +39,18 @@ void Compactar1::Avisar(const std::string& texto, const std::string& encabezado)
     Mensaje mensaje;
     mensaje.Texto = texto;
     mensaje.Encabezado = encabezado;
-    caja_.Mostrar(mensaje);
+    servicios_.Caja.Mostrar(mensaje);
 }
 
 void Compactar1::VaciarTemporales() const {
-    for (const std::filesystem::path& archivo : ArchivosDe(aplicacion_.CaminoTemporales)) {
+    for (const std::filesystem::path& archivo : ArchivosDe(servicios_.Carpetas.CaminoTemporales)) {
         std::error_code ignorado;
         std::filesystem::remove(archivo, ignorado);
     }
 }
 
 void Compactar1::Compactar(const std::filesystem::path& archivo) {
-    const std::filesystem::path destino = aplicacion_.CaminoTemporales / NombreTemporal();
+    const std::filesystem::path destino = servicios_.Carpetas.CaminoTemporales / NombreTemporal();
     std::error_code error;
     if (std::filesystem::exists(destino, error)) BorrarArchivo(destino);
     if (!almacen::CompactarBaseDatos(archivo, destino)) {
@@ -59,7 +59,7 @@ void Compactar1::Compactar(const std::filesystem::path& archivo) {
         fallo.Encabezado = "Error Inesperado";
         fallo.Titulo = "Error Inesperado";
         fallo.Icono = IconoCaja::Error;
-        caja_.Mostrar(fallo);
+        servicios_.Caja.Mostrar(fallo);
     }
     BorrarArchivo(archivo);
     almacen::OlvidarGuardado(archivo);
@@ -88,7 +88,7 @@ void Compactar1::Aceptar(const std::filesystem::path& carpeta, const std::vector
         ninguno.Encabezado = "Reparar Archivos...";
         ninguno.Titulo = "Reparar y Compactar Archivos";
         ninguno.Icono = IconoCaja::Advertencia;
-        caja_.Mostrar(ninguno);
+        servicios_.Caja.Mostrar(ninguno);
         return;
     }
     aplicacion_.Proyecto.ConexionProyecto.Cerrar();
@@ -109,7 +109,7 @@ void Compactar1::Aceptar(const std::filesystem::path& carpeta, const std::vector
         vista_.PunteroDeEspera(false);
         Mensaje mensaje = MensajeDeError(error, "¡Falló la Acción de Reparar Y Compactar el Archivo!");
         mensaje.Texto = "Número de Error: " + std::to_string(error.Codigo()) + "\n" + error.Texto();
-        caja_.Mostrar(mensaje);
+        servicios_.Caja.Mostrar(mensaje);
         return;
     }
     vista_.Cerrar();

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "shell/Aplicacion.h"
-#include "shell/CajaMensajes.h"
+#include "shell/Servicios.h"
 
 namespace trabex::programa {
 
@@ -30,8 +30,8 @@ std::vector<std::string> ListarProyectos(const std::filesystem::path& carpeta);
 /// made fails. The engineer keeps a backup for that case.
 class Compactar1 {
   public:
-    Compactar1(Aplicacion& aplicacion, VistaCompactar& vista, CajaMensajes& caja)
-        : aplicacion_(aplicacion), vista_(vista), caja_(caja) {}
+    Compactar1(Aplicacion& aplicacion, const Servicios& servicios, VistaCompactar& vista)
+        : aplicacion_(aplicacion), servicios_(servicios), vista_(vista) {}
 
     /// Accepts: handles the chosen files of a folder, in list order, and closes the window.
     void Aceptar(const std::filesystem::path& carpeta, const std::vector<std::string>& elegidos);
@@ -43,8 +43,8 @@ class Compactar1 {
     void Avisar(const std::string& texto, const std::string& encabezado);
 
     Aplicacion& aplicacion_;
+    Servicios servicios_;
     VistaCompactar& vista_;
-    CajaMensajes& caja_;
 };
 
 }  // namespace trabex::programa

@@ -4,19 +4,19 @@
 
 namespace trabex::programa {
 
-ResultadoConfiguracion AceptarConfiguracion(Aplicacion& aplicacion, CajaMensajes& caja,
+ResultadoConfiguracion AceptarConfiguracion(Aplicacion& aplicacion, const Servicios& servicios,
                                             const Tapiz& elegida) {
     Mensaje pregunta = Pregunta(
         "Tapiz de la Pantalla: " + elegida.Imagen + "\n¿Asumir por Defecto las Opciones Seleccionadas?",
         "Configurar la Pantalla...");
     pregunta.Botones = BotonesCaja::SiNoCancelar;
-    const std::int16_t respuesta = caja.Mostrar(pregunta);
+    const std::int16_t respuesta = servicios.Caja.Mostrar(pregunta);
     if (respuesta == RespuestaCancelar) return ResultadoConfiguracion::SigueAbierta;
     if (respuesta != RespuestaSi) return ResultadoConfiguracion::SinGuardar;
     try {
-        GuardarTapiz(ArchivoTapiz(aplicacion), elegida);
+        GuardarTapiz(ArchivoTapiz(servicios.Carpetas), elegida);
     } catch (const ErrorEjecucion& error) {
-        caja.Mostrar(MensajeDeError(error, ErrorInesperado));
+        servicios.Caja.Mostrar(MensajeDeError(error, ErrorInesperado));
         return ResultadoConfiguracion::SigueAbierta;
     }
     aplicacion.Preferencias = elegida;

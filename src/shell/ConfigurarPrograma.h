@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/Aplicacion.h"
-#include "shell/CajaMensajes.h"
+#include "shell/Servicios.h"
 
 namespace trabex::programa {
 
@@ -10,6 +10,7 @@ enum class ResultadoConfiguracion { SigueAbierta, Guardada, SinGuardar };
 
 /// Asks whether to keep the chosen settings. On yes they are stored and become the current ones. A file that
 /// can't be written shows the fixed error form and leaves the window open.
-ResultadoConfiguracion AceptarConfiguracion(Aplicacion& aplicacion, CajaMensajes& caja, const Tapiz& elegida);
+ResultadoConfiguracion AceptarConfiguracion(Aplicacion& aplicacion, const Servicios& servicios,
+                                            const Tapiz& elegida);
 
 }  // namespace trabex::programa

@@ -32,7 +32,7 @@ void ListaElementos::Cerrar() {
 void ListaElementos::AbrirProyecto() {
     const auto archivo =
         servicios_.Dialogos.Elegir({"Abrir un Proyecto Existente", "Archivos de Proyectos (.los)|*.los",
-                                    aplicacion_.CaminoUsuario / "Proyectos", false, false, true});
+                                    servicios_.Carpetas.Proyectos(), false, false, true});
     if (!archivo) return;
     aplicacion_.ArchivoProyecto = *archivo;
     aplicacion_.NombreProyecto = TextoDeCamino(archivo->filename());

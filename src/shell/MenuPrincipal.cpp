@@ -33,7 +33,7 @@ void MenuPrincipal::Iniciar() {
     vista_.PonerTitulo(TituloConProyecto(""));
     vista_.PonerRevision(std::string("Revisión del Programa: ") + VersionPrograma);
     aplicacion_.SeparadoresLocales = LeerSeparadores(servicios_.Sistema.NumeroDeMuestra());
-    const std::filesystem::path ayuda = aplicacion_.CaminoPrograma / "AyudaLosas2024.chm";
+    const std::filesystem::path ayuda = servicios_.Carpetas.CaminoPrograma / "AyudaLosas2024.chm";
     if (Existe(ayuda)) aplicacion_.ArchivoAyuda = ayuda;
     ColoqueTapiz();
     vista_.PunteroDeEspera(false);
@@ -64,10 +64,6 @@ void MenuPrincipal::Ejecutar(std::string_view clave) {
     ConProyecto([&] { MostrarEspacio(clave); });
 }
 
-std::filesystem::path MenuPrincipal::CarpetaProyectos() const {
-    return aplicacion_.CaminoUsuario / "Proyectos";
-}
-
 void MenuPrincipal::HacerActual(const std::filesystem::path& archivo) {
     aplicacion_.ArchivoProyecto = archivo;
     aplicacion_.NombreProyecto = NombreDe(archivo);
@@ -80,7 +76,7 @@ void MenuPrincipal::CrearNuevoProyecto() {
     std::optional<std::filesystem::path> archivo;
     do {
         archivo = servicios_.Dialogos.Elegir(
-            {"Crear un Nuevo Proyecto", FiltroProyectos, CarpetaProyectos(), true, true, false});
+            {"Crear un Nuevo Proyecto", FiltroProyectos, servicios_.Carpetas.Proyectos(), true, true, false});
         if (!archivo) return vista_.PunteroDeEspera(false);
     } while (Existe(*archivo) &&
              servicios_.Caja.Mostrar(Pregunta(
@@ -103,12 +99,12 @@ void MenuPrincipal::CrearNuevoProyecto() {
 void MenuPrincipal::Reemplazar(const std::filesystem::path& archivo) {
     if (Existe(archivo)) BorrarArchivo(archivo);
     almacen::OlvidarGuardado(archivo);
-    CopiarArchivo(aplicacion_.CaminoPrograma / "Imagen" / "LosaImagen.tbx", archivo);
+    CopiarArchivo(servicios_.Carpetas.CaminoPrograma / "Imagen" / "LosaImagen.tbx", archivo);
 }
 
 void MenuPrincipal::AbrirProyecto() {
     const auto archivo = servicios_.Dialogos.Elegir(
-        {"Abrir un Proyecto Existente", FiltroAbrir, CarpetaProyectos(), false, false, true});
+        {"Abrir un Proyecto Existente", FiltroAbrir, servicios_.Carpetas.Proyectos(), false, false, true});
     vista_.PunteroDeEspera(false);
     if (!archivo) return;
     HacerActual(*archivo);
@@ -120,8 +116,8 @@ void MenuPrincipal::AbrirProyecto() {
 std::optional<std::filesystem::path> MenuPrincipal::ElegirDestino() {
     const auto normal = [](const std::filesystem::path& camino) { return Recortar(TextoDeCamino(camino)); };
     for (;;) {
-        auto archivo = servicios_.Dialogos.Elegir(
-            {"Salvar el Proyecto Como...", FiltroProyectos, CarpetaProyectos(), true, false, false});
+        auto archivo = servicios_.Dialogos.Elegir({"Salvar el Proyecto Como...", FiltroProyectos,
+                                                   servicios_.Carpetas.Proyectos(), true, false, false});
         if (!archivo) return std::nullopt;
         const std::string titulo = NombreDe(*archivo);
         if (almacen::Comparador().Comparar(normal(*archivo), normal(aplicacion_.ArchivoProyecto)) == 0) {
@@ -189,11 +185,11 @@ void MenuPrincipal::TemasAyuda() {
 }
 
 void MenuPrincipal::ManualLosas() {
-    servicios_.Sistema.AbrirArchivo(aplicacion_.CaminoPrograma / "Manual" / "ManualLosas2024.pdf");
+    servicios_.Sistema.AbrirArchivo(servicios_.Carpetas.CaminoPrograma / "Manual" / "ManualLosas2024.pdf");
 }
 
 void MenuPrincipal::AbreExplorador() {
-    servicios_.Sistema.AbrirCarpeta(CarpetaProyectos());
+    servicios_.Sistema.AbrirCarpeta(servicios_.Carpetas.Proyectos());
 }
 
 void MenuPrincipal::Salida() {
@@ -201,7 +197,7 @@ void MenuPrincipal::Salida() {
 }
 
 void MenuPrincipal::ColoqueTapiz() {
-    LeerPreferencias(aplicacion_);
+    LeerPreferencias(servicios_.Carpetas, aplicacion_);
     vista_.PonerTapiz(aplicacion_.Preferencias);
 }
 

@@ -56,7 +56,6 @@ class MenuPrincipal {
     void ColoqueTapiz();
 
   private:
-    std::filesystem::path CarpetaProyectos() const;
     /// Runs `mostrar` with a project: with none it first lets the user open one.
     template <class Mostrar>
     void ConProyecto(Mostrar mostrar);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/CajaMensajes.h"
+#include "shell/Carpetas.h"
 #include "shell/DialogosArchivo.h"
 #include "shell/Plataforma.h"
 
@@ -11,6 +12,7 @@ struct Servicios {
     CajaMensajes& Caja;
     DialogosArchivo& Dialogos;
     Plataforma& Sistema;
+    const programa::Carpetas& Carpetas;
 };
 
 }  // namespace trabex::programa

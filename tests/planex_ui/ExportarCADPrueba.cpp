@@ -37,7 +37,7 @@ class ExportarCAD_ : public prueba::Exportacion {
         dialogos.Elegidos = {archivo};
         caja.Mensajes.clear();
         caja.Respuestas = {RespuestaSi};
-        ExportarCAD(aplicacion, version, vista, caja, dialogos, plataforma).ExportarCAD80();
+        ExportarCAD(aplicacion, servicios, version, vista).ExportarCAD80();
         EXPECT_FALSE(vista.Espera);
     }
 
@@ -59,7 +59,7 @@ class ExportarCAD_ : public prueba::Exportacion {
 
 TEST_F(ExportarCAD_, PreguntaEnSuOrdenYNuncaReemplaza) {
     vista.Marcas = {};
-    ExportarCAD operaciones(aplicacion, Planex8, vista, caja, dialogos, plataforma);
+    ExportarCAD operaciones(aplicacion, servicios, Planex8, vista);
     operaciones.ExportarCAD80();
     EXPECT_EQ(Ultimo().Texto, "No ha Seleccionado Losas para Exportar a Planex Estructural...");
     EXPECT_EQ(Ultimo().Encabezado, "Planex Estructural 2023");
@@ -90,7 +90,7 @@ TEST_F(ExportarCAD_, PreguntaEnSuOrdenYNuncaReemplaza) {
     EXPECT_EQ(Filas(nuevo, "Proyecto").NumeroRegistros(), 0);
     EXPECT_EQ(Cuantas(nuevo, "LosaDatos", "A MACIZA"), 1);
 
-    ExportarCAD(aplicacion, Planex2023, vista, caja, dialogos, plataforma).AbrirCarpeta();
+    ExportarCAD(aplicacion, servicios, Planex2023, vista).AbrirCarpeta();
     EXPECT_EQ(plataforma.Abiertos.back(), dialogos.Peticiones[0].Carpeta);
     std::filesystem::remove(carpeta / "programa" / "Imagen" / "ImagenCAD8.tbx");
     Exportar({1}, ArchivoCAD::CrearNuevo, carpeta / "sin plantilla.cad", Planex8);
@@ -168,7 +168,7 @@ TEST_F(ExportarCAD_, VolverAExportarReemplazaSoloLaSuya) {
     EXPECT_EQ(Filas(archivo, "Proyecto").NumeroRegistros(), 1);
 
     // The steel is of a fresh calculation: the factor has changed since the first export.
-    const Losa losa = ExportarCAD(aplicacion, Planex2023, vista, caja, dialogos, plataforma).LosaDe(1);
+    const Losa losa = ExportarCAD(aplicacion, servicios, Planex2023, vista).LosaDe(1);
     ResultadosLosa resultados;
     CalcularLosa(losa, aplicacion.Generales, resultados);
     Recordset acero = Filas(archivo, "SELECT * FROM LosaRefTeorico WHERE Nombre='A MACIZA' ORDER BY Eje");

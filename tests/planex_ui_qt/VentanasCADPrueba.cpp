@@ -40,7 +40,7 @@ TEST_F(VentanasCAD, LoMarcadoEnLaListaLlegaAlArchivo) {
     dialogos.Elegidos = {archivo};
     caja.Respuestas = {RespuestaSi};
     {
-        VentanaExportarCAD ventana(aplicacion, Planex2023, caja, dialogos, plataforma, nullptr);
+        VentanaExportarCAD ventana(aplicacion, servicios, Planex2023, nullptr);
         ventana.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&ventana));
         auto* lista = ventana.findChild<QTableWidget*>();

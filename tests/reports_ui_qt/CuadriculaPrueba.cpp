@@ -36,9 +36,8 @@ struct VistaGuiada : VistaOpcionExportar2 {
 class PreviaDeCuadricula : public testing::Test {
   protected:
     PreviaDeCuadricula()
-        : plataforma(carpeta.Camino()), entorno{aplicacion, estado,   motor,     impresoras,
-                                                caja,       dialogos, plataforma} {
-        aplicacion.CaminoUsuario = carpeta / "usuario";
+        : plataforma(carpeta.Camino()), entorno{aplicacion, estado, motor, impresoras, servicios} {
+        carpetas.CaminoUsuario = carpeta / "usuario";
         aplicacion.Usuario = "ING. NÚÑEZ";
     }
     VistaGuiada Exportar(std::uint8_t formato) {
@@ -50,6 +49,8 @@ class PreviaDeCuadricula : public testing::Test {
     prueba::PlataformaGuiada plataforma;
     prueba::CajaGuiada caja;
     prueba::DialogosGuiados dialogos;
+    Carpetas carpetas;
+    Servicios servicios{caja, dialogos, plataforma, carpetas};
     prueba::ImpresorasGuiadas impresoras;
     Aplicacion aplicacion;
     EstadoSalida estado;
@@ -88,7 +89,7 @@ TEST_F(PreviaDeCuadricula, CadaFormatoPideEscribeRegistraYPregunta) {
         EXPECT_EQ(peticion.Filtro, caso.Filtro);
         EXPECT_EQ(peticion.Nombre, "");
         EXPECT_TRUE(peticion.Guardar && peticion.AvisarReemplazo);
-        EXPECT_EQ(peticion.Carpeta, aplicacion.CaminoUsuario / "ReportesExportados");
+        EXPECT_EQ(peticion.Carpeta, carpetas.ReportesExportados());
         EXPECT_EQ(caja.Mensajes.back().Texto, caso.Pregunta);
         EXPECT_EQ(caja.Mensajes.back().Encabezado, caso.Encabezado);
         EXPECT_EQ(plataforma.Abiertos.back(), archivo);

@@ -134,7 +134,7 @@ TEST(ExportarGrafico, SalvaLaImagenConSuZoomYRecuerdaLaCarpeta) {
     const CarpetaTemporal carpeta;
     std::filesystem::create_directories(carpeta / "otra");
     Aplicacion aplicacion;
-    aplicacion.CaminoUsuario = carpeta.Camino();
+    const Carpetas carpetas{.CaminoPrograma = {}, .CaminoUsuario = carpeta.Camino(), .CaminoTemporales = {}};
     EstadoReportes estado;
     CajaGuiada caja;
     DialogosGuiados dialogos;
@@ -145,7 +145,7 @@ TEST(ExportarGrafico, SalvaLaImagenConSuZoomYRecuerdaLaCarpeta) {
     double zoom = 0;
     {
         VentanaExportarGrafico ventana(
-            {aplicacion, estado, caja, dialogos, plataforma},
+            {aplicacion, estado, {caja, dialogos, plataforma, carpetas}},
             [&](Lienzo& lienzo, EstadoVista& visor) {
                 EXPECT_TRUE(visor.ExportandoGrafico);
                 zoom = visor.Zoom;

@@ -54,21 +54,22 @@ struct VistaGuiada : VistaSalidaReporte {
 class SalidasDeReporte : public prueba::ReportePreparado {
   protected:
     SalidasDeReporte()
-        : plataforma(carpeta.Camino()), entorno{aplicacion, estado,   motor,     impresoras,
-                                                caja,       dialogos, plataforma} {
-        aplicacion.CaminoPrograma = carpeta / "programa";
-        aplicacion.CaminoUsuario = carpeta / "usuario";
-        std::filesystem::create_directories(aplicacion.CaminoUsuario / "Trabajo");
-        std::filesystem::create_directories(aplicacion.CaminoUsuario / "ReportesExportados");
+        : plataforma(carpeta.Camino()), entorno{aplicacion, estado, motor, impresoras, servicios} {
+        carpetas.CaminoPrograma = carpeta / "programa";
+        carpetas.CaminoUsuario = carpeta / "usuario";
+        std::filesystem::create_directories(carpetas.CaminoUsuario / "Trabajo");
+        std::filesystem::create_directories(carpetas.ReportesExportados());
         std::filesystem::copy(std::filesystem::path(TRABEX_INSTALL) / "Reportes",
-                              aplicacion.CaminoPrograma / "Reportes");
-        base = aplicacion.CaminoUsuario / "Trabajo" / "Temporal.mdb";
+                              carpetas.CaminoPrograma / "Reportes");
+        base = carpetas.CaminoUsuario / "Trabajo" / "Temporal.mdb";
         Preparar({prueba::LosaUniforme(30, 5, 300, 100)});
         estado.ReporteActual = 4;
     }
     prueba::PlataformaGuiada plataforma;
     prueba::CajaGuiada caja;
     prueba::DialogosGuiados dialogos;
+    Carpetas carpetas;
+    Servicios servicios{caja, dialogos, plataforma, carpetas};
     prueba::ImpresorasGuiadas impresoras;
     Aplicacion aplicacion;
     EstadoSalida estado;
@@ -89,7 +90,7 @@ TEST_F(SalidasDeReporte, CadaArchivoSePideSeEscribeYSeOfreceAbrir) {
         operaciones.Aceptar(salida);
         const PeticionArchivo& peticion = dialogos.Peticiones.back();
         EXPECT_EQ(peticion.Titulo, titulos[salida - 1U]);
-        EXPECT_EQ(peticion.Carpeta, aplicacion.CaminoUsuario / "ReportesExportados");
+        EXPECT_EQ(peticion.Carpeta, carpetas.ReportesExportados());
         EXPECT_TRUE(peticion.Guardar && peticion.AvisarReemplazo);
         EXPECT_EQ(estado.ArchivoExportado, archivo);
         EXPECT_GT(std::filesystem::file_size(archivo), 2000U);
@@ -114,7 +115,7 @@ TEST_F(SalidasDeReporte, CancelarUnErrorOUnReporteDesconocidoDejanLaVentana) {
     }
     EXPECT_TRUE(caja.Mensajes.empty());
     estado.ReporteActual = 4;
-    prueba::EscribirArchivo(aplicacion.CaminoPrograma / "Reportes" / "ResultadosLosa.rpt", "nada\n");
+    prueba::EscribirArchivo(carpetas.CaminoPrograma / "Reportes" / "ResultadosLosa.rpt", "nada\n");
     operaciones.Aceptar(SalidaPantalla);
     ASSERT_EQ(caja.Mensajes.size(), 1U);
     EXPECT_EQ(caja.Mensajes[0].Encabezado, "Error en el Reporte...");
@@ -153,7 +154,7 @@ TEST_F(SalidasDeReporte, ElDialogoMandaLaOpcionMarcada) {
     VentanaSalidaReporte ventana(entorno, VentanaSalidaReporte::Clase::Tabular, nullptr);
     ventana.show();
     ventana.findChild<QAbstractButton*>("Carpeta")->click();
-    EXPECT_EQ(plataforma.Abiertos, std::vector{aplicacion.CaminoUsuario / "ReportesExportados"});
+    EXPECT_EQ(plataforma.Abiertos, std::vector{carpetas.ReportesExportados()});
     dialogos.Elegidos = {carpeta / "desde la ventana.htm"};
     BotonDe(ventana, "HTML 4.0 (Para la Web)...")->click();
     BotonDe(ventana, "Aceptar")->click();

@@ -26,20 +26,21 @@ class Arranque : public testing::Test {
         for (const char* nombre : {"Ejemplo Demostrativo.tbx", "TapizTBX.jpg", "AnalisisCarga.tbx"})
             EscribirArchivo(carpeta / "programa" / "Imagen" / nombre, std::string("entregado: ") + nombre);
     }
-    void Arrancar() { PrepararArranque(plataforma, aplicacion); }
-    std::filesystem::path Usuario(const std::string& camino) const {
-        return aplicacion.CaminoUsuario / camino;
-    }
+    void Arrancar() { PrepararArranque(plataforma, carpetas, aplicacion); }
+    std::filesystem::path Usuario(const std::string& camino) const { return carpetas.CaminoUsuario / camino; }
 
     prueba::CarpetaTemporal carpeta;
     prueba::PlataformaGuiada plataforma;
     prueba::CajaGuiada caja;
+    prueba::DialogosGuiados dialogos;
+    Carpetas carpetas;
+    Servicios servicios{caja, dialogos, plataforma, carpetas};
     Aplicacion aplicacion;
 };
 
 TEST_F(Arranque, HaceLoQueFaltaYRespetaLoQueEsta) {
     Arrancar();
-    EXPECT_EQ(aplicacion.CaminoUsuario, carpeta / "Documentos" / "Nodara Software" / "Trabex24");
+    EXPECT_EQ(carpetas.CaminoUsuario, carpeta / "Documentos" / "Nodara Software" / "Trabex24");
     for (const char* nombre : {"ReportesExportados", "Trabajo", "Temporales"})
         EXPECT_TRUE(std::filesystem::is_directory(Usuario(nombre))) << nombre;
     EXPECT_EQ(LeerArchivo(Usuario("Proyectos/AnalisisCarga.mdb")), "entregado: AnalisisCarga.tbx");
@@ -55,7 +56,7 @@ TEST_F(Arranque, HaceLoQueFaltaYRespetaLoQueEsta) {
     EXPECT_TRUE(std::filesystem::exists(Usuario("Tapices/TapizTBX.jpg")));
     std::filesystem::create_directories(carpeta / "C" / "Nodara Software");
     Arrancar();
-    EXPECT_EQ(aplicacion.CaminoUsuario, carpeta / "C" / "Nodara Software" / "Trabex24");
+    EXPECT_EQ(carpetas.CaminoUsuario, carpeta / "C" / "Nodara Software" / "Trabex24");
 }
 
 TEST_F(Arranque, LasPreferenciasSonRegistrosDe128Bytes) {
@@ -97,7 +98,7 @@ TEST_F(Arranque, UnaImagenPerdidaDevuelveLasPreferenciasDeFabrica) {
     propia.Imagen = TextoDeCamino(Usuario("Tapices/mía.jpg"));
     propia.Ajustar = true;
     EscribirArchivo(Usuario("Tapices/mía.jpg"), "x");
-    GuardarTapiz(ArchivoTapiz(aplicacion), propia);
+    GuardarTapiz(ArchivoTapiz(carpetas), propia);
     Arrancar();
     EXPECT_TRUE(aplicacion.Preferencias.Ajustar);
     std::filesystem::remove(Usuario("Tapices/mía.jpg"));
@@ -111,10 +112,10 @@ TEST_F(Arranque, AceptarLaConfiguracionPorRespuestas) {
     Tapiz elegida = aplicacion.Preferencias;
     elegida.TamanoAyuda = 7;
     caja.Respuestas = {RespuestaCancelar, RespuestaAceptarONo, RespuestaSi};
-    EXPECT_EQ(AceptarConfiguracion(aplicacion, caja, elegida), ResultadoConfiguracion::SigueAbierta);
-    EXPECT_EQ(AceptarConfiguracion(aplicacion, caja, elegida), ResultadoConfiguracion::SinGuardar);
+    EXPECT_EQ(AceptarConfiguracion(aplicacion, servicios, elegida), ResultadoConfiguracion::SigueAbierta);
+    EXPECT_EQ(AceptarConfiguracion(aplicacion, servicios, elegida), ResultadoConfiguracion::SinGuardar);
     EXPECT_EQ(aplicacion.Preferencias.TamanoAyuda, 4);
-    EXPECT_EQ(AceptarConfiguracion(aplicacion, caja, elegida), ResultadoConfiguracion::Guardada);
+    EXPECT_EQ(AceptarConfiguracion(aplicacion, servicios, elegida), ResultadoConfiguracion::Guardada);
     EXPECT_EQ(LeerRegistros(LeerArchivo(Usuario("Tapiz.tbx"))).TamanoAyuda, 7);
     EXPECT_EQ(caja.Mensajes[0].Botones, BotonesCaja::SiNoCancelar);
 }
@@ -148,7 +149,7 @@ TEST_F(Arranque, RepararRehaceCadaArchivoElegido) {
     EXPECT_EQ(ListarProyectos(proyectos),
               (std::vector<std::string>{"Á.LOS", "b.los", "Ejemplo Demostrativo.los"}));
     VistaReparacion vista;
-    Compactar1 reparacion(aplicacion, vista, caja);
+    Compactar1 reparacion(aplicacion, servicios, vista);
     reparacion.Aceptar(proyectos, {});
     EXPECT_EQ(caja.Mensajes.back().Texto, "No ha Seleccionado ningún Archivo...");
     EXPECT_EQ(caja.Mensajes.back().Titulo, "Reparar y Compactar Archivos");

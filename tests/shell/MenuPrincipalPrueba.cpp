@@ -44,7 +44,7 @@ class Menu_ : public testing::Test {
   protected:
     Menu_() : plataforma(carpeta.Camino()) {
         CrearBaseDatos(Plantilla(), prueba::EsquemaDeProyecto());
-        PrepararArranque(plataforma, aplicacion);
+        PrepararArranque(plataforma, carpetas, aplicacion);
         menu.Iniciar();
     }
     std::filesystem::path Plantilla() const { return carpeta / "programa" / "Imagen" / "LosaImagen.tbx"; }
@@ -53,9 +53,11 @@ class Menu_ : public testing::Test {
     prueba::PlataformaGuiada plataforma;
     prueba::CajaGuiada caja;
     prueba::DialogosGuiados dialogos;
+    Carpetas carpetas;
+    Servicios servicios{caja, dialogos, plataforma, carpetas};
     VistaGuiada vista;
     Aplicacion aplicacion;
-    MenuPrincipal menu{aplicacion, {caja, dialogos, plataforma}, vista};
+    MenuPrincipal menu{aplicacion, servicios, vista};
 };
 
 TEST_F(Menu_, Empieza) {
@@ -69,7 +71,7 @@ TEST_F(Menu_, Empieza) {
 }
 
 TEST_F(Menu_, NuevoSobreUnoExistenteReemplazaSeRespondaLoQueSeResponda) {
-    const auto archivo = aplicacion.CaminoUsuario / "Proyectos" / "Año Ñ 1.los";
+    const auto archivo = carpetas.Proyectos() / "Año Ñ 1.los";
     for (const std::int16_t respuesta : {RespuestaSi, RespuestaAceptarONo}) {
         EscribirArchivo(archivo, "lo que había");
         caja.Mensajes.clear();
@@ -90,7 +92,7 @@ TEST_F(Menu_, NuevoSobreUnoExistenteReemplazaSeRespondaLoQueSeResponda) {
 }
 
 TEST_F(Menu_, SinPlantillaElNuevoFallaConSuCodigo) {
-    const auto archivo = aplicacion.CaminoUsuario / "Proyectos" / "obra.los";
+    const auto archivo = carpetas.Proyectos() / "obra.los";
     EscribirArchivo(archivo, "viejo");
     std::filesystem::remove(Plantilla());
     dialogos.Elegidos = {archivo};
@@ -108,7 +110,7 @@ TEST_F(Menu_, SinPlantillaElNuevoFallaConSuCodigo) {
 }
 
 TEST_F(Menu_, SalvarComoNuncaPisaUnArchivo) {
-    const auto proyectos = aplicacion.CaminoUsuario / "Proyectos";
+    const auto proyectos = carpetas.Proyectos();
     EscribirArchivo(proyectos / "Obra Ñ.los", "mío");
     EscribirArchivo(proyectos / "otra.los", "ajeno");
     std::filesystem::create_symlink(proyectos / "Obra Ñ.los", proyectos / "enlace.los");
@@ -157,7 +159,7 @@ void CortarGuardado(const std::filesystem::path& camino) {
 }
 
 TEST_F(Menu_, UnGuardadoCortadoNoPasaALaCopiaNiAlQueLoReemplaza) {
-    const auto proyectos = aplicacion.CaminoUsuario / "Proyectos";
+    const auto proyectos = carpetas.Proyectos();
     CortarGuardado(proyectos / "obra.los");
     dialogos.Elegidos = {proyectos / "obra.los", proyectos / "copia.los"};
     menu.Ejecutar("ID_Abrir");
@@ -198,13 +200,13 @@ TEST_F(Menu_, LosComandosDeUnProyectoPrimeroLoAbren) {
     EXPECT_EQ(vista.Mostradas.back(), "ID_Carga");
     menu.Ejecutar("ID_Normas");  // known to the menu, dispatched by none
     menu.Ejecutar("ID_Explorador");
-    EXPECT_EQ(plataforma.Abiertos.back(), aplicacion.CaminoUsuario / "Proyectos");
+    EXPECT_EQ(plataforma.Abiertos.back(), carpetas.Proyectos());
     menu.Ejecutar("ID_Salida");
     EXPECT_TRUE(vista.Cerrada);
 }
 
 TEST_F(Menu_, LosDatosDelProyectoQuedanEnSuUnicaFila) {
-    const auto archivo = aplicacion.CaminoUsuario / "Proyectos" / "obra.los";
+    const auto archivo = carpetas.Proyectos() / "obra.los";
     dialogos.Elegidos = {archivo};
     menu.Ejecutar("ID_Nuevo");
     DatosProyecto datos(aplicacion, caja);

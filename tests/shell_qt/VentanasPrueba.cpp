@@ -49,8 +49,8 @@ class Ventanas : public testing::Test {
         QPixmap mapa(40, 30);
         mapa.fill(Qt::gray);
         mapa.save(Q((carpeta / "programa" / "Imagen" / "TapizTBX.jpg").string()));
-        PrepararArranque(plataforma, aplicacion);
-        aplicacion.ArchivoProyecto = aplicacion.CaminoUsuario / "Proyectos" / "obra.los";
+        PrepararArranque(plataforma, carpetas, aplicacion);
+        aplicacion.ArchivoProyecto = carpetas.Proyectos() / "obra.los";
         aplicacion.NombreProyecto = "obra.los";
         CrearBaseDatos(aplicacion.ArchivoProyecto, prueba::EsquemaDeProyecto());
     }
@@ -58,6 +58,8 @@ class Ventanas : public testing::Test {
     prueba::PlataformaGuiada plataforma;
     prueba::CajaGuiada caja;
     prueba::DialogosGuiados dialogos;
+    Carpetas carpetas;
+    Servicios servicios{caja, dialogos, plataforma, carpetas};
     Aplicacion aplicacion;
 };
 
@@ -97,7 +99,7 @@ TEST_F(Ventanas, ElMenuMandaLosComandos) {
         EXPECT_EQ(suya.NombreProyecto, "otra.los");
         EXPECT_NE(padre, nullptr);
     };
-    VentanaMenuPrincipal menu(aplicacion, {caja, dialogos, plataforma}, {{"ID_LosasD", abrir}});
+    VentanaMenuPrincipal menu(aplicacion, servicios, {{"ID_LosasD", abrir}});
     EXPECT_EQ(menu.windowTitle(), "Trabex 2024   Proyecto:[]");
     for (const Comando& comando : Comandos) {
         ASSERT_NE(menu.Accion(comando.Clave), nullptr);
@@ -166,20 +168,20 @@ TEST_F(Ventanas, UnCeroEnLosGeneralesTomaElFoco) {
 
 TEST_F(Ventanas, LaConfiguracionSeGuardaAlAceptar) {
     caja.Respuestas = {RespuestaSi};
-    VentanaConfigurar ventana(aplicacion, caja, dialogos, nullptr);
+    VentanaConfigurar ventana(aplicacion, servicios, nullptr);
     BotonDe(ventana, "Ajustar la Imagen")->click();
     BotonDe(ventana, "Al fondo")->click();
     ventana.findChild<QComboBox*>()->setCurrentIndex(6);
     BotonDe(ventana, "Aceptar")->click();
     EXPECT_TRUE(ventana.Guardada());
-    const Tapiz guardada = LeerTapiz(ArchivoTapiz(aplicacion), ImagenPorDefecto(aplicacion));
+    const Tapiz guardada = LeerTapiz(ArchivoTapiz(carpetas), ImagenPorDefecto(carpetas));
     EXPECT_TRUE(guardada.Ajustar);
     EXPECT_EQ(guardada.Vertical, 2);
     EXPECT_EQ(guardada.TamanoAyuda, 7);
 }
 
 TEST_F(Ventanas, LaReparacionTomaLoElegido) {
-    VentanaCompactar ventana(aplicacion, caja, nullptr);
+    VentanaCompactar ventana(aplicacion, servicios, nullptr);
     ventana.show();
     ASSERT_EQ(ventana.findChild<QListWidget*>()->count(), 1);
     BotonDe(ventana, "Aceptar")->click();

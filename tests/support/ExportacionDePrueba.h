@@ -26,8 +26,8 @@ class Exportacion : public testing::Test {
     Exportacion() : plataforma(carpeta.Camino()) {
         for (const char* plantilla : {"ImagenCAD8.tbx", "ImagenCAD23.tbx"})
             CrearBaseDatos(carpeta / "programa" / "Imagen" / plantilla, EsquemaCAD());
-        PrepararArranque(plataforma, aplicacion);
-        aplicacion.ArchivoProyecto = aplicacion.CaminoUsuario / "Proyectos" / "obra.los";
+        PrepararArranque(plataforma, carpetas, aplicacion);
+        aplicacion.ArchivoProyecto = carpetas.Proyectos() / "obra.los";
         aplicacion.NombreProyecto = "obra.los";
         CrearBaseDatos(aplicacion.ArchivoProyecto, EsquemaDeProyecto());
         LlenarProyecto();
@@ -53,6 +53,8 @@ class Exportacion : public testing::Test {
     PlataformaGuiada plataforma;
     CajaGuiada caja;
     DialogosGuiados dialogos;
+    Carpetas carpetas;
+    Servicios servicios{caja, dialogos, plataforma, carpetas};
     Aplicacion aplicacion;
 };
 

@@ -72,7 +72,7 @@ struct VistaLosaDatosGuiada : VistaLosaDatos {
 class EspacioDePrueba {
   public:
     explicit EspacioDePrueba(const std::vector<Losa>& losas) {
-        aplicacion.CaminoUsuario = carpeta.Camino();
+        carpetas.CaminoUsuario = carpeta.Camino();
         aplicacion.ArchivoProyecto = CrearProyecto("obra.los", losas);
         aplicacion.NombreProyecto = "obra.los";
         espacio.Lista().Abrir();
@@ -109,7 +109,8 @@ class EspacioDePrueba {
     CajaGuiada caja;
     DialogosGuiados dialogos;
     PlataformaGuiada plataforma{carpeta.Camino()};
-    Servicios servicios{caja, dialogos, plataforma};
+    Carpetas carpetas;
+    Servicios servicios{caja, dialogos, plataforma, carpetas};
     MemoriaLosas memoria;
     VistaLosasGuiada vista;
     Losas espacio{aplicacion, servicios, vista, vista, memoria};

@@ -10,31 +10,31 @@ constexpr const char* Encabezado = "Exportar Gráficos...";
 
 std::filesystem::path ExportarGrafico::Carpeta() const {
     const std::filesystem::path& ultima = entorno_.Estado.CarpetaGraficos;
-    return ultima.empty() ? entorno_.LaAplicacion.CaminoUsuario / "ReportesExportados" : ultima;
+    return ultima.empty() ? entorno_.Servicios.Carpetas.ReportesExportados() : ultima;
 }
 
 void ExportarGrafico::AbrirCarpeta() {
-    entorno_.LaPlataforma.AbrirCarpeta(Carpeta());
+    entorno_.Servicios.Sistema.AbrirCarpeta(Carpeta());
 }
 
 void ExportarGrafico::ExportarPantalla(const FormatoGrafico& formato) {
-    const auto archivo = entorno_.Dialogos.Elegir({.Titulo = "Salvar el Gráfico Seleccionado",
-                                                   .Filtro = formato.Filtro,
-                                                   .Carpeta = Carpeta(),
-                                                   .Guardar = true,
-                                                   .AvisarReemplazo = true});
+    const auto archivo = entorno_.Servicios.Dialogos.Elegir({.Titulo = "Salvar el Gráfico Seleccionado",
+                                                             .Filtro = formato.Filtro,
+                                                             .Carpeta = Carpeta(),
+                                                             .Guardar = true,
+                                                             .AvisarReemplazo = true});
     if (!archivo) return;
     try {
         vista_.Guardar(*archivo, formato);
     } catch (const ErrorEjecucion& error) {
-        entorno_.Caja.Mostrar(programa::MensajeDeError(error, Encabezado));
+        entorno_.Servicios.Caja.Mostrar(programa::MensajeDeError(error, Encabezado));
         return;
     }
     entorno_.Estado.CarpetaGraficos = archivo->parent_path();
     programa::Mensaje hecho;
     hecho.Texto = "¡El Reporte se Exportó con Exito!";
     hecho.Encabezado = Encabezado;
-    entorno_.Caja.Mostrar(hecho);
+    entorno_.Servicios.Caja.Mostrar(hecho);
 }
 
 }  // namespace trabex::reportes::ui

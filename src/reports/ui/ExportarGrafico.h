@@ -6,9 +6,7 @@
 #include "drawing/Visor.h"
 #include "reports/montaje/EstadoReportes.h"
 #include "shell/Aplicacion.h"
-#include "shell/CajaMensajes.h"
-#include "shell/DialogosArchivo.h"
-#include "shell/Plataforma.h"
+#include "shell/Servicios.h"
 
 namespace trabex::reportes::ui {
 
@@ -35,9 +33,7 @@ class VistaExportarGrafico {
 struct EntornoGrafico {
     programa::Aplicacion& LaAplicacion;
     montaje::EstadoReportes& Estado;
-    programa::CajaMensajes& Caja;
-    programa::DialogosArchivo& Dialogos;
-    programa::Plataforma& LaPlataforma;
+    programa::Servicios Servicios;
 };
 
 /// Shows the current drawing of a workspace in a window of its own and saves it as a picture. The viewport is

@@ -63,27 +63,27 @@ bool OpcionExportar2::Escribir(std::uint8_t formatoSalida, const std::filesystem
 
 void OpcionExportar2::OfrecerAbrir(const FormatoDeCuadricula& formato,
                                    const std::filesystem::path& archivo) const {
-    if (entorno_.Caja.Mostrar(programa::Pregunta(formato.Pregunta, formato.EncabezadoPregunta)) !=
+    if (entorno_.Servicios.Caja.Mostrar(programa::Pregunta(formato.Pregunta, formato.EncabezadoPregunta)) !=
         programa::RespuestaSi)
         return;
-    if (!entorno_.LaPlataforma.AbrirArchivo(archivo))
-        entorno_.Caja.Mostrar(programa::MensajeDeError(SinProgramaQueAbra(), EncabezadoFalla));
+    if (!entorno_.Servicios.Sistema.AbrirArchivo(archivo))
+        entorno_.Servicios.Caja.Mostrar(programa::MensajeDeError(SinProgramaQueAbra(), EncabezadoFalla));
 }
 
 void OpcionExportar2::Aceptar(std::uint8_t formatoSalida) {
     const FormatoDeCuadricula& formato = FormatosDeCuadricula[formatoSalida - 1U];
     entorno_.Estado.FormatoSalida = formatoSalida;
     const auto archivo =
-        entorno_.Dialogos.Elegir({.Titulo = formato.Titulo,
-                                  .Filtro = formato.Filtro,
-                                  .Carpeta = entorno_.LaAplicacion.CaminoUsuario / "ReportesExportados",
-                                  .Guardar = true,
-                                  .AvisarReemplazo = true});
+        entorno_.Servicios.Dialogos.Elegir({.Titulo = formato.Titulo,
+                                            .Filtro = formato.Filtro,
+                                            .Carpeta = entorno_.Servicios.Carpetas.ReportesExportados(),
+                                            .Guardar = true,
+                                            .AvisarReemplazo = true});
     if (!archivo) return;
     if (Escribir(formatoSalida, *archivo))
         OfrecerAbrir(formato, *archivo);
     else
-        entorno_.Caja.Mostrar(programa::Aviso(formato.Falla, EncabezadoFalla));
+        entorno_.Servicios.Caja.Mostrar(programa::Aviso(formato.Falla, EncabezadoFalla));
     vista_.Cerrar();
 }
 

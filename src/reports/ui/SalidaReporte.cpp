@@ -19,22 +19,22 @@ ErrorEjecucion SinProgramaQueAbra() {
     return {CodigoError::ArchivoNoEncontrado, "No se encontró un programa que abra el archivo"};
 }
 
-std::filesystem::path ExportadorReportes::Carpeta() const {
-    return entorno_.LaAplicacion.CaminoUsuario / "ReportesExportados";
+montaje::EntornoReportes EntornoSalida::Montaje() const {
+    return {Servicios.Carpetas.CaminoPrograma, Servicios.Carpetas.CaminoUsuario, LaAplicacion.Usuario};
 }
 
 void ExportadorReportes::AbrirCarpeta() {
-    entorno_.LaPlataforma.AbrirCarpeta(Carpeta());
+    entorno_.Servicios.Sistema.AbrirCarpeta(entorno_.Servicios.Carpetas.ReportesExportados());
 }
 
 std::optional<std::filesystem::path> ExportadorReportes::PedirArchivo(std::uint8_t salida) {
     programa::PeticionArchivo peticion;
     peticion.Titulo = Salidas[salida].Titulo;
     peticion.Filtro = Salidas[salida].Filtro;
-    peticion.Carpeta = Carpeta();
+    peticion.Carpeta = entorno_.Servicios.Carpetas.ReportesExportados();
     peticion.Guardar = true;
     peticion.AvisarReemplazo = true;
-    auto elegido = entorno_.Dialogos.Elegir(peticion);
+    auto elegido = entorno_.Servicios.Dialogos.Elegir(peticion);
     if (elegido) entorno_.Estado.ArchivoExportado = *elegido;
     return elegido;
 }
@@ -43,10 +43,10 @@ void ExportadorReportes::Exportar(const documento::Documento& documento, std::ui
     const std::filesystem::path& archivo = entorno_.Estado.ArchivoExportado;
     entorno_.Motor.Exportar(documento, Salidas[salida].Codigo, archivo);
     const std::string texto = "¿Desea Abrir el Archivo " + TextoDeCamino(archivo) + "?";
-    if (entorno_.Caja.Mostrar(programa::Pregunta(texto, "Abrir el Archivo Exportado...")) !=
+    if (entorno_.Servicios.Caja.Mostrar(programa::Pregunta(texto, "Abrir el Archivo Exportado...")) !=
         programa::RespuestaSi)
         return;
-    if (!entorno_.LaPlataforma.AbrirArchivo(archivo)) throw SinProgramaQueAbra();
+    if (!entorno_.Servicios.Sistema.AbrirArchivo(archivo)) throw SinProgramaQueAbra();
 }
 
 bool ExportadorReportes::HayImpresoras() {
@@ -55,7 +55,7 @@ bool ExportadorReportes::HayImpresoras() {
     mensaje.Texto = "No hay impresoras instaladas en el sistema.";
     mensaje.Encabezado = "Imprimir el Reporte...";
     mensaje.Icono = programa::IconoCaja::Advertencia;
-    entorno_.Caja.Mostrar(mensaje);
+    entorno_.Servicios.Caja.Mostrar(mensaje);
     return false;
 }
 
@@ -64,7 +64,7 @@ bool ExportadorReportes::Imprimir(const documento::Documento& documento, const P
 }
 
 void ExportadorReportes::Avisar(const ErrorEjecucion& error) {
-    entorno_.Caja.Mostrar(programa::MensajeDeError(error, "Error en el Reporte..."));
+    entorno_.Servicios.Caja.Mostrar(programa::MensajeDeError(error, "Error en el Reporte..."));
 }
 
 void SalidaReporte::Aceptar(std::uint8_t salida) {
@@ -86,10 +86,10 @@ bool SalidaReporte::Enviar(std::uint8_t salida) {
     const std::string diseno = Diseno();
     if (diseno.empty()) return false;
     vista_.PunteroDeEspera(true);
-    salidas::Reporte reporte(entorno_.LaAplicacion.CaminoPrograma / "Reportes" / diseno,
+    salidas::Reporte reporte(entorno_.Servicios.Carpetas.CaminoPrograma / "Reportes" / diseno,
                              entorno_.LaAplicacion.SeparadoresLocales);
     reporte.DescartarDatos();
-    reporte.Ubicar(entorno_.LaAplicacion.CaminoUsuario / "Trabajo" / "Temporal.mdb");
+    reporte.Ubicar(montaje::TemporalMdb(entorno_.Montaje()));
     const documento::Documento& documento = reporte.Contenido();
     vista_.PunteroDeEspera(false);
     if (salida == SalidaImpresora) return exportador_.Imprimir(documento);

@@ -7,11 +7,10 @@
 #include <string>
 #include <vector>
 
+#include "reports/montaje/BaseTemporal.h"
 #include "reports/salidas/MotorReportes.h"
 #include "shell/Aplicacion.h"
-#include "shell/CajaMensajes.h"
-#include "shell/DialogosArchivo.h"
-#include "shell/Plataforma.h"
+#include "shell/Servicios.h"
 
 namespace trabex::reportes::ui {
 
@@ -82,9 +81,10 @@ struct EntornoSalida {
     EstadoSalida& Estado;
     salidas::MotorReportes& Motor;
     Impresoras& LasImpresoras;
-    programa::CajaMensajes& Caja;
-    programa::DialogosArchivo& Dialogos;
-    programa::Plataforma& LaPlataforma;
+    programa::Servicios Servicios;
+
+    /// Where reports are staged.
+    montaje::EntornoReportes Montaje() const;
 };
 
 /// Where a report is kept, printed and opened from: what the dialogs and the viewer have in common.
@@ -92,7 +92,6 @@ class ExportadorReportes {
   public:
     explicit ExportadorReportes(EntornoSalida& entorno) : entorno_(entorno) {}
 
-    std::filesystem::path Carpeta() const;
     void AbrirCarpeta();
     /// Asks for the file of an output and keeps it as the exported one. Nothing when the engineer cancels.
     std::optional<std::filesystem::path> PedirArchivo(std::uint8_t salida);

@@ -16,7 +16,7 @@ std::optional<std::size_t> SeleccionarImpresora::MarcarImpresoraDefecto() const 
 bool SeleccionarImpresora::Aceptar(const std::string& impresora) {
     const programa::Mensaje pregunta =
         programa::Pregunta("Cambiar a esta Impresora?\n" + impresora, "Seleccionar Impresora...");
-    if (entorno_.Caja.Mostrar(pregunta) != programa::RespuestaSi) return false;
+    if (entorno_.Servicios.Caja.Mostrar(pregunta) != programa::RespuestaSi) return false;
     entorno_.Estado.Impresora = impresora;
     return true;
 }

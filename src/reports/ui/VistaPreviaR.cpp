@@ -18,8 +18,8 @@ std::string VistaPreviaR::Rotulo(int pagina, int paginas) {
 }
 
 bool VistaPreviaR::Imprimir(const cuadricula::AjustesDeImpresion& ajustes, const PaginasAImprimir& paginas) {
-    if (entorno_.Caja.Mostrar(programa::Pregunta("¿Imprimir el Reporte?", "Reportes del Programa...")) !=
-        programa::RespuestaSi)
+    if (entorno_.Servicios.Caja.Mostrar(
+            programa::Pregunta("¿Imprimir el Reporte?", "Reportes del Programa...")) != programa::RespuestaSi)
         return false;
     ajustes_ = ajustes;
     ExportadorReportes exportador(entorno_);

@@ -17,10 +17,10 @@
 
 namespace trabex::programa::qt {
 
-VentanaCompactar::VentanaCompactar(Aplicacion& aplicacion, CajaMensajes& caja, QWidget* padre)
+VentanaCompactar::VentanaCompactar(Aplicacion& aplicacion, const Servicios& servicios, QWidget* padre)
     : QDialog(padre),
       aplicacion_(aplicacion),
-      operaciones_(aplicacion, *this, caja),
+      operaciones_(aplicacion, servicios, *this),
       modelo_(new QFileSystemModel(this)) {
     setObjectName("Compactar1");
     setWindowTitle("Reparar y Compactar Archivos");
@@ -30,7 +30,7 @@ VentanaCompactar::VentanaCompactar(Aplicacion& aplicacion, CajaMensajes& caja, Q
     carpetas_->setModel(modelo_);
     for (int columna = 1; columna < 4; ++columna) carpetas_->hideColumn(columna);
     carpetas_->setHeaderHidden(true);
-    const QModelIndex inicio = modelo_->index(Q(TextoDeCamino(aplicacion_.CaminoUsuario / "Proyectos")));
+    const QModelIndex inicio = modelo_->index(Q(TextoDeCamino(servicios.Carpetas.Proyectos())));
     carpetas_->setCurrentIndex(inicio);
     carpetas_->scrollTo(inicio, QAbstractItemView::PositionAtCenter);
     connect(carpetas_->selectionModel(), &QItemSelectionModel::currentChanged, this,

@@ -16,7 +16,7 @@ namespace trabex::programa::qt {
 /// Chooses project files in a folder and repairs them.
 class VentanaCompactar : public QDialog, public VistaCompactar {
   public:
-    VentanaCompactar(Aplicacion& aplicacion, CajaMensajes& caja, QWidget* padre);
+    VentanaCompactar(Aplicacion& aplicacion, const Servicios& servicios, QWidget* padre);
 
     void MostrarProgreso(bool visible) override;
     void Avanzar(double porcentaje, const std::string& rotulo) override;

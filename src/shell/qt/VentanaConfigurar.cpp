@@ -69,13 +69,8 @@ void PintarMuestra(QLabel* muestra, std::uint32_t color) {
 
 }  // namespace
 
-VentanaConfigurar::VentanaConfigurar(Aplicacion& aplicacion, CajaMensajes& caja, DialogosArchivo& dialogos,
-                                     QWidget* padre)
-    : QDialog(padre),
-      aplicacion_(aplicacion),
-      caja_(caja),
-      dialogos_(dialogos),
-      elegida_(aplicacion.Preferencias) {
+VentanaConfigurar::VentanaConfigurar(Aplicacion& aplicacion, const Servicios& servicios, QWidget* padre)
+    : QDialog(padre), aplicacion_(aplicacion), servicios_(servicios), elegida_(aplicacion.Preferencias) {
     setObjectName("ConfigurarPrograma");
     setWindowTitle("Configurar la Pantalla");
     auto* paginas = new QTabWidget(this);
@@ -176,8 +171,8 @@ QWidget* VentanaConfigurar::PaginaAyudas() {
 }
 
 void VentanaConfigurar::ElegirImagen() {
-    const auto archivo = dialogos_.Elegir({"Cambiar el Tapiz del Menú Principal", FiltroDibujos,
-                                           aplicacion_.CaminoUsuario / "Tapices", false, false, true});
+    const auto archivo = servicios_.Dialogos.Elegir({"Cambiar el Tapiz del Menú Principal", FiltroDibujos,
+                                                     servicios_.Carpetas.Tapices(), false, false, true});
     if (!archivo) return;
     elegida_.Imagen = TextoDeCamino(*archivo);
     Refrescar();
@@ -192,9 +187,10 @@ void VentanaConfigurar::CapturarImagen() {
     const QPixmap captura = pantalla->grabWindow(0, lugar.x(), lugar.y(), lugar.width(), lugar.height());
     setWindowOpacity(1);
     const QString nombre = "Captura " + QDateTime::currentDateTime().toString("yyyyMMdd-HHmmss") + ".jpg";
-    const QString archivo = Q(TextoDeCamino(aplicacion_.CaminoUsuario / "Tapices")) + "/" + nombre;
+    const QString archivo = Q(TextoDeCamino(servicios_.Carpetas.Tapices())) + "/" + nombre;
     if (!captura.save(archivo, "JPG", 95)) {
-        caja_.Mostrar(MensajeDeError(ErrorEjecucion(CodigoError::ErrorAccesoRuta), ErrorInesperado));
+        servicios_.Caja.Mostrar(
+            MensajeDeError(ErrorEjecucion(CodigoError::ErrorAccesoRuta), ErrorInesperado));
         return;
     }
     elegida_.Imagen = S(archivo);
@@ -223,7 +219,7 @@ void VentanaConfigurar::Refrescar() {
 }
 
 void VentanaConfigurar::Aceptar() {
-    const ResultadoConfiguracion resultado = AceptarConfiguracion(aplicacion_, caja_, elegida_);
+    const ResultadoConfiguracion resultado = AceptarConfiguracion(aplicacion_, servicios_, elegida_);
     if (resultado == ResultadoConfiguracion::SigueAbierta) return;
     guardada_ = resultado == ResultadoConfiguracion::Guardada;
     accept();

@@ -3,8 +3,7 @@
 #include <QDialog>
 
 #include "shell/Aplicacion.h"
-#include "shell/CajaMensajes.h"
-#include "shell/DialogosArchivo.h"
+#include "shell/Servicios.h"
 #include "shell/qt/LienzoTapiz.h"
 
 class QButtonGroup;
@@ -18,7 +17,7 @@ namespace trabex::programa::qt {
 /// The user's settings, with a live preview: the wallpaper on one tab, the tool tips on the other.
 class VentanaConfigurar : public QDialog {
   public:
-    VentanaConfigurar(Aplicacion& aplicacion, CajaMensajes& caja, DialogosArchivo& dialogos, QWidget* padre);
+    VentanaConfigurar(Aplicacion& aplicacion, const Servicios& servicios, QWidget* padre);
     bool Guardada() const { return guardada_; }
 
   private:
@@ -34,8 +33,7 @@ class VentanaConfigurar : public QDialog {
     void Aceptar();
 
     Aplicacion& aplicacion_;
-    CajaMensajes& caja_;
-    DialogosArchivo& dialogos_;
+    Servicios servicios_;
     Tapiz elegida_;
     bool guardada_ = false;
     QLineEdit* ruta_;

@@ -129,11 +129,11 @@ void VentanaMenuPrincipal::PunteroDeEspera(bool espera) {
 void VentanaMenuPrincipal::PonerTapiz(const Tapiz& tapiz) {
     if (tapiz_->Poner(tapiz)) return;
     Tapiz porDefecto = tapiz;
-    porDefecto.Imagen = TextoDeCamino(ImagenPorDefecto(aplicacion_));
+    porDefecto.Imagen = TextoDeCamino(ImagenPorDefecto(servicios_.Carpetas));
     aplicacion_.Preferencias = porDefecto;
     tapiz_->Poner(porDefecto);
     try {
-        GuardarTapiz(ArchivoTapiz(aplicacion_), porDefecto);
+        GuardarTapiz(ArchivoTapiz(servicios_.Carpetas), porDefecto);
     } catch (const ErrorEjecucion&) {
         return;  // the default holds for this run
     }
@@ -154,7 +154,7 @@ void VentanaMenuPrincipal::MostrarDatosProyecto() {
 }
 
 void VentanaMenuPrincipal::MostrarConfiguracion() {
-    VentanaConfigurar ventana(aplicacion_, servicios_.Caja, servicios_.Dialogos, this);
+    VentanaConfigurar ventana(aplicacion_, servicios_, this);
     ventana.exec();
     if (ventana.Guardada()) {
         setStyleSheet(EstiloDeAyudas(aplicacion_.Preferencias));
@@ -163,7 +163,7 @@ void VentanaMenuPrincipal::MostrarConfiguracion() {
 }
 
 void VentanaMenuPrincipal::MostrarReparacion() {
-    VentanaCompactar ventana(aplicacion_, servicios_.Caja, this);
+    VentanaCompactar ventana(aplicacion_, servicios_, this);
     ventana.exec();
 }
 

@@ -56,15 +56,12 @@ void Exigir(bool escrito, const almacen::Conexion& destino) {
 
 }  // namespace
 
-ExportarCAD::ExportarCAD(programa::Aplicacion& aplicacion, std::uint8_t versionCAD, VistaExportarCAD& vista,
-                         programa::CajaMensajes& caja, programa::DialogosArchivo& dialogos,
-                         programa::Plataforma& plataforma)
+ExportarCAD::ExportarCAD(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
+                         std::uint8_t versionCAD, VistaExportarCAD& vista)
     : aplicacion_(aplicacion),
+      servicios_(servicios),
       version_(versionCAD),
       vista_(vista),
-      caja_(caja),
-      dialogos_(dialogos),
-      plataforma_(plataforma),
       posicion_(aplicacion.Proyecto.RegistrosProyecto.Posicion()) {}
 
 ExportarCAD::~ExportarCAD() {
@@ -99,26 +96,27 @@ std::vector<int> ExportarCAD::FilasMarcadas() const {
 /// The folder is fixed: below the root that machines share where there is one, whether or not this program
 /// keeps its own data there.
 std::filesystem::path ExportarCAD::CarpetaDe(std::uint8_t version) const {
-    const auto raiz = plataforma_.RaizComun();
-    return (raiz ? *raiz : plataforma_.CarpetaDeDocumentos()) / programa::CarpetaComun /
+    const auto raiz = servicios_.Sistema.RaizComun();
+    return (raiz ? *raiz : servicios_.Sistema.CarpetaDeDocumentos()) / programa::CarpetaComun /
            Ediciones[version].Carpeta / "Proyectos";
 }
 
 std::optional<std::filesystem::path> ExportarCAD::ElegirExistente() {
-    return dialogos_.Elegir({Ediciones[version_].TituloAbrir, FiltroPlanex, CarpetaDe(version_), false, false,
-                             true, NombrePropuesto(aplicacion_.NombreProyecto)});
+    return servicios_.Dialogos.Elegir({Ediciones[version_].TituloAbrir, FiltroPlanex, CarpetaDe(version_),
+                                       false, false, true, NombrePropuesto(aplicacion_.NombreProyecto)});
 }
 
 /// The target of a new project. An existing file is never taken: the box does not yield the answer that
 /// would.
 std::optional<std::filesystem::path> ExportarCAD::ElegirNuevo() {
     for (;;) {
-        auto archivo = dialogos_.Elegir({Ediciones[version_].TituloCrear, FiltroPlanex, CarpetaDe(version_),
-                                         true, false, false, NombrePropuesto(aplicacion_.NombreProyecto)});
+        auto archivo =
+            servicios_.Dialogos.Elegir({Ediciones[version_].TituloCrear, FiltroPlanex, CarpetaDe(version_),
+                                        true, false, false, NombrePropuesto(aplicacion_.NombreProyecto)});
         if (!archivo || !Existe(*archivo)) return archivo;
         const programa::Mensaje pregunta = programa::Pregunta(
             TituloDe(*archivo) + " Ya Existe...\n¿Desea Usted Reemplazarlo?", EncabezadoPlanex);
-        if (caja_.Mostrar(pregunta) != programa::RespuestaQueReemplaza) continue;
+        if (servicios_.Caja.Mostrar(pregunta) != programa::RespuestaQueReemplaza) continue;
         BorrarArchivo(*archivo);
         return archivo;
     }
@@ -127,14 +125,14 @@ std::optional<std::filesystem::path> ExportarCAD::ElegirNuevo() {
 void ExportarCAD::ExportarCAD80() {
     const std::vector<int> filas = FilasMarcadas();
     if (filas.empty()) {
-        caja_.Mostrar(Aviso("No ha Seleccionado Losas para Exportar a Planex Estructural...",
-                            "Planex Estructural 2023", programa::IconoCaja::Advertencia));
+        servicios_.Caja.Mostrar(Aviso("No ha Seleccionado Losas para Exportar a Planex Estructural...",
+                                      "Planex Estructural 2023", programa::IconoCaja::Advertencia));
         return;
     }
     try {
         Exportar(filas);
     } catch (const ErrorEjecucion& error) {
-        caja_.Mostrar(programa::MensajeDeError(error, programa::ErrorInesperado));
+        servicios_.Caja.Mostrar(programa::MensajeDeError(error, programa::ErrorInesperado));
     }
 }
 
@@ -142,14 +140,15 @@ void ExportarCAD::Exportar(const std::vector<int>& filas) {
     const auto archivo = vista_.Opcion() == ArchivoCAD::CrearNuevo ? ElegirNuevo() : ElegirExistente();
     if (!archivo) return;
     if (!Existe(*archivo))
-        CopiarArchivo(aplicacion_.CaminoPrograma / "Imagen" / Ediciones[version_].Plantilla, *archivo);
+        CopiarArchivo(servicios_.Carpetas.CaminoPrograma / "Imagen" / Ediciones[version_].Plantilla,
+                      *archivo);
     // The question names one edition, whichever the file is for.
     const programa::Mensaje pregunta = programa::Pregunta(
         TituloDe(*archivo) + "\n¿Anexar las Losas Seleccionadas a Planex Estructural 2023?",
         EncabezadoPlanex);
-    if (caja_.Mostrar(pregunta) != programa::RespuestaSi) return;
+    if (servicios_.Caja.Mostrar(pregunta) != programa::RespuestaSi) return;
     const int exportadas = EscribirLosas(filas, *archivo);
-    caja_.Mostrar(
+    servicios_.Caja.Mostrar(
         Aviso("¡Se Exportaron ( " + std::to_string(exportadas) + " ) Losa(s) con Exito a Planex Estructural!",
               EncabezadoPlanex, programa::IconoCaja::Informacion));
     vista_.Cerrar();
@@ -173,9 +172,9 @@ int ExportarCAD::EscribirLosas(const std::vector<int>& filas, const std::filesys
 }
 
 void ExportarCAD::AbrirCarpeta() {
-    if (!plataforma_.AbrirCarpeta(CarpetaDe(Planex8)))
-        caja_.Mostrar(programa::MensajeDeError(ErrorEjecucion(CodigoError::RutaNoEncontrada),
-                                               programa::ErrorInesperado));
+    if (!servicios_.Sistema.AbrirCarpeta(CarpetaDe(Planex8)))
+        servicios_.Caja.Mostrar(programa::MensajeDeError(ErrorEjecucion(CodigoError::RutaNoEncontrada),
+                                                         programa::ErrorInesperado));
 }
 
 }  // namespace trabex::planex::ui

@@ -7,9 +7,7 @@
 #include <vector>
 
 #include "shell/Aplicacion.h"
-#include "shell/CajaMensajes.h"
-#include "shell/DialogosArchivo.h"
-#include "shell/Plataforma.h"
+#include "shell/Servicios.h"
 #include "slab/Losa.h"
 
 namespace trabex::planex::ui {
@@ -32,9 +30,8 @@ class VistaExportarCAD {
 /// It moves the project's slab list and leaves it at the end where it stood.
 class ExportarCAD {
   public:
-    ExportarCAD(programa::Aplicacion& aplicacion, std::uint8_t versionCAD, VistaExportarCAD& vista,
-                programa::CajaMensajes& caja, programa::DialogosArchivo& dialogos,
-                programa::Plataforma& plataforma);
+    ExportarCAD(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
+                std::uint8_t versionCAD, VistaExportarCAD& vista);
     ~ExportarCAD();
     ExportarCAD(const ExportarCAD&) = delete;
     ExportarCAD& operator=(const ExportarCAD&) = delete;
@@ -60,11 +57,9 @@ class ExportarCAD {
     int EscribirLosas(const std::vector<int>& filas, const std::filesystem::path& archivo);
 
     programa::Aplicacion& aplicacion_;
+    programa::Servicios servicios_;
     std::uint8_t version_;
     VistaExportarCAD& vista_;
-    programa::CajaMensajes& caja_;
-    programa::DialogosArchivo& dialogos_;
-    programa::Plataforma& plataforma_;
     int posicion_;  // of the slab list when the window opened
 };
 

@@ -10,7 +10,7 @@ SalidaDelPrograma::SalidaDelPrograma() {
 
 EntornoSalida SalidaDelPrograma::Entorno(programa::Aplicacion& aplicacion,
                                          const programa::Servicios& servicios) {
-    return {aplicacion, Estado, Motor, Impresoras, servicios.Caja, servicios.Dialogos, servicios.Sistema};
+    return {aplicacion, Estado, Motor, Impresoras, servicios};
 }
 
 }  // namespace trabex::reportes::ui::qt

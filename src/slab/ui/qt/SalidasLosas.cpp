@@ -16,10 +16,6 @@ namespace {
 
 constexpr std::int16_t ReporteResultadosLosa = 4;
 
-montaje::EntornoReportes EntornoDe(const programa::Aplicacion& aplicacion) {
-    return {aplicacion.CaminoPrograma, aplicacion.CaminoUsuario, aplicacion.Usuario};
-}
-
 salida::ProyectoParaReporte OrigenDe(programa::Aplicacion& aplicacion, Losas& losas) {
     return {aplicacion.Proyecto, aplicacion.Datos, aplicacion.Generales, losas.Lista().Fila()};
 }
@@ -28,10 +24,7 @@ salida::ProyectoParaReporte OrigenDe(programa::Aplicacion& aplicacion, Losas& lo
 
 SalidasLosas::SalidasLosas(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
                            reportes::ui::qt::SalidaDelPrograma& salida)
-    : aplicacion_(aplicacion),
-      servicios_(servicios),
-      salida_(salida),
-      entorno_(salida.Entorno(aplicacion, servicios)) {}
+    : aplicacion_(aplicacion), salida_(salida), entorno_(salida.Entorno(aplicacion, servicios)) {}
 
 OperacionesDeLosas SalidasLosas::Operaciones() {
     const auto propia = [this](void (SalidasLosas::*operacion)(Losas&, QWidget&)) {
@@ -52,15 +45,14 @@ void SalidasLosas::CambiarImpresora(Losas& /*losas*/, QWidget& ventana) {
 }
 
 void SalidasLosas::ExportarCAD(Losas& /*losas*/, QWidget& ventana) {
-    planex::ui::qt::MostrarExportarCAD(aplicacion_, servicios_.Caja, servicios_.Dialogos, servicios_.Sistema,
-                                       &ventana);
+    planex::ui::qt::MostrarExportarCAD(aplicacion_, entorno_.Servicios, &ventana);
 }
 
 void SalidasLosas::ExportarResultados(Losas& losas, QWidget& ventana) {
     reportes::ui::qt::VentanaOpcionImpreLosas opciones(salida_.Opciones, aplicacion_.Preferencias, &ventana);
     opciones.exec();
     if (!opciones.Aceptado()) return;
-    salida::LLeneResultados(EntornoDe(aplicacion_), OrigenDe(aplicacion_, losas), salida_.Opciones);
+    salida::LLeneResultados(entorno_.Montaje(), OrigenDe(aplicacion_, losas), salida_.Opciones);
     salida_.Estado.ReporteActual = ReporteResultadosLosa;
     reportes::ui::qt::VentanaSalidaReporte(entorno_, reportes::ui::qt::VentanaSalidaReporte::Clase::Tabular,
                                            &ventana)
@@ -73,8 +65,8 @@ void SalidasLosas::ExportarGraficos(Losas& losas, QWidget& ventana) {
     if (opciones.exec() != QDialog::Accepted) return;
     montaje::qt::SuperficieQt superficie;
     reportes::ui::qt::PanelProgresoQt panel(&ventana);
-    salida::GuardeGraficos(EntornoDe(aplicacion_), OrigenDe(aplicacion_, losas), losas.Estado().Hoja,
-                           superficie, panel, salida_.Opciones);
+    salida::GuardeGraficos(entorno_.Montaje(), OrigenDe(aplicacion_, losas), losas.Estado().Hoja, superficie,
+                           panel, salida_.Opciones);
     salida_.Estado.GraficoHelicoidal = false;
     salida_.Estado.GraficoAutoportante = false;
     reportes::ui::qt::VentanaSalidaReporte(entorno_, reportes::ui::qt::VentanaSalidaReporte::Clase::Grafico,
@@ -98,9 +90,8 @@ void SalidasLosas::ExportarImagen(Losas& losas, QWidget& ventana) {
         dibujo::losa::RedibujeVista(lienzo, hoja, losas.Calculada());
         vista = hoja.Vista;
     };
-    reportes::ui::qt::VentanaExportarGrafico(
-        {aplicacion_, salida_.Opciones, servicios_.Caja, servicios_.Dialogos, servicios_.Sistema}, dibujar,
-        &ventana)
+    reportes::ui::qt::VentanaExportarGrafico({aplicacion_, salida_.Opciones, entorno_.Servicios}, dibujar,
+                                             &ventana)
         .exec();
 }
 

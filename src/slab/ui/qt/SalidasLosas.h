@@ -24,7 +24,6 @@ class SalidasLosas {
     void ExportarCAD(Losas& losas, QWidget& ventana);
 
     programa::Aplicacion& aplicacion_;
-    programa::Servicios servicios_;
     reportes::ui::qt::SalidaDelPrograma& salida_;
     reportes::ui::EntornoSalida entorno_;
 };

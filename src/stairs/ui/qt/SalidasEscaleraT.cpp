@@ -17,9 +17,7 @@ void SalidasEscaleraT::ExportarImagen(EscaleraT& escaleras, QWidget& ventana) {
         dibujo::escalera::RedibujeVista(lienzo, hoja, escaleras.Calculada());
         vista = hoja.Vista;
     };
-    reportes::ui::qt::VentanaExportarGrafico(
-        {aplicacion_, salida_.Opciones, servicios_.Caja, servicios_.Dialogos, servicios_.Sistema}, dibujar,
-        &ventana)
+    reportes::ui::qt::VentanaExportarGrafico({aplicacion_, salida_.Opciones, servicios_}, dibujar, &ventana)
         .exec();
 }
 

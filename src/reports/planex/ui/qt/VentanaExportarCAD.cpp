@@ -29,12 +29,9 @@ int FilaDeLista(int filaDeTabla) {
 
 }  // namespace
 
-VentanaExportarCAD::VentanaExportarCAD(programa::Aplicacion& aplicacion, std::uint8_t versionCAD,
-                                       programa::CajaMensajes& caja, programa::DialogosArchivo& dialogos,
-                                       programa::Plataforma& plataforma, QWidget* padre)
-    : QDialog(padre),
-      aplicacion_(aplicacion),
-      operaciones_(aplicacion, versionCAD, *this, caja, dialogos, plataforma) {
+VentanaExportarCAD::VentanaExportarCAD(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
+                                       std::uint8_t versionCAD, QWidget* padre)
+    : QDialog(padre), aplicacion_(aplicacion), operaciones_(aplicacion, servicios, versionCAD, *this) {
     setObjectName("ExportarCAD");
     setWindowTitle("EXPORTAR A Planex ESTRUCTURAL");
     Armar();
@@ -179,13 +176,12 @@ void VentanaExportarCAD::MostrarLosa(int fila) {
     croquis_->RedibujeVista();
 }
 
-void MostrarExportarCAD(programa::Aplicacion& aplicacion, programa::CajaMensajes& caja,
-                        programa::DialogosArchivo& dialogos, programa::Plataforma& plataforma,
+void MostrarExportarCAD(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
                         QWidget* padre) {
     DestinoCAD destino;
     VentanaCuadroCAD(aplicacion, destino, padre).exec();
     if (!destino.Aceptado) return;
-    VentanaExportarCAD(aplicacion, destino.VersionCAD, caja, dialogos, plataforma, padre).exec();
+    VentanaExportarCAD(aplicacion, servicios, destino.VersionCAD, padre).exec();
 }
 
 }  // namespace trabex::planex::ui::qt

@@ -19,9 +19,8 @@ namespace trabex::planex::ui::qt {
 /// Chooses slabs of the connected project and hands them to Planex.
 class VentanaExportarCAD : public QDialog, public VistaExportarCAD {
   public:
-    VentanaExportarCAD(programa::Aplicacion& aplicacion, std::uint8_t versionCAD,
-                       programa::CajaMensajes& caja, programa::DialogosArchivo& dialogos,
-                       programa::Plataforma& plataforma, QWidget* padre);
+    VentanaExportarCAD(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
+                       std::uint8_t versionCAD, QWidget* padre);
 
     bool Marcada(int fila) const override;
     ArchivoCAD Opcion() const override;
@@ -51,8 +50,7 @@ class VentanaExportarCAD : public QDialog, public VistaExportarCAD {
 
 /// The whole command, for the workspace of slabs: asks for the edition of Planex and, with an answer, shows
 /// the window until it closes.
-void MostrarExportarCAD(programa::Aplicacion& aplicacion, programa::CajaMensajes& caja,
-                        programa::DialogosArchivo& dialogos, programa::Plataforma& plataforma,
+void MostrarExportarCAD(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
                         QWidget* padre);
 
 }  // namespace trabex::planex::ui::qt
