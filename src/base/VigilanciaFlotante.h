@@ -45,11 +45,11 @@ class Pasos {
     template <class Paso>
     std::invoke_result_t<Paso&> operator()(Paso paso) const {
         if (!vigilados_) return paso();
-        using Valor = std::invoke_result_t<Paso&>;
-        if constexpr (std::is_void_v<Valor>) {
+        using Devuelto = std::invoke_result_t<Paso&>;
+        if constexpr (std::is_void_v<Devuelto>) {
             vigilancia::CorrerVigilada(&vigilancia::Llamar<Paso>, &paso);
         } else {
-            std::optional<Valor> valor;
+            std::optional<Devuelto> valor;
             auto tarea = [&] { valor.emplace(paso()); };
             vigilancia::CorrerVigilada(&vigilancia::Llamar<decltype(tarea)>, &tarea);
             return *std::move(valor);

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+// NOLINTNEXTLINE(readability-redundant-declaration): each target defines its own
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t largo);
 
 namespace {

@@ -21,7 +21,7 @@ constexpr double FactorDePantalla = 1.067;  // units to the metre, in scales, of
 Plano EmpezarTabla(Lienzo& lienzo, HojaEscalera& hoja, const DatosEscaleraT& e,
                    const EstiloEscalera& estilo) {
     const double escala = EscalaDeRegla(lienzo, estilo.Tablas, escaleras::LongitudEnPlanta(e), MetrosDeTabla);
-    const Plano p =
+    Plano p =
         Encuadrar(lienzo, hoja.Vista, estilo.Medio, {escala, estilo.MargenDeTablas, MetrosSobreSeccion});
     DibujeSeccion(p, e, escaleras::PeldanosDe(e), 0, Tramos::Superior);
     p.Letra(LetraDeTabla);

@@ -62,7 +62,7 @@ struct FilaMedida {
 
 class Tabla {
   public:
-    Tabla(const Plano& plano, std::vector<double> columnas, const SitioDeTabla& sitio)
+    Tabla(const Plano& plano, const std::vector<double>& columnas, const SitioDeTabla& sitio)
         : p_(plano),
           sitio_(sitio),
           alto_(plano.ElLienzo().Medir("WW").Alto),
@@ -72,6 +72,7 @@ class Tabla {
 
     void Dibujar(const std::vector<FilaDeHoja>& filas) const {
         std::vector<FilaMedida> medidas;
+        medidas.reserve(filas.size());
         for (const FilaDeHoja& fila : filas) medidas.push_back(Medir(fila));
         UbicarFilas(medidas);
         for (const FilaMedida& fila : medidas) {

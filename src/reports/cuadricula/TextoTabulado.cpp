@@ -12,7 +12,7 @@ constexpr std::string_view MarcaUtf8 = "\xEF\xBB\xBF";
 constexpr std::string_view FinDeLinea = "\r\n";
 
 std::string Celda(const std::string& texto) {
-    const std::string valido = TextoValido(texto);
+    std::string valido = TextoValido(texto);
     if (valido.find_first_of("\t\r\n\"") == std::string::npos) return valido;
     std::string salida = "\"";
     for (const char c : valido) salida += c == '"' ? std::string("\"\"") : std::string(1, c);

@@ -100,6 +100,7 @@ std::vector<std::function<void(dibujo::Lienzo&)>> Papel(const lote::Lista& lista
                                                         const lote::Elemento& elemento,
                                                         const DatosDelProyecto& datos) {
     std::vector<std::function<void(dibujo::Lienzo&)>> paginas;
+    paginas.reserve(Vistas.size());
     for (const auto& [vista, clave] : Vistas) {
         paginas.emplace_back([losa = De(lista, elemento), vista = vista, &datos](dibujo::Lienzo& lienzo) {
             dibujo::losa::HojaLosa hoja;

@@ -263,7 +263,8 @@ int VistaPaginas::IrAlHallazgo(bool adelante) {
         hallazgo_ = (hallazgo_ + (adelante ? 1 : cuantos - 1)) % cuantos;
     }
     const Hallazgo& actual = hallazgos_[static_cast<std::size_t>(hallazgo_)];
-    const double y = Hueco + actual.Pagina / columnas_ * Paso() + actual.Donde.y() * Escala();
+    const int arriba = Hueco + actual.Pagina / columnas_ * Paso();
+    const double y = arriba + actual.Donde.y() * Escala();
     verticalScrollBar()->setValue(static_cast<int>(y - viewport()->height() / 3.0));
     horizontalScrollBar()->setValue(
         static_cast<int>(actual.Donde.x() * Escala() - viewport()->width() / 3.0));
