@@ -11,6 +11,7 @@
 #include "shell/Arranque.h"
 #include "shell/qt/CajaMensajesQt.h"
 #include "shell/qt/DialogosArchivoQt.h"
+#include "shell/qt/FocoAlCerrar.h"
 #include "shell/qt/Iconos.h"
 #include "shell/qt/PlataformaQt.h"
 #include "shell/qt/VentanaMenuPrincipal.h"
@@ -26,6 +27,7 @@ int main(int argc, char** argv) {
     QTranslator textosDelToolkit;
     if (textosDelToolkit.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&textosDelToolkit);
+    const trabex::programa::qt::FocoAlCerrar foco;
 
     trabex::programa::Aplicacion aplicacion;
     trabex::programa::qt::PlataformaQt plataforma;

@@ -67,16 +67,19 @@ class Escritorio:
         numeros = self.xdotool("search", "--onlyvisible", "--name", ".+").stdout.split()
         return {numero: self.xdotool("getwindowname", numero).stdout.strip() for numero in numeros}
 
-    def ventana(self, titulo):
-        """Waits for a window of that exact title, and until it has the keyboard. Where two windows closed at once the
-        window manager may leave it without; it then gets it as by a click on its title."""
+    def ventana(self, titulo, sola=False):
+        """Waits for a window of that exact title, and until it has the keyboard. One that stays without for two seconds
+        gets it as by a click on its title; `sola` asks that the program takes care of that itself."""
+        desde = time.monotonic()
+
         def activa():
             actual = self.xdotool("getactivewindow").stdout.strip()
             if actual and self.xdotool("getwindowname", actual).stdout.strip() == titulo:
                 return actual
-            visibles = self.visibles()
-            if list(visibles.values()) == [titulo]:
-                self.xdotool("windowactivate", *visibles)
+            if not sola and time.monotonic() - desde > 2:
+                for numero, nombre in self.visibles().items():
+                    if nombre == titulo:
+                        self.xdotool("windowactivate", numero)
             return None
         numero = self.hasta(activa, titulo)
         time.sleep(0.25)

@@ -120,7 +120,7 @@ def exportar(e):
     e.teclas("Return")
     e.ventana(CAJA)   # open it?
     e.teclas("Tab", "Return")
-    e.ventana(LOSAS)
+    e.ventana(LOSAS, sola=True)   # question and report window closed at once
     pdf = e.usuario / "ReportesExportados" / "azotea.pdf"
     assert pdf.read_bytes().startswith(b"%PDF")
     assert [nombre for nombre, in filas(e.usuario / "Trabajo" / "Temporal.mdb", "SELECT Nombre FROM LosaDatos")] == ["Azotea"]
