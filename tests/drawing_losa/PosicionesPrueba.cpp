@@ -237,7 +237,9 @@ TEST_F(HojaPrueba, LosDiagramasTienenSusValoresEnSuBanda) {
     // At 0.25 m the moment is 1690·0.25 − 520·0.25²/2 = 406.25, at 3.25 m the largest.
     EXPECT_EQ(momentos.front().Puntos, (Puntos{{175, 773}, {175, 773}, {200, 785}, {200, 773}}));
     EXPECT_EQ(momentos[13].Puntos[1], (PuntoLienzo{500, 853}));
+    // and their outlines: at 0.25 and 0.5 m the shear is 1560 and 1430
     EXPECT_TRUE(HayLinea(Lienzo, {{175, 415}, {200, 421}}, EstiloLinea::Solida));
+    EXPECT_TRUE(HayLinea(Lienzo, {{200, 421}, {225, 427}}, EstiloLinea::Solida));
 }
 
 /// Both ends fixed: -1830.8 kgf·m at each, half of it in the middle.
