@@ -13,6 +13,9 @@ namespace trabex::dibujo {
 namespace {
 constexpr double PuntosMinimosDeTitulo = 8;
 constexpr double AnchoDeColumna = 96;
+// More labels than a column of the canvas could show legibly: from here on one more makes it no fuller, and a
+// sheet of thousands of spans is drawn in a time that grows with them and not with their square.
+constexpr std::size_t CabenEnColumna = 512;
 
 /// Runs `accion` on the number of each column of the canvas that a box touches.
 template <class Accion>
@@ -55,7 +58,10 @@ void Plano::EscribirCentrado(std::string_view texto, double x, double y, double 
 }
 
 void Plano::Reservar(const CajaTexto& caja) {
-    PorColumna(caja, [&](std::int64_t columna) { ocupadas_[columna].push_back(caja); });
+    PorColumna(caja, [&](std::int64_t columna) {
+        std::vector<CajaTexto>& suyas = ocupadas_[columna];
+        if (suyas.size() < CabenEnColumna) suyas.push_back(caja);
+    });
 }
 
 double Plano::Solape(const CajaTexto& caja) const {

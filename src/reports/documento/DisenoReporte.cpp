@@ -2,61 +2,15 @@
 
 #include <algorithm>
 #include <charconv>
-#include <fstream>
 #include <map>
 #include <utility>
 
 #include "base/Archivos.h"
+#include "reports/documento/PalabrasDiseno.h"
 
 namespace trabex::documento {
 
 namespace {
-
-struct Palabra {
-    std::string Texto;
-    bool Citada = false;
-};
-
-struct Linea {
-    int Numero = 0;
-    std::vector<Palabra> Palabras;
-};
-
-constexpr std::string_view Blancos = " \t\r";
-
-/// A text between double quotes, from its opening quote on; `i` ends past the closing one. A backslash brings
-/// in a quote or itself, and `\n` breaks the line. False when it does not close.
-bool LeerCitada(std::string_view linea, std::size_t& i, std::string& texto) {
-    for (++i; i < linea.size() && linea[i] != '"'; ++i) {
-        if (linea[i] == '\\' && i + 1 < linea.size()) {
-            ++i;
-            texto += linea[i] == 'n' ? '\n' : linea[i];
-        } else {
-            texto += linea[i];
-        }
-    }
-    return i++ < linea.size();
-}
-
-/// The words of a line; what follows a `#` is a comment. False when a text does not close.
-bool Separar(std::string_view linea, std::vector<Palabra>& palabras) {
-    for (std::size_t i = 0; i < linea.size();) {
-        if (Blancos.find(linea[i]) != std::string_view::npos) {
-            ++i;
-        } else if (linea[i] == '#') {
-            break;
-        } else if (linea[i] == '"') {
-            Palabra citada{{}, true};
-            if (!LeerCitada(linea, i, citada.Texto)) return false;
-            palabras.push_back(std::move(citada));
-        } else {
-            const std::size_t fin = std::min(linea.find_first_of(" \t\r\"#", i), linea.size());
-            palabras.push_back({std::string(linea.substr(i, fin - i)), false});
-            i = fin;
-        }
-    }
-    return true;
-}
 
 /// The words of one line, taken from left to right.
 class Argumentos {
@@ -153,7 +107,7 @@ class Lector {
         : alrededor_(std::move(alrededor)) {
         diseno_.Archivo = std::move(archivo);
         alrededor_.push_back(diseno_.Archivo);
-        LeerLineas();
+        lineas_ = documento::LeerLineas(diseno_.Archivo);
     }
 
     DisenoReporte Leer() {
@@ -170,7 +124,6 @@ class Lector {
     using AlLeer = void (Lector::*)(Argumentos&);
     using AlLeerElemento = void (Lector::*)(Argumentos&, Elementos&);
 
-    void LeerLineas();
     bool HayLinea() const { return actual_ < lineas_.size(); }
     Argumentos Siguiente() { return {diseno_, lineas_[actual_++]}; }
     bool LeerAjuste(const std::string& palabra, Argumentos& linea);
@@ -209,22 +162,6 @@ class Lector {
     std::vector<Linea> lineas_;
     std::size_t actual_ = 0;
 };
-
-void Lector::LeerLineas() {
-    std::ifstream archivo(diseno_.Archivo, std::ios::binary);
-    if (!archivo || !std::filesystem::is_regular_file(diseno_.Archivo))
-        throw ErrorEjecucion(CodigoError::ArchivoNoEncontrado,
-                             std::string(TextoDeError(CodigoError::ArchivoNoEncontrado)) + ": " +
-                                 TextoDeCamino(diseno_.Archivo));
-    std::string texto;
-    for (int numero = 1; std::getline(archivo, texto); ++numero) {
-        if (numero == 1 && texto.starts_with("\xEF\xBB\xBF")) texto.erase(0, 3);
-        Linea linea{numero, {}};
-        if (!Separar(texto, linea.Palabras))
-            throw ErrorDeDiseno(diseno_.Archivo, numero, "faltan las comillas que cierran");
-        if (!linea.Palabras.empty()) lineas_.push_back(std::move(linea));
-    }
-}
 
 bool Lector::LeerAjuste(const std::string& palabra, Argumentos& linea) {
     static constexpr std::array<std::pair<std::string_view, AlLeer>, 8> ajustes{{

@@ -1,8 +1,11 @@
 #include "reports/salidas/EscritorHtml.h"
 
 #include <array>
+#include <memory>
 #include <string>
 #include <string_view>
+
+#include <glib.h>
 
 #include "base/Archivos.h"
 #include "base/Marcado.h"
@@ -57,17 +60,9 @@ std::string Atributo(std::string texto) {
 }
 
 std::string Base64(const almacen::Bytes& bytes) {
-    constexpr std::string_view letras = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-    std::string salida;
-    salida.reserve((bytes.size() + 2) / 3 * 4);
-    for (std::size_t i = 0; i < bytes.size(); i += 3) {
-        std::uint32_t trio = 0;
-        for (std::size_t k = 0; k < 3; ++k)
-            trio = trio << 8 | (i + k < bytes.size() ? std::to_integer<std::uint32_t>(bytes[i + k]) : 0U);
-        for (std::size_t k = 0; k < 4; ++k)
-            salida += i + k <= bytes.size() ? letras[trio >> (18 - 6 * k) & 63] : '=';
-    }
-    return salida;
+    const std::unique_ptr<gchar, decltype(&g_free)> texto(
+        g_base64_encode(reinterpret_cast<const guchar*>(bytes.data()), bytes.size()), &g_free);
+    return texto.get();
 }
 
 /// The document's blocks as markup.
