@@ -53,7 +53,12 @@ void ListaElementos::Conectar() {
 
 void ListaElementos::AbrirLista() {
     almacen::AbrirRecordset(aplicacion_.Proyecto.ConexionProyecto, Lista(), clase_.Consulta);
+    Llenar();
+}
+
+void ListaElementos::Llenar() {
     vista_.LlenarLista(Nombres());
+    elemento_.AlLlenar();
 }
 
 std::vector<std::string> ListaElementos::Nombres() {
@@ -88,7 +93,7 @@ void ListaElementos::Redibujar() {
 void ListaElementos::Crear(const std::function<bool()>& nombrar) {
     if (!nombrar()) return;
     Lista().MoverAlUltimo();
-    vista_.LlenarLista(Nombres());
+    Llenar();
     vista_.MarcarFila(Fila());
     elemento_.AlAgregar();
 }
@@ -144,7 +149,7 @@ void ListaElementos::Eliminar() {
         servicios_.Caja.Mostrar(MensajeSinGuardar());
         return;
     }
-    vista_.LlenarLista(Nombres());
+    Llenar();
     MostrarPrimera();
 }
 

@@ -41,6 +41,8 @@ class ElementoDeLista {
     virtual void AlAgregar() = 0;
     /// There is no element.
     virtual void AlVaciar() = 0;
+    /// The list was filled anew, and none of its rows is marked as failing.
+    virtual void AlLlenar() {}
 };
 
 /// The operations of a workspace's list that are the same for every element. The selected row is the position
@@ -91,6 +93,7 @@ class ListaElementos {
     almacen::Recordset& Lista() { return aplicacion_.Proyecto.RegistrosProyecto; }
     void Conectar();
     void AbrirLista();
+    void Llenar();
     void MostrarPrimera();
 
     Aplicacion& aplicacion_;

@@ -18,12 +18,14 @@ class VistaEspacio {
     virtual void PonerEstado(const std::string& texto) = 0;
     /// Line above the sheets: the selected element; empty without one.
     virtual void PonerEncabezado(const std::string& texto) = 0;
-    /// What is to be told of the selected element, beside the foot's line; a failure marks its row.
+    /// What is to be told of the selected element, beside the foot's line.
     virtual void PonerAvisos(const Avisos& avisos) = 0;
 
     // The list. Rows count from 1.
     virtual void LlenarLista(const std::vector<std::string>& nombres) = 0;
     virtual void MarcarFila(int fila) = 0;
+    /// Shows that the element of a row fails, or no longer.
+    virtual void MarcarFalla(int fila, bool falla) = 0;
 
     /// Zoom 1 and no pan.
     virtual void RestablecerVista() = 0;

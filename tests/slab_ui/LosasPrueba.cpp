@@ -66,7 +66,20 @@ TEST_F(Espacio, DiceLosAvisosDeLaSeleccionada) {
     ASSERT_TRUE(HayFalla(e.vista.Puestos));
     EXPECT_EQ(Resumen(e.vista.Puestos).find("Eje 4: La losa no se sostiene: nada la sujeta en dirección X."),
               0U);
+    EXPECT_TRUE(e.vista.Fallan[2]);
     espacio.Lista().Seleccionar(1);
+    EXPECT_FALSE(HayFalla(e.vista.Puestos));
+    EXPECT_FALSE(e.vista.Fallan[1]);
+}
+
+TEST(EspacioConFallas, AlAbrirSeMarcanLasLosasQueNoSeSostienen) {
+    Losa suelta = Nombrada(LosaContinua({4, 4}, 300), "Suelta");
+    suelta.Ejes[1].Tipo = suelta.Ejes[2].Tipo = SinApoyo;
+    prueba::EspacioDePrueba e({Maciza(), suelta, Desplazada()});
+    EXPECT_EQ(e.espacio.Lista().Fila(), 1);
+    EXPECT_EQ(e.espacio.Estado().Abierta.Nombre, "BALCON");
+    EXPECT_TRUE(e.vista.Fallan[3]);
+    EXPECT_FALSE(e.vista.Fallan[1] || e.vista.Fallan[2]);
     EXPECT_FALSE(HayFalla(e.vista.Puestos));
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -26,6 +27,7 @@ struct VistaLosasGuiada : VistaEspacio, VistaLosas {
     void PonerEncabezado(const std::string& texto) override { Encabezado = texto; }
     void PonerAvisos(const Avisos& avisos) override { Puestos = avisos; }
     void LlenarLista(const std::vector<std::string>& nombres) override { Filas = nombres; }
+    void MarcarFalla(int fila, bool falla) override { Fallan[fila] = falla; }
     void MarcarFila(int fila) override { Marcada = fila; }
     void RestablecerVista() override { ++Restablecida; }
     void Redibujar() override { ++Dibujos; }
@@ -41,6 +43,7 @@ struct VistaLosasGuiada : VistaEspacio, VistaLosas {
     std::string Titulo, Pie, Encabezado;
     std::vector<std::string> Filas;
     Avisos Puestos;
+    std::map<int, bool> Fallan;
     int Marcada = 0, Restablecida = 0, Dibujos = 0;
     dibujo::losa::OpcionDeCarga OpcionCarga = dibujo::losa::CargaPorCasos;
     std::function<bool()> LosaNueva, SalvarComo, Datos, General;

@@ -291,10 +291,6 @@ void VentanaEspacio::PonerAvisos(const Avisos& avisos) {
     avisos_->setText(Q(Resumen(avisos)));
     avisos_->setToolTip(lineas.join('\n'));
     avisos_->setVisible(!avisos.empty());
-    if (QListWidgetItem* fila = lista_->currentItem()) {
-        fila->setIcon(HayFalla(avisos) ? style()->standardIcon(QStyle::SP_MessageBoxWarning) : QIcon());
-        fila->setToolTip(avisos_->toolTip());
-    }
 }
 
 void VentanaEspacio::LlenarLista(const std::vector<std::string>& nombres) {
@@ -307,6 +303,13 @@ void VentanaEspacio::LlenarLista(const std::vector<std::string>& nombres) {
 void VentanaEspacio::MarcarFila(int fila) {
     const QSignalBlocker quieta(lista_);
     lista_->setCurrentRow(fila - 1);
+}
+
+void VentanaEspacio::MarcarFalla(int fila, bool falla) {
+    QListWidgetItem* const renglon = lista_->item(fila - 1);
+    if (renglon == nullptr) return;
+    renglon->setIcon(falla ? style()->standardIcon(QStyle::SP_MessageBoxWarning) : QIcon());
+    renglon->setToolTip(falla ? "Falla: véanse sus avisos al pie." : "");
 }
 
 void VentanaEspacio::RestablecerVista() {

@@ -56,6 +56,7 @@ class VentanaEspacio : public QDialog, public VistaEspacio {
     void PonerAvisos(const Avisos& avisos) override;
     void LlenarLista(const std::vector<std::string>& nombres) override;
     void MarcarFila(int fila) override;
+    void MarcarFalla(int fila, bool falla) override;
     void RestablecerVista() override;
     void Redibujar() override;
     void MostrarRenombrar(Renombrar& operaciones) override;

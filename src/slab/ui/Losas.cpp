@@ -2,6 +2,7 @@
 
 #include "slab/Avisos.h"
 #include "slab/CalcularLosa.h"
+#include "slab/salida/RecorrerLosas.h"
 #include "store/tablas/TablasLosa.h"
 
 namespace trabex::losas::ui {
@@ -57,13 +58,25 @@ void Losas::AlVaciar() {
     lista_.Redibujar();
 }
 
+/// Each slab is read and calculated on records of its own: an engineer sees at opening which of them fail.
+void Losas::AlLlenar() {
+    const salida::ProyectoParaReporte proyecto{aplicacion_.Proyecto, aplicacion_.Datos,
+                                               aplicacion_.Generales};
+    salida::RecorrerLosas(proyecto, true, [this](const salida::LosaDelProyecto& losa) {
+        const Avisos avisos = AvisosDe({losa.Datos, losa.Generales, losa.Resultados});
+        espacio_.MarcarFalla(static_cast<int>(losa.Numero), HayFalla(avisos));
+    });
+}
+
 void Losas::PonerEncabezado() {
     espacio_.PonerEncabezado(dibujo::losa::RotuloDeLosa(estado_.Abierta) + estado_.Abierta.Nombre);
 }
 
 void Losas::Calcular() {
     CalcularLosa(estado_.Abierta, aplicacion_.Generales, estado_.Resultados);
-    espacio_.PonerAvisos(AvisosDe(Calculada(), estado_.Hoja.Numeros));
+    const Avisos avisos = AvisosDe(Calculada(), estado_.Hoja.Numeros);
+    espacio_.PonerAvisos(avisos);
+    espacio_.MarcarFalla(lista_.Fila(), HayFalla(avisos));
     lista_.Redibujar();
 }
 
@@ -94,7 +107,9 @@ void Losas::Modificar() {
 }
 
 void Losas::DatosGenerales() {
-    if (!lista_.Vacia() && vista_.MostrarLosaGeneral()) Calcular();
+    if (lista_.Vacia() || !vista_.MostrarLosaGeneral()) return;
+    Calcular();
+    AlLlenar();
 }
 
 }  // namespace trabex::losas::ui

@@ -64,6 +64,7 @@ class Losas : private programa::ElementoDeLista {
     void AlSeleccionar() override;
     void AlAgregar() override;
     void AlVaciar() override;
+    void AlLlenar() override;
     void PonerEncabezado();
 
     programa::Aplicacion& aplicacion_;
