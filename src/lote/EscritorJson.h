@@ -11,6 +11,7 @@
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
 
+#include "base/Aviso.h"
 #include "base/ErrorEjecucion.h"
 #include "base/Fecha.h"
 #include "store/Campos.h"
@@ -31,6 +32,9 @@ void Escribir(Escritor& json, const Fecha& fecha);
 
 /// The key `error` with its code and its text, where there is one.
 void EscribirError(Escritor& json, const std::optional<ErrorEjecucion>& error);
+
+/// The key `avisos`, an array of weight, place and text; empty when there is nothing to tell.
+void EscribirAvisos(Escritor& json, const Avisos& avisos);
 
 template <class Registro, class Campos>
 void EscribirCampos(Escritor& json, const Registro& registro, const Campos& campos) {

@@ -67,6 +67,7 @@ class Lote(unittest.TestCase):
         for losa in documento["losas"]:
             self.assertIn(losa["Nombre"], resumen)
             self.assertNotIn("error", losa)
+            self.assertLessEqual({aviso["gravedad"] for aviso in losa["avisos"]}, {"nota", "advertencia"})
             tramos, ejes = len(losa["Tramos"]), len(losa["Ejes"])
             self.assertEqual(ejes, tramos + 1)
             self.assertEqual([len(caso) for caso in losa["ResultadoJunta"]], [ejes, ejes])
@@ -79,6 +80,14 @@ class Lote(unittest.TestCase):
                 if caso == 0:
                     total += sum(t["p1"] for t in losa["Tramos"])
                 self.assertAlmostEqual(sum(j["RV"] for j in juntas), total, delta=0.5)
+
+    def test_una_losa_que_no_se_sostiene_lo_dice(self):
+        self.sql("UPDATE LosaEjes SET Tipo = 5")
+        documento, _ = self.resultados()
+        for losa in documento["losas"]:
+            fallas = [aviso for aviso in losa["avisos"] if aviso["gravedad"] == "falla"]
+            self.assertTrue(any("La losa no se sostiene" in aviso["texto"] for aviso in fallas), losa["Nombre"])
+            self.assertIn(fallas[0]["lugar"], ["Eje " + eje["Eje"] for eje in losa["Ejes"]])
 
     def test_las_escaleras_del_ejemplo_equilibran_sus_cargas(self):
         documento, resumen = self.del_ejemplo()

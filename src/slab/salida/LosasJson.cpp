@@ -47,7 +47,7 @@ std::string GeneralesJson(const DatosGenerales& generales) {
     return lote::ObjetoJson(generales, almacen::tablas::CamposGeneralesLosa);
 }
 
-std::string LosaJson(const Losa& losa, const ResultadosLosa& resultados) {
+std::string LosaJson(const Losa& losa, const ResultadosLosa& resultados, const Avisos& avisos) {
     return lote::Objeto([&](Escritor& json) {
         json.Key("Nombre");
         lote::Escribir(json, losa.Nombre);
@@ -68,6 +68,7 @@ std::string LosaJson(const Losa& losa, const ResultadosLosa& resultados) {
         lote::EscribirArreglo(json, resultados.DisenoTramo, CamposDisenoTramo);
         lote::EscribirCampos(json, resultados, CamposMaximos);
         lote::EscribirError(json, resultados.Error);
+        lote::EscribirAvisos(json, avisos);
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "base/Aviso.h"
 #include "base/DatosGenerales.h"
 #include "slab/Losa.h"
 #include "slab/ResultadosLosa.h"
@@ -12,7 +13,8 @@ namespace trabex::losas::salida {
 /// that they read back as the same doubles; one that is no number is null. Arrays leave slot 0 out.
 std::string GeneralesJson(const DatosGenerales& generales);
 
-/// A slab with its data and its results; `error` stands in it only when its calculation ended in one.
-std::string LosaJson(const Losa& losa, const ResultadosLosa& resultados);
+/// A slab with its data, its results and its notices; `error` stands in it only when its calculation ended in
+/// one.
+std::string LosaJson(const Losa& losa, const ResultadosLosa& resultados, const Avisos& avisos);
 
 }  // namespace trabex::losas::salida

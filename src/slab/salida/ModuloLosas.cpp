@@ -5,6 +5,7 @@
 
 #include "drawing/losa/GraficoLosasPrinter.h"
 #include "reports/planex/ArchivoPlanex.h"
+#include "slab/Avisos.h"
 #include "slab/CalcularLosa.h"
 #include "slab/salida/GraficosLosas.h"
 #include "slab/salida/LosasJson.h"
@@ -17,6 +18,7 @@ namespace {
 struct Calculada {
     Losa Datos;
     ResultadosLosa Resultados;
+    Avisos Notas;
 };
 
 LosaCalculada De(const lote::Lista& lista, const lote::Elemento& elemento) {
@@ -35,6 +37,7 @@ lote::Elemento Calcular(almacen::proyecto::ProyectoAbierto& proyecto, const lote
     Calculada losa;
     almacen::tablas::LeerLosa(proyecto, losa.Datos);
     CalcularLosa(losa.Datos, lote::Leer<DatosGenerales>(generales), losa.Resultados);
+    losa.Notas = AvisosDe({losa.Datos, lote::Leer<DatosGenerales>(generales), losa.Resultados});
     const std::string error = losa.Resultados.Error ? losa.Resultados.Error->Texto() : "";
     const std::string nombre = losa.Datos.Nombre;
     return {nombre, lote::Guardar(std::move(losa)), error};
@@ -46,7 +49,7 @@ std::string GeneralesComoJson(const lote::Registro& generales) {
 
 std::string Json(const lote::Elemento& elemento) {
     const auto& losa = lote::Leer<Calculada>(elemento.Calculado);
-    return LosaJson(losa.Datos, losa.Resultados);
+    return LosaJson(losa.Datos, losa.Resultados, losa.Notas);
 }
 
 constexpr std::array<lote::ColumnaResumen, 9> Columnas{{{"Losa", nullptr},
@@ -61,7 +64,7 @@ constexpr std::array<lote::ColumnaResumen, 9> Columnas{{{"Losa", nullptr},
 
 /// Extremes of a slab: the largest steel at an axis above and of a span below.
 std::vector<lote::Celda> Resumir(const lote::Elemento& elemento) {
-    const auto& [losa, r] = lote::Leer<Calculada>(elemento.Calculado);
+    const auto& [losa, r, avisos] = lote::Leer<Calculada>(elemento.Calculado);
     double longitud = 0, superior = 0, inferior = 0;
     for (const Tramo& tramo : losa.Tramos) longitud += tramo.LT;
     for (const DisenoDeEje& eje : r.DisenoEje) superior = std::max(superior, eje.AS1);
