@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "slab/Banda.h"
 #include "slab/CalcularLosa.h"
 #include "support/LosasDePrueba.h"
 
@@ -134,6 +135,23 @@ TEST(Analizar, ErroresDeEjecucion) {
     DatosGenerales sinConcreto;
     sinConcreto.FC = -250;
     EXPECT_EQ(CodigoDe(LosaContinua({4}, 300), sinConcreto), 5);
+}
+
+/// 2·d1 = 8 and a direction without stiffness: unloaded it stays where it is, loaded it divides by zero.
+TEST(CalculoDPZ, UnaDireccionSinRigidez) {
+    for (const double carga : {0.0, 3.0}) {
+        MatrizBanda<6> K(8);
+        K(1, 1) = 2;
+        std::vector<ParDeCasos> F(8);
+        F[0] = {8, -4};
+        F[1] = {0, carga};
+        CalculoDPZ(K, F, 2);
+        if (carga == 0) {
+            EXPECT_EQ(F[0], (ParDeCasos{4, -2}));
+        }
+        EXPECT_EQ(std::isinf(F[1][1]), carga != 0);
+        EXPECT_EQ(FilasSinPivote(K, {2, 0}), std::vector<std::size_t>{2});
+    }
 }
 
 /// Numbers that no engineer enters end the calculation with an error or leave finite results.

@@ -67,6 +67,19 @@ TEST(EsfuerzosEnSeccion, RepiteLaEstacionDeLaCargaPuntual) {
 
 /// Span of 10 m, w = 1.2·100 = 120 kgf/m, P = 1.2·500 = 600 kgf at 4 m, on two supports: Vi = 960, V = 480
 /// and −120 beside the load, so the moment is greatest under it; the walk sees it at the station at 4 m.
+/// At 2 m of the horizontal the member of a 3 in 4 slope is 2.5 m on, and its loads across it are 0.8 of
+/// them.
+TEST(EsfuerzosEnSeccion, EnUnTramoInclinado) {
+    EstacionPuntual estacion{true, false};
+    double M = 0;
+    double V = 0;
+    EsfuerzosEnSeccion({4, 100, 50, 500, 1}, {}, 2, 0.8, -300, 900, estacion, M, V);
+    const double w = 0.8 * (120 + 80);
+    const double P = 0.8 * 600;
+    EXPECT_NEAR(V, 900 - w * 2.5 - P, 1e-9);
+    EXPECT_NEAR(M, -300 + 900 * 2.5 - w * 2.5 * 2.5 / 2 - P * 1.25, 1e-9);
+}
+
 TEST(MomentoMaximo, BajoLaCargaPuntualYPasadaEsta) {
     const DatosGenerales g;
     const auto maximo = [&g](const Tramo& tramo, const ExtremosMayorados& e, double C = 1) {
@@ -213,7 +226,11 @@ TEST(CalcularLosa, LosaInclinadaEntera) {
     losa.JuntasD.push_back({2, 0, -3});
     const ResultadosLosa r = Calculada(losa);
     const auto& junta = r.ResultadoJunta[1];
-    EXPECT_EQ(junta[2].y, -3);
+    for (std::size_t j = 1; j <= 3; ++j) {
+        EXPECT_EQ(junta[j].Eje, std::to_string(j));
+        EXPECT_EQ(junta[j].x, 4.0 * static_cast<double>(j - 1));
+        EXPECT_EQ(junta[j].y, j == 2 ? -3 : 0);
+    }
     EXPECT_NEAR(junta[1].RV, 2500, 0.05);
     // About the apex: 4·RV − 3·RH − 2500·2 = M, with M ≈ −400·5²/8 at the apex.
     const double M = r.ResultadoTramo[1][1].MomentoB;
