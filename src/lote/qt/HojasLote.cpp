@@ -14,6 +14,8 @@ namespace trabex::lote::qt {
 
 namespace {
 
+constexpr int CompresionRapida = 80;  // of PNG: the same pixels in a third of the time
+
 /// A name without the characters that file systems refuse.
 std::string ParaArchivo(std::string nombre) {
     for (char& letra : nombre) {
@@ -33,7 +35,7 @@ void EscribirPng(const Dibujo& dibujo, const std::filesystem::path& archivo) {
         dibujo::qt::DibujarImagen(dibujo::qt::AnchoSuperficie, dibujo::qt::AltoSuperficie, 1, dibujo.Dibujar);
     QBuffer bytes;
     bytes.open(QIODevice::WriteOnly);
-    if (!imagen.save(&bytes, "PNG")) throw ErrorEjecucion(CodigoError::ErrorDispositivo);
+    if (!imagen.save(&bytes, "PNG", CompresionRapida)) throw ErrorEjecucion(CodigoError::ErrorDispositivo);
     Escribir(bytes, archivo);
 }
 
