@@ -9,16 +9,18 @@ enum class Ambito {
     Compartido,  ///< `AnalisisCarga`, `AnalisisCargaModificar`, `NuevoAnalisisCarga`
 };
 
+/// What a creating window says when it does not go on.
+inline constexpr const char* TextoYaExiste = "Este Registro ya existe en la Base de Datos...";
+
 /// What differs between the two.
 struct VarianteAnalisis {
     Ambito Donde;
     bool
         SorteaNumero;  ///< a new analysis gets a number of the program's; otherwise the database gives it one
-    const char* TextoYaExiste;  ///< of a creation that does not go on
+    const char* YaExiste;  ///< the message of a creation that does not go on
 };
 
-inline constexpr VarianteAnalisis AnalisisDeProyecto{Ambito::Proyecto, true,
-                                                     "Este Registro ya existe en la Base de Datos..."};
+inline constexpr VarianteAnalisis AnalisisDeProyecto{Ambito::Proyecto, true, TextoYaExiste};
 inline constexpr VarianteAnalisis AnalisisCompartido{Ambito::Compartido, false,
                                                      "¡Este Registro ya existe en la Base de Datos!"};
 

@@ -24,6 +24,13 @@ std::vector<cargas::PesoUnitario> FilasVariables(const cargas::AnalisisCarga& an
     return {analisis.Variable};
 }
 
+/// Sets a field; a value that its column refuses takes back what was set before it.
+bool PonerCampo(Recordset& lista, const char* campo, const Valor& valor) {
+    const bool puesto = lista.Poner(campo, valor);
+    if (!puesto) lista.CancelarActualizacion();
+    return puesto;
+}
+
 /// Copies a captured analysis's rows of one table, where it has any.
 bool CapturarFilas(Conexion& compartida, const TablaDeFilas& origen, Conexion& proyecto,
                    const TablaDeFilas& destino, const Clave& clave) {
@@ -79,9 +86,16 @@ bool AgregarAnalisis(Recordset& lista, cargas::Ambito ambito, const std::string&
     }
     lista.AgregarNuevo();
     PonerCampos(lista, nuevo, CamposTotales);
-    lista.Poner("Descripcion", nuevo.Descripcion);
     if (sortea) lista.Poner("ID", nuevo.ID);
-    return lista.Actualizar();
+    return PonerCampo(lista, "Descripcion", nuevo.Descripcion) && lista.Actualizar();
+}
+
+bool CambiarDescripcion(Recordset& lista, const std::string& descripcion) {
+    return PonerCampo(lista, "Descripcion", trabex::Recortar(descripcion)) && lista.Actualizar();
+}
+
+bool CambiarCarga(Recordset& lista, double carga) {
+    return PonerCampo(lista, "Carga", carga) && lista.Actualizar();
 }
 
 bool BorrarAnalisis(Conexion& conexion, Recordset& lista, cargas::Ambito ambito) {
@@ -118,8 +132,12 @@ bool CapturarAnalisis(Conexion& compartida, const Recordset& listaCompartida, Co
 
 bool AgregarPeso(Recordset& lista, const cargas::PesoUnitario& peso) {
     lista.AgregarNuevo();
-    PonerCampos(lista, peso, CamposPeso);
-    return lista.Actualizar();
+    return CambiarPeso(lista, peso);
+}
+
+bool CambiarPeso(Recordset& lista, const cargas::PesoUnitario& peso) {
+    return PonerCampo(lista, "Descripcion", trabex::Recortar(peso.Descripcion)) &&
+           PonerCampo(lista, "Peso", peso.Peso) && lista.Actualizar();
 }
 
 }  // namespace trabex::almacen::tablas

@@ -55,6 +55,11 @@ bool GuardarAnalisis(Conexion& conexion, Recordset& lista, cargas::Ambito ambito
 bool AgregarAnalisis(Recordset& lista, cargas::Ambito ambito, const std::string& descripcion,
                      const cargas::FuenteAzar& azar);
 
+/// Sets the description or the total of the analysis on which its list stands; neither touches CP, CV or REL.
+/// False when it could not be stored.
+bool CambiarDescripcion(Recordset& lista, const std::string& descripcion);
+bool CambiarCarga(Recordset& lista, double carga);
+
 /// Deletes the analysis on which its list stands, its loads first, as one save. False when it could not be
 /// deleted; it then stands.
 bool BorrarAnalisis(Conexion& conexion, Recordset& lista, cargas::Ambito ambito);
@@ -69,7 +74,9 @@ bool YaCapturado(const Recordset& compartida, Recordset& lista);
 bool CapturarAnalisis(Conexion& compartida, const Recordset& listaCompartida, Conexion& proyecto,
                       Recordset& lista);
 
-/// Adds a line to an opened list of unit weights. False when it could not be stored.
+/// Adds a line to an opened list of unit weights, or sets the one on which it stands; names are trimmed.
+/// False when it could not be stored.
 bool AgregarPeso(Recordset& lista, const cargas::PesoUnitario& peso);
+bool CambiarPeso(Recordset& lista, const cargas::PesoUnitario& peso);
 
 }  // namespace trabex::almacen::tablas

@@ -1,0 +1,147 @@
+#include "loads/ui/ListaAnalisis.h"
+
+#include "base/Archivos.h"
+#include "base/Formatos.h"
+#include "store/proyecto/TablaProyecto.h"
+#include "store/tablas/CamposCargas.h"
+#include "store/tablas/TablasCargas.h"
+
+namespace trabex::cargas::ui {
+
+namespace {
+
+constexpr const char* EncabezadoCaptura = "Análisis de Carga...";
+
+std::filesystem::path ArchivoCompartido(const programa::Aplicacion& aplicacion) {
+    return aplicacion.CaminoUsuario / "Proyectos" / "AnalisisCarga.mdb";
+}
+
+}  // namespace
+
+ListaAnalisis::ListaAnalisis(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
+                             const VarianteAnalisis& variante, FuenteAzar azar, ListaAnalisis* destino)
+    : aplicacion_(aplicacion),
+      servicios_(servicios),
+      variante_(variante),
+      azar_(std::move(azar)),
+      destino_(destino) {}
+
+almacen::Conexion& ListaAnalisis::Conexion() {
+    return DelProyecto() ? aplicacion_.Proyecto.ConexionProyecto : compartida_;
+}
+
+void ListaAnalisis::Abrir(VistaListaAnalisis& vista) {
+    vista_ = &vista;
+    almacen::AbrirConexion(compartida_, ArchivoCompartido(aplicacion_));
+    if (DelProyecto()) {
+        almacen::AbrirConexion(Conexion(), aplicacion_.ArchivoProyecto);
+        almacen::proyecto::LeerProyecto(Conexion(), aplicacion_.Usuario, aplicacion_.Datos);
+    }
+    Reabrir();
+    vista_->MarcarFila(Fila());
+    MostrarEstado();
+}
+
+void ListaAnalisis::MostrarEstado() {
+    const std::string compartido = TextoDeCamino(ArchivoCompartido(aplicacion_));
+    const std::string propio = DelProyecto() ? TextoDeCamino(aplicacion_.ArchivoProyecto) : compartido;
+    if (Conexion().ConexionFallida())
+        vista_->PonerEstado((DelProyecto() ? "No se pudo leer el proyecto: " : "No se pudo leer: ") + propio);
+    else if (compartida_.ConexionFallida())
+        vista_->PonerEstado("No se pudo leer: " + compartido);
+    else
+        vista_->PonerEstado(propio);
+}
+
+void ListaAnalisis::Cerrar() {
+    Lista().Cerrar();
+    Conexion().Cerrar();
+    compartida_.Cerrar();
+}
+
+void ListaAnalisis::Reabrir() {
+    almacen::AbrirRecordset(Conexion(), Lista(), almacen::tablas::TablasDe(variante_.Donde).Lista);
+    Rellenar();
+}
+
+/// The grid shows the rows of the set in their order: what is edited at a position is the row of that
+/// position.
+void ListaAnalisis::Rellenar() {
+    const int donde = Fila();
+    std::vector<LineaDeAnalisis> lineas;
+    for (int fila = 1; fila <= NumeroDeAnalisis(); ++fila) {
+        Lista().MoverA(fila);
+        lineas.push_back({Lista().Texto("Descripcion"), Lista().Doble("Carga")});
+    }
+    Lista().MoverA(donde);
+    vista_->LlenarLista(lineas);
+}
+
+void ListaAnalisis::Crear() {
+    NuevoAnalisisCarga operaciones(Lista(), variante_, azar_, servicios_.Caja);
+    vista_->MostrarNuevo(operaciones);
+    if (!operaciones.Creado()) return;
+    const std::string criterio = almacen::Criterio(almacen::PorID(Lista().Entero32("ID")));
+    Reabrir();
+    almacen::BuscarRegistro(Lista(), criterio);
+    vista_->MarcarFila(Fila());
+}
+
+void ListaAnalisis::Modificar() {
+    if (!EnUnaLinea()) return;
+    AnalisisCargaModificar operaciones(
+        {variante_.Donde, Conexion(), Lista(), compartida_,
+         [this](double carga) { vista_->PonerCarga(Fila(), carga); }, aplicacion_.CaminoPrograma},
+        servicios_);
+    vista_->MostrarModificar(operaciones);
+    vista_->MarcarFila(Fila());
+}
+
+void ListaAnalisis::Eliminar() {
+    if (!EnUnaLinea()) return;
+    const programa::Mensaje pregunta =
+        programa::Pregunta("El Análisis de Carga Seleccionado será Eliminado...\n¿Esta Usted Seguro?",
+                           "Eliminar Análisis de Carga...");
+    if (servicios_.Caja.Mostrar(pregunta) != programa::RespuestaSi) return;
+    if (!almacen::tablas::BorrarAnalisis(Conexion(), Lista(), variante_.Donde))
+        servicios_.Caja.Mostrar(programa::MensajeSinGuardar());
+    Rellenar();
+    vista_->MarcarFila(Fila());
+}
+
+bool ListaAnalisis::ModificarCelda(int fila, CampoDeLinea campo, const std::string& texto) {
+    if (fila < 1 || fila > NumeroDeAnalisis()) return false;
+    const std::optional<double> carga = LeerNumero(texto);
+    if (campo == CampoDeLinea::Carga && !carga) return false;
+    Lista().MoverA(fila);
+    const bool guardada = campo == CampoDeLinea::Carga ? almacen::tablas::CambiarCarga(Lista(), *carga)
+                                                       : almacen::tablas::CambiarDescripcion(Lista(), texto);
+    if (!guardada) servicios_.Caja.Mostrar(programa::MensajeSinGuardar());
+    return guardada;
+}
+
+void ListaAnalisis::VerCompartidos() {
+    ListaAnalisis compartidos(aplicacion_, servicios_, AnalisisCompartido, azar_, this);
+    vista_->MostrarCompartidos(compartidos);
+}
+
+void ListaAnalisis::Capturar() {
+    if (!destino_ || !EnUnaLinea()) return;
+    const programa::Mensaje pregunta =
+        programa::Pregunta("¿Capturar el Análisis de Carga Seleccionado?", EncabezadoCaptura);
+    if (servicios_.Caja.Mostrar(pregunta) != programa::RespuestaSi) return;
+    const int seleccionada = destino_->Fila();
+    if (almacen::tablas::YaCapturado(lista_, destino_->Lista())) {
+        destino_->Seleccionar(seleccionada);
+        servicios_.Caja.Mostrar(
+            programa::Aviso("¡El Análisis de Carga ya existe en el Proyecto!", EncabezadoCaptura));
+        vista_->EnfocarLista();
+        return;
+    }
+    if (!almacen::tablas::CapturarAnalisis(compartida_, lista_, destino_->Conexion(), destino_->Lista()))
+        servicios_.Caja.Mostrar(programa::MensajeSinGuardar());
+    destino_->Rellenar();
+    destino_->vista_->MarcarFila(destino_->Fila());
+}
+
+}  // namespace trabex::cargas::ui

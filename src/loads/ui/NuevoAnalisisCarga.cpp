@@ -1,0 +1,20 @@
+#include "loads/ui/NuevoAnalisisCarga.h"
+
+#include "base/Texto.h"
+#include "store/tablas/TablasCargas.h"
+
+namespace trabex::cargas::ui {
+
+bool NuevoAnalisisCarga::Aceptar(const std::string& descripcion, VistaDeCreacion& vista) {
+    const std::string nombre = Recortar(descripcion);
+    if (nombre.empty()) {
+        vista.Rechazar(CampoDePeso::Descripcion);
+        return false;
+    }
+    if (!VerifiqueDescripcion(lista_, nombre, variante_.YaExiste, caja_)) return false;
+    creado_ = almacen::tablas::AgregarAnalisis(lista_, variante_.Donde, nombre, azar_);
+    if (!creado_) caja_.Mostrar(programa::MensajeSinGuardar());
+    return creado_;
+}
+
+}  // namespace trabex::cargas::ui

@@ -1,0 +1,458 @@
+// The windows of load analyses, answered by a script down to both files.
+
+#include <filesystem>
+
+#include <gtest/gtest.h>
+
+#include "loads/ui/AnalisisCargaNewCP.h"
+#include "loads/ui/ListaAnalisis.h"
+#include "store/tablas/TablasCargas.h"
+#include "support/CarpetaTemporal.h"
+#include "support/ProyectoDePrueba.h"
+#include "support/ShellGuiado.h"
+
+namespace trabex {
+
+using namespace almacen;
+using namespace almacen::tablas;
+using namespace cargas;
+using namespace cargas::ui;
+using namespace prueba;
+namespace {
+
+struct VistaCreacionGuiada : VistaDeCreacion {
+    void Rechazar(CampoDePeso campo) override { Rechazados.push_back(campo); }
+    std::vector<CampoDePeso> Rechazados;
+};
+
+struct VistaPesosGuiada : VistaDePesos {
+    void LlenarLista(const std::vector<PesoUnitario>& lineas) override { Lineas = lineas; }
+    void MarcarFila(int fila) override { Marcada = fila; }
+    void MostrarNueva(AnalisisCargaNewCP& operaciones) override { EnNueva(operaciones); }
+    void MostrarNormas(Normas& operaciones) override { operaciones.Abrir(DocumentoDeNorma::Comentario); }
+    std::vector<PesoUnitario> Lineas;
+    int Marcada = 0;
+    std::function<void(AnalisisCargaNewCP&)> EnNueva;
+};
+
+struct VistaAnalisisGuiada : VistaDeAnalisis {
+    void PonerAnalisis(const AnalisisCarga& analisis, int posicion, int) override {
+        Analisis = analisis;
+        Posicion = posicion;
+    }
+    void LlenarItems(const std::vector<PesoUnitario>& items) override { Analisis.Permanentes = items; }
+    void MarcarItem(int fila) override { Item = fila; }
+    void PonerVariable(const PesoUnitario& variable) override { Analisis.Variable = variable; }
+    void PonerSumas(const SumasDeCarga& sumas) override { Sumas = sumas; }
+    void MostrarPesos(AnalisisCargaBDCP& operaciones) override { EnPesos(operaciones); }
+    void MostrarNormas(Normas& operaciones) override { operaciones.Abrir(DocumentoDeNorma::Articulado); }
+    AnalisisCarga Analisis;
+    SumasDeCarga Sumas;
+    int Posicion = 0;
+    int Item = 0;
+    std::function<void(AnalisisCargaBDCP&)> EnPesos;
+};
+
+struct VistaListaGuiada : VistaListaAnalisis {
+    void LlenarLista(const std::vector<LineaDeAnalisis>& lineas) override { Lineas = lineas; }
+    void MarcarFila(int fila) override { Marcada = fila; }
+    void PonerCarga(int fila, double carga) override {
+        Lineas[static_cast<std::size_t>(fila) - 1].Carga = carga;
+    }
+    void EnfocarLista() override { ++Enfoques; }
+    void PonerEstado(const std::string& texto) override { Estado = texto; }
+    void MostrarNuevo(NuevoAnalisisCarga& operaciones) override { EnNuevo(operaciones); }
+    void MostrarModificar(AnalisisCargaModificar& operaciones) override { EnModificar(operaciones); }
+    void MostrarCompartidos(ListaAnalisis& operaciones) override { EnCompartidos(operaciones); }
+    std::vector<LineaDeAnalisis> Lineas;
+    int Marcada = 0;
+    int Enfoques = 0;
+    std::string Estado;
+    std::function<void(NuevoAnalisisCarga&)> EnNuevo;
+    std::function<void(AnalisisCargaModificar&)> EnModificar;
+    std::function<void(ListaAnalisis&)> EnCompartidos;
+};
+
+class CargasGuiadas : public testing::Test {
+  protected:
+    CargasGuiadas() : sistema_(carpeta_ / "maquina") {
+        const std::string imagen = TRABEX_INSTALL "/Imagen/";
+        aplicacion_.CaminoUsuario = carpeta_ / "usuario";
+        aplicacion_.CaminoPrograma = carpeta_ / "programa";
+        aplicacion_.ArchivoProyecto = carpeta_ / "p.los";
+        std::filesystem::create_directories(aplicacion_.CaminoUsuario / "Proyectos");
+        CrearBaseDatos(aplicacion_.ArchivoProyecto,
+                       EsquemaDeProyecto() + LeerArchivo(imagen + "Ejemplo Demostrativo.sql"));
+        CrearBaseDatos(Compartido(), LeerArchivo(imagen + "AnalisisCarga.sql"));
+    }
+
+    std::filesystem::path Compartido() const {
+        return aplicacion_.CaminoUsuario / "Proyectos" / "AnalisisCarga.mdb";
+    }
+    programa::Servicios Servicios() { return {caja_, dialogos_, sistema_}; }
+    static FuenteAzar Azar() {
+        return [] { return 0.25; };
+    }
+    std::string UltimoTexto() const { return caja_.Mensajes.empty() ? "" : caja_.Mensajes.back().Texto; }
+    std::string UltimoEncabezado() const { return caja_.Mensajes.back().Encabezado; }
+
+    /// A statement's rows in the file of an Ambito, through another connection.
+    Recordset EnArchivo(Ambito ambito, const std::string& fuente) {
+        AbrirConexion(otra_, ambito == Ambito::Proyecto ? aplicacion_.ArchivoProyecto : Compartido());
+        Recordset registros;
+        AbrirRecordset(otra_, registros, fuente);
+        return registros;
+    }
+    AnalisisCarga EnArchivo(Ambito ambito, std::int32_t id) {
+        Recordset lista = EnArchivo(ambito, std::string(TablasDe(ambito).Generales));
+        BuscarRegistro(lista, Criterio(PorID(id)));
+        AnalisisCarga analisis;
+        LeerAnalisis(otra_, lista, ambito, analisis);
+        return analisis;
+    }
+
+    CarpetaTemporal carpeta_;
+    PlataformaGuiada sistema_;
+    CajaGuiada caja_;
+    DialogosGuiados dialogos_;
+    programa::Aplicacion aplicacion_;
+    Conexion otra_;
+    VistaListaGuiada vista_;
+};
+
+class VentanasDeCarga : public CargasGuiadas, public testing::WithParamInterface<Ambito> {};
+
+TEST_P(VentanasDeCarga, SeEditaUnAnalisisHastaElArchivo) {
+    ListaAnalisis lista(aplicacion_, Servicios(), VarianteDe(GetParam()), Azar());
+    lista.Abrir(vista_);
+    ASSERT_GT(vista_.Lineas.size(), 2U);
+    VistaAnalisisGuiada edicion;
+    std::int32_t id = 0;
+    vista_.EnModificar = [&](AnalisisCargaModificar& o) {
+        o.Abrir(edicion);
+        id = edicion.Analisis.ID;
+        EXPECT_EQ(edicion.Posicion, 2);
+        EXPECT_FALSE(o.Modificado());
+        caja_.Respuestas.assign(edicion.Analisis.Permanentes.size() + 1, programa::RespuestaSi);
+        caja_.Respuestas.front() = programa::RespuestaAceptarONo;
+        o.EliminarLinea(1);  // not sure
+        EXPECT_FALSE(o.Modificado());
+        EXPECT_EQ(UltimoTexto(), "¿Eliminar la Fila Seleccionada?");
+        EXPECT_EQ(UltimoEncabezado(), "Eliminar Filas...");
+        while (!edicion.Analisis.Permanentes.empty()) o.EliminarLinea(1);
+        EXPECT_EQ(edicion.Item, 0);
+        o.EliminarLinea(1);
+        o.CrearLinea();
+        o.CrearLinea();
+        EXPECT_TRUE(o.CambiarItem(1, CampoDePeso::Descripcion, " Losa "));
+        EXPECT_TRUE(o.CambiarItem(1, CampoDePeso::Peso, "150,5"));  // halves to even
+        EXPECT_TRUE(o.CambiarItem(2, CampoDePeso::Peso, "99.6"));
+        EXPECT_FALSE(o.CambiarItem(2, CampoDePeso::Peso, "cien"));
+        EXPECT_FALSE(o.CambiarItem(2, CampoDePeso::Peso, "3000000000"));
+        EXPECT_FALSE(o.CambiarItem(3, CampoDePeso::Peso, "1"));
+        EXPECT_EQ(edicion.Sumas.Permanente, 250);
+        EXPECT_TRUE(o.CambiarVariable(CampoDePeso::Descripcion, "Viviendas"));
+        EXPECT_TRUE(o.CambiarVariable(CampoDePeso::Peso, "175"));
+        EXPECT_EQ(edicion.Sumas.Total, 425);
+        EXPECT_TRUE(o.Salvar());
+        EXPECT_FALSE(o.Modificado());
+        EXPECT_TRUE(o.CambiarVariable(CampoDePeso::Descripcion, "Otro uso"));
+        EXPECT_TRUE(o.Cerrar());  // a name alone asks nothing
+    };
+    lista.Seleccionar(2);
+    lista.Modificar();
+    EXPECT_EQ(vista_.Lineas[1].Carga, 425);
+    const AnalisisCarga guardado = EnArchivo(GetParam(), id);
+    EXPECT_EQ(guardado.CP, 250);
+    EXPECT_DOUBLE_EQ(guardado.REL, 0.7);
+    ASSERT_EQ(guardado.Permanentes.size(), 2U);
+    EXPECT_EQ(guardado.Permanentes[0].Descripcion, "Losa");
+    EXPECT_EQ(guardado.Variable.Descripcion, "Viviendas");
+}
+
+TEST_P(VentanasDeCarga, DesplazarPreguntaPorLosCambios) {
+    ListaAnalisis lista(aplicacion_, Servicios(), VarianteDe(GetParam()), Azar());
+    lista.Abrir(vista_);
+    VistaAnalisisGuiada edicion;
+    vista_.EnModificar = [&](AnalisisCargaModificar& o) {
+        o.Abrir(edicion);
+        const AnalisisCarga primero = edicion.Analisis;
+        o.CrearLinea();
+        EXPECT_TRUE(o.Desplazar(2));  // no: the changes are dropped
+        EXPECT_EQ(UltimoTexto(), "El Análisis de Carga a sido Modificado...\n¿Desea Salvar los Cambios?");
+        EXPECT_EQ(UltimoEncabezado(), "Análisis de Carga...");
+        EXPECT_NE(edicion.Analisis.ID, primero.ID);
+        EXPECT_FALSE(o.Modificado());
+        const std::size_t preguntas = caja_.Mensajes.size();
+        EXPECT_TRUE(o.Desplazar(1));
+        EXPECT_EQ(caja_.Mensajes.size(), preguntas);
+        EXPECT_EQ(edicion.Analisis.Permanentes.size(), primero.Permanentes.size());
+        EXPECT_FALSE(o.Desplazar(0) || o.Desplazar(99));
+
+        o.CambiarVariable(CampoDePeso::Peso, "1000");
+        caja_.Respuestas = {programa::RespuestaSi};
+        EXPECT_TRUE(o.Desplazar(2));
+        EXPECT_EQ(EnArchivo(GetParam(), primero.ID).CV, 1000);
+
+        // What its column refuses keeps the window where it is, with the changes.
+        o.CambiarItem(1, CampoDePeso::Descripcion, std::string(200, 'x'));
+        caja_.Respuestas = {programa::RespuestaSi, programa::RespuestaAceptarONo, programa::RespuestaSi};
+        EXPECT_FALSE(o.Desplazar(1));
+        EXPECT_EQ(UltimoTexto().find("Error Número: 75"), 0U);
+        EXPECT_FALSE(o.Cerrar());
+        EXPECT_TRUE(o.Modificado());
+    };
+    lista.Modificar();
+    EXPECT_EQ(vista_.Marcada, 2);
+}
+
+/// The creation goes on only for a description that stands already.
+TEST_P(VentanasDeCarga, ElSentidoDeLaCreacion) {
+    ListaAnalisis lista(aplicacion_, Servicios(), VarianteDe(GetParam()), Azar());
+    lista.Abrir(vista_);
+    const std::size_t habia = vista_.Lineas.size();
+    const std::string conocido = vista_.Lineas[1].Descripcion;
+    lista.Seleccionar(2);
+    vista_.EnNuevo = [&](NuevoAnalisisCarga& o) {
+        VistaCreacionGuiada nueva;
+        EXPECT_FALSE(o.Aceptar("   ", nueva));
+        EXPECT_EQ(nueva.Rechazados, std::vector{CampoDePeso::Descripcion});
+        EXPECT_TRUE(caja_.Mensajes.empty());
+        EXPECT_FALSE(o.Aceptar("UNO NUNCA VISTO", nueva));
+        EXPECT_EQ(UltimoTexto(), GetParam() == Ambito::Proyecto
+                                     ? "Este Registro ya existe en la Base de Datos..."
+                                     : "¡Este Registro ya existe en la Base de Datos!");
+        EXPECT_EQ(UltimoEncabezado(), "Crear Carga Permanente...");
+    };
+    lista.Crear();
+    EXPECT_EQ(lista.Fila(), 2);
+    EXPECT_EQ(vista_.Lineas.size(), habia);
+
+    vista_.EnNuevo = [&](NuevoAnalisisCarga& o) {
+        VistaCreacionGuiada nueva;
+        EXPECT_TRUE(o.Aceptar(" " + conocido + " ", nueva));
+    };
+    lista.Crear();
+    ASSERT_EQ(vista_.Lineas.size(), habia + 1);
+    EXPECT_EQ(vista_.Lineas[static_cast<std::size_t>(vista_.Marcada) - 1].Descripcion, conocido);
+    EXPECT_EQ(vista_.Lineas[static_cast<std::size_t>(vista_.Marcada) - 1].Carga, 0);
+    const std::int32_t numero = EnArchivo(GetParam(), TablasDe(GetParam()).Generales).NumeroRegistros();
+    EXPECT_EQ(numero, static_cast<int>(habia) + 1);
+}
+
+TEST_P(VentanasDeCarga, LasCeldasYElBorradoVanALaMismaPosicion) {
+    ListaAnalisis lista(aplicacion_, Servicios(), VarianteDe(GetParam()), Azar());
+    lista.Abrir(vista_);
+    lista.Seleccionar(2);
+    const std::int32_t id = EnArchivo(GetParam(), TablasDe(GetParam()).Lista).Entero32("ID");
+    const AnalisisCarga antes = EnArchivo(GetParam(), id);
+    EXPECT_TRUE(lista.ModificarCelda(1, CampoDeLinea::Descripcion, " ZZZ "));
+    EXPECT_TRUE(lista.ModificarCelda(1, CampoDeLinea::Carga, "123,5"));
+    EXPECT_FALSE(lista.ModificarCelda(1, CampoDeLinea::Carga, "mucho"));
+    EXPECT_TRUE(caja_.Mensajes.empty());
+    EXPECT_FALSE(lista.ModificarCelda(1, CampoDeLinea::Descripcion, std::string(200, 'x')));
+    EXPECT_EQ(caja_.Mensajes.size(), 1U);
+    EXPECT_FALSE(lista.ModificarCelda(99, CampoDeLinea::Descripcion, "x"));
+    const AnalisisCarga despues = EnArchivo(GetParam(), id);
+    EXPECT_EQ(despues.Descripcion, "ZZZ");
+    EXPECT_EQ(despues.Carga, 123.5);
+    EXPECT_EQ(despues.CP, antes.CP);
+    EXPECT_EQ(despues.CV, antes.CV);
+    EXPECT_EQ(despues.REL, antes.REL);
+
+    lista.Seleccionar(1);
+    const std::size_t habia = vista_.Lineas.size();
+    lista.Eliminar();
+    EXPECT_EQ(UltimoTexto(), "El Análisis de Carga Seleccionado será Eliminado...\n¿Esta Usted Seguro?");
+    EXPECT_EQ(UltimoEncabezado(), "Eliminar Análisis de Carga...");
+    EXPECT_EQ(vista_.Lineas.size(), habia);
+    caja_.Respuestas.assign(habia, programa::RespuestaSi);
+    lista.Eliminar();
+    EXPECT_EQ(vista_.Lineas.size(), habia - 1);
+    EXPECT_EQ(EnArchivo(GetParam(), std::string("SELECT * FROM ") + TablasDe(GetParam()).Permanentes.Nombre +
+                                        " WHERE ID=" + std::to_string(id))
+                  .NumeroRegistros(),
+              0);
+    for (std::size_t n = 1; n < habia; ++n) lista.Eliminar();
+    EXPECT_EQ(vista_.Marcada, 0);
+    const std::size_t mensajes = caja_.Mensajes.size();
+    vista_.EnModificar = [](AnalisisCargaModificar&) { FAIL(); };
+    lista.Eliminar();
+    lista.Modificar();
+    lista.Capturar();
+    EXPECT_EQ(caja_.Mensajes.size(), mensajes);
+}
+
+TEST_P(VentanasDeCarga, LosPesosSeCapturanYSeMantienen) {
+    ListaAnalisis lista(aplicacion_, Servicios(), VarianteDe(GetParam()), Azar());
+    lista.Abrir(vista_);
+    VistaAnalisisGuiada edicion;
+    VistaPesosGuiada pesos;
+    vista_.EnModificar = [&](AnalisisCargaModificar& o) {
+        o.Abrir(edicion);
+        edicion.EnPesos = [&](AnalisisCargaBDCP& b) {
+            b.Abrir(pesos);
+            ASSERT_GE(pesos.Lineas.size(), 60U);
+            EXPECT_STREQ(b.Variante().Titulo, "BASE DE DATOS DE CARGAS PERMANENTES");
+            b.Capturar(3);
+            EXPECT_EQ(UltimoTexto(), "¡La Carga Seleccionada fue copiada con Exito!");
+            EXPECT_EQ(UltimoEncabezado(), "Capturar Carga Permanente...");
+            EXPECT_EQ(edicion.Analisis.Permanentes.back().Peso, pesos.Lineas[2].Peso);
+            b.Capturar(0);
+            b.Capturar(9999);
+            b.Cerrar();
+        };
+        const std::size_t items = edicion.Analisis.Permanentes.size();
+        const double suma = edicion.Sumas.Permanente;
+        o.BuscarPesos(PesosPermanentes);
+        EXPECT_EQ(edicion.Analisis.Permanentes.size(), items + 1);
+        EXPECT_EQ(edicion.Sumas.Permanente, suma + pesos.Lineas[2].Peso);
+        EXPECT_TRUE(o.Modificado());
+
+        edicion.EnPesos = [&](AnalisisCargaBDCP& b) {
+            b.Abrir(pesos);
+            b.Capturar(1);
+            b.Capturar(5);  // takes the place of the first
+            b.VerNorma();
+            EXPECT_EQ(UltimoTexto().find("Error Número: 53"), 0U);  // not installed
+            b.Cerrar();
+        };
+        o.BuscarPesos(PesosVariables);
+        EXPECT_EQ(edicion.Analisis.Variable.Descripcion, pesos.Lineas[4].Descripcion);
+        EXPECT_EQ(edicion.Sumas.Total, edicion.Sumas.Permanente + pesos.Lineas[4].Peso);
+
+        std::filesystem::create_directories(aplicacion_.CaminoPrograma / "Normas");
+        const auto norma =
+            aplicacion_.CaminoPrograma / "Normas" / "Acciones Minimas Articulado 2002-1988.pdf";
+        EscribirArchivo(norma, "%PDF");
+        o.VerNorma();
+        EXPECT_EQ(sistema_.Abiertos, std::vector{norma});
+    };
+    lista.Modificar();
+}
+
+class ListasDePesos : public CargasGuiadas {};
+
+TEST_F(ListasDePesos, SeCreanCambianYBorran) {
+    struct Ninguno : ReceptorDePesos {
+        void RecibirPermanente(const PesoUnitario&) override {}
+        void RecibirVariable(const PesoUnitario&) override {}
+        void AlCerrarPesos() override {}
+    } receptor;
+    const VariantePesos* variantes[] = {&PesosPermanentes, &PesosVariables};
+    for (const VariantePesos* variante : variantes) {
+        const std::string tabla = variante->EsVariable ? "BDVariable" : "BDPermanente";
+        Conexion compartida;
+        AbrirConexion(compartida, Compartido());
+        VistaPesosGuiada vista;
+        AnalisisCargaBDCP base(compartida, *variante, receptor, Servicios(), aplicacion_.CaminoPrograma);
+        base.Abrir(vista);
+        const std::size_t habia = vista.Lineas.size();
+        const std::string conocida = vista.Lineas[6].Descripcion;
+        vista.EnNueva = [&](AnalisisCargaNewCP& o) {
+            VistaCreacionGuiada nueva;
+            caja_.Mensajes.clear();
+            EXPECT_FALSE(o.Aceptar(" ", "10", nueva) || o.Aceptar(conocida, "0", nueva) ||
+                         o.Aceptar(conocida, "0,4", nueva) || o.Aceptar(conocida, "x", nueva));
+            EXPECT_EQ(nueva.Rechazados, (std::vector{CampoDePeso::Descripcion, CampoDePeso::Peso,
+                                                     CampoDePeso::Peso, CampoDePeso::Peso}));
+            EXPECT_TRUE(caja_.Mensajes.empty());
+            EXPECT_FALSE(o.Aceptar("NUNCA VISTA", "10", nueva));
+            EXPECT_EQ(UltimoTexto(), "Este Registro ya existe en la Base de Datos...");
+            EXPECT_EQ(UltimoEncabezado(), "Crear Carga Permanente...");
+            EXPECT_TRUE(o.Aceptar(conocida, "12,4", nueva));
+            EXPECT_EQ(UltimoTexto(), variante->EsVariable ? "¡La Carga Variable fue creada con Exito!"
+                                                          : "¡La Carga Permanente fue creada con Exito!");
+        };
+        base.Crear();
+        ASSERT_EQ(vista.Lineas.size(), habia + 1);
+        EXPECT_EQ(vista.Lineas[7].Descripcion, conocida);  // in its order
+
+        EXPECT_TRUE(base.ModificarCelda(1, CampoDePeso::Descripcion, "ZZZ"));
+        EXPECT_TRUE(base.ModificarCelda(1, CampoDePeso::Peso, "77"));
+        EXPECT_FALSE(base.ModificarCelda(1, CampoDePeso::Peso, "x"));
+        Recordset cambiada =
+            EnArchivo(Ambito::Compartido, "SELECT * FROM " + tabla + " WHERE Descripcion='ZZZ'");
+        ASSERT_EQ(cambiada.NumeroRegistros(), 1);
+        EXPECT_EQ(cambiada.Entero32("Peso"), 77);
+
+        base.Eliminar(1);
+        EXPECT_EQ(UltimoTexto(), variante->EsVariable
+                                     ? "Eliminar esta Carga Variable...       \n¿Esta Usted Seguro?"
+                                     : "Eliminar esta Carga Permanente...       \n¿Esta Usted Seguro?");
+        EXPECT_EQ(UltimoEncabezado(), "Eliminar Cargas...");
+        caja_.Respuestas = {programa::RespuestaSi};
+        base.Eliminar(1);
+        EXPECT_EQ(vista.Lineas.size(), habia);
+        EXPECT_EQ(EnArchivo(Ambito::Compartido, "SELECT * FROM " + tabla + " WHERE Descripcion='ZZZ'")
+                      .NumeroRegistros(),
+                  0);
+    }
+}
+
+class Captura : public CargasGuiadas {};
+
+TEST_F(Captura, UnaVezYSinTocarElCompartido) {
+    ListaAnalisis lista(aplicacion_, Servicios(), AnalisisDeProyecto, Azar());
+    lista.Abrir(vista_);
+    EXPECT_FALSE(lista.PuedeCapturar());
+    const std::size_t habia = vista_.Lineas.size();
+    VistaListaGuiada otra;
+    vista_.EnCompartidos = [&](ListaAnalisis& compartidos) {
+        compartidos.Abrir(otra);
+        ASSERT_TRUE(compartidos.PuedeCapturar());
+        compartidos.Seleccionar(3);
+        compartidos.Capturar();  // not sure
+        EXPECT_EQ(UltimoTexto(), "¿Capturar el Análisis de Carga Seleccionado?");
+        EXPECT_EQ(vista_.Lineas.size(), habia);
+        caja_.Respuestas = {programa::RespuestaSi};
+        compartidos.Capturar();
+        ASSERT_EQ(vista_.Lineas.size(), habia + 1);
+        EXPECT_EQ(vista_.Lineas.back().Descripcion, otra.Lineas[2].Descripcion);
+        EXPECT_EQ(vista_.Lineas.back().Carga, otra.Lineas[2].Carga);
+        EXPECT_TRUE(lista.ModificarCelda(lista.Fila(), CampoDeLinea::Descripcion, "OTRO NOMBRE"));
+        caja_.Respuestas = {programa::RespuestaSi, programa::RespuestaAceptarONo};
+        compartidos.Capturar();
+        EXPECT_EQ(UltimoTexto(), "¡El Análisis de Carga ya existe en el Proyecto!");
+        EXPECT_EQ(UltimoEncabezado(), "Análisis de Carga...");
+        EXPECT_EQ(otra.Enfoques, 1);
+        EXPECT_EQ(EnArchivo(Ambito::Proyecto, "AnalisisCargaG").NumeroRegistros(),
+                  static_cast<int>(habia) + 1);
+    };
+    lista.VerCompartidos();
+    EXPECT_TRUE(lista.ModificarCelda(1, CampoDeLinea::Carga, "1"));  // its own connections still stand
+}
+
+/// A shared database that is missing or only read, and a row that another program took away, say so.
+TEST_F(Captura, LoQueNoSePuedeEscribirLoDice) {
+    ListaAnalisis lista(aplicacion_, Servicios(), AnalisisCompartido, Azar());
+    lista.Abrir(vista_);
+    const std::size_t habia = vista_.Lineas.size();
+    const std::int32_t id = EnArchivo(Ambito::Compartido, TablasDe(Ambito::Compartido).Lista).Entero32("ID");
+    otra_.Ejecutar("DELETE * FROM Generales WHERE ID=" + std::to_string(id));
+    EXPECT_FALSE(lista.ModificarCelda(1, CampoDeLinea::Carga, "5"));
+    EXPECT_EQ(UltimoTexto().find("Error Número: 75"), 0U);
+    EXPECT_EQ(vista_.Lineas.size(), habia);
+    lista.Cerrar();
+
+    otra_.Cerrar();
+    std::filesystem::remove(Compartido());
+    lista.Abrir(vista_);
+    EXPECT_TRUE(vista_.Lineas.empty());
+    EXPECT_EQ(vista_.Estado.find("No se pudo leer: "), 0U);
+    vista_.EnNuevo = [](NuevoAnalisisCarga& o) {
+        VistaCreacionGuiada nueva;
+        EXPECT_FALSE(o.Aceptar("X", nueva));
+    };
+    lista.Crear();
+    lista.Modificar();
+    EXPECT_FALSE(std::filesystem::exists(Compartido()));
+}
+
+INSTANTIATE_TEST_SUITE_P(, VentanasDeCarga, testing::Values(Ambito::Proyecto, Ambito::Compartido),
+                         [](const auto& caso) {
+                             return std::string(caso.param == Ambito::Proyecto ? "Proyecto" : "Compartido");
+                         });
+
+}  // namespace
+}  // namespace trabex
