@@ -6,6 +6,7 @@
 #include <string>
 
 #include "helical/salida/ModuloEscalerasH.h"
+#include "loads/salida/ModuloCargas.h"
 #include "lote/Modulo.h"
 #include "markus/salida/ModuloMarcus.h"
 #include "slab/salida/ModuloLosas.h"
@@ -34,8 +35,9 @@ void LeerTodos(proyecto::ProyectoAbierto& abierto, const lote::Modulo& modulo) {
 void LeerTodo(const std::filesystem::path& camino) {
     proyecto::ProyectoAbierto abierto;
     prueba::Abrir(abierto, camino);
-    for (const lote::Modulo* modulo : {&losas::salida::ModuloLosas, &escaleras::salida::ModuloEscalerasT,
-                                       &helices::salida::ModuloEscalerasH, &marcus::salida::ModuloMarcus})
+    for (const lote::Modulo* modulo :
+         {&losas::salida::ModuloLosas, &escaleras::salida::ModuloEscalerasT,
+          &helices::salida::ModuloEscalerasH, &marcus::salida::ModuloMarcus, &cargas::salida::ModuloCargas})
         LeerTodos(abierto, *modulo);
 }
 

@@ -125,6 +125,16 @@ class Lote(unittest.TestCase):
                 self.assertAlmostEqual(fila["CX"] + fila["CY"], 1)
                 self.assertAlmostEqual(fila["WX"] + fila["WY"], fila["Carga"])
 
+    def test_los_analisis_de_carga_del_ejemplo_suman_sus_partidas(self):
+        documento, resumen = self.del_ejemplo()
+        self.assertEqual([(a["ID"], a["Descripcion"], a["Carga"]) for a in documento["analisisCarga"]],
+                         [(2741, "ENTREPISO TIPO", 770), (6120, "ENTREPISO DE OFICINAS", 690), (8893, "TECHO", 505)])
+        for analisis in documento["analisisCarga"]:
+            self.assertIn(analisis["Descripcion"], resumen)
+            self.assertEqual(analisis["CP"], sum(item["Peso"] for item in analisis["Permanentes"]))
+            self.assertEqual(analisis["Variable"]["Peso"], analisis["CV"])
+            self.assertAlmostEqual(analisis["REL"], analisis["CV"] / analisis["CP"])
+
     def test_escaleras_sin_datos_y_tablas_que_faltan(self):
         self.sql("INSERT INTO EscaleraTDatos VALUES ('E-9', 'SIN DATOS')",
                  "INSERT INTO EscaleraHDatos VALUES ('H-9', NULL)",
@@ -149,9 +159,11 @@ class Lote(unittest.TestCase):
         self.assertIn("División por cero", resumen)
 
         self.sql(*(f"DROP TABLE {tabla}" for tabla in (
-            "EscaleraT", "EscaleraTG", "EscaleraHDatos", "EscaleraH", "EscaleraHG", "MarcusDatos", "Marcus")))
+            "EscaleraT", "EscaleraTG", "EscaleraHDatos", "EscaleraH", "EscaleraHG", "MarcusDatos", "Marcus",
+            "AnalisisCargaG", "AnalisisCargaCP")))
         documento, _ = self.resultados()
-        self.assertEqual([len(documento[clave]) for clave in ("escalerasT", "escalerasH", "marcus")], [3, 0, 0])
+        self.assertEqual([len(documento[clave]) for clave in ("escalerasT", "escalerasH", "marcus", "analisisCarga")],
+                         [3, 0, 0, 0])
         self.assertEqual([e["L"] for e in documento["escalerasT"]], [0, 0, 0])
         self.assertEqual(documento["EscaleraTG"]["FS"], 1.55)
         self.assertGreaterEqual(len(documento["losas"]), 8)
