@@ -77,19 +77,19 @@ class CargasGuiadas : public testing::Test {
   protected:
     CargasGuiadas() : sistema_(carpeta_ / "maquina") {
         const std::string imagen = TRABEX_INSTALL "/Imagen/";
-        aplicacion_.CaminoUsuario = carpeta_ / "usuario";
-        aplicacion_.CaminoPrograma = carpeta_ / "programa";
+        carpetas_.CaminoUsuario = carpeta_ / "usuario";
+        carpetas_.CaminoPrograma = carpeta_ / "programa";
         aplicacion_.ArchivoProyecto = carpeta_ / "p.los";
-        std::filesystem::create_directories(aplicacion_.CaminoUsuario / "Proyectos");
+        std::filesystem::create_directories(carpetas_.CaminoUsuario / "Proyectos");
         CrearBaseDatos(aplicacion_.ArchivoProyecto,
                        EsquemaDeProyecto() + LeerArchivo(imagen + "Ejemplo Demostrativo.sql"));
         CrearBaseDatos(Compartido(), LeerArchivo(imagen + "AnalisisCarga.sql"));
     }
 
     std::filesystem::path Compartido() const {
-        return aplicacion_.CaminoUsuario / "Proyectos" / "AnalisisCarga.mdb";
+        return carpetas_.CaminoUsuario / "Proyectos" / "AnalisisCarga.mdb";
     }
-    programa::Servicios Servicios() { return {caja_, dialogos_, sistema_}; }
+    programa::Servicios Servicios() { return {caja_, dialogos_, sistema_, carpetas_}; }
     static FuenteAzar Azar() {
         return [] { return 0.25; };
     }
@@ -115,6 +115,7 @@ class CargasGuiadas : public testing::Test {
     PlataformaGuiada sistema_;
     CajaGuiada caja_;
     DialogosGuiados dialogos_;
+    programa::Carpetas carpetas_;
     programa::Aplicacion aplicacion_;
     Conexion otra_;
     VistaListaGuiada vista_;
@@ -321,9 +322,9 @@ TEST_P(VentanasDeCarga, LosPesosSeCapturanYSeMantienen) {
         EXPECT_EQ(edicion.Analisis.Variable.Descripcion, pesos.Lineas[4].Descripcion);
         EXPECT_EQ(edicion.Sumas.Total, edicion.Sumas.Permanente + pesos.Lineas[4].Peso);
 
-        std::filesystem::create_directories(aplicacion_.CaminoPrograma / "Normas");
+        std::filesystem::create_directories(carpetas_.CaminoPrograma / "Normas");
         const auto norma =
-            aplicacion_.CaminoPrograma / "Normas" / "Acciones Minimas Articulado 2002-1988.pdf";
+            carpetas_.CaminoPrograma / "Normas" / "Acciones Minimas Articulado 2002-1988.pdf";
         EscribirArchivo(norma, "%PDF");
         o.VerNorma();
         EXPECT_EQ(sistema_.Abiertos, std::vector{norma});
@@ -345,7 +346,7 @@ TEST_F(ListasDePesos, SeCreanCambianYBorran) {
         Conexion compartida;
         AbrirConexion(compartida, Compartido());
         VistaPesosGuiada vista;
-        AnalisisCargaBDCP base(compartida, *variante, receptor, Servicios(), aplicacion_.CaminoPrograma);
+        AnalisisCargaBDCP base(compartida, *variante, receptor, Servicios(), carpetas_.CaminoPrograma);
         base.Abrir(vista);
         const std::size_t habia = vista.Lineas.size();
         const std::string conocida = vista.Lineas[6].Descripcion;

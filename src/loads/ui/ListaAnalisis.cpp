@@ -12,8 +12,8 @@ namespace {
 
 constexpr const char* EncabezadoCaptura = "Análisis de Carga...";
 
-std::filesystem::path ArchivoCompartido(const programa::Aplicacion& aplicacion) {
-    return aplicacion.CaminoUsuario / "Proyectos" / "AnalisisCarga.mdb";
+std::filesystem::path ArchivoCompartido(const programa::Carpetas& carpetas) {
+    return carpetas.Proyectos() / "AnalisisCarga.mdb";
 }
 
 }  // namespace
@@ -32,7 +32,7 @@ almacen::Conexion& ListaAnalisis::Conexion() {
 
 void ListaAnalisis::Abrir(VistaListaAnalisis& vista) {
     vista_ = &vista;
-    almacen::AbrirConexion(compartida_, ArchivoCompartido(aplicacion_));
+    almacen::AbrirConexion(compartida_, ArchivoCompartido(servicios_.Carpetas));
     if (DelProyecto()) {
         almacen::AbrirConexion(Conexion(), aplicacion_.ArchivoProyecto);
         almacen::proyecto::LeerProyecto(Conexion(), aplicacion_.Usuario, aplicacion_.Datos);
@@ -43,7 +43,7 @@ void ListaAnalisis::Abrir(VistaListaAnalisis& vista) {
 }
 
 void ListaAnalisis::MostrarEstado() {
-    const std::string compartido = TextoDeCamino(ArchivoCompartido(aplicacion_));
+    const std::string compartido = TextoDeCamino(ArchivoCompartido(servicios_.Carpetas));
     const std::string propio = DelProyecto() ? TextoDeCamino(aplicacion_.ArchivoProyecto) : compartido;
     if (Conexion().ConexionFallida())
         vista_->PonerEstado((DelProyecto() ? "No se pudo leer el proyecto: " : "No se pudo leer: ") + propio);
@@ -91,7 +91,7 @@ void ListaAnalisis::Modificar() {
     if (!EnUnaLinea()) return;
     AnalisisCargaModificar operaciones(
         {variante_.Donde, Conexion(), Lista(), compartida_,
-         [this](double carga) { vista_->PonerCarga(Fila(), carga); }, aplicacion_.CaminoPrograma},
+         [this](double carga) { vista_->PonerCarga(Fila(), carga); }, servicios_.Carpetas.CaminoPrograma},
         servicios_);
     vista_->MostrarModificar(operaciones);
     vista_->MarcarFila(Fila());
