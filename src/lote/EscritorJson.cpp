@@ -30,6 +30,22 @@ void Escribir(Escritor& json, const Fecha& fecha) {
     Escribir(json, FechaIso(fecha));
 }
 
+void EscribirAvisos(Escritor& json, const Avisos& avisos) {
+    json.Key("avisos");
+    json.StartArray();
+    for (const Aviso& aviso : avisos) {
+        json.StartObject();
+        json.Key("gravedad");
+        Escribir(json, std::string(NombreDe(aviso.Peso)));
+        json.Key("lugar");
+        Escribir(json, aviso.Lugar);
+        json.Key("texto");
+        Escribir(json, aviso.Texto);
+        json.EndObject();
+    }
+    json.EndArray();
+}
+
 void EscribirError(Escritor& json, const std::optional<ErrorEjecucion>& error) {
     if (!error) return;
     json.Key("error");

@@ -30,6 +30,9 @@ void Escribir(Escritor& json, std::int32_t valor);
 void Escribir(Escritor& json, const std::string& texto);
 void Escribir(Escritor& json, const Fecha& fecha);
 
+/// The key `avisos`: an array of objects with `gravedad`, `lugar` and `texto`.
+void EscribirAvisos(Escritor& json, const Avisos& avisos);
+
 /// The key `error` with its code and its text, where there is one.
 void EscribirError(Escritor& json, const std::optional<ErrorEjecucion>& error);
 
@@ -52,6 +55,22 @@ void EscribirArreglo(Escritor& json, const std::vector<Registro>& arreglo, const
     json.StartArray();
     for (std::size_t i = desde; i < arreglo.size() && i <= hasta; ++i) {
         json.StartObject();
+        EscribirCampos(json, arreglo[i], campos);
+        json.EndObject();
+    }
+    json.EndArray();
+}
+
+/// Stations in slots `desde` to `hasta`, as EscribirArreglo writes them, each with the place where it stands
+/// under the key `clave`, `lugar(slot)`, before its fields.
+template <class Registro, class Campos, class Lugar>
+void EscribirEstaciones(Escritor& json, const std::vector<Registro>& arreglo, const Campos& campos,
+                        std::size_t desde, std::size_t hasta, const char* clave, Lugar lugar) {
+    json.StartArray();
+    for (std::size_t i = desde; i < arreglo.size() && i <= hasta; ++i) {
+        json.StartObject();
+        json.Key(clave);
+        Escribir(json, lugar(i));
         EscribirCampos(json, arreglo[i], campos);
         json.EndObject();
     }

@@ -25,6 +25,7 @@ std::size_t Cuantos(const Avisos& avisos, Gravedad peso, const std::string& line
 TEST(AvisosDeHelice, ElIntervaloQueNoLlega) {
     DatosEscaleraH d = EscaleraHNuevaDe("", "");
     EXPECT_EQ(Cuantos(AvisosCon(d), Gravedad::Advertencia, ""), 0U);
+    EXPECT_EQ(Cuantos(AvisosCon(d), Gravedad::Nota, "El apoyo está"), 0U);
     d.Inter = 7;
     d.Angulo = 245;
     Avisos avisos = AvisosCon(d);

@@ -103,6 +103,11 @@ class Lote(unittest.TestCase):
             self.assertAlmostEqual(e["TramoT"][10]["MomentoTotal"], e["MomentoApoyoTotal"], places=6)
             self.assertAlmostEqual(e["DescansoT"][6]["MomentoTotal"], e["TramoT"][0]["MomentoTotal"], places=6)
             self.assertEqual({punto["FallaCorte"] for punto in e["DescansoT"]}, {""})
+            self.assertEqual([round(punto["X"] / e["L"], 9) for punto in e["TramoT"]], [i / 10 for i in range(11)])
+            self.assertEqual([punto["Angulo"] for punto in e["DescansoT"]], list(range(0, 91, 15)))
+            self.assertAlmostEqual(e["EmpujeEstatico"], e["EmpujeFlexion"], places=6)
+            self.assertLess(e["EmpujeEstatico"], e["ReaccionHorizontal"])
+            self.assertEqual({aviso["gravedad"] for aviso in e["avisos"]} - {"nota"}, set())
             self.assertLess(max(punto["AsSuperior"] for punto in e["TramoT"]), 15)  # believable
         for e in documento["escalerasH"]:
             self.assertIn(e["Nombre"], resumen)
@@ -111,6 +116,13 @@ class Lote(unittest.TestCase):
             self.assertEqual([len(e["TramoSuperior"]), len(e["TramoInferior"])], [estaciones] * 2)
             self.assertAlmostEqual(e["FV"], e["W"] * e["R"] * math.radians(e["Angulo"] / 2), delta=0.51)
             self.assertGreaterEqual(min(estacion["SEP"] for estacion in e["TramoSuperior"]), 8)
+            self.assertEqual(e["TramoSuperior"][0]["Angulo"], -round(e["Angulo"] / 2))
+            self.assertEqual([p["Angulo"] for p in e["TramoInferior"]], [i * e["Inter"] for i in range(estaciones)])
+            self.assertAlmostEqual(e["EmpujeEstatico"], -e["X"] * e["W"] * e["R"] *
+                                   math.sin(math.radians(e["Angulo"] / 2)), places=6)
+            cortas = {aviso["texto"] for aviso in e["avisos"] if aviso["gravedad"] == "advertencia"}
+            self.assertEqual("El intervalo no da una estación en el centro." in cortas,
+                             round(e["Angulo"] / 2) % e["Inter"] != 0)
             if e["Angulo"] / 2 % e["Inter"] == 0:  # elsewhere the halves are no mirror of each other
                 for arriba, abajo in zip(e["TramoSuperior"], reversed(e["TramoInferior"])):
                     self.assertEqual((arriba["QX"], arriba["MX"]), (-abajo["QX"], abajo["MX"]))
@@ -155,6 +167,7 @@ class Lote(unittest.TestCase):
         self.assertEqual(documento["escalerasH"][1]["error"]["codigo"], 11)
         nivel = documento["marcus"][0]
         self.assertEqual(nivel["error"]["codigo"], 6)
+        self.assertIn("error 11", documento["escalerasH"][1]["avisos"][0]["texto"])
         self.assertEqual([fila["CX"] > 0 for fila in nivel["Filas"]], [True, True, False, False, False])
         self.assertIn("División por cero", resumen)
 

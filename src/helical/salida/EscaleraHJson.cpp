@@ -2,6 +2,8 @@
 
 #include <tuple>
 
+#include "helical/CalcularEscaleraH.h"
+#include "helical/EstacionesHelice.h"
 #include "lote/EscritorJson.h"
 #include "store/tablas/CamposEscalera.h"
 
@@ -33,15 +35,23 @@ std::string GeneralesJson(const DatosGenerales& generales) {
     return lote::ObjetoJson(generales, almacen::tablas::CamposGeneralesEscalera);
 }
 
-std::string EscaleraHJson(const DatosEscaleraH& escalera, const ResultadosEscaleraH& resultados) {
+std::string EscaleraHJson(const DatosEscaleraH& escalera, const ResultadosEscaleraH& resultados,
+                          const Avisos& avisos) {
     return lote::Objeto([&](Escritor& json) {
         lote::EscribirCampos(json, escalera, almacen::tablas::CamposListaH);
         lote::EscribirCampos(json, escalera, almacen::tablas::CamposEscaleraH);
         lote::EscribirCampos(json, resultados, CamposResultadosH);
+        json.Key("EmpujeEstatico");
+        lote::Escribir(json, EmpujeEstatico(escalera, resultados));
         json.Key("TramoSuperior");
-        lote::EscribirArreglo(json, resultados.TramoSuperior, CamposEstacionH, 1, resultados.NEst);
+        lote::EscribirEstaciones(json, resultados.TramoSuperior, CamposEstacionH, 1, resultados.NEst,
+                                 "Angulo",
+                                 [&](std::size_t i) { return EstacionesDe(escalera).GradosSuperior(i); });
         json.Key("TramoInferior");
-        lote::EscribirArreglo(json, resultados.TramoInferior, CamposEstacionH, 1, resultados.NEst);
+        lote::EscribirEstaciones(json, resultados.TramoInferior, CamposEstacionH, 1, resultados.NEst,
+                                 "Angulo",
+                                 [&](std::size_t i) { return EstacionesDe(escalera).GradosInferior(i); });
+        lote::EscribirAvisos(json, avisos);
         lote::EscribirError(json, resultados.Error);
     });
 }

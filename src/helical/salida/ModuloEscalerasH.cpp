@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 
+#include "helical/Avisos.h"
 #include "helical/CalcularEscaleraH.h"
 #include "helical/salida/EscaleraHJson.h"
 #include "store/tablas/TablasEscalera.h"
@@ -15,6 +16,7 @@ namespace {
 struct Calculada {
     DatosEscaleraH Datos;
     ResultadosEscaleraH Resultados;
+    Avisos Notas;
 };
 
 lote::Registro LeerGenerales(almacen::Conexion& proyecto) {
@@ -28,8 +30,10 @@ lote::Registro LeerGenerales(almacen::Conexion& proyecto) {
 /// A stair without stored data is not calculated at all.
 lote::Elemento Calcular(almacen::proyecto::ProyectoAbierto& proyecto, const lote::Registro& generales) {
     Calculada escalera;
+    const auto& parametros = lote::Leer<DatosGenerales>(generales);
     if (almacen::tablas::LeaDatosEscalera(proyecto, escalera.Datos))
-        CalcularEscaleraH(escalera.Datos, lote::Leer<DatosGenerales>(generales), escalera.Resultados);
+        CalcularEscaleraH(escalera.Datos, parametros, escalera.Resultados);
+    escalera.Notas = AvisosDe(escalera.Datos, parametros, escalera.Resultados);
     const std::string error = escalera.Resultados.Error ? escalera.Resultados.Error->Texto() : "";
     const std::string nombre = escalera.Datos.Nombre;
     return {nombre, lote::Guardar(std::move(escalera)), error};
@@ -41,7 +45,7 @@ std::string GeneralesComoJson(const lote::Registro& generales) {
 
 std::string Json(const lote::Elemento& elemento) {
     const auto& escalera = lote::Leer<Calculada>(elemento.Calculado);
-    return EscaleraHJson(escalera.Datos, escalera.Resultados);
+    return EscaleraHJson(escalera.Datos, escalera.Resultados, escalera.Notas);
 }
 
 constexpr std::array<lote::ColumnaResumen, 10> Columnas{{{"Escalera helicoidal", nullptr},
@@ -57,7 +61,7 @@ constexpr std::array<lote::ColumnaResumen, 10> Columnas{{{"Escalera helicoidal",
 
 /// The largest absolute moments of both halves and the closest stirrups (0: none).
 std::vector<lote::Celda> Resumir(const lote::Elemento& elemento) {
-    const auto& [escalera, r] = lote::Leer<Calculada>(elemento.Calculado);
+    const auto& [escalera, r, notas] = lote::Leer<Calculada>(elemento.Calculado);
     double MX = 0, MY = 0, MT = 0, estribos = 0;
     for (const auto* tramo : {&r.TramoSuperior, &r.TramoInferior}) {
         for (const EstacionEscaleraH& estacion : *tramo) {

@@ -3,6 +3,7 @@
 #include <tuple>
 
 #include "lote/EscritorJson.h"
+#include "markus/Avisos.h"
 #include "store/tablas/CamposMarcus.h"
 
 namespace trabex::marcus::salida {
@@ -29,6 +30,7 @@ std::string MarcusJson(const NivelMarcus& nivel, const std::optional<ErrorEjecuc
             json.EndObject();
         }
         json.EndArray();
+        lote::EscribirAvisos(json, AvisosDe(nivel.Filas));
         lote::EscribirError(json, error);
     });
 }

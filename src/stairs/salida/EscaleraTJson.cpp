@@ -3,6 +3,8 @@
 #include <tuple>
 
 #include "lote/EscritorJson.h"
+#include "stairs/CalcularEscaleraT.h"
+#include "stairs/EstaticaEscaleraT.h"
 #include "store/tablas/CamposEscalera.h"
 
 namespace trabex::escaleras::salida {
@@ -65,16 +67,22 @@ std::string GeneralesJson(const DatosGenerales& generales) {
     return lote::ObjetoJson(generales, almacen::tablas::CamposGeneralesEscalera);
 }
 
-std::string EscaleraTJson(const DatosEscaleraT& escalera, const ResultadosEscaleraT& resultados) {
+std::string EscaleraTJson(const DatosEscaleraT& escalera, const ResultadosEscaleraT& resultados,
+                          const Avisos& avisos) {
     return lote::Objeto([&](Escritor& json) {
         lote::EscribirCampos(json, escalera, almacen::tablas::CamposListaT);
         lote::EscribirCampos(json, escalera, almacen::tablas::CamposEscaleraT);
         lote::EscribirCampos(json, resultados.Estatica, CamposEstatica);
         json.Key("TramoT");
-        lote::EscribirArreglo(json, resultados.TramoT, CamposTramoT, 0);
+        lote::EscribirEstaciones(json, resultados.TramoT, CamposTramoT, 0, UltimaEstacion, "X",
+                                 [&](std::size_t i) { return XDeEstacion(escalera, i); });
         json.Key("DescansoT");
-        lote::EscribirArreglo(json, resultados.DescansoT, CamposDescansoT);
+        lote::EscribirEstaciones(json, resultados.DescansoT, CamposDescansoT, 1, UltimoDescanso, "Angulo",
+                                 GradosDeDescanso);
         lote::EscribirCampos(json, resultados, CamposReacciones);
+        json.Key("EmpujeEstatico");
+        lote::Escribir(json, EmpujeEstatico(resultados));
+        lote::EscribirAvisos(json, avisos);
         lote::EscribirError(json, resultados.Error);
     });
 }

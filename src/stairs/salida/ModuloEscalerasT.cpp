@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 
+#include "stairs/Avisos.h"
 #include "stairs/CalcularEscaleraT.h"
 #include "stairs/salida/EscaleraTJson.h"
 #include "store/tablas/TablasEscalera.h"
@@ -15,6 +16,7 @@ namespace {
 struct Calculada {
     DatosEscaleraT Datos;
     ResultadosEscaleraT Resultados;
+    Avisos Notas;
 };
 
 lote::Registro LeerGenerales(almacen::Conexion& proyecto) {
@@ -28,7 +30,9 @@ lote::Registro LeerGenerales(almacen::Conexion& proyecto) {
 lote::Elemento Calcular(almacen::proyecto::ProyectoAbierto& proyecto, const lote::Registro& generales) {
     Calculada escalera;
     almacen::tablas::LeaDatosEscalera(proyecto, escalera.Datos);
-    CalcularEscaleraT(escalera.Datos, lote::Leer<DatosGenerales>(generales), escalera.Resultados);
+    const auto& parametros = lote::Leer<DatosGenerales>(generales);
+    CalcularEscaleraT(escalera.Datos, parametros, escalera.Resultados);
+    escalera.Notas = AvisosDe({escalera.Datos, parametros, escalera.Resultados});
     const std::string error = escalera.Resultados.Error ? escalera.Resultados.Error->Texto() : "";
     const std::string nombre = escalera.Datos.Nombre;
     return {nombre, lote::Guardar(std::move(escalera)), error};
@@ -40,7 +44,7 @@ std::string GeneralesComoJson(const lote::Registro& generales) {
 
 std::string Json(const lote::Elemento& elemento) {
     const auto& escalera = lote::Leer<Calculada>(elemento.Calculado);
-    return EscaleraTJson(escalera.Datos, escalera.Resultados);
+    return EscaleraTJson(escalera.Datos, escalera.Resultados, escalera.Notas);
 }
 
 constexpr std::array<lote::ColumnaResumen, 10> Columnas{{{"Escalera autoportante", nullptr},
@@ -57,7 +61,7 @@ constexpr std::array<lote::ColumnaResumen, 10> Columnas{{{"Escalera autoportante
 /// Extremes of the flight: the largest absolute moment in its plane, its largest steel for flexure and
 /// torsion, its closest stirrups (0: none).
 std::vector<lote::Celda> Resumir(const lote::Elemento& elemento) {
-    const auto& [escalera, r] = lote::Leer<Calculada>(elemento.Calculado);
+    const auto& [escalera, r, notas] = lote::Leer<Calculada>(elemento.Calculado);
     double momento = 0, superior = 0, inferior = 0, estribos = 0;
     for (const EscaleraTramoPunto& punto : r.TramoT) {
         momento = std::max({momento, std::fabs(punto.MomentoTotal), std::fabs(punto.MomentoPermanente)});
