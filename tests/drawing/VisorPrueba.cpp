@@ -77,6 +77,13 @@ TEST_F(VisorPrueba, SoloArrastraConElPanOConElBotonCentral) {
     Vista.SubirBoton(BotonRaton::Central);
     EXPECT_EQ(Anfitrion.Puntero, PunteroVista::Normal);
 
+    Vista.EjecutePanRealtime(true);
+    Vista.BajarBoton(BotonRaton::Izquierdo, 0, 0);
+    Vista.Mover(BotonRaton::Izquierdo, 0, 5);
+    EXPECT_EQ(Estado.PanY, -5);
+    Vista.Mover(BotonRaton::Ninguno, 40, 40);
+    EXPECT_EQ(Estado.PanX, 31);
+
     Vista.BajarBoton(BotonRaton::Derecho, 4, 5);
     EXPECT_EQ(Anfitrion.Menu, (PuntoLienzo{4, 5}));
 }

@@ -51,19 +51,22 @@ TEST_P(EscalaPrueba, ElFactorVaPorLaLongitudTotal) {
     Losa losa = prueba::LosaContinua({longitud / 2, longitud / 2}, 300);
     if (desnivel != 0) losa.JuntasD.push_back({3, 0, desnivel});
     Caso caso(losa);
-    caso.Dibujar(VistaGeometria);
-    const double porAncho = 1280 * k / longitud;
-    const double porAlto = 720 * 0.7 / (desnivel == 0 ? 7.5 : std::max(desnivel, 0.0) / 2 + 7.5);
-    EXPECT_DOUBLE_EQ(caso.Hoja.Vista.Escala, std::min(porAncho, porAlto));
-    EXPECT_EQ(caso.Hoja.Vista.OrigenX, 640);
-    EXPECT_EQ(caso.Hoja.Vista.OrigenY,
-              std::nearbyint(std::max(desnivel, 0.0) / 2 * caso.Hoja.Vista.Escala + 720 * 0.18));
+    for (const std::int32_t alto : {720, 3000}) {  // on the tall one the height never limits
+        caso.Lienzo = LienzoGrabador(1280, alto);
+        caso.Dibujar(VistaGeometria);
+        const double porAncho = 1280 * k / longitud;
+        const double porAlto = alto * 0.7 / (desnivel == 0 ? 7.5 : std::max(desnivel, 0.0) / 2 + 7.5);
+        EXPECT_DOUBLE_EQ(caso.Hoja.Vista.Escala, std::min(porAncho, porAlto));
+        EXPECT_EQ(caso.Hoja.Vista.OrigenX, 640);
+        EXPECT_EQ(caso.Hoja.Vista.OrigenY,
+                  std::nearbyint(std::max(desnivel, 0.0) / 2 * caso.Hoja.Vista.Escala + alto * 0.18));
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Longitudes, EscalaPrueba,
-                         testing::Values(Ajuste{5, 0, 0.60}, Ajuste{10, 0, 0.65}, Ajuste{10, 1, 0.55},
-                                         Ajuste{10, -1, 0.65}, Ajuste{15, 0, 0.70}, Ajuste{15.1, 0, 0.75},
-                                         Ajuste{80, 2, 0.75}));
+                         testing::Values(Ajuste{5, 0, 0.60}, Ajuste{5, 1, 0.60}, Ajuste{10, 0, 0.65},
+                                         Ajuste{10, 1, 0.55}, Ajuste{10, -1, 0.65}, Ajuste{15, 0, 0.70},
+                                         Ajuste{15, 1, 0.70}, Ajuste{15.1, 0, 0.75}, Ajuste{80, 2, 0.75}));
 
 TEST(Hojas, ElTextoSigueAlZoomDesdeElUltimoDibujoAEscalaNatural) {
     Caso caso(prueba::LosaContinua({5, 5}, 300, 100));

@@ -252,6 +252,7 @@ TEST_F(HojaPrueba, LosMomentosDeApoyoVanHaciaArriba) {
     Dibujar(VistaFuerzas);
     const Escritos escritos = EscritosEn(Lienzo);
     EXPECT_EQ(escritos.count(Descrito("300 + 100", 472, 156)), 1U);
+    EXPECT_TRUE(HayPoligono(Lienzo, {{175, 183}, {825, 183}, {825, 143}, {175, 143}}, {248, 199, 199}));
     EXPECT_EQ(escritos.count(Descrito("-1831", 183, 656)), 1U);
     EXPECT_EQ(escritos.count(Descrito("-1831", 785, 656)), 1U);
     EXPECT_EQ(escritos.count(Descrito("(kgf/metro):", 18, 912)), 1U);
@@ -262,6 +263,28 @@ TEST_F(HojaPrueba, LosMomentosDeApoyoVanHaciaArriba) {
     EXPECT_NEAR(campo->Lugar.y, 836, 1);
     EXPECT_TRUE(HayFlecha(Lienzo, {175, 693}, 1, 50));
     EXPECT_TRUE(HayFlecha(Lienzo, {500, 813}, -1, 50));
+}
+
+TEST_F(HojaPrueba, UnaReaccionSinSitioBajaUnRenglon) {
+    const auto dibujar = [&](std::initializer_list<double> luces) {
+        Datos = prueba::LosaContinua(luces, 300, 100);
+        auto& juntas = Resultados.ResultadoJunta[CasoPermanente];
+        juntas.assign(luces.size() + 2, {});
+        Resultados.ResultadoJunta[CasoVariable] = juntas;
+        for (std::size_t eje = 1; eje < juntas.size(); ++eje)
+            juntas[eje].RV = 1000 * static_cast<double>(eje);
+        Hoja.VistaActual = VistaFuerzas;
+        RedibujeVista(Lienzo, Hoja, {Datos, Generales, Resultados});
+        return EscritosEn(Lienzo);
+    };
+    const Escritos juntos = dibujar({0.2, 6.3});  // axes at 175, 195 and 825
+    EXPECT_EQ(juntos.count(Descrito("1200", 183, 930)), 1U);
+    EXPECT_EQ(juntos.count(Descrito("2400", 203, 945)), 1U);
+    EXPECT_EQ(juntos.count(Descrito("3600", 833, 930)), 1U);
+    // Ten pixels a metre: the arrow of 8 is smaller than a line of text.
+    const Escritos chicos = dibujar({75});
+    EXPECT_EQ(chicos.count(Descrito("1200", 128, 270)), 1U);
+    EXPECT_EQ(chicos.count(Descrito("PRUEBA", 480, 320)), 1U);
 }
 
 TEST_F(HojaPrueba, LasReaccionesSolasDejanTresFilasYSusTitulos) {
@@ -427,6 +450,16 @@ TEST_F(BocetoPrueba, LasCargasDeCadaTramo) {
     EXPECT_TRUE(HayFlecha(Lienzo, {300, 245}, 1, 50));
     EXPECT_TRUE(HayPoligono(Lienzo, {{100, 285}, {600, 285}, {600, 245}, {100, 245}}, {248, 214, 210}));
     EXPECT_TRUE(HayPoligono(Lienzo, {{600, 285}, {900, 285}, {900, 245}, {600, 245}}, Marca));
+    Datos.JuntasD.push_back({2, 0, 0.5});  // 4.5 m still fit; the slab's middle height goes to the canvas's
+    DibujeLosaCargas(Lienzo, Vista, Datos, {}, {});
+    EXPECT_EQ(EscritosEn(Lienzo).count(Descrito("300 + 100", 324, 258)), 1U);
+    EXPECT_TRUE(HayPoligono(Lienzo, {{100, 310}, {600, 260}, {600, 220}, {100, 270}}, {248, 214, 210}));
+    Datos.JuntasD.back().y = -0.5;
+    DibujeLosaDatos(Lienzo, Vista, Datos, {}, {});
+    EXPECT_DOUBLE_EQ(Vista.Escala, 600 * 0.55 / 3.7);
+    EXPECT_EQ(Vista.OrigenY, 158);  // 180 less a quarter of a metre
+    EXPECT_EQ(EscritosEn(Lienzo).count(Descrito("(0,00 ; -0,50)", 548, 162)), 1U);
+    Datos.JuntasD.pop_back();
     Datos.Tramos[1].Wp = Datos.Tramos[1].WV = 0;
     DibujeLosaCargas(Lienzo, Vista, Datos, {}, {});
     EXPECT_EQ(Lienzo.DeColor({248, 214, 210}).size(), 1U);
