@@ -111,16 +111,24 @@ INSERT INTO LosaJuntasD VALUES
     ('L-9 RAMPA DE ACCESO', 3, 0, -1.0);
 
 
--- Stairs of the building: the main one, in two flights, and the service one; a spiral to the roof and another
+-- Stairs of the building: the main one and the service one, with stirrups for torsion near their supports; the
+-- emergency one, which needs none; that of the auditorium, whose landing fails in shear; that of the lobby, which
+-- takes steel in compression at its supports and 1/2" stirrups; a spiral to the roof and another
 -- in the lobby.
 
 INSERT INTO EscaleraTG VALUES (250, 4200, 0.025, 0.9, 0.75, 1.55);
 INSERT INTO EscaleraTDatos VALUES
     ('E-1 PRINCIPAL', 'ESCALERA PRINCIPAL, PLANTA TIPO'),
-    ('E-2 SERVICIO', 'ESCALERA DE SERVICIO, PLANTA BAJA');
+    ('E-2 SERVICIO', 'ESCALERA DE SERVICIO, PLANTA BAJA'),
+    ('E-3 EMERGENCIA', 'ESCALERA DE EMERGENCIA'),
+    ('E-4 AUDITORIO', 'ESCALERA DEL AUDITORIO'),
+    ('E-5 VESTÍBULO', 'ESCALERA DEL VESTÍBULO');
 INSERT INTO EscaleraT VALUES
     ('E-1 PRINCIPAL', 2.7, 1.5, 3, 0.2, 0.2, 2076, 1865, 1040),
-    ('E-2 SERVICIO', 2.4, 1.2, 3, 0.18, 0.18, 1340, 1190, 640);
+    ('E-2 SERVICIO', 2.4, 1.2, 3, 0.18, 0.18, 1340, 1190, 640),
+    ('E-3 EMERGENCIA', 1.8, 0.9, 2.4, 0.25, 0.2, 700, 600, 350),
+    ('E-4 AUDITORIO', 4, 2, 3, 0.25, 0.15, 2600, 3000, 1500),
+    ('E-5 VESTÍBULO', 3.6, 1.4, 2.8, 0.12, 0.15, 2400, 2200, 1200);
 
 INSERT INTO EscaleraHG VALUES (250, 4200, 0.025, 0.9, 0.75, 1.55);
 INSERT INTO EscaleraHDatos VALUES

@@ -7,12 +7,14 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
 #include "base/Proyecto.h"
 #include "drawing/Lienzo.h"
 #include "store/Conexion.h"
+#include "store/Valor.h"
 #include "store/proyecto/ProyectoAbierto.h"
 
 // What an element is to whoever reads, calculates and writes whole projects without knowing any element: a
@@ -62,14 +64,16 @@ struct Dibujo {
     std::string Clave;   ///< "geometria": what tells its file from the element's others
     std::string Titulo;  ///< caption in reports
     std::function<void(dibujo::Lienzo&)> Dibujar;
+    /// Further columns of the scratch table `Grafico`.
+    std::vector<std::pair<std::string_view, almacen::Valor>> Columnas{};
 };
 
 /// How the reports of a kind are made. Layouts are files of the program's folder `Reportes`.
 struct ReportesDeModulo {
     const char* Titulo;      ///< `Titulo` of the scratch table `Generales`
-    const char* Resultados;  ///< layout of the report of results
+    const char* Resultados;  ///< layout of the report of results; null: they have none
     const char* Graficos;    ///< layout of the report of drawings; null: they have none
-    /// Fills the kind's own tables of the scratch database.
+    /// Fills the kind's own tables of the scratch database; null where it has no report of results.
     void (*Montar)(almacen::Conexion& temporal, const Lista& lista);
 };
 

@@ -127,7 +127,7 @@ TEST(OpcionesReporte, LoElegidoQuedaAlAceptarYSoloEntonces) {
     Pulsar(escaleras, "A4");
     Pulsar(escaleras, " Aceptar ");
     EXPECT_EQ(estado.OpcionGrafico, 3);
-    EXPECT_TRUE(estado.PapelA4 && !estado.Apaisado);
+    EXPECT_TRUE(estado.Papel.A4 && !estado.Papel.Apaisado);
 }
 
 TEST(ExportarGrafico, SalvaLaImagenConSuZoomYRecuerdaLaCarpeta) {

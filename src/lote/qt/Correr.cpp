@@ -80,11 +80,15 @@ class Salidas {
 
     void EscribirLosReportes() {
         bool hay = false;
-        for (const Lista& lista : calculado_.Listas) {
-            if (!lista.De->Reportes) continue;
-            hay = true;
-            EscribirReportes(CarpetaDelPrograma(), lista, calculado_.Datos, !opciones_.SinDibujos,
-                             opciones_.Carpeta, marcha_, faltas_);
+        // Kinds without a report of results first: the scratch database that stays is one of results.
+        for (const bool conResultados : {false, true}) {
+            for (const Lista& lista : calculado_.Listas) {
+                const ReportesDeModulo* reportes = lista.De->Reportes;
+                if (!reportes || (reportes->Resultados != nullptr) != conResultados) continue;
+                hay = true;
+                EscribirReportes(CarpetaDelPrograma(), lista, calculado_.Datos, !opciones_.SinDibujos,
+                                 opciones_.Carpeta, marcha_, faltas_);
+            }
         }
         if (hay) Cerrar("Reportes", opciones_.Carpeta / "reportes");
     }

@@ -81,6 +81,7 @@ class ReportesDeLista {
             });
             for (std::size_t i = 0; i < tanda.size(); ++i) {
                 const auto& [elemento, dibujo] = dibujos[desde + i];
+                for (const auto& [columna, valor] : dibujo.Columnas) tabla.Poner(columna, valor);
                 tabla.Agregar(elemento->Nombre, dibujo.Titulo, std::move(tanda[i]));
                 if (marcha_.Avance) marcha_.Avance("Montando los gráficos", desde + i + 1, dibujos.size());
             }
@@ -128,7 +129,7 @@ void EscribirReportes(const std::filesystem::path& programa, const Lista& lista,
     const montaje::EntornoReportes entorno{programa, carpeta, ""};
     ReportesDeLista reportes(entorno, lista, datos, marcha, faltas);
     if (dibujos && lista.De->Reportes->Graficos) reportes.Graficos();
-    reportes.Resultados();
+    if (lista.De->Reportes->Resultados) reportes.Resultados();
 }
 
 }  // namespace trabex::lote::qt

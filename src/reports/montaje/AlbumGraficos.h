@@ -11,9 +11,11 @@ namespace trabex::montaje {
 /// each with a step of the progress panel.
 class AlbumGraficos {
   public:
-    /// `total` is the number of pictures to come. What it refers to must outlive it.
+    /// `total` is the number of pictures to come; the panel takes a step after each `porPaso` of them. What it
+    /// refers to must outlive it.
     AlbumGraficos(almacen::Conexion& temporal, const EntornoReportes& entorno, SuperficieOculta& superficie,
-                  PanelProgreso& panel, std::size_t total);
+                  PanelProgreso& panel, std::size_t total, const TamanoGrafico& tamano = {},
+                  std::size_t porPaso = 1);
     /// Leaves the last picture in the file `Foto` of the scratch folder, in quality 100.
     ~AlbumGraficos();
     AlbumGraficos(const AlbumGraficos&) = delete;
@@ -31,6 +33,8 @@ class AlbumGraficos {
     SuperficieOculta& superficie_;
     PanelProgreso& panel_;
     std::size_t total_;
+    TamanoGrafico tamano_;
+    std::size_t porPaso_;
     TablaGraficos tabla_;
 };
 

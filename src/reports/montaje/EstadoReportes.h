@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <filesystem>
 
+#include "reports/montaje/PapelDeGraficos.h"
 #include "store/Recordset.h"
 
 namespace trabex::montaje {
@@ -13,8 +14,7 @@ struct EstadoReportes {
     std::uint8_t OpcionExportarLosas = 0;  ///< 0 the selected slab, 1 all slabs
     bool ExportarDesplazamientos = false;  ///< the report shows the joints' displacements
     std::uint8_t OpcionGrafico = 0;        ///< which drawings: see GraficosLosas.h
-    bool PapelA4 = false;  ///< paper of the drawings whose dialog asks for it: A4, or else letter
-    bool Apaisado = true;  ///< and lying, or else upright
+    PapelDeGraficos Papel{};               ///< of the drawings whose dialog asks for it
     std::filesystem::path
         CarpetaGraficos{};           ///< where a picture was last saved in this run; empty: nowhere yet
     bool GenerandoReporte = false;   ///< calculations must not touch the window

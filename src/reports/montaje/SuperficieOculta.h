@@ -4,9 +4,16 @@
 #include <functional>
 
 #include "drawing/Lienzo.h"
+#include "drawing/Superficie.h"
 #include "store/Valor.h"
 
 namespace trabex::montaje {
+
+/// Size of a drawing's hidden surface, twips.
+struct TamanoGrafico {
+    std::int32_t Ancho = dibujo::AnchoGraficoTwips;
+    std::int32_t Alto = dibujo::AltoGraficoTwips;
+};
 
 /// A picture as the scratch database keeps it: a Windows bitmap file, which any program opens, and beside it
 /// the same pixels as a PNG, which writers of reports take as it stands.

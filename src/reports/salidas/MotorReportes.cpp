@@ -26,6 +26,12 @@ void Reporte::Ubicar(const std::filesystem::path& base) {
     DescartarDatos();
 }
 
+void Reporte::PonerPapel(documento::TamanoPagina tamano, bool apaisado) {
+    diseno_.Hoja.Tamano = tamano;
+    diseno_.Hoja.Apaisada = apaisado;
+    DescartarDatos();
+}
+
 const documento::Documento& Reporte::Contenido() {
     if (!compuesto_) compuesto_ = documento::Componer(diseno_, separadores_);
     return *compuesto_;

@@ -24,6 +24,8 @@ class Reporte {
     std::vector<documento::DisenoReporte>& Subreportes() { return diseno_.Subreportes; }
     /// Sets the database of every table, those of the subreports included, whatever the layout stores.
     void Ubicar(const std::filesystem::path& base);
+    /// Sets the page of every output, whatever the layout says.
+    void PonerPapel(documento::TamanoPagina tamano, bool apaisado);
     /// The next output reads the database again.
     void DescartarDatos() { compuesto_.reset(); }
 

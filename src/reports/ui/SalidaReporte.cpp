@@ -88,6 +88,7 @@ bool SalidaReporte::Enviar(std::uint8_t salida) {
     vista_.PunteroDeEspera(true);
     salidas::Reporte reporte(entorno_.Servicios.Carpetas.CaminoPrograma / "Reportes" / diseno,
                              entorno_.LaAplicacion.SeparadoresLocales);
+    Ajustar(reporte);
     reporte.DescartarDatos();
     reporte.Ubicar(montaje::TemporalMdb(entorno_.Montaje()));
     const documento::Documento& documento = reporte.Contenido();
@@ -104,6 +105,13 @@ std::string ImpreReport::Diseno() const {
     const std::int16_t actual = entorno_.Estado.ReporteActual;
     const bool existe = actual >= 1 && static_cast<std::size_t>(actual) <= DisenosTabulares.size();
     return existe ? DisenosTabulares[static_cast<std::size_t>(actual - 1)] : "";
+}
+
+void ImpreGrafico::Ajustar(salidas::Reporte& reporte) const {
+    if (entorno_.Estado.GraficoHelicoidal || !entorno_.Estado.GraficoAutoportante) return;
+    const montaje::PapelDeGraficos& papel = entorno_.Estado.Papel;
+    reporte.PonerPapel(papel.A4 ? documento::TamanoPagina::A4 : documento::TamanoPagina::Carta,
+                       papel.Apaisado);
 }
 
 std::string ImpreGrafico::Diseno() const {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "reports/montaje/BaseTemporal.h"
+#include "reports/montaje/PapelDeGraficos.h"
 #include "reports/salidas/MotorReportes.h"
 #include "shell/Aplicacion.h"
 #include "shell/Servicios.h"
@@ -19,6 +20,7 @@ struct EstadoSalida {
     std::int16_t ReporteActual = 0;          ///< layout of the tabular reports, 1 to 5
     bool GraficoHelicoidal = false;          ///< the drawing reports are those of the helical stairs
     bool GraficoAutoportante = false;        ///< or of the self-supporting stairs; neither: the slabs'
+    montaje::PapelDeGraficos Papel{};        ///< of the self-supporting stairs' drawings
     std::uint8_t FormatoSalida = 0;          ///< the last chosen output, a place in Salidas
     std::filesystem::path ArchivoExportado;  ///< the last file chosen
     std::string Impresora;                   ///< chosen for this run; empty: the system's own
@@ -135,6 +137,8 @@ class SalidaReporte {
   protected:
     /// File name of the layout; empty when none is chosen.
     virtual std::string Diseno() const = 0;
+    /// What the program sets of an opened layout.
+    virtual void Ajustar(salidas::Reporte& /*reporte*/) const {}
     virtual void AlTerminar() {}
 
     EntornoSalida& entorno_;
@@ -155,13 +159,15 @@ class ImpreReport : public SalidaReporte {
     std::string Diseno() const override;
 };
 
-/// Drawing reports. The next time it opens with the screen chosen.
+/// Drawing reports; those of the self-supporting stairs on the paper that was asked for. The next time it
+/// opens with the screen chosen.
 class ImpreGrafico : public SalidaReporte {
   public:
     using SalidaReporte::SalidaReporte;
 
   protected:
     std::string Diseno() const override;
+    void Ajustar(salidas::Reporte& reporte) const override;
     void AlTerminar() override { entorno_.Estado.FormatoSalida = SalidaPantalla; }
 };
 

@@ -7,6 +7,7 @@
 #include "stairs/Avisos.h"
 #include "stairs/CalcularEscaleraT.h"
 #include "stairs/salida/EscaleraTJson.h"
+#include "stairs/salida/GraficosEscaleras.h"
 #include "store/tablas/TablasEscalera.h"
 
 namespace trabex::escaleras::salida {
@@ -18,6 +19,11 @@ struct Calculada {
     ResultadosEscaleraT Resultados;
     Avisos Notas;
 };
+
+EscaleraCalculada De(const lote::Lista& lista, const lote::Elemento& elemento) {
+    const auto& escalera = lote::Leer<Calculada>(elemento.Calculado);
+    return {escalera.Datos, lote::Leer<DatosGenerales>(lista.Generales), escalera.Resultados};
+}
 
 lote::Registro LeerGenerales(almacen::Conexion& proyecto) {
     DatosDelProyecto datos;
@@ -74,6 +80,43 @@ std::vector<lote::Celda> Resumir(const lote::Elemento& elemento) {
             superior,   inferior,   estribos};
 }
 
+constexpr std::array<const char*, 4> ClavesDeHoja{"geometria", "solicitaciones", "diseno", "reacciones"};
+
+/// The four sheets, as the report of all stairs shows them.
+std::vector<lote::Dibujo> Dibujos(const lote::Lista& lista, const lote::Elemento& elemento) {
+    std::vector<lote::Dibujo> dibujos;
+    const EscaleraCalculada escalera = De(lista, elemento);
+    for (const DibujoDeEscalera& dibujo : PedidoDe(1).Dibujos) {
+        dibujos.push_back({ClavesDeHoja[dibujo.Vista], elemento.Nombre + dibujo.Titulo,
+                           [escalera, vista = dibujo.Vista](dibujo::Lienzo& lienzo) {
+                               dibujo::escalera::HojaEscalera hoja;
+                               hoja.VistaActual = vista;
+                               hoja.Vista.ExportandoGrafico = true;
+                               dibujo::escalera::RedibujeVista(lienzo, hoja, escalera);
+                           },
+                           CargasDe(escalera.Datos)});
+    }
+    return dibujos;
+}
+
+std::vector<std::function<void(dibujo::Lienzo&)>> Papel(const lote::Lista& lista,
+                                                        const lote::Elemento& elemento,
+                                                        const DatosDelProyecto& datos) {
+    std::vector<std::function<void(dibujo::Lienzo&)>> paginas;
+    for (const DibujoDeEscalera& dibujo : PedidoDe(1).Dibujos) {
+        paginas.emplace_back([escalera = De(lista, elemento), vista = dibujo.Vista,
+                              &datos](dibujo::Lienzo& lienzo) {
+            dibujo::escalera::HojaEscalera hoja;
+            hoja.VistaActual = vista;
+            dibujo::escalera::GuardeGraficos1(lienzo, hoja, escalera, {"", datos.Proyecto, datos.Calculista});
+        });
+    }
+    return paginas;
+}
+
+constexpr lote::ReportesDeModulo Reportes{TituloReporteEscaleras, nullptr, "GraficoAutoportantes.rpt",
+                                          nullptr};
+
 }  // namespace
 
 const lote::Modulo ModuloEscalerasT{.Nombre = "escalera autoportante",
@@ -85,6 +128,9 @@ const lote::Modulo ModuloEscalerasT{.Nombre = "escalera autoportante",
                                     .GeneralesJson = GeneralesComoJson,
                                     .Json = Json,
                                     .Columnas = Columnas,
-                                    .Resumir = Resumir};
+                                    .Resumir = Resumir,
+                                    .Dibujos = Dibujos,
+                                    .Papel = Papel,
+                                    .Reportes = &Reportes};
 
 }  // namespace trabex::escaleras::salida

@@ -66,15 +66,15 @@ VentanaOpcionGrafico::VentanaOpcionGrafico(const DialogoDeGraficos& dialogo, mon
     QButtonGroup* orientacion = nullptr;
     if (dialogo.PidePapel) {
         auto* fila = new QHBoxLayout;
-        papel = Marco(fila, "Tamaño del Papel", Papeles, estado.PapelA4 ? 1 : 0);
-        orientacion = Marco(fila, "Orientación del Papel", Orientaciones, estado.Apaisado ? 1 : 0);
+        papel = Marco(fila, "Tamaño del Papel", Papeles, estado.Papel.A4 ? 1 : 0);
+        orientacion = Marco(fila, "Orientación del Papel", Orientaciones, estado.Papel.Apaisado ? 1 : 0);
         columna->addLayout(fila);
     }
     columna->addStretch(1);
     columna->addLayout(programa::qt::FilaAceptarCancelar(this, [this, &estado, graficos, papel, orientacion] {
         estado.OpcionGrafico = static_cast<std::uint8_t>(graficos->checkedId());
-        if (papel != nullptr) estado.PapelA4 = papel->checkedId() == 1;
-        if (orientacion != nullptr) estado.Apaisado = orientacion->checkedId() == 1;
+        if (papel != nullptr) estado.Papel.A4 = papel->checkedId() == 1;
+        if (orientacion != nullptr) estado.Papel.Apaisado = orientacion->checkedId() == 1;
         accept();
     }));
     setMinimumWidth(340);

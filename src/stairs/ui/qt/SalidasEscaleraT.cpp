@@ -1,16 +1,54 @@
 #include "stairs/ui/qt/SalidasEscaleraT.h"
 
+#include <QAction>
+
+#include "reports/montaje/qt/SuperficieQt.h"
+#include "reports/ui/qt/PanelProgresoQt.h"
 #include "reports/ui/qt/VentanaExportarGrafico.h"
+#include "reports/ui/qt/VentanaOpcionesReporte.h"
+#include "reports/ui/qt/VentanaSalidaReporte.h"
+#include "shell/qt/ComunVentanas.h"
+#include "stairs/salida/GraficosEscaleras.h"
 
 namespace trabex::escaleras::ui::qt {
 
 OperacionesDeEscaleras SalidasEscaleraT::Operaciones() {
-    return {{"ID_ExportarG",
-             [this](EscaleraT& escaleras, QWidget& ventana) { ExportarImagen(escaleras, ventana); }}};
+    const auto propia = [this](void (SalidasEscaleraT::*operacion)(EscaleraT&, VentanaEscaleraT&)) {
+        return [this, operacion](EscaleraT& escaleras, VentanaEscaleraT& ventana) {
+            (this->*operacion)(escaleras, ventana);
+        };
+    };
+    return {{"ID_Exportar", propia(&SalidasEscaleraT::ExportarGraficos)},
+            {"ID_ExportarG", propia(&SalidasEscaleraT::ExportarImagen)}};
+}
+
+void SalidasEscaleraT::ExportarGraficos(EscaleraT& escaleras, VentanaEscaleraT& ventana) {
+    if (escaleras.Lista().Vacia()) return;
+    const dibujo::EstadoVista& vista = escaleras.Estado().Hoja.Vista;
+    if (vista.Zoom != 1 || vista.PanX != 0 || vista.PanY != 0) ventana.Accion("ID_ZoomExtents")->trigger();
+    reportes::ui::qt::VentanaOpcionGrafico opciones(reportes::ui::OpcionGraficoET, salida_.Opciones,
+                                                    aplicacion_.Preferencias, &ventana);
+    if (opciones.exec() != QDialog::Accepted) return;
+    {
+        programa::qt::PunteroDeTrabajo puntero;
+        puntero.Poner(true);
+        montaje::qt::SuperficieQt superficie;
+        reportes::ui::qt::PanelProgresoQt panel(&ventana);
+        salida::GuardeGraficos({aplicacion_.CaminoPrograma, aplicacion_.CaminoUsuario, aplicacion_.Usuario},
+                               {aplicacion_.Proyecto, aplicacion_.Datos, escaleras.Calculada()},
+                               aplicacion_.SeparadoresLocales, superficie, panel, salida_.Opciones);
+        puntero.Poner(false);
+    }
+    salida_.Estado.GraficoHelicoidal = false;
+    salida_.Estado.GraficoAutoportante = true;
+    salida_.Estado.Papel = salida_.Opciones.Papel;
+    reportes::ui::qt::VentanaSalidaReporte(entorno_, reportes::ui::qt::VentanaSalidaReporte::Clase::Grafico,
+                                           &ventana)
+        .exec();
 }
 
 /// The window's zoom is its own: the workspace's comes back by itself.
-void SalidasEscaleraT::ExportarImagen(EscaleraT& escaleras, QWidget& ventana) {
+void SalidasEscaleraT::ExportarImagen(EscaleraT& escaleras, VentanaEscaleraT& ventana) {
     dibujo::escalera::HojaEscalera hoja = escaleras.Estado().Hoja;
     const auto dibujar = [&](dibujo::Lienzo& lienzo, dibujo::EstadoVista& vista) {
         hoja.Vista = vista;

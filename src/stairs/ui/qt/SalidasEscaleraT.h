@@ -10,17 +10,22 @@ class SalidasEscaleraT {
   public:
     SalidasEscaleraT(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
                      reportes::ui::qt::SalidaDelPrograma& salida)
-        : aplicacion_(aplicacion), servicios_(servicios), salida_(salida) {}
+        : aplicacion_(aplicacion),
+          servicios_(servicios),
+          salida_(salida),
+          entorno_(salida.Entorno(aplicacion, servicios)) {}
 
     /// By the key of each command.
     OperacionesDeEscaleras Operaciones();
 
   private:
-    void ExportarImagen(EscaleraT& escaleras, QWidget& ventana);
+    void ExportarGraficos(EscaleraT& escaleras, VentanaEscaleraT& ventana);
+    void ExportarImagen(EscaleraT& escaleras, VentanaEscaleraT& ventana);
 
     programa::Aplicacion& aplicacion_;
     programa::Servicios servicios_;
     reportes::ui::qt::SalidaDelPrograma& salida_;
+    reportes::ui::EntornoSalida entorno_;
 };
 
 }  // namespace trabex::escaleras::ui::qt

@@ -5,10 +5,12 @@
 
 namespace trabex::escaleras::ui::qt {
 
+class VentanaEscaleraT;
+
 /// What other parts of the program do with the workspace's stairs, by the command's key. A command without
 /// its operation is disabled.
 using OperacionesDeEscaleras =
-    std::map<std::string_view, std::function<void(EscaleraT& escaleras, QWidget& ventana)>>;
+    std::map<std::string_view, std::function<void(EscaleraT& escaleras, VentanaEscaleraT& ventana)>>;
 
 /// The workspace of self-supporting stairs: their list, their commands, and the four sheets of the selected
 /// one.
