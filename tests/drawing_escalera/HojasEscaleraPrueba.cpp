@@ -104,8 +104,14 @@ INSTANTIATE_TEST_SUITE_P(Superficies, Rejilla,
                          testing::Values(SuperficieDePrueba{"screen", 1120, 632, 96, false},
                                          SuperficieDePrueba{"small", 850, 560, 96, false},
                                          SuperficieDePrueba{"report", 940, 580, 96, false},
-                                         SuperficieDePrueba{"portrait", 4500, 6000, 600, true},
-                                         SuperficieDePrueba{"landscape", 6000, 4500, 600, true}));
+                                         SuperficieDePrueba{"report letter", 931, 581, 96, false},
+                                         SuperficieDePrueba{"report letter upright", 691, 821, 96, false},
+                                         SuperficieDePrueba{"report A4", 997, 559, 96, false},
+                                         SuperficieDePrueba{"report A4 upright", 668, 888, 96, false},
+                                         SuperficieDePrueba{"letter upright", 4533, 6033, 600, true},
+                                         SuperficieDePrueba{"A4 upright", 4394, 6449, 600, true},
+                                         SuperficieDePrueba{"letter", 6033, 4533, 600, true},
+                                         SuperficieDePrueba{"A4", 6449, 4394, 600, true}));
 
 struct Origen {
     std::uint8_t Vista;

@@ -50,7 +50,7 @@ class Apoyo {
         const MedidaTexto medida = p_.ElLienzo().Medir(valor);
         const double ancho = 0.101 * p_.Escala() + p_.Unidades(2) + medida.Alto / 2.0;
         const double centro = punta - std::max(LargoDeFlecha * p_.Escala(), 1.0 * medida.Ancho) / 2;
-        p_.EscribirCentrado(valor, canto_ - ancho, centro, 90);
+        p_.EscribirCentrado(valor, std::max(canto_ - ancho, medida.Alto / 2.0 + 1), centro, 90);
         return std::min(Pixeles(centro - medida.Ancho / 2.0), punta - Pixeles(LargoDeFlecha * p_.Escala()));
     }
 
@@ -61,7 +61,8 @@ class Apoyo {
         DibujeFlechaDiagonal(p_.ElLienzo(), haciaLaEscalera ? cerca : cerca - largo, fila,
                              haciaLaEscalera ? HaciaDerecha : HaciaIzquierda, ColorFlecha, p_.Escala());
         const std::int32_t bajo = fila + Pixeles(0.101 * p_.Escala()) + p_.Unidades(1);
-        p_.Escribir(valor, Ancla::Derecha, cerca, bajo);
+        // A surface that is higher than wide has no room at the stair's left.
+        p_.Escribir(valor, Ancla::Derecha, std::max(cerca, p_.ElLienzo().Medir(valor).Ancho), bajo);
     }
 
   private:

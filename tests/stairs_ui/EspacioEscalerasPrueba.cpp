@@ -1,0 +1,239 @@
+// The workspace of self-supporting stairs, with scripted answers, down to the file.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "stairs/ui/EscaleraT.h"
+#include "stairs/ui/EscaleraTG.h"
+#include "stairs/ui/EscaleraTNueva.h"
+#include "stairs/ui/EscaleraTitulo.h"
+#include "store/tablas/TablasEscalera.h"
+#include "support/CarpetaTemporal.h"
+#include "support/ProyectoDePrueba.h"
+#include "support/ShellGuiado.h"
+
+namespace trabex {
+
+using namespace almacen;
+using namespace almacen::tablas;
+using namespace escaleras;
+using namespace escaleras::ui;
+using namespace programa;
+namespace {
+
+using dibujo::escalera::VistaEscalera;
+using testing::ElementsAre;
+
+struct VistaGuiada : VistaEspacio, VistaEscaleraT {
+    void PonerTitulo(const std::string& titulo) override { Titulo = titulo; }
+    void PonerEstado(const std::string&) override {}
+    void PonerEncabezado(const std::string& texto) override { Encabezado = texto; }
+    void LlenarLista(const std::vector<std::string>& nombres) override { Filas = nombres; }
+    void MarcarFila(int fila) override { Marcada = fila; }
+    void PonerAvisos(const Avisos&) override {}
+    void RestablecerVista() override { ++Restablecida; }
+    void Redibujar() override { ++Dibujos; }
+    void MostrarRenombrar(programa::Renombrar& operaciones) override { operaciones.Aceptar(NombreNuevo); }
+    void MarcarHoja(VistaEscalera hoja) override { Hoja = hoja; }
+    bool MostrarEscaleraTNueva() override { return Nueva(); }
+    void MostrarEscaleraTDatos(const TrabajoEscaleraT& trabajo) override { Datos(trabajo); }
+    bool MostrarEscaleraTG() override { return General(); }
+    bool MostrarEscaleraTitulo() override { return TituloNuevo(); }
+
+    std::string Titulo, Encabezado, NombreNuevo;
+    std::vector<std::string> Filas;
+    int Marcada = 0, Restablecida = 0, Dibujos = 0;
+    VistaEscalera Hoja = dibujo::escalera::VistaReacciones;
+    std::function<bool()> Nueva, General, TituloNuevo;
+    std::function<void(const TrabajoEscaleraT&)> Datos;
+};
+
+struct SinFoco : VistaDeCampos<CampoEscaleraT>, VistaDeCampos<CampoEscaleraTG> {
+    void Enfocar(CampoEscaleraT) override {}
+    void Enfocar(CampoEscaleraTG) override {}
+};
+
+struct EspacioEscaleras : testing::Test {
+    EspacioEscaleras() {
+        aplicacion.CaminoUsuario = carpeta.Camino();
+        aplicacion.ArchivoProyecto =
+            Proyecto("obra.los",
+                     "INSERT INTO EscaleraTDatos VALUES ('B', 'SEGUNDA'), ('A', 'PRIMERA');"
+                     "INSERT INTO EscaleraT VALUES ('A', 2.4, 1.2, 3, 0.15, 0.15, 1200, 1000,"
+                     " 600);");
+        aplicacion.NombreProyecto = "obra.los";
+        espacio.Lista().Abrir();
+    }
+    std::filesystem::path Proyecto(const std::string& nombre, const std::string& filas) const {
+        CrearBaseDatos(carpeta / nombre, prueba::EsquemaDeProyecto() + filas);
+        return carpeta / nombre;
+    }
+    /// A column of a table, in the order of the file.
+    std::vector<std::string> Columna(std::string_view tabla, std::string_view columna) const {
+        Conexion conexion;
+        AbrirConexion(conexion, aplicacion.ArchivoProyecto);
+        Recordset filas;
+        AbrirRecordset(conexion, filas, tabla);
+        std::vector<std::string> valores;
+        for (int fila = 1; fila <= filas.NumeroRegistros(); ++fila) {
+            filas.MoverA(fila);
+            valores.push_back(filas.Texto(columna));
+        }
+        return valores;
+    }
+    bool Agregar(const std::string& nombre, const std::string& titulo) {
+        return EscaleraTNueva(espacio.Lista()).Aceptar(nombre, titulo);
+    }
+    void Guardar(const TrabajoEscaleraT& trabajo, double L) {
+        EscaleraTDatos ventana(trabajo, caja, sinFoco);
+        DatosEscaleraT entrados = ventana.Mostrar();
+        entrados.L = L;
+        EXPECT_TRUE(ventana.Salvar(entrados));
+    }
+
+    prueba::CarpetaTemporal carpeta;
+    Aplicacion aplicacion;
+    prueba::CajaGuiada caja;
+    prueba::DialogosGuiados dialogos;
+    prueba::PlataformaGuiada plataforma{carpeta.Camino()};
+    Servicios servicios{caja, dialogos, plataforma};
+    VistaGuiada vista;
+    SinFoco sinFoco;
+    EscaleraT espacio{aplicacion, servicios, vista, vista};
+};
+
+TEST_F(EspacioEscaleras, AlAbrirSeVeLaPrimera) {
+    EXPECT_EQ(vista.Titulo, "Trabex 2024   Proyecto:[OBRA.LOS]");
+    EXPECT_THAT(vista.Filas, ElementsAre("A", "B"));
+    EXPECT_EQ(vista.Encabezado, "ESCALERA: A");
+    EXPECT_EQ(vista.Hoja, dibujo::escalera::VistaGeometria);
+    EXPECT_EQ(vista.Dibujos, 1);  // nothing is drawn while it loads
+    EXPECT_EQ(aplicacion.Generales.FS, 1.55);
+    EXPECT_NEAR(espacio.Estado().Resultados.ReaccionVertical, 4080, 1e-9);
+
+    espacio.Lista().Seleccionar(2);  // a stair without data keeps the results and shows an empty sheet
+    EXPECT_EQ(vista.Encabezado, "ESCALERA: B");
+    EXPECT_EQ(espacio.Estado().Abierta.L, 0);
+    EXPECT_NEAR(espacio.Estado().Resultados.ReaccionVertical, 4080, 1e-9);
+
+    const int antes = vista.Restablecida;
+    espacio.ElegirHoja(dibujo::escalera::VistaDiseno);
+    EXPECT_EQ(vista.Restablecida, antes + 1);
+    dialogos.Elegidos = {Proyecto("otra.los", "INSERT INTO EscaleraTDatos VALUES ('Z', '');")};
+    espacio.Lista().AbrirProyecto();
+    EXPECT_EQ(vista.Encabezado, "ESCALERA: Z");
+    EXPECT_EQ(vista.Hoja, dibujo::escalera::VistaGeometria);
+    EXPECT_EQ(espacio.Estado().Hoja.VistaActual, dibujo::escalera::VistaGeometria);
+    espacio.Lista().AbrirProyecto();  // cancelled
+    EXPECT_EQ(vista.Encabezado, "ESCALERA: Z");
+}
+
+TEST_F(EspacioEscaleras, CrearYDejarSinSalvarMuestraLaAnterior) {
+    vista.Nueva = [&] {
+        EXPECT_FALSE(Agregar("  ", "sin nombre"));
+        EXPECT_TRUE(caja.Mensajes.empty());
+        EXPECT_FALSE(Agregar(" a ", ""));  // taken, by another case
+        EXPECT_EQ(caja.Mensajes.back().Texto, "La Escalera: a\nLa Escalera ya Existe en el Proyecto...");
+        EXPECT_EQ(caja.Mensajes.back().Encabezado, "Creando Nueva Escalera...");
+        return Agregar(" C ", " TERCERA ");
+    };
+    vista.Datos = [&](const TrabajoEscaleraT& trabajo) {
+        EXPECT_TRUE(trabajo.Nueva);
+        EXPECT_EQ(vista.Encabezado, "ESCALERA: C");
+        EXPECT_EQ(EscaleraTDatos(trabajo, caja, sinFoco).Mostrar().L, 2.7);
+    };
+    espacio.Nueva();
+    EXPECT_THAT(Columna("EscaleraTDatos", "Nombre"), ElementsAre("B", "A", "C"));
+    EXPECT_THAT(Columna("EscaleraTDatos", "Titulo"), ElementsAre("SEGUNDA", "PRIMERA", "TERCERA"));
+    EXPECT_THAT(Columna("EscaleraT", "Nombre"), ElementsAre("A"));
+    EXPECT_EQ(vista.Marcada, 3);
+    EXPECT_EQ(espacio.Estado().Abierta.L, 2.4);  // the stair that was selected before
+    EXPECT_EQ(espacio.Estado().Abierta.Titulo, "TERCERA");
+    espacio.Lista().Seleccionar(3);
+    EXPECT_EQ(espacio.Estado().Abierta.L, 0);
+
+    vista.Nueva = [&] { return Agregar("D", ""); };
+    vista.Datos = [&](const TrabajoEscaleraT& trabajo) { Guardar(trabajo, 3); };
+    espacio.Nueva();
+    EXPECT_NEAR(espacio.Estado().Resultados.ReaccionVertical, 2076 * 3 + 1865 * 1.5, 1e-6);
+    EXPECT_THAT(Columna("EscaleraT", "Nombre"), ElementsAre("A", "D"));
+}
+
+TEST_F(EspacioEscaleras, EditarYDatosGeneralesCalculanDeNuevo) {
+    vista.Datos = [&](const TrabajoEscaleraT& trabajo) {
+        EXPECT_FALSE(trabajo.Nueva);
+        Guardar(trabajo, 3);
+    };
+    espacio.Editar();
+    EXPECT_NEAR(espacio.Estado().Resultados.ReaccionVertical, 1200 * 3 + 1000 * 1.2, 1e-6);
+    const double antes = espacio.Estado().Resultados.TramoT[10].AsSuperior;
+    vista.General = [&] {
+        bool guardados = false;
+        EscaleraTG ventana(aplicacion.Proyecto.ConexionProyecto, ClaseEscalera::Autoportante,
+                           aplicacion.Generales, guardados, caja, sinFoco);
+        EntradaEscaleraTG entrados = ventana.Mostrar();
+        entrados.FS = 3.1;
+        EXPECT_TRUE(ventana.Aceptar(entrados));
+        return guardados;
+    };
+    espacio.DatosGenerales();
+    EXPECT_GT(espacio.Estado().Resultados.TramoT[10].AsSuperior, 1.9 * antes);
+}
+
+/// A save that the store refuses keeps the window open and the working values as they were.
+TEST_F(EspacioEscaleras, LosParametrosQueNoSeGuardanNoValen) {
+    Conexion cerrada;
+    bool guardados = false;
+    EscaleraTG ventana(cerrada, ClaseEscalera::Autoportante, aplicacion.Generales, guardados, caja, sinFoco);
+    EntradaEscaleraTG entrados = ventana.Mostrar();
+    entrados.FC = 300;
+    EXPECT_FALSE(ventana.Aceptar(entrados));
+    EXPECT_EQ(aplicacion.Generales.FC, 250);
+    EXPECT_FALSE(guardados);
+    EXPECT_EQ(caja.Mensajes.back().Encabezado, "Error Inesperado...");
+}
+
+TEST_F(EspacioEscaleras, RenombrarTitularYEliminar) {
+    vista.NombreNuevo = "Zeta";
+    caja.Respuestas = {RespuestaSi};
+    espacio.Lista().Renombrar();
+    EXPECT_THAT(vista.Filas, ElementsAre("B", "Zeta"));
+    EXPECT_EQ(vista.Encabezado, "ESCALERA: Zeta");
+    EXPECT_THAT(Columna("EscaleraT", "Nombre"), ElementsAre("Zeta"));
+    espacio.Lista().Seleccionar(1);
+    vista.NombreNuevo = "Beta";  // it has no row of data
+    caja.Respuestas = {RespuestaSi};
+    espacio.Lista().Renombrar();
+    EXPECT_THAT(Columna("EscaleraTDatos", "Nombre"), ElementsAre("Beta", "Zeta"));
+    EXPECT_THAT(Columna("EscaleraT", "Nombre"), ElementsAre("Zeta"));
+
+    vista.TituloNuevo = [&] { return EscaleraTitulo(aplicacion.Proyecto, caja).Aceptar(" NUEVO "); };
+    espacio.Titulo();
+    EXPECT_EQ(espacio.Estado().Abierta.Titulo, "NUEVO");
+    EXPECT_THAT(Columna("EscaleraTDatos", "Titulo"), ElementsAre("NUEVO", "PRIMERA"));
+
+    caja.Respuestas = {RespuestaAceptarONo, RespuestaSi, RespuestaSi};
+    espacio.Lista().Eliminar();
+    EXPECT_EQ(caja.Mensajes.back().Texto,
+              "Escalera: Beta\n¿Esta Usted Seguro de Eliminar la Escalera del Proyecto?");
+    EXPECT_EQ(caja.Mensajes.back().Encabezado, "Eliminar Escalera...");
+    EXPECT_EQ(vista.Filas.size(), 2U);
+    espacio.Lista().Seleccionar(2);
+    espacio.Lista().Eliminar();
+    EXPECT_TRUE(Columna("EscaleraT", "Nombre").empty());
+    EXPECT_EQ(vista.Encabezado, "ESCALERA: Beta");
+    espacio.Lista().Eliminar();
+    EXPECT_EQ(vista.Encabezado, "");
+    EXPECT_TRUE(vista.Filas.empty());
+    EXPECT_FALSE(TieneMedidas(espacio.Estado().Abierta));
+
+    const std::size_t mensajes = caja.Mensajes.size();  // with an empty list nothing happens
+    espacio.Editar();
+    espacio.Titulo();
+    espacio.Lista().Renombrar();
+    espacio.Lista().Eliminar();
+    EXPECT_EQ(caja.Mensajes.size(), mensajes);
+}
+
+}  // namespace
+}  // namespace trabex
