@@ -55,7 +55,7 @@ struct SinFoco : VistaDeCampos<CampoEscaleraT>, VistaDeCampos<CampoEscaleraTG> {
 
 struct EspacioEscaleras : testing::Test {
     EspacioEscaleras() {
-        aplicacion.CaminoUsuario = carpeta.Camino();
+        carpetas.CaminoUsuario = carpeta.Camino();
         aplicacion.ArchivoProyecto =
             Proyecto("obra.los",
                      "INSERT INTO EscaleraTDatos VALUES ('B', 'SEGUNDA'), ('A', 'PRIMERA');"
@@ -96,7 +96,8 @@ struct EspacioEscaleras : testing::Test {
     prueba::CajaGuiada caja;
     prueba::DialogosGuiados dialogos;
     prueba::PlataformaGuiada plataforma{carpeta.Camino()};
-    Servicios servicios{caja, dialogos, plataforma};
+    Carpetas carpetas;
+    Servicios servicios{caja, dialogos, plataforma, carpetas};
     VistaGuiada vista;
     SinFoco sinFoco;
     EscaleraT espacio{aplicacion, servicios, vista, vista};

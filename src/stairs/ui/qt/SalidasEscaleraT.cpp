@@ -34,7 +34,7 @@ void SalidasEscaleraT::ExportarGraficos(EscaleraT& escaleras, VentanaEscaleraT& 
         puntero.Poner(true);
         montaje::qt::SuperficieQt superficie;
         reportes::ui::qt::PanelProgresoQt panel(&ventana);
-        salida::GuardeGraficos({aplicacion_.CaminoPrograma, aplicacion_.CaminoUsuario, aplicacion_.Usuario},
+        salida::GuardeGraficos(entorno_.Montaje(),
                                {aplicacion_.Proyecto, aplicacion_.Datos, escaleras.Calculada()},
                                aplicacion_.SeparadoresLocales, superficie, panel, salida_.Opciones);
         puntero.Poner(false);
@@ -55,7 +55,8 @@ void SalidasEscaleraT::ExportarImagen(EscaleraT& escaleras, VentanaEscaleraT& ve
         dibujo::escalera::RedibujeVista(lienzo, hoja, escaleras.Calculada());
         vista = hoja.Vista;
     };
-    reportes::ui::qt::VentanaExportarGrafico({aplicacion_, salida_.Opciones, servicios_}, dibujar, &ventana)
+    reportes::ui::qt::VentanaExportarGrafico({aplicacion_, salida_.Opciones, entorno_.Servicios}, dibujar,
+                                             &ventana)
         .exec();
 }
 

@@ -10,10 +10,7 @@ class SalidasEscaleraT {
   public:
     SalidasEscaleraT(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
                      reportes::ui::qt::SalidaDelPrograma& salida)
-        : aplicacion_(aplicacion),
-          servicios_(servicios),
-          salida_(salida),
-          entorno_(salida.Entorno(aplicacion, servicios)) {}
+        : aplicacion_(aplicacion), salida_(salida), entorno_(salida.Entorno(aplicacion, servicios)) {}
 
     /// By the key of each command.
     OperacionesDeEscaleras Operaciones();
@@ -23,7 +20,6 @@ class SalidasEscaleraT {
     void ExportarImagen(EscaleraT& escaleras, VentanaEscaleraT& ventana);
 
     programa::Aplicacion& aplicacion_;
-    programa::Servicios servicios_;
     reportes::ui::qt::SalidaDelPrograma& salida_;
     reportes::ui::EntornoSalida entorno_;
 };
