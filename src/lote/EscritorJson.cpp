@@ -57,20 +57,4 @@ void EscribirError(Escritor& json, const std::optional<ErrorEjecucion>& error) {
     json.EndObject();
 }
 
-void EscribirAvisos(Escritor& json, const Avisos& avisos) {
-    json.Key("avisos");
-    json.StartArray();
-    for (const Aviso& aviso : avisos) {
-        json.StartObject();
-        json.Key("gravedad");
-        json.String(NombreDe(aviso.Peso));
-        json.Key("lugar");
-        Escribir(json, aviso.Lugar);
-        json.Key("texto");
-        Escribir(json, aviso.Texto);
-        json.EndObject();
-    }
-    json.EndArray();
-}
-
 }  // namespace trabex::lote

@@ -30,9 +30,6 @@ void Escribir(Escritor& json, std::int32_t valor);
 void Escribir(Escritor& json, const std::string& texto);
 void Escribir(Escritor& json, const Fecha& fecha);
 
-/// The key `avisos`: an array of objects with `gravedad`, `lugar` and `texto`.
-void EscribirAvisos(Escritor& json, const Avisos& avisos);
-
 /// The key `error` with its code and its text, where there is one.
 void EscribirError(Escritor& json, const std::optional<ErrorEjecucion>& error);
 

@@ -45,9 +45,10 @@ def crear_escalera(e):
     e.teclas("Tab", "Tab")
     e.respiro()
     e.escribir("0")
-    e.teclas("alt+s", "shift+Tab", "shift+Tab")
+    e.teclas("alt+s")
+    e.respiro()   # a button pressed by its key acts a moment later
+    e.teclas("shift+Tab", "shift+Tab")
     for valor in VALORES:
-        e.respiro()   # a field selects what it holds a moment after it takes the focus
         e.escribir(valor)
         e.teclas("Tab")
     e.teclas("alt+s")
@@ -90,7 +91,7 @@ def recorrer(e):
     e.ventana(ESCALERAS)
     ventana = crear_escalera(e)
     assert filas(obra, "SELECT * FROM EscaleraTDatos") == [("Principal", "PLANTA TIPO")]
-    assert filas(obra, "SELECT * FROM EscaleraT") == [("Principal", 2.4, 1.2, 3, 0.15, 0.15, 1200, 1000, 600)]
+    assert filas(obra, "SELECT * FROM EscaleraT") == [("Principal", 2.4, 1.2, 3, 0.15, 0.15, 1200, 1000, 600)], filas(obra, "SELECT * FROM EscaleraT")
     comprobar_resultados(e, obra)
 
     for hoja in "cnig":   # the sheets, and back to the first

@@ -58,7 +58,7 @@ class Lote(unittest.TestCase):
         documento, resumen = self.del_ejemplo()
         self.assertEqual(self.ejemplo.read_bytes(), (IMAGEN / "Ejemplo Demostrativo.tbx").read_bytes())
         self.assertEqual(sorted(os.listdir(self.comun / "salida")),
-                         ["Trabajo", "losas", "planex", "reportes", "resultados.json"])
+                         ["Trabajo", "escalerasT", "losas", "planex", "reportes", "resultados.json"])
         self.assertEqual(documento["Proyecto"]["Calculista"], "ING. MARÍA NÚÑEZ")
         self.assertEqual(documento["LosaG"]["FC"], 250)
         self.assertGreaterEqual(len(documento["losas"]), 8)
@@ -280,8 +280,8 @@ class Lote(unittest.TestCase):
         documento, _ = self.del_ejemplo()
         reportes = self.comun / "salida" / "reportes"
         self.assertEqual(sorted(os.listdir(reportes)),
-                         sorted(f"losas-{cual}.{formato}" for cual in ("graficos", "resultados")
-                                for formato in ("htm", "pdf", "rtf", "xls")))
+                         sorted(f"{cual}.{formato}" for formato in ("htm", "pdf", "rtf", "xls")
+                                for cual in ("escalerasT-graficos", "losas-graficos", "losas-resultados")))
         pdf = subprocess.run(["pdftotext", "-layout", reportes / "losas-resultados.pdf", "-"],
                              capture_output=True, text=True).stdout
         html = (reportes / "losas-resultados.htm").read_text()

@@ -30,7 +30,8 @@ struct VistaGuiada : VistaEspacio, VistaEscaleraT {
     void PonerEncabezado(const std::string& texto) override { Encabezado = texto; }
     void LlenarLista(const std::vector<std::string>& nombres) override { Filas = nombres; }
     void MarcarFila(int fila) override { Marcada = fila; }
-    void PonerAvisos(const Avisos&) override {}
+    void PonerAvisos(const Avisos& avisos) override { Anotados = avisos.size(); }
+    void MarcarFalla(int, bool falla) override { Falla = falla; }
     void RestablecerVista() override { ++Restablecida; }
     void Redibujar() override { ++Dibujos; }
     void MostrarRenombrar(programa::Renombrar& operaciones) override { operaciones.Aceptar(NombreNuevo); }
@@ -44,6 +45,8 @@ struct VistaGuiada : VistaEspacio, VistaEscaleraT {
     std::vector<std::string> Filas;
     int Marcada = 0, Restablecida = 0, Dibujos = 0;
     VistaEscalera Hoja = dibujo::escalera::VistaReacciones;
+    std::size_t Anotados = 0;
+    bool Falla = false;
     std::function<bool()> Nueva, General, TituloNuevo;
     std::function<void(const TrabajoEscaleraT&)> Datos;
 };
@@ -111,10 +114,12 @@ TEST_F(EspacioEscaleras, AlAbrirSeVeLaPrimera) {
     EXPECT_EQ(vista.Dibujos, 1);  // nothing is drawn while it loads
     EXPECT_EQ(aplicacion.Generales.FS, 1.55);
     EXPECT_NEAR(espacio.Estado().Resultados.ReaccionVertical, 4080, 1e-9);
+    EXPECT_GT(vista.Anotados, 0U);  // steel below the minimum at some station
 
     espacio.Lista().Seleccionar(2);  // a stair without data keeps the results and shows an empty sheet
     EXPECT_EQ(vista.Encabezado, "ESCALERA: B");
     EXPECT_EQ(espacio.Estado().Abierta.L, 0);
+    EXPECT_EQ(vista.Anotados, 0U);
     EXPECT_NEAR(espacio.Estado().Resultados.ReaccionVertical, 4080, 1e-9);
 
     const int antes = vista.Restablecida;

@@ -1,8 +1,8 @@
 #include "shell/qt/CampoNumero.h"
 
 #include <QFocusEvent>
+#include <QMouseEvent>
 #include <QRegularExpression>
-#include <QTimer>
 #include <cmath>
 
 #include "shell/qt/ComunVentanas.h"
@@ -43,9 +43,18 @@ void CampoNumero::PonerValor(double valor) {
 }
 
 /// Whichever way the focus comes, typing replaces what stands.
+/// At once, so that no key comes between: one typed before would be lost with the next. A click puts the
+/// cursor after it gives the focus, so then the selection waits for the button to come up.
 void CampoNumero::focusInEvent(QFocusEvent* evento) {
     QLineEdit::focusInEvent(evento);
-    if (evento->reason() != Qt::PopupFocusReason) QTimer::singleShot(0, this, &QLineEdit::selectAll);
+    seleccionarAlSoltar_ = evento->reason() == Qt::MouseFocusReason;
+    if (!seleccionarAlSoltar_ && evento->reason() != Qt::PopupFocusReason) selectAll();
+}
+
+void CampoNumero::mouseReleaseEvent(QMouseEvent* evento) {
+    QLineEdit::mouseReleaseEvent(evento);
+    if (seleccionarAlSoltar_ && !hasSelectedText()) selectAll();
+    seleccionarAlSoltar_ = false;
 }
 
 }  // namespace trabex::programa::qt

@@ -43,10 +43,12 @@ class CampoNumero : public QLineEdit {
 
   protected:
     void focusInEvent(QFocusEvent* evento) override;
+    void mouseReleaseEvent(QMouseEvent* evento) override;
 
   private:
     ClaseNumero clase_;
     Separadores separadores_;
+    bool seleccionarAlSoltar_ = false;
 };
 
 }  // namespace trabex::programa::qt

@@ -1,5 +1,6 @@
 #include "stairs/ui/EscaleraT.h"
 
+#include "stairs/Avisos.h"
 #include "stairs/CalcularEscaleraT.h"
 #include "store/tablas/TablasEscalera.h"
 
@@ -51,6 +52,7 @@ void EscaleraT::AlAgregar() {
 void EscaleraT::AlVaciar() {
     estado_.Abierta = {};
     estado_.Resultados = {};
+    espacio_.PonerAvisos({});
     lista_.Redibujar();
 }
 
@@ -60,6 +62,9 @@ void EscaleraT::PonerEncabezado() {
 
 void EscaleraT::Calcular() {
     CalcularEscaleraT(estado_.Abierta, aplicacion_.Generales, estado_.Resultados);
+    const Avisos avisos = AvisosDe(Calculada(), estado_.Hoja.Numeros);
+    espacio_.PonerAvisos(avisos);
+    espacio_.MarcarFalla(lista_.Fila(), HayFalla(avisos));
     lista_.Redibujar();
 }
 
