@@ -200,6 +200,16 @@ TEST_F(HojaPrueba, ValoresQueSeEncontrarianBajanDeLinea) {
     EXPECT_EQ(lugar("3,33"), (PuntoLienzo{203, 753}));
     EXPECT_EQ(lugar("4,44"), (PuntoLienzo{813, 753}));
     EXPECT_EQ(lugar("As Sup (cm2):").y, 760);
+
+    Hoja.OpcionCarga = CargaPorCasos;  // 57 wide: the second goes over the band, the third has its span
+    Dibujar(VistaGeometria);
+    const Escritos escritos = EscritosEn(Lienzo);
+    EXPECT_EQ(escritos.count(Descrito("300 + 100", 156, 156)), 1U);
+    EXPECT_EQ(escritos.count(Descrito("300 + 100", 176, 128)), 1U);
+    EXPECT_EQ(escritos.count(Descrito("300 + 100", 492, 156)), 1U);
+    // Lengths go below one another: 25 wide at 185 and 205.
+    EXPECT_EQ(escritos.count(Descrito("0,20", 172, 215)), 1U);
+    EXPECT_EQ(escritos.count(Descrito("0,20", 192, 230)), 1U);
 }
 
 /// One span of 6.5 m under 520 kgf/m: 1690 kgf at each end, 2746.25 kgf·m in the middle.
