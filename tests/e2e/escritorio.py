@@ -8,7 +8,7 @@ import sys
 import tempfile
 import time
 
-ESPERA = 20
+ESPERA = 60
 
 
 def exigir(*programas):
