@@ -3,6 +3,8 @@
 #include <cctype>
 #include <vector>
 
+#include "base/Edicion.h"
+
 namespace trabex::programa {
 
 namespace {
@@ -24,7 +26,7 @@ bool EsCifra(const std::string& caracter) {
 }  // namespace
 
 std::string TituloConProyecto(const std::string& nombre) {
-    return "Trabex 2024   Proyecto:[" + nombre + "]";
+    return std::string(ProgramaYEdicion) + "   Proyecto:[" + nombre + "]";
 }
 
 Separadores LeerSeparadores(const std::string& muestra) {

@@ -65,4 +65,8 @@ Mensaje Pregunta(const std::string& texto, const std::string& encabezado) {
     return mensaje;
 }
 
+Mensaje PreguntaDeSalvar(const std::string& editado, const std::string& encabezado) {
+    return Pregunta(editado + "\n¿Desea Salvar las Modificaciones?", encabezado);
+}
+
 }  // namespace trabex::programa

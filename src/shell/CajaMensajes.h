@@ -4,12 +4,10 @@
 #include <optional>
 #include <string>
 
+#include "base/Edicion.h"
 #include "base/ErrorEjecucion.h"
 
 namespace trabex::programa {
-
-/// The program's name, as the caption of its boxes.
-inline constexpr const char* TituloPrograma = "Trabex 2024";
 
 /// Button layouts of the message box.
 enum class BotonesCaja : std::int16_t { Aceptar = 0, SiNo = 1, SiNoCancelar = 2 };
@@ -37,7 +35,7 @@ inline constexpr const char* ErrorInesperado = "Error Inesperado...";
 struct Mensaje {
     std::string Texto;       ///< a line feed breaks a line
     std::string Encabezado;  ///< the bold line at the top
-    std::string Titulo = TituloPrograma;
+    std::string Titulo = ProgramaYEdicion;
     BotonesCaja Botones = BotonesCaja::Aceptar;
     std::int16_t PorDefecto = 0;  ///< button with the focus on opening, 0 being the first
     IconoCaja Icono = IconoCaja::Informacion;
@@ -78,5 +76,8 @@ Mensaje Aviso(const std::string& texto, const std::string& encabezado);
 
 /// A question with two buttons, the first by default.
 Mensaje Pregunta(const std::string& texto, const std::string& encabezado);
+
+/// The question of a data window that is left with changes: what is edited, over it.
+Mensaje PreguntaDeSalvar(const std::string& editado, const std::string& encabezado);
 
 }  // namespace trabex::programa

@@ -1,18 +1,14 @@
 #pragma once
 
+#include "base/AlSalir.h"
+
 namespace trabex::programa {
 
-/// The pointer of long work on a window's view, for as long as this stands.
+/// The pointer of long work on a window's view, for as long as what it returns stands.
 template <class Vista>
-class Espera {
-  public:
-    explicit Espera(Vista& vista) : vista_(vista) { vista_.PunteroDeEspera(true); }
-    ~Espera() { vista_.PunteroDeEspera(false); }
-    Espera(const Espera&) = delete;
-    Espera& operator=(const Espera&) = delete;
-
-  private:
-    Vista& vista_;
-};
+auto Espera(Vista& vista) {
+    vista.PunteroDeEspera(true);
+    return AlSalir([&vista] { vista.PunteroDeEspera(false); });
+}
 
 }  // namespace trabex::programa

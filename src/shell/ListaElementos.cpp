@@ -62,15 +62,7 @@ void ListaElementos::Llenar() {
 }
 
 std::vector<std::string> ListaElementos::Nombres() {
-    almacen::Recordset& lista = Lista();
-    const int donde = lista.Posicion();
-    std::vector<std::string> nombres;
-    for (int fila = 1; fila <= lista.NumeroRegistros(); ++fila) {
-        lista.MoverA(fila);
-        nombres.push_back(lista.Texto("Nombre"));
-    }
-    lista.MoverA(donde);
-    return nombres;
+    return almacen::Nombres(Lista());
 }
 
 void ListaElementos::MostrarPrimera() {

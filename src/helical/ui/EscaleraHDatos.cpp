@@ -62,7 +62,7 @@ bool EscaleraHDatos::Guardar(const EntradaEscaleraH& e) {
                                   e.W,
                                   Entero16(e.Inter)};
     if (!almacen::tablas::GuardarEscalera(trabajo_.Proyecto.ConexionProyecto, escalera)) {
-        caja_.Mostrar(escaleras::ui::AvisoDeNoSalvado());
+        caja_.Mostrar(programa::MensajeSinGuardar());
         return false;
     }
     trabajo_.Actual = escalera;
@@ -74,7 +74,7 @@ bool EscaleraHDatos::Salvar(const EntradaEscaleraH& entrados) {
     try {
         if (!Guardar(entrados)) return false;
     } catch (const ErrorEjecucion& error) {
-        caja_.Mostrar(escaleras::ui::AvisoDeError(error));
+        caja_.Mostrar(programa::MensajeDeError(error, programa::ErrorInesperado));
         return false;
     }
     trabajo_.Nueva = false;

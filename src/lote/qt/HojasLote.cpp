@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/Archivos.h"
+#include "base/Edicion.h"
 #include "drawing/qt/ImagenDeHoja.h"
 #include "drawing/qt/PapelQt.h"
 
@@ -50,7 +51,7 @@ void EscribirPapel(const std::string& titulo,
     papel.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape,
                                     QMarginsF(12, 12, 12, 12), QPageLayout::Millimeter));
     papel.setTitle(QString::fromStdString(titulo));
-    papel.setCreator("Trabex 2024");
+    papel.setCreator(ProgramaYEdicion);
     dibujo::qt::PapelQt hojas(papel);
     for (const auto& pagina : paginas) hojas.Pagina(pagina);
     hojas.Terminar();

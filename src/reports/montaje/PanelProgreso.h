@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "base/AlSalir.h"
+
 namespace trabex::montaje {
 
 /// The panel that holds a window while a long report is made.
@@ -14,16 +16,10 @@ class PanelProgreso {
     virtual void Ocultar() = 0;
 };
 
-/// Shows the panel for as long as it lives, whichever way it is left.
-class PanelALaVista {
-  public:
-    explicit PanelALaVista(PanelProgreso& panel) : panel_(panel) { panel_.Mostrar(); }
-    ~PanelALaVista() { panel_.Ocultar(); }
-    PanelALaVista(const PanelALaVista&) = delete;
-    PanelALaVista& operator=(const PanelALaVista&) = delete;
-
-  private:
-    PanelProgreso& panel_;
-};
+/// Shows the panel for as long as what it returns stands.
+inline auto PanelALaVista(PanelProgreso& panel) {
+    panel.Mostrar();
+    return AlSalir([&panel] { panel.Ocultar(); });
+}
 
 }  // namespace trabex::montaje

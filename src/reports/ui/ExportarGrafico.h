@@ -37,12 +37,10 @@ struct EntornoGrafico {
 };
 
 /// Shows the current drawing of a workspace in a window of its own and saves it as a picture. The viewport is
-/// the window's: the workspace's zoom stays as it is. While it lives, `ExportandoGrafico` is up, so that no
-/// grid is in the picture.
+/// the window's: the workspace's zoom stays as it is, and no grid is in the picture.
 class ExportarGrafico {
   public:
-    ExportarGrafico(EntornoGrafico& entorno, VistaExportarGrafico& vista)
-        : entorno_(entorno), vista_(vista), exportando_(entorno.Estado.ExportandoGrafico) {
+    ExportarGrafico(EntornoGrafico& entorno, VistaExportarGrafico& vista) : entorno_(entorno), vista_(vista) {
         visor_.ExportandoGrafico = true;
     }
 
@@ -56,7 +54,6 @@ class ExportarGrafico {
 
     EntornoGrafico& entorno_;
     VistaExportarGrafico& vista_;
-    montaje::BanderaEnAlto exportando_;
     dibujo::EstadoVista visor_;
 };
 

@@ -23,7 +23,6 @@ class ModeloTabla : public QAbstractTableModel {
     const ColumnaDatos& Columna(int columna) const { return columnas_[static_cast<std::size_t>(columna)]; }
     void PonerFilas(int filas);
     void Refrescar();
-    void PonerTitulos(std::function<QString(int)> titulo) { titulo_ = std::move(titulo); }
     /// The last entry was taken.
     bool Tomada() const { return tomada_; }
 
@@ -39,7 +38,6 @@ class ModeloTabla : public QAbstractTableModel {
 
     std::vector<ColumnaDatos> columnas_;
     Separadores separadores_;
-    std::function<QString(int)> titulo_;
     int filas_ = 0;
     bool poniendo_ =
         false;  // a message that an entry brings up takes the focus, and the editor tells it again
@@ -109,7 +107,7 @@ QVariant ModeloTabla::headerData(int seccion, Qt::Orientation orientacion, int p
     if (papel == Qt::TextAlignmentRole && orientacion == Qt::Vertical) return Qt::AlignCenter;
     if (papel != Qt::DisplayRole) return {};
     if (orientacion == Qt::Horizontal) return Columna(seccion).Titulo;
-    return titulo_ ? titulo_(seccion + 1) : QString::number(seccion + 1);
+    return QString::number(seccion + 1);
 }
 
 Qt::ItemFlags ModeloTabla::flags(const QModelIndex& celda) const {
@@ -195,10 +193,6 @@ int TablaDatos::Filas() const {
 
 void TablaDatos::Refrescar() {
     modelo_->Refrescar();
-}
-
-void TablaDatos::PonerTitulosDeFilas(std::function<QString(int)> titulo) {
-    modelo_->PonerTitulos(std::move(titulo));
 }
 
 void TablaDatos::IrA(int fila, int columna) {

@@ -40,8 +40,6 @@ class TablaDatos : public QTableView {
     int Filas() const;
     /// Shows again what the columns read.
     void Refrescar();
-    /// Titles of the rows; their numbers otherwise.
-    void PonerTitulosDeFilas(std::function<QString(int fila)> titulo);
 
     /// From 1; 0 when no cell is current.
     int FilaActual() const { return currentIndex().row() + 1; }

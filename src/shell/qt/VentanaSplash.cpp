@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QTimer>
 
+#include "base/Edicion.h"
 #include "shell/Aplicacion.h"
 #include "shell/qt/Iconos.h"
 
@@ -25,7 +26,7 @@ QPixmap Caratula() {
     fuente.setPixelSize(42);
     fuente.setBold(true);
     pintor.setFont(fuente);
-    pintor.drawText(164, 108, "Trabex 2024");
+    pintor.drawText(164, 108, ProgramaYEdicion);
     fuente.setPixelSize(16);
     fuente.setBold(false);
     pintor.setFont(fuente);

@@ -49,9 +49,7 @@ PedidoDeGraficos PedidoDe(std::uint8_t OpcionGrafico) {
 
 bool GuardeGraficos(const montaje::EntornoReportes& entorno, const ProyectoParaReporte& origen,
                     const dibujo::losa::HojaLosa& hoja, montaje::SuperficieOculta& superficie,
-                    montaje::PanelProgreso& panel, montaje::EstadoReportes& estado) {
-    const montaje::BanderaEnAlto generando(estado.GenerandoReporte);
-    const montaje::BanderaEnAlto exportando(estado.ExportandoGrafico);
+                    montaje::PanelProgreso& panel, const montaje::EstadoReportes& estado) {
     almacen::Conexion temporal;
     montaje::AbrirTemporal(entorno, origen.Datos, {TituloReporteLosas}, temporal);
     const int losas = origen.Proyecto.RegistrosProyecto.NumeroRegistros();
@@ -62,7 +60,7 @@ bool GuardeGraficos(const montaje::EntornoReportes& entorno, const ProyectoParaR
     propia.OpcionCarga = hoja.OpcionCarga;
     propia.Numeros = hoja.Numeros;
     propia.Vista.ExportandoGrafico = true;
-    const montaje::PanelALaVista visible(panel);
+    const auto visible = montaje::PanelALaVista(panel);
     almacen::Transaccion guardado(temporal);
     {
         montaje::AlbumGraficos album(temporal, entorno, superficie, panel,

@@ -31,11 +31,11 @@ PedidoDeGraficos PedidoDe(std::uint8_t OpcionGrafico);
 
 /// Stages the drawings of slabs that `OpcionGrafico` asks for, in the scratch tables `Generales` and
 /// `Grafico`. Each slab is read and calculated anew. Drawings are whole, whatever the screen's zoom; of
-/// `hoja`, the workspace's, they take the loads shown and the separators of numbers. `GenerandoReporte` and
-/// `ExportandoGrafico` are up meanwhile, and the panel shows. False when they could not be stored; the report
+/// `hoja`, the workspace's, they take the loads shown and the separators of numbers. The panel shows
+/// meanwhile. False when they could not be stored; the report
 /// is then empty.
 bool GuardeGraficos(const montaje::EntornoReportes& entorno, const ProyectoParaReporte& origen,
                     const dibujo::losa::HojaLosa& hoja, montaje::SuperficieOculta& superficie,
-                    montaje::PanelProgreso& panel, montaje::EstadoReportes& estado);
+                    montaje::PanelProgreso& panel, const montaje::EstadoReportes& estado);
 
 }  // namespace trabex::losas::salida

@@ -1,7 +1,7 @@
 #include "slab/salida/RecorrerLosas.h"
 
-#include "reports/montaje/EstadoReportes.h"
 #include "slab/CalcularLosa.h"
+#include "store/Posicion.h"
 #include "store/tablas/TablasLosa.h"
 
 namespace trabex::losas::salida {
@@ -34,7 +34,7 @@ void RecorrerLosas(const ProyectoParaReporte& origen, bool todas,
     almacen::tablas::ProyectoAbierto copia{.ConexionProyecto = {}, .RegistrosProyecto = lista};
     almacen::CopiarEnMemoria(origen.Proyecto.ConexionProyecto, copia.ConexionProyecto);
     almacen::tablas::ProyectoAbierto& leido = copia.ConexionProyecto.Abierta() ? copia : origen.Proyecto;
-    const montaje::PosicionGuardada posicion(lista);
+    const auto posicion = almacen::PosicionGuardada(lista);
     for (int k = 1; k <= lista.NumeroRegistros(); ++k) {
         lista.MoverA(k);
         Visitar(leido, origen, accion);

@@ -5,6 +5,7 @@
 #include "slab/DisenoSeccion.h"
 #include "slab/EsfuerzosTramo.h"
 #include "slab/ValoresLosa.h"
+#include "store/Posicion.h"
 #include "store/Vaciado.h"
 #include "store/tablas/TablasLosa.h"
 
@@ -158,13 +159,12 @@ void MontajeDeLosas::Agregar(const LosaCalculada& losa) {
 }
 
 bool LLeneResultados(const montaje::EntornoReportes& entorno, const ProyectoParaReporte& origen,
-                     montaje::EstadoReportes& estado) {
-    const montaje::BanderaEnAlto generando(estado.GenerandoReporte);
+                     const montaje::EstadoReportes& estado) {
     almacen::Recordset& lista = origen.Proyecto.RegistrosProyecto;
     const bool todas = estado.OpcionExportarLosas == 1;
     std::string nombre;
     {
-        const montaje::PosicionGuardada posicion(lista);
+        const auto posicion = almacen::PosicionGuardada(lista);
         lista.MoverA(origen.FilaSeleccionada);
         nombre = lista.Texto("Nombre");
     }

@@ -23,9 +23,9 @@ class MontajeDeLosas {
 };
 
 /// Fills the scratch database with the results of the selected slab or of all (`OpcionExportarLosas`):
-/// `Generales`, `LosaG`, `LosaDatos`, `LosaEjes`, `LosaTramos`. `GenerandoReporte` is up meanwhile. False
+/// `Generales`, `LosaG`, `LosaDatos`, `LosaEjes`, `LosaTramos`. False
 /// when they could not be stored; the report is then empty.
 bool LLeneResultados(const montaje::EntornoReportes& entorno, const ProyectoParaReporte& origen,
-                     montaje::EstadoReportes& estado);
+                     const montaje::EstadoReportes& estado);
 
 }  // namespace trabex::losas::salida

@@ -196,8 +196,8 @@ bool LosaDatos::SalvarDatos() {
 /// With unsaved changes asks whether to save them. False when they were to be saved and could not.
 bool LosaDatos::SalvarSiSePide(const std::string& texto) {
     if (!cambios_) return true;
-    const std::string pregunta = texto + "\n¿Desea Salvar las Modificaciones?";
-    return caja_.Mostrar(programa::Pregunta(pregunta, "Losas del Proyecto...")) != programa::RespuestaSi ||
+    return caja_.Mostrar(programa::PreguntaDeSalvar(texto, "Losas del Proyecto...")) !=
+               programa::RespuestaSi ||
            Salvar();
 }
 

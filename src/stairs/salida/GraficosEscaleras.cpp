@@ -5,6 +5,7 @@
 #include "base/Texto.h"
 #include "reports/montaje/AlbumGraficos.h"
 #include "stairs/CalcularEscaleraT.h"
+#include "store/Posicion.h"
 #include "store/tablas/TablasEscalera.h"
 
 namespace trabex::escaleras::salida {
@@ -58,7 +59,7 @@ class Montaje {
 
 void AgregarTodas(const ProyectoParaReporte& origen, Montaje& montaje) {
     almacen::Recordset& lista = origen.Proyecto.RegistrosProyecto;
-    const montaje::PosicionGuardada posicion(lista);
+    const auto posicion = almacen::PosicionGuardada(lista);
     for (int fila = 1; fila <= lista.NumeroRegistros(); ++fila) {
         lista.MoverA(fila);
         DatosEscaleraT escalera;
@@ -85,16 +86,14 @@ std::vector<std::pair<std::string_view, almacen::Valor>> CargasDe(const DatosEsc
 
 bool GuardeGraficos(const montaje::EntornoReportes& entorno, const ProyectoParaReporte& origen,
                     const Separadores& numeros, montaje::SuperficieOculta& superficie,
-                    montaje::PanelProgreso& panel, montaje::EstadoReportes& estado) {
-    const montaje::BanderaEnAlto generando(estado.GenerandoReporte);
-    const montaje::BanderaEnAlto exportando(estado.ExportandoGrafico);
+                    montaje::PanelProgreso& panel, const montaje::EstadoReportes& estado) {
     almacen::Conexion temporal;
     montaje::AbrirTemporal(entorno, origen.Datos, {TituloReporteEscaleras}, temporal);
     const auto escaleras = static_cast<std::size_t>(origen.Proyecto.RegistrosProyecto.NumeroRegistros());
     const auto [todas, dibujos] = PedidoDe(estado.OpcionGrafico);
     if (!temporal.Abierta() || escaleras == 0 || dibujos.empty()) return temporal.Abierta();
 
-    const montaje::PanelALaVista visible(panel);
+    const auto visible = montaje::PanelALaVista(panel);
     almacen::Transaccion guardado(temporal);
     {
         montaje::AlbumGraficos album(temporal, entorno, superficie, panel,

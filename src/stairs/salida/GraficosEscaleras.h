@@ -50,11 +50,11 @@ struct ProyectoParaReporte {
 
 /// Stages the sheets of stairs that `OpcionGrafico` asks for, on surfaces of the paper asked for, in the
 /// scratch tables `Generales` and `Grafico`. All stairs are read and calculated anew, on records of their
-/// own, and the list comes back to where it stood; the selected one is drawn as it stands. `GenerandoReporte`
-/// and `ExportandoGrafico` are up meanwhile, and the panel shows: a step for each sheet of the selected
-/// stair, or for each stair. False when they could not be stored; the report is then empty.
+/// own, and the list comes back to where it stood; the selected one is drawn as it stands. The panel shows
+/// meanwhile: a step for each sheet of the selected stair, or for each stair. False when they could not be
+/// stored; the report is then empty.
 bool GuardeGraficos(const montaje::EntornoReportes& entorno, const ProyectoParaReporte& origen,
                     const Separadores& numeros, montaje::SuperficieOculta& superficie,
-                    montaje::PanelProgreso& panel, montaje::EstadoReportes& estado);
+                    montaje::PanelProgreso& panel, const montaje::EstadoReportes& estado);
 
 }  // namespace trabex::escaleras::salida

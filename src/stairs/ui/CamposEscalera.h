@@ -17,10 +17,4 @@ class VistaDeCampos {
 /// What closing a stair's data window with changes asks.
 programa::Mensaje PreguntaDeSalvar(const std::string& nombre);
 
-/// Tells that a save did not reach the project.
-programa::Mensaje AvisoDeNoSalvado();
-
-/// Tells of the run-time error that ended a save.
-programa::Mensaje AvisoDeError(const ErrorEjecucion& error);
-
 }  // namespace trabex::escaleras::ui

@@ -38,12 +38,12 @@ bool EscaleraTG::Aceptar(const EntradaEscaleraTG& entrados) {
     try {
         Copiar(entrados);
     } catch (const ErrorEjecucion& error) {
-        caja_.Mostrar(AvisoDeError(error));
+        caja_.Mostrar(programa::MensajeDeError(error, programa::ErrorInesperado));
         return false;
     }
     if (!almacen::tablas::GuardarGenerales(conexion_, clase_, generales_)) {
         generales_ = anteriores;
-        caja_.Mostrar(AvisoDeNoSalvado());
+        caja_.Mostrar(programa::MensajeSinGuardar());
         return false;
     }
     datosCambiados_ = true;

@@ -8,6 +8,7 @@
 #include "shell/Arranque.h"
 #include "shell/Espera.h"
 #include "slab/CalcularLosa.h"
+#include "store/Elementos.h"
 #include "store/tablas/TablasLosa.h"
 
 namespace trabex::planex::ui {
@@ -69,13 +70,7 @@ ExportarCAD::~ExportarCAD() {
 }
 
 std::vector<std::string> ExportarCAD::Nombres() {
-    almacen::Recordset& lista = aplicacion_.Proyecto.RegistrosProyecto;
-    std::vector<std::string> nombres;
-    for (int fila = 1; fila <= lista.NumeroRegistros(); ++fila) {
-        lista.MoverA(fila);
-        nombres.push_back(lista.Texto("Nombre"));
-    }
-    return nombres;
+    return almacen::Nombres(aplicacion_.Proyecto.RegistrosProyecto);
 }
 
 losas::Losa ExportarCAD::LosaDe(int fila) {
@@ -155,7 +150,7 @@ void ExportarCAD::Exportar(const std::vector<int>& filas) {
 }
 
 int ExportarCAD::EscribirLosas(const std::vector<int>& filas, const std::filesystem::path& archivo) {
-    const programa::Espera<VistaExportarCAD> espera(vista_);
+    const auto espera = programa::Espera(vista_);
     almacen::Conexion destino;
     almacen::AbrirConexion(destino, archivo);
     if (vista_.Opcion() == ArchivoCAD::CrearNuevo)

@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "base/Archivos.h"
+#include "base/Edicion.h"
 #include "reports/salidas/qt/Paginador.h"
 
 namespace trabex::salidas::qt {
@@ -64,7 +65,7 @@ void Pintar(const documento::Documento& documento, QIODevice& dispositivo) {
     QPdfWriter escritor(&dispositivo);
     escritor.setResolution(PuntosPorPulgada);
     escritor.setTitle(QString::fromStdString(documento.Titulo));
-    escritor.setCreator("Trabex 2024");
+    escritor.setCreator(ProgramaYEdicion);
     escritor.setDocumentXmpMetadata(Metadatos(documento));
     const QPageSize hoja(QSizeF(paginas.Hoja().Ancho, paginas.Hoja().Alto), QPageSize::Millimeter);
     escritor.setPageLayout(QPageLayout(hoja, QPageLayout::Portrait, QMarginsF()));

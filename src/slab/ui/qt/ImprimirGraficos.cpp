@@ -3,6 +3,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 
+#include "base/Edicion.h"
 #include "drawing/losa/GraficoLosasPrinter.h"
 #include "drawing/qt/PapelQt.h"
 #include "reports/ui/qt/ImpresorasQt.h"
@@ -13,8 +14,7 @@ namespace trabex::losas::ui::qt {
 
 void ImprimirGraficosLosas(QPrinter& impresora, const losas::salida::ProyectoParaReporte& origen,
                            const dibujo::losa::HojaLosa& pantalla, const std::string& usuario,
-                           montaje::EstadoReportes& estado) {
-    const montaje::BanderaEnAlto generando(estado.GenerandoReporte);
+                           const montaje::EstadoReportes& estado) {
     const losas::salida::PedidoDeGraficos pedido = losas::salida::PedidoDe(estado.OpcionGrafico);
     const dibujo::DatosDePagina pagina{usuario, origen.Datos.Proyecto, origen.Datos.Calculista};
     dibujo::losa::HojaLosa hoja = pantalla;
@@ -36,14 +36,14 @@ void ImprimirGraficosLosas(QPrinter& impresora, const losas::salida::ProyectoPar
 
 void PedirEImprimirGraficosLosas(reportes::ui::EntornoSalida& entorno,
                                  const losas::salida::ProyectoParaReporte& origen,
-                                 const dibujo::losa::HojaLosa& pantalla, montaje::EstadoReportes& estado,
-                                 QWidget* padre) {
+                                 const dibujo::losa::HojaLosa& pantalla,
+                                 const montaje::EstadoReportes& estado, QWidget* padre) {
     reportes::ui::ExportadorReportes exportador(entorno);
     if (!exportador.HayImpresoras()) return;
     QPrinter impresora(QPrinter::HighResolution);
     if (!entorno.Estado.Impresora.empty())
         impresora.setPrinterName(programa::qt::Q(entorno.Estado.Impresora));
-    impresora.setDocName("Trabex 2024");
+    impresora.setDocName(ProgramaYEdicion);
     QPrintDialog dialogo(&impresora, padre);
     if (dialogo.exec() != QDialog::Accepted) return;
     programa::qt::PunteroDeTrabajo puntero;

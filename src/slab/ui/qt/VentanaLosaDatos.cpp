@@ -20,14 +20,14 @@
 #include "drawing/qt/WidgetLienzo.h"
 #include "shell/qt/ComunVentanas.h"
 #include "shell/qt/Iconos.h"
+#include "slab/Analizar.h"
 #include "slab/ui/qt/VentanaCarga.h"
 
 namespace trabex::losas::ui::qt {
 
 namespace {
 
-constexpr int MaximoDeTramos = 10919;  // past it the counts of a calculation leave their 16 bits
-constexpr int LargoDeEje = 20;         // characters that the axes' column holds
+constexpr int LargoDeEje = 20;  // characters that the axes' column holds
 
 struct RotuloDeCampo {
     CampoSeccion Campo;
@@ -192,7 +192,7 @@ programa::qt::TablaDatos* VentanaLosaDatos::Tabla(std::vector<programa::qt::Colu
 
 QWidget* VentanaLosaDatos::PaginaDeTramos() {
     auto* pagina = new QWidget(this);
-    numeroTramos_ = Contador(MaximoDeTramos, "NumeroTramos");
+    numeroTramos_ = Contador(static_cast<int>(MaximoTramos), "NumeroTramos");
     connect(numeroTramos_, &QSpinBox::valueChanged, this, [this](int tramos) { PonerNumeroTramos(tramos); });
     ejes_ =
         Tabla({{.Titulo = "Nombre Eje",
