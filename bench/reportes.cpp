@@ -21,6 +21,16 @@
 namespace {
 
 using namespace trabex;
+using namespace trabex::almacen;
+using namespace trabex::almacen::tablas;
+using namespace trabex::dibujo::losa;
+using namespace trabex::losas;
+using namespace trabex::losas::salida;
+using namespace trabex::montaje;
+using namespace trabex::montaje::qt;
+using namespace trabex::prueba;
+using namespace trabex::salidas;
+using namespace trabex::salidas::qt;
 
 constexpr int Losas = 200;
 constexpr std::size_t Tramos = 8;
