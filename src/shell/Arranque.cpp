@@ -56,7 +56,7 @@ void CopiarArchivos(const Carpetas& carpetas) {
     const std::filesystem::path imagen = carpetas.CaminoPrograma / "Imagen";
     CopiarSiFalta(imagen / "Ejemplo Demostrativo.tbx", carpetas.Proyectos() / "Ejemplo Demostrativo.los");
     CopiarSiFalta(ImagenEntregada(carpetas), ImagenPorDefecto(carpetas));
-    CopiarSiFalta(imagen / "AnalisisCarga.tbx", carpetas.Proyectos() / "AnalisisCarga.mdb");
+    CopiarSiFalta(imagen / "AnalisisCarga.tbx", carpetas.AnalisisCarga());
 }
 
 }  // namespace

@@ -11,6 +11,8 @@ struct Carpetas {
     std::filesystem::path CaminoTemporales;  ///< scratch folder of file maintenance
 
     std::filesystem::path Proyectos() const { return CaminoUsuario / "Proyectos"; }
+    /// The load database that all projects share.
+    std::filesystem::path AnalisisCarga() const { return Proyectos() / "AnalisisCarga.mdb"; }
     std::filesystem::path ReportesExportados() const { return CaminoUsuario / "ReportesExportados"; }
     std::filesystem::path Tapices() const { return CaminoUsuario / "Tapices"; }
 };

@@ -80,15 +80,13 @@ class CargasGuiadas : public testing::Test {
         carpetas_.CaminoUsuario = carpeta_ / "usuario";
         carpetas_.CaminoPrograma = carpeta_ / "programa";
         aplicacion_.ArchivoProyecto = carpeta_ / "p.los";
-        std::filesystem::create_directories(carpetas_.CaminoUsuario / "Proyectos");
+        std::filesystem::create_directories(carpetas_.Proyectos());
         CrearBaseDatos(aplicacion_.ArchivoProyecto,
                        EsquemaDeProyecto() + LeerArchivo(imagen + "Ejemplo Demostrativo.sql"));
         CrearBaseDatos(Compartido(), LeerArchivo(imagen + "AnalisisCarga.sql"));
     }
 
-    std::filesystem::path Compartido() const {
-        return carpetas_.CaminoUsuario / "Proyectos" / "AnalisisCarga.mdb";
-    }
+    std::filesystem::path Compartido() const { return carpetas_.AnalisisCarga(); }
     programa::Servicios Servicios() { return {caja_, dialogos_, sistema_, carpetas_}; }
     static FuenteAzar Azar() {
         return [] { return 0.25; };
@@ -323,8 +321,7 @@ TEST_P(VentanasDeCarga, LosPesosSeCapturanYSeMantienen) {
         EXPECT_EQ(edicion.Sumas.Total, edicion.Sumas.Permanente + pesos.Lineas[4].Peso);
 
         std::filesystem::create_directories(carpetas_.CaminoPrograma / "Normas");
-        const auto norma =
-            carpetas_.CaminoPrograma / "Normas" / "Acciones Minimas Articulado 2002-1988.pdf";
+        const auto norma = carpetas_.CaminoPrograma / "Normas" / "Acciones Minimas Articulado 2002-1988.pdf";
         EscribirArchivo(norma, "%PDF");
         o.VerNorma();
         EXPECT_EQ(sistema_.Abiertos, std::vector{norma});
@@ -346,7 +343,7 @@ TEST_F(ListasDePesos, SeCreanCambianYBorran) {
         Conexion compartida;
         AbrirConexion(compartida, Compartido());
         VistaPesosGuiada vista;
-        AnalisisCargaBDCP base(compartida, *variante, receptor, Servicios(), carpetas_.CaminoPrograma);
+        AnalisisCargaBDCP base(compartida, *variante, receptor, Servicios());
         base.Abrir(vista);
         const std::size_t habia = vista.Lineas.size();
         const std::string conocida = vista.Lineas[6].Descripcion;

@@ -40,12 +40,12 @@ class AnalisisCargaBDCP {
   public:
     /// `compartida`: the connection of the window that stands below. `receptor`: the edit window.
     AnalisisCargaBDCP(almacen::Conexion& compartida, const VariantePesos& variante, ReceptorDePesos& receptor,
-                      const programa::Servicios& servicios, std::filesystem::path caminoPrograma)
+                      const programa::Servicios& servicios)
         : compartida_(compartida),
           variante_(variante),
           receptor_(receptor),
           servicios_(servicios),
-          normas_(std::move(caminoPrograma), servicios) {}
+          normas_(servicios) {}
 
     const VariantePesos& Variante() const { return variante_; }
 

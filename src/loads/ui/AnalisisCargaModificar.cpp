@@ -54,7 +54,7 @@ void AnalisisCargaModificar::EliminarLinea(int fila) {
 }
 
 void AnalisisCargaModificar::BuscarPesos(const VariantePesos& variante) {
-    AnalisisCargaBDCP operaciones(edicion_.Compartida, variante, *this, servicios_, edicion_.CaminoPrograma);
+    AnalisisCargaBDCP operaciones(edicion_.Compartida, variante, *this, servicios_);
     vista_->MostrarPesos(operaciones);
 }
 

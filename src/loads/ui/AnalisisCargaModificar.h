@@ -35,7 +35,6 @@ struct AnalisisEnEdicion {
     almacen::Recordset& Lista;
     almacen::Conexion& Compartida;            ///< where the lists of weights are
     std::function<void(double)> AlTotalizar;  ///< a save set the total of the selected line
-    std::filesystem::path CaminoPrograma;
 };
 
 /// Operations of the windows `AnalisisCargaModificarP` and `AnalisisCargaModificar`. Nothing is stored before
@@ -43,7 +42,7 @@ struct AnalisisEnEdicion {
 class AnalisisCargaModificar : public ReceptorDePesos {
   public:
     AnalisisCargaModificar(AnalisisEnEdicion edicion, const programa::Servicios& servicios)
-        : edicion_(std::move(edicion)), servicios_(servicios), normas_(edicion_.CaminoPrograma, servicios) {}
+        : edicion_(std::move(edicion)), servicios_(servicios), normas_(servicios) {}
 
     /// Shows the analysis on which the list stands.
     void Abrir(VistaDeAnalisis& vista);

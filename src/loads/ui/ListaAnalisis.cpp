@@ -12,10 +12,6 @@ namespace {
 
 constexpr const char* EncabezadoCaptura = "Análisis de Carga...";
 
-std::filesystem::path ArchivoCompartido(const programa::Carpetas& carpetas) {
-    return carpetas.Proyectos() / "AnalisisCarga.mdb";
-}
-
 }  // namespace
 
 ListaAnalisis::ListaAnalisis(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
@@ -32,7 +28,7 @@ almacen::Conexion& ListaAnalisis::Conexion() {
 
 void ListaAnalisis::Abrir(VistaListaAnalisis& vista) {
     vista_ = &vista;
-    almacen::AbrirConexion(compartida_, ArchivoCompartido(servicios_.Carpetas));
+    almacen::AbrirConexion(compartida_, servicios_.Carpetas.AnalisisCarga());
     if (DelProyecto()) {
         almacen::AbrirConexion(Conexion(), aplicacion_.ArchivoProyecto);
         almacen::proyecto::LeerProyecto(Conexion(), aplicacion_.Usuario, aplicacion_.Datos);
@@ -43,7 +39,7 @@ void ListaAnalisis::Abrir(VistaListaAnalisis& vista) {
 }
 
 void ListaAnalisis::MostrarEstado() {
-    const std::string compartido = TextoDeCamino(ArchivoCompartido(servicios_.Carpetas));
+    const std::string compartido = TextoDeCamino(servicios_.Carpetas.AnalisisCarga());
     const std::string propio = DelProyecto() ? TextoDeCamino(aplicacion_.ArchivoProyecto) : compartido;
     if (Conexion().ConexionFallida())
         vista_->PonerEstado((DelProyecto() ? "No se pudo leer el proyecto: " : "No se pudo leer: ") + propio);
@@ -89,10 +85,9 @@ void ListaAnalisis::Crear() {
 
 void ListaAnalisis::Modificar() {
     if (!EnUnaLinea()) return;
-    AnalisisCargaModificar operaciones(
-        {variante_.Donde, Conexion(), Lista(), compartida_,
-         [this](double carga) { vista_->PonerCarga(Fila(), carga); }, servicios_.Carpetas.CaminoPrograma},
-        servicios_);
+    AnalisisCargaModificar operaciones({variante_.Donde, Conexion(), Lista(), compartida_,
+                                        [this](double carga) { vista_->PonerCarga(Fila(), carga); }},
+                                       servicios_);
     vista_->MostrarModificar(operaciones);
     vista_->MarcarFila(Fila());
 }

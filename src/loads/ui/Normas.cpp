@@ -14,7 +14,7 @@ const char* ArchivoDe(DocumentoDeNorma documento) {
 }  // namespace
 
 void Normas::Abrir(DocumentoDeNorma documento) {
-    const std::filesystem::path camino = caminoPrograma_ / "Normas" / ArchivoDe(documento);
+    const std::filesystem::path camino = servicios_.Carpetas.CaminoPrograma / "Normas" / ArchivoDe(documento);
     if (Existe(camino) && servicios_.Sistema.AbrirArchivo(camino)) return;
     servicios_.Caja.Mostrar(programa::MensajeDeError(ErrorEjecucion(CodigoError::ArchivoNoEncontrado),
                                                      programa::ErrorInesperado));

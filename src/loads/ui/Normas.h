@@ -1,7 +1,5 @@
 #pragma once
 
-#include <filesystem>
-
 #include "shell/Servicios.h"
 
 namespace trabex::cargas::ui {
@@ -12,15 +10,13 @@ enum class DocumentoDeNorma { Articulado, Comentario };
 /// Operations of the window that shows the norm.
 class Normas {
   public:
-    Normas(std::filesystem::path caminoPrograma, const programa::Servicios& servicios)
-        : caminoPrograma_(std::move(caminoPrograma)), servicios_(servicios) {}
+    explicit Normas(const programa::Servicios& servicios) : servicios_(servicios) {}
 
     /// Opens a document with the desktop's program. One that is not installed, or that can't be opened, shows
     /// the error in the system's form.
     void Abrir(DocumentoDeNorma documento);
 
   private:
-    std::filesystem::path caminoPrograma_;
     programa::Servicios servicios_;
 };
 
