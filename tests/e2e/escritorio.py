@@ -32,14 +32,16 @@ class Escritorio:
                                   "LC_ALL": "C.UTF-8"}
         self.usuario = hogar / "Documentos" / "Nodara Software" / "Trabex24"
         self._pantalla(tamano)
-        self.lanzar("openbox")
+        gestor = self.lanzar("openbox")
         self.hasta(lambda: self.xdotool("get_num_desktops").returncode == 0, "the window manager")
+        assert gestor.poll() is None
         self.programa = self.lanzar(programa)
 
     def _pantalla(self, tamano):
         lectura, escritura = os.pipe()
+        # Without -noreset the display begins anew when a first client leaves, and drops one that is just connecting.
         self.procesos.append(subprocess.Popen(
-            ["Xvfb", "-displayfd", str(escritura), "-screen", "0", tamano + "x24"], pass_fds=[escritura],
+            ["Xvfb", "-noreset", "-displayfd", str(escritura), "-screen", "0", tamano + "x24"], pass_fds=[escritura],
             stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
         os.close(escritura)
         with os.fdopen(lectura) as tubo:

@@ -11,8 +11,8 @@ namespace trabex::montaje {
 /// each with a step of the progress panel.
 class AlbumGraficos {
   public:
-    /// `total` is the number of pictures to come; the panel takes a step after each `porPaso` of them. What it
-    /// refers to must outlive it.
+    /// `total` is the number of pictures to come; the panel takes a step after each `porPaso` of them. What
+    /// it refers to must outlive it.
     AlbumGraficos(almacen::Conexion& temporal, const EntornoReportes& entorno, SuperficieOculta& superficie,
                   PanelProgreso& panel, std::size_t total, const TamanoGrafico& tamano = {},
                   std::size_t porPaso = 1);
