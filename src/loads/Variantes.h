@@ -1,6 +1,11 @@
 #pragma once
 
+#include <cstdint>
+
 namespace trabex::cargas {
+
+/// Title of the reports of load analyses.
+inline constexpr const char* TituloReporte = "ANALISIS DE CARGA EN LOSAS";
 
 /// Where an analysis is kept. The windows of both are one implementation over this record and the tables that
 /// the store gives for the same place.
@@ -17,12 +22,13 @@ struct VarianteAnalisis {
     Ambito Donde;
     bool
         SorteaNumero;  ///< a new analysis gets a number of the program's; otherwise the database gives it one
-    const char* YaExiste;  ///< the message of a creation that does not go on
+    const char* YaExiste;        ///< the message of a creation that does not go on
+    std::int16_t ReporteActual;  ///< its report
 };
 
-inline constexpr VarianteAnalisis AnalisisDeProyecto{Ambito::Proyecto, true, TextoYaExiste};
+inline constexpr VarianteAnalisis AnalisisDeProyecto{Ambito::Proyecto, true, TextoYaExiste, 3};
 inline constexpr VarianteAnalisis AnalisisCompartido{Ambito::Compartido, false,
-                                                     "¡Este Registro ya existe en la Base de Datos!"};
+                                                     "¡Este Registro ya existe en la Base de Datos!", 5};
 
 constexpr const VarianteAnalisis& VarianteDe(Ambito ambito) {
     return ambito == Ambito::Proyecto ? AnalisisDeProyecto : AnalisisCompartido;

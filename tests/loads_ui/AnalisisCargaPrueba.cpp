@@ -6,6 +6,7 @@
 
 #include "loads/ui/AnalisisCargaNewCP.h"
 #include "loads/ui/ListaAnalisis.h"
+#include "reports/salidas/MotorReportes.h"
 #include "store/tablas/TablasCargas.h"
 #include "support/CarpetaTemporal.h"
 #include "support/ProyectoDePrueba.h"
@@ -64,6 +65,10 @@ struct VistaListaGuiada : VistaListaAnalisis {
     void MostrarNuevo(NuevoAnalisisCarga& operaciones) override { EnNuevo(operaciones); }
     void MostrarModificar(AnalisisCargaModificar& operaciones) override { EnModificar(operaciones); }
     void MostrarCompartidos(ListaAnalisis& operaciones) override { EnCompartidos(operaciones); }
+    std::optional<bool> MostrarOpcion() override { return Todos; }
+    void MostrarReporte(std::int16_t reporteActual) override { Reportes.push_back(reporteActual); }
+    std::optional<bool> Todos;
+    std::vector<std::int16_t> Reportes;
     std::vector<LineaDeAnalisis> Lineas;
     int Marcada = 0;
     int Enfoques = 0;
@@ -327,6 +332,57 @@ TEST_P(VentanasDeCarga, LosPesosSeCapturanYSeMantienen) {
         EXPECT_EQ(sistema_.Abiertos, std::vector{norma});
     };
     lista.Modificar();
+}
+
+TEST_P(VentanasDeCarga, ElReporteMontaElSeleccionadoOTodos) {
+    std::filesystem::create_directories(carpetas_.CaminoUsuario / "Trabajo");
+    std::filesystem::create_directories(carpetas_.CaminoPrograma / "Imagen");
+    CrearBaseDatos(carpetas_.CaminoPrograma / "Imagen" / "Temporal.tbx",
+                   LeerArchivo(TRABEX_INSTALL "/Imagen/Temporal.sql"));
+    ListaAnalisis lista(aplicacion_, Servicios(), VarianteDe(GetParam()), Azar());
+    lista.Abrir(vista_);
+    lista.Seleccionar(2);
+    lista.Exportar();  // cancelled
+    EXPECT_TRUE(vista_.Reportes.empty());
+    Conexion temporal;
+    const auto montadas = [&](const std::string& fuente) {
+        AbrirConexion(temporal, carpetas_.CaminoUsuario / "Trabajo" / "Temporal.mdb");
+        Recordset registros;
+        AbrirRecordset(temporal, registros, fuente);
+        return registros;
+    };
+    EnArchivo(GetParam(), "AnalisisCargaG");  // another connection
+    otra_.Ejecutar(std::string("UPDATE ") + TablasDe(GetParam()).Permanentes.Nombre +
+                   " SET Numero = 10 * Numero");
+    vista_.Todos = false;
+    lista.Exportar();
+    EXPECT_EQ(vista_.Reportes, std::vector{VarianteDe(GetParam()).ReporteActual});
+    Recordset generales = montadas("AnalisisCargaG");
+    ASSERT_EQ(generales.NumeroRegistros(), 1);
+    EXPECT_EQ(generales.Texto("Descripcion"), vista_.Lineas[1].Descripcion);
+    EXPECT_EQ(generales.Doble("Carga"), vista_.Lineas[1].Carga);
+    const AnalisisCarga guardado = EnArchivo(GetParam(), generales.Entero32("ID"));
+    Recordset items = montadas("SELECT * FROM AnalisisCargaCP ORDER BY Numero");
+    ASSERT_EQ(items.NumeroRegistros(), static_cast<int>(guardado.Permanentes.size()));
+    EXPECT_EQ(items.Entero16("Numero"), 10);  // as it is stored
+    EXPECT_EQ(items.Texto("Descripcion"), guardado.Permanentes[0].Descripcion);
+    EXPECT_EQ(montadas("AnalisisCargaCV").Entero32("Peso"), guardado.CV);
+    EXPECT_EQ(montadas("Generales").Texto("Titulo"), "ANALISIS DE CARGA EN LOSAS");
+
+    vista_.Todos = true;
+    lista.Exportar();
+    EXPECT_EQ(montadas("AnalisisCargaG").NumeroRegistros(), static_cast<int>(vista_.Lineas.size()));
+    EXPECT_EQ(lista.Fila(), 2);
+
+    for (const char* diseno : {"AnalisisCarga.rpt", "AnalisisCarga1.rpt"}) {
+        salidas::Reporte reporte(std::filesystem::path(TRABEX_INSTALL) / "Reportes" / diseno, {});
+        reporte.Ubicar(carpetas_.CaminoUsuario / "Trabajo" / "Temporal.mdb");
+        salidas::MotorReportes motor;
+        motor.Exportar(reporte.Contenido(), salidas::FormatoHtml, carpeta_ / "reporte.htm");
+        const std::string html = LeerArchivo(carpeta_ / "reporte.htm");
+        for (const LineaDeAnalisis& linea : vista_.Lineas)
+            EXPECT_NE(html.find(linea.Descripcion), std::string::npos) << diseno << ": " << linea.Descripcion;
+    }
 }
 
 class ListasDePesos : public CargasGuiadas {};

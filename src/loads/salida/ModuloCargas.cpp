@@ -26,7 +26,7 @@ constexpr std::array<lote::ColumnaResumen, 6> Columnas{{{"Análisis de carga", n
                                                         {"Partidas", "0"},
                                                         {"CP (kgf/m2)", "#,##0"},
                                                         {"CV (kgf/m2)", "#,##0"},
-                                                        {"Carga (kgf/m2)", "#,##0"},
+                                                        {"Carga (kgf/m2)", "#,##0.00"},
                                                         {"CV/CP", "0.000"}}};
 
 std::vector<lote::Celda> Resumir(const lote::Elemento& elemento) {

@@ -2,6 +2,7 @@
 
 #include "base/Archivos.h"
 #include "base/Formatos.h"
+#include "loads/salida/ReporteCargas.h"
 #include "store/proyecto/TablaProyecto.h"
 #include "store/tablas/CamposCargas.h"
 #include "store/tablas/TablasCargas.h"
@@ -113,6 +114,16 @@ bool ListaAnalisis::ModificarCelda(int fila, CampoDeLinea campo, const std::stri
                                                        : almacen::tablas::CambiarDescripcion(Lista(), texto);
     if (!guardada) servicios_.Caja.Mostrar(programa::MensajeSinGuardar());
     return guardada;
+}
+
+void ListaAnalisis::Exportar() {
+    if (!EnUnaLinea()) return;
+    const std::optional<bool> todos = vista_->MostrarOpcion();
+    if (!todos) return;
+    const programa::Carpetas& carpetas = servicios_.Carpetas;
+    salida::LLeneDatos({carpetas.CaminoPrograma, carpetas.CaminoUsuario, aplicacion_.Usuario},
+                       {variante_.Donde, Conexion(), Lista(), aplicacion_.Datos}, *todos);
+    vista_->MostrarReporte(variante_.ReporteActual);
 }
 
 void ListaAnalisis::VerCompartidos() {

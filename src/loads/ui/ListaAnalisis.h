@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -35,6 +36,11 @@ class VistaListaAnalisis {
     // Windows over this one, until they close.
     virtual void MostrarNuevo(NuevoAnalisisCarga& operaciones) = 0;
     virtual void MostrarModificar(AnalisisCargaModificar& operaciones) = 0;
+    /// `OpcionAnalisisCarga`: whether all analyses are reported, or the selected one. Nothing when the
+    /// engineer cancels.
+    virtual std::optional<bool> MostrarOpcion() = 0;
+    /// The window of report output, on what is staged.
+    virtual void MostrarReporte(std::int16_t reporteActual) = 0;
     /// The shared analyses, from a project's window.
     virtual void MostrarCompartidos(ListaAnalisis& operaciones) = 0;
 };
@@ -69,6 +75,8 @@ class ListaAnalisis {
     /// "Modificar las Celdas": a changed cell goes back to the row at the same position. False when it is no
     /// number, or, with a message, when it could not be stored.
     bool ModificarCelda(int fila, CampoDeLinea campo, const std::string& texto);
+    /// Reports the selected analysis or all of them; nothing in an empty list.
+    void Exportar();
     /// A project's window opens the shared analyses over itself.
     void VerCompartidos();
 
