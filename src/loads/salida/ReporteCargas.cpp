@@ -1,6 +1,7 @@
 #include "loads/salida/ReporteCargas.h"
 
 #include "reports/montaje/EstadoReportes.h"
+#include "store/Posicion.h"
 #include "store/Vaciado.h"
 #include "store/tablas/CamposCargas.h"
 #include "store/tablas/TablasCargas.h"
@@ -56,7 +57,7 @@ bool LLeneDatos(const montaje::EntornoReportes& entorno, const AnalisisParaRepor
     if (!temporal.Abierta()) return false;
     almacen::Transaccion guardado(temporal);
     MontajeDeCargas montaje(temporal);
-    const montaje::PosicionGuardada posicion(origen.Lista);
+    const auto posicion = almacen::PosicionGuardada(origen.Lista);
     const int primera = todos ? 1 : origen.Lista.Posicion();
     const int ultima = todos ? origen.Lista.NumeroRegistros() : primera;
     bool completo = true;
