@@ -4,18 +4,27 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QSet>
+#include <QSettings>
 #include <QSpinBox>
+#include <QSplitter>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
+#include <set>
 
 #include <gtest/gtest.h>
 
+#include "shell/qt/ComunVentanas.h"
 #include "shell/qt/TablaDatos.h"
+#include "slab/ui/ComandosLosas.h"
 #include "slab/ui/qt/VentanaCarga.h"
 #include "slab/ui/qt/VentanaLosaDatos.h"
 #include "slab/ui/qt/VentanaLosas.h"
@@ -225,6 +234,63 @@ TEST_F(Espacio, LosMandosDeOtrasPartesSeEnchufanYPidenUnaLosa) {
     for (const char* clave : {"ID_Exportar", "ID_Editar", "ID_Eliminar", "ID_Generales"})
         EXPECT_FALSE(ventana.Accion(clave)->isEnabled()) << clave;
     EXPECT_TRUE(ventana.Accion("ID_Nueva")->isEnabled());
+}
+
+/// Letters that Alt reaches in a window, or plain keys in a menu: each must lead to one place.
+QString Letras(const QStringList& textos) {
+    QString letras;
+    for (const QString& texto : textos) {
+        const qsizetype lugar = texto.indexOf('&');
+        if (lugar >= 0) letras += texto.at(lugar + 1).toUpper();
+    }
+    return letras;
+}
+
+void EsperarDistintas(const QString& letras) {
+    EXPECT_EQ(QSet<QChar>(letras.begin(), letras.end()).size(), letras.size()) << letras.toStdString();
+}
+
+TEST_F(Espacio, TodoSeAlcanzaConElTeclado) {
+    VentanaLosas ventana(e.aplicacion, e.servicios, e.memoria, {}, nullptr);
+    QStringList rotulos;
+    std::set<QAction*> enMenus;
+    for (const QAction* titulo : ventana.findChild<QMenuBar*>()->actions()) {
+        rotulos << titulo->text();
+        QStringList entradas;
+        for (QAction* accion : titulo->menu()->actions()) {
+            if (accion->isSeparator()) continue;
+            enMenus.insert(accion);
+            entradas << accion->text();
+        }
+        EXPECT_EQ(Letras(entradas).size(), entradas.size()) << titulo->text().toStdString();
+        EsperarDistintas(Letras(entradas));
+    }
+    for (const auto& comando : ComandosLosas) EXPECT_TRUE(enMenus.contains(ventana.Accion(comando.Clave)));
+    for (const auto& comando : ComandosDeVista) EXPECT_TRUE(enMenus.contains(ventana.Accion(comando.Clave)));
+    const auto* hojas = ventana.findChild<QTabBar*>();
+    for (int hoja = 0; hoja < hojas->count(); ++hoja) rotulos << hojas->tabText(hoja);
+    for (const auto* rotulo : ventana.findChildren<QLabel*>())
+        if (rotulo->buddy() != nullptr) rotulos << rotulo->text();
+    for (const auto* boton : ventana.findChildren<QPushButton*>()) rotulos << boton->text();
+    EXPECT_EQ(Letras(rotulos).size(), 9) << rotulos.join('|').toStdString();
+    EsperarDistintas(Letras(rotulos));
+}
+
+TEST_F(Espacio, RecuerdaComoSeRepartioLaVentana) {
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, Q(e.carpeta.Camino().string()));
+    QCoreApplication::setOrganizationName("prueba");
+    QList<int> repartida;
+    {
+        VentanaLosas ventana(e.aplicacion, e.servicios, e.memoria, {}, nullptr);
+        ventana.show();
+        ventana.findChild<QSplitter*>()->setSizes({400, 500});
+        repartida = ventana.findChild<QSplitter*>()->sizes();
+        ventana.accept();
+    }
+    VentanaLosas ventana(e.aplicacion, e.servicios, e.memoria, {}, nullptr);
+    ventana.show();
+    EXPECT_EQ(ventana.findChild<QSplitter*>()->sizes(), repartida);
+    QCoreApplication::setOrganizationName({});
 }
 
 TEST_F(Espacio, CreaConElDeslizadorDeNombresYRenombra) {
