@@ -16,8 +16,8 @@
 #include "shell/qt/PlataformaQt.h"
 #include "shell/qt/VentanaMenuPrincipal.h"
 #include "shell/qt/VentanaSplash.h"
-#include "slab/ui/qt/ModuloLosas.h"
-#include "stairs/ui/qt/ModuloEscaleraT.h"
+#include "slab/ui/qt/EspacioLosas.h"
+#include "stairs/ui/qt/EspacioEscaleraT.h"
 
 int main(int argc, char** argv) {
     QApplication programa(argc, argv);
@@ -36,14 +36,14 @@ int main(int argc, char** argv) {
     trabex::programa::Carpetas carpetas;
     const trabex::programa::Servicios servicios{caja, dialogos, plataforma, carpetas};
     trabex::reportes::ui::qt::SalidaDelPrograma salida;
-    std::vector<trabex::programa::qt::Modulo> modulos{
-        trabex::losas::ui::qt::ModuloLosas(salida),
-        trabex::escaleras::ui::qt::ModuloEscaleraT(salida),
+    std::vector<trabex::programa::qt::Espacio> espacios{
+        trabex::losas::ui::qt::EspacioLosas(salida),
+        trabex::escaleras::ui::qt::EspacioEscaleraT(salida),
     };
     std::unique_ptr<trabex::programa::qt::VentanaMenuPrincipal> menu;
     trabex::programa::qt::VentanaSplash splash([&] {
         menu = std::make_unique<trabex::programa::qt::VentanaMenuPrincipal>(aplicacion, servicios,
-                                                                            std::move(modulos));
+                                                                            std::move(espacios));
         menu->show();
     });
     splash.show();

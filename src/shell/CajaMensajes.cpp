@@ -18,7 +18,7 @@ constexpr int AnchoMinimoVarios = 4300;
 
 }  // namespace
 
-DisenoCaja DisenoDe(BotonesCaja botones) {
+DisposicionCaja DisposicionDe(BotonesCaja botones) {
     switch (botones) {
         case BotonesCaja::SiNo:
             return {SiNoCancelar.data(), 2, std::nullopt};

@@ -54,12 +54,12 @@ struct BotonCaja {
     const char* Texto;
     RespuestaCaja Respuesta;
 };
-struct DisenoCaja {
+struct DisposicionCaja {
     const BotonCaja* Botones;
     std::int16_t Cuantos;
     std::optional<RespuestaCaja> Escape;  ///< what Escape answers; nothing where it does nothing
 };
-DisenoCaja DisenoDe(BotonesCaja botones);
+DisposicionCaja DisposicionDe(BotonesCaja botones);
 
 /// Sizes of the box, in twips (1/1440 inch), from the measured widths of heading and text.
 inline constexpr int AnchoMaximoTexto = 10500;  ///< longer lines wrap

@@ -70,13 +70,13 @@ int Compactar1::CompactarTodos(const std::filesystem::path& carpeta,
                                const std::vector<std::string>& elegidos) {
     int reparados = 0;
     for (const std::string& nombre : elegidos) {
-        vista_.PunteroDeEspera(true);
-        vista_.Avanzar(100.0 * reparados / static_cast<double>(elegidos.size()),
-                       "Archivo: " + Mayusculas(nombre));
+        pantalla_.PunteroDeEspera(true);
+        pantalla_.Avanzar(100.0 * reparados / static_cast<double>(elegidos.size()),
+                          "Archivo: " + Mayusculas(nombre));
         Compactar(carpeta / CaminoDeTexto(nombre));
         ++reparados;
-        vista_.Avanzar(100.0 * reparados / static_cast<double>(elegidos.size()),
-                       "Archivo: " + Mayusculas(nombre));
+        pantalla_.Avanzar(100.0 * reparados / static_cast<double>(elegidos.size()),
+                          "Archivo: " + Mayusculas(nombre));
     }
     return reparados;
 }
@@ -93,26 +93,26 @@ void Compactar1::Aceptar(const std::filesystem::path& carpeta, const std::vector
     }
     aplicacion_.Proyecto.ConexionProyecto.Cerrar();
     VaciarTemporales();
-    vista_.MostrarProgreso(true);
+    pantalla_.MostrarProgreso(true);
     try {
         const int reparados = CompactarTodos(carpeta, elegidos);
-        vista_.MostrarProgreso(false);
-        vista_.RefrescarLista();
-        vista_.PunteroDeEspera(false);
+        pantalla_.MostrarProgreso(false);
+        pantalla_.RefrescarLista();
+        pantalla_.PunteroDeEspera(false);
         Avisar(reparados > 0
                    ? "¡Se Repararon Y Compactaron ( " + std::to_string(reparados) + " ) Archivos con Exito!"
                    : "No se Reparó ni Compactó Nigún Archivo...",
                "Mantenimiento de Archivos...");
     } catch (const ErrorEjecucion& error) {
-        vista_.MostrarProgreso(false);
-        vista_.RefrescarLista();
-        vista_.PunteroDeEspera(false);
+        pantalla_.MostrarProgreso(false);
+        pantalla_.RefrescarLista();
+        pantalla_.PunteroDeEspera(false);
         Mensaje mensaje = MensajeDeError(error, "¡Falló la Acción de Reparar Y Compactar el Archivo!");
         mensaje.Texto = "Número de Error: " + std::to_string(error.Codigo()) + "\n" + error.Texto();
         servicios_.Caja.Mostrar(mensaje);
         return;
     }
-    vista_.Cerrar();
+    pantalla_.Cerrar();
 }
 
 }  // namespace trabex::programa

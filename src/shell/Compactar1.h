@@ -9,9 +9,9 @@
 
 namespace trabex::programa {
 
-class VistaCompactar {
+class PantallaCompactar {
   public:
-    virtual ~VistaCompactar() = default;
+    virtual ~PantallaCompactar() = default;
     virtual void MostrarProgreso(bool visible) = 0;
     /// `porcentaje` of the work is done; `rotulo` tells the file in hand.
     virtual void Avanzar(double porcentaje, const std::string& rotulo) = 0;
@@ -30,8 +30,8 @@ std::vector<std::string> ListarProyectos(const std::filesystem::path& carpeta);
 /// made fails. The engineer keeps a backup for that case.
 class Compactar1 {
   public:
-    Compactar1(Aplicacion& aplicacion, const Servicios& servicios, VistaCompactar& vista)
-        : aplicacion_(aplicacion), servicios_(servicios), vista_(vista) {}
+    Compactar1(Aplicacion& aplicacion, const Servicios& servicios, PantallaCompactar& pantalla)
+        : aplicacion_(aplicacion), servicios_(servicios), pantalla_(pantalla) {}
 
     /// Accepts: handles the chosen files of a folder, in list order, and closes the window.
     void Aceptar(const std::filesystem::path& carpeta, const std::vector<std::string>& elegidos);
@@ -44,7 +44,7 @@ class Compactar1 {
 
     Aplicacion& aplicacion_;
     Servicios servicios_;
-    VistaCompactar& vista_;
+    PantallaCompactar& pantalla_;
 };
 
 }  // namespace trabex::programa

@@ -4,11 +4,11 @@
 
 namespace trabex::programa {
 
-/// The pointer of long work on a window's view, for as long as what it returns stands.
-template <class Vista>
-auto Espera(Vista& vista) {
-    vista.PunteroDeEspera(true);
-    return AlSalir([&vista] { vista.PunteroDeEspera(false); });
+/// The pointer of long work on a window, for as long as what it returns stands.
+template <class Pantalla>
+auto Espera(Pantalla& pantalla) {
+    pantalla.PunteroDeEspera(true);
+    return AlSalir([&pantalla] { pantalla.PunteroDeEspera(false); });
 }
 
 }  // namespace trabex::programa

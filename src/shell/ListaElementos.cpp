@@ -13,9 +13,13 @@ std::string Con(const TextoDeElemento& texto, const std::string& nombre) {
 
 }  // namespace
 
-ListaElementos::ListaElementos(Aplicacion& aplicacion, const Servicios& servicios, VistaEspacio& vista,
+ListaElementos::ListaElementos(Aplicacion& aplicacion, const Servicios& servicios, PantallaEspacio& pantalla,
                                const ClaseDeElemento& clase, ElementoDeLista& elemento)
-    : aplicacion_(aplicacion), servicios_(servicios), vista_(vista), clase_(clase), elemento_(elemento) {}
+    : aplicacion_(aplicacion),
+      servicios_(servicios),
+      pantalla_(pantalla),
+      clase_(clase),
+      elemento_(elemento) {}
 
 void ListaElementos::Abrir() {
     cargando_ = true;
@@ -44,11 +48,11 @@ void ListaElementos::Conectar() {
     almacen::AbrirConexion(conexion, aplicacion_.ArchivoProyecto);
     elemento_.AlConectar();
     AbrirLista();
-    vista_.RestablecerVista();
+    pantalla_.RestablecerVista();
     MostrarPrimera();
     const std::string camino = TextoDeCamino(aplicacion_.ArchivoProyecto);
-    vista_.PonerEstado(conexion.ConexionFallida() ? "No se pudo leer el proyecto: " + camino : camino);
-    vista_.PonerTitulo(TituloConProyecto(Mayusculas(aplicacion_.NombreProyecto)));
+    pantalla_.PonerEstado(conexion.ConexionFallida() ? "No se pudo leer el proyecto: " + camino : camino);
+    pantalla_.PonerTitulo(TituloConProyecto(Mayusculas(aplicacion_.NombreProyecto)));
 }
 
 void ListaElementos::AbrirLista() {
@@ -57,7 +61,7 @@ void ListaElementos::AbrirLista() {
 }
 
 void ListaElementos::Llenar() {
-    vista_.LlenarLista(Nombres());
+    pantalla_.LlenarLista(Nombres());
     elemento_.AlLlenar();
 }
 
@@ -67,26 +71,26 @@ std::vector<std::string> ListaElementos::Nombres() {
 
 void ListaElementos::MostrarPrimera() {
     if (!Vacia()) return Seleccionar(1);
-    vista_.PonerEncabezado("");
+    pantalla_.PonerEncabezado("");
     elemento_.AlVaciar();
 }
 
 void ListaElementos::Seleccionar(int fila) {
     if (fila < 1 || fila > NumeroDeElementos()) return;
     Lista().MoverA(fila);
-    vista_.MarcarFila(fila);
+    pantalla_.MarcarFila(fila);
     elemento_.AlSeleccionar();
 }
 
 void ListaElementos::Redibujar() {
-    if (!cargando_) vista_.Redibujar();
+    if (!cargando_) pantalla_.Redibujar();
 }
 
 void ListaElementos::Crear(const std::function<bool()>& nombrar) {
     if (!nombrar()) return;
     Lista().MoverAlUltimo();
     Llenar();
-    vista_.MarcarFila(Fila());
+    pantalla_.MarcarFila(Fila());
     elemento_.AlAgregar();
 }
 
@@ -119,7 +123,7 @@ void ListaElementos::Renombrar() {
     almacen::Conexion& conexion = aplicacion_.Proyecto.ConexionProyecto;
     const std::string actual = Lista().Texto("Nombre");
     programa::Renombrar operaciones(conexion, servicios_.Caja, clase_.Tablas.Lista, clase_.Renombrar, actual);
-    vista_.MostrarRenombrar(operaciones);
+    pantalla_.MostrarRenombrar(operaciones);
     const std::string& nuevo = operaciones.NombreNuevo();
     if (nuevo.empty()) return;
     if (!almacen::RenombrarElemento(conexion, clase_.Tablas, actual, nuevo)) {

@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "shell/Aplicacion.h"
+#include "shell/PantallaEspacio.h"
 #include "shell/Renombrar.h"
 #include "shell/Servicios.h"
-#include "shell/VistaEspacio.h"
 #include "store/Elementos.h"
 
 namespace trabex::programa {
@@ -49,7 +49,7 @@ class ElementoDeLista {
 /// of the project's list of records.
 class ListaElementos {
   public:
-    ListaElementos(Aplicacion& aplicacion, const Servicios& servicios, VistaEspacio& vista,
+    ListaElementos(Aplicacion& aplicacion, const Servicios& servicios, PantallaEspacio& pantalla,
                    const ClaseDeElemento& clase, ElementoDeLista& elemento);
 
     /// Closes the list, then the connection.
@@ -98,7 +98,7 @@ class ListaElementos {
 
     Aplicacion& aplicacion_;
     Servicios servicios_;
-    VistaEspacio& vista_;
+    PantallaEspacio& pantalla_;
     const ClaseDeElemento& clase_;
     ElementoDeLista& elemento_;
     bool cargando_ = true;

@@ -25,18 +25,19 @@ std::string NombreDe(const std::filesystem::path& archivo) {
 
 }  // namespace
 
-MenuPrincipal::MenuPrincipal(Aplicacion& aplicacion, const Servicios& servicios, VistaMenuPrincipal& vista)
-    : aplicacion_(aplicacion), servicios_(servicios), vista_(vista) {}
+MenuPrincipal::MenuPrincipal(Aplicacion& aplicacion, const Servicios& servicios,
+                             PantallaMenuPrincipal& pantalla)
+    : aplicacion_(aplicacion), servicios_(servicios), pantalla_(pantalla) {}
 
 void MenuPrincipal::Iniciar() {
-    vista_.HabilitarSalvarComo(false);
-    vista_.PonerTitulo(TituloConProyecto(""));
-    vista_.PonerRevision(std::string("Revisión del Programa: ") + VersionPrograma);
+    pantalla_.HabilitarSalvarComo(false);
+    pantalla_.PonerTitulo(TituloConProyecto(""));
+    pantalla_.PonerRevision(std::string("Revisión del Programa: ") + VersionPrograma);
     aplicacion_.SeparadoresLocales = LeerSeparadores(servicios_.Sistema.NumeroDeMuestra());
     const std::filesystem::path ayuda = servicios_.Carpetas.CaminoPrograma / "AyudaLosas2024.chm";
     if (Existe(ayuda)) aplicacion_.ArchivoAyuda = ayuda;
     ColoqueTapiz();
-    vista_.PunteroDeEspera(false);
+    pantalla_.PunteroDeEspera(false);
 }
 
 void MenuPrincipal::Ejecutar(std::string_view clave) {
@@ -60,14 +61,14 @@ void MenuPrincipal::Ejecutar(std::string_view clave) {
     const auto comando = std::find_if(Comandos.begin(), Comandos.end(),
                                       [&](const Comando& conocido) { return conocido.Clave == clave; });
     if (comando == Comandos.end()) return;
-    if (comando->Ejecuta == Orden::Espacio) return vista_.MostrarEspacio(clave);
+    if (comando->Ejecuta == Orden::Espacio) return pantalla_.MostrarEspacio(clave);
     ConProyecto([&] { MostrarEspacio(clave); });
 }
 
 void MenuPrincipal::HacerActual(const std::filesystem::path& archivo) {
     aplicacion_.ArchivoProyecto = archivo;
     aplicacion_.NombreProyecto = NombreDe(archivo);
-    vista_.PonerTitulo(TituloConProyecto(aplicacion_.NombreProyecto));
+    pantalla_.PonerTitulo(TituloConProyecto(aplicacion_.NombreProyecto));
 }
 
 /// The question on replacing an existing file is an announcement: both of its answers go on, and only a third
@@ -77,7 +78,7 @@ void MenuPrincipal::CrearNuevoProyecto() {
     do {
         archivo = servicios_.Dialogos.Elegir(
             {"Crear un Nuevo Proyecto", FiltroProyectos, servicios_.Carpetas.Proyectos(), true, true, false});
-        if (!archivo) return vista_.PunteroDeEspera(false);
+        if (!archivo) return pantalla_.PunteroDeEspera(false);
     } while (Existe(*archivo) &&
              servicios_.Caja.Mostrar(Pregunta(
                  "Proyecto: " + NombreDe(*archivo) + "\n¿Esta Seguro de Reemplazar el Proyecto Existente?",
@@ -89,11 +90,11 @@ void MenuPrincipal::CrearNuevoProyecto() {
         Reemplazar(*archivo);
     } catch (const ErrorEjecucion& error) {
         servicios_.Caja.Mostrar(MensajeDeError(error, ErrorInesperado));
-        return vista_.PunteroDeEspera(false);
+        return pantalla_.PunteroDeEspera(false);
     }
-    const auto espera = Espera(vista_);
-    vista_.MostrarDatosProyecto();
-    vista_.HabilitarSalvarComo(true);
+    const auto espera = Espera(pantalla_);
+    pantalla_.MostrarDatosProyecto();
+    pantalla_.HabilitarSalvarComo(true);
 }
 
 void MenuPrincipal::Reemplazar(const std::filesystem::path& archivo) {
@@ -105,11 +106,11 @@ void MenuPrincipal::Reemplazar(const std::filesystem::path& archivo) {
 void MenuPrincipal::AbrirProyecto() {
     const auto archivo = servicios_.Dialogos.Elegir(
         {"Abrir un Proyecto Existente", FiltroAbrir, servicios_.Carpetas.Proyectos(), false, false, true});
-    vista_.PunteroDeEspera(false);
+    pantalla_.PunteroDeEspera(false);
     if (!archivo) return;
     HacerActual(*archivo);
-    vista_.HabilitarSalvarComo(true);
-    vista_.Repintar();
+    pantalla_.HabilitarSalvarComo(true);
+    pantalla_.Repintar();
 }
 
 /// The target of a save-as. An existing file is never taken: the box does not yield the answer that would.
@@ -139,7 +140,7 @@ std::optional<std::filesystem::path> MenuPrincipal::ElegirDestino() {
 void MenuPrincipal::SalvarComo() {
     const auto archivo = ElegirDestino();
     if (!archivo) return;
-    const auto espera = Espera(vista_);
+    const auto espera = Espera(pantalla_);
     try {
         almacen::AsentarBaseDatos(aplicacion_.ArchivoProyecto);
         almacen::OlvidarGuardado(*archivo);
@@ -154,30 +155,30 @@ template <class Mostrar>
 void MenuPrincipal::ConProyecto(Mostrar mostrar) {
     if (Recortar(aplicacion_.NombreProyecto).empty()) AbrirProyecto();
     if (Recortar(aplicacion_.NombreProyecto).empty()) return;
-    const auto espera = Espera(vista_);
+    const auto espera = Espera(pantalla_);
     mostrar();
 }
 
 void MenuPrincipal::ModificarProyecto() {
-    ConProyecto([this] { vista_.MostrarDatosProyecto(); });
+    ConProyecto([this] { pantalla_.MostrarDatosProyecto(); });
 }
 
 /// A workspace has its own open command: the title follows it.
 void MenuPrincipal::MostrarEspacio(std::string_view clave) {
-    vista_.MostrarEspacio(clave);
-    vista_.PonerTitulo(TituloConProyecto(aplicacion_.NombreProyecto));
+    pantalla_.MostrarEspacio(clave);
+    pantalla_.PonerTitulo(TituloConProyecto(aplicacion_.NombreProyecto));
 }
 
 void MenuPrincipal::ConfigurarTapiz() {
-    vista_.MostrarConfiguracion();
+    pantalla_.MostrarConfiguracion();
 }
 
 void MenuPrincipal::Reparar() {
-    vista_.MostrarReparacion();
+    pantalla_.MostrarReparacion();
 }
 
 void MenuPrincipal::Sobre() {
-    vista_.MostrarSobre();
+    pantalla_.MostrarSobre();
 }
 
 void MenuPrincipal::TemasAyuda() {
@@ -193,12 +194,12 @@ void MenuPrincipal::AbreExplorador() {
 }
 
 void MenuPrincipal::Salida() {
-    vista_.Cerrar();
+    pantalla_.Cerrar();
 }
 
 void MenuPrincipal::ColoqueTapiz() {
     LeerPreferencias(servicios_.Carpetas, aplicacion_);
-    vista_.PonerTapiz(aplicacion_.Preferencias);
+    pantalla_.PonerTapiz(aplicacion_.Preferencias);
 }
 
 }  // namespace trabex::programa

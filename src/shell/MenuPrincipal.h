@@ -9,9 +9,9 @@
 namespace trabex::programa {
 
 /// What the main window's operations ask of the window.
-class VistaMenuPrincipal {
+class PantallaMenuPrincipal {
   public:
-    virtual ~VistaMenuPrincipal() = default;
+    virtual ~PantallaMenuPrincipal() = default;
     virtual void PonerTitulo(const std::string& titulo) = 0;
     virtual void PonerRevision(const std::string& texto) = 0;
     virtual void HabilitarSalvarComo(bool habilitado) = 0;
@@ -33,7 +33,7 @@ class VistaMenuPrincipal {
 /// workspace writes to it as the engineer works, and closing asks nothing.
 class MenuPrincipal {
   public:
-    MenuPrincipal(Aplicacion& aplicacion, const Servicios& servicios, VistaMenuPrincipal& vista);
+    MenuPrincipal(Aplicacion& aplicacion, const Servicios& servicios, PantallaMenuPrincipal& pantalla);
 
     /// First title, status, locale, help file and wallpaper.
     void Iniciar();
@@ -67,7 +67,7 @@ class MenuPrincipal {
 
     Aplicacion& aplicacion_;
     Servicios servicios_;
-    VistaMenuPrincipal& vista_;
+    PantallaMenuPrincipal& pantalla_;
 };
 
 }  // namespace trabex::programa

@@ -21,12 +21,12 @@ using namespace cargas::ui;
 using namespace prueba;
 namespace {
 
-struct VistaCreacionGuiada : VistaDeCreacion {
+struct VistaCreacionGuiada : PantallaDeCreacion {
     void Rechazar(CampoDePeso campo) override { Rechazados.push_back(campo); }
     std::vector<CampoDePeso> Rechazados;
 };
 
-struct VistaPesosGuiada : VistaDePesos {
+struct VistaPesosGuiada : PantallaDePesos {
     void LlenarLista(const std::vector<PesoUnitario>& lineas) override { Lineas = lineas; }
     void MarcarFila(int fila) override { Marcada = fila; }
     void MostrarNueva(AnalisisCargaNewCP& operaciones) override { EnNueva(operaciones); }
@@ -36,7 +36,7 @@ struct VistaPesosGuiada : VistaDePesos {
     std::function<void(AnalisisCargaNewCP&)> EnNueva;
 };
 
-struct VistaAnalisisGuiada : VistaDeAnalisis {
+struct VistaAnalisisGuiada : PantallaDeAnalisis {
     void PonerAnalisis(const AnalisisCarga& analisis, int posicion, int) override {
         Analisis = analisis;
         Posicion = posicion;
@@ -54,7 +54,7 @@ struct VistaAnalisisGuiada : VistaDeAnalisis {
     std::function<void(AnalisisCargaBDCP&)> EnPesos;
 };
 
-struct VistaListaGuiada : VistaListaAnalisis {
+struct VistaListaGuiada : PantallaListaAnalisis {
     void LlenarLista(const std::vector<LineaDeAnalisis>& lineas) override { Lineas = lineas; }
     void MarcarFila(int fila) override { Marcada = fila; }
     void PonerCarga(int fila, double carga) override {

@@ -16,7 +16,7 @@ using namespace planex::ui;
 using namespace programa;
 namespace {
 
-struct VistaGuiada : VistaExportarCAD {
+struct PantallaGuiada : PantallaExportarCAD {
     bool Marcada(int fila) const override { return Marcas.contains(fila); }
     ArchivoCAD Opcion() const override { return Archivo; }
     void PunteroDeEspera(bool espera) override { Espera = espera; }
@@ -31,14 +31,14 @@ class ExportarCAD_ : public prueba::Exportacion {
     /// Runs the export of the rows to a file and answers yes to its question.
     void Exportar(std::set<int> filas, ArchivoCAD opcion, const std::filesystem::path& archivo,
                   std::uint8_t version = Planex2023) {
-        vista = {};
-        vista.Marcas = std::move(filas);
-        vista.Archivo = opcion;
+        pantalla = {};
+        pantalla.Marcas = std::move(filas);
+        pantalla.Archivo = opcion;
         dialogos.Elegidos = {archivo};
         caja.Mensajes.clear();
         caja.Respuestas = {RespuestaSi};
-        ExportarCAD(aplicacion, servicios, version, vista).ExportarCAD80();
-        EXPECT_FALSE(vista.Espera);
+        ExportarCAD(aplicacion, servicios, version, pantalla).ExportarCAD80();
+        EXPECT_FALSE(pantalla.Espera);
     }
 
     Recordset Filas(const std::filesystem::path& archivo, const std::string& consulta) {
@@ -53,13 +53,13 @@ class ExportarCAD_ : public prueba::Exportacion {
     }
     const Mensaje& Ultimo() const { return caja.Mensajes.back(); }
 
-    VistaGuiada vista;
+    PantallaGuiada pantalla;
     Conexion conexion;
 };
 
 TEST_F(ExportarCAD_, PreguntaEnSuOrdenYNuncaReemplaza) {
-    vista.Marcas = {};
-    ExportarCAD operaciones(aplicacion, servicios, Planex8, vista);
+    pantalla.Marcas = {};
+    ExportarCAD operaciones(aplicacion, servicios, Planex8, pantalla);
     operaciones.ExportarCAD80();
     EXPECT_EQ(Ultimo().Texto, "No ha Seleccionado Losas para Exportar a Planex Estructural...");
     EXPECT_EQ(Ultimo().Encabezado, "Planex Estructural 2023");
@@ -68,7 +68,7 @@ TEST_F(ExportarCAD_, PreguntaEnSuOrdenYNuncaReemplaza) {
     const auto viejo = carpeta / "viejo.cad";
     const auto nuevo = carpeta / "nuevo.cad";
     prueba::EscribirArchivo(viejo, "ajeno");
-    vista.Marcas = {1};
+    pantalla.Marcas = {1};
     caja.Respuestas = {RespuestaSi, RespuestaAceptarONo};
     dialogos.Elegidos = {viejo, nuevo};
     operaciones.ExportarCAD80();
@@ -79,7 +79,7 @@ TEST_F(ExportarCAD_, PreguntaEnSuOrdenYNuncaReemplaza) {
               "nuevo.cad\n¿Anexar las Losas Seleccionadas a Planex Estructural 2023?");
     EXPECT_EQ(prueba::LeerArchivo(viejo), "ajeno");
     EXPECT_EQ(Filas(nuevo, "LosaDatos").NumeroRegistros(), 0);  // the template was copied before the question
-    EXPECT_FALSE(vista.Cerrada);
+    EXPECT_FALSE(pantalla.Cerrada);
     EXPECT_EQ(dialogos.Peticiones[0].Titulo, "Crear Nuevo Proyecto en Planex Estructural 8.0");
     EXPECT_EQ(dialogos.Peticiones[0].Nombre, "obra.cad");
     EXPECT_EQ(dialogos.Peticiones[0].Carpeta, carpeta / "C" / "Nodara Software" / "Planex8" / "Proyectos");
@@ -90,7 +90,7 @@ TEST_F(ExportarCAD_, PreguntaEnSuOrdenYNuncaReemplaza) {
     EXPECT_EQ(Filas(nuevo, "Proyecto").NumeroRegistros(), 0);
     EXPECT_EQ(Cuantas(nuevo, "LosaDatos", "A MACIZA"), 1);
 
-    ExportarCAD(aplicacion, servicios, Planex2023, vista).AbrirCarpeta();
+    ExportarCAD(aplicacion, servicios, Planex2023, pantalla).AbrirCarpeta();
     EXPECT_EQ(plataforma.Abiertos.back(), dialogos.Peticiones[0].Carpeta);
     std::filesystem::remove(carpeta / "programa" / "Imagen" / "ImagenCAD8.tbx");
     Exportar({1}, ArchivoCAD::CrearNuevo, carpeta / "sin plantilla.cad", Planex8);
@@ -102,7 +102,7 @@ TEST_F(ExportarCAD_, LasFilasDeCadaLosa) {
     aplicacion.Datos.Comentario = "dos 'comillas'";
     Exportar({1, 2, 3}, ArchivoCAD::CrearNuevo, archivo);
     EXPECT_EQ(Ultimo().Texto, "¡Se Exportaron ( 3 ) Losa(s) con Exito a Planex Estructural!");
-    EXPECT_TRUE(vista.Cerrada);
+    EXPECT_TRUE(pantalla.Cerrada);
     EXPECT_EQ(aplicacion.Proyecto.RegistrosProyecto.Posicion(), 1);
     EXPECT_EQ(Filas(archivo, "Proyecto").Texto("Comentario"), "dos 'comillas'");
 
@@ -168,7 +168,7 @@ TEST_F(ExportarCAD_, VolverAExportarReemplazaSoloLaSuya) {
     EXPECT_EQ(Filas(archivo, "Proyecto").NumeroRegistros(), 1);
 
     // The steel is of a fresh calculation: the factor has changed since the first export.
-    const Losa losa = ExportarCAD(aplicacion, servicios, Planex2023, vista).LosaDe(1);
+    const Losa losa = ExportarCAD(aplicacion, servicios, Planex2023, pantalla).LosaDe(1);
     ResultadosLosa resultados;
     CalcularLosa(losa, aplicacion.Generales, resultados);
     Recordset acero = Filas(archivo, "SELECT * FROM LosaRefTeorico WHERE Nombre='A MACIZA' ORDER BY Eje");
@@ -201,7 +201,7 @@ TEST_F(ExportarCAD_, UnFalloAMediasDejaLasFilasAnteriores) {
     Exportar({1, 2, 3}, ArchivoCAD::AnexarAExistente, archivo);
     EXPECT_EQ(Ultimo().Encabezado, "Error Inesperado...");
     EXPECT_TRUE(Ultimo().Texto.starts_with("Error Número: 75\n"));
-    EXPECT_FALSE(vista.Cerrada);
+    EXPECT_FALSE(pantalla.Cerrada);
     EXPECT_EQ(Filas(archivo, "SELECT * FROM LosaDatos WHERE Nombre='A MACIZA'").Entero16("EscLosa"), 50);
     EXPECT_EQ(Filas(archivo, "SELECT * FROM LosaDatos WHERE Nombre='B NERVADA'").Entero16("EscLosa"), 75);
     EXPECT_EQ(Cuantas(archivo, "LosaRefTeorico", "B NERVADA"), 4);

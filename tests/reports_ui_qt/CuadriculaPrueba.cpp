@@ -26,7 +26,7 @@ using namespace salidas::qt;
 
 namespace {
 
-struct VistaGuiada : VistaOpcionExportar2 {
+struct PantallaGuiada : PantallaOpcionExportar2 {
     std::vector<bool> Esperas;
     bool Cerrada = false;
     void PunteroDeEspera(bool espera) override { Esperas.push_back(espera); }
@@ -40,8 +40,8 @@ class PreviaDeCuadricula : public testing::Test {
         carpetas.CaminoUsuario = carpeta / "usuario";
         aplicacion.Usuario = "ING. NÚÑEZ";
     }
-    VistaGuiada Exportar(std::uint8_t formato) {
-        VistaGuiada vista;
+    PantallaGuiada Exportar(std::uint8_t formato) {
+        PantallaGuiada vista;
         OpcionExportar2(entorno, vista, grilla).Aceptar(formato);
         return vista;
     }
@@ -82,7 +82,7 @@ TEST_F(PreviaDeCuadricula, CadaFormatoPideEscribeRegistraYPregunta) {
         const std::filesystem::path archivo = carpeta / caso.Nombre;
         dialogos.Elegidos = {archivo};
         caja.Respuestas = {RespuestaSi};
-        const VistaGuiada vista = Exportar(caso.Formato);
+        const PantallaGuiada vista = Exportar(caso.Formato);
         EXPECT_EQ(estado.FormatoSalida, caso.Formato);
         const PeticionArchivo& peticion = dialogos.Peticiones.back();
         EXPECT_EQ(peticion.Titulo, caso.Titulo);
@@ -114,7 +114,7 @@ TEST_F(PreviaDeCuadricula, CancelarNoHaceNadaYLaFallaSeDice) {
          {5, "Error Creando el Archivo XML..."}}};
     for (const auto& [formato, texto] : fallas) {
         dialogos.Elegidos = {carpeta / "no existe" / "tabla.xls"};
-        const VistaGuiada vista = Exportar(formato);
+        const PantallaGuiada vista = Exportar(formato);
         EXPECT_EQ(caja.Mensajes.back().Texto, texto);
         EXPECT_EQ(caja.Mensajes.back().Encabezado, "Reportes Exportados...");
         EXPECT_EQ(vista.Esperas.back(), false);

@@ -42,7 +42,7 @@ using namespace salidas;
 using namespace salidas::qt;
 namespace {
 
-struct VistaGuiada : VistaSalidaReporte {
+struct PantallaGuiada : PantallaSalidaReporte {
     bool Esperando = false;
     int Vistos = 0;
     bool Cerrada = false;
@@ -74,7 +74,7 @@ class SalidasDeReporte : public prueba::ReportePreparado {
     Aplicacion aplicacion;
     EstadoSalida estado;
     EntornoSalida entorno;
-    VistaGuiada vista;
+    PantallaGuiada vista;
 };
 
 TEST_F(SalidasDeReporte, CadaArchivoSePideSeEscribeYSeOfreceAbrir) {

@@ -120,7 +120,7 @@ TEST_F(Arranque, AceptarLaConfiguracionPorRespuestas) {
     EXPECT_EQ(caja.Mensajes[0].Botones, BotonesCaja::SiNoCancelar);
 }
 
-struct VistaReparacion : VistaCompactar {
+struct VistaReparacion : PantallaCompactar {
     void MostrarProgreso(bool visible) override { Progreso = visible; }
     void Avanzar(double porcentaje, const std::string& rotulo) override {
         Avance = porcentaje;
@@ -148,18 +148,19 @@ TEST_F(Arranque, RepararRehaceCadaArchivoElegido) {
     EscribirArchivo(Usuario("Temporales/resto.txt"), "x");
     EXPECT_EQ(ListarProyectos(proyectos),
               (std::vector<std::string>{"Á.LOS", "b.los", "Ejemplo Demostrativo.los"}));
-    VistaReparacion vista;
-    Compactar1 reparacion(aplicacion, servicios, vista);
+    VistaReparacion pantalla;
+    Compactar1 reparacion(aplicacion, servicios, pantalla);
     reparacion.Aceptar(proyectos, {});
     EXPECT_EQ(caja.Mensajes.back().Texto, "No ha Seleccionado ningún Archivo...");
     EXPECT_EQ(caja.Mensajes.back().Titulo, "Reparar y Compactar Archivos");
-    EXPECT_FALSE(vista.Cerrada);
+    EXPECT_FALSE(pantalla.Cerrada);
     reparacion.Aceptar(proyectos, {"Á.LOS", "b.los"});
     EXPECT_EQ(caja.Mensajes.back().Texto, "¡Se Repararon Y Compactaron ( 2 ) Archivos con Exito!");
-    EXPECT_EQ(vista.Rotulos[0], "Archivo: Á.LOS");
-    EXPECT_EQ(vista.Avance, 100);
-    EXPECT_TRUE(vista.Cerrada);
-    EXPECT_FALSE(vista.Espera || vista.Progreso || std::filesystem::exists(Usuario("Temporales/resto.txt")));
+    EXPECT_EQ(pantalla.Rotulos[0], "Archivo: Á.LOS");
+    EXPECT_EQ(pantalla.Avance, 100);
+    EXPECT_TRUE(pantalla.Cerrada);
+    EXPECT_FALSE(pantalla.Espera || pantalla.Progreso ||
+                 std::filesystem::exists(Usuario("Temporales/resto.txt")));
     ProyectoAbierto proyecto;
     ASSERT_TRUE(prueba::Abrir(proyecto, proyectos / "b.los"));
     EXPECT_EQ(proyecto.RegistrosProyecto.NumeroRegistros(), 1);
@@ -168,12 +169,12 @@ TEST_F(Arranque, RepararRehaceCadaArchivoElegido) {
     // A read-only file stops the run; what was done before stays done, and the file stays as it was.
     std::filesystem::permissions(proyectos / "b.los", std::filesystem::perms(0444));
     const std::string antes = LeerArchivo(proyectos / "b.los");
-    vista.Cerrada = false;
+    pantalla.Cerrada = false;
     reparacion.Aceptar(proyectos, {"Á.LOS", "b.los"});
     EXPECT_EQ(caja.Mensajes.back().Texto, "Número de Error: 75\nError de acceso a la ruta o al archivo");
     EXPECT_EQ(caja.Mensajes.back().Encabezado, "¡Falló la Acción de Reparar Y Compactar el Archivo!");
     EXPECT_EQ(LeerArchivo(proyectos / "b.los"), antes);
-    EXPECT_FALSE(vista.Cerrada);
+    EXPECT_FALSE(pantalla.Cerrada);
 
     // What is no database: the engine's box, then the failure of the copy.
     caja.Mensajes.clear();
@@ -187,9 +188,9 @@ TEST(CajaMensajes, MedidasYTeclas) {
     EXPECT_EQ(AnchoCaja(BotonesCaja::Aceptar, 100, 100), 3900);
     EXPECT_EQ(AnchoCaja(BotonesCaja::SiNo, 5000, 100), 5200);
     EXPECT_EQ(AnchoCaja(BotonesCaja::SiNoCancelar, 100, 20000), 10850);
-    EXPECT_EQ(DisenoDe(BotonesCaja::Aceptar).Escape, RespuestaAceptarONo);
-    EXPECT_EQ(DisenoDe(BotonesCaja::SiNo).Escape, std::nullopt);
-    EXPECT_EQ(DisenoDe(BotonesCaja::SiNoCancelar).Escape, RespuestaCancelar);
+    EXPECT_EQ(DisposicionDe(BotonesCaja::Aceptar).Escape, RespuestaAceptarONo);
+    EXPECT_EQ(DisposicionDe(BotonesCaja::SiNo).Escape, std::nullopt);
+    EXPECT_EQ(DisposicionDe(BotonesCaja::SiNoCancelar).Escape, RespuestaCancelar);
 }
 
 }  // namespace

@@ -22,7 +22,7 @@ namespace {
 using prueba::EscribirArchivo;
 using prueba::LeerArchivo;
 
-struct VistaGuiada : VistaMenuPrincipal {
+struct PantallaGuiada : PantallaMenuPrincipal {
     void PonerTitulo(const std::string& titulo) override { Titulo = titulo; }
     void PonerRevision(const std::string& texto) override { Revision = texto; }
     void HabilitarSalvarComo(bool habilitado) override { SalvarComo = habilitado; }
@@ -55,16 +55,16 @@ class Menu_ : public testing::Test {
     prueba::DialogosGuiados dialogos;
     Carpetas carpetas;
     Servicios servicios{caja, dialogos, plataforma, carpetas};
-    VistaGuiada vista;
+    PantallaGuiada pantalla;
     Aplicacion aplicacion;
-    MenuPrincipal menu{aplicacion, servicios, vista};
+    MenuPrincipal menu{aplicacion, servicios, pantalla};
 };
 
 TEST_F(Menu_, Empieza) {
-    EXPECT_EQ(vista.Titulo, "Trabex 2024   Proyecto:[]");
-    EXPECT_EQ(vista.Revision, "Revisión del Programa: 24.0.0");
-    EXPECT_FALSE(vista.SalvarComo);
-    EXPECT_FALSE(vista.Espera);
+    EXPECT_EQ(pantalla.Titulo, "Trabex 2024   Proyecto:[]");
+    EXPECT_EQ(pantalla.Revision, "Revisión del Programa: 24.0.0");
+    EXPECT_FALSE(pantalla.SalvarComo);
+    EXPECT_FALSE(pantalla.Espera);
     EXPECT_EQ(aplicacion.SeparadoresLocales.Miles, ".");
     EXPECT_EQ(LeerSeparadores("1 234.56").Decimal, ".");
     EXPECT_EQ(LeerSeparadores("1234.56").Decimal, ",");
@@ -77,16 +77,16 @@ TEST_F(Menu_, NuevoSobreUnoExistenteReemplazaSeRespondaLoQueSeResponda) {
         caja.Mensajes.clear();
         caja.Respuestas = {RespuestaCancelar, respuesta};  // 2 alone comes back to the dialog
         dialogos.Elegidos = {archivo, archivo};
-        vista.Mostradas.clear();
+        pantalla.Mostradas.clear();
         menu.Ejecutar("ID_Nuevo");
         ASSERT_EQ(caja.Mensajes.size(), 2U);
         EXPECT_EQ(caja.Mensajes[0].Texto,
                   "Proyecto: Año Ñ 1.los\n¿Esta Seguro de Reemplazar el Proyecto Existente?");
         EXPECT_EQ(caja.Mensajes[0].Encabezado, "Crear un Nuevo Proyecto...");
         EXPECT_EQ(LeerArchivo(archivo), LeerArchivo(Plantilla()));
-        EXPECT_EQ(vista.Mostradas, std::vector<std::string>{"DatosProyecto"});
-        EXPECT_TRUE(vista.SalvarComo);
-        EXPECT_EQ(vista.Titulo, "Trabex 2024   Proyecto:[Año Ñ 1.los]");
+        EXPECT_EQ(pantalla.Mostradas, std::vector<std::string>{"DatosProyecto"});
+        EXPECT_TRUE(pantalla.SalvarComo);
+        EXPECT_EQ(pantalla.Titulo, "Trabex 2024   Proyecto:[Año Ñ 1.los]");
     }
     EXPECT_TRUE(dialogos.Peticiones[0].AvisarReemplazo);
 }
@@ -100,9 +100,9 @@ TEST_F(Menu_, SinPlantillaElNuevoFallaConSuCodigo) {
     EXPECT_EQ(caja.Mensajes.back().Texto, "Error Número: 53\nNo se encontró el archivo");
     EXPECT_EQ(caja.Mensajes.back().Encabezado, "Error Inesperado...");
     EXPECT_FALSE(std::filesystem::exists(archivo));
-    EXPECT_EQ(vista.Titulo, "Trabex 2024   Proyecto:[obra.los]");
-    EXPECT_TRUE(vista.Mostradas.empty());
-    EXPECT_FALSE(vista.Espera);
+    EXPECT_EQ(pantalla.Titulo, "Trabex 2024   Proyecto:[obra.los]");
+    EXPECT_TRUE(pantalla.Mostradas.empty());
+    EXPECT_FALSE(pantalla.Espera);
     dialogos.Elegidos = {carpeta / "no hay" / "x.los"};
     CrearBaseDatos(Plantilla(), prueba::EsquemaDeProyecto());
     menu.Ejecutar("ID_Nuevo");
@@ -186,23 +186,23 @@ TEST_F(Menu_, LosComandosDeUnProyectoPrimeroLoAbren) {
                                           {"ID_EscaleraH", "ID_EscaleraH"},
                                           {"ID_Modificar", "DatosProyecto"}}) {
         aplicacion.NombreProyecto = "  ";
-        vista.Mostradas.clear();
+        pantalla.Mostradas.clear();
         menu.Ejecutar(clave);  // the dialog is cancelled
-        EXPECT_TRUE(vista.Mostradas.empty()) << clave;
+        EXPECT_TRUE(pantalla.Mostradas.empty()) << clave;
         EXPECT_EQ(dialogos.Peticiones.back().Titulo, "Abrir un Proyecto Existente");
         dialogos.Elegidos = {carpeta / "x.los"};
         menu.Ejecutar(clave);
-        EXPECT_EQ(vista.Mostradas, std::vector<std::string>{mostrada});
-        EXPECT_FALSE(vista.Espera);
+        EXPECT_EQ(pantalla.Mostradas, std::vector<std::string>{mostrada});
+        EXPECT_FALSE(pantalla.Espera);
     }
     aplicacion.NombreProyecto.clear();
     menu.Ejecutar("ID_Carga");
-    EXPECT_EQ(vista.Mostradas.back(), "ID_Carga");
+    EXPECT_EQ(pantalla.Mostradas.back(), "ID_Carga");
     menu.Ejecutar("ID_Normas");  // known to the menu, dispatched by none
     menu.Ejecutar("ID_Explorador");
     EXPECT_EQ(plataforma.Abiertos.back(), carpetas.Proyectos());
     menu.Ejecutar("ID_Salida");
-    EXPECT_TRUE(vista.Cerrada);
+    EXPECT_TRUE(pantalla.Cerrada);
 }
 
 TEST_F(Menu_, LosDatosDelProyectoQuedanEnSuUnicaFila) {

@@ -18,8 +18,8 @@ struct Datos : testing::Test {
 
     prueba::EspacioDePrueba e{
         {Nombrada(LosaContinua({5, 4, 3}, 300, 90), "L-1"), Nombrada(LosaContinua({6}, 200), "L-2")}};
-    prueba::VistaLosaDatosGuiada vista;
-    LosaDatos datos{e.espacio, vista, e.caja};
+    prueba::PantallaLosaDatosGuiada pantalla;
+    LosaDatos datos{e.espacio, pantalla, e.caja};
 };
 
 TEST_F(Datos, EditaUnaCopiaYGuardaEntera) {
@@ -66,11 +66,11 @@ TEST_F(Datos, UnCeroTomaElFocoSegunLaClaseDeLosa) {
         datos.PonerMaciza(caso.maciza);
         const double antes = datos.Seccion(caso.campo);
         datos.PonerSeccion(caso.campo, 0);
-        vista.EnPagina = PaginaLosa::Cargas;
+        pantalla.EnPagina = PaginaLosa::Cargas;
         EXPECT_EQ(datos.Salvar(), caso.salva);
         if (!caso.salva) {
-            EXPECT_EQ(vista.EnPagina, PaginaLosa::Seccion);
-            EXPECT_EQ(vista.Enfocado, caso.campo);
+            EXPECT_EQ(pantalla.EnPagina, PaginaLosa::Seccion);
+            EXPECT_EQ(pantalla.Enfocado, caso.campo);
         }
         datos.PonerSeccion(caso.campo, antes);
     }
@@ -114,7 +114,7 @@ TEST_F(Datos, LosTramosQueQuedanConservanLoSuyo) {
 TEST_F(Datos, LosBotonesDeApoyoBajanPorLaTabla) {
     for (const TipoApoyo tipo : {Empotramiento, SinApoyo, RodilloEnY, ApoyoFijo, RodilloEnX})
         datos.PulsarTipo(tipo);
-    EXPECT_EQ(vista.Apoyo, 4U);
+    EXPECT_EQ(pantalla.Apoyo, 4U);
     EXPECT_EQ(datos.Edicion().Ejes[1].Tipo, Empotramiento);
     EXPECT_EQ(datos.Edicion().Ejes[3].Tipo, RodilloEnY);
     EXPECT_EQ(datos.Edicion().Ejes[4].Tipo, RodilloEnX);  // the last row takes the last two
@@ -122,27 +122,27 @@ TEST_F(Datos, LosBotonesDeApoyoBajanPorLaTabla) {
 
 TEST_F(Datos, RetornoPreguntaSoloConCambios) {
     datos.Retorno();
-    EXPECT_TRUE(vista.Cerrada);
+    EXPECT_TRUE(pantalla.Cerrada);
     EXPECT_TRUE(e.caja.Mensajes.empty());
 
-    vista.Cerrada = false;
+    pantalla.Cerrada = false;
     datos.PonerLongitud(1, 9);
     datos.Retorno();  // no
-    EXPECT_TRUE(vista.Cerrada);
+    EXPECT_TRUE(pantalla.Cerrada);
     EXPECT_EQ(Dicho(), "Losa: L-1\n¿Desea Salvar las Modificaciones?");
     EXPECT_EQ(e.caja.Mensajes[0].Encabezado, "Losas del Proyecto...");
     EXPECT_EQ(e.Guardada("L-1").Tramos[1].LT, 5);
     EXPECT_FALSE(datos.LosaModificada());
 
-    vista.Cerrada = false;
+    pantalla.Cerrada = false;
     datos.PonerSeccion(CampoSeccion::Bo, 0);
     e.caja.Respuestas = {RespuestaSi};
     datos.Retorno();  // yes, but a zero keeps it from saving
-    EXPECT_FALSE(vista.Cerrada);
+    EXPECT_FALSE(pantalla.Cerrada);
     datos.PonerSeccion(CampoSeccion::Bo, 0.12);
     e.caja.Respuestas = {RespuestaSi};
     datos.Retorno();
-    EXPECT_TRUE(vista.Cerrada);
+    EXPECT_TRUE(pantalla.Cerrada);
     EXPECT_EQ(e.Guardada("L-1").Tramos[1].LT, 9);
     EXPECT_TRUE(datos.LosaModificada());
 }
@@ -152,7 +152,7 @@ TEST_F(Datos, ElSelectorCambiaDeLosaEnLasDosVentanas) {
     EXPECT_TRUE(datos.ElegirLosa(2));  // no
     EXPECT_EQ(Dicho(), "L-1\n¿Desea Salvar las Modificaciones?");
     EXPECT_EQ(datos.Titulo(), "Datos Generales Losa: L-2");
-    EXPECT_EQ(e.vista.Marcada, 2);
+    EXPECT_EQ(e.pantalla.Marcada, 2);
     EXPECT_EQ(datos.NumeroDeTramos(), 1U);
     EXPECT_EQ(e.Guardada("L-1").Tramos[1].LT, 5);
     datos.PonerLongitud(1, 7);
@@ -189,7 +189,7 @@ TEST_F(Datos, UnGuardadoQueFallaDejaLaLosaEntera) {
 
 TEST_F(Datos, LasCargasSeFijanSeIgualanOSeDejan) {
     datos.MoverATramo(2);
-    vista.Carga = [&](const EntradaDeCarga& entrada) {
+    pantalla.Carga = [&](const EntradaDeCarga& entrada) {
         Carga01 carga(entrada, e.caja);
         EXPECT_EQ(carga.Encabezado(), "TRAMO ( 2 )");
         EXPECT_EQ(carga.Marco(), "Carga por Nervio (Servicio)");
@@ -205,7 +205,7 @@ TEST_F(Datos, LasCargasSeFijanSeIgualanOSeDejan) {
     EXPECT_TRUE(datos.PuedeCerrar());
     EXPECT_TRUE(e.caja.Mensajes.empty());
 
-    vista.Carga = [&](const EntradaDeCarga& entrada) {
+    pantalla.Carga = [&](const EntradaDeCarga& entrada) {
         Carga02 carga(entrada, e.caja);
         carga.Poner(800, 99);  // past the span: stored all the same
         carga.MoverA(1);
@@ -221,7 +221,7 @@ TEST_F(Datos, LasCargasSeFijanSeIgualanOSeDejan) {
     EXPECT_EQ(datos.Edicion().Tramos[1].Wp, 300);
 
     datos.PonerMaciza(true);
-    vista.Carga = [&](const EntradaDeCarga& entrada) {
+    pantalla.Carga = [&](const EntradaDeCarga& entrada) {
         Carga01 carga(entrada, e.caja);
         EXPECT_EQ(carga.Marco(), "Carga por metro (Servicio)");
         carga.Poner(410, 150);
@@ -238,11 +238,11 @@ TEST_F(Datos, LasCargasSeFijanSeIgualanOSeDejan) {
 }
 
 TEST_F(Datos, AbrirUnaCargaTrasGuardarOlvidaQueSeGuardo) {
-    e.vista.Datos = [&] {
+    e.pantalla.Datos = [&] {
         datos.Abrir();
         datos.PonerLongitud(1, 2);
         EXPECT_TRUE(datos.Salvar());
-        vista.Carga = [&](const EntradaDeCarga& entrada) {
+        pantalla.Carga = [&](const EntradaDeCarga& entrada) {
             return Carga01(entrada, e.caja).LosaModificada();
         };
         datos.CargaUniforme();
@@ -255,11 +255,11 @@ TEST_F(Datos, AbrirUnaCargaTrasGuardarOlvidaQueSeGuardo) {
 }
 
 TEST_F(Datos, LasPaginasNoSalenDeSusExtremos) {
-    vista.EnPagina = PaginaLosa::Seccion;
+    pantalla.EnPagina = PaginaLosa::Seccion;
     datos.PaginaAnterior();
-    EXPECT_EQ(vista.EnPagina, PaginaLosa::Seccion);
+    EXPECT_EQ(pantalla.EnPagina, PaginaLosa::Seccion);
     for (int i = 0; i < 7; ++i) datos.PaginaSiguiente();
-    EXPECT_EQ(vista.EnPagina, PaginaLosa::Cargas);
+    EXPECT_EQ(pantalla.EnPagina, PaginaLosa::Cargas);
 }
 
 }  // namespace

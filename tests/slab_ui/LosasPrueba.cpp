@@ -42,16 +42,16 @@ struct Espacio : testing::Test {
 };
 
 TEST_F(Espacio, AbreEnLaPrimeraYMuestraCadaSeleccionada) {
-    EXPECT_EQ(e.vista.Titulo, "Trabex 2024   Proyecto:[OBRA.LOS]");
-    EXPECT_THAT(e.vista.Filas, ElementsAre("BALCON", "Nivel 1"));
-    EXPECT_EQ(e.vista.Encabezado, "LOSA MACIZA: BALCON");
-    EXPECT_EQ(e.vista.Dibujos, 1);  // nothing is drawn while it loads
+    EXPECT_EQ(e.pantalla.Titulo, "Trabex 2024   Proyecto:[OBRA.LOS]");
+    EXPECT_THAT(e.pantalla.Filas, ElementsAre("BALCON", "Nivel 1"));
+    EXPECT_EQ(e.pantalla.Encabezado, "LOSA MACIZA: BALCON");
+    EXPECT_EQ(e.pantalla.Dibujos, 1);  // nothing is drawn while it loads
     espacio.ElegirVista(VistaDiseno);
-    const int restablecida = e.vista.Restablecida;
+    const int restablecida = e.pantalla.Restablecida;
     espacio.Lista().Seleccionar(2);
-    EXPECT_EQ(e.vista.Encabezado, "LOSA NERVADA: Nivel 1");
-    EXPECT_EQ(e.vista.Marcada, 2);
-    EXPECT_GT(e.vista.Restablecida, restablecida);
+    EXPECT_EQ(e.pantalla.Encabezado, "LOSA NERVADA: Nivel 1");
+    EXPECT_EQ(e.pantalla.Marcada, 2);
+    EXPECT_GT(e.pantalla.Restablecida, restablecida);
     EXPECT_EQ(espacio.Estado().Hoja.VistaActual, VistaDiseno);
     EXPECT_EQ(espacio.Estado().Resultados.DisenoTramo.size(), 4U);
     espacio.Lista().Seleccionar(3);
@@ -60,16 +60,17 @@ TEST_F(Espacio, AbreEnLaPrimeraYMuestraCadaSeleccionada) {
 
 TEST_F(Espacio, DiceLosAvisosDeLaSeleccionada) {
     espacio.Lista().Seleccionar(2);
-    EXPECT_FALSE(HayFalla(e.vista.Puestos));
+    EXPECT_FALSE(HayFalla(e.pantalla.Puestos));
     espacio.Estado().Abierta.Ejes[1].Tipo = RodilloEnX;  // stepped, and nothing holds it along X
     espacio.Calcular();
-    ASSERT_TRUE(HayFalla(e.vista.Puestos));
-    EXPECT_EQ(Resumen(e.vista.Puestos).find("Eje 4: La losa no se sostiene: nada la sujeta en dirección X."),
-              0U);
-    EXPECT_TRUE(e.vista.Fallan[2]);
+    ASSERT_TRUE(HayFalla(e.pantalla.Puestos));
+    EXPECT_EQ(
+        Resumen(e.pantalla.Puestos).find("Eje 4: La losa no se sostiene: nada la sujeta en dirección X."),
+        0U);
+    EXPECT_TRUE(e.pantalla.Fallan[2]);
     espacio.Lista().Seleccionar(1);
-    EXPECT_FALSE(HayFalla(e.vista.Puestos));
-    EXPECT_FALSE(e.vista.Fallan[1]);
+    EXPECT_FALSE(HayFalla(e.pantalla.Puestos));
+    EXPECT_FALSE(e.pantalla.Fallan[1]);
 }
 
 TEST(EspacioConFallas, AlAbrirSeMarcanLasLosasQueNoSeSostienen) {
@@ -78,21 +79,21 @@ TEST(EspacioConFallas, AlAbrirSeMarcanLasLosasQueNoSeSostienen) {
     prueba::EspacioDePrueba e({Maciza(), suelta, Desplazada()});
     EXPECT_EQ(e.espacio.Lista().Fila(), 1);
     EXPECT_EQ(e.espacio.Estado().Abierta.Nombre, "BALCON");
-    EXPECT_TRUE(e.vista.Fallan[3]);
-    EXPECT_FALSE(e.vista.Fallan[1] || e.vista.Fallan[2]);
-    EXPECT_FALSE(HayFalla(e.vista.Puestos));
+    EXPECT_TRUE(e.pantalla.Fallan[3]);
+    EXPECT_FALSE(e.pantalla.Fallan[1] || e.pantalla.Fallan[2]);
+    EXPECT_FALSE(HayFalla(e.pantalla.Puestos));
 }
 
 TEST_F(Espacio, CreaUnaLosaYEntraSusDatos) {
     e.memoria.UltimoHo = 0.3;
-    e.vista.LosaNueva = [&] {
+    e.pantalla.LosaNueva = [&] {
         EXPECT_FALSE(Nueva("   "));
         EXPECT_FALSE(Nueva(" nivel 1 "));
         espacio.Lista().Seleccionar(2);  // the scroller
         return Nueva("  Azotea ");
     };
-    e.vista.Datos = [&] {
-        EXPECT_EQ(e.vista.Encabezado, "LOSA NERVADA: Azotea");
+    e.pantalla.Datos = [&] {
+        EXPECT_EQ(e.pantalla.Encabezado, "LOSA NERVADA: Azotea");
         EXPECT_EQ(espacio.Estado().Abierta.Tramos.size(), 1U);
         return false;
     };
@@ -100,7 +101,7 @@ TEST_F(Espacio, CreaUnaLosaYEntraSusDatos) {
     ASSERT_EQ(e.caja.Mensajes.size(), 1U);
     EXPECT_EQ(e.caja.Mensajes[0].Texto, "La Losa: nivel 1\nLa Losa ya Existe en el Proyecto...");
     EXPECT_EQ(e.caja.Mensajes[0].Encabezado, "Creando Nueva Losa...");
-    EXPECT_THAT(e.vista.Filas, ElementsAre("BALCON", "Nivel 1", "Azotea"));  // last, not in its place
+    EXPECT_THAT(e.pantalla.Filas, ElementsAre("BALCON", "Nivel 1", "Azotea"));  // last, not in its place
     EXPECT_EQ(espacio.Lista().Fila(), 3);
     const Losa azotea = e.Guardada("Azotea");
     EXPECT_FALSE(azotea.OpcionMaciza);
@@ -113,7 +114,7 @@ TEST_F(Espacio, CreaUnaLosaYEntraSusDatos) {
 
 TEST_F(Espacio, CopiaTodoLoDeLaSeleccionada) {
     espacio.Lista().Seleccionar(2);
-    e.vista.SalvarComo = [&] {
+    e.pantalla.SalvarComo = [&] {
         EXPECT_FALSE(Copia("BALCÓN "));  // first the user says no
         e.caja.Respuestas = {RespuestaSi};
         return Copia("Nivel 2");
@@ -122,7 +123,7 @@ TEST_F(Espacio, CopiaTodoLoDeLaSeleccionada) {
     ASSERT_EQ(e.caja.Mensajes.size(), 2U);
     EXPECT_EQ(e.caja.Mensajes[1].Texto, "Crear la Losa: Nivel 2\n\nA Partir de la Losa: Nivel 1\n");
     EXPECT_EQ(e.caja.Mensajes[1].Encabezado, "Salvar Como...");
-    EXPECT_THAT(e.vista.Filas, ElementsAre("BALCON", "Nivel 1", "Nivel 2"));
+    EXPECT_THAT(e.pantalla.Filas, ElementsAre("BALCON", "Nivel 1", "Nivel 2"));
     const Losa copia = e.Guardada("Nivel 2");
     ASSERT_EQ(copia.Tramos.size(), 4U);
     EXPECT_EQ(copia.Tramos[2].p1, 450);
@@ -135,7 +136,7 @@ TEST_F(Espacio, CopiaTodoLoDeLaSeleccionada) {
 
 TEST_F(Espacio, RenombraEnTodasLasTablas) {
     espacio.Lista().Seleccionar(2);
-    e.vista.Renombrar = [&](Renombrar& ventana) {
+    e.pantalla.Renombrar = [&](Renombrar& ventana) {
         EXPECT_FALSE(ventana.Aceptar(" "));
         EXPECT_FALSE(ventana.Aceptar("balcon"));
         EXPECT_FALSE(ventana.Aceptar("NIVEL 1"));  // its own name by another case is taken too
@@ -149,9 +150,9 @@ TEST_F(Espacio, RenombraEnTodasLasTablas) {
     EXPECT_EQ(e.caja.Mensajes[0].Texto, "Nombre: balcon\nEste Nombre ya Existe en las Losas del Proyecto...");
     EXPECT_EQ(e.caja.Mensajes[3].Texto,
               "Renombrar la Losa: Nivel 1   Por el Nombre: Azotea\n¿Esta Usted Seguro?");
-    EXPECT_THAT(e.vista.Filas, ElementsAre("Azotea", "BALCON"));
-    EXPECT_EQ(e.vista.Marcada, 1);
-    EXPECT_EQ(e.vista.Encabezado, "LOSA NERVADA: Azotea");
+    EXPECT_THAT(e.pantalla.Filas, ElementsAre("Azotea", "BALCON"));
+    EXPECT_EQ(e.pantalla.Marcada, 1);
+    EXPECT_EQ(e.pantalla.Encabezado, "LOSA NERVADA: Azotea");
     for (const char* tabla : {"LosaDatos", "LosaTramos", "LosaEjes", "LosaJuntasD"}) {
         EXPECT_EQ(e.Filas(tabla, "Nivel 1"), 0) << tabla;
         EXPECT_GT(e.Filas(tabla, "Azotea"), 0) << tabla;
@@ -160,27 +161,27 @@ TEST_F(Espacio, RenombraEnTodasLasTablas) {
 
 TEST_F(Espacio, EliminaHastaQueNoQuedaNingunaYLosBotonesCallan) {
     espacio.Lista().Eliminar();
-    EXPECT_EQ(e.vista.Filas.size(), 2U);
+    EXPECT_EQ(e.pantalla.Filas.size(), 2U);
     EXPECT_EQ(e.caja.Mensajes[0].Texto, "Losa: BALCON\n¿Esta Usted Seguro de Eliminar la Losa del Proyecto?");
     EXPECT_EQ(e.caja.Mensajes[0].Encabezado, "Eliminar la Losa...");
     espacio.Lista().Seleccionar(2);
     e.caja.Respuestas = {RespuestaSi, RespuestaSi};
     espacio.Lista().Eliminar();
-    EXPECT_THAT(e.vista.Filas, ElementsAre("BALCON"));
-    EXPECT_EQ(e.vista.Encabezado, "LOSA MACIZA: BALCON");
+    EXPECT_THAT(e.pantalla.Filas, ElementsAre("BALCON"));
+    EXPECT_EQ(e.pantalla.Encabezado, "LOSA MACIZA: BALCON");
     for (const char* tabla : {"LosaDatos", "LosaTramos", "LosaEjes", "LosaJuntasD"})
         EXPECT_EQ(e.Filas(tabla, "Nivel 1"), 0) << tabla;
     espacio.Lista().Eliminar();
-    EXPECT_THAT(e.vista.Filas, IsEmpty());
-    EXPECT_EQ(e.vista.Encabezado, "");
+    EXPECT_THAT(e.pantalla.Filas, IsEmpty());
+    EXPECT_EQ(e.pantalla.Encabezado, "");
     EXPECT_TRUE(espacio.Estado().Resultados.DisenoEje.empty());
 
     const std::size_t mensajes = e.caja.Mensajes.size();
-    e.vista.Datos = e.vista.General = e.vista.SalvarComo = [] {
+    e.pantalla.Datos = e.pantalla.General = e.pantalla.SalvarComo = [] {
         ADD_FAILURE();
         return false;
     };
-    e.vista.Renombrar = [](Renombrar&) { ADD_FAILURE(); };
+    e.pantalla.Renombrar = [](Renombrar&) { ADD_FAILURE(); };
     espacio.Modificar();
     espacio.DatosGenerales();
     espacio.CrearDesdeSeleccionada();
@@ -188,22 +189,22 @@ TEST_F(Espacio, EliminaHastaQueNoQuedaNingunaYLosBotonesCallan) {
     espacio.Lista().Eliminar();
     EXPECT_EQ(e.caja.Mensajes.size(), mensajes);
 
-    e.vista.Datos = nullptr;
-    e.vista.LosaNueva = [&] { return Nueva("O'Higgins"); };  // nothing to find its name in
+    e.pantalla.Datos = nullptr;
+    e.pantalla.LosaNueva = [&] { return Nueva("O'Higgins"); };  // nothing to find its name in
     espacio.CrearNueva();
-    EXPECT_THAT(e.vista.Filas, ElementsAre("O'Higgins"));
+    EXPECT_THAT(e.pantalla.Filas, ElementsAre("O'Higgins"));
 }
 
 TEST_F(Espacio, UnNombreConComillaRompeSoloSusSentencias) {
     espacio.Lista().Seleccionar(2);
-    e.vista.LosaNueva = [&] { return Nueva("L'1"); };
+    e.pantalla.LosaNueva = [&] { return Nueva("L'1"); };
     espacio.CrearNueva();
-    e.vista.Renombrar = [&](Renombrar& ventana) {
+    e.pantalla.Renombrar = [&](Renombrar& ventana) {
         e.caja.Respuestas = {RespuestaSi};
         ventana.Aceptar("L'1");
     };
     espacio.Lista().Renombrar();
-    EXPECT_THAT(e.vista.Filas, ElementsAre("BALCON", "Nivel 1"));
+    EXPECT_THAT(e.pantalla.Filas, ElementsAre("BALCON", "Nivel 1"));
     EXPECT_EQ(e.Filas("LosaTramos", "Nivel 1"), 3);
 
     espacio.Lista().Cerrar();
@@ -215,16 +216,16 @@ TEST_F(Espacio, UnNombreConComillaRompeSoloSusSentencias) {
     EXPECT_EQ(espacio.Estado().Abierta.Tramos.size(), 1U);  // its reading breaks
     e.caja.Respuestas = {RespuestaSi};
     espacio.Lista().Eliminar();
-    EXPECT_THAT(e.vista.Filas, ElementsAre("BALCON"));
+    EXPECT_THAT(e.pantalla.Filas, ElementsAre("BALCON"));
     EXPECT_EQ(e.Guardada("BALCON").Tramos.size(), 2U);
 }
 
 TEST_F(Espacio, UnProyectoQueNoSePuedeEscribirQuedaComoEstaba) {
     espacio.Lista().Seleccionar(2);
     const prueba::ProyectoOcupado ocupado(e.aplicacion.ArchivoProyecto);
-    e.vista.LosaNueva = [&] { return Nueva("Azotea"); };
-    e.vista.SalvarComo = [&] { return Copia("Azotea"); };
-    e.vista.Renombrar = [&](Renombrar& ventana) {
+    e.pantalla.LosaNueva = [&] { return Nueva("Azotea"); };
+    e.pantalla.SalvarComo = [&] { return Copia("Azotea"); };
+    e.pantalla.Renombrar = [&](Renombrar& ventana) {
         e.caja.Respuestas = {RespuestaSi};
         EXPECT_TRUE(ventana.Aceptar("Azotea"));
     };
@@ -238,19 +239,19 @@ TEST_F(Espacio, UnProyectoQueNoSePuedeEscribirQuedaComoEstaba) {
     for (const Mensaje& mensaje : e.caja.Mensajes)
         errores += mensaje.Texto.rfind("Error Número: 75", 0) == 0 ? 1 : 0;
     EXPECT_EQ(errores, 4);
-    EXPECT_THAT(e.vista.Filas, ElementsAre("BALCON", "Nivel 1"));
+    EXPECT_THAT(e.pantalla.Filas, ElementsAre("BALCON", "Nivel 1"));
     EXPECT_EQ(espacio.Lista().NumeroDeElementos(), 2);
     EXPECT_EQ(e.Filas("LosaTramos", "Nivel 1"), 3);
 }
 
 TEST_F(Espacio, LosDatosGeneralesRecalculanSoloSiCambiaron) {
-    e.vista.General = [&] {
+    e.pantalla.General = [&] {
         e.aplicacion.Generales.FCP = 2;
         return false;
     };
     espacio.DatosGenerales();
     const double antes = espacio.Estado().Resultados.MaxCorte;
-    e.vista.General = [] { return true; };
+    e.pantalla.General = [] { return true; };
     espacio.DatosGenerales();
     EXPECT_GT(espacio.Estado().Resultados.MaxCorte, antes);
 }
@@ -258,22 +259,22 @@ TEST_F(Espacio, LosDatosGeneralesRecalculanSoloSiCambiaron) {
 TEST_F(Espacio, AbreOtroProyectoYUnoQueNoSePuedeLeerCuentaComoVacio) {
     espacio.ElegirOpcionCarga(CargaPorCasos);
     espacio.Lista().AbrirProyecto();  // cancelled
-    EXPECT_EQ(e.vista.Filas.size(), 2U);
+    EXPECT_EQ(e.pantalla.Filas.size(), 2U);
     EXPECT_EQ(e.dialogos.Peticiones[0].Filtro, "Archivos de Proyectos (.los)|*.los");
     e.dialogos.Elegidos = {e.CrearProyecto("otra ñ.los", {Maciza()})};
     espacio.Lista().AbrirProyecto();
-    EXPECT_EQ(e.vista.Titulo, "Trabex 2024   Proyecto:[OTRA Ñ.LOS]");
+    EXPECT_EQ(e.pantalla.Titulo, "Trabex 2024   Proyecto:[OTRA Ñ.LOS]");
     EXPECT_EQ(e.aplicacion.NombreProyecto, "otra ñ.los");
-    EXPECT_THAT(e.vista.Filas, ElementsAre("BALCON"));
+    EXPECT_THAT(e.pantalla.Filas, ElementsAre("BALCON"));
     EXPECT_EQ(espacio.Estado().Hoja.OpcionCarga, CargaTotal);
-    EXPECT_EQ(e.vista.OpcionCarga, CargaTotal);
+    EXPECT_EQ(e.pantalla.OpcionCarga, CargaTotal);
 
     prueba::EscribirArchivo(e.carpeta / "roto.los", "no es un proyecto");
     e.dialogos.Elegidos = {e.carpeta / "roto.los"};
     espacio.Lista().AbrirProyecto();
-    EXPECT_THAT(e.vista.Filas, IsEmpty());
-    EXPECT_EQ(e.vista.Encabezado, "");
-    EXPECT_THAT(e.vista.Pie, testing::HasSubstr("No se pudo leer"));
+    EXPECT_THAT(e.pantalla.Filas, IsEmpty());
+    EXPECT_EQ(e.pantalla.Encabezado, "");
+    EXPECT_THAT(e.pantalla.Pie, testing::HasSubstr("No se pudo leer"));
     EXPECT_EQ(espacio.Estado().Abierta.Tramos.size(), 1U);
 }
 

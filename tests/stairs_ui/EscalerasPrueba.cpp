@@ -24,13 +24,13 @@ using namespace programa;
 namespace {
 
 /// Keeps which fields took the focus, and the beeps.
-template <class Campo, class Base = VistaDeCampos<Campo>>
-class VistaGuiada : public Base {
+template <class Campo, class Base = PantallaDeCampos<Campo>>
+class PantallaGuiada : public Base {
   public:
     void Enfocar(Campo campo) override { Focos.push_back(campo); }
     std::vector<Campo> Focos;
 };
-class VistaH : public VistaGuiada<CampoEscaleraH, VistaEscaleraHDatos> {
+class VistaH : public PantallaGuiada<CampoEscaleraH, PantallaEscaleraHDatos> {
   public:
     void Pitar() override { ++Pitidos; }
     int Pitidos = 0;
@@ -68,7 +68,7 @@ TEST_F(Escaleras, LosDatosDeLaEscaleraT) {
     EXPECT_EQ(actual.Titulo, "PRINCIPAL");
     EXPECT_EQ(actual.L + actual.B + actual.H + actual.HT + actual.Hd + actual.WT + actual.Wd + actual.WpD, 0);
 
-    VistaGuiada<CampoEscaleraT> vista;
+    PantallaGuiada<CampoEscaleraT> vista;
     EscaleraTDatos nueva({proyecto_, actual, true, cambiados_}, caja_, vista);
     DatosEscaleraT entrados = nueva.Mostrar();
     EXPECT_EQ(entrados.L, 2.7);
@@ -102,7 +102,7 @@ TEST_F(Escaleras, LosDatosDeLaEscaleraT) {
 TEST_F(Escaleras, CerrarPregunta) {
     AbrirLista(ConsultaListaEscalerasT);
     DatosEscaleraT actual = EscaleraTNuevaDe("E-1", "");
-    VistaGuiada<CampoEscaleraT> vista;
+    PantallaGuiada<CampoEscaleraT> vista;
     EscaleraTDatos datos({proyecto_, actual, false, cambiados_}, caja_, vista);
     DatosEscaleraT entrados = datos.Mostrar();
     EXPECT_TRUE(datos.Cerrar(entrados));
@@ -196,7 +196,7 @@ TEST_F(Escaleras, LosParametrosDeDiseno) {
     EXPECT_EQ(Tabla("EscaleraTG").Doble("FS"), 1.55);
     EXPECT_EQ(Tabla("EscaleraHG").NumeroRegistros(), 0);
 
-    VistaGuiada<CampoEscaleraTG> vista;
+    PantallaGuiada<CampoEscaleraTG> vista;
     EscaleraTG ventana(proyecto_.ConexionProyecto, ClaseEscalera::Helicoidal, g, cambiados_, caja_, vista);
     EntradaEscaleraTG e = ventana.Mostrar();
     e.FS = e.FiCorte = 0;

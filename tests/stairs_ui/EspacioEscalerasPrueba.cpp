@@ -24,7 +24,7 @@ namespace {
 using dibujo::escalera::VistaEscalera;
 using testing::ElementsAre;
 
-struct VistaGuiada : VistaEspacio, VistaEscaleraT {
+struct PantallaGuiada : PantallaEspacio, PantallaEscaleraT {
     void PonerTitulo(const std::string& titulo) override { Titulo = titulo; }
     void PonerEstado(const std::string&) override {}
     void PonerEncabezado(const std::string& texto) override { Encabezado = texto; }
@@ -51,7 +51,7 @@ struct VistaGuiada : VistaEspacio, VistaEscaleraT {
     std::function<void(const TrabajoEscaleraT&)> Datos;
 };
 
-struct SinFoco : VistaDeCampos<CampoEscaleraT>, VistaDeCampos<CampoEscaleraTG> {
+struct SinFoco : PantallaDeCampos<CampoEscaleraT>, PantallaDeCampos<CampoEscaleraTG> {
     void Enfocar(CampoEscaleraT) override {}
     void Enfocar(CampoEscaleraTG) override {}
 };
@@ -101,7 +101,7 @@ struct EspacioEscaleras : testing::Test {
     prueba::PlataformaGuiada plataforma{carpeta.Camino()};
     Carpetas carpetas;
     Servicios servicios{caja, dialogos, plataforma, carpetas};
-    VistaGuiada vista;
+    PantallaGuiada vista;
     SinFoco sinFoco;
     EscaleraT espacio{aplicacion, servicios, vista, vista};
 };

@@ -21,7 +21,7 @@ using namespace losas::ui;
 using namespace programa;
 
 /// The workspace's window as a record of what was shown; modal windows are functions of the test.
-struct VistaLosasGuiada : VistaEspacio, VistaLosas {
+struct PantallaLosasGuiada : PantallaEspacio, PantallaLosas {
     void PonerTitulo(const std::string& titulo) override { Titulo = titulo; }
     void PonerEstado(const std::string& texto) override { Pie = texto; }
     void PonerEncabezado(const std::string& texto) override { Encabezado = texto; }
@@ -50,7 +50,7 @@ struct VistaLosasGuiada : VistaEspacio, VistaLosas {
     std::function<void(programa::Renombrar&)> Renombrar;
 };
 
-struct VistaLosaDatosGuiada : VistaLosaDatos {
+struct PantallaLosaDatosGuiada : PantallaLosaDatos {
     void Rellenar() override { ++Rellenos; }
     void Refrescar() override { ++Refrescos; }
     void Redibujar() override {}
@@ -115,8 +115,8 @@ class EspacioDePrueba {
     Carpetas carpetas;
     Servicios servicios{caja, dialogos, plataforma, carpetas};
     MemoriaLosas memoria;
-    VistaLosasGuiada vista;
-    Losas espacio{aplicacion, servicios, vista, vista, memoria};
+    PantallaLosasGuiada pantalla;
+    Losas espacio{aplicacion, servicios, pantalla, pantalla, memoria};
 };
 
 inline Losa Nombrada(Losa losa, const std::string& nombre) {

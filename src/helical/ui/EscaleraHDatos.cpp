@@ -41,13 +41,13 @@ bool EscaleraHDatos::Admitir(const EntradaEscaleraH& e) {
         {{e.B, B}, {e.T, T}, {e.R, R}, {e.Angulo, Angulo}, {static_cast<double>(e.Inter), Angulo}}};
     for (const Prueba& prueba : pruebas) {
         if (prueba.Valor != 0) continue;
-        vista_.Pitar();
-        vista_.Enfocar(prueba.Foco);
+        pantalla_.Pitar();
+        pantalla_.Enfocar(prueba.Foco);
         return false;
     }
     if (!(e.Angulo > AnguloMaximo)) return true;
     caja_.Mostrar(AvisoDeAngulo());
-    vista_.Enfocar(Angulo);
+    pantalla_.Enfocar(Angulo);
     return false;
 }
 

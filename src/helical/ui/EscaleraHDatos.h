@@ -24,7 +24,7 @@ struct EntradaEscaleraH {
     std::int32_t Inter;
 };
 
-class VistaEscaleraHDatos : public escaleras::ui::VistaDeCampos<CampoEscaleraH> {
+class PantallaEscaleraHDatos : public escaleras::ui::PantallaDeCampos<CampoEscaleraH> {
   public:
     virtual void Pitar() = 0;
 };
@@ -40,8 +40,8 @@ struct TrabajoEscaleraH {
 /// Operations of the window that edits a helical stair.
 class EscaleraHDatos {
   public:
-    EscaleraHDatos(TrabajoEscaleraH trabajo, programa::CajaMensajes& caja, VistaEscaleraHDatos& vista)
-        : trabajo_(trabajo), caja_(caja), vista_(vista) {}
+    EscaleraHDatos(TrabajoEscaleraH trabajo, programa::CajaMensajes& caja, PantallaEscaleraHDatos& pantalla)
+        : trabajo_(trabajo), caja_(caja), pantalla_(pantalla) {}
 
     /// Name of the stair on which the list stands.
     std::string Nombre() const;
@@ -68,7 +68,7 @@ class EscaleraHDatos {
 
     TrabajoEscaleraH trabajo_;
     programa::CajaMensajes& caja_;
-    VistaEscaleraHDatos& vista_;
+    PantallaEscaleraHDatos& pantalla_;
     bool modificada_ = false;
 };
 

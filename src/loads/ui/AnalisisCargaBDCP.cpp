@@ -7,10 +7,10 @@
 
 namespace trabex::cargas::ui {
 
-void AnalisisCargaBDCP::Abrir(VistaDePesos& vista) {
-    vista_ = &vista;
+void AnalisisCargaBDCP::Abrir(PantallaDePesos& pantalla) {
+    pantalla_ = &pantalla;
     Reabrir();
-    vista_->MarcarFila(lista_.Posicion());
+    pantalla_->MarcarFila(lista_.Posicion());
 }
 
 void AnalisisCargaBDCP::Cerrar() {
@@ -34,7 +34,7 @@ void AnalisisCargaBDCP::Rellenar() {
         lista_.MoverAlSiguiente();
     }
     lista_.MoverA(donde);
-    vista_->LlenarLista(lineas);
+    pantalla_->LlenarLista(lineas);
 }
 
 bool AnalisisCargaBDCP::MoverA(int fila) {
@@ -58,12 +58,12 @@ void AnalisisCargaBDCP::Capturar(int fila) {
 
 void AnalisisCargaBDCP::Crear() {
     AnalisisCargaNewCP operaciones(lista_, variante_, servicios_.Caja);
-    vista_->MostrarNueva(operaciones);
+    pantalla_->MostrarNueva(operaciones);
     if (!operaciones.Creada()) return;
     const std::string nombre = lista_.Texto("Descripcion");
     Reabrir();
     almacen::BuscarRegistro(lista_, almacen::Criterio({"Descripcion", nombre}));
-    vista_->MarcarFila(lista_.Posicion());
+    pantalla_->MarcarFila(lista_.Posicion());
 }
 
 void AnalisisCargaBDCP::Eliminar(int fila) {
@@ -73,7 +73,7 @@ void AnalisisCargaBDCP::Eliminar(int fila) {
         return;
     if (!lista_.Borrar()) servicios_.Caja.Mostrar(programa::MensajeSinGuardar());
     Rellenar();
-    vista_->MarcarFila(lista_.Posicion());
+    pantalla_->MarcarFila(lista_.Posicion());
 }
 
 bool AnalisisCargaBDCP::ModificarCelda(int fila, CampoDePeso campo, const std::string& texto) {

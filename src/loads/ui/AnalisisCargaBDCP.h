@@ -25,9 +25,9 @@ class ReceptorDePesos {
 };
 
 /// What the operations ask of their window. Rows count from 1.
-class VistaDePesos {
+class PantallaDePesos {
   public:
-    virtual ~VistaDePesos() = default;
+    virtual ~PantallaDePesos() = default;
     virtual void LlenarLista(const std::vector<PesoUnitario>& lineas) = 0;
     virtual void MarcarFila(int fila) = 0;
     /// The window of a new line, until it closes.
@@ -49,7 +49,7 @@ class AnalisisCargaBDCP {
 
     const VariantePesos& Variante() const { return variante_; }
 
-    void Abrir(VistaDePesos& vista);
+    void Abrir(PantallaDePesos& pantalla);
     /// Closes the list; the edit window then sums again.
     void Cerrar();
 
@@ -62,7 +62,7 @@ class AnalisisCargaBDCP {
     /// "Modificar las Celdas": a changed cell goes back to the row at the same position. False when it is no
     /// weight, or, with a message, when it could not be stored.
     bool ModificarCelda(int fila, CampoDePeso campo, const std::string& texto);
-    void VerNorma() { vista_->MostrarNormas(normas_); }
+    void VerNorma() { pantalla_->MostrarNormas(normas_); }
 
   private:
     bool MoverA(int fila);
@@ -74,7 +74,7 @@ class AnalisisCargaBDCP {
     ReceptorDePesos& receptor_;
     programa::Servicios servicios_;
     Normas normas_;
-    VistaDePesos* vista_ = nullptr;
+    PantallaDePesos* pantalla_ = nullptr;
     almacen::Recordset lista_;
 };
 

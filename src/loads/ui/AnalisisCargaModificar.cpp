@@ -4,20 +4,20 @@
 
 namespace trabex::cargas::ui {
 
-void AnalisisCargaModificar::Abrir(VistaDeAnalisis& vista) {
-    vista_ = &vista;
+void AnalisisCargaModificar::Abrir(PantallaDeAnalisis& pantalla) {
+    pantalla_ = &pantalla;
     Mostrar();
 }
 
 void AnalisisCargaModificar::Mostrar() {
     almacen::tablas::LeerAnalisis(edicion_.Conexion, edicion_.Lista, edicion_.Donde, trabajo_);
     modificado_ = false;
-    vista_->PonerAnalisis(trabajo_, edicion_.Lista.Posicion(), edicion_.Lista.NumeroRegistros());
+    pantalla_->PonerAnalisis(trabajo_, edicion_.Lista.Posicion(), edicion_.Lista.NumeroRegistros());
     Sumar();
 }
 
 void AnalisisCargaModificar::Sumar() {
-    vista_->PonerSumas(Recalcule(trabajo_));
+    pantalla_->PonerSumas(Recalcule(trabajo_));
 }
 
 void AnalisisCargaModificar::Modificar() {
@@ -48,26 +48,26 @@ void AnalisisCargaModificar::EliminarLinea(int fila) {
         programa::Pregunta("¿Eliminar la Fila Seleccionada?", "Eliminar Filas...");
     if (servicios_.Caja.Mostrar(pregunta) != programa::RespuestaSi) return;
     trabajo_.Permanentes.erase(trabajo_.Permanentes.begin() + (fila - 1));
-    vista_->LlenarItems(trabajo_.Permanentes);
-    vista_->MarcarItem(std::min(fila, static_cast<int>(trabajo_.Permanentes.size())));
+    pantalla_->LlenarItems(trabajo_.Permanentes);
+    pantalla_->MarcarItem(std::min(fila, static_cast<int>(trabajo_.Permanentes.size())));
     Modificar();
 }
 
 void AnalisisCargaModificar::BuscarPesos(const VariantePesos& variante) {
     AnalisisCargaBDCP operaciones(edicion_.Compartida, variante, *this, servicios_);
-    vista_->MostrarPesos(operaciones);
+    pantalla_->MostrarPesos(operaciones);
 }
 
 void AnalisisCargaModificar::RecibirPermanente(const PesoUnitario& peso) {
     trabajo_.Permanentes.push_back(peso);
-    vista_->LlenarItems(trabajo_.Permanentes);
-    vista_->MarcarItem(static_cast<int>(trabajo_.Permanentes.size()));
+    pantalla_->LlenarItems(trabajo_.Permanentes);
+    pantalla_->MarcarItem(static_cast<int>(trabajo_.Permanentes.size()));
     Modificar();
 }
 
 void AnalisisCargaModificar::RecibirVariable(const PesoUnitario& peso) {
     trabajo_.Variable = peso;
-    vista_->PonerVariable(peso);
+    pantalla_->PonerVariable(peso);
     Modificar();
 }
 

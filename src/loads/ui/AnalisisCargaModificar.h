@@ -14,9 +14,9 @@
 namespace trabex::cargas::ui {
 
 /// What the operations ask of their window. Rows count from 1.
-class VistaDeAnalisis {
+class PantallaDeAnalisis {
   public:
-    virtual ~VistaDeAnalisis() = default;
+    virtual ~PantallaDeAnalisis() = default;
     /// The whole analysis, and its position of `cuantos` on the scroll bar.
     virtual void PonerAnalisis(const AnalisisCarga& analisis, int posicion, int cuantos) = 0;
     virtual void LlenarItems(const std::vector<PesoUnitario>& items) = 0;
@@ -45,7 +45,7 @@ class AnalisisCargaModificar : public ReceptorDePesos {
         : edicion_(std::move(edicion)), servicios_(servicios), normas_(servicios) {}
 
     /// Shows the analysis on which the list stands.
-    void Abrir(VistaDeAnalisis& vista);
+    void Abrir(PantallaDeAnalisis& pantalla);
 
     /// A changed cell of the items, or the variable load, `Text1` and `Long1`. False when it is no weight;
     /// what stood before then counts. The name of the variable load alone is no modification.
@@ -57,7 +57,7 @@ class AnalisisCargaModificar : public ReceptorDePesos {
     /// Deletes the selected line, after its question.
     void EliminarLinea(int fila);
     void BuscarPesos(const VariantePesos& variante);
-    void VerNorma() { vista_->MostrarNormas(normas_); }
+    void VerNorma() { pantalla_->MostrarNormas(normas_); }
 
     bool Modificado() const { return modificado_; }
     /// " Salvar ". False, with a message, when it could not be stored; the changes then stand in the window.
@@ -80,7 +80,7 @@ class AnalisisCargaModificar : public ReceptorDePesos {
     AnalisisEnEdicion edicion_;
     programa::Servicios servicios_;
     Normas normas_;
-    VistaDeAnalisis* vista_ = nullptr;
+    PantallaDeAnalisis* pantalla_ = nullptr;
     AnalisisCarga trabajo_;
     bool modificado_ = false;
 };

@@ -6,10 +6,10 @@
 namespace trabex::cargas::ui {
 
 bool AnalisisCargaNewCP::Aceptar(const std::string& descripcion, const std::string& peso,
-                                 VistaDeCreacion& vista) {
+                                 PantallaDeCreacion& pantalla) {
     const PesoUnitario nueva{Recortar(descripcion), PesoDeTexto(peso).value_or(0)};
     if (nueva.Descripcion.empty() || nueva.Peso == 0) {
-        vista.Rechazar(nueva.Descripcion.empty() ? CampoDePeso::Descripcion : CampoDePeso::Peso);
+        pantalla.Rechazar(nueva.Descripcion.empty() ? CampoDePeso::Descripcion : CampoDePeso::Peso);
         return false;
     }
     if (!VerifiqueDescripcion(lista_, nueva.Descripcion, TextoYaExiste, caja_)) return false;

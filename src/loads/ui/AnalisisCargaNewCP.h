@@ -14,7 +14,7 @@ class AnalisisCargaNewCP {
         : lista_(lista), variante_(variante), caja_(caja) {}
 
     /// " Aceptar ": true when the line was created; the list then stands on it and the window closes.
-    bool Aceptar(const std::string& descripcion, const std::string& peso, VistaDeCreacion& vista);
+    bool Aceptar(const std::string& descripcion, const std::string& peso, PantallaDeCreacion& pantalla);
     bool Creada() const { return creada_; }
 
   private:

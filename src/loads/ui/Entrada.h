@@ -18,9 +18,9 @@ inline constexpr const char* EncabezadoCrear = "Crear Carga Permanente...";
 enum class CampoDePeso { Descripcion, Peso };
 
 /// The side of a window that creates something.
-class VistaDeCreacion {
+class PantallaDeCreacion {
   public:
-    virtual ~VistaDeCreacion() = default;
+    virtual ~PantallaDeCreacion() = default;
     /// A beep, and the focus returns to the field.
     virtual void Rechazar(CampoDePeso campo) = 0;
 };

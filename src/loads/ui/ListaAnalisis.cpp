@@ -27,15 +27,15 @@ almacen::Conexion& ListaAnalisis::Conexion() {
     return DelProyecto() ? aplicacion_.Proyecto.ConexionProyecto : compartida_;
 }
 
-void ListaAnalisis::Abrir(VistaListaAnalisis& vista) {
-    vista_ = &vista;
+void ListaAnalisis::Abrir(PantallaListaAnalisis& pantalla) {
+    pantalla_ = &pantalla;
     almacen::AbrirConexion(compartida_, servicios_.Carpetas.AnalisisCarga());
     if (DelProyecto()) {
         almacen::AbrirConexion(Conexion(), aplicacion_.ArchivoProyecto);
         almacen::proyecto::LeerProyecto(Conexion(), aplicacion_.Usuario, aplicacion_.Datos);
     }
     Reabrir();
-    vista_->MarcarFila(Fila());
+    pantalla_->MarcarFila(Fila());
     MostrarEstado();
 }
 
@@ -43,11 +43,12 @@ void ListaAnalisis::MostrarEstado() {
     const std::string compartido = TextoDeCamino(servicios_.Carpetas.AnalisisCarga());
     const std::string propio = DelProyecto() ? TextoDeCamino(aplicacion_.ArchivoProyecto) : compartido;
     if (Conexion().ConexionFallida())
-        vista_->PonerEstado((DelProyecto() ? "No se pudo leer el proyecto: " : "No se pudo leer: ") + propio);
+        pantalla_->PonerEstado((DelProyecto() ? "No se pudo leer el proyecto: " : "No se pudo leer: ") +
+                               propio);
     else if (compartida_.ConexionFallida())
-        vista_->PonerEstado("No se pudo leer: " + compartido);
+        pantalla_->PonerEstado("No se pudo leer: " + compartido);
     else
-        vista_->PonerEstado(propio);
+        pantalla_->PonerEstado(propio);
 }
 
 void ListaAnalisis::Cerrar() {
@@ -71,26 +72,26 @@ void ListaAnalisis::Rellenar() {
         lineas.push_back({Lista().Texto("Descripcion"), Lista().Doble("Carga")});
     }
     Lista().MoverA(donde);
-    vista_->LlenarLista(lineas);
+    pantalla_->LlenarLista(lineas);
 }
 
 void ListaAnalisis::Crear() {
     NuevoAnalisisCarga operaciones(Lista(), variante_, azar_, servicios_.Caja);
-    vista_->MostrarNuevo(operaciones);
+    pantalla_->MostrarNuevo(operaciones);
     if (!operaciones.Creado()) return;
     const std::string criterio = almacen::Criterio(almacen::PorID(Lista().Entero32("ID")));
     Reabrir();
     almacen::BuscarRegistro(Lista(), criterio);
-    vista_->MarcarFila(Fila());
+    pantalla_->MarcarFila(Fila());
 }
 
 void ListaAnalisis::Modificar() {
     if (!EnUnaLinea()) return;
     AnalisisCargaModificar operaciones({variante_.Donde, Conexion(), Lista(), compartida_,
-                                        [this](double carga) { vista_->PonerCarga(Fila(), carga); }},
+                                        [this](double carga) { pantalla_->PonerCarga(Fila(), carga); }},
                                        servicios_);
-    vista_->MostrarModificar(operaciones);
-    vista_->MarcarFila(Fila());
+    pantalla_->MostrarModificar(operaciones);
+    pantalla_->MarcarFila(Fila());
 }
 
 void ListaAnalisis::Eliminar() {
@@ -102,7 +103,7 @@ void ListaAnalisis::Eliminar() {
     if (!almacen::tablas::BorrarAnalisis(Conexion(), Lista(), variante_.Donde))
         servicios_.Caja.Mostrar(programa::MensajeSinGuardar());
     Rellenar();
-    vista_->MarcarFila(Fila());
+    pantalla_->MarcarFila(Fila());
 }
 
 bool ListaAnalisis::ModificarCelda(int fila, CampoDeLinea campo, const std::string& texto) {
@@ -118,17 +119,17 @@ bool ListaAnalisis::ModificarCelda(int fila, CampoDeLinea campo, const std::stri
 
 void ListaAnalisis::Exportar() {
     if (!EnUnaLinea()) return;
-    const std::optional<bool> todos = vista_->MostrarOpcion();
+    const std::optional<bool> todos = pantalla_->MostrarOpcion();
     if (!todos) return;
     const programa::Carpetas& carpetas = servicios_.Carpetas;
     salida::LLeneDatos({carpetas.CaminoPrograma, carpetas.CaminoUsuario, aplicacion_.Usuario},
                        {variante_.Donde, Conexion(), Lista(), aplicacion_.Datos}, *todos);
-    vista_->MostrarReporte(variante_.ReporteActual);
+    pantalla_->MostrarReporte(variante_.ReporteActual);
 }
 
 void ListaAnalisis::VerCompartidos() {
     ListaAnalisis compartidos(aplicacion_, servicios_, AnalisisCompartido, azar_, this);
-    vista_->MostrarCompartidos(compartidos);
+    pantalla_->MostrarCompartidos(compartidos);
 }
 
 void ListaAnalisis::Capturar() {
@@ -141,13 +142,13 @@ void ListaAnalisis::Capturar() {
         destino_->Seleccionar(seleccionada);
         servicios_.Caja.Mostrar(
             programa::Aviso("¡El Análisis de Carga ya existe en el Proyecto!", EncabezadoCaptura));
-        vista_->EnfocarLista();
+        pantalla_->EnfocarLista();
         return;
     }
     if (!almacen::tablas::CapturarAnalisis(compartida_, lista_, destino_->Conexion(), destino_->Lista()))
         servicios_.Caja.Mostrar(programa::MensajeSinGuardar());
     destino_->Rellenar();
-    destino_->vista_->MarcarFila(destino_->Fila());
+    destino_->pantalla_->MarcarFila(destino_->Fila());
 }
 
 }  // namespace trabex::cargas::ui

@@ -24,9 +24,9 @@ enum class CampoDeLinea { Descripcion, Carga };
 class ListaAnalisis;
 
 /// What the operations ask of their window. Rows count from 1; 0 is none.
-class VistaListaAnalisis {
+class PantallaListaAnalisis {
   public:
-    virtual ~VistaListaAnalisis() = default;
+    virtual ~PantallaListaAnalisis() = default;
     virtual void LlenarLista(const std::vector<LineaDeAnalisis>& lineas) = 0;
     virtual void MarcarFila(int fila) = 0;
     virtual void PonerCarga(int fila, double carga) = 0;
@@ -59,7 +59,7 @@ class ListaAnalisis {
 
     /// Connects to the shared database, and to the project where the list is its; what can't be read counts
     /// as empty.
-    void Abrir(VistaListaAnalisis& vista);
+    void Abrir(PantallaListaAnalisis& pantalla);
     void Cerrar();
 
     const VarianteAnalisis& Variante() const { return variante_; }
@@ -102,7 +102,7 @@ class ListaAnalisis {
     const VarianteAnalisis& variante_;
     FuenteAzar azar_;
     ListaAnalisis* destino_;
-    VistaListaAnalisis* vista_ = nullptr;
+    PantallaListaAnalisis* pantalla_ = nullptr;
     almacen::Conexion compartida_;
     almacen::Recordset lista_;  ///< the shared list; a project's is the program's
 };

@@ -5,10 +5,10 @@
 
 namespace trabex::cargas::ui {
 
-bool NuevoAnalisisCarga::Aceptar(const std::string& descripcion, VistaDeCreacion& vista) {
+bool NuevoAnalisisCarga::Aceptar(const std::string& descripcion, PantallaDeCreacion& pantalla) {
     const std::string nombre = Recortar(descripcion);
     if (nombre.empty()) {
-        vista.Rechazar(CampoDePeso::Descripcion);
+        pantalla.Rechazar(CampoDePeso::Descripcion);
         return false;
     }
     if (!VerifiqueDescripcion(lista_, nombre, variante_.YaExiste, caja_)) return false;

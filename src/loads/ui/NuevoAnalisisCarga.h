@@ -17,7 +17,7 @@ class NuevoAnalisisCarga {
         : lista_(lista), variante_(variante), azar_(azar), caja_(caja) {}
 
     /// " Aceptar ": true when the analysis was created; the list then stands on it and the window closes.
-    bool Aceptar(const std::string& descripcion, VistaDeCreacion& vista);
+    bool Aceptar(const std::string& descripcion, PantallaDeCreacion& pantalla);
     bool Creado() const { return creado_; }
 
   private:

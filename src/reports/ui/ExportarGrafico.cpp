@@ -25,7 +25,7 @@ void ExportarGrafico::ExportarPantalla(const FormatoGrafico& formato) {
                                                              .AvisarReemplazo = true});
     if (!archivo) return;
     try {
-        vista_.Guardar(*archivo, formato);
+        pantalla_.Guardar(*archivo, formato);
     } catch (const ErrorEjecucion& error) {
         entorno_.Servicios.Caja.Mostrar(programa::MensajeDeError(error, Encabezado));
         return;

@@ -22,9 +22,9 @@ inline constexpr std::array<FormatoGrafico, 2> FormatosGrafico{{
 }};
 
 /// What the operations ask of the window that shows the drawing.
-class VistaExportarGrafico {
+class PantallaExportarGrafico {
   public:
-    virtual ~VistaExportarGrafico() = default;
+    virtual ~PantallaExportarGrafico() = default;
     /// Saves the window's picture, a JPEG in quality 100. Throws ErrorEjecucion.
     virtual void Guardar(const std::filesystem::path& archivo, const FormatoGrafico& formato) = 0;
 };
@@ -40,7 +40,8 @@ struct EntornoGrafico {
 /// the window's: the workspace's zoom stays as it is, and no grid is in the picture.
 class ExportarGrafico {
   public:
-    ExportarGrafico(EntornoGrafico& entorno, VistaExportarGrafico& vista) : entorno_(entorno), vista_(vista) {
+    ExportarGrafico(EntornoGrafico& entorno, PantallaExportarGrafico& pantalla)
+        : entorno_(entorno), pantalla_(pantalla) {
         visor_.ExportandoGrafico = true;
     }
 
@@ -53,7 +54,7 @@ class ExportarGrafico {
     std::filesystem::path Carpeta() const;
 
     EntornoGrafico& entorno_;
-    VistaExportarGrafico& vista_;
+    PantallaExportarGrafico& pantalla_;
     dibujo::EstadoVista visor_;
 };
 

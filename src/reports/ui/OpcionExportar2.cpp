@@ -50,13 +50,13 @@ std::filesystem::path CaminoDeRegistro(const std::filesystem::path& archivo) {
 
 bool OpcionExportar2::Escribir(std::uint8_t formatoSalida, const std::filesystem::path& archivo) const {
     std::string falta;
-    vista_.PunteroDeEspera(true);
+    pantalla_.PunteroDeEspera(true);
     try {
         EscribirCuadricula(grilla_, formatoSalida, archivo);
     } catch (const ErrorEjecucion& error) {
         falta = error.what();
     }
-    vista_.PunteroDeEspera(false);
+    pantalla_.PunteroDeEspera(false);
     if (FormatosDeCuadricula[formatoSalida - 1U].ConRegistro) Registrar(archivo, falta);
     return falta.empty();
 }
@@ -84,7 +84,7 @@ void OpcionExportar2::Aceptar(std::uint8_t formatoSalida) {
         OfrecerAbrir(formato, *archivo);
     else
         entorno_.Servicios.Caja.Mostrar(programa::Aviso(formato.Falla, EncabezadoFalla));
-    vista_.Cerrar();
+    pantalla_.Cerrar();
 }
 
 }  // namespace trabex::reportes::ui

@@ -52,9 +52,9 @@ inline constexpr std::array<FormatoDeCuadricula, 5> FormatosDeCuadricula{{
 std::filesystem::path CaminoDeRegistro(const std::filesystem::path& archivo);
 
 /// What the operations ask of their window.
-class VistaOpcionExportar2 {
+class PantallaOpcionExportar2 {
   public:
-    virtual ~VistaOpcionExportar2() = default;
+    virtual ~PantallaOpcionExportar2() = default;
     virtual void PunteroDeEspera(bool espera) = 0;
     virtual void Cerrar() = 0;
 };
@@ -64,9 +64,9 @@ class OpcionExportar2 {
   public:
     static constexpr const char* Titulo = "Exportar los Reportes";
 
-    OpcionExportar2(EntornoSalida& entorno, VistaOpcionExportar2& vista,
+    OpcionExportar2(EntornoSalida& entorno, PantallaOpcionExportar2& pantalla,
                     const cuadricula::Cuadricula& GrillaPreview)
-        : entorno_(entorno), vista_(vista), grilla_(GrillaPreview) {}
+        : entorno_(entorno), pantalla_(pantalla), grilla_(GrillaPreview) {}
 
     /// " Aceptar " with a format. The window stays open when the engineer cancels the file.
     void Aceptar(std::uint8_t formatoSalida);
@@ -76,7 +76,7 @@ class OpcionExportar2 {
     void OfrecerAbrir(const FormatoDeCuadricula& formato, const std::filesystem::path& archivo) const;
 
     EntornoSalida& entorno_;
-    VistaOpcionExportar2& vista_;
+    PantallaOpcionExportar2& pantalla_;
     const cuadricula::Cuadricula& grilla_;
 };
 

@@ -73,31 +73,31 @@ void SalidaReporte::Aceptar(std::uint8_t salida) {
     try {
         if (!Enviar(salida)) return;
     } catch (const ErrorEjecucion& error) {
-        vista_.PunteroDeEspera(false);
+        pantalla_.PunteroDeEspera(false);
         exportador_.Avisar(error);
         return;
     }
     AlTerminar();
-    vista_.Cerrar();
+    pantalla_.Cerrar();
 }
 
 /// False when there is nothing to send, or the engineer thought better of it.
 bool SalidaReporte::Enviar(std::uint8_t salida) {
     const std::string diseno = Diseno();
     if (diseno.empty()) return false;
-    vista_.PunteroDeEspera(true);
+    pantalla_.PunteroDeEspera(true);
     salidas::Reporte reporte(entorno_.Servicios.Carpetas.CaminoPrograma / "Reportes" / diseno,
                              entorno_.LaAplicacion.SeparadoresLocales);
     Ajustar(reporte);
     reporte.DescartarDatos();
     reporte.Ubicar(montaje::TemporalMdb(entorno_.Montaje()));
     const documento::Documento& documento = reporte.Contenido();
-    vista_.PunteroDeEspera(false);
+    pantalla_.PunteroDeEspera(false);
     if (salida == SalidaImpresora) return exportador_.Imprimir(documento);
     if (EsArchivo(salida))
         exportador_.Exportar(documento, salida);
     else
-        vista_.Ver(documento);
+        pantalla_.Ver(documento);
     return true;
 }
 

@@ -110,9 +110,9 @@ class ExportadorReportes {
 };
 
 /// What the output dialogs ask of their window.
-class VistaSalidaReporte {
+class PantallaSalidaReporte {
   public:
-    virtual ~VistaSalidaReporte() = default;
+    virtual ~PantallaSalidaReporte() = default;
     virtual void PunteroDeEspera(bool espera) = 0;
     /// Shows the viewer, at zoom 100, until it is closed.
     virtual void Ver(const documento::Documento& documento) = 0;
@@ -123,8 +123,8 @@ class VistaSalidaReporte {
 /// of the program differ in the layouts they choose and in what they leave behind.
 class SalidaReporte {
   public:
-    SalidaReporte(EntornoSalida& entorno, VistaSalidaReporte& vista)
-        : entorno_(entorno), vista_(vista), exportador_(entorno) {}
+    SalidaReporte(EntornoSalida& entorno, PantallaSalidaReporte& pantalla)
+        : entorno_(entorno), pantalla_(pantalla), exportador_(entorno) {}
     virtual ~SalidaReporte() = default;
     SalidaReporte(const SalidaReporte&) = delete;
     SalidaReporte& operator=(const SalidaReporte&) = delete;
@@ -146,7 +146,7 @@ class SalidaReporte {
   private:
     bool Enviar(std::uint8_t salida);
 
-    VistaSalidaReporte& vista_;
+    PantallaSalidaReporte& pantalla_;
     ExportadorReportes exportador_;
 };
 

@@ -47,7 +47,7 @@ int AnchoDe(const QString& texto, const QFont& fuente) {
 }  // namespace
 
 VentanaMensaje::VentanaMensaje(const Mensaje& mensaje, QWidget* padre)
-    : QDialog(padre), diseno_(DisenoDe(mensaje.Botones)) {
+    : QDialog(padre), disposicion_(DisposicionDe(mensaje.Botones)) {
     setWindowTitle(Q(mensaje.Titulo));
     Armar(mensaje);
     if (const QScreen* pantalla = QGuiApplication::primaryScreen())
@@ -98,12 +98,12 @@ void VentanaMensaje::Armar(const Mensaje& mensaje) {
 void VentanaMensaje::PonerBotones(const Mensaje& mensaje) {
     auto* fila = new QHBoxLayout;
     fila->addStretch(1);
-    for (std::int16_t b = 0; b < diseno_.Cuantos; ++b) {
-        auto* boton = new QPushButton(diseno_.Botones[b].Texto, this);
+    for (std::int16_t b = 0; b < disposicion_.Cuantos; ++b) {
+        auto* boton = new QPushButton(disposicion_.Botones[b].Texto, this);
         boton->setMinimumWidth(96);
         boton->setAutoDefault(true);
         connect(boton, &QPushButton::clicked, this, [this, b] {
-            respuesta_ = diseno_.Botones[b].Respuesta;
+            respuesta_ = disposicion_.Botones[b].Respuesta;
             accept();
         });
         fila->addWidget(boton);
@@ -117,8 +117,8 @@ void VentanaMensaje::PonerBotones(const Mensaje& mensaje) {
 }
 
 void VentanaMensaje::reject() {
-    if (!diseno_.Escape) return;
-    respuesta_ = *diseno_.Escape;
+    if (!disposicion_.Escape) return;
+    respuesta_ = *disposicion_.Escape;
     QDialog::reject();
 }
 

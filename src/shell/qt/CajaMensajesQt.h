@@ -22,7 +22,7 @@ class VentanaMensaje : public QDialog {
     void Armar(const Mensaje& mensaje);
     void PonerBotones(const Mensaje& mensaje);
 
-    DisenoCaja diseno_;
+    DisposicionCaja disposicion_;
     std::int16_t respuesta_ = RespuestaAceptarONo;
 };
 

@@ -14,7 +14,7 @@ class QTreeView;
 namespace trabex::programa::qt {
 
 /// Chooses project files in a folder and repairs them.
-class VentanaCompactar : public QDialog, public VistaCompactar {
+class VentanaCompactar : public QDialog, public PantallaCompactar {
   public:
     VentanaCompactar(Aplicacion& aplicacion, const Servicios& servicios, QWidget* padre);
 

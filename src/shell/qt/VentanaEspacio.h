@@ -9,7 +9,7 @@
 #include "drawing/Visor.h"
 #include "shell/ComandosEspacio.h"
 #include "shell/ListaElementos.h"
-#include "shell/VistaEspacio.h"
+#include "shell/PantallaEspacio.h"
 
 class QAction;
 class QLabel;
@@ -46,7 +46,7 @@ struct DatosDeEspacio {
 
 /// The workspace of an element: its list and the sheets of the selected one, with tool bar, menu bar, context
 /// menus and keys from a table of commands.
-class VentanaEspacio : public QDialog, public VistaEspacio {
+class VentanaEspacio : public QDialog, public PantallaEspacio {
   public:
     QAction* Accion(std::string_view clave) const { return acciones_.at(clave); }
 

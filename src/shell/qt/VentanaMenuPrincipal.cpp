@@ -29,10 +29,10 @@ QString Texto(std::string_view texto) {
 }  // namespace
 
 VentanaMenuPrincipal::VentanaMenuPrincipal(Aplicacion& aplicacion, const Servicios& servicios,
-                                           std::vector<Modulo> modulos)
+                                           std::vector<Espacio> espacios)
     : aplicacion_(aplicacion),
       servicios_(servicios),
-      modulos_(std::move(modulos)),
+      espacios_(std::move(espacios)),
       operaciones_(aplicacion, servicios, *this),
       tapiz_(new LienzoTapiz(this)) {
     setObjectName("MenuPrincipal");
@@ -46,17 +46,17 @@ VentanaMenuPrincipal::VentanaMenuPrincipal(Aplicacion& aplicacion, const Servici
     operaciones_.Iniciar();
 }
 
-const Modulo* VentanaMenuPrincipal::ModuloDe(std::string_view clave) const {
-    const auto hallado = std::find_if(modulos_.begin(), modulos_.end(),
-                                      [&](const Modulo& modulo) { return modulo.Clave == clave; });
-    return hallado == modulos_.end() ? nullptr : &*hallado;
+const Espacio* VentanaMenuPrincipal::EspacioDe(std::string_view clave) const {
+    const auto hallado = std::find_if(espacios_.begin(), espacios_.end(),
+                                      [&](const Espacio& espacio) { return espacio.Clave == clave; });
+    return hallado == espacios_.end() ? nullptr : &*hallado;
 }
 
 void VentanaMenuPrincipal::CrearAcciones() {
     for (const Comando& comando : Comandos) {
         auto* accion = new QAction(Icono(Texto(comando.Icono)), Texto(comando.Texto), this);
         accion->setObjectName(Texto(comando.Clave));
-        const bool existe = comando.Ejecuta == Orden::Propia || ModuloDe(comando.Clave) != nullptr;
+        const bool existe = comando.Ejecuta == Orden::Propia || EspacioDe(comando.Clave) != nullptr;
         accion->setEnabled(existe);
         QString rotulo = Texto(comando.Texto).remove('&');
         if (!existe) rotulo += "\n(no disponible en esta edición)";
@@ -174,7 +174,7 @@ void VentanaMenuPrincipal::MostrarSobre() {
 
 void VentanaMenuPrincipal::MostrarEspacio(std::string_view clave) {
     PunteroDeEspera(false);
-    if (const Modulo* modulo = ModuloDe(clave)) modulo->Abrir(aplicacion_, servicios_, this);
+    if (const Espacio* espacio = EspacioDe(clave)) espacio->Abrir(aplicacion_, servicios_, this);
 }
 
 }  // namespace trabex::programa::qt

@@ -7,17 +7,17 @@
 
 #include "shell/MenuPrincipal.h"
 #include "shell/qt/ComunVentanas.h"
+#include "shell/qt/Espacio.h"
 #include "shell/qt/LienzoTapiz.h"
-#include "shell/qt/Modulo.h"
 
 class QLabel;
 
 namespace trabex::programa::qt {
 
 /// The main window: menus, tool bar, wallpaper and status panel over the operations of MenuPrincipal.
-class VentanaMenuPrincipal : public QMainWindow, public VistaMenuPrincipal {
+class VentanaMenuPrincipal : public QMainWindow, public PantallaMenuPrincipal {
   public:
-    VentanaMenuPrincipal(Aplicacion& aplicacion, const Servicios& servicios, std::vector<Modulo> modulos);
+    VentanaMenuPrincipal(Aplicacion& aplicacion, const Servicios& servicios, std::vector<Espacio> espacios);
 
     /// The action of a command's key; null for an unknown one.
     QAction* Accion(std::string_view clave) const;
@@ -37,7 +37,7 @@ class VentanaMenuPrincipal : public QMainWindow, public VistaMenuPrincipal {
 
   private:
     /// The workspace of a command; null when the program has none.
-    const Modulo* ModuloDe(std::string_view clave) const;
+    const Espacio* EspacioDe(std::string_view clave) const;
     void CrearAcciones();
     void CrearMenus();
     void CrearBarra();
@@ -45,7 +45,7 @@ class VentanaMenuPrincipal : public QMainWindow, public VistaMenuPrincipal {
 
     Aplicacion& aplicacion_;
     Servicios servicios_;
-    std::vector<Modulo> modulos_;
+    std::vector<Espacio> espacios_;
     MenuPrincipal operaciones_;
     std::map<std::string_view, QAction*> acciones_;
     LienzoTapiz* tapiz_;

@@ -27,15 +27,15 @@ std::optional<CampoSeccion> PrimerCero(const Losa& losa) {
 
 }  // namespace
 
-LosaDatos::LosaDatos(Losas& losas, VistaLosaDatos& vista, programa::CajaMensajes& caja)
-    : losas_(losas), vista_(vista), caja_(caja) {}
+LosaDatos::LosaDatos(Losas& losas, PantallaLosaDatos& pantalla, programa::CajaMensajes& caja)
+    : losas_(losas), pantalla_(pantalla), caja_(caja) {}
 
 void LosaDatos::Abrir() {
     modificada_ = false;
     edicion_ = losas_.Estado().Abierta;
     edicion_.Ejes.resize(edicion_.Tramos.size() + 1);  // one joint more than spans, whatever the file held
     tramo_ = std::min<std::size_t>(1, NumeroDeTramos());
-    vista_.Rellenar();
+    pantalla_.Rellenar();
     cambios_ = false;
 }
 
@@ -46,7 +46,7 @@ std::string LosaDatos::LeyendaDeCargas() const {
 
 void LosaDatos::Cambiado() {
     cambios_ = true;
-    vista_.Redibujar();
+    pantalla_.Redibujar();
 }
 
 void LosaDatos::PonerMaciza(bool maciza) {
@@ -73,7 +73,7 @@ void LosaDatos::PonerNumeroTramos(std::size_t tramos) {
     std::erase_if(edicion_.JuntasD, perdida);
     tramo_ = tramos == 0 ? 0 : std::clamp<std::size_t>(tramo_, 1, tramos);
     cambios_ = true;
-    vista_.Refrescar();
+    pantalla_.Refrescar();
 }
 
 void LosaDatos::PonerEje(std::size_t junta, const std::string& eje) {
@@ -106,7 +106,7 @@ bool LosaDatos::PonerNumeroJuntasD(std::size_t juntas) {
     }
     edicion_.JuntasD.resize(juntas + 1);
     cambios_ = true;
-    vista_.Refrescar();
+    pantalla_.Refrescar();
     return true;
 }
 
@@ -136,38 +136,38 @@ void LosaDatos::PonerCargas(std::size_t tramo, const Tramo& cargas) {
 }
 
 void LosaDatos::PulsarTipo(std::int16_t tipo) {
-    const std::size_t fila = vista_.FilaDeApoyo();
+    const std::size_t fila = pantalla_.FilaDeApoyo();
     if (fila < 1 || fila >= edicion_.Ejes.size()) return;
     PonerTipo(fila, tipo);
-    vista_.IrAFilaDeApoyo(std::min(fila + 1, edicion_.Ejes.size() - 1));
+    pantalla_.IrAFilaDeApoyo(std::min(fila + 1, edicion_.Ejes.size() - 1));
 }
 
 void LosaDatos::MoverATramo(std::size_t tramo) {
     if (tramo < 1 || tramo > NumeroDeTramos()) return;
     tramo_ = tramo;
-    vista_.Redibujar();
+    pantalla_.Redibujar();
 }
 
-void LosaDatos::AbrirCarga(bool (VistaLosaDatos::*mostrar)(const EntradaDeCarga&)) {
+void LosaDatos::AbrirCarga(bool (PantallaLosaDatos::*mostrar)(const EntradaDeCarga&)) {
     if (tramo_ == 0) return;
-    modificada_ = (vista_.*mostrar)({edicion_, tramo_});
+    modificada_ = (pantalla_.*mostrar)({edicion_, tramo_});
     if (modificada_) cambios_ = true;
-    vista_.Refrescar();
+    pantalla_.Refrescar();
 }
 
 void LosaDatos::CargaUniforme() {
-    AbrirCarga(&VistaLosaDatos::MostrarCarga01);
+    AbrirCarga(&PantallaLosaDatos::MostrarCarga01);
 }
 
 void LosaDatos::CargaPuntual() {
-    AbrirCarga(&VistaLosaDatos::MostrarCarga02);
+    AbrirCarga(&PantallaLosaDatos::MostrarCarga02);
 }
 
 bool LosaDatos::ConCeros() {
     const auto cero = PrimerCero(edicion_);
     if (!cero) return false;
-    vista_.MostrarPagina(PaginaLosa::Seccion);
-    vista_.EnfocarCampo(*cero);
+    pantalla_.MostrarPagina(PaginaLosa::Seccion);
+    pantalla_.EnfocarCampo(*cero);
     return true;
 }
 
@@ -185,7 +185,7 @@ bool LosaDatos::SalvarDatos() {
     losas_.Estado().Abierta = guardada;
     if (edicion_.Loseta != guardada.Loseta) {  // a topping of 0 is stored as the usual one
         edicion_ = guardada;
-        vista_.Rellenar();
+        pantalla_.Rellenar();
     }
     losas_.Memoria() = {guardada.Ho, guardada.Hm};
     modificada_ = true;
@@ -208,7 +208,7 @@ bool LosaDatos::PuedeCerrar() {
 }
 
 void LosaDatos::Retorno() {
-    if (PuedeCerrar()) vista_.Cerrar();
+    if (PuedeCerrar()) pantalla_.Cerrar();
 }
 
 bool LosaDatos::ElegirLosa(int fila) {
@@ -221,13 +221,13 @@ bool LosaDatos::ElegirLosa(int fila) {
 }
 
 void LosaDatos::PaginaSiguiente() {
-    const int pagina = static_cast<int>(vista_.Pagina()) + 1;
-    if (pagina < PaginasDeLosa) vista_.MostrarPagina(static_cast<PaginaLosa>(pagina));
+    const int pagina = static_cast<int>(pantalla_.Pagina()) + 1;
+    if (pagina < PaginasDeLosa) pantalla_.MostrarPagina(static_cast<PaginaLosa>(pagina));
 }
 
 void LosaDatos::PaginaAnterior() {
-    const int pagina = static_cast<int>(vista_.Pagina()) - 1;
-    if (pagina >= 0) vista_.MostrarPagina(static_cast<PaginaLosa>(pagina));
+    const int pagina = static_cast<int>(pantalla_.Pagina()) - 1;
+    if (pagina >= 0) pantalla_.MostrarPagina(static_cast<PaginaLosa>(pagina));
 }
 
 }  // namespace trabex::losas::ui

@@ -14,9 +14,9 @@ inline constexpr int PaginasDeLosa = 5;
 enum class CampoSeccion { Bo, Ho, So, Loseta, Hm };
 
 /// What the data window's operations ask of it.
-class VistaLosaDatos {
+class PantallaLosaDatos {
   public:
-    virtual ~VistaLosaDatos() = default;
+    virtual ~PantallaLosaDatos() = default;
     /// Fills every control from the editing copy.
     virtual void Rellenar() = 0;
     /// Tables, scroller and sketches again: the number of spans or of displaced joints, or loads, changed.
@@ -38,7 +38,7 @@ class VistaLosaDatos {
 /// Operations of the window that edits one slab on a copy of it: the open slab changes only on a save.
 class LosaDatos {
   public:
-    LosaDatos(Losas& losas, VistaLosaDatos& vista, programa::CajaMensajes& caja);
+    LosaDatos(Losas& losas, PantallaLosaDatos& pantalla, programa::CajaMensajes& caja);
 
     /// Takes the open slab and shows it.
     void Abrir();
@@ -93,10 +93,10 @@ class LosaDatos {
     bool SalvarDatos();
     bool ConCeros();
     void Cambiado();
-    void AbrirCarga(bool (VistaLosaDatos::*mostrar)(const EntradaDeCarga&));
+    void AbrirCarga(bool (PantallaLosaDatos::*mostrar)(const EntradaDeCarga&));
 
     Losas& losas_;
-    VistaLosaDatos& vista_;
+    PantallaLosaDatos& pantalla_;
     programa::CajaMensajes& caja_;
     Losa edicion_;
     bool cambios_ = false;  // not saved yet

@@ -20,10 +20,10 @@ constexpr programa::ClaseDeElemento ClaseLosa{
 }  // namespace
 
 Losas::Losas(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
-             programa::VistaEspacio& espacio, VistaLosas& vista, MemoriaLosas& memoria)
+             programa::PantallaEspacio& espacio, PantallaLosas& pantalla, MemoriaLosas& memoria)
     : aplicacion_(aplicacion),
       espacio_(espacio),
-      vista_(vista),
+      pantalla_(pantalla),
       memoria_(memoria),
       lista_(aplicacion, servicios, espacio, ClaseLosa, *this) {
     estado_.Hoja.Numeros = aplicacion.SeparadoresLocales;
@@ -33,7 +33,7 @@ void Losas::AlConectar() {
     almacen::tablas::LeerDatosGenerales(aplicacion_.Proyecto.ConexionProyecto, aplicacion_.Usuario,
                                         aplicacion_.Datos, aplicacion_.Generales);
     estado_.Hoja.OpcionCarga = dibujo::losa::CargaTotal;
-    vista_.MarcarOpcionCarga(estado_.Hoja.OpcionCarga);
+    pantalla_.MarcarOpcionCarga(estado_.Hoja.OpcionCarga);
 }
 
 void Losas::AlSeleccionar() {
@@ -46,7 +46,7 @@ void Losas::AlSeleccionar() {
 
 void Losas::AlAgregar() {
     AlSeleccionar();
-    vista_.MostrarLosaDatos();
+    pantalla_.MostrarLosaDatos();
     PonerEncabezado();
     Calcular();
 }
@@ -91,23 +91,23 @@ void Losas::ElegirOpcionCarga(dibujo::losa::OpcionDeCarga opcion) {
 }
 
 void Losas::CrearNueva() {
-    lista_.Crear([this] { return vista_.MostrarLosaNueva(); });
+    lista_.Crear([this] { return pantalla_.MostrarLosaNueva(); });
 }
 
 void Losas::CrearDesdeSeleccionada() {
-    lista_.Copiar([this] { return vista_.MostrarLosaSalvarComo(); });
+    lista_.Copiar([this] { return pantalla_.MostrarLosaSalvarComo(); });
 }
 
 void Losas::Modificar() {
     if (lista_.Vacia()) return;
     almacen::tablas::LeerLosa(aplicacion_.Proyecto, estado_.Abierta);
-    if (!vista_.MostrarLosaDatos()) return;
+    if (!pantalla_.MostrarLosaDatos()) return;
     PonerEncabezado();
     Calcular();
 }
 
 void Losas::DatosGenerales() {
-    if (lista_.Vacia() || !vista_.MostrarLosaGeneral()) return;
+    if (lista_.Vacia() || !pantalla_.MostrarLosaGeneral()) return;
     Calcular();
     AlLlenar();
 }

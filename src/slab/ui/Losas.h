@@ -8,9 +8,9 @@
 namespace trabex::losas::ui {
 
 /// What the slab workspace's operations ask of its window beside what those of every workspace do.
-class VistaLosas {
+class PantallaLosas {
   public:
-    virtual ~VistaLosas() = default;
+    virtual ~PantallaLosas() = default;
     virtual void MarcarOpcionCarga(dibujo::losa::OpcionDeCarga opcion) = 0;
 
     // Windows, each modal: the call returns when it closes.
@@ -40,7 +40,7 @@ struct EstadoLosas {
 class Losas : private programa::ElementoDeLista {
   public:
     Losas(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
-          programa::VistaEspacio& espacio, VistaLosas& vista, MemoriaLosas& memoria);
+          programa::PantallaEspacio& espacio, PantallaLosas& pantalla, MemoriaLosas& memoria);
 
     programa::ListaElementos& Lista() { return lista_; }
 
@@ -68,8 +68,8 @@ class Losas : private programa::ElementoDeLista {
     void PonerEncabezado();
 
     programa::Aplicacion& aplicacion_;
-    programa::VistaEspacio& espacio_;
-    VistaLosas& vista_;
+    programa::PantallaEspacio& espacio_;
+    PantallaLosas& pantalla_;
     MemoriaLosas& memoria_;
     EstadoLosas estado_;
     programa::ListaElementos lista_;

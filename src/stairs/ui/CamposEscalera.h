@@ -8,9 +8,9 @@ namespace trabex::escaleras::ui {
 
 /// The side of a data window that gives a field the focus.
 template <class Campo>
-class VistaDeCampos {
+class PantallaDeCampos {
   public:
-    virtual ~VistaDeCampos() = default;
+    virtual ~PantallaDeCampos() = default;
     virtual void Enfocar(Campo campo) = 0;
 };
 

@@ -19,10 +19,10 @@ constexpr programa::ClaseDeElemento ClaseEscaleraT{
 }  // namespace
 
 EscaleraT::EscaleraT(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
-                     programa::VistaEspacio& espacio, VistaEscaleraT& vista)
+                     programa::PantallaEspacio& espacio, PantallaEscaleraT& pantalla)
     : aplicacion_(aplicacion),
       espacio_(espacio),
-      vista_(vista),
+      pantalla_(pantalla),
       lista_(aplicacion, servicios, espacio, ClaseEscaleraT, *this) {
     estado_.Hoja.Numeros = aplicacion.SeparadoresLocales;
 }
@@ -32,7 +32,7 @@ void EscaleraT::AlConectar() {
                                        almacen::tablas::ClaseEscalera::Autoportante, aplicacion_.Usuario,
                                        aplicacion_.Datos, aplicacion_.Generales);
     estado_.Hoja.VistaActual = dibujo::escalera::VistaGeometria;
-    vista_.MarcarHoja(dibujo::escalera::VistaGeometria);
+    pantalla_.MarcarHoja(dibujo::escalera::VistaGeometria);
 }
 
 void EscaleraT::AlSeleccionar() {
@@ -70,12 +70,12 @@ void EscaleraT::Calcular() {
 
 bool EscaleraT::MostrarDatos(bool nueva) {
     bool cambiados = false;
-    vista_.MostrarEscaleraTDatos({aplicacion_.Proyecto, estado_.Abierta, nueva, cambiados});
+    pantalla_.MostrarEscaleraTDatos({aplicacion_.Proyecto, estado_.Abierta, nueva, cambiados});
     return cambiados;
 }
 
 void EscaleraT::Nueva() {
-    lista_.Crear([this] { return vista_.MostrarEscaleraTNueva(); });
+    lista_.Crear([this] { return pantalla_.MostrarEscaleraTNueva(); });
 }
 
 void EscaleraT::Editar() {
@@ -83,11 +83,11 @@ void EscaleraT::Editar() {
 }
 
 void EscaleraT::DatosGenerales() {
-    if (vista_.MostrarEscaleraTG()) Calcular();
+    if (pantalla_.MostrarEscaleraTG()) Calcular();
 }
 
 void EscaleraT::Titulo() {
-    if (lista_.Vacia() || !vista_.MostrarEscaleraTitulo()) return;
+    if (lista_.Vacia() || !pantalla_.MostrarEscaleraTitulo()) return;
     estado_.Abierta.Titulo = aplicacion_.Proyecto.RegistrosProyecto.Texto("Titulo");
     lista_.Redibujar();
 }

@@ -10,9 +10,9 @@ namespace trabex::escaleras::ui {
 
 /// What the operations of the workspace of stairs ask of its window beside what those of every workspace do.
 /// Windows are modal: the call returns when they close.
-class VistaEscaleraT {
+class PantallaEscaleraT {
   public:
-    virtual ~VistaEscaleraT() = default;
+    virtual ~PantallaEscaleraT() = default;
     /// The tab of the sheet on show.
     virtual void MarcarHoja(dibujo::escalera::VistaEscalera hoja) = 0;
     /// True when a stair was added.
@@ -34,7 +34,7 @@ struct EstadoEscaleraT {
 class EscaleraT : private programa::ElementoDeLista {
   public:
     EscaleraT(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
-              programa::VistaEspacio& espacio, VistaEscaleraT& vista);
+              programa::PantallaEspacio& espacio, PantallaEscaleraT& pantalla);
 
     programa::ListaElementos& Lista() { return lista_; }
 
@@ -63,8 +63,8 @@ class EscaleraT : private programa::ElementoDeLista {
     bool MostrarDatos(bool nueva);
 
     programa::Aplicacion& aplicacion_;
-    programa::VistaEspacio& espacio_;
-    VistaEscaleraT& vista_;
+    programa::PantallaEspacio& espacio_;
+    PantallaEscaleraT& pantalla_;
     EstadoEscaleraT estado_;
     programa::ListaElementos lista_;
 };

@@ -26,7 +26,7 @@ std::optional<CampoEscaleraT> EscaleraTDatos::PrimerCero(const DatosEscaleraT& e
 
 bool EscaleraTDatos::Salvar(const DatosEscaleraT& entrados) {
     if (const auto cero = PrimerCero(entrados)) {
-        vista_.Enfocar(*cero);
+        pantalla_.Enfocar(*cero);
         return false;
     }
     DatosEscaleraT escalera = entrados;

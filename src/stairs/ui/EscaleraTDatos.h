@@ -25,8 +25,8 @@ struct TrabajoEscaleraT {
 class EscaleraTDatos {
   public:
     EscaleraTDatos(TrabajoEscaleraT trabajo, programa::CajaMensajes& caja,
-                   VistaDeCampos<CampoEscaleraT>& vista)
-        : trabajo_(trabajo), caja_(caja), vista_(vista) {}
+                   PantallaDeCampos<CampoEscaleraT>& pantalla)
+        : trabajo_(trabajo), caja_(caja), pantalla_(pantalla) {}
 
     /// Name of the stair on which the list stands.
     std::string Nombre() const;
@@ -52,7 +52,7 @@ class EscaleraTDatos {
   private:
     TrabajoEscaleraT trabajo_;
     programa::CajaMensajes& caja_;
-    VistaDeCampos<CampoEscaleraT>& vista_;
+    PantallaDeCampos<CampoEscaleraT>& pantalla_;
     bool modificada_ = false;
 };
 

@@ -31,7 +31,7 @@ void EscaleraTG::Copiar(const EntradaEscaleraTG& entrados) {
 
 bool EscaleraTG::Aceptar(const EntradaEscaleraTG& entrados) {
     if (const auto cero = PrimerCero(entrados)) {
-        vista_.Enfocar(*cero);
+        pantalla_.Enfocar(*cero);
         return false;
     }
     const DatosGenerales anteriores = generales_;

@@ -28,13 +28,14 @@ class EscaleraTG {
   public:
     /// `conexion` is the workspace's, `generales` its working values; a save raises `datosCambiados`.
     EscaleraTG(almacen::Conexion& conexion, almacen::tablas::ClaseEscalera clase, DatosGenerales& generales,
-               bool& datosCambiados, programa::CajaMensajes& caja, VistaDeCampos<CampoEscaleraTG>& vista)
+               bool& datosCambiados, programa::CajaMensajes& caja,
+               PantallaDeCampos<CampoEscaleraTG>& pantalla)
         : conexion_(conexion),
           clase_(clase),
           generales_(generales),
           datosCambiados_(datosCambiados),
           caja_(caja),
-          vista_(vista) {}
+          pantalla_(pantalla) {}
 
     EntradaEscaleraTG Mostrar() const;
 
@@ -54,7 +55,7 @@ class EscaleraTG {
     DatosGenerales& generales_;
     bool& datosCambiados_;
     programa::CajaMensajes& caja_;
-    VistaDeCampos<CampoEscaleraTG>& vista_;
+    PantallaDeCampos<CampoEscaleraTG>& pantalla_;
 };
 
 }  // namespace trabex::escaleras::ui

@@ -58,11 +58,11 @@ void Exigir(bool escrito, const almacen::Conexion& destino) {
 }  // namespace
 
 ExportarCAD::ExportarCAD(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
-                         std::uint8_t versionCAD, VistaExportarCAD& vista)
+                         std::uint8_t versionCAD, PantallaExportarCAD& pantalla)
     : aplicacion_(aplicacion),
       servicios_(servicios),
       version_(versionCAD),
-      vista_(vista),
+      pantalla_(pantalla),
       posicion_(aplicacion.Proyecto.RegistrosProyecto.Posicion()) {}
 
 ExportarCAD::~ExportarCAD() {
@@ -83,7 +83,7 @@ losas::Losa ExportarCAD::LosaDe(int fila) {
 std::vector<int> ExportarCAD::FilasMarcadas() const {
     std::vector<int> filas;
     for (int fila = 1; fila <= aplicacion_.Proyecto.RegistrosProyecto.NumeroRegistros(); ++fila) {
-        if (vista_.Marcada(fila)) filas.push_back(fila);
+        if (pantalla_.Marcada(fila)) filas.push_back(fila);
     }
     return filas;
 }
@@ -132,7 +132,7 @@ void ExportarCAD::ExportarCAD80() {
 }
 
 void ExportarCAD::Exportar(const std::vector<int>& filas) {
-    const auto archivo = vista_.Opcion() == ArchivoCAD::CrearNuevo ? ElegirNuevo() : ElegirExistente();
+    const auto archivo = pantalla_.Opcion() == ArchivoCAD::CrearNuevo ? ElegirNuevo() : ElegirExistente();
     if (!archivo) return;
     if (!Existe(*archivo))
         CopiarArchivo(servicios_.Carpetas.CaminoPrograma / "Imagen" / Ediciones[version_].Plantilla,
@@ -146,14 +146,14 @@ void ExportarCAD::Exportar(const std::vector<int>& filas) {
     servicios_.Caja.Mostrar(
         Aviso("¡Se Exportaron ( " + std::to_string(exportadas) + " ) Losa(s) con Exito a Planex Estructural!",
               EncabezadoPlanex, programa::IconoCaja::Informacion));
-    vista_.Cerrar();
+    pantalla_.Cerrar();
 }
 
 int ExportarCAD::EscribirLosas(const std::vector<int>& filas, const std::filesystem::path& archivo) {
-    const auto espera = programa::Espera(vista_);
+    const auto espera = programa::Espera(pantalla_);
     almacen::Conexion destino;
     almacen::AbrirConexion(destino, archivo);
-    if (vista_.Opcion() == ArchivoCAD::CrearNuevo)
+    if (pantalla_.Opcion() == ArchivoCAD::CrearNuevo)
         Exigir(EscribirProyectoPlanex(destino, aplicacion_.Datos, aplicacion_.Generales), destino);
     int exportadas = 0;
     for (const int fila : filas) {

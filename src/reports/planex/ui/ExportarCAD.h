@@ -15,9 +15,9 @@ namespace trabex::planex::ui {
 /// How the file that takes the slabs is found.
 enum class ArchivoCAD { CrearNuevo, AnexarAExistente };
 
-class VistaExportarCAD {
+class PantallaExportarCAD {
   public:
-    virtual ~VistaExportarCAD() = default;
+    virtual ~PantallaExportarCAD() = default;
     /// The check of a row of the grid, from 1, in the order of the slab list.
     virtual bool Marcada(int fila) const = 0;
     virtual ArchivoCAD Opcion() const = 0;
@@ -31,7 +31,7 @@ class VistaExportarCAD {
 class ExportarCAD {
   public:
     ExportarCAD(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
-                std::uint8_t versionCAD, VistaExportarCAD& vista);
+                std::uint8_t versionCAD, PantallaExportarCAD& pantalla);
     ~ExportarCAD();
     ExportarCAD(const ExportarCAD&) = delete;
     ExportarCAD& operator=(const ExportarCAD&) = delete;
@@ -59,7 +59,7 @@ class ExportarCAD {
     programa::Aplicacion& aplicacion_;
     programa::Servicios servicios_;
     std::uint8_t version_;
-    VistaExportarCAD& vista_;
+    PantallaExportarCAD& pantalla_;
     int posicion_;  // of the slab list when the window opened
 };
 

@@ -18,7 +18,7 @@ namespace trabex::reportes::ui::qt {
 using DibujoDeEspacio = std::function<void(dibujo::Lienzo&, dibujo::EstadoVista&)>;
 
 /// The window that shows a drawing with its own zoom and saves it as a picture.
-class VentanaExportarGrafico : public QDialog, private VistaExportarGrafico {
+class VentanaExportarGrafico : public QDialog, private PantallaExportarGrafico {
   public:
     VentanaExportarGrafico(EntornoGrafico entorno, DibujoDeEspacio dibujar, QWidget* padre);
 

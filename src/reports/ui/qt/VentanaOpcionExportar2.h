@@ -10,7 +10,7 @@ class QButtonGroup;
 namespace trabex::reportes::ui::qt {
 
 /// Asks for the kind of file that a grid is exported to.
-class VentanaOpcionExportar2 : public QDialog, private VistaOpcionExportar2 {
+class VentanaOpcionExportar2 : public QDialog, private PantallaOpcionExportar2 {
   public:
     VentanaOpcionExportar2(EntornoSalida& entorno, const cuadricula::Cuadricula& grilla, QWidget* padre);
 

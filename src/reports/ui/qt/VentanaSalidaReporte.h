@@ -11,7 +11,7 @@ class QButtonGroup;
 namespace trabex::reportes::ui::qt {
 
 /// The dialog of report output, on the operations of the tabular or of the drawing reports.
-class VentanaSalidaReporte : public QDialog, public VistaSalidaReporte {
+class VentanaSalidaReporte : public QDialog, public PantallaSalidaReporte {
   public:
     enum class Clase { Tabular, Grafico };
     VentanaSalidaReporte(EntornoSalida& entorno, Clase clase, QWidget* padre);

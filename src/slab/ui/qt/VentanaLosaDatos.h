@@ -25,7 +25,7 @@ class WidgetLienzo;
 namespace trabex::losas::ui::qt {
 
 /// Edits one slab: five pages of fields and tables beside a sketch that follows what is typed.
-class VentanaLosaDatos : public QDialog, public VistaLosaDatos {
+class VentanaLosaDatos : public QDialog, public PantallaLosaDatos {
   public:
     VentanaLosaDatos(Losas& losas, programa::CajaMensajes& caja, QWidget* padre);
 

@@ -12,7 +12,7 @@ namespace trabex::losas::ui::qt {
 using OperacionesDeLosas = std::map<std::string_view, std::function<void(Losas& losas, QWidget& ventana)>>;
 
 /// The slab workspace: the list of slabs, their commands, and the three sheets of the selected one.
-class VentanaLosas : public programa::qt::VentanaEspacio, private VistaLosas {
+class VentanaLosas : public programa::qt::VentanaEspacio, private PantallaLosas {
   public:
     VentanaLosas(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
                  MemoriaLosas& memoria, const OperacionesDeLosas& otras, QWidget* padre);

@@ -14,7 +14,7 @@ using OperacionesDeEscaleras =
 
 /// The workspace of self-supporting stairs: their list, their commands, and the four sheets of the selected
 /// one.
-class VentanaEscaleraT : public programa::qt::VentanaEspacio, private VistaEscaleraT {
+class VentanaEscaleraT : public programa::qt::VentanaEspacio, private PantallaEscaleraT {
   public:
     VentanaEscaleraT(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
                      const OperacionesDeEscaleras& otras, QWidget* padre);

@@ -23,7 +23,7 @@ class CampoNumero;
 namespace trabex::escaleras::ui::qt {
 
 /// Edits a self-supporting stair, with its plan and section beside the fields as they are typed.
-class VentanaEscaleraTDatos : public QDialog, private VistaDeCampos<CampoEscaleraT> {
+class VentanaEscaleraTDatos : public QDialog, private PantallaDeCampos<CampoEscaleraT> {
   public:
     VentanaEscaleraTDatos(const TrabajoEscaleraT& trabajo, const programa::Aplicacion& aplicacion,
                           programa::CajaMensajes& caja, QWidget* padre);

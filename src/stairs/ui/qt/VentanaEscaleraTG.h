@@ -13,7 +13,7 @@ class CampoNumero;
 namespace trabex::escaleras::ui::qt {
 
 /// Edits the design parameters of all stairs of one kind. Accepted when something was stored.
-class VentanaEscaleraTG : public QDialog, private VistaDeCampos<CampoEscaleraTG> {
+class VentanaEscaleraTG : public QDialog, private PantallaDeCampos<CampoEscaleraTG> {
   public:
     VentanaEscaleraTG(programa::Aplicacion& aplicacion, almacen::tablas::ClaseEscalera clase,
                       programa::CajaMensajes& caja, QWidget* padre);

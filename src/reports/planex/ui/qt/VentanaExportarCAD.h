@@ -17,7 +17,7 @@ class WidgetLienzo;
 namespace trabex::planex::ui::qt {
 
 /// Chooses slabs of the connected project and hands them to Planex.
-class VentanaExportarCAD : public QDialog, public VistaExportarCAD {
+class VentanaExportarCAD : public QDialog, public PantallaExportarCAD {
   public:
     VentanaExportarCAD(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
                        std::uint8_t versionCAD, QWidget* padre);

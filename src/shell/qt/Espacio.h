@@ -12,7 +12,7 @@ namespace trabex::programa::qt {
 
 /// The workspace of an element, as the program lists it. What the workspace remembers for the whole run is in
 /// its function.
-struct Modulo {
+struct Espacio {
     std::string_view Clave;  ///< of its command in the main window
     /// Shows the workspace until it closes.
     std::function<void(Aplicacion&, const Servicios&, QWidget* padre)> Abrir;

@@ -1,10 +1,10 @@
-#include "slab/ui/qt/ModuloLosas.h"
+#include "slab/ui/qt/EspacioLosas.h"
 
 #include "slab/ui/qt/SalidasLosas.h"
 
 namespace trabex::losas::ui::qt {
 
-programa::qt::Modulo ModuloLosas(reportes::ui::qt::SalidaDelPrograma& salida) {
+programa::qt::Espacio EspacioLosas(reportes::ui::qt::SalidaDelPrograma& salida) {
     return {"ID_LosasD", [&salida, memoria = MemoriaLosas{}](programa::Aplicacion& aplicacion,
                                                              const programa::Servicios& servicios,
                                                              QWidget* padre) mutable {

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "reports/ui/qt/SalidaDelPrograma.h"
-#include "shell/qt/Modulo.h"
+#include "shell/qt/Espacio.h"
 
 namespace trabex::escaleras::ui::qt {
 
 /// The workspace of self-supporting stairs in the program. `salida` outlives it.
-programa::qt::Modulo ModuloEscaleraT(reportes::ui::qt::SalidaDelPrograma& salida);
+programa::qt::Espacio EspacioEscaleraT(reportes::ui::qt::SalidaDelPrograma& salida);
 
 }  // namespace trabex::escaleras::ui::qt

@@ -10,9 +10,9 @@ namespace trabex::programa {
 class Renombrar;
 
 /// What the operations of a workspace ask of its window, whatever the element.
-class VistaEspacio {
+class PantallaEspacio {
   public:
-    virtual ~VistaEspacio() = default;
+    virtual ~PantallaEspacio() = default;
     virtual void PonerTitulo(const std::string& titulo) = 0;
     /// Line at the window's foot.
     virtual void PonerEstado(const std::string& texto) = 0;

@@ -1,11 +1,11 @@
-#include "stairs/ui/qt/ModuloEscaleraT.h"
+#include "stairs/ui/qt/EspacioEscaleraT.h"
 
 #include "stairs/ui/qt/SalidasEscaleraT.h"
 #include "stairs/ui/qt/VentanaEscaleraT.h"
 
 namespace trabex::escaleras::ui::qt {
 
-programa::qt::Modulo ModuloEscaleraT(reportes::ui::qt::SalidaDelPrograma& salida) {
+programa::qt::Espacio EspacioEscaleraT(reportes::ui::qt::SalidaDelPrograma& salida) {
     return {"ID_Tijera", [&salida](programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
                                    QWidget* padre) {
                 SalidasEscaleraT salidas(aplicacion, servicios, salida);
