@@ -27,6 +27,8 @@ class PantallaEspacio {
     /// Shows that the element of a row fails, or no longer.
     virtual void MarcarFalla(int fila, bool falla) = 0;
 
+    /// Shows which sheet is in front, from 0, without drawing it.
+    virtual void MarcarHoja(int hoja) = 0;
     /// Zoom 1 and no pan.
     virtual void RestablecerVista() = 0;
     /// Draws the sheet on show, now.

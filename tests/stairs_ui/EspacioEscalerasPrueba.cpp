@@ -35,7 +35,7 @@ struct PantallaGuiada : PantallaEspacio, PantallaEscaleraT {
     void RestablecerVista() override { ++Restablecida; }
     void Redibujar() override { ++Dibujos; }
     void MostrarRenombrar(programa::Renombrar& operaciones) override { operaciones.Aceptar(NombreNuevo); }
-    void MarcarHoja(VistaEscalera hoja) override { Hoja = hoja; }
+    void MarcarHoja(int hoja) override { Hoja = hoja; }
     bool MostrarEscaleraTNueva() override { return Nueva(); }
     void MostrarEscaleraTDatos(const TrabajoEscaleraT& trabajo) override { Datos(trabajo); }
     bool MostrarEscaleraTG() override { return General(); }
@@ -44,7 +44,7 @@ struct PantallaGuiada : PantallaEspacio, PantallaEscaleraT {
     std::string Titulo, Encabezado, NombreNuevo;
     std::vector<std::string> Filas;
     int Marcada = 0, Restablecida = 0, Dibujos = 0;
-    VistaEscalera Hoja = dibujo::escalera::VistaReacciones;
+    int Hoja = dibujo::escalera::VistaReacciones;
     std::size_t Anotados = 0;
     bool Falla = false;
     std::function<bool()> Nueva, General, TituloNuevo;

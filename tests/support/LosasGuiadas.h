@@ -29,6 +29,7 @@ struct PantallaLosasGuiada : PantallaEspacio, PantallaLosas {
     void LlenarLista(const std::vector<std::string>& nombres) override { Filas = nombres; }
     void MarcarFalla(int fila, bool falla) override { Fallan[fila] = falla; }
     void MarcarFila(int fila) override { Marcada = fila; }
+    void MarcarHoja(int /*hoja*/) override {}
     void RestablecerVista() override { ++Restablecida; }
     void Redibujar() override { ++Dibujos; }
     void MarcarOpcionCarga(dibujo::losa::OpcionDeCarga opcion) override { OpcionCarga = opcion; }

@@ -23,6 +23,7 @@
 #include "drawing/qt/WidgetLienzo.h"
 #include "shell/qt/ComunVentanas.h"
 #include "shell/qt/Iconos.h"
+#include "shell/qt/LineaElidida.h"
 #include "shell/qt/VentanaRenombrar.h"
 
 namespace trabex::programa::qt {
@@ -34,14 +35,6 @@ constexpr int AnchoDeLista = 230;
 
 QString Texto(std::string_view texto) {
     return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
-}
-
-QLabel* LineaDeTexto(const char* nombre, QWidget* padre) {
-    auto* linea = new QLabel(padre);
-    linea->setObjectName(nombre);
-    linea->setTextFormat(Qt::PlainText);
-    linea->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    return linea;
 }
 
 /// Gives each entry of a menu a letter of its own.
@@ -69,9 +62,10 @@ void VentanaEspacio::Armar(const DatosDeEspacio& datos) {
     setObjectName(datos.Nombre);
     operaciones_ = &datos.Lista;
     auto* partes = Partes(datos);
-    pie_ = LineaDeTexto("Pie", this);
-    avisos_ = LineaDeTexto("Avisos", this);
+    pie_ = new LineaElidida("Pie", this);
+    avisos_ = new LineaElidida("Avisos", this);
     auto* lineaDelPie = new QHBoxLayout;
+    lineaDelPie->setSpacing(16);
     lineaDelPie->addWidget(pie_, 1);
     lineaDelPie->addWidget(avisos_, 2);
     CrearAcciones(datos);
@@ -245,21 +239,21 @@ QWidget* VentanaEspacio::PanelDeLista(const DatosDeEspacio& datos) {
 
 QWidget* VentanaEspacio::PanelDeHojas(const DatosDeEspacio& datos) {
     auto* panel = new QWidget(this);
-    encabezado_ = LineaDeTexto("Encabezado", panel);
+    encabezado_ = new LineaElidida("Encabezado", panel);
     QFont fuente = encabezado_->font();
     fuente.setBold(true);
     fuente.setPointSize(fuente.pointSize() + 2);
     encabezado_->setFont(fuente);
-    auto* hojas = new QTabBar(panel);
-    hojas->setExpanding(false);
-    for (const char* titulo : datos.Hojas) hojas->addTab(titulo);
-    connect(hojas, &QTabBar::currentChanged, this, datos.AlElegirHoja);
+    hojas_ = new QTabBar(panel);
+    hojas_->setExpanding(false);
+    for (const char* titulo : datos.Hojas) hojas_->addTab(titulo);
+    connect(hojas_, &QTabBar::currentChanged, this, datos.AlElegirHoja);
     lienzo_ = new dibujo::qt::WidgetLienzo(datos.Vista, datos.Dibujar, panel, datos.Teclas);
     auto* columna = new QVBoxLayout(panel);
     columna->setContentsMargins(0, 0, 0, 0);
     columna->setSpacing(2);
     columna->addWidget(encabezado_);
-    columna->addWidget(hojas);
+    columna->addWidget(hojas_);
     columna->addWidget(lienzo_, 1);
     return panel;
 }
@@ -310,6 +304,11 @@ void VentanaEspacio::MarcarFalla(int fila, bool falla) {
     if (renglon == nullptr) return;
     renglon->setIcon(falla ? style()->standardIcon(QStyle::SP_MessageBoxWarning) : QIcon());
     renglon->setToolTip(falla ? "Falla: véanse sus avisos al pie." : "");
+}
+
+void VentanaEspacio::MarcarHoja(int hoja) {
+    const QSignalBlocker quietas(hojas_);
+    hojas_->setCurrentIndex(hoja);
 }
 
 void VentanaEspacio::RestablecerVista() {

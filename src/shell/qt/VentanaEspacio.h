@@ -16,6 +16,7 @@ class QLabel;
 class QListWidget;
 class QMenuBar;
 class QSplitter;
+class QTabBar;
 
 namespace trabex::dibujo {
 class Lienzo;
@@ -57,6 +58,7 @@ class VentanaEspacio : public QDialog, public PantallaEspacio {
     void LlenarLista(const std::vector<std::string>& nombres) override;
     void MarcarFila(int fila) override;
     void MarcarFalla(int fila, bool falla) override;
+    void MarcarHoja(int hoja) override;
     void RestablecerVista() override;
     void Redibujar() override;
     void MostrarRenombrar(Renombrar& operaciones) override;
@@ -92,6 +94,7 @@ class VentanaEspacio : public QDialog, public PantallaEspacio {
     QLabel* pie_ = nullptr;
     QLabel* avisos_ = nullptr;
     QSplitter* partes_ = nullptr;
+    QTabBar* hojas_ = nullptr;
     dibujo::qt::WidgetLienzo* lienzo_ = nullptr;
 };
 

@@ -32,7 +32,7 @@ void EscaleraT::AlConectar() {
                                        almacen::tablas::ClaseEscalera::Autoportante, aplicacion_.Usuario,
                                        aplicacion_.Datos, aplicacion_.Generales);
     estado_.Hoja.VistaActual = dibujo::escalera::VistaGeometria;
-    pantalla_.MarcarHoja(dibujo::escalera::VistaGeometria);
+    espacio_.MarcarHoja(dibujo::escalera::VistaGeometria);
 }
 
 void EscaleraT::AlSeleccionar() {

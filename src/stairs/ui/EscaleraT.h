@@ -13,8 +13,6 @@ namespace trabex::escaleras::ui {
 class PantallaEscaleraT {
   public:
     virtual ~PantallaEscaleraT() = default;
-    /// The tab of the sheet on show.
-    virtual void MarcarHoja(dibujo::escalera::VistaEscalera hoja) = 0;
     /// True when a stair was added.
     virtual bool MostrarEscaleraTNueva() = 0;
     virtual void MostrarEscaleraTDatos(const TrabajoEscaleraT& trabajo) = 0;

@@ -1,7 +1,5 @@
 #include "stairs/ui/qt/VentanaEscaleraT.h"
 
-#include <QSignalBlocker>
-#include <QTabBar>
 #include <array>
 #include <utility>
 
@@ -41,12 +39,6 @@ VentanaEscaleraT::VentanaEscaleraT(programa::Aplicacion& aplicacion, const progr
            },
            [this](int hoja) { operaciones_.ElegirHoja(static_cast<dibujo::escalera::VistaEscalera>(hoja)); },
            std::move(propias)});
-}
-
-void VentanaEscaleraT::MarcarHoja(dibujo::escalera::VistaEscalera hoja) {
-    auto* hojas = findChild<QTabBar*>();
-    const QSignalBlocker quietas(hojas);
-    hojas->setCurrentIndex(hoja);
 }
 
 bool VentanaEscaleraT::MostrarEscaleraTNueva() {

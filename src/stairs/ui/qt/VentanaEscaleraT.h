@@ -22,7 +22,6 @@ class VentanaEscaleraT : public programa::qt::VentanaEspacio, private PantallaEs
     EscaleraT& Operaciones() { return operaciones_; }
 
   private:
-    void MarcarHoja(dibujo::escalera::VistaEscalera hoja) override;
     bool MostrarEscaleraTNueva() override;
     void MostrarEscaleraTDatos(const TrabajoEscaleraT& trabajo) override;
     bool MostrarEscaleraTG() override;
