@@ -43,7 +43,7 @@ struct Ventana {
 
 void MedirSalvar(benchmark::State& estado) {
     Ventana v(estado.range(0));
-    v.ventana.Operaciones().ElegirVista(static_cast<VistaLosa>(estado.range(1)));
+    v.ventana.Operaciones().ElegirHoja(static_cast<VistaLosa>(estado.range(1)));
     for (auto _ : estado) {
         Reloj::time_point inicio;
         QTimer::singleShot(0, [&] {

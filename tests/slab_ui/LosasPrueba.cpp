@@ -46,7 +46,7 @@ TEST_F(Espacio, AbreEnLaPrimeraYMuestraCadaSeleccionada) {
     EXPECT_THAT(e.pantalla.Filas, ElementsAre("BALCON", "Nivel 1"));
     EXPECT_EQ(e.pantalla.Encabezado, "LOSA MACIZA: BALCON");
     EXPECT_EQ(e.pantalla.Dibujos, 1);  // nothing is drawn while it loads
-    espacio.ElegirVista(VistaDiseno);
+    espacio.ElegirHoja(VistaDiseno);
     const int restablecida = e.pantalla.Restablecida;
     espacio.Lista().Seleccionar(2);
     EXPECT_EQ(e.pantalla.Encabezado, "LOSA NERVADA: Nivel 1");

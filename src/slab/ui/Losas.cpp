@@ -80,7 +80,7 @@ void Losas::Calcular() {
     lista_.Redibujar();
 }
 
-void Losas::ElegirVista(dibujo::losa::VistaLosa vista) {
+void Losas::ElegirHoja(dibujo::losa::VistaLosa vista) {
     estado_.Hoja.VistaActual = vista;
     lista_.Redibujar();
 }

@@ -51,7 +51,7 @@ class Losas : private programa::ElementoDeLista {
 
     /// Calculates the open slab and draws the sheet on show.
     void Calcular();
-    void ElegirVista(dibujo::losa::VistaLosa vista);
+    void ElegirHoja(dibujo::losa::VistaLosa vista);
     void ElegirOpcionCarga(dibujo::losa::OpcionDeCarga opcion);
 
     EstadoLosas& Estado() { return estado_; }

@@ -43,7 +43,7 @@ VentanaLosas::VentanaLosas(programa::Aplicacion& aplicacion, const programa::Ser
            [this](dibujo::Lienzo& lienzo) {
                dibujo::losa::RedibujeVista(lienzo, operaciones_.Estado().Hoja, operaciones_.Calculada());
            },
-           [this](int hoja) { operaciones_.ElegirVista(static_cast<dibujo::losa::VistaLosa>(hoja)); },
+           [this](int hoja) { operaciones_.ElegirHoja(static_cast<dibujo::losa::VistaLosa>(hoja)); },
            std::move(propias), OpcionesDeCarga()});
 }
 
