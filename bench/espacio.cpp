@@ -16,6 +16,10 @@
 namespace {
 
 using namespace trabex;
+using namespace dibujo::losa;
+using namespace losas;
+using namespace losas::ui;
+using namespace losas::ui::qt;
 using Reloj = std::chrono::steady_clock;
 
 QApplication& Programa() {
