@@ -161,6 +161,7 @@ TEST_P(VentanasDeCarga, SeEditaUnAnalisisHastaElArchivo) {
         EXPECT_TRUE(o.Salvar());
         EXPECT_FALSE(o.Modificado());
         EXPECT_TRUE(o.CambiarVariable(CampoDePeso::Descripcion, "Otro uso"));
+        EXPECT_FALSE(o.Modificado());
         EXPECT_TRUE(o.Cerrar());  // a name alone asks nothing
     };
     lista.Seleccionar(2);
@@ -470,6 +471,10 @@ TEST_F(Captura, UnaVezYSinTocarElCompartido) {
         EXPECT_EQ(UltimoTexto(), "¡El Análisis de Carga ya existe en el Proyecto!");
         EXPECT_EQ(UltimoEncabezado(), "Análisis de Carga...");
         EXPECT_EQ(otra.Enfoques, 1);
+        lista.Seleccionar(1);
+        caja_.Respuestas = {programa::RespuestaSi, programa::RespuestaAceptarONo};
+        compartidos.Capturar();
+        EXPECT_EQ(lista.Fila(), 1);  // the search leaves the project's selection
         EXPECT_EQ(EnArchivo(Ambito::Proyecto, "AnalisisCargaG").NumeroRegistros(),
                   static_cast<int>(habia) + 1);
     };

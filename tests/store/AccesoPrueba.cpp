@@ -86,6 +86,21 @@ TEST_F(Acceso, LaLosaGuardadaEsLaLeida) {
     }
 }
 
+/// Rows are read by their number, however they stand in the table; what no calculation reads is not read
+/// back.
+TEST_F(Acceso, LasFilasSeLeenPorSuNumero) {
+    Losa losa = prueba::LosaContinua({4, 5, 6}, 300, 200);
+    losa.Nombre = "L-1";
+    losa.Ejes[1].Lizq = losa.Ejes[1].Lder = losa.Ejes[1].HV = 0.4;
+    ASSERT_TRUE(prueba::AgregarLosa(proyecto, losa));
+    EXPECT_EQ(Abierto("LosaEjes").Doble("HV"), 0.4);
+    EXPECT_TRUE(proyecto.ConexionProyecto.Ejecutar("UPDATE LosaTramos SET Numero = 90 - Numero"));
+    LeerLosa(proyecto, losa);
+    EXPECT_EQ(losa.Tramos[1].LT, 6);
+    EXPECT_EQ(losa.Tramos[3].LT, 4);
+    EXPECT_EQ(losa.Ejes[1].Lizq + losa.Ejes[1].Lder + losa.Ejes[1].HV, 0);
+}
+
 TEST_F(Acceso, NulosYHuecosDeNumeroSeCierranAlGuardar) {
     Crear("L-1");
     Conexion& conexion = proyecto.ConexionProyecto;

@@ -191,7 +191,9 @@ TEST_F(Cargas, UnCapturadoEsUnaCopiaConSuNumero) {
     compartidos_.MoverA(3);
     const AnalisisCarga original = Leido(Ambito::Compartido);
     EXPECT_FALSE(YaCapturado(compartidos_, delProyecto_));
-    // Its rows keep their numbers, gaps and all.
+    // Its rows keep their numbers, gaps and all, and take the place of what stands under its own.
+    proyecto_.Ejecutar("INSERT INTO AnalisisCargaCP VALUES (" + std::to_string(original.ID) +
+                       ", 1, 'Ajena', 1)");
     compartida_.Ejecutar("UPDATE CargaPermanente SET Numero = 10 * Numero");
     ASSERT_TRUE(CapturarAnalisis(compartida_, compartidos_, proyecto_, delProyecto_));
     EXPECT_TRUE(YaCapturado(compartidos_, delProyecto_));
