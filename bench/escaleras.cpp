@@ -24,6 +24,9 @@ extern "C" void dpbsv_(const char* uplo, const int* n, const int* kd, const int*
 namespace {
 
 using namespace trabex;
+using namespace trabex::escaleras;
+using namespace trabex::helices;
+using namespace trabex::marcus;
 
 /// Seconds that a call takes, over `veces` of them.
 template <class Llamada>

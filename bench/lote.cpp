@@ -92,7 +92,7 @@ BENCHMARK_DEFINE_F(Proyecto, Json)(benchmark::State& estado) {
     ResultadosLosa resultados;
     CalcularLosa(losa, {}, resultados);
     for (auto _ : estado) {
-        for (int n = 0; n < Losas; ++n) benchmark::DoNotOptimize(salida::LosaJson(losa, resultados));
+        for (int n = 0; n < Losas; ++n) benchmark::DoNotOptimize(salida::LosaJson(losa, resultados, {}));
     }
 }
 BENCHMARK_REGISTER_F(Proyecto, Json)->Unit(benchmark::kMillisecond)->UseRealTime();
