@@ -44,9 +44,8 @@ Avisos AvisosDelDescanso(const EscaleraCalculada& escalera, const Separadores& n
 }  // namespace
 
 Avisos AvisosDe(const EscaleraCalculada& escalera, const Separadores& numeros) {
-    const DatosEscaleraT& datos = escalera.Datos;
-    // Such a stair leaves the results of the one before it.
-    if (datos.L == 0 || datos.B == 0 || datos.H == 0 || escalera.Resultados.TramoT.empty()) return {};
+    // A stair without measures leaves the results of the one before it.
+    if (!TieneMedidas(escalera.Datos) || escalera.Resultados.TramoT.empty()) return {};
     if (escalera.Resultados.Error) return {AvisoDeError(*escalera.Resultados.Error)};
     Avisos avisos = AvisosDelTramo(escalera, numeros);
     const Avisos otros = AvisosDelDescanso(escalera, numeros);

@@ -7,6 +7,7 @@
 #include "base/VigilanciaFlotante.h"
 #include "stairs/DisenoEscaleraT.h"
 #include "stairs/EstaticaEscaleraT.h"
+#include "stairs/ValoresEscaleraT.h"
 
 namespace trabex::escaleras {
 
@@ -100,7 +101,7 @@ void Calculo::CalcularReacciones() {
 
 void CalcularEscaleraT(const DatosEscaleraT& escalera, const DatosGenerales& generales,
                        ResultadosEscaleraT& resultados) {
-    if (escalera.L == 0 || escalera.B == 0 || escalera.H == 0) return;
+    if (!TieneMedidas(escalera)) return;
     resultados.Error.reset();
     const std::tuple reacciones{resultados.ReaccionVertical, resultados.ReaccionHorizontal};
     try {

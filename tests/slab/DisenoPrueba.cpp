@@ -55,7 +55,7 @@ TEST(EsfuerzosEnSeccion, RepiteLaEstacionDeLaCargaPuntual) {
     double M = 0;
     double V = 0;
     std::vector<double> cortes;
-    for (double x = 0; x <= 6; x += 2) {
+    for (const double x : {0.0, 2.0, 4.0, 6.0}) {
         do {
             EsfuerzosEnSeccion(tramo, generales, x, 1, 0, 800, estacion, M, V);
             cortes.push_back(V);

@@ -54,7 +54,8 @@ void VerificarMarcus(Problemas& problemas) {
             Nombre, grupo.Que, "Flechas iguales en el cruce de dos franjas, integradas de sus momentos",
             1e-9);
         const double cx = FlechaDeFranja(grupo.EnX), cy = FlechaDeFranja(grupo.EnY);
-        for (double razon = 0.2; razon < 5; razon *= 1.17) {
+        double razon = 0.2;
+        for (int i = 0; i < 21; ++i, razon *= 1.17) {
             std::array<PanoMarcus, 1> pano{{{1000, grupo.Caso, 4, 4 * razon, {}}}};
             CalculePanos(pano);
             const double x4 = cx, y4 = cy * std::pow(razon, 4);
