@@ -6,7 +6,6 @@
 
 #include "helical/CalcularEscaleraH.h"
 #include "helical/EstacionesHelice.h"
-#include "support/HelicePorBarras.h"
 #include "support/HelicePorTrabajo.h"
 
 namespace trabex {
@@ -125,30 +124,6 @@ TEST(EscaleraH, LasAccionesSonLasDelTrabajoMinimo) {
                     1e-8 * e.W * e.R);
     }
 }
-
-/// The redundants against a fine chain of bars in space, which shares no formula with them.
-class HeliceYBarras : public testing::TestWithParam<DatosEscaleraH> {};
-
-TEST_P(HeliceYBarras, Coinciden) {
-    const DatosEscaleraH e = GetParam();
-    const ResultadosEscaleraH r = Calculada(e);
-    const EjeHelice eje(e);
-    const auto porGrado = static_cast<std::size_t>(2);
-    const prueba::HelicePorBarras barras(e, static_cast<std::size_t>(e.Angulo) * porGrado);
-    const auto medio = static_cast<std::size_t>(e.Angulo) * porGrado / 2;
-    for (std::size_t i = 1; i < r.NEst; ++i) {
-        const std::size_t grados = (i - 1) * static_cast<std::size_t>(e.Inter);
-        const double t = Grados(static_cast<double>(grados));
-        const double tolerancia = 5e-4 * e.W * e.R;
-        Comparar(barras.En(medio + grados * porGrado), AccionDe(r.TramoInferior[i], eje, t), tolerancia, e.R);
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(Geometrias, HeliceYBarras,
-                         testing::Values(Modelo(), DatosEscaleraH{"", "", 1, 0.2, 3, 1.5, 180, 1200, 10},
-                                         DatosEscaleraH{"", "", 0.3, 0.3, 2, 3, 90, 900, 5},
-                                         DatosEscaleraH{"", "", 1.2, 0.25, 4, 2, 360, 1000, 20},
-                                         DatosEscaleraH{"", "", 1.2, 0.4, 0, 2, 120, 1000, 10}));
 
 TEST(EscaleraH, SimetriaYContinuidad) {
     DatosEscaleraH e = Modelo();

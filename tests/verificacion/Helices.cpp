@@ -73,7 +73,7 @@ void Equilibrio(Problemas& problemas) {
 void Barras(Problemas& problemas) {
     Problema& barras = problemas.emplace_back(
         Nombre, "Las seis acciones de cada estación, con dos incógnitas en forma cerrada",
-        "Cadena de barras rectas en el espacio, dos por grado, por el método de las rigideces", 1e-3);
+        "Cadena de barras rectas en el espacio, dos por grado, por el método de las rigideces", 5e-4);
     const DatosEscaleraH casos[]{EscaleraHNuevaDe("", ""),
                                  {"", "", 1, 0.2, 3, 1.5, 180, 1200, 10},
                                  {"", "", 0.3, 0.3, 2, 3, 90, 900, 5},
