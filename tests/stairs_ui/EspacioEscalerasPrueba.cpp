@@ -21,7 +21,6 @@ using namespace escaleras::ui;
 using namespace programa;
 namespace {
 
-using dibujo::escalera::VistaEscalera;
 using testing::ElementsAre;
 
 struct PantallaGuiada : PantallaEspacio, PantallaEscaleraT {
