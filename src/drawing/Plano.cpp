@@ -19,7 +19,7 @@ constexpr std::size_t CabenEnColumna = 512;
 
 /// Runs `accion` on the number of each column of the canvas that a box touches.
 template <class Accion>
-void PorColumna(const CajaTexto& caja, Accion accion) {
+void PorColumna(const PiezaTexto& caja, Accion accion) {
     const auto primera = static_cast<std::int64_t>(std::floor(caja.x / AnchoDeColumna));
     const auto ultima = static_cast<std::int64_t>(std::floor((caja.x + caja.Ancho) / AnchoDeColumna));
     for (std::int64_t columna = primera; columna <= ultima; ++columna) accion(columna);
@@ -57,19 +57,19 @@ void Plano::EscribirCentrado(std::string_view texto, double x, double y, double 
                 Pixeles(y - dx * std::sin(giro) + dy * std::cos(giro)), grados);
 }
 
-void Plano::Reservar(const CajaTexto& caja) {
+void Plano::Reservar(const PiezaTexto& caja) {
     PorColumna(caja, [&](std::int64_t columna) {
-        std::vector<CajaTexto>& suyas = ocupadas_[columna];
+        std::vector<PiezaTexto>& suyas = ocupadas_[columna];
         if (suyas.size() < CabenEnColumna) suyas.push_back(caja);
     });
 }
 
-double Plano::Solape(const CajaTexto& caja) const {
+double Plano::Solape(const PiezaTexto& caja) const {
     double total = 0;
     PorColumna(caja, [&](std::int64_t columna) {
         const auto hallada = ocupadas_.find(columna);
         if (hallada == ocupadas_.end()) return;
-        for (const CajaTexto& otra : hallada->second) {
+        for (const PiezaTexto& otra : hallada->second) {
             const double ancho =
                 std::min(caja.x + caja.Ancho, otra.x + otra.Ancho) - std::max(caja.x, otra.x);
             const double alto = std::min(caja.y + caja.Alto, otra.y + otra.Alto) - std::max(caja.y, otra.y);
@@ -79,11 +79,11 @@ double Plano::Solape(const CajaTexto& caja) const {
     return total;
 }
 
-CajaTexto Plano::Colocar(double ancho, double alto, const std::vector<Centro>& centros) {
-    CajaTexto mejor;
+PiezaTexto Plano::Colocar(double ancho, double alto, const std::vector<Centro>& centros) {
+    PiezaTexto mejor;
     double menor = std::numeric_limits<double>::infinity();
     for (const Centro& centro : centros) {
-        const CajaTexto caja{centro.x - ancho / 2, centro.y - alto / 2, ancho, alto};
+        const PiezaTexto caja{centro.x - ancho / 2, centro.y - alto / 2, ancho, alto};
         const double solape = Solape(caja);
         if (solape < menor) {
             menor = solape;
@@ -98,7 +98,7 @@ CajaTexto Plano::Colocar(double ancho, double alto, const std::vector<Centro>& c
 void Plano::Rotular(std::string_view texto, const std::vector<Centro>& centros, double grados) {
     const MedidaTexto medida = lienzo_.Medir(texto);
     const bool deLado = grados == 90;
-    const CajaTexto caja =
+    const PiezaTexto caja =
         Colocar(deLado ? medida.Alto : medida.Ancho, deLado ? medida.Ancho : medida.Alto, centros);
     EscribirCentrado(texto, caja.x + caja.Ancho / 2, caja.y + caja.Alto / 2, grados);
 }

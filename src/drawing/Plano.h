@@ -13,7 +13,7 @@ namespace trabex::dibujo {
 enum class Ancla { Izquierda, Centro, Derecha };
 
 /// A place taken on the canvas, in its units: top left corner and size.
-struct CajaTexto {
+struct PiezaTexto {
     double x = 0;
     double y = 0;
     double Ancho = 0;
@@ -54,20 +54,20 @@ class Plano {
     void EscribirCentrado(std::string_view texto, double x, double y, double grados = 0) const;
 
     /// Takes a place, so that no label is put there.
-    void Reservar(const CajaTexto& caja);
+    void Reservar(const PiezaTexto& caja);
     /// The first centre at which a box of this size meets no taken place; the last resort is the one that is
     /// overprinted least. Takes the place.
-    CajaTexto Colocar(double ancho, double alto, const std::vector<Centro>& centros);
+    PiezaTexto Colocar(double ancho, double alto, const std::vector<Centro>& centros);
     /// Places a text by its possible centres and writes it. `grados`: 0 or 90.
     void Rotular(std::string_view texto, const std::vector<Centro>& centros, double grados = 0);
 
   private:
-    double Solape(const CajaTexto& caja) const;
+    double Solape(const PiezaTexto& caja) const;
 
     Lienzo& lienzo_;
     const EstadoVista& vista_;
     std::string_view fuente_;
-    std::unordered_map<std::int64_t, std::vector<CajaTexto>> ocupadas_;  // by column of the canvas
+    std::unordered_map<std::int64_t, std::vector<PiezaTexto>> ocupadas_;  // by column of the canvas
 };
 
 }  // namespace trabex::dibujo

@@ -91,6 +91,7 @@ struct Intercambio {
 /// An element's module. Functions that are null stand for what the element does not have.
 struct Modulo {
     const char* Nombre;          ///< one element of the kind, as messages name it: "losa"
+    const char* Plural;          ///< several of them, as messages name them: "losas"
     const char* Clave;           ///< key of its list in the results, folder of its sheets: "losas"
     const char* ClaveGenerales;  ///< key of its materials and factors; null where it keeps none
     std::string_view Consulta;   ///< opens its list

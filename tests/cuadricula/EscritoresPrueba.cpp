@@ -106,28 +106,28 @@ TEST_F(Escritores, HtmlSegunTidyConYSinBordes) {
 TEST(Pagina, CabezaMargenesYPieDeLaCuadricula) {
     MembreteDeCuadricula membrete{.Titulo = "Pesos", .Usuario = "ING. NÚÑEZ", .Proyecto = "Torre"};
     const documento::Documento hoja = DocumentoDe(CuadriculaDePrueba(2), membrete, {.Apaisada = true});
-    ASSERT_EQ(hoja.Hoja.Membrete.size(), 3U);
+    ASSERT_EQ(hoja.Papel.Membrete.size(), 3U);
     const std::array<std::pair<const char*, double>, 3> lineas{
         {{"Pesos", 18}, {"ING. NÚÑEZ", 10}, {"Proyecto: Torre", 16}}};
     for (std::size_t i = 0; i < lineas.size(); ++i) {
-        EXPECT_EQ(hoja.Hoja.Membrete[i].Texto, lineas[i].first);
-        EXPECT_EQ(hoja.Hoja.Membrete[i].Puntos, lineas[i].second);
-        EXPECT_TRUE(hoja.Hoja.Membrete[i].Negrita);
+        EXPECT_EQ(hoja.Papel.Membrete[i].Texto, lineas[i].first);
+        EXPECT_EQ(hoja.Papel.Membrete[i].Puntos, lineas[i].second);
+        EXPECT_TRUE(hoja.Papel.Membrete[i].Negrita);
     }
-    EXPECT_EQ(hoja.Hoja.Pie.Derecha, std::string("Página: ") + documento::MarcaPagina);
+    EXPECT_EQ(hoja.Papel.Pie.Derecha, std::string("Página: ") + documento::MarcaPagina);
     // 800 twips are 0.5556 inches, 1200 are 0.8333.
-    EXPECT_NEAR(hoja.Hoja.MargenIzquierdo, 14.11, 0.01);
-    EXPECT_NEAR(hoja.Hoja.MargenSuperior, 14.11, 0.01);
-    EXPECT_NEAR(hoja.Hoja.MargenInferior, 21.17, 0.01);
-    EXPECT_TRUE(hoja.Hoja.Apaisada);
+    EXPECT_NEAR(hoja.Papel.MargenIzquierdo, 14.11, 0.01);
+    EXPECT_NEAR(hoja.Papel.MargenSuperior, 14.11, 0.01);
+    EXPECT_NEAR(hoja.Papel.MargenInferior, 21.17, 0.01);
+    EXPECT_TRUE(hoja.Papel.Apaisada);
     EXPECT_EQ(hoja.Secciones.size(), 2U);
     EXPECT_EQ(std::get<documento::Tabla>(hoja.Secciones[0].Bloques[0]).Columnas.size(), 4U);
 
     membrete.Usuario.clear();
     const documento::Documento sola =
         DocumentoDe(CuadriculaDePrueba(1), membrete, {.CabecerasDeFilas = false, .NumeroDePagina = false});
-    EXPECT_EQ(sola.Hoja.Membrete.back().Texto, "proyecto: Torre");
-    EXPECT_TRUE(sola.Hoja.Pie.Derecha.empty());
+    EXPECT_EQ(sola.Papel.Membrete.back().Texto, "proyecto: Torre");
+    EXPECT_TRUE(sola.Papel.Pie.Derecha.empty());
     EXPECT_EQ(std::get<documento::Tabla>(sola.Secciones[0].Bloques[0]).Columnas.size(), 3U);
 }
 

@@ -176,18 +176,18 @@ TEST_F(PlanoPrueba, UnTituloNoBajaDeOchoPuntos) {
 
 TEST_F(PlanoPrueba, UnRotuloVaAlPrimerLugarLibreYSiNoHayAlMenosPisado) {
     ElPlano.Reservar({0, 0, 300, 100});  // more than a column of the index
-    const CajaTexto libre = ElPlano.Colocar(40, 20, {{250, 50}, {320, 50}, {320, 90}});
+    const PiezaTexto libre = ElPlano.Colocar(40, 20, {{250, 50}, {320, 50}, {320, 90}});
     EXPECT_EQ(libre.x, 300);  // touches, does not meet
     EXPECT_EQ(libre.y, 40);
     ElPlano.Rotular("otra", {{320, 50}, {320, 90}});
     EXPECT_EQ(Escrito("otra"), (PuntoLienzo{306, 82}));
-    const CajaTexto menosPisada = ElPlano.Colocar(40, 20, {{150, 50}, {150, 105}, {150, 95}});
+    const PiezaTexto menosPisada = ElPlano.Colocar(40, 20, {{150, 50}, {150, 105}, {150, 95}});
     EXPECT_EQ(menosPisada.y, 95);
     // The place of a text that reads upward is as wide as a line is tall.
     ElPlano.Rotular("sube", {{400, 300}}, 90);
-    const CajaTexto junto = ElPlano.Colocar(10, 10, {{413, 300}, {420, 300}});
+    const PiezaTexto junto = ElPlano.Colocar(10, 10, {{413, 300}, {420, 300}});
     EXPECT_EQ(junto.x, 408);
-    const CajaTexto encima = ElPlano.Colocar(10, 10, {{400, 312}, {400, 330}});
+    const PiezaTexto encima = ElPlano.Colocar(10, 10, {{400, 312}, {400, 330}});
     EXPECT_EQ(encima.y, 325);
 }
 

@@ -38,7 +38,7 @@ DatosEscaleraT Modelo() {
 }
 
 /// The place that a text takes: level, or turned to be read from the right.
-CajaTexto CajaDe(const TextoGrabado& t) {
+PiezaTexto PiezaDe(const TextoGrabado& t) {
     const double ancho = t.Medida.Ancho;
     const double alto = t.Medida.Alto;
     if (t.Decimas == 900) return {1.0 * t.Lugar.x, t.Lugar.y - ancho, alto, ancho};
@@ -48,7 +48,7 @@ CajaTexto CajaDe(const TextoGrabado& t) {
 /// Descents of letters may touch the line below: boxes may share this part of a line.
 constexpr double Roce = 0.1;
 
-bool SeTocan(const CajaTexto& a, const CajaTexto& b, double holgura) {
+bool SeTocan(const PiezaTexto& a, const PiezaTexto& b, double holgura) {
     return std::min(a.x + a.Ancho, b.x + b.Ancho) - std::max(a.x, b.x) > holgura &&
            std::min(a.y + a.Alto, b.y + b.Alto) - std::max(a.y, b.y) > holgura;
 }
@@ -56,12 +56,12 @@ bool SeTocan(const CajaTexto& a, const CajaTexto& b, double holgura) {
 std::string Faltas(const LienzoGrabador& lienzo) {
     std::string faltas;
     for (std::size_t i = 0; i < lienzo.Textos.size(); ++i) {
-        const CajaTexto a = CajaDe(lienzo.Textos[i]);
+        const PiezaTexto a = PiezaDe(lienzo.Textos[i]);
         if (a.x < 0 || a.y < 0 || a.x + a.Ancho > lienzo.ScaleWidth() || a.y + a.Alto > lienzo.ScaleHeight())
             faltas += "off: " + lienzo.Textos[i].Texto + " at " + std::to_string(a.x) + ", " +
                       std::to_string(a.y) + "\n";
         for (std::size_t k = 0; k < i; ++k)
-            if (SeTocan(a, CajaDe(lienzo.Textos[k]), Roce * lienzo.Textos[i].Medida.Alto))
+            if (SeTocan(a, PiezaDe(lienzo.Textos[k]), Roce * lienzo.Textos[i].Medida.Alto))
                 faltas += "met: " + lienzo.Textos[i].Texto + " and " + lienzo.Textos[k].Texto + "\n";
     }
     return faltas;
@@ -188,7 +188,7 @@ TEST(HojasEscalera, CadaCifraEnSuColumnaYSuFila) {
     const auto centro = [&](const char* texto) {
         const TextoGrabado* t = lienzo.Hallar(texto);
         EXPECT_TRUE(t) << texto;
-        const CajaTexto caja = CajaDe(*t);
+        const PiezaTexto caja = PiezaDe(*t);
         return Centro{caja.x + caja.Ancho / 2, caja.y + caja.Alto / 2};
     };
     EXPECT_NEAR(centro("-782").x, 1200 - 1.8 * 175, 1);   // the support
@@ -196,9 +196,9 @@ TEST(HojasEscalera, CadaCifraEnSuColumnaYSuFila) {
     EXPECT_NEAR(centro("-1174").x, 1200 + 1.2 * 175, 1);  // 45 degrees, the middle of the landing
     EXPECT_NEAR(centro("-941").x, 1200 + 1.8 * 175, 1);   // 0 degrees, its far edge
     const double base = 88 + (1.5 + 0.4 + 0.374) * 175;
-    const CajaTexto encima = CajaDe(*lienzo.Hallar("-782"));
+    const PiezaTexto encima = PiezaDe(*lienzo.Hallar("-782"));
     EXPECT_NEAR(encima.y + encima.Alto, base - 0.04 * 175, 1);
-    EXPECT_NEAR(CajaDe(*lienzo.Hallar("257")).y, base + 0.05 * 175, 1);
+    EXPECT_NEAR(PiezaDe(*lienzo.Hallar("257")).y, base + 0.05 * 175, 1);
     const TextoGrabado& rotulo = *lienzo.Hallar("ENVOL. MOMENTOS (kgf-m) MX:");
     EXPECT_NEAR(rotulo.Lugar.x + rotulo.Medida.Ancho, 1200 - 1.96 * 175, 1);
     EXPECT_NEAR(rotulo.Lugar.y + rotulo.Medida.Alto / 2.0, base, 1);
@@ -207,7 +207,7 @@ TEST(HojasEscalera, CadaCifraEnSuColumnaYSuFila) {
     // What fails in shear is red, in its row alone. Its column moved half a line from the flight's last.
     for (const TextoGrabado& t : lienzo.Textos)
         EXPECT_EQ(t.Tinta == (Color{255, 0, 0}),
-                  t.Texto == "0" && std::fabs(CajaDe(t).x + t.Medida.Alto / 2.0 - (1207 + 0.6 * 175)) < 2 &&
+                  t.Texto == "0" && std::fabs(PiezaDe(t).x + t.Medida.Alto / 2.0 - (1207 + 0.6 * 175)) < 2 &&
                       t.Lugar.y > 88 + (1.9 + 2.828) * 175)
             << t.Texto << " " << t.Lugar.x << " " << t.Lugar.y;
 }

@@ -186,8 +186,8 @@ TEST_F(PreviaDeCuadricula, ImprimirPreguntaYTomaSusAjustes) {
     EXPECT_FALSE(impresoras.Ultimo.Preguntar);
     EXPECT_EQ(impresoras.Ultimo.Paginas.Primera, 2);
     EXPECT_EQ(impresoras.Ultimo.Paginas.Ultima, 3);
-    EXPECT_NEAR(impresoras.Hoja.MargenIzquierdo, 25.4, 0.01);
-    EXPECT_TRUE(impresoras.Hoja.Pie.Derecha.empty());
+    EXPECT_NEAR(impresoras.Papel.MargenIzquierdo, 25.4, 0.01);
+    EXPECT_TRUE(impresoras.Papel.Pie.Derecha.empty());
 }
 
 }  // namespace

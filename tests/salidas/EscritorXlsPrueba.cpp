@@ -19,8 +19,8 @@ using testing::StartsWith;
 Documento DocumentoDePrueba() {
     Documento documento;
     documento.Titulo = "ANÁLISIS";
-    documento.Hoja.Apaisada = true;
-    documento.Hoja.Pie = {"A & B", "", std::string("Página ") + MarcaPagina + " de " + MarcaPaginas};
+    documento.Papel.Apaisada = true;
+    documento.Papel.Pie = {"A & B", "", std::string("Página ") + MarcaPagina + " de " + MarcaPaginas};
     Seccion& seccion = documento.Secciones.emplace_back();
     seccion.Nombre = "LOSA: N+3.00";
     seccion.Bloques.emplace_back(Titulo{1, "LOSA N+3.00"});

@@ -7,9 +7,9 @@ namespace trabex::prueba {
 /// Texts that each format must guard in its own way: accents, quotes, a tabulator, line feeds, markup.
 inline constexpr const char* TextoDificil = "Ñandú \"a\"\tb\n<c> & 'd'";
 
-inline cuadricula::Hoja HojaDePrueba(const std::string& nombre) {
+inline cuadricula::HojaDeCuadricula HojaDePrueba(const std::string& nombre) {
     using documento::Alineacion;
-    cuadricula::Hoja hoja;
+    cuadricula::HojaDeCuadricula hoja;
     hoja.Nombre = nombre;
     hoja.Celdas.Columnas = {{"Descripción", "", "", 60, Alineacion::Izquierda},
                             {"Mínimo", "Peso\nkgf/m²", "0.00", 20, Alineacion::Derecha},

@@ -13,13 +13,13 @@ struct ImpresorasGuiadas : reportes::ui::Impresoras {
     bool Acepta = true;
     std::vector<std::string> Impresos;
     reportes::ui::PedidoDeImpresion Ultimo;
-    documento::Pagina Hoja;
+    documento::Pagina Papel;
     std::vector<std::string> Disponibles() const override { return Nombres; }
     std::string PorDefecto() const override { return "EPSON ñ"; }
     bool Imprimir(const documento::Documento& documento, const std::string& impresora,
                   const reportes::ui::PedidoDeImpresion& pedido) override {
         Ultimo = pedido;
-        Hoja = documento.Hoja;
+        Papel = documento.Papel;
         if (Acepta) Impresos.push_back(impresora);
         return Acepta;
     }

@@ -58,7 +58,7 @@ void DibujeCargaUniforme(Trazado& t, std::size_t i) {
     }
     const double sobreBanda = std::min(enBanda, p.Y(mitad.y + BordeCarga) + medida.Alto / 2.0);
     for (int nivel = 1; nivel <= 4; ++nivel) centros.push_back({x, sobreBanda - nivel * medida.Alto});
-    const CajaTexto caja = p.Colocar(medida.Ancho, medida.Alto, centros);
+    const PiezaTexto caja = p.Colocar(medida.Ancho, medida.Alto, centros);
     p.EscribirCentrado(texto, caja.x + caja.Ancho / 2, caja.y + caja.Alto / 2,
                        pendiente * 180 / std::numbers::pi);
 }

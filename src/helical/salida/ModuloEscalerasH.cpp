@@ -80,6 +80,7 @@ std::vector<lote::Celda> Resumir(const lote::Elemento& elemento) {
 }  // namespace
 
 const lote::Modulo ModuloEscalerasH{.Nombre = "escalera helicoidal",
+                                    .Plural = "escaleras helicoidales",
                                     .Clave = "escalerasH",
                                     .ClaveGenerales = "EscaleraHG",
                                     .Consulta = almacen::tablas::ConsultaListaEscalerasH,

@@ -38,6 +38,7 @@ std::vector<lote::Celda> Resumir(const lote::Elemento& elemento) {
 }  // namespace
 
 const lote::Modulo ModuloCargas{.Nombre = "análisis de carga",
+                                .Plural = "análisis de carga",
                                 .Clave = "analisisCarga",
                                 .ClaveGenerales = nullptr,
                                 .Consulta = almacen::tablas::AnalisisDelProyecto.Lista,

@@ -36,7 +36,7 @@ class Salidas {
                 EscribirIntercambio(lista, intercambio);
             if (lista.De->Dibujos && !opciones_.SinDibujos && opciones_.Pide(SalidaHojas)) {
                 EscribirHojas(lista, calculado_.Datos, opciones_.Carpeta / lista.De->Clave, marcha_, faltas_);
-                Cerrar("Hojas de las " + std::string(lista.De->Clave), opciones_.Carpeta / lista.De->Clave);
+                Cerrar("Hojas de las " + std::string(lista.De->Plural), opciones_.Carpeta / lista.De->Clave);
             }
         }
         if (opciones_.Pide(SalidaReportes)) EscribirLosReportes();

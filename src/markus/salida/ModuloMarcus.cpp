@@ -56,6 +56,7 @@ std::vector<lote::Celda> Resumir(const lote::Elemento& elemento) {
 }  // namespace
 
 const lote::Modulo ModuloMarcus{.Nombre = "nivel de Markus",
+                                .Plural = "niveles de Markus",
                                 .Clave = "marcus",
                                 .ClaveGenerales = nullptr,
                                 .Consulta = almacen::tablas::ConsultaListaMarcus,

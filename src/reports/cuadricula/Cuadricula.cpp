@@ -11,16 +11,16 @@ constexpr double AnchoEntreVariasHojas = 30;
 
 }  // namespace
 
-const std::string& Hoja::Cabecera(std::size_t fila) const {
+const std::string& HojaDeCuadricula::Cabecera(std::size_t fila) const {
     static const std::string ninguna;
     return fila < Cabeceras.size() ? Cabeceras[fila] : ninguna;
 }
 
-double AnchoDeColumnaDeCabeceras(const Cuadricula& cuadricula, const Hoja& hoja) {
+double AnchoDeColumnaDeCabeceras(const Cuadricula& cuadricula, const HojaDeCuadricula& hoja) {
     return cuadricula.Hojas.size() > 1 ? AnchoEntreVariasHojas : hoja.AnchoDeCabeceras;
 }
 
-documento::Tabla ConCabeceras(const Cuadricula& cuadricula, const Hoja& hoja) {
+documento::Tabla ConCabeceras(const Cuadricula& cuadricula, const HojaDeCuadricula& hoja) {
     documento::Tabla tabla = hoja.Celdas;
     documento::ColumnaDeTabla columna;
     columna.Ancho = AnchoDeColumnaDeCabeceras(cuadricula, hoja);

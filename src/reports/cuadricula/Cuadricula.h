@@ -9,7 +9,7 @@
 namespace trabex::cuadricula {
 
 /// A sheet of cells with a heading over each column and one before each row.
-struct Hoja {
+struct HojaDeCuadricula {
     std::string Nombre;
     documento::Tabla Celdas;             ///< columns with their headings and widths in mm, and the rows
     std::vector<std::string> Cabeceras;  ///< of the rows, from the first on; missing ones are empty
@@ -21,16 +21,16 @@ struct Hoja {
 /// A grid as its window shows it, free of the window: what is previewed, printed and exported. Exporters and
 /// printing take it as it is and never change it.
 struct Cuadricula {
-    std::vector<Hoja> Hojas;
+    std::vector<HojaDeCuadricula> Hojas;
     Separadores Locales;  ///< with which its numbers show
 };
 
 /// The width that row headings take as a column, in mm: their own on a grid of one sheet, a fixed one on a
 /// grid of several.
-double AnchoDeColumnaDeCabeceras(const Cuadricula& cuadricula, const Hoja& hoja);
+double AnchoDeColumnaDeCabeceras(const Cuadricula& cuadricula, const HojaDeCuadricula& hoja);
 
 /// The sheet with its row headings as a first column of cells, as what leaves the grid needs it.
-documento::Tabla ConCabeceras(const Cuadricula& cuadricula, const Hoja& hoja);
+documento::Tabla ConCabeceras(const Cuadricula& cuadricula, const HojaDeCuadricula& hoja);
 
 /// The text of a cell as the grid shows it.
 std::string TextoDeCelda(const documento::Tabla& tabla, std::size_t fila, std::size_t columna,

@@ -47,7 +47,7 @@ std::string Titulos(const documento::Tabla& tabla) {
     return salida + "</tr>\n</thead>\n";
 }
 
-std::string Tabla(const Hoja& hoja, const Separadores& separadores, bool conBorde) {
+std::string Tabla(const HojaDeCuadricula& hoja, const Separadores& separadores, bool conBorde) {
     constexpr std::array<std::string_view, 3> celdas{"<td class=\"i\">", "<td class=\"c\">",
                                                      "<td class=\"d\">"};
     const documento::Tabla& tabla = hoja.Celdas;
@@ -71,7 +71,7 @@ std::string Tabla(const Hoja& hoja, const Separadores& separadores, bool conBord
 
 void EscribirHtml(const Cuadricula& cuadricula, bool conBorde, const std::filesystem::path& destino) {
     std::string texto(Principio);
-    for (const Hoja& hoja : cuadricula.Hojas) texto += Tabla(hoja, cuadricula.Locales, conBorde);
+    for (const HojaDeCuadricula& hoja : cuadricula.Hojas) texto += Tabla(hoja, cuadricula.Locales, conBorde);
     if (cuadricula.Hojas.empty()) texto += "<p>&nbsp;</p>\n";  // a page has something
     EscribirArchivo(destino, texto + "</body>\n</html>\n");
 }

@@ -12,7 +12,7 @@ std::string Etiqueta(const std::string& nombre, const std::string& atributos, co
 }
 
 /// A sheet of a grid of several tells its name.
-std::string AtributoDeHoja(const Cuadricula& cuadricula, const Hoja& hoja) {
+std::string AtributoDeHoja(const Cuadricula& cuadricula, const HojaDeCuadricula& hoja) {
     return cuadricula.Hojas.size() > 1 ? " hoja=\"" + TextoDeMarcado(hoja.Nombre) + "\"" : std::string();
 }
 
@@ -20,7 +20,7 @@ std::string AtributoDeHoja(const Cuadricula& cuadricula, const Hoja& hoja) {
 
 void EscribirXml(const Cuadricula& cuadricula, const std::filesystem::path& destino) {
     std::string texto = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<" + std::string(ElementoRaiz) + ">\n";
-    for (const Hoja& hoja : cuadricula.Hojas) {
+    for (const HojaDeCuadricula& hoja : cuadricula.Hojas) {
         const documento::Tabla tabla = ConCabeceras(cuadricula, hoja);
         for (std::size_t f = 0; f < tabla.Filas.size(); ++f) {
             std::string celdas;

@@ -21,7 +21,8 @@ documento::Pagina HojaDe(const MembreteDeCuadricula& membrete, const AjustesDeIm
     return pagina;
 }
 
-documento::Tabla TablaDe(const Cuadricula& cuadricula, const Hoja& hoja, const AjustesDeImpresion& ajustes) {
+documento::Tabla TablaDe(const Cuadricula& cuadricula, const HojaDeCuadricula& hoja,
+                         const AjustesDeImpresion& ajustes) {
     documento::Tabla tabla = ajustes.CabecerasDeFilas ? ConCabeceras(cuadricula, hoja) : hoja.Celdas;
     tabla.Estilo = {.Titulos = ajustes.CabecerasDeColumnas,
                     .PrimeraEsTitulo = ajustes.CabecerasDeFilas,
@@ -48,10 +49,10 @@ documento::Documento DocumentoDe(const Cuadricula& cuadricula, const MembreteDeC
     documento::Documento documento;
     documento.Titulo = membrete.Titulo;
     documento.Autor = membrete.Usuario;
-    documento.Hoja = HojaDe(membrete, ajustes);
+    documento.Papel = HojaDe(membrete, ajustes);
     documento.Letra = PuntosDeCelda;
     documento.Locales = cuadricula.Locales;
-    for (const Hoja& hoja : cuadricula.Hojas)
+    for (const HojaDeCuadricula& hoja : cuadricula.Hojas)
         documento.Secciones.push_back({.Nombre = hoja.Nombre,
                                        .PaginaNueva = true,
                                        .Junta = false,

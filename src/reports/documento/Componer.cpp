@@ -30,7 +30,7 @@ struct Hallada {
 /// Names of one layout in their rows.
 class Nombres {
   public:
-    Nombres(const DisenoReporte& diseno, DatosReporte& datos) : diseno_(diseno), datos_(datos) {}
+    Nombres(const MaquetaReporte& maqueta, DatosReporte& datos) : maqueta_(maqueta), datos_(datos) {}
 
     bool HayDatos(const std::string& tabla) { return datos_.Hay(Ubicacion(tabla)); }
 
@@ -53,7 +53,7 @@ class Nombres {
 
   private:
     std::filesystem::path Ubicacion(const std::string& tabla) const {
-        for (const TablaDeDiseno& conocida : diseno_.Tablas) {
+        for (const TablaDeMaqueta& conocida : maqueta_.Tablas) {
             if (conocida.Nombre == tabla) return conocida.Ubicacion;
         }
         return {};
@@ -62,18 +62,18 @@ class Nombres {
         if (!HayDatos(nombre)) return nullptr;
         const TablaDeDatos* tabla = datos_.Tabla(Ubicacion(nombre), nombre, {});
         if (tabla == nullptr)
-            throw ErrorDeDiseno(diseno_.Archivo, linea, "no existe la tabla \"" + nombre + "\"");
+            throw ErrorDeMaqueta(maqueta_.Archivo, linea, "no existe la tabla \"" + nombre + "\"");
         return tabla;
     }
     std::size_t Exigir(const TablaDeDatos& tabla, const std::string& columna, int linea) const {
         if (const auto numero = tabla.Columna(columna)) return *numero;
         const bool esImagen = tabla.EsImagen(columna);
-        throw ErrorDeDiseno(diseno_.Archivo, linea,
-                            (esImagen ? "es una imagen la columna \"" : "no existe la columna \"") +
-                                tabla.Nombre() + "." + columna + "\"");
+        throw ErrorDeMaqueta(maqueta_.Archivo, linea,
+                             (esImagen ? "es una imagen la columna \"" : "no existe la columna \"") +
+                                 tabla.Nombre() + "." + columna + "\"");
     }
 
-    const DisenoReporte& diseno_;
+    const MaquetaReporte& maqueta_;
     DatosReporte& datos_;
 };
 
@@ -94,8 +94,8 @@ Hallada Nombres::Buscar(const Referencia& referencia, const FilaActual* alrededo
         return {tabla, columna, tabla->NumeroFilas() > 0 ? std::optional<std::size_t>(0) : std::nullopt};
     }
     if (faltaBase) return {};
-    throw ErrorDeDiseno(diseno_.Archivo, referencia.Linea,
-                        "no existe la columna \"" + referencia.Columna + "\"");
+    throw ErrorDeMaqueta(maqueta_.Archivo, referencia.Linea,
+                         "no existe la columna \"" + referencia.Columna + "\"");
 }
 
 Hallada Nombres::BuscarImagen(const Referencia& referencia, const FilaActual* alrededor) {
@@ -107,8 +107,8 @@ Hallada Nombres::BuscarImagen(const Referencia& referencia, const FilaActual* al
             return {fila->Tabla, 0, fila->Numero};
     }
     if (faltaBase) return {};
-    throw ErrorDeDiseno(diseno_.Archivo, referencia.Linea,
-                        "no existe la imagen \"" + referencia.Columna + "\"");
+    throw ErrorDeMaqueta(maqueta_.Archivo, referencia.Linea,
+                         "no existe la imagen \"" + referencia.Columna + "\"");
 }
 
 std::vector<std::size_t> Nombres::Filas(const FuenteDeFilas& fuente, const FilaActual* alrededor) {
@@ -135,15 +135,15 @@ std::vector<std::size_t> Nombres::Filas(const FuenteDeFilas& fuente, const FilaA
 /// Walks a layout's elements without rows, so that every name is looked up once, whatever the data.
 class Revisor {
   public:
-    Revisor(const DisenoReporte& diseno, DatosReporte& datos)
-        : diseno_(diseno), datos_(datos), nombres_(diseno, datos) {}
+    Revisor(const MaquetaReporte& maqueta, DatosReporte& datos)
+        : maqueta_(maqueta), datos_(datos), nombres_(maqueta, datos) {}
 
     void Revisar(const FilaActual* alrededor) {
-        for (const Plantilla* texto : {&diseno_.Titulo, &diseno_.Autor}) Revisar(*texto, nullptr);
-        for (const auto* banda : {&diseno_.Cabecera, &diseno_.Pie}) {
+        for (const Plantilla* texto : {&maqueta_.Titulo, &maqueta_.Autor}) Revisar(*texto, nullptr);
+        for (const auto* banda : {&maqueta_.Cabecera, &maqueta_.Pie}) {
             for (const Plantilla& texto : *banda) Revisar(texto, nullptr);
         }
-        Revisar(diseno_.Cuerpo, alrededor);
+        Revisar(maqueta_.Cuerpo, alrededor);
     }
 
   private:
@@ -168,10 +168,10 @@ class Revisor {
     void Revisar(const ElementoTabla& e, const FilaActual* alrededor) {
         const FilaActual dentro = Entrar(e.Fuente, alrededor);
         for (const ElementoTabla::Fila& fila : e.Filas) {
-            for (const CeldaDeDiseno& celda : fila.Celdas) {
-                if (celda.Que == CeldaDeDiseno::Clase::Texto)
+            for (const CeldaDeMaqueta& celda : fila.Celdas) {
+                if (celda.Que == CeldaDeMaqueta::Clase::Texto)
                     Revisar(celda.Texto, &dentro);
-                else if (celda.Que != CeldaDeDiseno::Clase::Nada)
+                else if (celda.Que != CeldaDeMaqueta::Clase::Nada)
                     nombres_.Buscar(celda.Campo, &dentro);
             }
         }
@@ -197,11 +197,11 @@ class Revisor {
         Revisar(e.Sino, alrededor);
     }
     void Revisar(const ElementoSubreporte& e, const FilaActual* alrededor) {
-        Revisor(diseno_.Subreportes[e.Numero], datos_).Revisar(alrededor);
+        Revisor(maqueta_.Subreportes[e.Numero], datos_).Revisar(alrededor);
     }
     void Revisar(const ElementoSalto&, const FilaActual*) {}
 
-    const DisenoReporte& diseno_;
+    const MaquetaReporte& maqueta_;
     DatosReporte& datos_;
     Nombres nombres_;
 };
@@ -209,18 +209,18 @@ class Revisor {
 /// Walks a layout's elements with the rows and writes the document.
 class Compositor {
   public:
-    Compositor(const DisenoReporte& diseno, std::shared_ptr<DatosReporte> datos, Documento& documento)
-        : diseno_(diseno), datos_(std::move(datos)), nombres_(diseno, *datos_), documento_(documento) {}
+    Compositor(const MaquetaReporte& maqueta, std::shared_ptr<DatosReporte> datos, Documento& documento)
+        : maqueta_(maqueta), datos_(std::move(datos)), nombres_(maqueta, *datos_), documento_(documento) {}
 
     void PonerAjustes() {
-        documento_.Titulo = Texto(diseno_.Titulo, nullptr);
-        documento_.Autor = Texto(diseno_.Autor, nullptr);
-        documento_.Hoja = diseno_.Hoja;
-        documento_.Letra = diseno_.Letra;
-        documento_.Hoja.Encabezado = Banda(diseno_.Cabecera);
-        documento_.Hoja.Pie = Banda(diseno_.Pie);
+        documento_.Titulo = Texto(maqueta_.Titulo, nullptr);
+        documento_.Autor = Texto(maqueta_.Autor, nullptr);
+        documento_.Papel = maqueta_.Papel;
+        documento_.Letra = maqueta_.Letra;
+        documento_.Papel.Encabezado = Banda(maqueta_.Cabecera);
+        documento_.Papel.Pie = Banda(maqueta_.Pie);
     }
-    void Escribir(const FilaActual* alrededor) { Escribir(diseno_.Cuerpo, alrededor); }
+    void Escribir(const FilaActual* alrededor) { Escribir(maqueta_.Cuerpo, alrededor); }
 
   private:
     void Escribir(const Elementos& elementos, const FilaActual* alrededor) {
@@ -282,7 +282,7 @@ class Compositor {
         Escribir(cierta != e.Niega ? e.Dentro : e.Sino, alrededor);
     }
     void Escribir(const ElementoSubreporte& e, const FilaActual* alrededor) {
-        Compositor(diseno_.Subreportes[e.Numero], datos_, documento_).Escribir(alrededor);
+        Compositor(maqueta_.Subreportes[e.Numero], datos_, documento_).Escribir(alrededor);
     }
     void Escribir(const ElementoSalto&, const FilaActual*) { Agregar(SaltoDePagina{}); }
 
@@ -292,23 +292,23 @@ class Compositor {
         const auto* logico = std::get_if<bool>(&valor);
         return logico != nullptr && *logico;
     }
-    almacen::Valor Celda(const CeldaDeDiseno& celda, const FilaActual& fila) {
-        if (celda.Que == CeldaDeDiseno::Clase::Nada) return {};
-        if (celda.Que == CeldaDeDiseno::Clase::Texto) return Texto(celda.Texto, &fila);
+    almacen::Valor Celda(const CeldaDeMaqueta& celda, const FilaActual& fila) {
+        if (celda.Que == CeldaDeMaqueta::Clase::Nada) return {};
+        if (celda.Que == CeldaDeMaqueta::Clase::Texto) return Texto(celda.Texto, &fila);
         return Leer(celda.Campo, &fila);
     }
-    almacen::Valor Total(const CeldaDeDiseno& celda, const TablaDeDatos* tabla,
+    almacen::Valor Total(const CeldaDeMaqueta& celda, const TablaDeDatos* tabla,
                          const std::vector<std::size_t>& filas, const FilaActual* alrededor);
 
-    const DisenoReporte& diseno_;
+    const MaquetaReporte& maqueta_;
     std::shared_ptr<DatosReporte> datos_;
     Nombres nombres_;
     Documento& documento_;
 };
 
-almacen::Valor Compositor::Total(const CeldaDeDiseno& celda, const TablaDeDatos* tabla,
+almacen::Valor Compositor::Total(const CeldaDeMaqueta& celda, const TablaDeDatos* tabla,
                                  const std::vector<std::size_t>& filas, const FilaActual* alrededor) {
-    using Clase = CeldaDeDiseno::Clase;
+    using Clase = CeldaDeMaqueta::Clase;
     if (celda.Que == Clase::Nada) return {};
     const FilaActual ultima{tabla, filas.back(), alrededor};
     if (celda.Que == Clase::Texto) return Texto(celda.Texto, &ultima);
@@ -344,14 +344,14 @@ void Compositor::Escribir(const ElementoTabla& e, const FilaActual* alrededor) {
             if (!sale) continue;
             FilaDeTabla& nueva = tabla.Filas.emplace_back();
             nueva.Celdas.reserve(fila.Celdas.size());
-            for (const CeldaDeDiseno& celda : fila.Celdas) nueva.Celdas.push_back(Celda(celda, actual));
+            for (const CeldaDeMaqueta& celda : fila.Celdas) nueva.Celdas.push_back(Celda(celda, actual));
         }
     }
     for (const ElementoTabla::Fila& fila : e.Filas) {
         if (fila.Sale != ElementoTabla::Cuando::Total) continue;
         FilaDeTabla& nueva = tabla.Filas.emplace_back();
         nueva.Destacada = true;
-        for (const CeldaDeDiseno& celda : fila.Celdas)
+        for (const CeldaDeMaqueta& celda : fila.Celdas)
             nueva.Celdas.push_back(Total(celda, origen, numeros, alrededor));
     }
     Agregar(std::move(tabla));
@@ -369,12 +369,12 @@ void Compositor::Escribir(const ElementoImagen& e, const FilaActual* alrededor) 
 
 }  // namespace
 
-Documento Componer(const DisenoReporte& diseno, const Separadores& separadores) {
+Documento Componer(const MaquetaReporte& maqueta, const Separadores& separadores) {
     const auto datos = std::make_shared<DatosReporte>();
-    Revisor(diseno, *datos).Revisar(nullptr);
+    Revisor(maqueta, *datos).Revisar(nullptr);
     Documento documento;
     documento.Locales = separadores;
-    Compositor compositor(diseno, datos, documento);
+    Compositor compositor(maqueta, datos, documento);
     compositor.PonerAjustes();
     compositor.Escribir(nullptr);
     return documento;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "reports/documento/DisenoReporte.h"
 #include "reports/documento/Documento.h"
+#include "reports/documento/MaquetaReporte.h"
 
 namespace trabex::documento {
 
@@ -11,6 +11,6 @@ namespace trabex::documento {
 /// A database that can't be opened gives a report without rows. Throws ErrorEjecucion 321, with the file, the
 /// line and the name, when the database is there and has not a table or column that the layout names, even
 /// where no row would have come to it.
-Documento Componer(const DisenoReporte& diseno, const Separadores& separadores);
+Documento Componer(const MaquetaReporte& maqueta, const Separadores& separadores);
 
 }  // namespace trabex::documento

@@ -50,19 +50,20 @@ std::string TextoDeNumero(double numero, const std::string& formato, const Separ
 
 }  // namespace
 
-MedidaHoja MedidaDe(const Pagina& pagina) {
-    const MedidaHoja vertical =
-        pagina.Tamano == TamanoPagina::A4 ? MedidaHoja{210, 297} : MedidaHoja{215.9, 279.4};
-    return pagina.Apaisada ? MedidaHoja{vertical.Alto, vertical.Ancho} : vertical;
+MedidaPagina MedidaDe(const Pagina& pagina) {
+    const MedidaPagina vertical =
+        pagina.Tamano == TamanoPagina::A4 ? MedidaPagina{210, 297} : MedidaPagina{215.9, 279.4};
+    return pagina.Apaisada ? MedidaPagina{vertical.Alto, vertical.Ancho} : vertical;
 }
 
-MedidaHoja MedidaUtil(const Pagina& pagina) {
-    const MedidaHoja hoja = MedidaDe(pagina);
+MedidaPagina MedidaUtil(const Pagina& pagina) {
+    const MedidaPagina hoja = MedidaDe(pagina);
     return {hoja.Ancho - pagina.MargenIzquierdo - pagina.MargenDerecho,
             hoja.Alto - pagina.MargenSuperior - pagina.MargenInferior};
 }
 
-MedidaHoja MedidaDe(const Imagen& imagen, double pixelesAncho, double pixelesAlto, const MedidaHoja& sitio) {
+MedidaPagina MedidaDe(const Imagen& imagen, double pixelesAncho, double pixelesAlto,
+                      const MedidaPagina& sitio) {
     const double ancho = imagen.Ancho > 0 ? std::min(imagen.Ancho, sitio.Ancho) : sitio.Ancho;
     const double alto = imagen.Alto > 0 ? std::min(imagen.Alto, sitio.Alto) : sitio.Alto;
     const double escala = std::min(ancho / pixelesAncho, alto / pixelesAlto);

@@ -53,13 +53,13 @@ struct Pagina {
 };
 
 /// The width and height of the sheet, after its orientation.
-struct MedidaHoja {
+struct MedidaPagina {
     double Ancho;
     double Alto;
 };
-MedidaHoja MedidaDe(const Pagina& pagina);
+MedidaPagina MedidaDe(const Pagina& pagina);
 /// The part of the sheet within its margins; header and footer stand in the margins.
-MedidaHoja MedidaUtil(const Pagina& pagina);
+MedidaPagina MedidaUtil(const Pagina& pagina);
 
 /// A heading, of level 1 to 3. It stays on the page of what follows it.
 struct Titulo {
@@ -149,7 +149,8 @@ struct Imagen {
 };
 
 /// The size at which a picture of so many pixels fills its room, within the room that there is.
-MedidaHoja MedidaDe(const Imagen& imagen, double pixelesAncho, double pixelesAlto, const MedidaHoja& sitio);
+MedidaPagina MedidaDe(const Imagen& imagen, double pixelesAncho, double pixelesAlto,
+                      const MedidaPagina& sitio);
 
 /// What stands in the place of a picture that can't be read.
 inline constexpr const char* ImagenIlegible = "(El gráfico no se pudo leer)";
@@ -169,7 +170,7 @@ struct Seccion {
 struct Documento {
     std::string Titulo;
     std::string Autor;
-    Pagina Hoja;
+    Pagina Papel;
     double Letra = 9;  ///< size of the running text; everything else is in proportion to it
     Separadores Locales;
     std::vector<Seccion> Secciones;

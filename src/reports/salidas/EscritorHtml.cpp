@@ -108,7 +108,7 @@ std::string PaginaHtml::Principio() const {
 
 /// The header's texts, once; those that count pages have no meaning here.
 std::string PaginaHtml::Banda() const {
-    const documento::BandaDePagina& banda = documento_.Hoja.Encabezado;
+    const documento::BandaDePagina& banda = documento_.Papel.Encabezado;
     std::string salida;
     for (const std::string* texto : {&banda.Izquierda, &banda.Centro, &banda.Derecha}) {
         const bool cuenta = texto->find(documento::MarcaPagina) != std::string::npos ||
@@ -177,8 +177,8 @@ std::string PaginaHtml::De(const documento::Tabla& tabla) const {
 std::string PaginaHtml::De(const documento::Imagen& imagen) const {
     std::string salida = "<div class=\"imagen\">";
     if (const auto png = ComoPng(imagen.Leer())) {
-        const documento::MedidaHoja medida =
-            documento::MedidaDe(imagen, png->Ancho, png->Alto, documento::MedidaUtil(documento_.Hoja));
+        const documento::MedidaPagina medida =
+            documento::MedidaDe(imagen, png->Ancho, png->Alto, documento::MedidaUtil(documento_.Papel));
         salida += "<img alt=\"" + Atributo(imagen.Pie) + "\" width=\"" +
                   std::to_string(static_cast<int>(medida.Ancho * PixelesPorMilimetro)) + "\" height=\"" +
                   std::to_string(static_cast<int>(medida.Alto * PixelesPorMilimetro)) +

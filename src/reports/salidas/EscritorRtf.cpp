@@ -68,7 +68,7 @@ std::string Hexadecimal(const almacen::Bytes& bytes) {
 class TextoRico {
   public:
     explicit TextoRico(const documento::Documento& documento)
-        : documento_(documento), util_(documento::MedidaUtil(documento.Hoja)) {}
+        : documento_(documento), util_(documento::MedidaUtil(documento.Papel)) {}
 
     std::string Principio() const;
     std::string Bloque(const trabex::documento::Bloque& bloque) const {
@@ -94,7 +94,7 @@ class TextoRico {
     double AnchoDeRotulos(const documento::Ficha& ficha, std::size_t columna, double paso) const;
 
     const documento::Documento& documento_;
-    documento::MedidaHoja util_;
+    documento::MedidaPagina util_;
 };
 
 constexpr std::array<std::string_view, 3> Lados{"\\ql", "\\qc", "\\qr"};
@@ -110,8 +110,8 @@ constexpr double AnchoDeCaracter = 0.19;  // of a point of font size, in mm, gen
 constexpr std::array<double, 3> ProporcionDeTitulo{1.5, 1.2, 1.05};
 
 std::string TextoRico::Principio() const {
-    const documento::Pagina& hoja = documento_.Hoja;
-    const documento::MedidaHoja medida = documento::MedidaDe(hoja);
+    const documento::Pagina& hoja = documento_.Papel;
+    const documento::MedidaPagina medida = documento::MedidaDe(hoja);
     std::string salida =
         "{\\rtf1\\ansi\\ansicpg1252\\deff0\\uc1\\deflang3082\n"
         "{\\fonttbl{\\f0\\fswiss\\fcharset0 Arial;}}\n"
@@ -229,7 +229,7 @@ std::string TextoRico::De(const documento::Tabla& tabla) const {
 std::string TextoRico::De(const documento::Imagen& imagen) const {
     std::string salida = "{\\pard\\qc\\keepn\\sb120" + Letra(1) + " ";
     if (const auto png = ComoPng(imagen.Leer())) {
-        const documento::MedidaHoja medida = documento::MedidaDe(imagen, png->Ancho, png->Alto, util_);
+        const documento::MedidaPagina medida = documento::MedidaDe(imagen, png->Ancho, png->Alto, util_);
         salida += "{\\pict\\pngblip" + Orden("picw", static_cast<int>(png->Ancho)) +
                   Orden("pich", static_cast<int>(png->Alto)) + Orden("picwgoal", Twips(medida.Ancho)) +
                   Orden("pichgoal", Twips(medida.Alto)) + "\n" + Hexadecimal(png->Archivo) + "}";

@@ -102,8 +102,8 @@ class EscritorDeHoja {
     }
 
     /// What a page holds of the sheet, in points, when the sheet's columns are shrunk to its width.
-    documento::MedidaHoja SitioDePagina() const {
-        const documento::MedidaHoja hoja = documento::MedidaDe(documento_.Hoja);
+    documento::MedidaPagina SitioDePagina() const {
+        const documento::MedidaPagina hoja = documento::MedidaDe(documento_.Papel);
         const xls::PaginaXls& p = hoja_.Pagina;
         const double ancho = hoja.Ancho * PuntosPorMilimetro - p.Izquierdo - p.Derecho;
         const double alto = hoja.Alto * PuntosPorMilimetro - p.Superior - p.Inferior;
@@ -274,8 +274,8 @@ class EscritorDeHoja {
         if (!png) {
             Poner(documento::Parrafo{documento::ImagenIlegible, false});
         } else {
-            const documento::MedidaHoja sitio = SitioDePagina();
-            const documento::MedidaHoja medida = documento::MedidaDe(
+            const documento::MedidaPagina sitio = SitioDePagina();
+            const documento::MedidaPagina medida = documento::MedidaDe(
                 imagen, png->Ancho, png->Alto,
                 {sitio.Ancho / PuntosPorMilimetro, (sitio.Alto - 2 * AltoDeFila) / PuntosPorMilimetro});
             const auto* bytes = reinterpret_cast<const char*>(png->Archivo.data());
@@ -307,7 +307,7 @@ xls::LibroXls LibroDe(const documento::Documento& documento) {
         xls::HojaXls& hoja = libro.Hojas.emplace_back();
         hoja.Nombre = seccion.Nombre;
         hoja.Cuadricula = false;
-        hoja.Pagina = PaginaDe(documento.Hoja);
+        hoja.Pagina = PaginaDe(documento.Papel);
         EscritorDeHoja(libro, hoja, documento).Escribir(seccion);
     }
     return libro;

@@ -11,29 +11,29 @@ namespace trabex::salidas {
 
 namespace {
 
-void UbicarTablas(documento::DisenoReporte& diseno, const std::filesystem::path& base) {
-    for (documento::TablaDeDiseno& tabla : diseno.Tablas) tabla.Ubicacion = base;
-    for (documento::DisenoReporte& subreporte : diseno.Subreportes) UbicarTablas(subreporte, base);
+void UbicarTablas(documento::MaquetaReporte& maqueta, const std::filesystem::path& base) {
+    for (documento::TablaDeMaqueta& tabla : maqueta.Tablas) tabla.Ubicacion = base;
+    for (documento::MaquetaReporte& subreporte : maqueta.Subreportes) UbicarTablas(subreporte, base);
 }
 
 }  // namespace
 
 Reporte::Reporte(const std::filesystem::path& archivo, Separadores separadores)
-    : diseno_(documento::LeerDiseno(archivo)), separadores_(std::move(separadores)) {}
+    : maqueta_(documento::LeerMaqueta(archivo)), separadores_(std::move(separadores)) {}
 
 void Reporte::Ubicar(const std::filesystem::path& base) {
-    UbicarTablas(diseno_, base);
+    UbicarTablas(maqueta_, base);
     DescartarDatos();
 }
 
 void Reporte::PonerPapel(documento::TamanoPagina tamano, bool apaisado) {
-    diseno_.Hoja.Tamano = tamano;
-    diseno_.Hoja.Apaisada = apaisado;
+    maqueta_.Papel.Tamano = tamano;
+    maqueta_.Papel.Apaisada = apaisado;
     DescartarDatos();
 }
 
 const documento::Documento& Reporte::Contenido() {
-    if (!compuesto_) compuesto_ = documento::Componer(diseno_, separadores_);
+    if (!compuesto_) compuesto_ = documento::Componer(maqueta_, separadores_);
     return *compuesto_;
 }
 

@@ -5,8 +5,8 @@
 #include <map>
 #include <optional>
 
-#include "reports/documento/DisenoReporte.h"
 #include "reports/documento/Documento.h"
+#include "reports/documento/MaquetaReporte.h"
 
 namespace trabex::salidas {
 
@@ -17,11 +17,11 @@ enum CodigoFormato { FormatoPdf = 31, FormatoHtml = 32, FormatoRtf = 35, Formato
 /// program. What was composed once serves every output until it is discarded.
 class Reporte {
   public:
-    /// Throws ErrorEjecucion as LeerDiseno does.
+    /// Throws ErrorEjecucion as LeerMaqueta does.
     Reporte(const std::filesystem::path& archivo, Separadores separadores);
 
-    std::vector<documento::TablaDeDiseno>& Tablas() { return diseno_.Tablas; }
-    std::vector<documento::DisenoReporte>& Subreportes() { return diseno_.Subreportes; }
+    std::vector<documento::TablaDeMaqueta>& Tablas() { return maqueta_.Tablas; }
+    std::vector<documento::MaquetaReporte>& Subreportes() { return maqueta_.Subreportes; }
     /// Sets the database of every table, those of the subreports included, whatever the layout stores.
     void Ubicar(const std::filesystem::path& base);
     /// Sets the page of every output, whatever the layout says.
@@ -33,7 +33,7 @@ class Reporte {
     const documento::Documento& Contenido();
 
   private:
-    documento::DisenoReporte diseno_;
+    documento::MaquetaReporte maqueta_;
     Separadores separadores_;
     std::optional<documento::Documento> compuesto_;
 };

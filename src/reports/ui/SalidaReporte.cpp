@@ -6,8 +6,8 @@ namespace trabex::reportes::ui {
 
 namespace {
 
-constexpr std::array<const char*, 5> DisenosTabulares{"Marcus.rpt", "EscaleraH.rpt", "AnalisisCarga.rpt",
-                                                      "ResultadosLosa.rpt", "AnalisisCarga1.rpt"};
+constexpr std::array<const char*, 5> MaquetasTabulares{"Marcus.rpt", "EscaleraH.rpt", "AnalisisCarga.rpt",
+                                                       "ResultadosLosa.rpt", "AnalisisCarga1.rpt"};
 
 bool EsArchivo(std::uint8_t salida) {
     return salida < Salidas.size() && Salidas[salida].Titulo != nullptr;
@@ -83,10 +83,10 @@ void SalidaReporte::Aceptar(std::uint8_t salida) {
 
 /// False when there is nothing to send, or the engineer thought better of it.
 bool SalidaReporte::Enviar(std::uint8_t salida) {
-    const std::string diseno = Diseno();
-    if (diseno.empty()) return false;
+    const std::string maqueta = Maqueta();
+    if (maqueta.empty()) return false;
     pantalla_.PunteroDeEspera(true);
-    salidas::Reporte reporte(entorno_.Servicios.Carpetas.CaminoPrograma / "Reportes" / diseno,
+    salidas::Reporte reporte(entorno_.Servicios.Carpetas.CaminoPrograma / "Reportes" / maqueta,
                              entorno_.LaAplicacion.SeparadoresLocales);
     Ajustar(reporte);
     reporte.DescartarDatos();
@@ -101,10 +101,10 @@ bool SalidaReporte::Enviar(std::uint8_t salida) {
     return true;
 }
 
-std::string ImpreReport::Diseno() const {
+std::string ImpreReport::Maqueta() const {
     const std::int16_t actual = entorno_.Estado.ReporteActual;
-    const bool existe = actual >= 1 && static_cast<std::size_t>(actual) <= DisenosTabulares.size();
-    return existe ? DisenosTabulares[static_cast<std::size_t>(actual - 1)] : "";
+    const bool existe = actual >= 1 && static_cast<std::size_t>(actual) <= MaquetasTabulares.size();
+    return existe ? MaquetasTabulares[static_cast<std::size_t>(actual - 1)] : "";
 }
 
 void ImpreGrafico::Ajustar(salidas::Reporte& reporte) const {
@@ -114,7 +114,7 @@ void ImpreGrafico::Ajustar(salidas::Reporte& reporte) const {
                        papel.Apaisado);
 }
 
-std::string ImpreGrafico::Diseno() const {
+std::string ImpreGrafico::Maqueta() const {
     if (entorno_.Estado.GraficoHelicoidal) return "GraficoH.rpt";
     return entorno_.Estado.GraficoAutoportante ? "GraficoAutoportantes.rpt" : "Grafico.rpt";
 }

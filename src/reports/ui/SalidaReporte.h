@@ -136,7 +136,7 @@ class SalidaReporte {
 
   protected:
     /// File name of the layout; empty when none is chosen.
-    virtual std::string Diseno() const = 0;
+    virtual std::string Maqueta() const = 0;
     /// What the program sets of an opened layout.
     virtual void Ajustar(salidas::Reporte& /*reporte*/) const {}
     virtual void AlTerminar() {}
@@ -156,7 +156,7 @@ class ImpreReport : public SalidaReporte {
     using SalidaReporte::SalidaReporte;
 
   protected:
-    std::string Diseno() const override;
+    std::string Maqueta() const override;
 };
 
 /// Drawing reports; those of the self-supporting stairs on the paper that was asked for. The next time it
@@ -166,7 +166,7 @@ class ImpreGrafico : public SalidaReporte {
     using SalidaReporte::SalidaReporte;
 
   protected:
-    std::string Diseno() const override;
+    std::string Maqueta() const override;
     void Ajustar(salidas::Reporte& reporte) const override;
     void AlTerminar() override { entorno_.Estado.FormatoSalida = SalidaPantalla; }
 };

@@ -140,6 +140,7 @@ constexpr std::array<lote::Intercambio, 1> Intercambios{
 }  // namespace
 
 const lote::Modulo ModuloLosas{.Nombre = "losa",
+                               .Plural = "losas",
                                .Clave = "losas",
                                .ClaveGenerales = "LosaG",
                                .Consulta = almacen::tablas::ConsultaListaLosas,

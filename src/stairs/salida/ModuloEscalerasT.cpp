@@ -120,6 +120,7 @@ constexpr lote::ReportesDeModulo Reportes{TituloReporteEscaleras, nullptr, "Graf
 }  // namespace
 
 const lote::Modulo ModuloEscalerasT{.Nombre = "escalera autoportante",
+                                    .Plural = "escaleras autoportantes",
                                     .Clave = "escalerasT",
                                     .ClaveGenerales = "EscaleraTG",
                                     .Consulta = almacen::tablas::ConsultaListaEscalerasT,

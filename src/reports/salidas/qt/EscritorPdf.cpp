@@ -67,7 +67,7 @@ void Pintar(const documento::Documento& documento, QIODevice& dispositivo) {
     escritor.setTitle(QString::fromStdString(documento.Titulo));
     escritor.setCreator(ProgramaYEdicion);
     escritor.setDocumentXmpMetadata(Metadatos(documento));
-    const QPageSize hoja(QSizeF(paginas.Hoja().Ancho, paginas.Hoja().Alto), QPageSize::Millimeter);
+    const QPageSize hoja(QSizeF(paginas.Papel().Ancho, paginas.Papel().Alto), QPageSize::Millimeter);
     escritor.setPageLayout(QPageLayout(hoja, QPageLayout::Portrait, QMarginsF()));
     QPainter pintor(&escritor);
     TintaDePintor tinta(pintor);

@@ -25,27 +25,27 @@ bool EsVacia(const documento::BandaDePagina& banda) {
 
 }  // namespace
 
-Paginador::Paginador(const documento::Documento& documento, const documento::MedidaHoja& hoja)
+Paginador::Paginador(const documento::Documento& documento, const documento::MedidaPagina& hoja)
     : documento_(documento),
       hoja_(hoja),
       letras_(documento.Letra),
-      util_(QSizeF(hoja.Ancho - documento.Hoja.MargenIzquierdo - documento.Hoja.MargenDerecho,
-                   hoja.Alto - documento.Hoja.MargenSuperior - documento.Hoja.MargenInferior) *
+      util_(QSizeF(hoja.Ancho - documento.Papel.MargenIzquierdo - documento.Papel.MargenDerecho,
+                   hoja.Alto - documento.Papel.MargenSuperior - documento.Papel.MargenInferior) *
             Milimetro) {
     ComponerMembrete();
     util_.rheight() -= altoMembrete_;
     paginas_.emplace_back();
     for (const documento::Seccion& seccion : documento.Secciones) {
-        Cajas cajas;
+        Piezas piezas;
         for (const documento::Bloque& bloque : seccion.Bloques)
-            cajas.push_back(CajaDe(bloque, documento, letras_, util_));
-        Colocar(seccion, cajas);
-        std::move(cajas.begin(), cajas.end(), std::back_inserter(cajas_));
+            piezas.push_back(PiezaDe(bloque, documento, letras_, util_));
+        Colocar(seccion, piezas);
+        std::move(piezas.begin(), piezas.end(), std::back_inserter(piezas_));
     }
 }
 
 void Paginador::ComponerMembrete() {
-    for (const documento::LineaDeMembrete& linea : documento_.Hoja.Membrete) {
+    for (const documento::LineaDeMembrete& linea : documento_.Papel.Membrete) {
         const auto letra = std::make_shared<const TipoDeLetra>(linea.Puntos, linea.Negrita);
         for (const QString& texto : letra->Lineas(QString::fromStdString(linea.Texto), util_.width())) {
             membrete_.push_back({texto, letra, altoMembrete_ + letra->Ascenso()});
@@ -63,64 +63,64 @@ void Paginador::PaginaNueva() {
 }
 
 /// What must stand together where box `i` begins: headings with the beginning of what follows them.
-double Paginador::AltoPrincipio(const Cajas& cajas, std::size_t i) const {
+double Paginador::AltoPrincipio(const Piezas& piezas, std::size_t i) const {
     double alto = 0;
-    for (; i < cajas.size() && cajas[i]; ++i) {
-        alto += cajas[i]->Antes() + cajas[i]->Alto(0, cajas[i]->FilasDelPrincipio());
-        if (!cajas[i]->ConLaSiguiente()) break;
-        alto += cajas[i]->Despues();
+    for (; i < piezas.size() && piezas[i]; ++i) {
+        alto += piezas[i]->Antes() + piezas[i]->Alto(0, piezas[i]->FilasDelPrincipio());
+        if (!piezas[i]->ConLaSiguiente()) break;
+        alto += piezas[i]->Despues();
     }
     return alto;
 }
 
-double Paginador::AltoTotal(const Cajas& cajas) const {
+double Paginador::AltoTotal(const Piezas& piezas) const {
     double alto = 0;
-    for (const auto& caja : cajas)
-        alto += caja ? caja->Antes() + caja->Alto(0, caja->Filas()) + caja->Despues() : util_.height();
+    for (const auto& pieza : piezas)
+        alto += pieza ? pieza->Antes() + pieza->Alto(0, pieza->Filas()) + pieza->Despues() : util_.height();
     return alto;
 }
 
-void Paginador::Colocar(const documento::Seccion& seccion, const Cajas& cajas) {
-    const double total = seccion.Junta ? AltoTotal(cajas) : 0;
+void Paginador::Colocar(const documento::Seccion& seccion, const Piezas& piezas) {
+    const double total = seccion.Junta ? AltoTotal(piezas) : 0;
     const bool noCabe = total > util_.height() - y_ && total <= util_.height();
     if (!AlPrincipio() && (seccion.PaginaNueva || noCabe)) PaginaNueva();
-    for (std::size_t i = 0; i < cajas.size(); ++i) {
-        if (!cajas[i]) {
+    for (std::size_t i = 0; i < piezas.size(); ++i) {
+        if (!piezas[i]) {
             if (!AlPrincipio()) PaginaNueva();
             continue;
         }
-        if (!AlPrincipio() && y_ + AltoPrincipio(cajas, i) > util_.height()) PaginaNueva();
-        ColocarCaja(*cajas[i]);
+        if (!AlPrincipio() && y_ + AltoPrincipio(piezas, i) > util_.height()) PaginaNueva();
+        ColocarPieza(*piezas[i]);
     }
 }
 
-void Paginador::ColocarCaja(const Caja& caja) {
-    if (!AlPrincipio()) y_ += caja.Antes();
-    for (std::size_t desde = 0; desde < caja.Filas();) {
+void Paginador::ColocarPieza(const Pieza& pieza) {
+    if (!AlPrincipio()) y_ += pieza.Antes();
+    for (std::size_t desde = 0; desde < pieza.Filas();) {
         std::size_t hasta = desde + 1;
-        double alto = caja.Alto(desde, hasta);
-        while (hasta < caja.Filas()) {
-            const double siguiente = caja.Alto(hasta, hasta + 1) - caja.Alto(hasta, hasta);
+        double alto = pieza.Alto(desde, hasta);
+        while (hasta < pieza.Filas()) {
+            const double siguiente = pieza.Alto(hasta, hasta + 1) - pieza.Alto(hasta, hasta);
             if (y_ + alto + siguiente > util_.height()) break;
             alto += siguiente;
             ++hasta;
         }
-        if (hasta + 1 == caja.Filas() && hasta - desde > 2) --hasta;  // the last row is not left alone
-        paginas_.back().push_back({&caja, y_, desde, hasta});
-        y_ += caja.Alto(desde, hasta);
+        if (hasta + 1 == pieza.Filas() && hasta - desde > 2) --hasta;  // the last row is not left alone
+        paginas_.back().push_back({&pieza, y_, desde, hasta});
+        y_ += pieza.Alto(desde, hasta);
         desde = hasta;
-        if (desde < caja.Filas()) PaginaNueva();
+        if (desde < pieza.Filas()) PaginaNueva();
     }
-    y_ += caja.Despues();
+    y_ += pieza.Despues();
 }
 
 void Paginador::Pintar(int pagina, Tinta& tinta) const {
-    const documento::Pagina& hoja = documento_.Hoja;
+    const documento::Pagina& hoja = documento_.Papel;
     const QPointF esquina =
         QPointF(hoja.MargenIzquierdo, hoja.MargenSuperior) * Milimetro + QPointF(0, altoMembrete_);
     PintarMembrete(tinta);
-    for (const Pieza& pieza : paginas_[static_cast<std::size_t>(pagina)])
-        pieza.De->Pintar(tinta, esquina + QPointF(0, pieza.Y), pieza.Desde, pieza.Hasta);
+    for (const Trozo& trozo : paginas_[static_cast<std::size_t>(pagina)])
+        trozo.De->Pintar(tinta, esquina + QPointF(0, trozo.Y), trozo.Desde, trozo.Hasta);
     const double derecha = esquina.x() + util_.width();
     const TipoDeLetra& letra = letras_.Chica;
     if (!EsVacia(hoja.Encabezado)) {
@@ -136,7 +136,7 @@ void Paginador::Pintar(int pagina, Tinta& tinta) const {
 }
 
 void Paginador::PintarMembrete(Tinta& tinta) const {
-    const documento::Pagina& hoja = documento_.Hoja;
+    const documento::Pagina& hoja = documento_.Papel;
     const QPointF esquina = QPointF(hoja.MargenIzquierdo, hoja.MargenSuperior) * Milimetro;
     constexpr std::array<double, 3> lugares{0, 0.5, 1};
     for (const LineaCompuesta& linea : membrete_) {
@@ -162,8 +162,8 @@ void Paginador::PintarBanda(Tinta& tinta, const documento::BandaDePagina& banda,
         const QString linea = metrica.elidedText(
             ConNumeros(*texto, pagina + 1, NumeroPaginas()).replace('\n', ' '), Qt::ElideRight, sitio);
         const double hueco = util_.width() - letras_.Chica.Ancho(linea);
-        tinta.Texto({documento_.Hoja.MargenIzquierdo * Milimetro + lugar * hueco, base}, linea, letras_.Chica,
-                    TinteDeBanda);
+        tinta.Texto({documento_.Papel.MargenIzquierdo * Milimetro + lugar * hueco, base}, linea,
+                    letras_.Chica, TinteDeBanda);
     }
 }
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "reports/documento/Documento.h"
-#include "reports/salidas/qt/Cajas.h"
+#include "reports/salidas/qt/Piezas.h"
 
 namespace trabex::salidas::qt {
 
@@ -14,19 +14,19 @@ namespace trabex::salidas::qt {
 class Paginador {
   public:
     explicit Paginador(const documento::Documento& documento)
-        : Paginador(documento, documento::MedidaDe(documento.Hoja)) {}
+        : Paginador(documento, documento::MedidaDe(documento.Papel)) {}
     /// On another sheet than the document's own, as when the engineer chooses one at the printer.
-    Paginador(const documento::Documento& documento, const documento::MedidaHoja& hoja);
+    Paginador(const documento::Documento& documento, const documento::MedidaPagina& hoja);
 
     int NumeroPaginas() const { return static_cast<int>(paginas_.size()); }
-    const documento::MedidaHoja& Hoja() const { return hoja_; }
+    const documento::MedidaPagina& Papel() const { return hoja_; }
     /// Puts the ink of a page, from 0.
     void Pintar(int pagina, Tinta& tinta) const;
 
   private:
     /// A box, or the rows of it that a page holds.
-    struct Pieza {
-        const Caja* De;
+    struct Trozo {
+        const Pieza* De;
         double Y;
         std::size_t Desde;
         std::size_t Hasta;
@@ -37,26 +37,26 @@ class Paginador {
         std::shared_ptr<const TipoDeLetra> Letra;
         double Base;  // from the top of the page's text
     };
-    using Cajas = std::vector<std::unique_ptr<Caja>>;  // null: a page break
+    using Piezas = std::vector<std::unique_ptr<Pieza>>;  // null: a page break
 
     void ComponerMembrete();
-    void Colocar(const documento::Seccion& seccion, const Cajas& cajas);
-    void ColocarCaja(const Caja& caja);
-    double AltoPrincipio(const Cajas& cajas, std::size_t i) const;
-    double AltoTotal(const Cajas& cajas) const;
+    void Colocar(const documento::Seccion& seccion, const Piezas& piezas);
+    void ColocarPieza(const Pieza& pieza);
+    double AltoPrincipio(const Piezas& piezas, std::size_t i) const;
+    double AltoTotal(const Piezas& piezas) const;
     void PaginaNueva();
     bool AlPrincipio() const { return paginas_.back().empty(); }
     void PintarMembrete(Tinta& tinta) const;
     void PintarBanda(Tinta& tinta, const documento::BandaDePagina& banda, double base, int pagina) const;
 
     const documento::Documento& documento_;
-    documento::MedidaHoja hoja_;
+    documento::MedidaPagina hoja_;
     Letras letras_;
     std::vector<LineaCompuesta> membrete_;
     double altoMembrete_ = 0;
     QSizeF util_;
-    Cajas cajas_;
-    std::vector<std::vector<Pieza>> paginas_;
+    Piezas piezas_;
+    std::vector<std::vector<Trozo>> paginas_;
     double y_ = 0;  // below what stands on the last page
 };
 

@@ -79,7 +79,7 @@ double VistaPaginas::Escala() const {
 }
 
 QSize VistaPaginas::Lado() const {
-    const QSizeF hoja = QSizeF(paginas_->Hoja().Ancho, paginas_->Hoja().Alto) * Milimetro * Escala();
+    const QSizeF hoja = QSizeF(paginas_->Papel().Ancho, paginas_->Papel().Alto) * Milimetro * Escala();
     return {static_cast<int>(std::lround(hoja.width())), static_cast<int>(std::lround(hoja.height()))};
 }
 
@@ -106,7 +106,7 @@ void VistaPaginas::IrAPagina(int pagina) {
 }
 
 QSizeF VistaPaginas::LadoAlCien() const {
-    return QSizeF(paginas_->Hoja().Ancho, paginas_->Hoja().Alto) * (logicalDpiX() / 25.4);
+    return QSizeF(paginas_->Papel().Ancho, paginas_->Papel().Alto) * (logicalDpiX() / 25.4);
 }
 
 double VistaPaginas::ZoomDeAncho() const {

@@ -64,7 +64,7 @@ bool ImpresorasQt::Imprimir(const documento::Documento& documento, const std::st
     salida.setCopyCount(pedido.Copias);
     if (pedido.Paginas.Ultima > 0) salida.setFromTo(pedido.Paginas.Primera, pedido.Paginas.Ultima);
     salida.setFullPage(true);
-    salida.setPageLayout(HojaDe(documento.Hoja));
+    salida.setPageLayout(HojaDe(documento.Papel));
     if (pedido.Preguntar) {
         QPrintDialog dialogo(&salida, QApplication::activeWindow());
         dialogo.setOption(QAbstractPrintDialog::PrintPageRange);

@@ -43,7 +43,7 @@ struct FuenteDeFilas {
 };
 
 /// What stands in a place of a row: nothing, a column, a text, or a total over the table's rows.
-struct CeldaDeDiseno {
+struct CeldaDeMaqueta {
     enum class Clase { Nada, Campo, Texto, Suma, Maximo, Minimo, Cuenta };
     Clase Que = Clase::Nada;
     Referencia Campo;
@@ -76,7 +76,7 @@ struct ElementoTabla {
     enum class Cuando { Siempre, Ultima, Total };
     struct Fila {
         Cuando Sale = Cuando::Siempre;
-        std::vector<CeldaDeDiseno> Celdas;
+        std::vector<CeldaDeMaqueta> Celdas;
     };
     FuenteDeFilas Fuente;
     std::vector<ColumnaDeTabla> Columnas;
@@ -117,31 +117,31 @@ struct Elemento {
 };
 
 /// A table that a layout reads, and the database in which it is looked for.
-struct TablaDeDiseno {
+struct TablaDeMaqueta {
     std::string Nombre;
     std::filesystem::path Ubicacion;  ///< as the layout stores it, until it is set
     int Linea = 0;
 };
 
-struct DisenoReporte {
+struct MaquetaReporte {
     std::filesystem::path Archivo;
     Plantilla Titulo;
     Plantilla Autor;
-    Pagina Hoja;  ///< without its header and footer, which are:
+    Pagina Papel;  ///< without its header and footer, which are:
     std::array<Plantilla, 3> Cabecera;
     std::array<Plantilla, 3> Pie;
     double Letra = 9;
-    std::vector<TablaDeDiseno> Tablas;
-    std::vector<DisenoReporte> Subreportes;
+    std::vector<TablaDeMaqueta> Tablas;
+    std::vector<MaquetaReporte> Subreportes;
     Elementos Cuerpo;
 };
 
 /// Reads a layout file and those of its subreports, which stand in the same folder. The files are opened for
 /// reading only. Throws ErrorEjecucion: 53 when a file is missing, 321 with the file, the line and the word
 /// at fault when the text is no layout.
-DisenoReporte LeerDiseno(const std::filesystem::path& archivo);
+MaquetaReporte LeerMaqueta(const std::filesystem::path& archivo);
 
 /// The error of a line of a layout.
-ErrorEjecucion ErrorDeDiseno(const std::filesystem::path& archivo, int linea, const std::string& falta);
+ErrorEjecucion ErrorDeMaqueta(const std::filesystem::path& archivo, int linea, const std::string& falta);
 
 }  // namespace trabex::documento

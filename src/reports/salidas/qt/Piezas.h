@@ -22,9 +22,9 @@ struct Letras {
 
 /// A block as it stands on pages: how high it is, where it may break, and its ink. It refers to the block and
 /// the fonts, which outlive it.
-class Caja {
+class Pieza {
   public:
-    virtual ~Caja() = default;
+    virtual ~Pieza() = default;
 
     /// Blank before and after it; none at the head of a page.
     virtual double Antes() const { return 0; }
@@ -42,7 +42,7 @@ class Caja {
 
 /// The box of a block on a page whose text is `util` wide and high, in hundredths of a millimetre. Null for a
 /// page break.
-std::unique_ptr<Caja> CajaDe(const documento::Bloque& bloque, const documento::Documento& documento,
-                             const Letras& letras, const QSizeF& util);
+std::unique_ptr<Pieza> PiezaDe(const documento::Bloque& bloque, const documento::Documento& documento,
+                               const Letras& letras, const QSizeF& util);
 
 }  // namespace trabex::salidas::qt

@@ -1,4 +1,4 @@
-#include "reports/documento/PalabrasDiseno.h"
+#include "reports/documento/PalabrasMaqueta.h"
 
 #include <algorithm>
 #include <fstream>
@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "base/Archivos.h"
-#include "reports/documento/DisenoReporte.h"
+#include "reports/documento/MaquetaReporte.h"
 
 namespace trabex::documento {
 
@@ -62,7 +62,7 @@ std::vector<Linea> LeerLineas(const std::filesystem::path& camino) {
         if (numero == 1 && texto.starts_with("\xEF\xBB\xBF")) texto.erase(0, 3);
         Linea linea{numero, {}};
         if (!Separar(texto, linea.Palabras))
-            throw ErrorDeDiseno(camino, numero, "faltan las comillas que cierran");
+            throw ErrorDeMaqueta(camino, numero, "faltan las comillas que cierran");
         if (!linea.Palabras.empty()) lineas.push_back(std::move(linea));
     }
     return lineas;

@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include "reports/salidas/qt/Cajas.h"
+#include "reports/salidas/qt/Piezas.h"
 
 namespace trabex::salidas::qt {
 
@@ -13,10 +13,10 @@ namespace trabex::salidas::qt {
 ///
 /// Columns take their widths from the layout, and more where a number or a word would not fit, at the cost of
 /// those that have room to spare; when none has, the letters get smaller. No number is ever cut or broken.
-class CajaTabla : public Caja {
+class PiezaTabla : public Pieza {
   public:
-    CajaTabla(const documento::Tabla& tabla, const documento::Documento& documento, const Letras& letras,
-              double ancho);
+    PiezaTabla(const documento::Tabla& tabla, const documento::Documento& documento, const Letras& letras,
+               double ancho);
 
     double Antes() const override { return 0.2 * normal_->Alto(); }
     double Despues() const override { return 0.6 * normal_->Alto(); }

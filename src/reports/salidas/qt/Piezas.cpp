@@ -1,4 +1,4 @@
-#include "reports/salidas/qt/Cajas.h"
+#include "reports/salidas/qt/Piezas.h"
 
 #include <QBuffer>
 #include <QImageReader>
@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "reports/salidas/qt/CajaTabla.h"
+#include "reports/salidas/qt/PiezaTabla.h"
 
 namespace trabex::salidas::qt {
 
@@ -23,9 +23,9 @@ QString Q(const std::string& texto) {
 }
 
 /// Lines of one font: headings and paragraphs.
-class CajaTexto : public Caja {
+class PiezaTexto : public Pieza {
   public:
-    CajaTexto(const QString& texto, const TipoDeLetra& letra, const QColor& color, double ancho)
+    PiezaTexto(const QString& texto, const TipoDeLetra& letra, const QColor& color, double ancho)
         : letra_(letra), color_(color), lineas_(letra.Lineas(texto, ancho)) {}
     double Antes() const override { return 0.35 * letra_.Alto(); }
     double Despues() const override { return 0.35 * letra_.Alto(); }
@@ -46,20 +46,20 @@ class CajaTexto : public Caja {
     QStringList lineas_;
 };
 
-class CajaTitulo : public CajaTexto {
+class CajaTitulo : public PiezaTexto {
   public:
     CajaTitulo(const documento::Titulo& titulo, const Letras& letras, double ancho)
-        : CajaTexto(Q(titulo.Texto), letras.Titulos[Lugar(titulo)], TinteDeTitulo, ancho),
+        : PiezaTexto(Q(titulo.Texto), letras.Titulos[Lugar(titulo)], TinteDeTitulo, ancho),
           subrayado_(titulo.Nivel == 1 ? ancho : 0) {}
     double Antes() const override { return 0.7 * letra_.Alto(); }
     double Despues() const override { return 0.25 * letra_.Alto(); }
     bool ConLaSiguiente() const override { return true; }
     std::size_t FilasDelPrincipio() const override { return Filas(); }
     double Alto(std::size_t desde, std::size_t hasta) const override {
-        return CajaTexto::Alto(desde, hasta) + (subrayado_ > 0 ? 0.2 * letra_.Alto() : 0);
+        return PiezaTexto::Alto(desde, hasta) + (subrayado_ > 0 ? 0.2 * letra_.Alto() : 0);
     }
     void Pintar(Tinta& tinta, const QPointF& esquina, std::size_t desde, std::size_t hasta) const override {
-        CajaTexto::Pintar(tinta, esquina, desde, hasta);
+        PiezaTexto::Pintar(tinta, esquina, desde, hasta);
         const QPointF pie = esquina + QPointF(0, Alto(desde, hasta));
         if (subrayado_ > 0) tinta.Raya(pie, pie + QPointF(subrayado_, 0), 0.4 * Milimetro, TinteDeTitulo);
     }
@@ -72,10 +72,10 @@ class CajaTitulo : public CajaTexto {
 };
 
 /// Names and values in pairs of columns.
-class CajaFicha : public Caja {
+class PiezaFicha : public Pieza {
   public:
-    CajaFicha(const documento::Ficha& ficha, const Separadores& separadores, const Letras& letras,
-              double ancho);
+    PiezaFicha(const documento::Ficha& ficha, const Separadores& separadores, const Letras& letras,
+               double ancho);
     double Despues() const override { return 0.5 * letras_.Normal.Alto(); }
     std::size_t Filas() const override { return altos_.size(); }
     std::size_t FilasDelPrincipio() const override { return Filas(); }
@@ -100,8 +100,8 @@ class CajaFicha : public Caja {
 
 constexpr double Separacion = 2 * Milimetro;
 
-CajaFicha::CajaFicha(const documento::Ficha& ficha, const Separadores& separadores, const Letras& letras,
-                     double ancho)
+PiezaFicha::PiezaFicha(const documento::Ficha& ficha, const Separadores& separadores, const Letras& letras,
+                       double ancho)
     : letras_(letras),
       columnas_(static_cast<std::size_t>(ficha.Columnas)),
       paso_(ancho / ficha.Columnas),
@@ -122,7 +122,7 @@ CajaFicha::CajaFicha(const documento::Ficha& ficha, const Separadores& separador
     }
 }
 
-void CajaFicha::Pintar(Tinta& tinta, const QPointF& esquina, std::size_t desde, std::size_t hasta) const {
+void PiezaFicha::Pintar(Tinta& tinta, const QPointF& esquina, std::size_t desde, std::size_t hasta) const {
     QPointF base = esquina + QPointF(0, 0.1 * letras_.Normal.Alto() + letras_.Normal.Ascenso());
     for (std::size_t fila = desde; fila < hasta; ++fila) {
         for (std::size_t k = 0; k < columnas_ && fila * columnas_ + k < pares_.size(); ++k) {
@@ -140,9 +140,9 @@ void CajaFicha::Pintar(Tinta& tinta, const QPointF& esquina, std::size_t desde, 
 }
 
 /// A picture in the middle, over its caption.
-class CajaImagen : public Caja {
+class PiezaImagen : public Pieza {
   public:
-    CajaImagen(const documento::Imagen& imagen, const Letras& letras, const QSizeF& util);
+    PiezaImagen(const documento::Imagen& imagen, const Letras& letras, const QSizeF& util);
     double Antes() const override { return 0.5 * letras_.Normal.Alto(); }
     double Despues() const override { return letras_.Normal.Alto(); }
     double Alto(std::size_t, std::size_t) const override {
@@ -169,7 +169,7 @@ QSize MedidaEnPixeles(const almacen::Bytes& bytes) {
     return QImageReader(&archivo).size();
 }
 
-CajaImagen::CajaImagen(const documento::Imagen& imagen, const Letras& letras, const QSizeF& util)
+PiezaImagen::PiezaImagen(const documento::Imagen& imagen, const Letras& letras, const QSizeF& util)
     : imagen_(imagen),
       letras_(letras),
       ancho_(util.width()),
@@ -179,12 +179,12 @@ CajaImagen::CajaImagen(const documento::Imagen& imagen, const Letras& letras, co
     legible_ = !pixeles.isEmpty();
     if (!legible_) return;
     const double sitio = util.height() - AltoDelPie() - 0.3 * letras.Normal.Alto();
-    const documento::MedidaHoja medida = documento::MedidaDe(imagen, pixeles.width(), pixeles.height(),
-                                                             {ancho_ / Milimetro, sitio / Milimetro});
+    const documento::MedidaPagina medida = documento::MedidaDe(imagen, pixeles.width(), pixeles.height(),
+                                                               {ancho_ / Milimetro, sitio / Milimetro});
     medida_ = QSizeF(medida.Ancho, medida.Alto) * Milimetro;
 }
 
-void CajaImagen::Pintar(Tinta& tinta, const QPointF& esquina, std::size_t, std::size_t) const {
+void PiezaImagen::Pintar(Tinta& tinta, const QPointF& esquina, std::size_t, std::size_t) const {
     if (legible_) {
         tinta.Mapa(QRectF(esquina + QPointF((ancho_ - medida_.width()) / 2, 0), medida_), imagen_);
     } else {
@@ -211,19 +211,19 @@ Letras::Letras(double puntos)
       Titulos{TipoDeLetra(1.5 * puntos, true), TipoDeLetra(1.2 * puntos, true),
               TipoDeLetra(1.05 * puntos, true)} {}
 
-std::unique_ptr<Caja> CajaDe(const documento::Bloque& bloque, const documento::Documento& documento,
-                             const Letras& letras, const QSizeF& util) {
+std::unique_ptr<Pieza> PiezaDe(const documento::Bloque& bloque, const documento::Documento& documento,
+                               const Letras& letras, const QSizeF& util) {
     if (const auto* titulo = std::get_if<documento::Titulo>(&bloque))
         return std::make_unique<CajaTitulo>(*titulo, letras, util.width());
     if (const auto* parrafo = std::get_if<documento::Parrafo>(&bloque))
-        return std::make_unique<CajaTexto>(
+        return std::make_unique<PiezaTexto>(
             Q(parrafo->Texto), parrafo->Destacado ? letras.Negrita : letras.Normal, Tinte, util.width());
     if (const auto* ficha = std::get_if<documento::Ficha>(&bloque))
-        return std::make_unique<CajaFicha>(*ficha, documento.Locales, letras, util.width());
+        return std::make_unique<PiezaFicha>(*ficha, documento.Locales, letras, util.width());
     if (const auto* tabla = std::get_if<documento::Tabla>(&bloque))
-        return std::make_unique<CajaTabla>(*tabla, documento, letras, util.width());
+        return std::make_unique<PiezaTabla>(*tabla, documento, letras, util.width());
     if (const auto* imagen = std::get_if<documento::Imagen>(&bloque))
-        return std::make_unique<CajaImagen>(*imagen, letras, util);
+        return std::make_unique<PiezaImagen>(*imagen, letras, util);
     return nullptr;
 }
 

@@ -19,7 +19,7 @@ struct Linea {
 };
 
 /// The lines of a layout file. In a text a backslash brings in a quote or itself, and `\n` breaks the line;
-/// what follows a `#` is a comment. Throws ErrorEjecucion 53 when there is no such file, and ErrorDeDiseno
+/// what follows a `#` is a comment. Throws ErrorEjecucion 53 when there is no such file, and ErrorDeMaqueta
 /// where a text does not close.
 std::vector<Linea> LeerLineas(const std::filesystem::path& archivo);
 

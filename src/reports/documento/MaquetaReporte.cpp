@@ -1,4 +1,4 @@
-#include "reports/documento/DisenoReporte.h"
+#include "reports/documento/MaquetaReporte.h"
 
 #include <algorithm>
 #include <charconv>
@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "base/Archivos.h"
-#include "reports/documento/PalabrasDiseno.h"
+#include "reports/documento/PalabrasMaqueta.h"
 
 namespace trabex::documento {
 
@@ -15,7 +15,7 @@ namespace {
 /// The words of one line, taken from left to right.
 class Argumentos {
   public:
-    Argumentos(DisenoReporte& diseno, const Linea& linea) : diseno_(diseno), linea_(linea) {}
+    Argumentos(MaquetaReporte& maqueta, const Linea& linea) : maqueta_(maqueta), linea_(linea) {}
 
     int Numero() const { return linea_.Numero; }
     bool Quedan() const { return siguiente_ < linea_.Palabras.size(); }
@@ -57,19 +57,19 @@ class Argumentos {
         if (Quedan()) Fallar("sobra \"" + linea_.Palabras[siguiente_].Texto + "\"");
     }
     [[noreturn]] void Fallar(const std::string& falta) const {
-        throw ErrorDeDiseno(diseno_.Archivo, linea_.Numero, falta);
+        throw ErrorDeMaqueta(maqueta_.Archivo, linea_.Numero, falta);
     }
 
   private:
     /// The name of a table, kept among those that the layout reads.
     std::string Anotada(const std::string& nombre) {
-        const auto conocida = std::find_if(diseno_.Tablas.begin(), diseno_.Tablas.end(),
+        const auto conocida = std::find_if(maqueta_.Tablas.begin(), maqueta_.Tablas.end(),
                                            [&](const auto& tabla) { return tabla.Nombre == nombre; });
-        if (conocida == diseno_.Tablas.end()) diseno_.Tablas.push_back({nombre, {}, linea_.Numero});
+        if (conocida == maqueta_.Tablas.end()) maqueta_.Tablas.push_back({nombre, {}, linea_.Numero});
         return nombre;
     }
 
-    DisenoReporte& diseno_;
+    MaquetaReporte& maqueta_;
     const Linea& linea_;
     std::size_t siguiente_ = 0;
 };
@@ -105,19 +105,19 @@ class Lector {
   public:
     Lector(std::filesystem::path archivo, std::vector<std::filesystem::path> alrededor)
         : alrededor_(std::move(alrededor)) {
-        diseno_.Archivo = std::move(archivo);
-        alrededor_.push_back(diseno_.Archivo);
-        lineas_ = documento::LeerLineas(diseno_.Archivo);
+        maqueta_.Archivo = std::move(archivo);
+        alrededor_.push_back(maqueta_.Archivo);
+        lineas_ = documento::LeerLineas(maqueta_.Archivo);
     }
 
-    DisenoReporte Leer() {
+    MaquetaReporte Leer() {
         while (HayLinea()) {
             Argumentos linea = Siguiente();
             const std::string palabra = linea.Palabra("el elemento");
-            if (!LeerAjuste(palabra, linea)) LeerElemento(palabra, linea, diseno_.Cuerpo);
+            if (!LeerAjuste(palabra, linea)) LeerElemento(palabra, linea, maqueta_.Cuerpo);
         }
-        for (TablaDeDiseno& tabla : diseno_.Tablas) tabla.Ubicacion = base_;
-        return std::move(diseno_);
+        for (TablaDeMaqueta& tabla : maqueta_.Tablas) tabla.Ubicacion = base_;
+        return std::move(maqueta_);
     }
 
   private:
@@ -125,23 +125,23 @@ class Lector {
     using AlLeerElemento = void (Lector::*)(Argumentos&, Elementos&);
 
     bool HayLinea() const { return actual_ < lineas_.size(); }
-    Argumentos Siguiente() { return {diseno_, lineas_[actual_++]}; }
+    Argumentos Siguiente() { return {maqueta_, lineas_[actual_++]}; }
     bool LeerAjuste(const std::string& palabra, Argumentos& linea);
     void LeerElemento(const std::string& palabra, Argumentos& linea, Elementos& destino);
     bool LeerBloque(const Argumentos& cabeza, Elementos& destino, bool admiteSino);
     FuenteDeFilas LeerFuente(Argumentos& linea);
     std::array<Plantilla, 3> LeerBanda(Argumentos& linea);
-    CeldaDeDiseno LeerCelda(Argumentos& linea, bool esTotal);
-    ColumnaDeTabla LeerColumna(Argumentos& linea, std::vector<CeldaDeDiseno>& celdas);
+    CeldaDeMaqueta LeerCelda(Argumentos& linea, bool esTotal);
+    ColumnaDeTabla LeerColumna(Argumentos& linea, std::vector<CeldaDeMaqueta>& celdas);
     void LeerFila(Argumentos& linea, ElementoTabla::Cuando cuando, ElementoTabla& tabla);
 
-    void PonerTitulo(Argumentos& linea) { diseno_.Titulo = linea.Texto("el título"); }
-    void PonerAutor(Argumentos& linea) { diseno_.Autor = linea.Texto("el autor"); }
+    void PonerTitulo(Argumentos& linea) { maqueta_.Titulo = linea.Texto("el título"); }
+    void PonerAutor(Argumentos& linea) { maqueta_.Autor = linea.Texto("el autor"); }
     void PonerPagina(Argumentos& linea);
     void PonerMargenes(Argumentos& linea);
-    void PonerLetra(Argumentos& linea) { diseno_.Letra = std::clamp(linea.Medida("el tamaño"), 4.0, 24.0); }
-    void PonerCabecera(Argumentos& linea) { diseno_.Cabecera = LeerBanda(linea); }
-    void PonerPie(Argumentos& linea) { diseno_.Pie = LeerBanda(linea); }
+    void PonerLetra(Argumentos& linea) { maqueta_.Letra = std::clamp(linea.Medida("el tamaño"), 4.0, 24.0); }
+    void PonerCabecera(Argumentos& linea) { maqueta_.Cabecera = LeerBanda(linea); }
+    void PonerPie(Argumentos& linea) { maqueta_.Pie = LeerBanda(linea); }
     void PonerBase(Argumentos& linea) { base_ = CaminoDeTexto(linea.Citada("la base de datos")); }
 
     void LeerTitulo(Argumentos& linea, Elementos& destino);
@@ -156,7 +156,7 @@ class Lector {
     void LeerSubreporte(Argumentos& linea, Elementos& destino);
     void LeerSalto(Argumentos& linea, Elementos& destino);
 
-    DisenoReporte diseno_;
+    MaquetaReporte maqueta_;
     std::filesystem::path base_;
     std::vector<std::filesystem::path> alrededor_;  // the files whose subreport this is, and itself
     std::vector<Linea> lineas_;
@@ -237,14 +237,14 @@ FuenteDeFilas Lector::LeerFuente(Argumentos& linea) {
 void Lector::PonerPagina(Argumentos& linea) {
     const std::string tamano = linea.Palabra("el tamaño");
     if (tamano != "A4" && tamano != "Carta") linea.Fallar("no existe la página \"" + tamano + "\"");
-    diseno_.Hoja.Tamano = tamano == "A4" ? TamanoPagina::A4 : TamanoPagina::Carta;
-    diseno_.Hoja.Apaisada = linea.Si("apaisada");
-    if (!diseno_.Hoja.Apaisada) linea.Si("vertical");
+    maqueta_.Papel.Tamano = tamano == "A4" ? TamanoPagina::A4 : TamanoPagina::Carta;
+    maqueta_.Papel.Apaisada = linea.Si("apaisada");
+    if (!maqueta_.Papel.Apaisada) linea.Si("vertical");
 }
 
 void Lector::PonerMargenes(Argumentos& linea) {
-    for (double* margen : {&diseno_.Hoja.MargenIzquierdo, &diseno_.Hoja.MargenSuperior,
-                           &diseno_.Hoja.MargenDerecho, &diseno_.Hoja.MargenInferior})
+    for (double* margen : {&maqueta_.Papel.MargenIzquierdo, &maqueta_.Papel.MargenSuperior,
+                           &maqueta_.Papel.MargenDerecho, &maqueta_.Papel.MargenInferior})
         *margen = std::min(linea.Medida("el margen"), 60.0);
 }
 
@@ -303,9 +303,9 @@ void Lector::LeerFicha(Argumentos& linea, Elementos& destino) {
 }
 
 /// A column of the record, a text between quotes, "-" for nothing; of totals, "suma:Columna" and the like.
-CeldaDeDiseno Lector::LeerCelda(Argumentos& linea, bool esTotal) {
-    using enum CeldaDeDiseno::Clase;
-    CeldaDeDiseno celda;
+CeldaDeMaqueta Lector::LeerCelda(Argumentos& linea, bool esTotal) {
+    using enum CeldaDeMaqueta::Clase;
+    CeldaDeMaqueta celda;
     if (linea.QuedaCitada()) {
         celda.Que = Texto;
         celda.Texto = linea.Texto("el texto");
@@ -313,7 +313,7 @@ CeldaDeDiseno Lector::LeerCelda(Argumentos& linea, bool esTotal) {
     }
     const std::string palabra = linea.Palabra("la celda");
     if (palabra == "-") return celda;
-    static constexpr std::array<std::pair<std::string_view, CeldaDeDiseno::Clase>, 4> funciones{
+    static constexpr std::array<std::pair<std::string_view, CeldaDeMaqueta::Clase>, 4> funciones{
         {{"suma", Suma}, {"maximo", Maximo}, {"minimo", Minimo}, {"cuenta", Cuenta}}};
     const std::size_t dosPuntos = palabra.find(':');
     celda.Que = Campo;
@@ -329,7 +329,7 @@ CeldaDeDiseno Lector::LeerCelda(Argumentos& linea, bool esTotal) {
 }
 
 /// columna "title" [Content] [ancho mm] [formato "0.00"] [lado izquierda|centro|derecha] [bajo "group"]
-ColumnaDeTabla Lector::LeerColumna(Argumentos& linea, std::vector<CeldaDeDiseno>& celdas) {
+ColumnaDeTabla Lector::LeerColumna(Argumentos& linea, std::vector<CeldaDeMaqueta>& celdas) {
     ColumnaDeTabla columna;
     columna.Titulo = linea.Citada("el título de la columna");
     static constexpr std::array<std::pair<std::string_view, Alineacion>, 3> lados{
@@ -368,7 +368,7 @@ void Lector::LeerTabla(Argumentos& linea, Elementos& destino) {
     ElementoTabla tabla;
     const Argumentos cabeza = linea;
     tabla.Fuente = LeerFuente(linea);
-    std::vector<CeldaDeDiseno> deLasColumnas;  // a column that names its content needs no `fila`
+    std::vector<CeldaDeMaqueta> deLasColumnas;  // a column that names its content needs no `fila`
     while (HayLinea()) {
         Argumentos dentro = Siguiente();
         const std::string palabra = dentro.Palabra("la columna");
@@ -441,12 +441,12 @@ void Lector::LeerSi(Argumentos& linea, Elementos& destino) {
 
 void Lector::LeerSubreporte(Argumentos& linea, Elementos& destino) {
     const std::filesystem::path archivo =
-        diseno_.Archivo.parent_path() / CaminoDeTexto(linea.Citada("el archivo"));
+        maqueta_.Archivo.parent_path() / CaminoDeTexto(linea.Citada("el archivo"));
     linea.Terminar();
     if (std::find(alrededor_.begin(), alrededor_.end(), archivo) != alrededor_.end())
         linea.Fallar("el reporte \"" + TextoDeCamino(archivo.filename()) + "\" se contiene a sí mismo");
-    destino.push_back({ElementoSubreporte{diseno_.Subreportes.size()}});
-    diseno_.Subreportes.push_back(Lector(archivo, alrededor_).Leer());
+    destino.push_back({ElementoSubreporte{maqueta_.Subreportes.size()}});
+    maqueta_.Subreportes.push_back(Lector(archivo, alrededor_).Leer());
 }
 
 void Lector::LeerSalto(Argumentos& linea, Elementos& destino) {
@@ -456,12 +456,12 @@ void Lector::LeerSalto(Argumentos& linea, Elementos& destino) {
 
 }  // namespace
 
-ErrorEjecucion ErrorDeDiseno(const std::filesystem::path& archivo, int linea, const std::string& falta) {
+ErrorEjecucion ErrorDeMaqueta(const std::filesystem::path& archivo, int linea, const std::string& falta) {
     return {CodigoError::FormatoNoValido,
             TextoDeCamino(archivo.filename()) + ", línea " + std::to_string(linea) + ": " + falta};
 }
 
-DisenoReporte LeerDiseno(const std::filesystem::path& archivo) {
+MaquetaReporte LeerMaqueta(const std::filesystem::path& archivo) {
     return Lector(archivo, {}).Leer();
 }
 

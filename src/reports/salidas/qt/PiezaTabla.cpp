@@ -1,4 +1,4 @@
-#include "reports/salidas/qt/CajaTabla.h"
+#include "reports/salidas/qt/PiezaTabla.h"
 
 #include <algorithm>
 #include <numeric>
@@ -36,28 +36,28 @@ std::vector<double> Repartir(const std::vector<double>& deseados, const std::vec
 
 }  // namespace
 
-CajaTabla::CajaTabla(const documento::Tabla& tabla, const documento::Documento& documento,
-                     const Letras& letras, double ancho)
+PiezaTabla::PiezaTabla(const documento::Tabla& tabla, const documento::Documento& documento,
+                       const Letras& letras, double ancho)
     : tabla_(tabla), separadores_(documento.Locales), normal_(&letras.Normal), negrita_(&letras.Negrita) {
     MedirColumnas(documento.Letra, ancho);
     MedirFilas();
 }
 
-void CajaTabla::Achicar(double puntos) {
+void PiezaTabla::Achicar(double puntos) {
     chica_ = std::make_unique<const TipoDeLetra>(puntos, false);
     chicaNegrita_ = std::make_unique<const TipoDeLetra>(puntos, true);
     normal_ = chica_.get();
     negrita_ = chicaNegrita_.get();
 }
 
-QString CajaTabla::Celda(std::size_t fila, std::size_t columna) const {
+QString PiezaTabla::Celda(std::size_t fila, std::size_t columna) const {
     const std::vector<almacen::Valor>& celdas = tabla_.Filas[fila].Celdas;
     if (columna >= celdas.size()) return {};
     return QString::fromStdString(
         documento::TextoDeValor(celdas[columna], tabla_.Columnas[columna].Formato, separadores_));
 }
 
-std::vector<double> CajaTabla::AnchosMinimos() const {
+std::vector<double> PiezaTabla::AnchosMinimos() const {
     std::vector<double> minimos;
     for (std::size_t i = 0; i < tabla_.Columnas.size(); ++i) {
         double ancho = negrita_->AnchoDePalabra(QString::fromStdString(tabla_.Columnas[i].Titulo));
@@ -75,7 +75,7 @@ std::vector<double> CajaTabla::AnchosMinimos() const {
     return minimos;
 }
 
-void CajaTabla::MedirColumnas(double puntos, double ancho) {
+void PiezaTabla::MedirColumnas(double puntos, double ancho) {
     std::vector<double> deseados = tabla_.Anchos(ancho / Milimetro);
     for (double& deseado : deseados) deseado *= Milimetro;
     std::vector<double> minimos = AnchosMinimos();
@@ -86,21 +86,21 @@ void CajaTabla::MedirColumnas(double puntos, double ancho) {
     anchos_ = Repartir(deseados, minimos, ancho);
 }
 
-QStringList CajaTabla::LineasDeCelda(const QString& texto, std::size_t columna,
-                                     const TipoDeLetra& letra) const {
+QStringList PiezaTabla::LineasDeCelda(const QString& texto, std::size_t columna,
+                                      const TipoDeLetra& letra) const {
     return SeParte(columna) ? letra.Lineas(texto, anchos_[columna] - 2 * Margen) : QStringList(texto);
 }
 
-QStringList CajaTabla::LineasDeTitulo(const std::string& titulo, double ancho) const {
+QStringList PiezaTabla::LineasDeTitulo(const std::string& titulo, double ancho) const {
     return negrita_->Lineas(QString::fromStdString(titulo), ancho - 2 * Margen);
 }
 
-double CajaTabla::Ancho(std::size_t desde, std::size_t cuantas) const {
+double PiezaTabla::Ancho(std::size_t desde, std::size_t cuantas) const {
     const auto primera = anchos_.begin() + static_cast<std::ptrdiff_t>(desde);
     return std::accumulate(primera, primera + static_cast<std::ptrdiff_t>(cuantas), 0.0);
 }
 
-void CajaTabla::MedirTitulos(const std::function<double(qsizetype lineas)>& alto) {
+void PiezaTabla::MedirTitulos(const std::function<double(qsizetype lineas)>& alto) {
     for (std::size_t i = 0; i < anchos_.size(); ++i)
         altoTitulos_ =
             std::max(altoTitulos_, alto(LineasDeTitulo(tabla_.Columnas[i].Titulo, anchos_[i]).size()));
@@ -111,7 +111,7 @@ void CajaTabla::MedirTitulos(const std::function<double(qsizetype lineas)>& alto
     }
 }
 
-void CajaTabla::MedirFilas() {
+void PiezaTabla::MedirFilas() {
     const auto alto = [this](qsizetype lineas) {
         return (static_cast<double>(lineas) + EntreLineas) * normal_->Alto();
     };
@@ -126,13 +126,13 @@ void CajaTabla::MedirFilas() {
     }
 }
 
-double CajaTabla::Alto(std::size_t desde, std::size_t hasta) const {
+double PiezaTabla::Alto(std::size_t desde, std::size_t hasta) const {
     return altoGrupos_ + altoTitulos_ +
            std::accumulate(altos_.begin() + static_cast<std::ptrdiff_t>(desde),
                            altos_.begin() + static_cast<std::ptrdiff_t>(hasta), 0.0);
 }
 
-void CajaTabla::PintarTitulo(Tinta& tinta, const QRectF& donde, const std::string& titulo) const {
+void PiezaTabla::PintarTitulo(Tinta& tinta, const QRectF& donde, const std::string& titulo) const {
     const QStringList lineas = LineasDeTitulo(titulo, donde.width());
     double y = donde.bottom() - (static_cast<double>(lineas.size()) + EntreLineas / 2) * normal_->Alto() +
                normal_->Ascenso();
@@ -143,17 +143,17 @@ void CajaTabla::PintarTitulo(Tinta& tinta, const QRectF& donde, const std::strin
     }
 }
 
-QColor CajaTabla::Tono(const QColor& color) const {
+QColor PiezaTabla::Tono(const QColor& color) const {
     const int gris = qGray(color.rgb());
     return tabla_.Estilo.Color ? color : QColor(gris, gris, gris);
 }
 
-void CajaTabla::PintarFondo(Tinta& tinta, const QRectF& donde) const {
+void PiezaTabla::PintarFondo(Tinta& tinta, const QRectF& donde) const {
     if (tabla_.Estilo.Sombras) tinta.Fondo(donde, Tono(FondoDeTitulo));
 }
 
 /// Paints the header and tells how high it is. A column without group takes the height of both rows.
-double CajaTabla::PintarCabecera(Tinta& tinta, const QPointF& esquina) const {
+double PiezaTabla::PintarCabecera(Tinta& tinta, const QPointF& esquina) const {
     const double alto = altoGrupos_ + altoTitulos_;
     const QColor raya = Tono(RayaDeTitulo);
     if (!tabla_.Estilo.Titulos) return 0;
@@ -185,7 +185,7 @@ double CajaTabla::PintarCabecera(Tinta& tinta, const QPointF& esquina) const {
     return alto;
 }
 
-void CajaTabla::PintarFila(Tinta& tinta, const QPointF& esquina, std::size_t fila) const {
+void PiezaTabla::PintarFila(Tinta& tinta, const QPointF& esquina, std::size_t fila) const {
     const bool destacada = tabla_.Filas[fila].Destacada;
     const TipoDeLetra& letra = destacada ? *negrita_ : *normal_;
     const double pie = esquina.y() + altos_[fila];
@@ -211,7 +211,7 @@ void CajaTabla::PintarFila(Tinta& tinta, const QPointF& esquina, std::size_t fil
     if (destacada) tinta.Raya(esquina, {x, esquina.y()}, 2 * Grosor, TinteDeCelda);
 }
 
-void CajaTabla::Pintar(Tinta& tinta, const QPointF& esquina, std::size_t desde, std::size_t hasta) const {
+void PiezaTabla::Pintar(Tinta& tinta, const QPointF& esquina, std::size_t desde, std::size_t hasta) const {
     double y = esquina.y() + PintarCabecera(tinta, esquina);
     for (std::size_t fila = desde; fila < hasta; ++fila) {
         PintarFila(tinta, {esquina.x(), y}, fila);

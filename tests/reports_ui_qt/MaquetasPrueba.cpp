@@ -44,7 +44,7 @@ class Disenos : public prueba::ReportePreparado {
 TEST_F(Disenos, LosErroresDicenArchivoLineaYNombre) {
     Preparar(DosLosas());
     struct Caso {
-        const char* Diseno;
+        const char* Maqueta;
         const char* Falta;
     };
     for (const Caso& caso : {
@@ -75,7 +75,7 @@ TEST_F(Disenos, LosErroresDicenArchivoLineaYNombre) {
              Caso{"parrafo \"a\"\nsubreporte \"prueba.rpt\"\n",
                   "línea 2: el reporte \"prueba.rpt\" se contiene a sí mismo"},
          })
-        EXPECT_EQ(Falta(caso.Diseno), std::string("prueba.rpt, ") + caso.Falta) << caso.Diseno;
+        EXPECT_EQ(Falta(caso.Maqueta), std::string("prueba.rpt, ") + caso.Falta) << caso.Maqueta;
     try {
         Abrir("NoExiste.rpt");
         ADD_FAILURE();
