@@ -138,7 +138,9 @@ void ListaElementos::Renombrar() {
 
 void ListaElementos::Eliminar() {
     if (Vacia()) return;
-    const std::string pregunta = Con(clase_.Eliminar, Lista().Texto("Nombre"));
+    std::string cual = Lista().Texto("Nombre");
+    if (!clase_.EntreParentesis.empty()) cual += "  (" + Lista().Texto(clase_.EntreParentesis) + ")";
+    const std::string pregunta = Con(clase_.Eliminar, cual);
     if (servicios_.Caja.Mostrar(Pregunta(pregunta, std::string(clase_.Eliminar.Encabezado))) != RespuestaSi)
         return;
     if (!almacen::BorrarElemento(aplicacion_.Proyecto.ConexionProyecto, clase_.Tablas, Lista())) {

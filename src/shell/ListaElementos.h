@@ -27,6 +27,8 @@ struct ClaseDeElemento {
     TextoDeElemento YaExiste;  ///< a new element's name is taken
     TextoDeElemento Eliminar;  ///< the question before it is deleted
     TextosDeRenombrar Renombrar;
+    /// The column that the same question tells in brackets behind the name; empty: none.
+    std::string_view EntreParentesis{};
 };
 
 /// What an element does as its list moves.
@@ -64,7 +66,10 @@ class ListaElementos {
     /// The workspace's own open command: another project takes the place of this one.
     void AbrirProyecto();
 
+    /// Nothing for a row that is not there.
     void Seleccionar(int fila);
+    void Anterior() { Seleccionar(Fila() - 1); }
+    void Siguiente() { Seleccionar(Fila() + 1); }
     int Fila() const { return aplicacion_.Proyecto.RegistrosProyecto.Posicion(); }
     int NumeroDeElementos() const { return aplicacion_.Proyecto.RegistrosProyecto.NumeroRegistros(); }
     bool Vacia() const { return NumeroDeElementos() == 0; }

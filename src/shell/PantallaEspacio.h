@@ -27,11 +27,11 @@ class PantallaEspacio {
     /// Shows that the element of a row fails, or no longer.
     virtual void MarcarFalla(int fila, bool falla) = 0;
 
-    /// Shows which sheet is in front, from 0, without drawing it.
+    /// Shows which tab is in front, from 0, without drawing it.
     virtual void MarcarHoja(int hoja) = 0;
     /// Zoom 1 and no pan.
     virtual void RestablecerVista() = 0;
-    /// Draws the sheet on show, now.
+    /// Draws the sheet on show, now; nothing while no sheet is in front.
     virtual void Redibujar() = 0;
 
     /// The window of an element's new name, until it closes.

@@ -12,6 +12,7 @@
 #include <QSettings>
 #include <QSignalBlocker>
 #include <QSplitter>
+#include <QStackedWidget>
 #include <QStyle>
 #include <QTabBar>
 #include <QToolBar>
@@ -108,17 +109,18 @@ void VentanaEspacio::CrearAccion(const ComandoEspacio& comando, const DatosDeEsp
         {"ID_Abrir", [this] { operaciones_->AbrirProyecto(); }},
         {"ID_Renombrar", [this] { operaciones_->Renombrar(); }},
         {"ID_Eliminar", [this] { operaciones_->Eliminar(); }},
+        {"ID_Anterior", [this] { operaciones_->Anterior(); }},
+        {"ID_Siguiente", [this] { operaciones_->Siguiente(); }},
     };
     auto* accion = new QAction(Icono(Texto(comando.Icono)), Texto(comando.Nombre).trimmed(), this);
     accion->setObjectName(Texto(comando.Clave));
     accion->setToolTip(TextoDeAyuda(Texto(comando.Titulo), Texto(comando.Ayuda)));
     acciones_[comando.Clave] = accion;
-    if (comando.Grupo == GrupoComandos::Vista) return;
     if (const auto comun = deLista.find(comando.Clave); comun != deLista.end()) {
         connect(accion, &QAction::triggered, this, comun->second);
     } else if (const auto propia = datos.Operaciones.find(comando.Clave); propia != datos.Operaciones.end()) {
         connect(accion, &QAction::triggered, this, propia->second);
-    } else {
+    } else if (comando.Grupo != GrupoComandos::Vista) {
         accion->setEnabled(false);
         accion->setToolTip(accion->toolTip() + "<br>(no disponible en esta edición)");
         accion->setData("sin operacion");
@@ -147,8 +149,10 @@ void VentanaEspacio::PonerAtajos() {
         QKeySequence Tecla;
         bool SoloEnLaLista;
     };
-    const std::array<Atajo, 5> atajos{{{"ID_Abrir", QKeySequence::Open, false},
+    const std::array<Atajo, 7> atajos{{{"ID_Abrir", QKeySequence::Open, false},
                                        {"ID_Nueva", QKeySequence::New, false},
+                                       {"ID_Anterior", Qt::CTRL | Qt::Key_PageUp, false},
+                                       {"ID_Siguiente", Qt::CTRL | Qt::Key_PageDown, false},
                                        {"ID_Renombrar", Qt::Key_F2, true},
                                        {"ID_Eliminar", QKeySequence::Delete, true},
                                        {"ID_Copiar", QKeySequence::Copy, true}}};
@@ -246,24 +250,51 @@ QWidget* VentanaEspacio::PanelDeHojas(const DatosDeEspacio& datos) {
     encabezado_->setFont(fuente);
     hojas_ = new QTabBar(panel);
     hojas_->setExpanding(false);
+    frente_ = new QStackedWidget(panel);
+    lienzo_ = new dibujo::qt::WidgetLienzo(datos.Vista, datos.Dibujar, frente_, datos.Teclas);
+    frente_->addWidget(lienzo_);
     for (const char* titulo : datos.Hojas) hojas_->addTab(titulo);
-    connect(hojas_, &QTabBar::currentChanged, this, datos.AlElegirHoja);
-    lienzo_ = new dibujo::qt::WidgetLienzo(datos.Vista, datos.Dibujar, panel, datos.Teclas);
+    for (const PaginaDeEspacio& pagina : datos.Paginas) {
+        hojas_->addTab(pagina.Titulo);
+        frente_->addWidget(pagina.Contenido);
+    }
+    connect(hojas_, &QTabBar::currentChanged, this, [this, elegir = datos.AlElegirHoja](int hoja) {
+        PonerAlFrente(hoja);
+        elegir(hoja);
+    });
     auto* columna = new QVBoxLayout(panel);
     columna->setContentsMargins(0, 0, 0, 0);
     columna->setSpacing(2);
     columna->addWidget(encabezado_);
     columna->addWidget(hojas_);
-    columna->addWidget(lienzo_, 1);
+    columna->addWidget(frente_, 1);
+    PonerAlFrente(0);
     return panel;
 }
 
+bool VentanaEspacio::HojaAlFrente() const {
+    return frente_->currentWidget() == lienzo_;
+}
+
+void VentanaEspacio::PonerAlFrente(int hoja) {
+    const int hojas = hojas_->count() - (frente_->count() - 1);
+    frente_->setCurrentIndex(std::max(0, hoja - hojas + 1));
+    HabilitarComandos();
+}
+
 void VentanaEspacio::HabilitarComandos() {
-    const bool hay = lista_->count() > 0;
     for (const ComandoEspacio& comando : comandos_) {
         QAction* accion = Accion(comando.Clave);
-        if (comando.PideElemento && !accion->data().isValid()) accion->setEnabled(hay);
+        if (!accion->data().isValid()) accion->setEnabled(Habilitado(comando));
     }
+}
+
+bool VentanaEspacio::Habilitado(const ComandoEspacio& comando) const {
+    if (comando.Grupo == GrupoComandos::Vista && !HojaAlFrente()) return false;
+    if (comando.Clave == "ID_Anterior") return lista_->currentRow() > 0;
+    if (comando.Clave == "ID_Siguiente")
+        return lista_->currentRow() >= 0 && lista_->currentRow() + 1 < lista_->count();
+    return !comando.PideElemento || lista_->count() > 0;
 }
 
 void VentanaEspacio::PonerTitulo(const std::string& titulo) {
@@ -297,6 +328,7 @@ void VentanaEspacio::LlenarLista(const std::vector<std::string>& nombres) {
 void VentanaEspacio::MarcarFila(int fila) {
     const QSignalBlocker quieta(lista_);
     lista_->setCurrentRow(fila - 1);
+    HabilitarComandos();
 }
 
 void VentanaEspacio::MarcarFalla(int fila, bool falla) {
@@ -309,14 +341,17 @@ void VentanaEspacio::MarcarFalla(int fila, bool falla) {
 void VentanaEspacio::MarcarHoja(int hoja) {
     const QSignalBlocker quietas(hojas_);
     hojas_->setCurrentIndex(hoja);
+    PonerAlFrente(hoja);
 }
 
 void VentanaEspacio::RestablecerVista() {
     lienzo_->Comandos().Restablecer();
 }
 
-/// At once: what the calculation left is on the screen when it returns.
+/// At once: what the calculation left is on the screen when it returns. Behind a page there is nothing to
+/// see.
 void VentanaEspacio::Redibujar() {
+    if (!HojaAlFrente()) return;
     lienzo_->RedibujeVista();
     lienzo_->repaint();
 }
@@ -327,7 +362,10 @@ void VentanaEspacio::MostrarRenombrar(Renombrar& operaciones) {
 }
 
 void VentanaEspacio::keyPressEvent(QKeyEvent* evento) {
-    if (evento->key() == Qt::Key_Escape) return lienzo_->Comandos().EjecuteZoomExtents();
+    if (evento->key() == Qt::Key_Escape) {
+        if (HojaAlFrente()) lienzo_->Comandos().EjecuteZoomExtents();
+        return;
+    }
     QDialog::keyPressEvent(evento);
 }
 

@@ -5,6 +5,7 @@
 #include <map>
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "drawing/Visor.h"
 #include "shell/ComandosEspacio.h"
@@ -16,6 +17,7 @@ class QLabel;
 class QListWidget;
 class QMenuBar;
 class QSplitter;
+class QStackedWidget;
 class QTabBar;
 
 namespace trabex::dibujo {
@@ -27,26 +29,35 @@ class WidgetLienzo;
 
 namespace trabex::programa::qt {
 
+/// A tab that is no sheet of the canvas: widgets of the element's own, which the window owns from then on.
+struct PaginaDeEspacio {
+    const char* Titulo;
+    QWidget* Contenido;
+};
+
 /// What an element gives to its workspace window.
 struct DatosDeEspacio {
     const char* Nombre;                        ///< of the window: its layout is remembered under it
     const char* RotuloLista;                   ///< over the list, with its mnemonic
     const char* MenuElemento;                  ///< title of the menu of what acts on the list
     std::span<const ComandoEspacio> Comandos;  ///< beside those of the drawing; grouped, in order
-    std::span<const char* const> Hojas;        ///< titles of the tabs
+    std::span<const char* const> Hojas;        ///< titles of the tabs that the canvas shows
     ListaElementos& Lista;
     dibujo::EstadoVista& Vista;
     std::function<void(dibujo::Lienzo&)> Dibujar;  ///< the sheet on show, whole
-    std::function<void(int)> AlElegirHoja;
+    std::function<void(int)> AlElegirHoja;         ///< a tab came to the front; sheets first, then pages
     /// What each command does, by its key, but those that the list and the drawing have themselves
-    /// (`ID_Abrir`, `ID_Renombrar`, `ID_Eliminar`). A command without any is disabled.
+    /// (`ID_Abrir`, `ID_Renombrar`, `ID_Eliminar`, `ID_Anterior`, `ID_Siguiente`). A command without any is
+    /// disabled.
     std::map<std::string_view, std::function<void()>> Operaciones;
     QWidget* BajoLaLista = nullptr;
     dibujo::TeclasDeVista Teclas = {};
+    std::vector<PaginaDeEspacio> Paginas = {};  ///< the tabs behind those of the sheets
 };
 
-/// The workspace of an element: its list and the sheets of the selected one, with tool bar, menu bar, context
-/// menus and keys from a table of commands.
+/// The workspace of an element: its list and the sheets and pages of the selected one, with tool bar, menu
+/// bar, context menus and keys from a table of commands. Commands of the drawing are disabled while a page is
+/// in front, and those that walk the list at its ends.
 class VentanaEspacio : public QDialog, public PantallaEspacio {
   public:
     QAction* Accion(std::string_view clave) const { return acciones_.at(clave); }
@@ -83,7 +94,10 @@ class VentanaEspacio : public QDialog, public PantallaEspacio {
     QWidget* PanelDeLista(const DatosDeEspacio& datos);
     QWidget* PanelDeHojas(const DatosDeEspacio& datos);
     QSplitter* Partes(const DatosDeEspacio& datos);
+    bool HojaAlFrente() const;
+    void PonerAlFrente(int hoja);
     void HabilitarComandos();
+    bool Habilitado(const ComandoEspacio& comando) const;
 
     const Tapiz& preferencias_;
     ListaElementos* operaciones_ = nullptr;
@@ -95,6 +109,7 @@ class VentanaEspacio : public QDialog, public PantallaEspacio {
     QLabel* avisos_ = nullptr;
     QSplitter* partes_ = nullptr;
     QTabBar* hojas_ = nullptr;
+    QStackedWidget* frente_ = nullptr;  // the canvas, then the pages
     dibujo::qt::WidgetLienzo* lienzo_ = nullptr;
 };
 
