@@ -15,6 +15,7 @@
 #include "ReportePreparado.h"
 #include "reports/salidas/qt/VistaPaginas.h"
 #include "reports/ui/qt/ImpresorasQt.h"
+#include "reports/ui/qt/ImprimirDibujos.h"
 #include "reports/ui/qt/VentanaSalidaReporte.h"
 #include "reports/ui/qt/VentanaSeleccionarImpresora.h"
 #include "reports/ui/qt/VentanaVerReportes.h"
@@ -248,7 +249,9 @@ TEST(ImprimirGraficos, CadaDibujoVaEnSuPaginaConSusDatos) {
         QPrinter impresora(QPrinter::HighResolution);
         impresora.setOutputFormat(QPrinter::PdfFormat);
         impresora.setOutputFileName(prueba::Ruta(carpeta / "dibujos.pdf"));
-        ImprimirGraficosLosas(impresora, {proyecto, datos, generales, 2}, pantalla, "MARÍA", estado);
+        ImprimirDibujos(impresora, [&](dibujo::qt::PapelQt& papel) {
+            DibujarGraficosLosas(papel, {proyecto, datos, generales, 2}, pantalla, "MARÍA", estado);
+        });
         const QString texto =
             prueba::Correr("pdftotext", {"-layout", prueba::Ruta(carpeta / "dibujos.pdf"), "-"});
         EXPECT_TRUE(texto.contains("PROYECTO: LA CEIBA") && texto.contains("Usuario: MARÍA"));

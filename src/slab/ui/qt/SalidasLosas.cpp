@@ -1,8 +1,8 @@
 #include "slab/ui/qt/SalidasLosas.h"
 
-#include "reports/montaje/qt/SuperficieQt.h"
 #include "reports/planex/ui/qt/VentanaExportarCAD.h"
-#include "reports/ui/qt/PanelProgresoQt.h"
+#include "reports/ui/qt/ImprimirDibujos.h"
+#include "reports/ui/qt/MontarConPanel.h"
 #include "reports/ui/qt/VentanaExportarGrafico.h"
 #include "reports/ui/qt/VentanaOpcionesReporte.h"
 #include "reports/ui/qt/VentanaSalidaReporte.h"
@@ -63,10 +63,10 @@ void SalidasLosas::ExportarGraficos(Losas& losas, QWidget& ventana) {
     reportes::ui::qt::VentanaOpcionGrafico opciones(reportes::ui::OpcionGraficoE, salida_.Opciones,
                                                     aplicacion_.Preferencias, &ventana);
     if (opciones.exec() != QDialog::Accepted) return;
-    montaje::qt::SuperficieQt superficie;
-    reportes::ui::qt::PanelProgresoQt panel(&ventana);
-    salida::GuardeGraficos(entorno_.Montaje(), OrigenDe(aplicacion_, losas), losas.Estado().Hoja, superficie,
-                           panel, salida_.Opciones);
+    reportes::ui::qt::MontarConPanel(ventana, [&](auto& superficie, auto& panel) {
+        salida::GuardeGraficos(entorno_.Montaje(), OrigenDe(aplicacion_, losas), losas.Estado().Hoja,
+                               superficie, panel, salida_.Opciones);
+    });
     salida_.Estado.GraficoHelicoidal = false;
     salida_.Estado.GraficoAutoportante = false;
     reportes::ui::qt::VentanaSalidaReporte(entorno_, reportes::ui::qt::VentanaSalidaReporte::Clase::Grafico,
@@ -78,20 +78,21 @@ void SalidasLosas::ImprimirGraficos(Losas& losas, QWidget& ventana) {
     reportes::ui::qt::VentanaOpcionGrafico opciones(reportes::ui::OpcionGraficoE1, salida_.Opciones,
                                                     aplicacion_.Preferencias, &ventana);
     if (opciones.exec() != QDialog::Accepted) return;
-    PedirEImprimirGraficosLosas(entorno_, OrigenDe(aplicacion_, losas), losas.Estado().Hoja, salida_.Opciones,
-                                &ventana);
+    reportes::ui::qt::PedirEImprimirDibujos(entorno_, ventana, [&](dibujo::qt::PapelQt& papel) {
+        DibujarGraficosLosas(papel, OrigenDe(aplicacion_, losas), losas.Estado().Hoja, aplicacion_.Usuario,
+                             salida_.Opciones);
+    });
 }
 
 /// The window's zoom is its own: the workspace's comes back by itself.
 void SalidasLosas::ExportarImagen(Losas& losas, QWidget& ventana) {
-    dibujo::losa::HojaLosa hoja = losas.Estado().Hoja;
-    const auto dibujar = [&](dibujo::Lienzo& lienzo, dibujo::EstadoVista& vista) {
-        hoja.Vista = vista;
-        dibujo::losa::RedibujeVista(lienzo, hoja, losas.Calculada());
-        vista = hoja.Vista;
-    };
-    reportes::ui::qt::VentanaExportarGrafico({aplicacion_, salida_.Opciones, entorno_.Servicios}, dibujar,
-                                             &ventana)
+    reportes::ui::qt::VentanaExportarGrafico(
+        {aplicacion_, salida_.Opciones, entorno_.Servicios},
+        reportes::ui::qt::DibujoDeHoja(losas.Estado().Hoja,
+                                       [&](dibujo::Lienzo& lienzo, dibujo::losa::HojaLosa& hoja) {
+                                           dibujo::losa::RedibujeVista(lienzo, hoja, losas.Calculada());
+                                       }),
+        &ventana)
         .exec();
 }
 

@@ -2,12 +2,10 @@
 
 #include <QAction>
 
-#include "reports/montaje/qt/SuperficieQt.h"
-#include "reports/ui/qt/PanelProgresoQt.h"
+#include "reports/ui/qt/MontarConPanel.h"
 #include "reports/ui/qt/VentanaExportarGrafico.h"
 #include "reports/ui/qt/VentanaOpcionesReporte.h"
 #include "reports/ui/qt/VentanaSalidaReporte.h"
-#include "shell/qt/ComunVentanas.h"
 #include "stairs/salida/GraficosEscaleras.h"
 
 namespace trabex::escaleras::ui::qt {
@@ -29,16 +27,11 @@ void SalidasEscaleraT::ExportarGraficos(EscaleraT& escaleras, VentanaEscaleraT& 
     reportes::ui::qt::VentanaOpcionGrafico opciones(reportes::ui::OpcionGraficoET, salida_.Opciones,
                                                     aplicacion_.Preferencias, &ventana);
     if (opciones.exec() != QDialog::Accepted) return;
-    {
-        programa::qt::PunteroDeTrabajo puntero;
-        puntero.Poner(true);
-        montaje::qt::SuperficieQt superficie;
-        reportes::ui::qt::PanelProgresoQt panel(&ventana);
+    reportes::ui::qt::MontarConPanel(ventana, [&](auto& superficie, auto& panel) {
         salida::GuardeGraficos(entorno_.Montaje(),
                                {aplicacion_.Proyecto, aplicacion_.Datos, escaleras.Calculada()},
                                aplicacion_.SeparadoresLocales, superficie, panel, salida_.Opciones);
-        puntero.Poner(false);
-    }
+    });
     salida_.Estado.GraficoHelicoidal = false;
     salida_.Estado.GraficoAutoportante = true;
     salida_.Estado.Papel = salida_.Opciones.Papel;
@@ -49,14 +42,14 @@ void SalidasEscaleraT::ExportarGraficos(EscaleraT& escaleras, VentanaEscaleraT& 
 
 /// The window's zoom is its own: the workspace's comes back by itself.
 void SalidasEscaleraT::ExportarImagen(EscaleraT& escaleras, VentanaEscaleraT& ventana) {
-    dibujo::escalera::HojaEscalera hoja = escaleras.Estado().Hoja;
-    const auto dibujar = [&](dibujo::Lienzo& lienzo, dibujo::EstadoVista& vista) {
-        hoja.Vista = vista;
-        dibujo::escalera::RedibujeVista(lienzo, hoja, escaleras.Calculada());
-        vista = hoja.Vista;
-    };
-    reportes::ui::qt::VentanaExportarGrafico({aplicacion_, salida_.Opciones, entorno_.Servicios}, dibujar,
-                                             &ventana)
+    reportes::ui::qt::VentanaExportarGrafico(
+        {aplicacion_, salida_.Opciones, entorno_.Servicios},
+        reportes::ui::qt::DibujoDeHoja(escaleras.Estado().Hoja,
+                                       [&](dibujo::Lienzo& lienzo, dibujo::escalera::HojaEscalera& hoja) {
+                                           dibujo::escalera::RedibujeVista(lienzo, hoja,
+                                                                           escaleras.Calculada());
+                                       }),
+        &ventana)
         .exec();
 }
 
