@@ -10,8 +10,8 @@
 
 namespace trabex::helices::ui {
 
-/// Fields of a helical stair.
-enum class CampoEscaleraH : std::size_t { B, T, H, R, Angulo, W, Inter };
+/// Fields of a helical stair, in the order in which they stand.
+enum class CampoEscaleraH : std::size_t { H, B, T, R, Angulo, W, Inter };
 
 /// A helical stair as it is typed: the interval may be past the 16 bits that hold it.
 struct EntradaEscaleraH {

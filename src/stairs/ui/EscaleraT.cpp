@@ -2,19 +2,15 @@
 
 #include "stairs/Avisos.h"
 #include "stairs/CalcularEscaleraT.h"
+#include "stairs/ui/ClaseDeEscalera.h"
 #include "store/tablas/TablasEscalera.h"
 
 namespace trabex::escaleras::ui {
 
 namespace {
 
-constexpr programa::ClaseDeElemento ClaseEscaleraT{
-    almacen::tablas::ConsultaListaEscalerasT,
-    almacen::tablas::TablasDeEscaleraT,
-    {"La Escalera: ", "La Escalera ya Existe en el Proyecto...", "Creando Nueva Escalera..."},
-    {"Escalera: ", "¿Esta Usted Seguro de Eliminar la Escalera del Proyecto?", "Eliminar Escalera..."},
-    {"Este Nombre ya Existe en las Escaleras del Proyecto...", "Renombrar la Escalera: "},
-};
+constexpr programa::ClaseDeElemento ClaseEscaleraT =
+    ClaseDeEscalera(almacen::tablas::ConsultaListaEscalerasT, almacen::tablas::TablasDeEscaleraT);
 
 }  // namespace
 

@@ -1,29 +1,23 @@
 #include "stairs/ui/qt/VentanaEscaleraTG.h"
 
-#include <QFormLayout>
-#include <QGroupBox>
-#include <QLabel>
-#include <QVBoxLayout>
+#include <array>
 
-#include "shell/qt/CampoNumero.h"
 #include "shell/qt/ComunVentanas.h"
 
 namespace trabex::escaleras::ui::qt {
 
 namespace {
 
-struct Rotulo {
-    const char* Marco;  ///< the frame that the field begins; null: it stands in the one before
-    const char* Texto;
-    bool Entero = false;
-};
-constexpr std::array<Rotulo, 6> Rotulos{{
-    {"Materiales", "Concreto (kgf/cm2)  F'c =", true},
-    {nullptr, "Refuerzo (kgf/cm2)  Fy =", true},
-    {nullptr, "Recubrimiento (m)  R ="},
-    {"Factor de Mayoración", "Factor Mayoración FS ="},
-    {"Factores de Minoración", "Por Momentos Fi ="},
-    {nullptr, "Por Corte Fi ="},
+using programa::qt::ClaseNumero;
+using programa::qt::EnteroDe32;
+
+constexpr std::array<RotuloDeCampo, 6> Rotulos{{
+    {"Materiales", "Concreto (kgf/cm2)  F'c =", EnteroDe32},
+    {nullptr, "Refuerzo (kgf/cm2)  Fy =", EnteroDe32},
+    {nullptr, "Recubrimiento (m)  R =", ClaseNumero{}},
+    {"Factor de Mayoración", "Factor Mayoración FS =", ClaseNumero{}},
+    {"Factores de Minoración", "Por Momentos Fi =", ClaseNumero{}},
+    {nullptr, "Por Corte Fi =", ClaseNumero{}},
 }};
 
 }  // namespace
@@ -35,55 +29,20 @@ VentanaEscaleraTG::VentanaEscaleraTG(programa::Aplicacion& aplicacion, almacen::
                    *this) {
     setObjectName("EscaleraTG");
     setWindowTitle("DATOS GENERALES");
-    Armar(aplicacion.SeparadoresLocales);
-    Mostrar(operaciones_.Mostrar());
-    programa::qt::PrepararVentana(this, aplicacion.Preferencias);
-}
-
-void VentanaEscaleraTG::Armar(const Separadores& separadores) {
     auto* columna = new QVBoxLayout(this);
-    QFormLayout* formulario = nullptr;
-    for (std::size_t i = 0; i < Rotulos.size(); ++i) {
-        if (Rotulos[i].Marco != nullptr) {
-            auto* marco = new QGroupBox(Rotulos[i].Marco, this);
-            formulario = new QFormLayout(marco);
-            columna->addWidget(marco);
-        }
-        campos_[i] = new programa::qt::CampoNumero(
-            Rotulos[i].Entero ? programa::qt::EnteroDe32 : programa::qt::ClaseNumero{}, separadores, this);
-        auto* etiqueta = new QLabel(Rotulos[i].Texto, this);
-        etiqueta->setMinimumWidth(etiqueta->fontMetrics().horizontalAdvance(Rotulos[0].Texto) + 8);
-        formulario->addRow(etiqueta, campos_[i]);
-    }
-    columna->addStretch(1);
+    campos_.emplace(Rotulos, aplicacion.SeparadoresLocales, *columna, this);
     columna->addLayout(programa::qt::FilaAceptarCancelar(this, [this] {
         if (operaciones_.Aceptar(Entrados())) accept();
     }));
-}
-
-void VentanaEscaleraTG::Mostrar(const EntradaEscaleraTG& v) {
-    const std::array<double, 6> valores{
-        static_cast<double>(v.FC), static_cast<double>(v.FY), v.D8, v.FS, v.FiMomento, v.FiCorte};
-    for (std::size_t i = 0; i < valores.size(); ++i) campos_[i]->PonerValor(valores[i]);
+    const EntradaEscaleraTG v = operaciones_.Mostrar();
+    campos_->Poner({1.0 * v.FC, 1.0 * v.FY, v.D8, v.FS, v.FiMomento, v.FiCorte});
+    programa::qt::PrepararVentana(this, aplicacion.Preferencias);
 }
 
 EntradaEscaleraTG VentanaEscaleraTG::Entrados() const {
     using enum CampoEscaleraTG;
-    const auto valor = [&](CampoEscaleraTG campo) {
-        return campos_[static_cast<std::size_t>(campo)]->Valor();
-    };
-    return {static_cast<std::int32_t>(valor(FC)),
-            static_cast<std::int32_t>(valor(FY)),
-            valor(D8),
-            valor(FS),
-            valor(FiMomento),
-            valor(FiCorte)};
-}
-
-void VentanaEscaleraTG::Enfocar(CampoEscaleraTG campo) {
-    programa::qt::CampoNumero* elegido = campos_[static_cast<std::size_t>(campo)];
-    elegido->setFocus();
-    elegido->selectAll();
+    const CamposDeEscalera& c = *campos_;
+    return {c.Entero(FC), c.Entero(FY), c.Valor(D8), c.Valor(FS), c.Valor(FiMomento), c.Valor(FiCorte)};
 }
 
 }  // namespace trabex::escaleras::ui::qt

@@ -1,14 +1,11 @@
 #pragma once
 
 #include <QDialog>
-#include <array>
+#include <optional>
 
 #include "shell/Aplicacion.h"
 #include "stairs/ui/EscaleraTG.h"
-
-namespace trabex::programa::qt {
-class CampoNumero;
-}
+#include "stairs/ui/qt/CamposDeEscalera.h"
 
 namespace trabex::escaleras::ui::qt {
 
@@ -19,14 +16,12 @@ class VentanaEscaleraTG : public QDialog, private PantallaDeCampos<CampoEscalera
                       programa::CajaMensajes& caja, QWidget* padre);
 
   private:
-    void Enfocar(CampoEscaleraTG campo) override;
-    void Armar(const Separadores& separadores);
-    void Mostrar(const EntradaEscaleraTG& valores);
+    void Enfocar(CampoEscaleraTG campo) override { campos_->Enfocar(campo); }
     EntradaEscaleraTG Entrados() const;
 
     bool guardados_ = false;
     EscaleraTG operaciones_;
-    std::array<programa::qt::CampoNumero*, 6> campos_{};
+    std::optional<CamposDeEscalera> campos_;
 };
 
 }  // namespace trabex::escaleras::ui::qt
