@@ -108,6 +108,7 @@ struct FilaDeTabla {
     std::vector<almacen::Valor>
         Celdas;              ///< one a column; a number stays a number in outputs that know numbers
     bool Destacada = false;  ///< totals: bold, under a rule
+    bool Rotulo = false;     ///< its first cell is a text over the width of the table: a line between rows
 };
 
 /// How a table looks on pages.

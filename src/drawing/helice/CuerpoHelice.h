@@ -1,0 +1,58 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+#include "drawing/helice/Perspectiva.h"
+#include "helical/DatosEscaleraH.h"
+
+namespace trabex::dibujo::helice {
+
+/// Direction in plan of an angle of the flight, degrees from its foot. It is exact at the quarters of a turn.
+struct Direccion {
+    double Coseno;
+    double Seno;
+};
+Direccion DireccionEn(double grados);
+
+/// What a drawing needs of a flight: nothing is drawn of one for which this does not hold.
+bool TieneMedidas(const helices::DatosEscaleraH& escalera);
+
+/// The flight as a figure. Its foot is at 0 degrees, at the right of who looks; it comes towards him as it
+/// rises. The inner edge of a flight that is wider than two radii is its axis.
+class CuerpoHelice {
+  public:
+    explicit CuerpoHelice(const helices::DatosEscaleraH& escalera);
+
+    double RadioExterior() const { return exterior_; }
+    double RadioInterior() const { return interior_; }
+    double RadioDelEje() const { return escalera_.R; }
+    /// The last whole degree of the edges.
+    int Grados() const { return grados_; }
+
+    /// A point `sobre` m above the surface between both edges.
+    Punto3 En(double radio, double grados, double sobre = 0) const;
+
+    /// Steps of 17.5 cm or so, for the picture alone; none on a flight that does not rise.
+    int Peldanos() const { return peldanos_; }
+    double GradosDePeldano() const { return static_cast<double>(grados_) / peldanos_; }
+
+    enum class Parte : std::uint8_t { Huella, Contrahuella, Costado, Losa, Fondo };
+    struct Cara {
+        std::array<Punto3, 4> Vertices;  ///< in the order in which they turn left when seen from outside
+        std::array<bool, 4> Aristas;     ///< whether the side from each vertex to the next is an edge
+        Parte De;
+    };
+    /// All that bounds the flight: slab, sides, steps, both ends.
+    std::vector<Cara> Caras() const;
+
+  private:
+    helices::DatosEscaleraH escalera_;
+    double exterior_;
+    double interior_;
+    int grados_;
+    int peldanos_;
+};
+
+}  // namespace trabex::dibujo::helice
