@@ -64,6 +64,9 @@ std::string Faltas(const LienzoGrabador& lienzo) {
             if (SeTocan(a, PiezaDe(lienzo.Textos[k]), Roce * lienzo.Textos[i].Medida.Alto))
                 faltas += "met: " + lienzo.Textos[i].Texto + " and " + lienzo.Textos[k].Texto + "\n";
     }
+    for (const auto& flecha : lienzo.DeColor({248, 199, 199}))
+        for (const PuntoLienzo punto : flecha.Puntos)
+            if (punto.x < 0 || punto.x > lienzo.ScaleWidth()) faltas += "an arrow leaves the canvas\n";
     return faltas;
 }
 
@@ -102,7 +105,7 @@ TEST_P(Rejilla, NingunTextoPisaOtroNiSale) {
 
 INSTANTIATE_TEST_SUITE_P(Superficies, Rejilla,
                          testing::Values(SuperficieDePrueba{"screen", 1120, 632, 96, false},
-                                         SuperficieDePrueba{"small", 850, 560, 96, false},
+                                         SuperficieDePrueba{"small", 555, 464, 96, false},
                                          SuperficieDePrueba{"report", 940, 580, 96, false},
                                          SuperficieDePrueba{"report letter", 931, 581, 96, false},
                                          SuperficieDePrueba{"report letter upright", 691, 821, 96, false},

@@ -10,7 +10,7 @@ struct EstiloEscalera {
     ReglaDeEscala Geometria;
     double MetrosDeGeometria;  ///< that the geometry needs in height beside two widths and the rise
     ReglaDeEscala Tablas;      ///< of the sheets of forces and design
-    double MargenDeTablas;     ///< above them, as a part of the height: the page's furniture
+    double MargenDeTablas;     ///< above and below them, as a part of the height: the page's furniture
     ReglaDeEscala Reacciones;
     bool MinimoEnCentimetros;  ///< the captions of minimum steel are true; on the screen they follow the zoom
 };

@@ -12,7 +12,7 @@ using escaleras::DatosEscaleraT;
 using escaleras::Peldanos;
 
 constexpr double LetraDeCotas = 8;
-constexpr std::int32_t PixelesALaCota = 12;
+constexpr std::int32_t PixelesALaCota = 8;
 
 Encuadre EncuadreDe(const Lienzo& lienzo, const DatosEscaleraT& e, const EstiloEscalera& estilo) {
     const double alto = ((e.B + e.B) + e.H) + estilo.MetrosDeGeometria;

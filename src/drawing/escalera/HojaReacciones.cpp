@@ -28,7 +28,8 @@ Encuadre EncuadreDe(const Lienzo& lienzo, const DatosEscaleraT& e, const EstiloE
 }
 
 /// A support with what it takes: its block, open below, and the arrows of the forces on it. The stair pulls
-/// the upper support toward it and pushes the lower one away.
+/// the upper support toward it and pushes the lower one away. Arrows and values that find no room at the
+/// stair's left stand over it, on the canvas's edge.
 class Apoyo {
   public:
     Apoyo(const Plano& plano, double x, double abajo)
@@ -45,24 +46,24 @@ class Apoyo {
 
     /// Arrow down on the block's left corner, and the value turned at its left. Returns its highest row.
     std::int32_t DibujarVertical(const std::string& valor) const {
-        const std::int32_t punta = p_.Fila(abajo_);
-        DibujeFlechaDiagonal(p_.ElLienzo(), canto_, punta, HaciaAbajo, ColorFlecha, p_.Escala());
         const MedidaTexto medida = p_.ElLienzo().Medir(valor);
-        const double ancho = 0.101 * p_.Escala() + p_.Unidades(2) + medida.Alto / 2.0;
+        const double ancho = 0.101 * p_.Escala() + p_.Unidades(2) + medida.Alto;
+        const std::int32_t x = std::max(canto_, Pixeles(ancho));
+        const std::int32_t punta = p_.Fila(abajo_);
+        DibujeFlechaDiagonal(p_.ElLienzo(), x, punta, HaciaAbajo, ColorFlecha, p_.Escala());
         const double centro = punta - std::max(LargoDeFlecha * p_.Escala(), 1.0 * medida.Ancho) / 2;
-        p_.EscribirCentrado(valor, std::max(canto_ - ancho, medida.Alto / 2.0 + 1), centro, 90);
+        p_.EscribirCentrado(valor, x - ancho + medida.Alto / 2.0, centro, 90);
         return std::min(Pixeles(centro - medida.Ancho / 2.0), punta - Pixeles(LargoDeFlecha * p_.Escala()));
     }
 
     void DibujarHorizontal(const std::string& valor, bool haciaLaEscalera) const {
         const std::int32_t fila = p_.Fila(abajo_ + AltoDeApoyo / 2);
         const std::int32_t largo = Pixeles(LargoDeFlecha * p_.Escala());
-        const std::int32_t cerca = canto_ - p_.Unidades(2);
+        const std::int32_t cerca =
+            std::max({canto_ - p_.Unidades(2), largo, p_.ElLienzo().Medir(valor).Ancho});
         DibujeFlechaDiagonal(p_.ElLienzo(), haciaLaEscalera ? cerca : cerca - largo, fila,
                              haciaLaEscalera ? HaciaDerecha : HaciaIzquierda, ColorFlecha, p_.Escala());
-        const std::int32_t bajo = fila + Pixeles(0.101 * p_.Escala()) + p_.Unidades(1);
-        // A surface that is higher than wide has no room at the stair's left.
-        p_.Escribir(valor, Ancla::Derecha, std::max(cerca, p_.ElLienzo().Medir(valor).Ancho), bajo);
+        p_.Escribir(valor, Ancla::Derecha, cerca, fila + Pixeles(0.101 * p_.Escala()) + p_.Unidades(1));
     }
 
   private:

@@ -24,13 +24,15 @@ Plano EmpezarTabla(Lienzo& lienzo, HojaEscalera& hoja, const DatosEscaleraT& e,
     Plano p =
         Encuadrar(lienzo, hoja.Vista, estilo.Medio, {escala, estilo.MargenDeTablas, MetrosSobreSeccion});
     DibujeSeccion(p, e, escaleras::PeldanosDe(e), 0, Tramos::Superior);
-    p.Letra(LetraDeTabla);
     return p;
 }
 
-SitioDeTabla SitioDe(const Plano& p, const HojaEscalera& hoja, const DatosEscaleraT& e, double hastaRotulos) {
+SitioDeTabla SitioDe(const Plano& p, const HojaEscalera& hoja, const DatosEscaleraT& e,
+                     const EstiloEscalera& estilo, double hastaRotulos) {
+    const double alto = p.ElLienzo().ScaleHeight() * (1 - 2 * estilo.MargenDeTablas);
     return {(e.H / 2 + BajoSeccion) * p.Escala() + hoja.Vista.OrigenY,
             1.0 * p.Fila(e.H / 2 + std::max(e.HT, e.Hd)),
+            p.Fila(-MetrosSobreSeccion) + alto * hoja.Vista.Zoom,
             p.X(-escaleras::LongitudEnPlanta(e) / 2) - hastaRotulos};
 }
 
@@ -40,14 +42,14 @@ void DibujeSolicitaciones(Lienzo& lienzo, HojaEscalera& hoja, const EscaleraCalc
                           const EstiloEscalera& estilo) {
     const Plano p = EmpezarTabla(lienzo, hoja, escalera.Datos, estilo);
     DibujeTabla(p, escalera.Datos, FilasDeSolicitaciones(escalera, hoja.Numeros),
-                SitioDe(p, hoja, escalera.Datos, 0.16 * p.Escala()));
+                SitioDe(p, hoja, escalera.Datos, estilo, 0.16 * p.Escala()));
 }
 
 void DibujeDiseno(Lienzo& lienzo, HojaEscalera& hoja, const EscaleraCalculada& escalera,
                   const EstiloEscalera& estilo) {
     const DatosEscaleraT& e = escalera.Datos;
     const Plano p = EmpezarTabla(lienzo, hoja, e, estilo);
-    DibujeTabla(p, e, FilasDeDiseno(escalera, hoja.Numeros), SitioDe(p, hoja, e, p.Unidades(15)));
+    DibujeTabla(p, e, FilasDeDiseno(escalera, hoja.Numeros), SitioDe(p, hoja, e, estilo, p.Unidades(15)));
     const double unidades = estilo.MinimoEnCentimetros ? 100 : FactorDePantalla * p.Escala();
     const escaleras::RotulosDeMinimo minimos = RotulosDeAceroMinimo(escalera, unidades, hoja.Numeros);
     // Beside the section, over its lower half: below the table of a high stair there is no line left.

@@ -21,6 +21,7 @@ using escaleras::LugarDeCifra;
 constexpr double SobreBase = 0.04;  // m from the base line to a number above it
 constexpr double BajoBase = 0.05;
 constexpr std::int32_t PixelesEntreFilas = 3;
+constexpr double LetraMenor = 6;  // points
 constexpr Color TintaFalla{255, 0, 0};
 constexpr Color TintaRegla{200, 206, 210};
 
@@ -62,26 +63,31 @@ struct FilaMedida {
 
 class Tabla {
   public:
-    Tabla(const Plano& plano, const std::vector<double>& columnas, const SitioDeTabla& sitio)
+    /// The table in the current font.
+    Tabla(const Plano& plano, const std::vector<double>& columnas, const SitioDeTabla& sitio,
+          const std::vector<FilaDeHoja>& filas)
         : p_(plano),
           sitio_(sitio),
           alto_(plano.ElLienzo().Medir("WW").Alto),
           columnas_(Repartir(columnas, alto_)),
           finDeRotulos_(std::min(sitio.FinDeRotulos,
-                                 columnas_.front() - alto_ / 2 - plano.Unidades(PixelesEntreFilas))) {}
+                                 columnas_.front() - alto_ / 2 - plano.Unidades(PixelesEntreFilas))) {
+        for (const FilaDeHoja& fila : filas) filas_.push_back(Medir(fila));
+        UbicarFilas();
+    }
 
-    void Dibujar(const std::vector<FilaDeHoja>& filas) const {
-        std::vector<FilaMedida> medidas;
-        medidas.reserve(filas.size());
-        for (const FilaDeHoja& fila : filas) medidas.push_back(Medir(fila));
-        UbicarFilas(medidas);
-        for (const FilaMedida& fila : medidas) {
+    bool Cabe() const {
+        const FilaMedida& ultima = filas_.back();
+        return ultima.Base + std::max(ultima.Bajo, ultima.MedioRotulo) <= sitio_.Hasta;
+    }
+
+    void Dibujar() const {
+        for (const FilaMedida& fila : filas_) {
             DibujarRegla(fila);
             DibujarRotulo(fila);
             for (const LineaDeCifras& linea : fila.Fila.Lineas) DibujarLinea(linea, fila.Base);
         }
-        const FilaMedida& ultima = medidas.back();
-        DibujarDivision(medidas.front().Base - medidas.front().Sobre, ultima.Base + ultima.Bajo);
+        DibujarDivision(filas_.front().Base - filas_.front().Sobre, filas_.back().Base + filas_.back().Bajo);
     }
 
   private:
@@ -104,11 +110,11 @@ class Tabla {
         return medida;
     }
 
-    void UbicarFilas(std::vector<FilaMedida>& filas) const {
+    void UbicarFilas() {
         const double aire = p_.Unidades(PixelesEntreFilas);
         double cifras = sitio_.Libre;
         double rotulos = sitio_.Libre;
-        for (FilaMedida& fila : filas) {
+        for (FilaMedida& fila : filas_) {
             const double propia = sitio_.Arriba + fila.Fila.Desfase * p_.Escala();
             fila.Base = std::max({propia, cifras + aire + fila.Sobre, rotulos + fila.MedioRotulo});
             cifras = fila.Base + fila.Bajo;
@@ -161,13 +167,19 @@ class Tabla {
     double alto_;  // of a line of text
     std::vector<double> columnas_;
     double finDeRotulos_;  // clear of the first column
+    std::vector<FilaMedida> filas_;
 };
 
 }  // namespace
 
 void DibujeTabla(const Plano& plano, const DatosEscaleraT& escalera, const std::vector<FilaDeHoja>& filas,
                  const SitioDeTabla& sitio) {
-    Tabla(plano, ColumnasDe(plano, escalera), sitio).Dibujar(filas);
+    const std::vector<double> columnas = ColumnasDe(plano, escalera);
+    for (double letra = LetraDeTabla;; letra -= 0.5) {
+        plano.Letra(letra);
+        const Tabla tabla(plano, columnas, sitio, filas);
+        if (tabla.Cabe() || letra <= LetraMenor) return tabla.Dibujar();
+    }
 }
 
 }  // namespace trabex::dibujo::escalera
