@@ -78,7 +78,12 @@ class Tabla {
 
     bool Cabe() const {
         const FilaMedida& ultima = filas_.back();
-        return ultima.Base + std::max(ultima.Bajo, ultima.MedioRotulo) <= sitio_.Hasta;
+        return ultima.Base + std::max(ultima.Bajo, ultima.MedioRotulo) <= sitio_.Hasta &&
+               std::all_of(filas_.begin(), filas_.end(), [&](const FilaMedida& fila) {
+                   return std::all_of(fila.Rotulo.begin(), fila.Rotulo.end(), [&](const std::string& linea) {
+                       return p_.ElLienzo().Medir(linea).Ancho <= finDeRotulos_;
+                   });
+               });
     }
 
     void Dibujar() const {
