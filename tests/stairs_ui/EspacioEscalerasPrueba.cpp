@@ -27,10 +27,13 @@ struct PantallaGuiada : PantallaEspacio, PantallaEscaleraT {
     void PonerTitulo(const std::string& titulo) override { Titulo = titulo; }
     void PonerEstado(const std::string&) override {}
     void PonerEncabezado(const std::string& texto) override { Encabezado = texto; }
-    void LlenarLista(const std::vector<std::string>& nombres) override { Filas = nombres; }
+    void LlenarLista(const std::vector<std::string>& nombres) override {
+        Filas = nombres;
+        Fallan.clear();
+    }
     void MarcarFila(int fila) override { Marcada = fila; }
     void PonerAvisos(const Avisos& avisos) override { Anotados = avisos.size(); }
-    void MarcarFalla(int, bool falla) override { Falla = falla; }
+    void MarcarFalla(int fila, bool falla) override { Fallan[fila] = falla; }
     void RestablecerVista() override { ++Restablecida; }
     void Redibujar() override { ++Dibujos; }
     void MostrarRenombrar(programa::Renombrar& operaciones) override { operaciones.Aceptar(NombreNuevo); }
@@ -45,7 +48,7 @@ struct PantallaGuiada : PantallaEspacio, PantallaEscaleraT {
     int Marcada = 0, Restablecida = 0, Dibujos = 0;
     int Hoja = dibujo::escalera::VistaReacciones;
     std::size_t Anotados = 0;
-    bool Falla = false;
+    std::map<int, bool> Fallan;
     std::function<bool()> Nueva, General, TituloNuevo;
     std::function<void(const TrabajoEscaleraT&)> Datos;
 };
@@ -124,8 +127,12 @@ TEST_F(EspacioEscaleras, AlAbrirSeVeLaPrimera) {
     const int antes = vista.Restablecida;
     espacio.ElegirHoja(dibujo::escalera::VistaDiseno);
     EXPECT_EQ(vista.Restablecida, antes + 1);
-    dialogos.Elegidos = {Proyecto("otra.los", "INSERT INTO EscaleraTDatos VALUES ('Z', '');")};
+    dialogos.Elegidos = {Proyecto("otra.los",
+                                  "INSERT INTO EscaleraTDatos VALUES ('Z', ''), ('Z2', '');"
+                                  "INSERT INTO EscaleraT VALUES ('Z2', 4, 1, 1.2, 0.3, 0.08,"
+                                  " 9000, 9000, 9000);")};
     espacio.Lista().AbrirProyecto();
+    EXPECT_TRUE(!vista.Fallan[1] && vista.Fallan[2]);  // its landing fails in shear, and it is not selected
     EXPECT_EQ(vista.Encabezado, "ESCALERA: Z");
     EXPECT_EQ(vista.Hoja, dibujo::escalera::VistaGeometria);
     EXPECT_EQ(espacio.Estado().Hoja.VistaActual, dibujo::escalera::VistaGeometria);
@@ -177,12 +184,17 @@ TEST_F(EspacioEscaleras, EditarYDatosGeneralesCalculanDeNuevo) {
         EscaleraTG ventana(aplicacion.Proyecto.ConexionProyecto, ClaseEscalera::Autoportante,
                            aplicacion.Generales, guardados, caja, sinFoco);
         EntradaEscaleraTG entrados = ventana.Mostrar();
-        entrados.FS = 3.1;
+        entrados.FS = 6.2;
         EXPECT_TRUE(ventana.Aceptar(entrados));
         return guardados;
     };
     espacio.DatosGenerales();
-    EXPECT_GT(espacio.Estado().Resultados.TramoT[10].AsSuperior, 1.9 * antes);
+    EXPECT_GT(espacio.Estado().Resultados.TramoT[10].AsSuperior, 3.9 * antes);
+    EXPECT_TRUE(vista.Fallan[1]);
+    vista.Nueva = [&] { return Agregar("C", ""); };
+    vista.Datos = [](const TrabajoEscaleraT&) {};
+    espacio.Nueva();
+    EXPECT_FALSE(vista.Fallan[3]);  // it shows A's numbers, and fails for none of its own
 }
 
 /// A save that the store refuses keeps the window open and the working values as they were.

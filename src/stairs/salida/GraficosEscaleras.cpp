@@ -4,9 +4,7 @@
 
 #include "base/Texto.h"
 #include "reports/montaje/AlbumGraficos.h"
-#include "stairs/CalcularEscaleraT.h"
-#include "store/Posicion.h"
-#include "store/tablas/TablasEscalera.h"
+#include "stairs/salida/RecorrerEscaleras.h"
 
 namespace trabex::escaleras::salida {
 
@@ -57,19 +55,6 @@ class Montaje {
     dibujo::escalera::HojaEscalera hoja_;
 };
 
-void AgregarTodas(const ProyectoParaReporte& origen, Montaje& montaje) {
-    almacen::Recordset& lista = origen.Proyecto.RegistrosProyecto;
-    const auto posicion = almacen::PosicionGuardada(lista);
-    for (int fila = 1; fila <= lista.NumeroRegistros(); ++fila) {
-        lista.MoverA(fila);
-        DatosEscaleraT escalera;
-        ResultadosEscaleraT resultados;
-        almacen::tablas::LeaDatosEscalera(origen.Proyecto, escalera);
-        CalcularEscaleraT(escalera, origen.Actual.Generales, resultados);
-        montaje.Agregar({escalera, origen.Actual.Generales, resultados});
-    }
-}
-
 }  // namespace
 
 PedidoDeGraficos PedidoDe(std::uint8_t OpcionGrafico) {
@@ -101,7 +86,8 @@ bool GuardeGraficos(const montaje::EntornoReportes& entorno, const ProyectoParaR
                                      todas ? dibujos.size() : 1);
         Montaje montaje(album, dibujos, numeros);
         if (todas)
-            AgregarTodas(origen, montaje);
+            RecorrerEscaleras(origen.Proyecto, origen.Actual.Generales,
+                              [&](int, const EscaleraCalculada& escalera) { montaje.Agregar(escalera); });
         else
             montaje.Agregar(origen.Actual);
     }

@@ -2,6 +2,7 @@
 
 #include "stairs/Avisos.h"
 #include "stairs/CalcularEscaleraT.h"
+#include "stairs/salida/RecorrerEscaleras.h"
 #include "stairs/ui/ClaseDeEscalera.h"
 #include "store/tablas/TablasEscalera.h"
 
@@ -39,10 +40,11 @@ void EscaleraT::AlSeleccionar() {
 
 void EscaleraT::AlAgregar() {
     PonerEncabezado();
-    MostrarDatos(true);
+    const bool salvada = MostrarDatos(true);
     estado_.Abierta.Nombre = aplicacion_.Proyecto.RegistrosProyecto.Texto("Nombre");
     estado_.Abierta.Titulo = aplicacion_.Proyecto.RegistrosProyecto.Texto("Titulo");
     Calcular();
+    if (!salvada) espacio_.MarcarFalla(lista_.Fila(), false);  // what is shown is not its own
 }
 
 void EscaleraT::AlVaciar() {
@@ -50,6 +52,13 @@ void EscaleraT::AlVaciar() {
     estado_.Resultados = {};
     espacio_.PonerAvisos({});
     lista_.Redibujar();
+}
+
+void EscaleraT::AlLlenar() {
+    salida::RecorrerEscaleras(aplicacion_.Proyecto, aplicacion_.Generales,
+                              [this](int fila, const EscaleraCalculada& escalera) {
+                                  espacio_.MarcarFalla(fila, HayFalla(AvisosDe(escalera)));
+                              });
 }
 
 void EscaleraT::PonerEncabezado() {
@@ -79,7 +88,9 @@ void EscaleraT::Editar() {
 }
 
 void EscaleraT::DatosGenerales() {
-    if (pantalla_.MostrarEscaleraTG()) Calcular();
+    if (!pantalla_.MostrarEscaleraTG()) return;
+    Calcular();
+    AlLlenar();
 }
 
 void EscaleraT::Titulo() {

@@ -55,6 +55,8 @@ class EscaleraT : private programa::ElementoDeLista {
     /// stair that was selected before, until a row is selected again.
     void AlAgregar() override;
     void AlVaciar() override;
+    /// Each stair is calculated: an engineer sees at opening which of them fail.
+    void AlLlenar() override;
     void PonerEncabezado();
     void Calcular();
     /// Shows the data window; true when it saved.
