@@ -18,10 +18,10 @@ struct SitioDeTabla {
     double FinDeRotulos;  ///< its labels end there
 };
 
-/// Draws rows of numbers under the stations of a flight and its landing, each number turned and centred on its
-/// column, and each label level and centred on its row's base. Columns that are closer together than lines of
-/// text move apart, and rows move down, as far as the numbers need not to meet; where they would then leave
-/// the canvas, all is written smaller.
+/// Draws rows of numbers under the stations of a flight and its landing, each number turned and centred on
+/// its column, and each label level and centred on its row's base. Columns that are closer together than
+/// lines of text move apart, and rows move down, as far as the numbers need not to meet; where they would
+/// then leave the canvas, all is written smaller.
 void DibujeTabla(const Plano& plano, const escaleras::DatosEscaleraT& escalera,
                  const std::vector<escaleras::FilaDeHoja>& filas, const SitioDeTabla& sitio);
 
