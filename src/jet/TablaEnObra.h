@@ -1,0 +1,40 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "jet/Filas.h"
+#include "jet/Indice.h"
+#include "jet/Paginas.h"
+#include "jet/Tabla.h"
+
+namespace trabex::jet {
+
+/// A table that takes rows, and then writes its definition.
+class TablaEnObra {
+  public:
+    enum class Clase : char { Usuario = 'N', Sistema = 'S' };
+
+    /// `definicion` is its first page, which is there.
+    TablaEnObra(Paginas& paginas, std::uint32_t definicion, std::vector<Columna> columnas, Clase clase,
+                std::vector<Indice> indices = {});
+
+    void Agregar(const Fila& fila);
+    /// Writes maps, trees and the definition; no row comes after it.
+    void Cerrar();
+
+    std::uint32_t Definicion() const { return definicion_; }
+
+  private:
+    Paginas& paginas_;
+    std::uint32_t definicion_;
+    std::vector<Columna> columnas_;
+    Clase clase_;
+    std::vector<Indice> indices_;
+    PaginasDeFilas filas_;
+    ValoresLargos largos_;
+    std::uint32_t cuantas_ = 0;
+};
+
+}  // namespace trabex::jet
