@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+
+namespace trabex::almacen::antiguo {
+
+/// The file's bytes begin as a Jet 3 or Jet 4 database does.
+bool EsBaseAntigua(const std::filesystem::path& camino);
+
+/// Reads a Jet database into a new file of the store's, with every table it holds, in a process of its own
+/// (`trabex-jet` in the program folder) that a deadline and limits hold. False, and no file, when it can't be
+/// read.
+bool CopiarBaseAntigua(const std::filesystem::path& programa, const std::filesystem::path& antigua,
+                       const std::filesystem::path& destino);
+
+/// What a conversion could not take.
+struct Perdidas {
+    std::size_t Tablas = 0;   ///< of the template, that the old file has not or that can't be read
+    std::size_t Valores = 0;  ///< past their column's range or width, or of another kind: null now
+};
+
+/// Makes `nueva` of the template, with the rows of an old project: each value by the type of the program's
+/// own column of its name, whatever its case. Nothing, and no file, when the old one can't be read or `nueva`
+/// exists.
+std::optional<Perdidas> ConvertirBaseAntigua(const std::filesystem::path& programa,
+                                             const std::filesystem::path& antigua,
+                                             const std::filesystem::path& plantilla,
+                                             const std::filesystem::path& nueva);
+
+}  // namespace trabex::almacen::antiguo

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <filesystem>
+
+namespace trabex::almacen::antiguo {
+
+/// Writes every table of a database of the store's as a Jet 4 database, whole in the place of what `destino`
+/// held or not at all. Throws ErrorEjecucion when it can't be read or written, or holds what no such database
+/// can.
+void EscribirJet(const std::filesystem::path& base, const std::filesystem::path& destino);
+
+}  // namespace trabex::almacen::antiguo

@@ -1,0 +1,89 @@
+#include "store/antiguo/Tipos.h"
+
+#include "store/Columna.h"
+#include "store/Dialecto.h"
+#include "store/antiguo/CopiaDeJet.h"
+
+namespace trabex::almacen::antiguo {
+
+namespace {
+
+using jet::Tipo;
+
+constexpr std::size_t MayorTexto = 255;
+
+std::string Texto(sqlite3_stmt* sentencia, int i) {
+    const unsigned char* datos = sqlite3_column_text(sentencia, i);
+    return datos == nullptr ? std::string() : std::string(reinterpret_cast<const char*>(datos));
+}
+
+jet::Columna PorDeclaracion(const Columna& columna) {
+    switch (columna.Tipo) {
+        case TipoColumna::Booleano:
+            return {columna.Nombre, Tipo::Logico};
+        case TipoColumna::Entero16:
+            return {columna.Nombre, Tipo::Entero};
+        case TipoColumna::Entero32:
+            return {columna.Nombre, Tipo::Largo};
+        case TipoColumna::Doble:
+            return {columna.Nombre, Tipo::Doble};
+        case TipoColumna::Dia:
+            return {columna.Nombre, Tipo::Fecha};
+        case TipoColumna::Binario:
+            return {columna.Nombre, Tipo::Ole};
+        case TipoColumna::Texto:
+            break;
+    }
+    if (columna.Ancho == 0 || columna.Ancho > MayorTexto) return {columna.Nombre, Tipo::Memo};
+    return {columna.Nombre, Tipo::Texto, static_cast<std::uint16_t>(columna.Ancho)};
+}
+
+/// Type, width, precision and scale by a column's place, as they were in the database that this is a copy of.
+std::map<int, jet::Columna> TiposAnotados(Motor& base, const std::string& tabla) {
+    std::map<int, jet::Columna> tipos;
+    const SentenciaSqlite lectura =
+        base.Preparar("SELECT Orden, Tipo, Ancho, Precision, Escala FROM " +
+                      Identificador(CopiaDeJet::TablaDeTipos) + " WHERE Tabla = ?");
+    if (!lectura) return tipos;
+    sqlite3_bind_text(lectura.get(), 1, tabla.data(), static_cast<int>(tabla.size()), SQLITE_STATIC);
+    const auto numero = [&](int i) { return sqlite3_column_int(lectura.get(), i); };
+    bool hayFila = false;
+    while (base.Avanzar(lectura.get(), hayFila) && hayFila)
+        tipos[numero(0)] = {"", static_cast<Tipo>(numero(1)), static_cast<std::uint16_t>(numero(2)),
+                            static_cast<std::uint8_t>(numero(3)), static_cast<std::uint8_t>(numero(4))};
+    return tipos;
+}
+
+}  // namespace
+
+std::vector<std::string> TablasDe(Motor& base) {
+    std::vector<std::string> tablas;
+    const SentenciaSqlite lectura = base.Preparar(
+        "SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite%' ORDER BY rowid");
+    bool hayFila = false;
+    while (lectura && base.Avanzar(lectura.get(), hayFila) && hayFila) {
+        tablas.push_back(Texto(lectura.get(), 0));
+        if (tablas.back() == CopiaDeJet::TablaDeTipos) tablas.pop_back();
+    }
+    return tablas;
+}
+
+std::vector<jet::Columna> ColumnasDe(Motor& base, const std::string& tabla) {
+    const std::map<int, jet::Columna> anotados = TiposAnotados(base, tabla);
+    const SentenciaSqlite lectura = base.Preparar("PRAGMA table_info(" + Identificador(tabla) + ")");
+    std::vector<jet::Columna> columnas;
+    bool hayFila = false;
+    while (lectura && base.Avanzar(lectura.get(), hayFila) && hayFila) {
+        const std::string nombre = Texto(lectura.get(), 1);
+        const auto anotado = anotados.find(static_cast<int>(columnas.size()));
+        if (anotado == anotados.end()) {
+            columnas.push_back(PorDeclaracion(LeerDeclaracion(nombre, Texto(lectura.get(), 2))));
+        } else {
+            columnas.push_back(anotado->second);
+            columnas.back().Nombre = nombre;
+        }
+    }
+    return columnas;
+}
+
+}  // namespace trabex::almacen::antiguo

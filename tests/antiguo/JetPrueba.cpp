@@ -1,0 +1,196 @@
+// Databases of the older format, written by the program and read by mdbtools: its library in the program's
+// own reader, and its commands.
+
+#include <chrono>
+#include <cstdlib>
+#include <fstream>
+#include <random>
+
+#include <gtest/gtest.h>
+
+#include "base/Archivos.h"
+#include "base/ErrorEjecucion.h"
+#include "jet/EscritorJet.h"
+#include "store/Mantenimiento.h"
+#include "store/antiguo/Convertir.h"
+#include "store/antiguo/EscribirJet.h"
+#include "support/BaseSqlite.h"
+#include "support/CarpetaTemporal.h"
+#include "support/ProyectoDePrueba.h"
+
+namespace {
+
+using namespace trabex;
+using namespace trabex::almacen::antiguo;
+using jet::Tipo;
+using prueba::CarpetaTemporal;
+using prueba::ConsultarSqlite;
+using prueba::FilaSqlite;
+
+const std::filesystem::path Programa = TRABEX_PROGRAMA;
+
+/// What one of mdbtools' commands prints.
+std::string Mdb(const std::string& orden) {
+    std::string texto;
+    FILE* salida = popen(orden.c_str(), "r");
+    std::array<char, 4096> trozo{};
+    while (const std::size_t leidos = std::fread(trozo.data(), 1, trozo.size(), salida))
+        texto.append(trozo.data(), leidos);
+    return pclose(salida) == 0 ? texto : "(" + orden + " fails)";
+}
+
+std::vector<std::string> Tablas(const std::filesystem::path& base) {
+    std::vector<std::string> nombres;
+    for (const FilaSqlite& fila : ConsultarSqlite(
+             base,
+             "SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite%' ORDER BY name"))
+        nombres.push_back(fila.at("name"));
+    return nombres;
+}
+
+std::vector<FilaSqlite> Filas(const std::filesystem::path& base, const std::string& tabla) {
+    return ConsultarSqlite(base, "SELECT * FROM \"" + tabla + "\"");
+}
+
+/// A project goes out as a Jet database and comes back the same, table by table and value by value.
+TEST(Jet, UnProyectoVaYVuelve) {
+    const CarpetaTemporal carpeta;
+    const std::filesystem::path ejemplo = Programa / "Imagen" / "Ejemplo Demostrativo.tbx";
+    EscribirJet(ejemplo, carpeta / "viejo.los");
+    EXPECT_TRUE(EsBaseAntigua(carpeta / "viejo.los"));
+    EXPECT_FALSE(EsBaseAntigua(ejemplo));
+    const std::optional<Perdidas> perdidas = ConvertirBaseAntigua(
+        Programa, carpeta / "viejo.los", Programa / "Imagen" / "LosaImagen.tbx", carpeta / "nuevo.los");
+    ASSERT_TRUE(perdidas);
+    EXPECT_EQ(perdidas->Tablas + perdidas->Valores, 0U);
+    std::size_t filas = 0;
+    for (const std::string& tabla : Tablas(ejemplo)) {
+        EXPECT_EQ(Filas(carpeta / "nuevo.los", tabla), Filas(ejemplo, tabla)) << tabla;
+        filas += Filas(ejemplo, tabla).size();
+    }
+    EXPECT_GT(filas, 50U);
+    const std::string schema = Mdb("mdb-schema -T LosaTramos '" + (carpeta / "viejo.los").string() + "'");
+    EXPECT_NE(schema.find("[Nombre]\t\t\tText (60)"), std::string::npos) << schema;
+    EXPECT_FALSE(Existe(carpeta / "nuevo.los.copia"));
+}
+
+/// Every type at its ends, nulls, texts of any script, long values over many pages, more columns than a
+/// definition's page holds and more pages than a map's row.
+TEST(Jet, TodoTipoDeValorSeLeeComoSeEscribio) {
+    const CarpetaTemporal carpeta;
+    constexpr int Cuantas = 400;
+    jet::EscritorJet escritor(jet::DiasDe(2026, 11, 26));
+    std::vector<jet::Columna> columnas{{"L", Tipo::Logico},      {"T", Tipo::Texto, 255}, {"By", Tipo::Byte},
+                                       {"E", Tipo::Entero},      {"La", Tipo::Largo},     {"M", Tipo::Moneda},
+                                       {"D", Tipo::Doble},       {"F", Tipo::Fecha},      {"Me", Tipo::Memo},
+                                       {"Bi", Tipo::Binario, 20}};
+    const std::size_t propias = columnas.size();
+    for (int i = 0; i < 100; ++i)
+        columnas.push_back({"Una columna de nombre largo " + std::to_string(i), Tipo::Entero});
+    escritor.AgregarTabla("Todo", columnas);
+    const auto memo = [](int i) { return std::string(static_cast<std::size_t>(i * 97 % 14000), 'x') + "ñ€"; };
+    const std::array<std::string, 4> textos{"", "ñandú ¿1/2?", "Ω漢字",
+                                            std::string(255, 'z')};
+    for (int i = 0; i < Cuantas; ++i) {
+        jet::Fila fila(columnas.size());
+        fila[0] = std::int64_t{i % 2};
+        if (i % 5 != 0) {
+            fila[1] = textos[static_cast<std::size_t>(i) % textos.size()];
+            fila[2] = std::int64_t{i % 2 == 0 ? 255 : 0};
+            fila[3] = std::int64_t{i % 2 == 0 ? -32768 : 32767};
+            fila[4] = std::int64_t{i % 2 == 0 ? -2147483648LL : 2147483647LL};
+            fila[5] = std::int64_t{12345} * i;
+            fila[6] = 1.0 / 3 * i;
+            fila[7] = jet::DiasDe(1900, 1, 1) + i;
+            fila[8] = memo(i);
+            fila[9] = std::string(static_cast<std::size_t>(i % 20), '\x7f');
+            fila[propias + 99] = std::int64_t{i};
+        }
+        escritor.AgregarFila(fila);
+    }
+    EXPECT_THROW(escritor.AgregarFila(jet::Fila(3)), ErrorEjecucion);
+    jet::Fila pasada(columnas.size());
+    pasada[3] = std::int64_t{32768};
+    EXPECT_THROW(escritor.AgregarFila(pasada), ErrorEjecucion);
+    prueba::EscribirArchivo(carpeta / "todo.mdb", escritor.Terminar());
+    EXPECT_GT(std::filesystem::file_size(carpeta / "todo.mdb"), 600U * 4096);
+
+    ASSERT_TRUE(CopiarBaseAntigua(Programa, carpeta / "todo.mdb", carpeta / "todo.db"));
+    const std::vector<FilaSqlite> filas = Filas(carpeta / "todo.db", "Todo");
+    ASSERT_EQ(filas.size(), static_cast<std::size_t>(Cuantas));
+    for (int i = 0; i < Cuantas; ++i) {
+        const FilaSqlite& fila = filas[static_cast<std::size_t>(i)];
+        EXPECT_EQ(fila.at("L"), std::to_string(i % 2));
+        const auto es = [&](const char* columna, const std::string& valor) {
+            EXPECT_EQ(fila.at(columna), i % 5 == 0 ? "NULL" : valor) << i << " " << columna;
+        };
+        const auto numero = [](double valor) {
+            std::array<char, 40> texto{};
+            std::snprintf(texto.data(), texto.size(), "%.17g", valor);
+            return std::string(texto.data());
+        };
+        es("T", textos[static_cast<std::size_t>(i) % textos.size()]);
+        es("By", i % 2 == 0 ? "255" : "0");
+        es("E", i % 2 == 0 ? "-32768" : "32767");
+        es("La", i % 2 == 0 ? "-2147483648" : "2147483647");
+        es("M", numero(12345.0 * i / 10000));
+        es("D", numero(1.0 / 3 * i));
+        es("F", numero(2 + i));
+        es("Me", memo(i));
+        es("Una columna de nombre largo 99", std::to_string(i));
+    }
+    const std::string contadas = Mdb("mdb-count '" + (carpeta / "todo.mdb").string() + "' Todo");
+    EXPECT_EQ(contadas, std::to_string(Cuantas) + "\n");
+}
+
+/// What the old file has that the program's columns refuse is null and counted; a table that it has not is
+/// counted.
+TEST(Jet, LoQueNoCabeSeCuenta) {
+    const CarpetaTemporal carpeta;
+    jet::EscritorJet escritor(40000);
+    escritor.AgregarTabla("losadatos",
+                          {{"NOMBRE", Tipo::Memo}, {"Bo", Tipo::Texto, 20}, {"Otra", Tipo::Entero}});
+    escritor.AgregarFila({std::string("L-1"), std::string("ancha"), std::int64_t{1}});
+    escritor.AgregarFila({std::string(300, 'n'), {}, std::int64_t{1}});
+    escritor.AgregarTabla("Proyecto", {{"Proyecto", Tipo::Texto, 50}, {"Fecha", Tipo::Fecha}});
+    escritor.AgregarFila({std::string("Torre"), jet::DiasDe(2003, 2, 28) + 0.75});
+    prueba::EscribirArchivo(carpeta / "viejo.los", escritor.Terminar());
+    const auto perdidas = ConvertirBaseAntigua(Programa, carpeta / "viejo.los",
+                                               Programa / "Imagen" / "LosaImagen.tbx", carpeta / "nuevo.los");
+    ASSERT_TRUE(perdidas);
+    EXPECT_EQ(perdidas->Valores, 2U);
+    EXPECT_EQ(perdidas->Tablas, Tablas(carpeta / "nuevo.los").size() - 2);
+    const std::vector<FilaSqlite> losas = Filas(carpeta / "nuevo.los", "LosaDatos");
+    ASSERT_EQ(losas.size(), 2U);
+    EXPECT_EQ(losas[0].at("Nombre") + losas[0].at("Bo") + losas[1].at("Nombre"), "L-1NULLNULL");
+    EXPECT_EQ(Filas(carpeta / "nuevo.los", "Proyecto").at(0).at("Fecha"), "2003-02-28");
+}
+
+/// Files cut short and with bytes changed: each ends in time, as a project or not at all, and is itself
+/// untouched. TRABEX_VUELTAS says how many.
+TEST(Jet, ArchivosDanadosNoPasanDeSuProceso) {
+    const CarpetaTemporal carpeta;
+    EscribirJet(Programa / "Imagen" / "Ejemplo Demostrativo.tbx", carpeta / "sano.los");
+    const std::string sano = prueba::LeerArchivo(carpeta / "sano.los");
+    const char* pedidas = std::getenv("TRABEX_VUELTAS");
+    std::mt19937 azar(7);
+    const auto cual = [&](std::size_t hasta) {
+        return std::uniform_int_distribution<std::size_t>(0, hasta - 1)(azar);
+    };
+    for (int i = 0; i < (pedidas == nullptr ? 60 : std::atoi(pedidas)); ++i) {
+        std::string roto = sano;
+        for (std::size_t golpes = 1 + cual(40); golpes > 0; --golpes)
+            roto[21 + cual(roto.size() - 21)] = static_cast<char>(cual(256));
+        if (i % 10 == 0) roto.resize(cual(roto.size()));
+        prueba::EscribirArchivo(carpeta / "roto.los", roto);
+        const auto antes = std::chrono::steady_clock::now();
+        const auto hecho = ConvertirBaseAntigua(
+            Programa, carpeta / "roto.los", Programa / "Imagen" / "LosaImagen.tbx", carpeta / "nuevo.los");
+        EXPECT_LT(std::chrono::steady_clock::now() - antes, std::chrono::seconds(70)) << i;
+        EXPECT_EQ(Existe(carpeta / "nuevo.los"), hecho.has_value()) << i;
+        EXPECT_EQ(prueba::LeerArchivo(carpeta / "roto.los"), roto) << i;
+        std::filesystem::remove(carpeta / "nuevo.los");
+    }
+}
+
+}  // namespace
