@@ -89,8 +89,7 @@ TEST(Jet, TodoTipoDeValorSeLeeComoSeEscribio) {
         columnas.push_back({"Una columna de nombre largo " + std::to_string(i), Tipo::Entero});
     escritor.AgregarTabla("Todo", columnas);
     const auto memo = [](int i) { return std::string(static_cast<std::size_t>(i * 97 % 14000), 'x') + "ñ€"; };
-    const std::array<std::string, 4> textos{"", "ñandú ¿1/2?", "Ω漢字",
-                                            std::string(255, 'z')};
+    const std::array<std::string, 4> textos{"", "ñandú ¿1/2?", "Ω漢字", std::string(255, 'z')};
     for (int i = 0; i < Cuantas; ++i) {
         jet::Fila fila(columnas.size());
         fila[0] = std::int64_t{i % 2};

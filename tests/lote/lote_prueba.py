@@ -14,6 +14,7 @@ import tempfile
 import unittest
 
 LOTE, IMAGEN = sys.argv[1], pathlib.Path(sys.argv[2])
+PLANTILLA, ESQUEMAS = sys.argv[3], pathlib.Path(sys.argv[4])
 
 
 def correr(*argumentos):
@@ -188,15 +189,29 @@ class Lote(unittest.TestCase):
         self.assertEqual(documento["EscaleraTG"]["FS"], 1.55)
         self.assertGreaterEqual(len(documento["losas"]), 8)
 
+    def test_un_proyecto_del_formato_anterior(self):
+        subprocess.run([PLANTILLA, "--jet", self.proyecto, ESQUEMAS / "LosaImagen.sql", ESQUEMAS / "Ejemplo Demostrativo.sql"],
+                       check=True)
+        antes = self.proyecto.read_bytes()
+        documento, resumen = self.resultados()
+        self.assertEqual((documento, resumen.split("Resultados:")[0]),
+                         (self.del_ejemplo()[0], self.del_ejemplo()[1].split("Resultados:")[0]))
+        self.assertEqual(self.proyecto.read_bytes(), antes)
+        self.proyecto.write_bytes(antes[:30000])
+        self.assertEqual(correr("--solo=resultados", self.proyecto, self.carpeta / "otra").returncode, 3)
+
     def planex(self):
-        """The exchange file's rows by table, as a program that only knows SQLite reads them."""
+        """The exchange file's rows by table, as mdbtools reads them."""
         archivo = self.carpeta / "salida" / "planex" / "Obra Año 1.cad"
         self.assertEqual([entrada.name for entrada in archivo.parent.iterdir()], [archivo.name])
-        base = sqlite3.connect(archivo)
+        copia = self.carpeta / "planex.db"
+        copia.unlink(missing_ok=True)
+        subprocess.run([pathlib.Path(LOTE).parent / "trabex-jet", archivo, copia], check=True)
+        base = sqlite3.connect(copia)
         base.row_factory = sqlite3.Row
         self.addCleanup(base.close)
-        return {tabla: [dict(fila) for fila in base.execute(f"SELECT * FROM {tabla}")]
-                for (tabla,) in base.execute("SELECT name FROM sqlite_master WHERE type = 'table'").fetchall()}
+        tablas = subprocess.run(["mdb-tables", "-1", archivo], check=True, capture_output=True, text=True).stdout.split()
+        return {tabla: [dict(fila) for fila in base.execute(f"SELECT * FROM {tabla}")] for tabla in tablas}
 
     def test_el_archivo_de_planex(self):
         self.sql("UPDATE LosaTramos SET LT = 6 WHERE Nombre = 'L-1 PLANTA BAJA' AND Numero = 1",

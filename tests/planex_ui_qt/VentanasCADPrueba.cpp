@@ -36,7 +36,7 @@ TEST_F(VentanasCAD, ElCuadroSoloEligeConSuPrimerBoton) {
 TEST_F(VentanasCAD, LoMarcadoEnLaListaLlegaAlArchivo) {
     aplicacion.Proyecto.RegistrosProyecto.MoverA(2);
     const auto archivo = carpeta / "obra.cad";
-    CrearBaseDatos(archivo, prueba::EsquemaCAD());
+    CopiarArchivo(carpetas.CaminoPrograma / "Imagen" / "ImagenCAD23.tbx", archivo);
     dialogos.Elegidos = {archivo};
     caja.Respuestas = {RespuestaSi};
     {
@@ -61,10 +61,7 @@ TEST_F(VentanasCAD, LoMarcadoEnLaListaLlegaAlArchivo) {
         EXPECT_FALSE(ventana.isVisible());
     }
     EXPECT_EQ(aplicacion.Proyecto.RegistrosProyecto.Posicion(), 2);
-    Conexion conexion;
-    Recordset filas;
-    AbrirConexion(conexion, archivo);
-    AbrirRecordset(conexion, filas, "LosaDatos");
+    const Recordset filas = Filas(archivo, "LosaDatos");
     ASSERT_EQ(filas.NumeroRegistros(), 1);
     EXPECT_EQ(filas.Texto("Nombre"), "B NERVADA");
 }

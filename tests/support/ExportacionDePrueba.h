@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "base/Archivos.h"
 #include "shell/Arranque.h"
+#include "store/antiguo/BaseEnJet.h"
+#include "store/antiguo/Convertir.h"
 #include "support/CarpetaTemporal.h"
 #include "support/LosasDePrueba.h"
 #include "support/ProyectoDePrueba.h"
@@ -15,17 +18,14 @@ using namespace almacen::tablas;
 using namespace losas;
 using namespace programa;
 
-/// The schema of an exchange file without data, as the program delivers it.
-inline std::string EsquemaCAD() {
-    return LeerArchivo(TRABEX_INSTALL "/Imagen/ImagenCAD.sql");
-}
-
 /// A connected project of three slabs: a solid one, a ribbed one with a cantilever, and one without spans.
 class Exportacion : public testing::Test {
   protected:
     Exportacion() : plataforma(carpeta.Camino()) {
+        const std::filesystem::path programa = TRABEX_PROGRAMA;
         for (const char* plantilla : {"ImagenCAD8.tbx", "ImagenCAD23.tbx"})
-            CrearBaseDatos(carpeta / "programa" / "Imagen" / plantilla, EsquemaCAD());
+            CopiarArchivo(programa / "Imagen" / plantilla, carpeta / "programa" / "Imagen" / plantilla);
+        std::filesystem::create_symlink(programa / "trabex-jet", carpeta / "programa" / "trabex-jet");
         PrepararArranque(plataforma, carpetas, aplicacion);
         aplicacion.ArchivoProyecto = carpetas.Proyectos() / "obra.los";
         aplicacion.NombreProyecto = "obra.los";
@@ -49,7 +49,25 @@ class Exportacion : public testing::Test {
         AbrirRecordset(proyecto.ConexionProyecto, proyecto.RegistrosProyecto, ConsultaListaLosas);
     }
 
+    /// An exchange file's rows.
+    Recordset Filas(const std::filesystem::path& archivo, const std::string& consulta) {
+        antiguo::CopiarBaseAntigua(carpetas.CaminoPrograma, archivo, carpeta / "leido.db");
+        AbrirConexion(conexion, carpeta / "leido.db");
+        Recordset filas;
+        AbrirRecordset(conexion, filas, consulta);
+        return filas;
+    }
+
+    /// What the drawing program does to its file.
+    void EnPlanex(const std::filesystem::path& archivo, const std::vector<std::string>& sentencias) {
+        antiguo::BaseEnJet base(carpetas.CaminoPrograma, archivo, carpeta / "planex.db");
+        for (const std::string& sentencia : sentencias)
+            EXPECT_TRUE(base.Conexion().Ejecutar(sentencia)) << sentencia;
+        base.Guardar(archivo);
+    }
+
     CarpetaTemporal carpeta;
+    Conexion conexion;
     PlataformaGuiada plataforma;
     CajaGuiada caja;
     DialogosGuiados dialogos;

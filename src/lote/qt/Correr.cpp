@@ -8,6 +8,7 @@
 
 #include "base/Archivos.h"
 #include "lote/Opciones.h"
+#include "lote/ProyectoLegible.h"
 #include "lote/Resumen.h"
 #include "lote/Terminal.h"
 #include "lote/qt/HojasLote.h"
@@ -118,10 +119,12 @@ bool HayCarpeta(const std::filesystem::path& carpeta) {
 int CalcularYEscribir(const Opciones& opciones, Modulos modulos) {
     const Marcha marcha{std::max(1U, std::thread::hardware_concurrency()), AvanceEnTerminal()};
     ProyectoCalculado calculado;
-    if (!CalcularProyecto(opciones.Proyecto, modulos, marcha, calculado)) {
+    const ProyectoLegible legible(CarpetaDelPrograma(), opciones.Proyecto);
+    if (!CalcularProyecto(legible.Camino(), modulos, marcha, calculado)) {
         std::cerr << "trabex-lote: no se puede abrir el proyecto " << opciones.Proyecto << '\n';
         return NoSePuedeAbrir;
     }
+    if (!legible.Aviso().empty()) std::cerr << "trabex-lote: " << legible.Aviso() << '\n';
     if (!HayCarpeta(opciones.Carpeta)) {
         std::cerr << "trabex-lote: no se puede escribir en " << opciones.Carpeta << '\n';
         return NoSePuedeEscribir;

@@ -133,6 +133,10 @@ void BorrarLosa(almacen::Conexion& destino, const std::string& nombre) {
 
 }  // namespace
 
+std::filesystem::path ArchivoDeTrabajo(std::filesystem::path destino) {
+    return destino += ".trabajo";
+}
+
 EjePlanex EjeParaPlanex(const losas::Losa& losa, std::size_t i) {
     const bool apoyado = EjeDe(losa, i).Tipo != losas::SinApoyo;
     const bool primero = i == 1;
@@ -218,15 +222,14 @@ void Exigir(bool escrito) {
 
 }  // namespace
 
-ArchivoNuevoPlanex::ArchivoNuevoPlanex(const std::filesystem::path& plantilla,
+ArchivoNuevoPlanex::ArchivoNuevoPlanex(const std::filesystem::path& programa, const char* plantilla,
                                        const std::filesystem::path& destino, const DatosDelProyecto& datos,
                                        const DatosGenerales& generales)
-    : archivo_(destino) {
-    CopiarArchivo(plantilla, archivo_.Provisional());
-    almacen::AbrirConexion(conexion_, archivo_.Provisional());
-    guardado_.emplace(conexion_);
-    tablas_.emplace(conexion_);
-    Exigir(EscribirProyectoPlanex(conexion_, datos, generales));
+    : destino_(destino), base_(programa, programa / "Imagen" / plantilla, ArchivoDeTrabajo(destino)) {
+    Exigir(base_.Conexion().Abierta());
+    guardado_.emplace(base_.Conexion());
+    tablas_.emplace(base_.Conexion());
+    Exigir(EscribirProyectoPlanex(base_.Conexion(), datos, generales));
 }
 
 void ArchivoNuevoPlanex::Agregar(const losas::Losa& losa, const losas::ResultadosLosa& resultados) {
@@ -237,8 +240,7 @@ void ArchivoNuevoPlanex::Colocar() {
     Exigir(guardado_->Confirmar());
     tablas_.reset();
     guardado_.reset();
-    conexion_.Cerrar();
-    archivo_.Colocar();
+    base_.Guardar(destino_);
 }
 
 }  // namespace trabex::planex

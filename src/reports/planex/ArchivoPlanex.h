@@ -4,12 +4,12 @@
 #include <filesystem>
 #include <optional>
 
-#include "base/Archivos.h"
 #include "base/Proyecto.h"
 #include "slab/Losa.h"
 #include "slab/ResultadosLosa.h"
 #include "store/Conexion.h"
 #include "store/Recordset.h"
+#include "store/antiguo/BaseEnJet.h"
 
 namespace trabex::planex {
 
@@ -35,6 +35,9 @@ struct NervioPlanex {
 /// Ribbed spans from 6 m on carry one: it is decided here and not in the design.
 NervioPlanex NervioParaPlanex(const losas::Losa& losa, std::size_t i);
 
+/// Where an exchange file is held, beside its place, while it changes.
+std::filesystem::path ArchivoDeTrabajo(std::filesystem::path destino);
+
 /// Replaces the one row of the file's table `Proyecto`, as one save. False when it could not be stored.
 bool EscribirProyectoPlanex(almacen::Conexion& destino, const DatosDelProyecto& datos,
                             const DatosGenerales& generales);
@@ -57,18 +60,20 @@ class TablasPlanex {
 bool ReemplazarLosaPlanex(almacen::Conexion& destino, const losas::Losa& losa,
                           const losas::ResultadosLosa& resultados);
 
-/// A new file with slabs of a project, made from the template: whole in the place of what `destino` held, or
-/// not at all. Every operation throws ErrorEjecucion when it can't; `destino` then stands as it stood.
+/// A new file with slabs of a project, made from a template of the program folder: whole in the place of what
+/// `destino` held, or not at all. Every operation throws ErrorEjecucion when it can't; `destino` then stands
+/// as it stood.
 class ArchivoNuevoPlanex {
   public:
-    ArchivoNuevoPlanex(const std::filesystem::path& plantilla, const std::filesystem::path& destino,
-                       const DatosDelProyecto& datos, const DatosGenerales& generales);
+    ArchivoNuevoPlanex(const std::filesystem::path& programa, const char* plantilla,
+                       const std::filesystem::path& destino, const DatosDelProyecto& datos,
+                       const DatosGenerales& generales);
     void Agregar(const losas::Losa& losa, const losas::ResultadosLosa& resultados);
     void Colocar();
 
   private:
-    ArchivoNuevo archivo_;
-    almacen::Conexion conexion_;
+    std::filesystem::path destino_;
+    almacen::antiguo::BaseEnJet base_;
     std::optional<almacen::Transaccion> guardado_;
     std::optional<TablasPlanex> tablas_;
 };

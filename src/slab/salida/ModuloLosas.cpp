@@ -123,7 +123,7 @@ constexpr lote::ReportesDeModulo Reportes{TituloReporteLosas, "ResultadosLosa.rp
 
 void EscribirPlanex(const std::filesystem::path& programa, const std::filesystem::path& destino,
                     const DatosDelProyecto& datos, const lote::Lista& lista, std::string& enCurso) {
-    planex::ArchivoNuevoPlanex archivo(programa / "Imagen" / "ImagenCAD23.tbx", destino, datos,
+    planex::ArchivoNuevoPlanex archivo(programa, "ImagenCAD23.tbx", destino, datos,
                                        lote::Leer<DatosGenerales>(lista.Generales));
     for (const lote::Elemento& elemento : lista.Elementos) {
         enCurso = elemento.Nombre;

@@ -151,18 +151,24 @@ void ExportarCAD::Exportar(const std::vector<int>& filas) {
 
 int ExportarCAD::EscribirLosas(const std::vector<int>& filas, const std::filesystem::path& archivo) {
     const auto espera = programa::Espera(pantalla_);
-    almacen::Conexion destino;
-    almacen::AbrirConexion(destino, archivo);
-    if (pantalla_.Opcion() == ArchivoCAD::CrearNuevo)
-        Exigir(EscribirProyectoPlanex(destino, aplicacion_.Datos, aplicacion_.Generales), destino);
+    almacen::antiguo::BaseEnJet base(servicios_.Carpetas.CaminoPrograma, archivo, ArchivoDeTrabajo(archivo));
+    almacen::Conexion& destino = base.Conexion();
     int exportadas = 0;
-    for (const int fila : filas) {
-        const losas::Losa losa = LosaDe(fila);
-        losas::ResultadosLosa resultados;
-        losas::CalcularLosa(losa, aplicacion_.Generales, resultados);
-        Exigir(ReemplazarLosaPlanex(destino, losa, resultados), destino);
-        ++exportadas;
+    try {
+        if (pantalla_.Opcion() == ArchivoCAD::CrearNuevo)
+            Exigir(EscribirProyectoPlanex(destino, aplicacion_.Datos, aplicacion_.Generales), destino);
+        for (const int fila : filas) {
+            const losas::Losa losa = LosaDe(fila);
+            losas::ResultadosLosa resultados;
+            losas::CalcularLosa(losa, aplicacion_.Generales, resultados);
+            Exigir(ReemplazarLosaPlanex(destino, losa, resultados), destino);
+            ++exportadas;
+        }
+    } catch (const ErrorEjecucion&) {
+        base.Guardar(archivo);  // what was written before the fault stays
+        throw;
     }
+    if (!destino.ConexionFallida()) base.Guardar(archivo);
     return exportadas;
 }
 
