@@ -15,9 +15,10 @@
 
 namespace {
 
-/// What a damaged file may cost: memory and seconds of processor. Its end is then the process's.
+/// What a damaged file may cost: memory and seconds of processor. Its end is then the process's. The sanitizers need more
+/// memory than any file.
 void Limitar() {
-#ifndef _WIN32
+#if !defined(_WIN32) && !defined(__SANITIZE_ADDRESS__)
     constexpr rlim_t Memoria = rlim_t{2} << 30, Segundos = 60;
     const rlimit memoria{Memoria, Memoria}, segundos{Segundos, Segundos}, sinVolcado{0, 0};
     setrlimit(RLIMIT_AS, &memoria);

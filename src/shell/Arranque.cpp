@@ -4,6 +4,7 @@
 
 #include "base/Archivos.h"
 #include "store/Mantenimiento.h"
+#include "store/antiguo/Convertir.h"
 
 namespace trabex::programa {
 
@@ -57,6 +58,10 @@ void CopiarArchivos(const Carpetas& carpetas) {
     CopiarSiFalta(imagen / "Ejemplo Demostrativo.tbx", carpetas.Proyectos() / "Ejemplo Demostrativo.los");
     CopiarSiFalta(ImagenEntregada(carpetas), ImagenPorDefecto(carpetas));
     CopiarSiFalta(imagen / "AnalisisCarga.tbx", carpetas.AnalisisCarga());
+    // Of an earlier edition of the program: it can't be read otherwise.
+    if (almacen::antiguo::EsBaseAntigua(carpetas.AnalisisCarga()))
+        almacen::antiguo::ConvertirEnSuSitio(carpetas.CaminoPrograma, carpetas.AnalisisCarga(),
+                                             imagen / "AnalisisCarga.tbx");
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "base/Archivos.h"
 #include "base/Texto.h"
+#include "shell/ProyectoAntiguo.h"
 
 namespace trabex::programa {
 
@@ -37,7 +38,7 @@ void ListaElementos::AbrirProyecto() {
     const auto archivo =
         servicios_.Dialogos.Elegir({"Abrir un Proyecto Existente", "Archivos de Proyectos (.los)|*.los",
                                     servicios_.Carpetas.Proyectos(), false, false, true});
-    if (!archivo) return;
+    if (!archivo || !HacerLegible(servicios_, *archivo)) return;
     aplicacion_.ArchivoProyecto = *archivo;
     aplicacion_.NombreProyecto = TextoDeCamino(archivo->filename());
     Conectar();

@@ -9,6 +9,7 @@
 #include "shell/Arranque.h"
 #include "shell/Comandos.h"
 #include "shell/Espera.h"
+#include "shell/ProyectoAntiguo.h"
 #include "store/Comparacion.h"
 #include "store/Mantenimiento.h"
 
@@ -107,7 +108,7 @@ void MenuPrincipal::AbrirProyecto() {
     const auto archivo = servicios_.Dialogos.Elegir(
         {"Abrir un Proyecto Existente", FiltroAbrir, servicios_.Carpetas.Proyectos(), false, false, true});
     pantalla_.PunteroDeEspera(false);
-    if (!archivo) return;
+    if (!archivo || !HacerLegible(servicios_, *archivo)) return;
     HacerActual(*archivo);
     pantalla_.HabilitarSalvarComo(true);
     pantalla_.Repintar();

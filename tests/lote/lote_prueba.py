@@ -211,6 +211,10 @@ class Lote(unittest.TestCase):
         base.row_factory = sqlite3.Row
         self.addCleanup(base.close)
         tablas = subprocess.run(["mdb-tables", "-1", archivo], check=True, capture_output=True, text=True).stdout.split()
+        odbc = subprocess.run(["isql", "-k", f"Driver=libmdbodbc.so;DBQ={archivo}", "-b", "-d,"], check=True, text=True,
+                              input="select Nombre, NT from LosaDatos", capture_output=True).stdout.split("\n")
+        self.assertEqual([linea for linea in odbc if linea],
+                         [f"{nombre},{tramos}" for nombre, tramos in base.execute("SELECT Nombre, NT FROM LosaDatos")])
         return {tabla: [dict(fila) for fila in base.execute(f"SELECT * FROM {tabla}")] for tabla in tablas}
 
     def test_el_archivo_de_planex(self):

@@ -1,10 +1,13 @@
 #include <gtest/gtest.h>
 
+#include "base/Archivos.h"
 #include "shell/Arranque.h"
 #include "shell/Comandos.h"
 #include "shell/DatosProyecto.h"
 #include "shell/MenuPrincipal.h"
 #include "slab/ui/LosaGeneral.h"
+#include "store/antiguo/Convertir.h"
+#include "store/antiguo/EscribirJet.h"
 #include "support/CarpetaTemporal.h"
 #include "support/LosasDePrueba.h"
 #include "support/ProyectoDePrueba.h"
@@ -250,6 +253,47 @@ TEST(Comandos, CadaUnoUnaVezYConSuIcono) {
             std::filesystem::path(TRABEX_INSTALL) / "iconos" / (std::string(comando.Icono) + ".svg");
         EXPECT_TRUE(std::filesystem::exists(icono)) << icono;
     }
+}
+
+TEST_F(Menu_, UnProyectoDelFormatoAnteriorSeConvierteSiSeQuiere) {
+    const std::filesystem::path programa = TRABEX_PROGRAMA;
+    std::filesystem::create_symlink(programa / "trabex-jet", carpeta / "programa" / "trabex-jet");
+    const auto viejo = carpeta / "obra.los", apartado = carpeta / "obra (formato anterior).los";
+    almacen::antiguo::EscribirJet(programa / "Imagen" / "Ejemplo Demostrativo.tbx", viejo);
+    const std::string antes = LeerArchivo(viejo);
+    const auto abrir = [&](std::int16_t respuesta) {
+        dialogos.Elegidos = {viejo};
+        caja.Respuestas = {respuesta};
+        menu.Ejecutar("ID_Abrir");
+    };
+    abrir(RespuestaAceptarONo);
+    EXPECT_TRUE(caja.Mensajes.back().Texto.find("obra (formato anterior).los") != std::string::npos);
+    EXPECT_EQ(LeerArchivo(viejo), antes);
+    EXPECT_EQ(aplicacion.NombreProyecto, "");
+
+    EscribirArchivo(apartado, "de otro día");
+    abrir(RespuestaSi);
+    EXPECT_EQ(aplicacion.ArchivoProyecto, viejo);
+    EXPECT_EQ(LeerArchivo(carpeta / "obra (formato anterior 2).los"), antes);
+    EXPECT_EQ(LeerArchivo(apartado), "de otro día");
+    Conexion conexion;
+    AbrirConexion(conexion, viejo);
+    Recordset losas;
+    AbrirRecordset(conexion, losas, "LosaDatos");
+    EXPECT_GT(losas.NumeroRegistros(), 5);
+
+    EscribirArchivo(viejo, antes.substr(0, 20000));
+    abrir(RespuestaSi);
+    EXPECT_EQ(caja.Mensajes.back().Icono, IconoCaja::Advertencia);
+    EXPECT_EQ(LeerArchivo(viejo), antes.substr(0, 20000));
+
+    // The list that projects share has no engineer to ask.
+    almacen::antiguo::EscribirJet(programa / "Imagen" / "AnalisisCarga.tbx", carpetas.AnalisisCarga());
+    CopiarArchivo(programa / "Imagen" / "AnalisisCarga.tbx",
+                  carpeta / "programa" / "Imagen" / "AnalisisCarga.tbx");
+    PrepararArranque(plataforma, carpetas, aplicacion);
+    EXPECT_FALSE(almacen::antiguo::EsBaseAntigua(carpetas.AnalisisCarga()));
+    EXPECT_TRUE(Existe(carpetas.Proyectos() / "AnalisisCarga (formato anterior).mdb"));
 }
 
 }  // namespace

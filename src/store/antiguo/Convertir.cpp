@@ -96,6 +96,7 @@ std::optional<Valor> Tomar(const Columna& columna, const Valor& valor) {
 /// Copies a table's rows. False when they can't be read or written to the end.
 bool CopiarTabla(Motor& origen, const std::string& suya, Motor& destino, const std::string& propia,
                  Perdidas& perdidas) {
+    if (!destino.Correr("DELETE FROM " + Identificador(propia))) return false;
     const std::vector<Pareja> parejas = Comunes(origen, suya, destino, propia);
     if (parejas.empty()) return true;
     std::string leidas, escritas, marcas;
@@ -172,8 +173,41 @@ std::optional<Perdidas> ConvertirBaseAntigua(const std::filesystem::path& progra
     const AlSalir quitar([&] { Quitar(copia); });
     if (!CopiarBaseAntigua(programa, antigua, copia)) return std::nullopt;
     Perdidas perdidas;
-    CopiarArchivo(plantilla, nueva);
+    try {
+        CopiarArchivo(plantilla, nueva);
+    } catch (const ErrorEjecucion&) {
+        return std::nullopt;
+    }
     if (Llenar(copia, nueva, perdidas)) return perdidas;
+    Quitar(nueva);
+    return std::nullopt;
+}
+
+std::filesystem::path NombreDeAntigua(const std::filesystem::path& antigua) {
+    for (int i = 1;; ++i) {
+        const std::string numero = i == 1 ? "" : " " + std::to_string(i);
+        std::filesystem::path nombre = antigua.parent_path() / antigua.stem();
+        nombre += " (formato anterior" + numero + ")";
+        nombre += antigua.extension();
+        if (!Existe(nombre)) return nombre;
+    }
+}
+
+std::optional<Perdidas> ConvertirEnSuSitio(const std::filesystem::path& programa,
+                                           const std::filesystem::path& antigua,
+                                           const std::filesystem::path& plantilla) {
+    const std::filesystem::path nueva = std::filesystem::path(antigua) += ".convertido";
+    const std::filesystem::path apartada = NombreDeAntigua(antigua);
+    Quitar(nueva);
+    std::optional<Perdidas> perdidas = ConvertirBaseAntigua(programa, antigua, plantilla, nueva);
+    if (!perdidas) return std::nullopt;
+    std::error_code error;
+    std::filesystem::rename(antigua, apartada, error);
+    if (!error) {
+        std::filesystem::rename(nueva, antigua, error);
+        if (!error) return perdidas;
+        std::filesystem::rename(apartada, antigua, error);
+    }
     Quitar(nueva);
     return std::nullopt;
 }

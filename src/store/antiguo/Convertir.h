@@ -21,12 +21,21 @@ struct Perdidas {
     std::size_t Valores = 0;  ///< past their column's range or width, or of another kind: null now
 };
 
-/// Makes `nueva` of the template, with the rows of an old project: each value by the type of the program's
-/// own column of its name, whatever its case. Nothing, and no file, when the old one can't be read or `nueva`
-/// exists.
+/// Makes `nueva` of the template, with the rows of an old project in the place of its own: each value by the
+/// type of the program's own column of its name, whatever its case. Nothing, and no file, when the old one
+/// can't be read or `nueva` exists.
 std::optional<Perdidas> ConvertirBaseAntigua(const std::filesystem::path& programa,
                                              const std::filesystem::path& antigua,
                                              const std::filesystem::path& plantilla,
                                              const std::filesystem::path& nueva);
+
+/// Where an old file goes that is converted in its place: beside it, under a name that nothing has.
+std::filesystem::path NombreDeAntigua(const std::filesystem::path& antigua);
+
+/// The same in the old file's place, which first takes the name `NombreDeAntigua` gave. Nothing, and all as
+/// it was, when it can't be read or put there.
+std::optional<Perdidas> ConvertirEnSuSitio(const std::filesystem::path& programa,
+                                           const std::filesystem::path& antigua,
+                                           const std::filesystem::path& plantilla);
 
 }  // namespace trabex::almacen::antiguo
