@@ -15,8 +15,8 @@
 
 namespace {
 
-/// What a damaged file may cost: memory and seconds of processor. Its end is then the process's. The sanitizers need more
-/// memory than any file.
+/// What a damaged file may cost: memory and seconds of processor. Its end is then the process's. The
+/// sanitizers need more memory than any file.
 void Limitar() {
 #if !defined(_WIN32) && !defined(__SANITIZE_ADDRESS__)
     constexpr rlim_t Memoria = rlim_t{2} << 30, Segundos = 60;
