@@ -16,6 +16,7 @@
 #include "store/antiguo/EscribirJet.h"
 #include "support/BaseSqlite.h"
 #include "support/CarpetaTemporal.h"
+#include "support/Lugares.h"
 #include "support/ProyectoDePrueba.h"
 
 namespace {
@@ -27,7 +28,7 @@ using prueba::CarpetaTemporal;
 using prueba::ConsultarSqlite;
 using prueba::FilaSqlite;
 
-const std::filesystem::path Programa = TRABEX_PROGRAMA;
+const std::filesystem::path Programa = prueba::Programa();
 
 /// What one of mdbtools' commands prints.
 std::string Mdb(const std::string& orden) {

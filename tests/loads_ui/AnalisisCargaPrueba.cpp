@@ -9,6 +9,7 @@
 #include "reports/salidas/MotorReportes.h"
 #include "store/tablas/TablasCargas.h"
 #include "support/CarpetaTemporal.h"
+#include "support/Lugares.h"
 #include "support/ProyectoDePrueba.h"
 #include "support/ShellGuiado.h"
 
@@ -81,7 +82,7 @@ struct VistaListaGuiada : PantallaListaAnalisis {
 class CargasGuiadas : public testing::Test {
   protected:
     CargasGuiadas() : sistema_(carpeta_ / "maquina") {
-        const std::string imagen = TRABEX_INSTALL "/Imagen/";
+        const std::string imagen = prueba::Install() + "/Imagen/";
         carpetas_.CaminoUsuario = carpeta_ / "usuario";
         carpetas_.CaminoPrograma = carpeta_ / "programa";
         aplicacion_.ArchivoProyecto = carpeta_ / "p.los";
@@ -339,7 +340,7 @@ TEST_P(VentanasDeCarga, ElReporteMontaElSeleccionadoOTodos) {
     std::filesystem::create_directories(carpetas_.CaminoUsuario / "Trabajo");
     std::filesystem::create_directories(carpetas_.CaminoPrograma / "Imagen");
     CrearBaseDatos(carpetas_.CaminoPrograma / "Imagen" / "Temporal.tbx",
-                   LeerArchivo(TRABEX_INSTALL "/Imagen/Temporal.sql"));
+                   LeerArchivo(prueba::Install() + "/Imagen/Temporal.sql"));
     ListaAnalisis lista(aplicacion_, Servicios(), VarianteDe(GetParam()), Azar());
     lista.Abrir(vista_);
     lista.Seleccionar(2);
@@ -376,7 +377,7 @@ TEST_P(VentanasDeCarga, ElReporteMontaElSeleccionadoOTodos) {
     EXPECT_EQ(lista.Fila(), 2);
 
     for (const char* diseno : {"AnalisisCarga.rpt", "AnalisisCarga1.rpt"}) {
-        salidas::Reporte reporte(std::filesystem::path(TRABEX_INSTALL) / "Reportes" / diseno, {});
+        salidas::Reporte reporte(std::filesystem::path(prueba::Install()) / "Reportes" / diseno, {});
         reporte.Ubicar(carpetas_.CaminoUsuario / "Trabajo" / "Temporal.mdb");
         salidas::MotorReportes motor;
         motor.Exportar(reporte.Contenido(), salidas::FormatoHtml, carpeta_ / "reporte.htm");

@@ -11,6 +11,7 @@
 #include "reports/salidas/MotorReportes.h"
 #include "reports/salidas/qt/EscritorPdf.h"
 #include "support/CarpetaTemporal.h"
+#include "support/Lugares.h"
 #include "support/ProyectoDePrueba.h"
 #include "support/TemporalDePrueba.h"
 
@@ -43,7 +44,7 @@ class ReportePreparado : public testing::Test {
 
     /// A layout of the program's, or the text of another.
     Reporte Abrir(const std::string& diseno) {
-        std::filesystem::path archivo = std::filesystem::path(TRABEX_INSTALL) / "Reportes" / diseno;
+        std::filesystem::path archivo = std::filesystem::path(prueba::Install()) / "Reportes" / diseno;
         if (diseno.find('\n') != std::string::npos) {
             archivo = carpeta / "prueba.rpt";
             EscribirArchivo(archivo, diseno);

@@ -23,6 +23,7 @@
 #include "support/CarpetaTemporal.h"
 #include "support/ImpresorasGuiadas.h"
 #include "support/LosasDePrueba.h"
+#include "support/Lugares.h"
 #include "support/ProyectoDePrueba.h"
 #include "support/ShellGuiado.h"
 
@@ -60,7 +61,7 @@ class SalidasDeReporte : public prueba::ReportePreparado {
         carpetas.CaminoUsuario = carpeta / "usuario";
         std::filesystem::create_directories(carpetas.CaminoUsuario / "Trabajo");
         std::filesystem::create_directories(carpetas.ReportesExportados());
-        std::filesystem::copy(std::filesystem::path(TRABEX_INSTALL) / "Reportes",
+        std::filesystem::copy(std::filesystem::path(prueba::Install()) / "Reportes",
                               carpetas.CaminoPrograma / "Reportes");
         base = carpetas.CaminoUsuario / "Trabajo" / "Temporal.mdb";
         Preparar({prueba::LosaUniforme(30, 5, 300, 100)});

@@ -10,6 +10,7 @@
 #include "store/antiguo/EscribirJet.h"
 #include "support/CarpetaTemporal.h"
 #include "support/LosasDePrueba.h"
+#include "support/Lugares.h"
 #include "support/ProyectoDePrueba.h"
 #include "support/ShellGuiado.h"
 
@@ -250,13 +251,13 @@ TEST(Comandos, CadaUnoUnaVezYConSuIcono) {
         EXPECT_EQ(std::count(claves.begin(), claves.end(), comando.Clave), 0);
         claves.push_back(comando.Clave);
         const auto icono =
-            std::filesystem::path(TRABEX_INSTALL) / "iconos" / (std::string(comando.Icono) + ".svg");
+            std::filesystem::path(prueba::Install()) / "iconos" / (std::string(comando.Icono) + ".svg");
         EXPECT_TRUE(std::filesystem::exists(icono)) << icono;
     }
 }
 
 TEST_F(Menu_, UnProyectoDelFormatoAnteriorSeConvierteSiSeQuiere) {
-    const std::filesystem::path programa = TRABEX_PROGRAMA;
+    const std::filesystem::path programa = prueba::Programa();
     std::filesystem::create_symlink(programa / "trabex-jet", carpeta / "programa" / "trabex-jet");
     const auto viejo = carpeta / "obra.los", apartado = carpeta / "obra (formato anterior).los";
     almacen::antiguo::EscribirJet(programa / "Imagen" / "Ejemplo Demostrativo.tbx", viejo);

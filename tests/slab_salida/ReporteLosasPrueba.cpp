@@ -10,6 +10,7 @@
 #include "support/BaseSqlite.h"
 #include "support/CarpetaTemporal.h"
 #include "support/LosasDePrueba.h"
+#include "support/Lugares.h"
 #include "support/ProyectoDePrueba.h"
 
 namespace trabex {
@@ -52,7 +53,7 @@ class ReporteLosas : public testing::Test {
         std::filesystem::create_directories(Entorno.CaminoPrograma / "Imagen");
         std::filesystem::create_directories(Entorno.CaminoUsuario);
         CrearBaseDatos(Entorno.CaminoPrograma / "Imagen" / "Temporal.tbx",
-                       LeerArchivo(TRABEX_INSTALL "/Imagen/Temporal.sql"));
+                       LeerArchivo(prueba::Install() + "/Imagen/Temporal.sql"));
         CrearBaseDatos(Carpeta / "obra.los", EsquemaDeProyecto());
         Abrir(Proyecto, Carpeta / "obra.los");
         std::mt19937 azar(7);

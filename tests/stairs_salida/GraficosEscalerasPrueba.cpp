@@ -8,6 +8,7 @@
 #include "store/tablas/TablasEscalera.h"
 #include "support/CarpetaTemporal.h"
 #include "support/LienzoGrabador.h"
+#include "support/Lugares.h"
 #include "support/ProyectoDePrueba.h"
 
 namespace trabex {
@@ -53,7 +54,7 @@ struct GraficosEscaleras : testing::Test {
         std::filesystem::create_directories(carpeta / "programa" / "Imagen");
         std::filesystem::create_directories(carpeta / "Trabajo");
         CrearBaseDatos(carpeta / "programa" / "Imagen" / "Temporal.tbx",
-                       prueba::LeerArchivo(TRABEX_INSTALL "/Imagen/Temporal.sql"));
+                       prueba::LeerArchivo(prueba::Install() + "/Imagen/Temporal.sql"));
         CrearBaseDatos(carpeta / "obra.los",
                        prueba::EsquemaDeProyecto() +
                            "INSERT INTO EscaleraTDatos VALUES ('A', 'UNA'), ('B', ''), ('Ñ', 'VACÍA');"

@@ -6,6 +6,7 @@
 
 #include "store/tablas/TablasCargas.h"
 #include "support/CarpetaTemporal.h"
+#include "support/Lugares.h"
 #include "support/ProyectoDePrueba.h"
 
 namespace trabex {
@@ -20,7 +21,7 @@ constexpr Ambito Ambitos[] = {Ambito::Proyecto, Ambito::Compartido};
 class Cargas : public testing::Test {
   protected:
     Cargas() {
-        const std::string imagen = TRABEX_INSTALL "/Imagen/";
+        const std::string imagen = prueba::Install() + "/Imagen/";
         CrearBaseDatos(carpeta_ / "p.los", prueba::EsquemaDeProyecto() +
                                                prueba::LeerArchivo(imagen + "Ejemplo Demostrativo.sql"));
         CrearBaseDatos(carpeta_ / "c.mdb", prueba::LeerArchivo(imagen + "AnalisisCarga.sql"));

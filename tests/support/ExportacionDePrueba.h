@@ -8,6 +8,7 @@
 #include "store/antiguo/Convertir.h"
 #include "support/CarpetaTemporal.h"
 #include "support/LosasDePrueba.h"
+#include "support/Lugares.h"
 #include "support/ProyectoDePrueba.h"
 #include "support/ShellGuiado.h"
 
@@ -22,7 +23,7 @@ using namespace programa;
 class Exportacion : public testing::Test {
   protected:
     Exportacion() : plataforma(carpeta.Camino()) {
-        const std::filesystem::path programa = TRABEX_PROGRAMA;
+        const std::filesystem::path programa = prueba::Programa();
         for (const char* plantilla : {"ImagenCAD8.tbx", "ImagenCAD23.tbx"})
             CopiarArchivo(programa / "Imagen" / plantilla, carpeta / "programa" / "Imagen" / plantilla);
         std::filesystem::create_symlink(programa / "trabex-jet", carpeta / "programa" / "trabex-jet");

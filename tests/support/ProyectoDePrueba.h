@@ -8,6 +8,7 @@
 #include "slab/Losa.h"
 #include "store/Mantenimiento.h"
 #include "store/tablas/TablasLosa.h"
+#include "support/Lugares.h"
 
 namespace trabex::prueba {
 
@@ -27,7 +28,7 @@ inline void EscribirArchivo(const std::filesystem::path& camino, const std::stri
 
 /// The schema of a project without data, as the program delivers it.
 inline std::string EsquemaDeProyecto() {
-    return LeerArchivo(TRABEX_INSTALL "/Imagen/LosaImagen.sql");
+    return LeerArchivo(prueba::Install() + "/Imagen/LosaImagen.sql");
 }
 
 /// Opens a project and its slab list.

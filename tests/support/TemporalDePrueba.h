@@ -8,6 +8,7 @@
 
 #include "slab/CalcularLosa.h"
 #include "support/LosasDePrueba.h"
+#include "support/Lugares.h"
 #include "support/ProyectoDePrueba.h"
 
 namespace trabex::prueba {
@@ -107,7 +108,7 @@ inline void EscribirTemporal(const std::filesystem::path& camino, const std::vec
         std::string(desplazamientos ? "1" : "0") +
         ");INSERT INTO LosaG VALUES (250, 4200, 0.025, 1.2, 1.6, 0.9, 0.75);";
     for (const Losa& losa : losas) filas += FilasDeLosa(losa);
-    CrearBaseDatos(camino, LeerArchivo(TRABEX_INSTALL "/Imagen/Temporal.sql") + filas);
+    CrearBaseDatos(camino, LeerArchivo(prueba::Install() + "/Imagen/Temporal.sql") + filas);
 }
 
 }  // namespace trabex::prueba
