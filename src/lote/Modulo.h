@@ -75,6 +75,10 @@ struct ReportesDeModulo {
     const char* Graficos;    ///< layout of the report of drawings; null: they have none
     /// Fills the kind's own tables of the scratch database; null where it has no report of results.
     void (*Montar)(almacen::Conexion& temporal, const Lista& lista);
+    /// `Titulo` in the report of drawings; null: the same.
+    const char* TituloGraficos = nullptr;
+    /// Fills the tables that the report of drawings shows beside them; null where it shows none.
+    void (*MontarConGraficos)(almacen::Conexion& temporal, const Lista& lista) = nullptr;
 };
 
 /// A file for another program, with all elements of a kind.

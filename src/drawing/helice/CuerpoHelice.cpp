@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "base/Angulos.h"
 #include "base/Round.h"
@@ -21,10 +22,6 @@ constexpr double GradosEntreLineas = 10;  // of a flight without steps
 int PeldanosDe(const DatosEscaleraH& e) {
     const double peldanos = Round(e.H / AltoDePeldano);
     return peldanos >= 1 && peldanos <= PeldanosMaximos ? static_cast<int>(peldanos) : 0;
-}
-
-Punto3 Resta(const Punto3& a, const Punto3& b) {
-    return {a.x - b.x, a.y - b.y, a.z - b.z};
 }
 
 }  // namespace
@@ -59,90 +56,135 @@ Punto3 CuerpoHelice::En(double radio, double grados, double sobre) const {
     return {radio * d.Coseno, altura + sobre, -radio * d.Seno};
 }
 
+std::vector<double> CuerpoHelice::Quiebres(double desde, double hasta, double paso) {
+    const int partes = std::max(1, static_cast<int>(std::ceil((hasta - desde) / paso)));
+    std::vector<double> quiebres;
+    for (int k = 0; k <= partes; ++k) quiebres.push_back(desde + (hasta - desde) * k / partes);
+    return quiebres;
+}
+
 namespace {
 
 using Cara = CuerpoHelice::Cara;
 using Parte = CuerpoHelice::Parte;
 
-/// Puts faces together, each turned to be seen from outside.
+constexpr Punto3 Arriba{0, 1, 0};
+constexpr Punto3 Abajo{0, -1, 0};
+
+/// Puts the faces of a flight together, each turned to be seen from outside.
 class Armado {
   public:
+    Armado(const CuerpoHelice& cuerpo, double paso) : c_(cuerpo), paso_(paso) {}
+
+    void Losa() {
+        const double T = c_.Espesor();
+        PorQuiebres(0, c_.Grados(), [&](double g1, double g2) {
+            const double re = c_.RadioExterior();
+            const double ri = c_.RadioInterior();
+            Agregar({c_.En(re, g1, -T), c_.En(re, g2, -T), c_.En(ri, g2, -T), c_.En(ri, g1, -T)},
+                    {true, false, true, false}, Parte::Fondo, Abajo);
+            PorCostados((g1 + g2) / 2, [&](double radio, const Punto3& afuera) {
+                Agregar({c_.En(radio, g1), c_.En(radio, g2), c_.En(radio, g2, -T), c_.En(radio, g1, -T)},
+                        {true, false, true, false}, Parte::Losa, afuera);
+            });
+        });
+    }
+
+    /// The lines that join both edges of a flight without steps.
+    void Superficie() {
+        for (double desde = 0; desde < c_.Grados(); desde += GradosEntreLineas) {
+            const double hasta = std::min<double>(desde + GradosEntreLineas, c_.Grados());
+            PorQuiebres(desde, hasta, [&](double g1, double g2) {
+                const double re = c_.RadioExterior();
+                const double ri = c_.RadioInterior();
+                Agregar({c_.En(re, g1), c_.En(re, g2), c_.En(ri, g2), c_.En(ri, g1)},
+                        {true, false, true, g1 == desde}, Parte::Huella, Arriba);
+            });
+        }
+    }
+
+    void Peldano(double desde, double hasta) {
+        const double altura = c_.En(0, desde).y + c_.Contrahuella();
+        const auto arriba = [&](double radio, double grados) {
+            Punto3 punto = c_.En(radio, grados);
+            punto.y = altura;
+            return punto;
+        };
+        const double re = c_.RadioExterior();
+        const double ri = c_.RadioInterior();
+        Agregar({c_.En(re, desde), arriba(re, desde), arriba(ri, desde), c_.En(ri, desde)},
+                {true, true, true, true}, Parte::Contrahuella, HaciaElPie(desde, 1));
+        PorQuiebres(desde, hasta, [&](double g1, double g2) {
+            Agregar({arriba(re, g1), arriba(re, g2), arriba(ri, g2), arriba(ri, g1)},
+                    {true, g2 == hasta, true, g1 == desde}, Parte::Huella, Arriba);
+            PorCostados((g1 + g2) / 2, [&](double radio, const Punto3& afuera) {
+                Agregar({c_.En(radio, g1), c_.En(radio, g2), arriba(radio, g2), arriba(radio, g1)},
+                        {true, false, true, g1 == desde}, Parte::Costado, afuera);
+            });
+        });
+    }
+
+    /// `sentido`: 1 where the end looks down the flight.
+    void Extremo(double grados, double sentido) {
+        const double T = c_.Espesor();
+        const double re = c_.RadioExterior();
+        const double ri = c_.RadioInterior();
+        Agregar({c_.En(re, grados), c_.En(ri, grados), c_.En(ri, grados, -T), c_.En(re, grados, -T)},
+                {true, true, true, true}, Parte::Contrahuella, HaciaElPie(grados, sentido));
+    }
+
+    std::vector<Cara> Tomar() { return std::move(caras_); }
+
+  private:
+    template <class Accion>
+    void PorQuiebres(double desde, double hasta, Accion accion) const {
+        const std::vector<double> quiebres = CuerpoHelice::Quiebres(desde, hasta, paso_);
+        for (std::size_t k = 1; k < quiebres.size(); ++k) accion(quiebres[k - 1], quiebres[k]);
+    }
+
+    template <class Accion>
+    void PorCostados(double grados, Accion accion) const {
+        const Direccion d = DireccionEn(grados);
+        accion(c_.RadioExterior(), Punto3{d.Coseno, 0, -d.Seno});
+        accion(c_.RadioInterior(), Punto3{-d.Coseno, 0, d.Seno});
+    }
+
+    static Punto3 HaciaElPie(double grados, double sentido) {
+        const Direccion d = DireccionEn(grados);
+        return {sentido * d.Seno, 0, sentido * d.Coseno};
+    }
+
+    /// z looks away from the eye: what turns left before it has its product behind.
     void Agregar(const std::array<Punto3, 4>& v, const std::array<bool, 4>& aristas, Parte parte,
                  const Punto3& afuera) {
-        const Punto3 a = Resta(v[2], v[0]);
-        const Punto3 b = Resta(v[3], v[1]);
-        const double hacia = (a.y * b.z - a.z * b.y) * afuera.x + (a.z * b.x - a.x * b.z) * afuera.y +
-                             (a.x * b.y - a.y * b.x) * afuera.z;
-        if (hacia > 0)  // z looks away: what turns left before the eye has its product behind it
+        const Punto3 normal = Normal(v);
+        if (normal.x * afuera.x + normal.y * afuera.y + normal.z * afuera.z > 0)
             caras_.push_back(
                 {{v[3], v[2], v[1], v[0]}, {aristas[2], aristas[1], aristas[0], aristas[3]}, parte});
         else
             caras_.push_back({v, aristas, parte});
     }
-    std::vector<Cara>&& Tomar() { return std::move(caras_); }
 
-  private:
+    const CuerpoHelice& c_;
+    double paso_;
     std::vector<Cara> caras_;
 };
 
 }  // namespace
 
-std::vector<Cara> CuerpoHelice::Caras() const {
-    Armado armado;
-    const double T = escalera_.T;
-    const double contrahuella = peldanos_ > 0 ? escalera_.H / peldanos_ : 0;
-    const Punto3 arriba{0, 1, 0};
-    const Punto3 abajo{0, -1, 0};
+Punto3 Normal(const std::array<Punto3, 4>& v) {
+    const Punto3 a{v[2].x - v[0].x, v[2].y - v[0].y, v[2].z - v[0].z};
+    const Punto3 b{v[3].x - v[1].x, v[3].y - v[1].y, v[3].z - v[1].z};
+    return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
+}
 
-    for (int i = 0; i < grados_; ++i) {
-        const double g1 = i;
-        const double g2 = i + 1;
-        const Direccion d = DireccionEn(i + 0.5);
-        const Punto3 fuera{d.Coseno, 0, -d.Seno};
-        const Punto3 dentro{-d.Coseno, 0, d.Seno};
-        armado.Agregar(
-            {En(exterior_, g1, -T), En(exterior_, g2, -T), En(interior_, g2, -T), En(interior_, g1, -T)},
-            {true, false, true, false}, Parte::Fondo, abajo);
-        for (const auto& [radio, cara] : {std::pair{exterior_, fuera}, std::pair{interior_, dentro}})
-            armado.Agregar({En(radio, g1), En(radio, g2), En(radio, g2, -T), En(radio, g1, -T)},
-                           {true, false, true, false}, Parte::Losa, cara);
-        if (peldanos_ == 0) {
-            const bool linea = std::fmod(g1, GradosEntreLineas) == 0;
-            armado.Agregar({En(exterior_, g1), En(exterior_, g2), En(interior_, g2), En(interior_, g1)},
-                           {true, false, true, linea}, Parte::Huella, arriba);
-        }
-    }
-    for (int n = 0; n < peldanos_; ++n) {
-        const double desde = n * GradosDePeldano();
-        const double hasta = (n + 1) * GradosDePeldano();
-        const double altura = En(0, desde).y + contrahuella;
-        const auto a = [&](double radio, double g) {
-            Punto3 p = En(radio, g);
-            p.y = altura;
-            return p;
-        };
-        const Direccion d = DireccionEn(desde);
-        armado.Agregar({En(exterior_, desde), a(exterior_, desde), a(interior_, desde), En(interior_, desde)},
-                       {true, true, true, true}, Parte::Contrahuella, {d.Seno, 0, d.Coseno});
-        const int partes = std::max(1, static_cast<int>(std::ceil(hasta - desde)));
-        for (int k = 0; k < partes; ++k) {
-            const double g1 = desde + (hasta - desde) * k / partes;
-            const double g2 = desde + (hasta - desde) * (k + 1) / partes;
-            const Direccion m = DireccionEn((g1 + g2) / 2);
-            armado.Agregar({a(exterior_, g1), a(exterior_, g2), a(interior_, g2), a(interior_, g1)},
-                           {true, k + 1 == partes, true, k == 0}, Parte::Huella, arriba);
-            for (const auto& [radio, cara] : {std::pair{exterior_, Punto3{m.Coseno, 0, -m.Seno}},
-                                              std::pair{interior_, Punto3{-m.Coseno, 0, m.Seno}}})
-                armado.Agregar({En(radio, g1), En(radio, g2), a(radio, g2), a(radio, g1)},
-                               {true, false, true, k == 0}, Parte::Costado, cara);
-        }
-    }
-    for (const auto& [grados, signo] : {std::pair{0.0, 1.0}, std::pair{static_cast<double>(grados_), -1.0}}) {
-        const Direccion d = DireccionEn(grados);
-        armado.Agregar({En(exterior_, grados), En(interior_, grados), En(interior_, grados, -T),
-                        En(exterior_, grados, -T)},
-                       {true, true, true, true}, Parte::Contrahuella, {signo * d.Seno, 0, signo * d.Coseno});
-    }
+std::vector<Cara> CuerpoHelice::Caras(double paso) const {
+    Armado armado(*this, paso);
+    armado.Losa();
+    if (peldanos_ == 0) armado.Superficie();
+    for (int n = 0; n < peldanos_; ++n) armado.Peldano(n * GradosDePeldano(), (n + 1) * GradosDePeldano());
+    armado.Extremo(0, 1);
+    armado.Extremo(grados_, -1);
     return armado.Tomar();
 }
 

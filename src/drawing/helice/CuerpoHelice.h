@@ -16,6 +16,9 @@ struct Direccion {
 };
 Direccion DireccionEn(double grados);
 
+/// Product of the diagonals of a face of four points: upright on it, of twice its area.
+Punto3 Normal(const std::array<Punto3, 4>& vertices);
+
 /// What a drawing needs of a flight: nothing is drawn of one for which this does not hold.
 bool TieneMedidas(const helices::DatosEscaleraH& escalera);
 
@@ -31,6 +34,9 @@ class CuerpoHelice {
     /// The last whole degree of the edges.
     int Grados() const { return grados_; }
 
+    /// Angles that break an arc every `paso` degrees or less, its ends among them.
+    static std::vector<double> Quiebres(double desde, double hasta, double paso);
+
     /// A point `sobre` m above the surface between both edges.
     Punto3 En(double radio, double grados, double sobre = 0) const;
 
@@ -44,8 +50,10 @@ class CuerpoHelice {
         std::array<bool, 4> Aristas;     ///< whether the side from each vertex to the next is an edge
         Parte De;
     };
-    /// All that bounds the flight: slab, sides, steps, both ends.
-    std::vector<Cara> Caras() const;
+    /// All that bounds the flight: slab, steps, both ends. Curved parts are broken every `paso` degrees.
+    std::vector<Cara> Caras(double paso) const;
+    double Espesor() const { return escalera_.T; }
+    double Contrahuella() const { return peldanos_ > 0 ? escalera_.H / peldanos_ : 0; }
 
   private:
     helices::DatosEscaleraH escalera_;

@@ -2,10 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 #include <string>
+#include <tuple>
 #include <vector>
 
+#include "base/Angulos.h"
 #include "drawing/Primitivas.h"
 
 namespace trabex::dibujo::helice {
@@ -15,6 +16,7 @@ namespace {
 using Cara = CuerpoHelice::Cara;
 using Parte = CuerpoHelice::Parte;
 
+constexpr int GradosConSitio = 320;  // of a flight that leaves room over its foot
 constexpr Color Tinta{58, 66, 74};
 constexpr Color TintaSuave{150, 160, 168};
 constexpr Color TintaEje{176, 60, 50};
@@ -23,7 +25,7 @@ constexpr Color FondoPlanta{236, 240, 242};
 Color FondoDe(Parte parte) {
     switch (parte) {
         case Parte::Huella:
-            return {238, 241, 243};
+            return {230, 235, 238};
         case Parte::Contrahuella:
             return {206, 214, 219};
         case Parte::Costado:
@@ -51,9 +53,17 @@ void Polilinea(Lienzo& lienzo, const std::vector<PuntoLienzo>& puntos, const Plu
     for (std::size_t i = 1; i < puntos.size(); ++i) lienzo.Linea(puntos[i - 1], puntos[i], pluma);
 }
 
+/// Degrees between the points of curves: one, or more where they would meet on the same few pixels.
+double PasoDe(const Plano& p, const CuerpoHelice& cuerpo) {
+    constexpr double unidades = 6;
+    const double porGrado = EnRadianes(1) * cuerpo.RadioExterior() * p.Escala();
+    return std::clamp(std::ceil(unidades / porGrado), 1.0, 6.0);
+}
+
 std::vector<PuntoLienzo> Arco(const Plano& p, const CuerpoHelice& cuerpo, Sitio centro, double radio) {
     std::vector<PuntoLienzo> puntos;
-    for (int i = 0; i <= cuerpo.Grados(); ++i) puntos.push_back(EnPlanta(p, cuerpo, centro, radio, i));
+    for (const double grados : CuerpoHelice::Quiebres(0, cuerpo.Grados(), PasoDe(p, cuerpo)))
+        puntos.push_back(EnPlanta(p, cuerpo, centro, radio, grados));
     return puntos;
 }
 
@@ -116,13 +126,7 @@ struct CaraVista {
 /// Light comes from the left, from above and from who looks.
 double LuzDe(const Perspectiva& perspectiva, const Cara& cara) {
     constexpr Punto3 luz{-0.36, 0.74, -0.57};
-    const Punto3 a =
-        perspectiva.Girar({cara.Vertices[2].x - cara.Vertices[0].x, cara.Vertices[2].y - cara.Vertices[0].y,
-                           cara.Vertices[2].z - cara.Vertices[0].z});
-    const Punto3 b =
-        perspectiva.Girar({cara.Vertices[3].x - cara.Vertices[1].x, cara.Vertices[3].y - cara.Vertices[1].y,
-                           cara.Vertices[3].z - cara.Vertices[1].z});
-    const Punto3 n{a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
+    const Punto3 n = perspectiva.Girar(Normal(cara.Vertices));
     const double largo = std::sqrt(n.x * n.x + n.y * n.y + n.z * n.z);
     if (!(largo > 0)) return 1;
     return 0.8 + 0.25 * std::max(0.0, -(n.x * luz.x + n.y * luz.y + n.z * luz.z) / largo);
@@ -133,9 +137,10 @@ double DobleArea(const PuntoVisto& a, const PuntoVisto& b, const PuntoVisto& c) 
 }
 
 /// The faces that look to the eye, the furthest first.
-std::vector<CaraVista> CarasALaVista(const CuerpoHelice& cuerpo, const Perspectiva& perspectiva) {
+std::vector<CaraVista> CarasALaVista(const CuerpoHelice& cuerpo, double paso,
+                                     const Perspectiva& perspectiva) {
     std::vector<CaraVista> vistas;
-    for (const Cara& cara : cuerpo.Caras()) {
+    for (const Cara& cara : cuerpo.Caras(paso)) {
         CaraVista vista{};
         std::transform(cara.Vertices.begin(), cara.Vertices.end(), vista.Puntos.begin(),
                        [&](const Punto3& punto) { return perspectiva.Ver(punto); });
@@ -167,6 +172,10 @@ bool Tapa(const PuntoVisto& a, const PuntoVisto& b, const PuntoVisto& c, const P
     return u * a.Fondo + v * b.Fondo + w * c.Fondo < p.Fondo - holgura;
 }
 
+PuntoVisto Medio(const PuntoVisto& a, const PuntoVisto& b) {
+    return {(a.x + b.x) / 2, (a.y + b.y) / 2, (a.Fondo + b.Fondo) / 2};
+}
+
 bool Oculto(const std::vector<CaraVista>& vistas, const PuntoVisto& p, double holgura) {
     return std::any_of(vistas.rbegin(), vistas.rend(), [&](const CaraVista& cara) {
         if (p.x < cara.x1 || p.x > cara.x2 || p.y < cara.y1 || p.y > cara.y2) return false;
@@ -183,22 +192,29 @@ void DibujePerspectiva(const Plano& p, const CuerpoHelice& cuerpo, Sitio centro,
     const auto lugar = [&](const PuntoVisto& punto) {
         return PuntoLienzo{p.X(centro.x + parte * punto.x), p.Y(centro.y + parte * punto.y)};
     };
-    const std::vector<CaraVista> vistas = CarasALaVista(cuerpo, perspectiva);
+    const double paso = PasoDe(p, cuerpo);
+    const std::vector<CaraVista> vistas = CarasALaVista(cuerpo, paso, perspectiva);
     for (const CaraVista& vista : vistas) {
         std::array<PuntoLienzo, 4> puntos{};
         std::transform(vista.Puntos.begin(), vista.Puntos.end(), puntos.begin(), lugar);
         lienzo.Poligono(puntos, Pluma{1, EstiloLinea::Solida, vista.Tono}, vista.Tono);
+    }
+    // After all faces: one that is painted later would nibble at the lines of its neighbours.
+    const double holgura = cuerpo.RadioExterior() / 100;
+    for (const CaraVista& vista : vistas) {
         for (std::size_t k = 0; k < 4; ++k) {
-            if (vista.Aristas[k])
-                lienzo.Linea(puntos[k], puntos[(k + 1) % 4], {1, EstiloLinea::Solida, Tinta});
+            const PuntoVisto& desde = vista.Puntos[k];
+            const PuntoVisto& hasta = vista.Puntos[(k + 1) % 4];
+            if (vista.Aristas[k] && !Oculto(vistas, Medio(desde, hasta), holgura))
+                lienzo.Linea(lugar(desde), lugar(hasta), {1, EstiloLinea::Solida, Tinta});
         }
     }
-    const double holgura = cuerpo.RadioExterior() / 50;
     for (const double radio : {cuerpo.RadioExterior(), cuerpo.RadioInterior()}) {
         PuntoVisto anterior = perspectiva.Ver(cuerpo.En(radio, 0));
-        for (int i = 1; i <= cuerpo.Grados(); ++i) {
-            const PuntoVisto punto = perspectiva.Ver(cuerpo.En(radio, i));
-            if (perspectiva.Delante(punto) && perspectiva.Delante(anterior) && Oculto(vistas, punto, holgura))
+        for (const double grados : CuerpoHelice::Quiebres(0, cuerpo.Grados(), paso)) {
+            const PuntoVisto punto = perspectiva.Ver(cuerpo.En(radio, grados));
+            if (perspectiva.Delante(punto) && perspectiva.Delante(anterior) &&
+                Oculto(vistas, Medio(anterior, punto), holgura))
                 lienzo.Linea(lugar(anterior), lugar(punto), {1, EstiloLinea::Punteada, TintaSuave});
             anterior = punto;
         }
@@ -208,20 +224,33 @@ void DibujePerspectiva(const Plano& p, const CuerpoHelice& cuerpo, Sitio centro,
 void AcotePlanta(Plano& p, const CuerpoHelice& cuerpo, Sitio centro, const helices::DatosEscaleraH& e,
                  const Separadores& numeros) {
     Lienzo& lienzo = p.ElLienzo();
-    const std::int32_t alto = lienzo.Medir("WW").Alto;
-    const double medio = cuerpo.Grados() / 2.0;
-    const PuntoLienzo eje = EnPlanta(p, cuerpo, centro, cuerpo.RadioDelEje(), medio);
-    const PuntoLienzo origen{p.X(centro.x), p.Y(centro.y)};
-    lienzo.Linea(origen, eje, {1, EstiloLinea::Punteada, Tinta});
-    const auto escribir = [&](const std::string& texto, double x, double y) {
-        p.Rotular(texto, {{x, y}, {x, y - alto}, {x, y + alto}});
-    };
-    escribir("R = " + Formato(e.R, "0.00", numeros), (origen.x + eje.x) / 2.0,
-             (origen.y + eje.y) / 2.0 - alto * 0.6);
-    escribir(NumeroParaEditar(e.Angulo, 0, numeros) + "º", origen.x, origen.y + alto);
-    const PuntoLienzo pie =
-        EnPlanta(p, cuerpo, centro, (cuerpo.RadioExterior() + cuerpo.RadioInterior()) / 2, 0);
-    escribir("B = " + Formato(e.B, "0.00", numeros), pie.x, pie.y - alto * 0.7);
+    const double alto = lienzo.Medir("WW").Alto;
+    const PuntoLienzo eje = EnPlanta(p, cuerpo, centro, cuerpo.RadioDelEje(), cuerpo.Grados() / 2.0);
+    const PuntoLienzo medio{p.X(centro.x), p.Y(centro.y)};
+    lienzo.Linea(medio, eje, {1, EstiloLinea::Punteada, Tinta});
+    const Direccion d = DireccionEn(cuerpo.Grados() / 2.0);
+    // Beside its line, on either side of it, within the inner edge if it is wide enough.
+    const std::string radio = "R = " + Formato(e.R, "0.00", numeros);
+    const double lado =
+        std::fabs(d.Seno) * lienzo.Medir(radio).Ancho / 2 + std::fabs(d.Coseno) * alto / 2 + alto / 4;
+    const double dentro = cuerpo.RadioInterior() / cuerpo.RadioDelEje();
+    const double parte = dentro > 0.3 ? 0.55 * dentro : 0.5;
+    const double x = medio.x + parte * (eje.x - medio.x);
+    const double y = medio.y + parte * (eje.y - medio.y);
+    p.Rotular(radio, {{x + lado * d.Seno, y - lado * d.Coseno}, {x - lado * d.Seno, y + lado * d.Coseno}});
+    // Opposite to the line.
+    const std::string angulo = NumeroParaEditar(e.Angulo, 0, numeros) + "º";
+    const double atras = alto + lienzo.Medir(angulo).Ancho / 2.0 * std::fabs(d.Coseno);
+    p.Rotular(angulo, {{medio.x - atras * d.Coseno, medio.y - atras * d.Seno}});
+    // Over its end; there is no room where the flight comes round to it.
+    const std::string ancho = "B = " + Formato(e.B, "0.00", numeros);
+    const PuntoLienzo pie = EnPlanta(p, cuerpo, centro, cuerpo.RadioDelEje(), 0);
+    const PuntoLienzo borde = EnPlanta(p, cuerpo, centro, cuerpo.RadioExterior(), 0);
+    if (cuerpo.Grados() < GradosConSitio)
+        p.Rotular(ancho, {{static_cast<double>(pie.x), pie.y - alto * 0.7}});
+    else
+        p.Rotular(ancho,
+                  {{borde.x + lienzo.Medir(ancho).Ancho / 2.0 + alto / 3, static_cast<double>(borde.y)}});
 }
 
 }  // namespace trabex::dibujo::helice

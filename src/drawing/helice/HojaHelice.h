@@ -21,14 +21,16 @@ struct EstiloHelice {
     Superficie Medio;
     const char* RotuloSeccion;  ///< null: without heading and block of texts
     Encabezado Arriba;
-    double Cabecera;  ///< parts of the height that the page's furniture takes
+    double ParteDeLaPlanta;  ///< of the smaller side of the surface
+    double Cabecera;         ///< parts of the height that the page's furniture takes
     double Pie;
 };
 
 /// The odd letter is the system's own.
 inline constexpr EstiloHelice HeliceEnPantalla{
-    {"Arial", true, false}, "SECCIÖN: ", Encabezado::Titulo, 0.02, 0.02};
-inline constexpr EstiloHelice HeliceEnPapel{EnPapel, "Sección: ", Encabezado::Nombre, 0.08, 0.05};
-inline constexpr EstiloHelice HeliceEnBoceto{{"Arial", true, false}, nullptr, Encabezado::Titulo, 0.02, 0.02};
+    {"Arial", true, false}, "SECCIÖN: ", Encabezado::Titulo, 0.5, 0.02, 0.02};
+inline constexpr EstiloHelice HeliceEnPapel{EnPapel, "Sección: ", Encabezado::Nombre, 0.5, 0.08, 0.05};
+inline constexpr EstiloHelice HeliceEnBoceto{
+    {"Arial", true, false}, nullptr, Encabezado::Titulo, 0.48, 0.02, 0.02};
 
 }  // namespace trabex::dibujo::helice

@@ -4,6 +4,7 @@
 
 #include "helical/CalcularEscaleraH.h"
 #include "helical/EstacionesHelice.h"
+#include "helical/salida/CamposResultadosH.h"
 #include "lote/EscritorJson.h"
 #include "store/tablas/CamposEscalera.h"
 
@@ -14,20 +15,8 @@ namespace {
 using almacen::Campo;
 using lote::Escritor;
 
-constexpr std::tuple CamposResultadosH{
-    Campo{"L", &ResultadosEscaleraH::L},   Campo{"Alfa", &ResultadosEscaleraH::Alfa},
-    Campo{"FV", &ResultadosEscaleraH::FV}, Campo{"Fh", &ResultadosEscaleraH::Fh},
-    Campo{"X", &ResultadosEscaleraH::X},   Campo{"Y", &ResultadosEscaleraH::Y}};
-
-constexpr std::tuple CamposEstacionH{
-    Campo{"N", &EstacionEscaleraH::N},       Campo{"QX", &EstacionEscaleraH::QX},
-    Campo{"QY", &EstacionEscaleraH::QY},     Campo{"MT", &EstacionEscaleraH::MT},
-    Campo{"MX", &EstacionEscaleraH::MX},     Campo{"MY", &EstacionEscaleraH::MY},
-    Campo{"MS1", &EstacionEscaleraH::MS1},   Campo{"MI1", &EstacionEscaleraH::MI1},
-    Campo{"TU", &EstacionEscaleraH::TU},     Campo{"ASXS", &EstacionEscaleraH::ASXS},
-    Campo{"ASXI", &EstacionEscaleraH::ASXI}, Campo{"AsY", &EstacionEscaleraH::AsY},
-    Campo{"AsT", &EstacionEscaleraH::AsT},   Campo{"LON", &EstacionEscaleraH::LON},
-    Campo{"SEP", &EstacionEscaleraH::SEP},   Campo{"ASMin", &EstacionEscaleraH::ASMin}};
+constexpr std::tuple CamposHiperestaticas{Campo{"X", &ResultadosEscaleraH::X},
+                                          Campo{"Y", &ResultadosEscaleraH::Y}};
 
 }  // namespace
 
@@ -40,7 +29,8 @@ std::string EscaleraHJson(const DatosEscaleraH& escalera, const ResultadosEscale
     return lote::Objeto([&](Escritor& json) {
         lote::EscribirCampos(json, escalera, almacen::tablas::CamposListaH);
         lote::EscribirCampos(json, escalera, almacen::tablas::CamposEscaleraH);
-        lote::EscribirCampos(json, resultados, CamposResultadosH);
+        lote::EscribirCampos(json, resultados, CamposDelConjuntoH);
+        lote::EscribirCampos(json, resultados, CamposHiperestaticas);
         json.Key("EmpujeEstatico");
         lote::Escribir(json, EmpujeEstatico(escalera, resultados));
         json.Key("TramoSuperior");

@@ -4,9 +4,12 @@
 #include <array>
 #include <cmath>
 
+#include "drawing/helice/CuerpoHelice.h"
+#include "drawing/helice/GraficoHelice.h"
 #include "helical/Avisos.h"
 #include "helical/CalcularEscaleraH.h"
 #include "helical/salida/EscaleraHJson.h"
+#include "helical/salida/GraficosEscalerasH.h"
 #include "store/tablas/TablasEscalera.h"
 
 namespace trabex::helices::salida {
@@ -18,6 +21,11 @@ struct Calculada {
     ResultadosEscaleraH Resultados;
     Avisos Notas;
 };
+
+EscaleraHCalculada De(const lote::Elemento& elemento) {
+    const auto& escalera = lote::Leer<Calculada>(elemento.Calculado);
+    return {escalera.Datos, escalera.Resultados};
+}
 
 lote::Registro LeerGenerales(almacen::Conexion& proyecto) {
     DatosDelProyecto datos;
@@ -77,6 +85,48 @@ std::vector<lote::Celda> Resumir(const lote::Elemento& elemento) {
         MT,         estribos};
 }
 
+/// None of a stair that was created and never saved.
+std::vector<lote::Dibujo> Dibujos(const lote::Lista&, const lote::Elemento& elemento) {
+    if (!dibujo::helice::TieneMedidas(De(elemento).Datos)) return {};
+    return {{"helice", elemento.Nombre, [escalera = De(elemento)](dibujo::Lienzo& lienzo) {
+                 dibujo::helice::HojaHelice hoja;
+                 hoja.Vista.ExportandoGrafico = true;
+                 dibujo::helice::RedibujeVista(lienzo, hoja, escalera);
+             }}};
+}
+
+std::vector<std::function<void(dibujo::Lienzo&)>> Papel(const lote::Lista&, const lote::Elemento& elemento,
+                                                        const DatosDelProyecto& datos) {
+    return {[escalera = De(elemento), &datos](dibujo::Lienzo& lienzo) {
+        dibujo::helice::DibujeEnPapel(lienzo, {}, escalera, {"", datos.Proyecto, datos.Calculista});
+    }};
+}
+
+std::vector<EscaleraHCalculada> Escaleras(const lote::Lista& lista) {
+    std::vector<EscaleraHCalculada> escaleras;
+    for (const lote::Elemento& elemento : lista.Elementos) escaleras.push_back(De(elemento));
+    return escaleras;
+}
+
+void MontarResultados(almacen::Conexion& temporal, const lote::Lista& lista) {
+    const auto escaleras = Escaleras(lista);
+    LleneEscaleraH(temporal, escaleras);
+    LleneEscaleraHS(temporal, escaleras);
+}
+
+void MontarConGraficos(almacen::Conexion& temporal, const lote::Lista& lista) {
+    const auto escaleras = Escaleras(lista);
+    LleneEscaleraH(temporal, escaleras);
+    LleneEscaleraH1S(temporal, escaleras);
+}
+
+constexpr lote::ReportesDeModulo Reportes{.Titulo = TituloReporteH,
+                                          .Resultados = "EscaleraH.rpt",
+                                          .Graficos = "GraficoH.rpt",
+                                          .Montar = MontarResultados,
+                                          .TituloGraficos = TituloGraficosH,
+                                          .MontarConGraficos = MontarConGraficos};
+
 }  // namespace
 
 const lote::Modulo ModuloEscalerasH{.Nombre = "escalera helicoidal",
@@ -89,6 +139,9 @@ const lote::Modulo ModuloEscalerasH{.Nombre = "escalera helicoidal",
                                     .GeneralesJson = GeneralesComoJson,
                                     .Json = Json,
                                     .Columnas = Columnas,
-                                    .Resumir = Resumir};
+                                    .Resumir = Resumir,
+                                    .Dibujos = Dibujos,
+                                    .Papel = Papel,
+                                    .Reportes = &Reportes};
 
 }  // namespace trabex::helices::salida

@@ -34,12 +34,16 @@ class ReportesDeLista {
 
     void Graficos() {
         almacen::Conexion temporal;
-        montaje::AbrirTemporal(entorno_, datos_, {lista_.De->Reportes->Titulo}, temporal);
+        const ReportesDeModulo& reportes = *lista_.De->Reportes;
+        montaje::AbrirTemporal(entorno_, datos_,
+                               {reportes.TituloGraficos ? reportes.TituloGraficos : reportes.Titulo},
+                               temporal);
         almacen::Transaccion guardado(temporal);
         MontarDibujos(temporal);
+        if (reportes.MontarConGraficos) reportes.MontarConGraficos(temporal, lista_);
         if (!guardado.Confirmar()) return NoSeMonto("graficos");
         temporal.Cerrar();
-        Exportar(lista_.De->Reportes->Graficos, "graficos");
+        Exportar(reportes.Graficos, "graficos");
     }
 
     /// The heading names the first element, as that of a workspace that has just opened does.

@@ -1,0 +1,187 @@
+// Panels to the printed digit and what reports stage from them. The digits come from the formulas worked
+// apart from the program.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "helical/CalcularEscaleraH.h"
+#include "helical/salida/GraficosEscalerasH.h"
+#include "helical/salida/PanelesEscaleraH.h"
+#include "support/CarpetaTemporal.h"
+#include "support/LienzoGrabador.h"
+#include "support/ProyectoDePrueba.h"
+
+namespace trabex {
+
+using namespace almacen;
+using namespace helices;
+using namespace helices::salida;
+using namespace montaje;
+namespace {
+
+/// A row as it shows, cells parted by bars.
+std::string Fila(const cuadricula::HojaDeCuadricula& hoja, std::size_t i) {
+    const documento::FilaDeTabla& fila = hoja.Celdas.Filas.at(i);
+    if (fila.Rotulo) return std::get<std::string>(fila.Celdas.at(0));
+    std::string texto;
+    for (std::size_t c = 0; c < hoja.Celdas.Columnas.size(); ++c)
+        texto += (c ? "|" : "") + cuadricula::TextoDeCelda(hoja.Celdas, i, c, {});
+    return texto;
+}
+
+struct Calculo {
+    explicit Calculo(DatosEscaleraH datos) : Datos(std::move(datos)) {
+        CalcularEscaleraH(Datos, {}, Resultados);
+    }
+    EscaleraHCalculada Ver() const { return {Datos, Resultados}; }
+    DatosEscaleraH Datos;
+    ResultadosEscaleraH Resultados;
+};
+
+TEST(PanelesEscaleraH, LaEscaleraNuevaHastaElUltimoDigito) {
+    const Calculo c(EscaleraHNuevaDe("H", ""));
+    const auto fuerzas = ColoqueSolicitaciones(c.Ver());
+    const auto diseno = ColoqueDiseno(c.Ver());
+    ASSERT_EQ(fuerzas.Celdas.Filas.size(), 62U);
+    ASSERT_EQ(diseno.Celdas.Filas.size(), 57U);
+    const std::pair<std::size_t, const char*> deFuerzas[]{
+        {0, "APOYO SUPERIOR DE LA ESCALERA DE LA ESCALERA HELICOIDAL"},
+        {1, "130|-9.330,21|-6.333,65|6.210,12|0,00|-4.085,27|19.259,08|-456,64|-288,14"},
+        {9, "90|-10.846,09|-3.224,80|0,00|376,56|0,00|24.915,64|255,88|-549,68"},
+        {27, "0|0,00|0,00|-9.661,23|0,00|-1.052,45|0,00|0,00|0,00"},
+        {28, "CENTRO DE LA ESCALERA HELICOIDAL"},
+        {29, "0|0,00|0,00|-9.661,23|0,00|-1.052,45|0,00|0,00|0,00"},
+        {30, "5|897,71|101,11|-9.624,46|0,00|-1.036,61|-2.194,53|64,62|7,29"},
+        {55, "130|9.330,21|6.333,65|6.210,12|0,00|-4.085,27|-19.259,08|456,64|288,14"},
+        {56, "APOYO INFERIOR DE LA ESCALERA HELICOIDAL"},
+        {57, "REACCiÖN SOBRE LOS APOYOS:"},
+        {58, " Reacción Vertical en el Apoyo Superior = 8508 kgf"},
+        {59, " Reacción Horizontal en el Apoyo Superior = -10639 kgf"},
+        {60, " Reacción Vertical en el Apoyo Inferior = 8508 kgf"},
+        {61, " Reacción Horizontal en el Apoyo Inferior = 10639 kgf"}};
+    for (const auto& [i, texto] : deFuerzas) EXPECT_EQ(Fila(fuerzas, i), texto);
+    // Steel below the minimum shows so among the flexure, and as the minimum in the design.
+    const std::pair<std::size_t, const char*> deDiseno[]{
+        {0, "APOYO SUPERIOR DE LA ESCALERA HELICOIDAL"},
+        {1, "130|0,00|14,51|3,67|3,75|3,75|18,18|5,49|E 3/8 @30"},
+        {8, "95|0,47|0,00|3,67|3,75|4,14|3,75|7,12|E 3/8 @30"},
+        {28, "CENTRO DE LA ESCALERA HELICOIDAL"},
+        {56, "APOYO INFERIOR DE LA ESCALERA HELICOIDAL"}};
+    for (const auto& [i, texto] : deDiseno) EXPECT_EQ(Fila(diseno, i), texto);
+
+    std::string titulos;
+    for (const auto* hoja : {&fuerzas, &diseno})
+        for (const auto& columna : hoja->Celdas.Columnas)
+            titulos += cuadricula::TituloDeColumna(columna) + ";";
+    EXPECT_EQ(titulos,
+              "Progresiva grados;Normal N (kgf);Cortes QX (kgf);Cortes QY (kgf);Momentos MX (Inf) (kgf·m);"
+              "Momentos MX (Sup) (kgf·m);Momentos MY (kgf·m);Torsión MT (kgf·m);Torsión TU (kgf·m²);"
+              "Progresiva grados;Refuerzo por Flexión ASX (Inf) (cm²);Refuerzo por Flexión ASX (Sup) (cm²);"
+              "Torsión ASX/Cara (cm²);ASX (Mín) (cm²);Refuerzo de Diseño ASX (Inf) (cm²);"
+              "Refuerzo de Diseño ASX (Sup) (cm²);Refuerzo de Diseño ASY (cm²);Estribos;");
+}
+
+/// An interval that does not divide the half; the second bar; a stair without data.
+TEST(PanelesEscaleraH, MitadesDesigualesBarraMediaYSinDatos) {
+    DatosEscaleraH e = EscaleraHNuevaDe("H", "");
+    e.Inter = 7;
+    const auto fuerzas = ColoqueSolicitaciones(Calculo(e).Ver());
+    EXPECT_THAT(Fila(fuerzas, 1), testing::StartsWith("130|"));
+    EXPECT_THAT(Fila(fuerzas, 19), testing::StartsWith("4|"));
+    EXPECT_EQ(Fila(fuerzas, 20), "CENTRO DE LA ESCALERA HELICOIDAL");
+    EXPECT_THAT(Fila(fuerzas, 21), testing::StartsWith("0|"));
+    EXPECT_THAT(Fila(fuerzas, 39), testing::StartsWith("126|"));
+
+    const auto diseno = ColoqueDiseno(Calculo({"", "", 0.4, 0.6, 3, 3, 180, 4000, 10}).Ver());
+    EXPECT_EQ(Fila(diseno, 1), "90|0,37|27,75|7,99|7,67|8,36|35,74|7,17|E 3/8 @8");
+    EXPECT_EQ(Fila(diseno, 2), "80|0,00|20,80|14,29|7,67|14,29|35,08|5,24|E 1/2 @8");
+
+    const ResultadosEscaleraH nada;
+    EXPECT_TRUE(ColoqueSolicitaciones({{}, nada}).Celdas.Filas.empty());
+    EXPECT_TRUE(ColoqueDiseno({{}, nada}).Celdas.Filas.empty());
+}
+
+class SuperficieDeTextos : public SuperficieOculta {
+  public:
+    void Dibujar(std::int32_t ancho, std::int32_t alto,
+                 const std::function<void(dibujo::Lienzo&)>& dibujar) override {
+        prueba::LienzoGrabador lienzo(ancho / 15, alto / 15);
+        dibujar(lienzo);
+        Ultimo = lienzo.Textos.back().Texto;
+    }
+    ImagenMontada Imagen() const override { return {Bytes(7), Bytes(1)}; }
+    Bytes Foto() const override { return Bytes(9); }
+    std::string Ultimo;
+};
+struct PanelMudo : PanelProgreso {
+    void Mostrar() override {}
+    void Avanzar(double, const std::string&) override {}
+    void Ocultar() override {}
+};
+
+/// All rows of a scratch table, as texts.
+std::vector<std::string> Filas(const EntornoReportes& entorno, const std::string& tabla,
+                               const std::vector<const char*>& numeros, const char* texto) {
+    Conexion temporal;
+    AbrirConexion(temporal, TemporalMdb(entorno));
+    Recordset registros;
+    AbrirRecordset(temporal, registros, tabla);
+    std::vector<std::string> filas;
+    for (int fila = 1; fila <= registros.NumeroRegistros(); ++fila) {
+        registros.MoverA(fila);
+        std::string linea = registros.Texto(texto);
+        for (const char* columna : numeros)
+            linea += "|" + documento::TextoDeValor(registros.Leer(columna), "0.00", {});
+        filas.push_back(linea);
+    }
+    return filas;
+}
+
+TEST(ReportesEscalerasH, LosDosMontajes) {
+    const prueba::CarpetaTemporal carpeta;
+    std::filesystem::create_directories(carpeta / "programa" / "Imagen");
+    std::filesystem::create_directories(carpeta / "Trabajo");
+    CrearBaseDatos(carpeta / "programa" / "Imagen" / "Temporal.tbx",
+                   prueba::LeerArchivo(TRABEX_INSTALL "/Imagen/Temporal.sql"));
+    const EntornoReportes entorno{carpeta / "programa", carpeta.Camino(), "U"};
+    const Calculo c(EscaleraHNuevaDe("H-1", "TÍTULO"));
+    dibujo::helice::HojaHelice pantalla;
+    SuperficieDeTextos superficie;
+    PanelMudo panel;
+    ASSERT_TRUE(GuardeGraficos(entorno, {}, c.Ver(), pantalla, superficie, panel));
+    EXPECT_EQ(superficie.Ultimo, "SECCIÖN: 1,50 x 0,15");
+    EXPECT_EQ(prueba::LeerArchivo(carpeta / "Trabajo" / "Foto").size(), 9U);
+    EXPECT_EQ(Filas(entorno, "Generales", {}, "Titulo")[0],
+              "ANALISIS Y DISEÑO DE LOSAS Y VIGAS HELICOIDALES");
+    EXPECT_EQ(Filas(entorno, "Grafico", {"Numero"}, "Nombre")[0], "H-1|1,00");
+    const std::vector<const char*> conjunto{"B",     "T", "H",    "Angulo", "R", "W",
+                                            "Inter", "L", "Alfa", "FV",     "Fh"};
+    const char* unica = "H-1|1,50|0,15|3,00|260,00|2,50|1500,00|5,00|11,34|14,81|8508,00|10639,00";
+    EXPECT_EQ(Filas(entorno, "EscaleraH", conjunto, "Nombre"), std::vector<std::string>{unica});
+    const auto lineas =
+        Filas(entorno, "EscaleraH1S",
+              {"Numero", "Inter", "N", "QX", "QY", "MXI", "MXS", "MY", "MT", "VT", "ASXI", "ASXS", "AsY"},
+              "Estribos");
+    ASSERT_EQ(lineas.size(), 54U);
+    EXPECT_EQ(lineas[0],
+              "E 3/8 @30|1,00|130,00|-9330,21|-6333,65|6210,12|0,00|-4085,27|19259,08|-456,64|-288,14|"
+              "3,75|18,18|5,49");
+    EXPECT_THAT(lineas[53], testing::StartsWith("E 3/8 @30|54,00|130,00|9330,21|"));
+    EXPECT_TRUE(Filas(entorno, "EscaleraHS", {}, "Nombre").empty());
+
+    ASSERT_TRUE(LLenarDatos(entorno, {}, c.Ver()));
+    EXPECT_EQ(Filas(entorno, "Generales", {}, "Titulo")[0], "ANALISIS Y DISEÑO DE LOSAS HELICOIDALES");
+    EXPECT_EQ(Filas(entorno, "EscaleraH", conjunto, "Nombre"), std::vector<std::string>{unica});
+    const auto estaciones = Filas(entorno, "EscaleraHS",
+                                  {"Inter", "N", "QX", "QY", "MI1", "MS1", "MX", "MY", "MT", "TU", "ASXS",
+                                   "ASXI", "AsY", "AsT", "LON", "SEP", "ASMin"},
+                                  "Nombre");
+    ASSERT_EQ(estaciones.size(), 54U);
+    EXPECT_EQ(estaciones[0],
+              "H-1|130,00|-9330,21|-6333,65|6210,12|0,00|-4085,27|-4085,27|19259,08|-456,64|"
+              "-288,14|14,51|0,00|5,49|0,71|7,34|30,00|3,75");
+    EXPECT_THAT(estaciones[27], testing::StartsWith("H-1|0,00|0,00|0,00|-9661,23|"));
+}
+
+}  // namespace
+}  // namespace trabex
