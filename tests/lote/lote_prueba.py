@@ -59,7 +59,7 @@ class Lote(unittest.TestCase):
         documento, resumen = self.del_ejemplo()
         self.assertEqual(self.ejemplo.read_bytes(), (IMAGEN / "Ejemplo Demostrativo.tbx").read_bytes())
         self.assertEqual(sorted(os.listdir(self.comun / "salida")),
-                         ["Trabajo", "escalerasT", "losas", "planex", "reportes", "resultados.json"])
+                         ["Trabajo", "escalerasH", "escalerasT", "losas", "planex", "reportes", "resultados.json"])
         self.assertEqual(documento["Proyecto"]["Calculista"], "ING. MARÍA NÚÑEZ")
         self.assertEqual(documento["LosaG"]["FC"], 250)
         self.assertGreaterEqual(len(documento["losas"]), 8)
@@ -117,13 +117,17 @@ class Lote(unittest.TestCase):
         self.assertEqual(vestibulo["TramoT"][10]["AreaEstribo"], 1.27)
         self.assertGreater(vestibulo["TramoT"][10]["AsInferior"], 0)  # under a moment that pulls the top
         self.assertEqual(vestibulo["TramoT"][10]["EnvolventePositiva"], 0)
+        _, _, mirador, biblioteca, torre, balcon, cuadrada = documento["escalerasH"]
+        self.assertEqual({punto["AsT"] for punto in mirador["TramoSuperior"]}, {0.71, 1.27})
+        self.assertNotEqual(biblioteca["Angulo"] / 2 % biblioteca["Inter"], 0)
+        self.assertEqual((torre["Angulo"], balcon["Alfa"], cuadrada["B"]), (360, 0, cuadrada["T"]))
         for e in documento["escalerasH"]:
             self.assertIn(e["Nombre"], resumen)
             self.assertNotIn("error", e)
             estaciones = round(e["Angulo"] / 2) // e["Inter"] + 1
             self.assertEqual([len(e["TramoSuperior"]), len(e["TramoInferior"])], [estaciones] * 2)
             self.assertAlmostEqual(e["FV"], e["W"] * e["R"] * math.radians(e["Angulo"] / 2), delta=0.51)
-            self.assertGreaterEqual(min(estacion["SEP"] for estacion in e["TramoSuperior"]), 8)
+            self.assertGreaterEqual(min(estacion["SEP"] for estacion in e["TramoSuperior"]), 7)
             self.assertEqual(e["TramoSuperior"][0]["Angulo"], -round(e["Angulo"] / 2))
             self.assertEqual([p["Angulo"] for p in e["TramoInferior"]], [i * e["Inter"] for i in range(estaciones)])
             self.assertAlmostEqual(e["EmpujeEstatico"], -e["X"] * e["W"] * e["R"] *
@@ -165,7 +169,7 @@ class Lote(unittest.TestCase):
         documento, resumen = self.resultados()
         vacia = documento["escalerasT"][-1]
         self.assertEqual((vacia["L"], vacia["WT"], vacia["TramoT"], vacia["Alfa"]), (0, 0, [], 0))
-        helice = documento["escalerasH"][2]
+        helice = documento["escalerasH"][-1]
         self.assertEqual((helice["Inter"], helice["TramoSuperior"], helice["L"]), (5, [], 0))
         self.assertNotIn("error", vacia | helice)
         self.assertEqual(documento["EscaleraHG"]["FC"], 250)
@@ -300,7 +304,8 @@ class Lote(unittest.TestCase):
         reportes = self.comun / "salida" / "reportes"
         self.assertEqual(sorted(os.listdir(reportes)),
                          sorted(f"{cual}.{formato}" for formato in ("htm", "pdf", "rtf", "xls")
-                                for cual in ("escalerasT-graficos", "losas-graficos", "losas-resultados")))
+                                for cual in ("escalerasH-graficos", "escalerasH-resultados", "escalerasT-graficos", "losas-graficos",
+                                             "losas-resultados")))
         pdf = subprocess.run(["pdftotext", "-layout", reportes / "losas-resultados.pdf", "-"],
                              capture_output=True, text=True).stdout
         html = (reportes / "losas-resultados.htm").read_text()
@@ -312,6 +317,12 @@ class Lote(unittest.TestCase):
             texto = f"{momento:,.2f}".replace(",", " ").replace(".", ",").replace(" ", ".")
             self.assertIn(texto, pdf)
             self.assertIn(texto, html)
+        for cual in ("escalerasH-graficos", "escalerasH-resultados"):
+            html = (reportes / f"{cual}.htm").read_text()
+            for helice in documento["escalerasH"]:
+                for estacion in helice["TramoSuperior"] + helice["TramoInferior"]:
+                    self.assertIn(f"{abs(estacion['TU']):,.2f}".translate(str.maketrans(".,", ",.")), html)
+        self.assertEqual(len(os.listdir(self.comun / "salida" / "escalerasH")), 2 * len(documento["escalerasH"]))
 
     def test_se_escribe_lo_que_se_pide(self):
         self.sql("DELETE FROM LosaDatos WHERE Nombre <> 'L-7 TECHO'")
@@ -324,7 +335,8 @@ class Lote(unittest.TestCase):
             self.assertEqual((corrida.returncode, corrida.stderr), (0, ""))
             self.assertEqual(sorted(os.listdir(carpeta)), sorted(partes + ["resultados.json"]))
         self.assertEqual(sorted(os.listdir(carpeta / "reportes")),
-                         [f"losas-resultados.{formato}" for formato in ("htm", "pdf", "rtf", "xls")])
+                         [f"{cual}-resultados.{formato}" for cual in ("escalerasH", "losas")
+                          for formato in ("htm", "pdf", "rtf", "xls")])
 
     def test_ningun_valor_ensancha_el_resumen(self):
         self.sql("DELETE FROM LosaDatos WHERE Nombre <> 'L-7 TECHO'",

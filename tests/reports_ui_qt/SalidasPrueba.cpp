@@ -137,8 +137,8 @@ TEST_F(SalidasDeReporte, LosGraficosVuelvenALaPantalla) {
     EXPECT_EQ(estado.FormatoSalida, SalidaPantalla);
     EXPECT_EQ(impresoras.Impresos, (std::vector<std::string>{"", ""}));
     estado.GraficoHelicoidal = true;
-    graficos.Aceptar(SalidaPantalla);
-    EXPECT_NE(caja.Mensajes.back().Texto.find("GraficoH.rpt"), std::string::npos);
+    graficos.Aceptar(SalidaImpresora);
+    EXPECT_EQ(impresoras.Impresos.size(), 3U);
     impresoras.Nombres.clear();
     tablas.Aceptar(SalidaImpresora);
     EXPECT_EQ(caja.Mensajes.back().Texto, "No hay impresoras instaladas en el sistema.");

@@ -19,7 +19,9 @@ constexpr double AltoDePeldano = 0.175;  // m
 constexpr double PeldanosMaximos = 120;
 constexpr double GradosEntreLineas = 10;  // of a flight without steps
 
+/// A beam, which is not much wider than deep, has none.
 int PeldanosDe(const DatosEscaleraH& e) {
+    if (!(e.B > 2 * e.T)) return 0;
     const double peldanos = Round(e.H / AltoDePeldano);
     return peldanos >= 1 && peldanos <= PeldanosMaximos ? static_cast<int>(peldanos) : 0;
 }

@@ -40,7 +40,7 @@ class CuerpoHelice {
     /// A point `sobre` m above the surface between both edges.
     Punto3 En(double radio, double grados, double sobre = 0) const;
 
-    /// Steps of 17.5 cm or so, for the picture alone; none on a flight that does not rise.
+    /// Steps of 17.5 cm or so, for the picture alone; none on a flight that does not rise nor on a beam.
     int Peldanos() const { return peldanos_; }
     double GradosDePeldano() const { return static_cast<double>(grados_) / peldanos_; }
 

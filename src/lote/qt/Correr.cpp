@@ -81,15 +81,12 @@ class Salidas {
 
     void EscribirLosReportes() {
         bool hay = false;
-        // Kinds without a report of results first: the scratch database that stays is one of results.
-        for (const bool conResultados : {false, true}) {
-            for (const Lista& lista : calculado_.Listas) {
-                const ReportesDeModulo* reportes = lista.De->Reportes;
-                if (!reportes || (reportes->Resultados != nullptr) != conResultados) continue;
-                hay = true;
-                EscribirReportes(CarpetaDelPrograma(), lista, calculado_.Datos, !opciones_.SinDibujos,
-                                 opciones_.Carpeta, marcha_, faltas_);
-            }
+        // Backwards: the scratch database that stays is that of the first kind.
+        for (auto lista = calculado_.Listas.rbegin(); lista != calculado_.Listas.rend(); ++lista) {
+            if (!lista->De->Reportes) continue;
+            hay = true;
+            EscribirReportes(CarpetaDelPrograma(), *lista, calculado_.Datos, !opciones_.SinDibujos,
+                             opciones_.Carpeta, marcha_, faltas_);
         }
         if (hay) Cerrar("Reportes", opciones_.Carpeta / "reportes");
     }
