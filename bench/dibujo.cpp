@@ -7,9 +7,11 @@
 
 #include <benchmark/benchmark.h>
 
+#include "drawing/helice/GraficoHelice.h"
 #include "drawing/losa/GraficoLosa.h"
 #include "drawing/qt/ImagenDeHoja.h"
 #include "drawing/qt/LienzoQt.h"
+#include "helical/CalcularEscaleraH.h"
 #include "slab/CalcularLosa.h"
 #include "support/LosasDePrueba.h"
 
@@ -21,8 +23,8 @@ using namespace dibujo;
 using namespace dibujo::losa;
 using namespace dibujo::qt;
 
-QImage Pantalla() {
-    QImage imagen(1280, 720, QImage::Format_RGB32);
+QImage Pantalla(int ancho = 1280, int alto = 720) {
+    QImage imagen(ancho, alto, QImage::Format_RGB32);
     imagen.setDotsPerMeterX(PuntosPorMetro);
     imagen.setDotsPerMeterY(PuntosPorMetro);
     return imagen;
@@ -47,6 +49,29 @@ void Redibujar(benchmark::State& estado) {
 BENCHMARK(Redibujar)
     ->ArgNames({"hoja", "tramos"})
     ->ArgsProduct({{VistaGeometria, VistaFuerzas, VistaDiseno}, {5, 20, 60}})
+    ->Unit(benchmark::kMillisecond);
+
+/// A tick of the timer that turns a helix, on a canvas of so many pixels of height.
+void GirarHelice(benchmark::State& estado) {
+    const int alto = static_cast<int>(estado.range(1));
+    helices::DatosEscaleraH escalera = helices::EscaleraHNuevaDe("H", "ESCALERA HELICOIDAL");
+    escalera.Angulo = static_cast<double>(estado.range(0));
+    helices::ResultadosEscaleraH resultados;
+    CalcularEscaleraH(escalera, {}, resultados);
+    helice::HojaHelice hoja;
+    hoja.ElGiro = {0, 30, helice::ModoGiro::Vertical};
+    QImage imagen = Pantalla(2 * alto, alto);
+    MemoriaDeTextos memoria;
+    for (auto _ : estado) {
+        helice::Avanzar(hoja.ElGiro);
+        QPainter pintor(&imagen);
+        LienzoQt lienzo(pintor, 2 * alto, alto, &memoria);
+        helice::RedibujeVista(lienzo, hoja, {escalera, resultados});
+    }
+}
+BENCHMARK(GirarHelice)
+    ->ArgNames({"angulo", "alto"})
+    ->ArgsProduct({{260, 360}, {600, 1200}})
     ->Unit(benchmark::kMillisecond);
 
 /// The reference: the same raster filled once.

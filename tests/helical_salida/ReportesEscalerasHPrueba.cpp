@@ -9,6 +9,7 @@
 #include "helical/salida/PanelesEscaleraH.h"
 #include "support/CarpetaTemporal.h"
 #include "support/LienzoGrabador.h"
+#include "support/Lugares.h"
 #include "support/ProyectoDePrueba.h"
 
 namespace trabex {
@@ -142,7 +143,7 @@ TEST(ReportesEscalerasH, LosDosMontajes) {
     std::filesystem::create_directories(carpeta / "programa" / "Imagen");
     std::filesystem::create_directories(carpeta / "Trabajo");
     CrearBaseDatos(carpeta / "programa" / "Imagen" / "Temporal.tbx",
-                   prueba::LeerArchivo(TRABEX_INSTALL "/Imagen/Temporal.sql"));
+                   prueba::LeerArchivo(prueba::Install() + "/Imagen/Temporal.sql"));
     const EntornoReportes entorno{carpeta / "programa", carpeta.Camino(), "U"};
     const Calculo c(EscaleraHNuevaDe("H-1", "TÍTULO"));
     dibujo::helice::HojaHelice pantalla;

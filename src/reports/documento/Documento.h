@@ -108,7 +108,7 @@ struct FilaDeTabla {
     std::vector<almacen::Valor>
         Celdas;              ///< one a column; a number stays a number in outputs that know numbers
     bool Destacada = false;  ///< totals: bold, under a rule
-    bool Rotulo = false;     ///< its first cell is a text over the width of the table: a line between rows
+    bool Rotulo = false;     ///< its one cell is a text between rows: a window shows it over all columns
 };
 
 /// How a table looks on pages.
