@@ -58,7 +58,7 @@ TEST(GraficoHelice, LaPerspectivaYElFinDeLaPlanta) {
     EXPECT_NEAR(girado.y, 2.8192128227689, 1e-12);
     EXPECT_NEAR(girado.Fondo, 2.1641986520046, 1e-12);
     EXPECT_EQ(Perspectiva(0, {}).Ver({1, 2, -60}).y, 2);
-    for (const double angulo : {45.0, 90.0, 135.0, 180.0, 260.0, 270.0, 359.0, 360.0}) {
+    for (const double angulo : {45.0, 90.0, 122.5, 180.0, 260.0, 270.0, 359.0, 360.0}) {
         DatosEscaleraH e = EscaleraHNuevaDe("", "");
         e.Angulo = angulo;
         LienzoGrabador lienzo(1000, 600);

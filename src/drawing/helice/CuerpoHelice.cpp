@@ -48,13 +48,14 @@ CuerpoHelice::CuerpoHelice(const DatosEscaleraH& escalera)
     : escalera_(escalera),
       exterior_(escalera.R + escalera.B / 2),
       interior_(std::max(escalera.R - escalera.B / 2, 0.0)),
-      grados_(static_cast<int>(Round(std::min(escalera.Angulo, AnguloMaximo)))),
+      angulo_(std::min(escalera.Angulo, AnguloMaximo)),
+      grados_(static_cast<int>(Round(angulo_))),
       peldanos_(PeldanosDe(escalera)) {}
 
 /// Every radius rises alike: the slope arctan(H / Lo) of an edge over its own developed length Lo.
 Punto3 CuerpoHelice::En(double radio, double grados, double sobre) const {
     const Direccion d = DireccionEn(grados);
-    const double altura = escalera_.H * grados / std::min(escalera_.Angulo, AnguloMaximo) - escalera_.H / 2;
+    const double altura = escalera_.H * grados / angulo_ - escalera_.H / 2;
     return {radio * d.Coseno, altura + sobre, -radio * d.Seno};
 }
 

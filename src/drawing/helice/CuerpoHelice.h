@@ -31,7 +31,8 @@ class CuerpoHelice {
     double RadioExterior() const { return exterior_; }
     double RadioInterior() const { return interior_; }
     double RadioDelEje() const { return escalera_.R; }
-    /// The last whole degree of the edges.
+    /// Development in plan, degrees, one turn at most; and the last whole degree of the edges in space.
+    double Angulo() const { return angulo_; }
     int Grados() const { return grados_; }
 
     /// Angles that break an arc every `paso` degrees or less, its ends among them.
@@ -59,6 +60,7 @@ class CuerpoHelice {
     helices::DatosEscaleraH escalera_;
     double exterior_;
     double interior_;
+    double angulo_;
     int grados_;
     int peldanos_;
 };

@@ -16,7 +16,7 @@ namespace {
 using Cara = CuerpoHelice::Cara;
 using Parte = CuerpoHelice::Parte;
 
-constexpr int GradosConSitio = 320;  // of a flight that leaves room over its foot
+constexpr double GradosConSitio = 320;  // of a flight that leaves room over its foot
 constexpr Color Tinta{58, 66, 74};
 constexpr Color TintaSuave{150, 160, 168};
 constexpr Color TintaEje{176, 60, 50};
@@ -62,14 +62,14 @@ double PasoDe(const Plano& p, const CuerpoHelice& cuerpo) {
 
 std::vector<PuntoLienzo> Arco(const Plano& p, const CuerpoHelice& cuerpo, Sitio centro, double radio) {
     std::vector<PuntoLienzo> puntos;
-    for (const double grados : CuerpoHelice::Quiebres(0, cuerpo.Grados(), PasoDe(p, cuerpo)))
+    for (const double grados : CuerpoHelice::Quiebres(0, cuerpo.Angulo(), PasoDe(p, cuerpo)))
         puntos.push_back(EnPlanta(p, cuerpo, centro, radio, grados));
     return puntos;
 }
 
 /// The head of the climbing arrow, its point where the flight ends.
 void Punta(const Plano& p, const CuerpoHelice& cuerpo, Sitio centro) {
-    const double fin = cuerpo.Grados();
+    const double fin = cuerpo.Angulo();
     const double largo =
         std::min(0.28 * (cuerpo.RadioExterior() - cuerpo.RadioInterior()), 0.3 * cuerpo.RadioDelEje());
     const Direccion d = DireccionEn(fin);
@@ -101,7 +101,7 @@ void DibujePlanta(const Plano& p, const CuerpoHelice& cuerpo, Sitio centro) {
     Polilinea(lienzo, exterior, borde);
     Polilinea(lienzo, interior, borde);
     radial(0, borde);
-    radial(cuerpo.Grados(), borde);
+    radial(cuerpo.Angulo(), borde);
     Polilinea(lienzo, Arco(p, cuerpo, centro, cuerpo.RadioDelEje()), {1, EstiloLinea::Solida, TintaEje});
     lienzo.Circulo(EnPlanta(p, cuerpo, centro, cuerpo.RadioDelEje(), 0), p.Unidades(3), std::nullopt,
                    TintaEje);
@@ -225,10 +225,10 @@ void AcotePlanta(Plano& p, const CuerpoHelice& cuerpo, Sitio centro, const helic
                  const Separadores& numeros) {
     Lienzo& lienzo = p.ElLienzo();
     const double alto = lienzo.Medir("WW").Alto;
-    const PuntoLienzo eje = EnPlanta(p, cuerpo, centro, cuerpo.RadioDelEje(), cuerpo.Grados() / 2.0);
+    const PuntoLienzo eje = EnPlanta(p, cuerpo, centro, cuerpo.RadioDelEje(), cuerpo.Angulo() / 2);
     const PuntoLienzo medio{p.X(centro.x), p.Y(centro.y)};
     lienzo.Linea(medio, eje, {1, EstiloLinea::Punteada, Tinta});
-    const Direccion d = DireccionEn(cuerpo.Grados() / 2.0);
+    const Direccion d = DireccionEn(cuerpo.Angulo() / 2);
     // Beside its line, on either side of it, within the inner edge if it is wide enough.
     const std::string radio = "R = " + Formato(e.R, "0.00", numeros);
     const double lado =
@@ -246,7 +246,7 @@ void AcotePlanta(Plano& p, const CuerpoHelice& cuerpo, Sitio centro, const helic
     const std::string ancho = "B = " + Formato(e.B, "0.00", numeros);
     const PuntoLienzo pie = EnPlanta(p, cuerpo, centro, cuerpo.RadioDelEje(), 0);
     const PuntoLienzo borde = EnPlanta(p, cuerpo, centro, cuerpo.RadioExterior(), 0);
-    if (cuerpo.Grados() < GradosConSitio)
+    if (cuerpo.Angulo() < GradosConSitio)
         p.Rotular(ancho, {{static_cast<double>(pie.x), pie.y - alto * 0.7}});
     else
         p.Rotular(ancho,
