@@ -21,6 +21,7 @@ constexpr double AltoDeTextos = 0.16;  // parts of the height
 constexpr double AltoDeTitulo = 0.07;
 constexpr double Apilado = 0.72;  // narrower surfaces have the perspective below the plan
 constexpr double Margen = 0.03;   // between figures, a part of the smaller side at least
+constexpr double AumentoMaximo = 4;
 constexpr double InclinacionDeBoceto = 30;
 
 /// Where all stands on the canvas, m from its middle at zoom 1.
@@ -41,6 +42,13 @@ EnFila Alinear(double largo, double primera, double segunda, double margen) {
     return {aire + primera / 2, largo - aire - tamano / 2, tamano};
 }
 
+/// Turned anyhow, the flight stays within a sphere, and looks larger where it comes near the eye.
+double RadioALaVista(const DatosEscaleraH& e, const CuerpoHelice& cuerpo) {
+    const double radio = std::hypot(cuerpo.RadioExterior(), e.H / 2 + e.T);
+    const double ojo = Perspectiva(e.H, {}).Distancia();
+    return radio * (radio < AumentoMaximo / (AumentoMaximo + 1) * ojo ? ojo / (ojo - radio) : AumentoMaximo);
+}
+
 Sitios Repartir(const Lienzo& lienzo, const DatosEscaleraH& e, const CuerpoHelice& cuerpo,
                 const EstiloHelice& estilo) {
     const double w = lienzo.ScaleWidth();
@@ -52,8 +60,7 @@ Sitios Repartir(const Lienzo& lienzo, const DatosEscaleraH& e, const CuerpoHelic
     const double planta = estilo.ParteDeLaPlanta * menor;
     const double metros = 2 * (e.B / 2 + e.R);
     const bool apilado = w < Apilado * h || !textos;
-    // Turned anyhow, the flight stays within a sphere, a little larger before the eye.
-    const double esfera = 1.08 * std::hypot(cuerpo.RadioExterior(), e.H / 2 + e.T) / cuerpo.RadioExterior();
+    const double esfera = RadioALaVista(e, cuerpo) / cuerpo.RadioExterior();
     const EnFila fila =
         Alinear(apilado ? abajo - arriba : w, planta, planta * std::min(esfera, 1.2), Margen * menor);
     const double escala = planta / metros;

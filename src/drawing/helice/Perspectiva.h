@@ -24,6 +24,7 @@ class Perspectiva {
   public:
     Perspectiva(double H, const Giro& giro);
 
+    double Distancia() const { return distancia_; }
     Punto3 Girar(const Punto3& punto) const;
     PuntoVisto Ver(const Punto3& punto) const;
     /// Whether a point lies well before the eye: what does not can't be drawn as a part of a figure.
