@@ -4,6 +4,8 @@
 #include <type_traits>
 #include <utility>
 
+#include "base/Relato.h"
+
 namespace trabex {
 
 /// The fence between arithmetic and the processor's floating-point flags.
@@ -31,11 +33,20 @@ void Llamar(void* f) {
 
 }  // namespace vigilancia
 
-/// The steps of a calculation, as Vigilar hands them to it: run straight through, or each looked at.
+/// The steps of a calculation, as Vigilar hands them to it: run straight through, or each looked at. Or told
+/// to who wants to read them.
 class Pasos {
   public:
     Pasos() = default;
     explicit Pasos(bool vigilados) : vigilados_(vigilados) {}
+    /// Run straight through, and told.
+    explicit Pasos(Relato& relato) : relato_(&relato) {}
+
+    /// Tells a step, where somebody listens: see Relatar.
+    void Contar(const char* simbolo, const char* formula, std::initializer_list<Cantidad> cantidades,
+                double valor, const char* unidad) const {
+        if (relato_ != nullptr) Relatar(*relato_, simbolo, formula, cantidades, valor, unidad);
+    }
 
     /// Whether each step is looked at.
     bool Vigilados() const { return vigilados_; }
@@ -58,6 +69,7 @@ class Pasos {
 
   private:
     bool vigilados_ = false;
+    Relato* relato_ = nullptr;
 };
 
 /// Runs calculo(pasos) with division by zero, overflow and invalid operation as run-time errors: throws

@@ -13,6 +13,7 @@
 
 #include "base/Proyecto.h"
 #include "drawing/Lienzo.h"
+#include "reports/documento/Documento.h"
 #include "store/Conexion.h"
 #include "store/Valor.h"
 #include "store/proyecto/ProyectoAbierto.h"
@@ -92,6 +93,20 @@ struct Intercambio {
                      const DatosDelProyecto& datos, const Lista& lista, std::string& enCurso);
 };
 
+/// What the calculation memo tells of an element, before its drawings and after them.
+struct ParteDeMemoria {
+    std::vector<documento::Bloque> Datos;
+    std::vector<documento::Bloque> Resultados;
+};
+
+/// A kind's chapter of the calculation memo.
+struct MemoriaDeModulo {
+    std::span<const char* const> (*Metodo)();  ///< assumptions of the method, a paragraph each
+    ParteDeMemoria (*Contar)(const Lista& lista, const Elemento& elemento, const Separadores& numeros);
+    /// Flat tables over all elements, with the name of each one's sheet; null: none.
+    std::vector<std::pair<std::string, documento::Tabla>> (*Tablas)(const Lista& lista);
+};
+
 /// An element's module. Functions that are null stand for what the element does not have.
 struct Modulo {
     const char* Nombre;          ///< one element of the kind, as messages name it: "losa"
@@ -120,6 +135,7 @@ struct Modulo {
                                                                const DatosDelProyecto& datos) = nullptr;
 
     const ReportesDeModulo* Reportes = nullptr;
+    const MemoriaDeModulo* Memoria = nullptr;
     std::span<const Intercambio> Intercambios{};
 };
 

@@ -13,7 +13,7 @@ constexpr const char* SalidaResultados = "resultados";
 
 /// Every output by its name, once.
 std::vector<std::string> Salidas(Modulos modulos) {
-    std::vector<std::string> nombres{SalidaResultados, SalidaHojas, SalidaReportes};
+    std::vector<std::string> nombres{SalidaResultados, SalidaHojas, SalidaReportes, SalidaMemoria};
     for (const Modulo* modulo : modulos) {
         for (const Intercambio& intercambio : modulo->Intercambios) {
             if (std::find(nombres.begin(), nombres.end(), intercambio.Clave) == nombres.end())

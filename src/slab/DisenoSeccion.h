@@ -19,7 +19,7 @@ class DisenoSeccion {
 
     /// Flexural steel for a factored moment M in kgf·m: a positive one pulls the bottom face, a negative or
     /// zero one the top. The section is rectangular everywhere, also for a ribbed slab under positive moment.
-    AceroCaras CalcularAcero(double M) const;
+    AceroCaras CalcularAcero(double M, const Pasos& pasos = {}) const;
 
     /// Length of the solid zone that a ribbed slab needs beside a joint, m, under a factored shear V (kgf)
     /// and moment M (kgf·m); C is the span's cosine.
@@ -27,7 +27,7 @@ class DisenoSeccion {
     /// The longer of the distance at which the concrete alone carries the shear (0.53·1.1·√F'c·b·d·φ) and the
     /// distance at which the moment falls to the section's limit. On both sides of the joint the load is that
     /// of the span to its left, and slot 0 of Tramos makes it zero at the first joint.
-    double CalcularMacizado(std::size_t junta, double V, double M, double C) const;
+    double CalcularMacizado(std::size_t junta, double V, double M, double C, const Pasos& pasos = {}) const;
 
   private:
     const Losa& losa_;

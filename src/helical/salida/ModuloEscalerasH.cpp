@@ -10,6 +10,7 @@
 #include "helical/CalcularEscaleraH.h"
 #include "helical/salida/EscaleraHJson.h"
 #include "helical/salida/GraficosEscalerasH.h"
+#include "helical/salida/MemoriaHelices.h"
 #include "store/tablas/TablasEscalera.h"
 
 namespace trabex::helices::salida {
@@ -127,6 +128,14 @@ constexpr lote::ReportesDeModulo Reportes{.Titulo = TituloReporteH,
                                           .TituloGraficos = TituloGraficosH,
                                           .MontarConGraficos = MontarConGraficos};
 
+lote::ParteDeMemoria Contar(const lote::Lista& lista, const lote::Elemento& elemento,
+                            const Separadores& numeros) {
+    const auto& [datos, resultados, notas] = lote::Leer<Calculada>(elemento.Calculado);
+    return MemoriaDeHelice(datos, lote::Leer<DatosGenerales>(lista.Generales), resultados, notas, numeros);
+}
+
+constexpr lote::MemoriaDeModulo Memoria{MetodoDeHelices, Contar, nullptr};
+
 }  // namespace
 
 const lote::Modulo ModuloEscalerasH{.Nombre = "escalera helicoidal",
@@ -142,6 +151,7 @@ const lote::Modulo ModuloEscalerasH{.Nombre = "escalera helicoidal",
                                     .Resumir = Resumir,
                                     .Dibujos = Dibujos,
                                     .Papel = Papel,
-                                    .Reportes = &Reportes};
+                                    .Reportes = &Reportes,
+                                    .Memoria = &Memoria};
 
 }  // namespace trabex::helices::salida

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "loads/salida/AnalisisCargaJson.h"
+#include "lote/BloquesDeMemoria.h"
 #include "store/tablas/TablasCargas.h"
 
 namespace trabex::cargas::salida {
@@ -35,6 +36,35 @@ std::vector<lote::Celda> Resumir(const lote::Elemento& elemento) {
             analisis.Carga, analisis.REL};
 }
 
+std::span<const char* const> Metodo() {
+    static constexpr std::array<const char*, 1> parrafos{
+        "Cada análisis suma los pesos de sus partidas permanentes y su carga variable, de servicio, en "
+        "kgf/m²."};
+    return parrafos;
+}
+
+lote::ParteDeMemoria Contar(const lote::Lista&, const lote::Elemento& elemento, const Separadores&) {
+    const auto& analisis = lote::Leer<AnalisisCarga>(elemento.Calculado);
+    documento::Tabla tabla;
+    tabla.Columnas = {lote::ColumnaDeMemoria("Partida"), lote::ColumnaDeMemoria("Peso (kgf/m²)", "#,##0.00")};
+    tabla.Columnas.front().Ancho = 100;
+    for (const PesoUnitario& partida : analisis.Permanentes)
+        tabla.Filas.push_back({{partida.Descripcion, partida.Peso}});
+    const auto total = [&](const std::string& que, const almacen::Valor& valor) {
+        documento::FilaDeTabla fila{{que, valor}};
+        fila.Destacada = true;
+        tabla.Filas.push_back(std::move(fila));
+    };
+    total("Carga permanente", analisis.CP);
+    total("Carga variable: " + analisis.Variable.Descripcion, analisis.CV);
+    total("Carga total", analisis.Carga);
+    return {{},
+            {std::move(tabla),
+             documento::Ficha{1, {{"Relación variable / permanente", analisis.REL, "0.000", ""}}}}};
+}
+
+constexpr lote::MemoriaDeModulo Memoria{Metodo, Contar, nullptr};
+
 }  // namespace
 
 const lote::Modulo ModuloCargas{.Nombre = "análisis de carga",
@@ -47,6 +77,7 @@ const lote::Modulo ModuloCargas{.Nombre = "análisis de carga",
                                 .GeneralesJson = nullptr,
                                 .Json = Json,
                                 .Columnas = Columnas,
-                                .Resumir = Resumir};
+                                .Resumir = Resumir,
+                                .Memoria = &Memoria};
 
 }  // namespace trabex::cargas::salida

@@ -12,6 +12,7 @@
 #include "lote/Resumen.h"
 #include "lote/Terminal.h"
 #include "lote/qt/HojasLote.h"
+#include "lote/qt/MemoriaLote.h"
 #include "lote/qt/ReportesLote.h"
 
 namespace trabex::lote::qt {
@@ -41,6 +42,10 @@ class Salidas {
             }
         }
         if (opciones_.Pide(SalidaReportes)) EscribirLosReportes();
+        if (opciones_.Solo.contains(SalidaMemoria)) {
+            EscribirMemoria(calculado_, !opciones_.SinDibujos, opciones_.Carpeta, marcha_, faltas_);
+            Cerrar("Memoria de cálculo", opciones_.Carpeta / "memoria.pdf");
+        }
     }
 
     const std::string& Cierre() const { return cierre_; }

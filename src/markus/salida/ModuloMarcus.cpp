@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 
+#include "lote/BloquesDeMemoria.h"
 #include "markus/salida/MarcusJson.h"
 #include "store/tablas/TablasMarcus.h"
 
@@ -53,6 +54,33 @@ std::vector<lote::Celda> Resumir(const lote::Elemento& elemento) {
     return {static_cast<double>(nivel.Filas.size()), menorCX, mayorCX, mayorWX, mayorWY};
 }
 
+std::span<const char* const> Metodo() {
+    static constexpr std::array<const char*, 1> parrafos{
+        "La carga de cada paño se reparte entre sus dos direcciones por igualdad de flechas en el centro de "
+        "dos franjas que se "
+        "cruzan (H. Marcus, 1925), según el caso de apoyo de sus bordes. La reducción por torsión del paño "
+        "no se toma."};
+    return parrafos;
+}
+
+lote::ParteDeMemoria Contar(const lote::Lista&, const lote::Elemento& elemento, const Separadores&) {
+    documento::Tabla tabla;
+    tabla.Columnas = {lote::ColumnaDeMemoria("Paño", "0"),      lote::ColumnaDeMemoria("Carga", "#,##0.00"),
+                      lote::ColumnaDeMemoria("Caso", "0"),      lote::ColumnaDeMemoria("LX (m)", "0.00"),
+                      lote::ColumnaDeMemoria("LY (m)", "0.00"), lote::ColumnaDeMemoria("CX", "0.0000"),
+                      lote::ColumnaDeMemoria("CY", "0.0000"),   lote::ColumnaDeMemoria("WX", "#,##0.00"),
+                      lote::ColumnaDeMemoria("WY", "#,##0.00")};
+    const NivelMarcus& nivel = lote::Leer<Calculado>(elemento.Calculado).Nivel;
+    for (std::size_t i = 0; i < nivel.Filas.size(); ++i) {
+        const PanoMarcus& pano = nivel.Filas[i];
+        tabla.Filas.push_back({{static_cast<double>(i + 1), pano.Carga, pano.Caso, pano.LX, pano.LY,
+                                pano.Reparto.CX, pano.Reparto.CY, pano.Reparto.WX, pano.Reparto.WY}});
+    }
+    return {{}, {std::move(tabla)}};
+}
+
+constexpr lote::MemoriaDeModulo Memoria{Metodo, Contar, nullptr};
+
 }  // namespace
 
 const lote::Modulo ModuloMarcus{.Nombre = "nivel de Markus",
@@ -65,6 +93,7 @@ const lote::Modulo ModuloMarcus{.Nombre = "nivel de Markus",
                                 .GeneralesJson = nullptr,
                                 .Json = Json,
                                 .Columnas = Columnas,
-                                .Resumir = Resumir};
+                                .Resumir = Resumir,
+                                .Memoria = &Memoria};
 
 }  // namespace trabex::marcus::salida

@@ -9,6 +9,7 @@
 #include "slab/CalcularLosa.h"
 #include "slab/salida/GraficosLosas.h"
 #include "slab/salida/LosasJson.h"
+#include "slab/salida/MemoriaLosas.h"
 #include "store/tablas/TablasLosa.h"
 
 namespace trabex::losas::salida {
@@ -134,6 +135,19 @@ void EscribirPlanex(const std::filesystem::path& programa, const std::filesystem
     archivo.Colocar();
 }
 
+lote::ParteDeMemoria Contar(const lote::Lista& lista, const lote::Elemento& elemento,
+                            const Separadores& numeros) {
+    return MemoriaDeLosa(De(lista, elemento), lote::Leer<Calculada>(elemento.Calculado).Notas, numeros);
+}
+
+std::vector<std::pair<std::string, documento::Tabla>> Tablas(const lote::Lista& lista) {
+    std::vector<LosaCalculada> losas;
+    for (const lote::Elemento& elemento : lista.Elementos) losas.push_back(De(lista, elemento));
+    return TablasDeLosas(losas);
+}
+
+constexpr lote::MemoriaDeModulo Memoria{MetodoDeLosas, Contar, Tablas};
+
 constexpr std::array<lote::Intercambio, 1> Intercambios{
     {{"planex", "Proyecto de Planex", ".cad", EscribirPlanex}}};
 
@@ -153,6 +167,7 @@ const lote::Modulo ModuloLosas{.Nombre = "losa",
                                .Dibujos = Dibujos,
                                .Papel = Papel,
                                .Reportes = &Reportes,
+                               .Memoria = &Memoria,
                                .Intercambios = Intercambios};
 
 }  // namespace trabex::losas::salida

@@ -8,6 +8,7 @@
 #include "stairs/CalcularEscaleraT.h"
 #include "stairs/salida/EscaleraTJson.h"
 #include "stairs/salida/GraficosEscaleras.h"
+#include "stairs/salida/MemoriaEscaleras.h"
 #include "store/tablas/TablasEscalera.h"
 
 namespace trabex::escaleras::salida {
@@ -114,6 +115,13 @@ std::vector<std::function<void(dibujo::Lienzo&)>> Papel(const lote::Lista& lista
     return paginas;
 }
 
+lote::ParteDeMemoria Contar(const lote::Lista& lista, const lote::Elemento& elemento,
+                            const Separadores& numeros) {
+    return MemoriaDeEscalera(De(lista, elemento), lote::Leer<Calculada>(elemento.Calculado).Notas, numeros);
+}
+
+constexpr lote::MemoriaDeModulo Memoria{MetodoDeEscaleras, Contar, nullptr};
+
 constexpr lote::ReportesDeModulo Reportes{TituloReporteEscaleras, nullptr, "GraficoAutoportantes.rpt",
                                           nullptr};
 
@@ -132,6 +140,7 @@ const lote::Modulo ModuloEscalerasT{.Nombre = "escalera autoportante",
                                     .Resumir = Resumir,
                                     .Dibujos = Dibujos,
                                     .Papel = Papel,
-                                    .Reportes = &Reportes};
+                                    .Reportes = &Reportes,
+                                    .Memoria = &Memoria};
 
 }  // namespace trabex::escaleras::salida

@@ -1,0 +1,145 @@
+#include "lote/Memoria.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "base/Formatos.h"
+#include "base/Texto.h"
+
+namespace trabex::lote {
+
+namespace {
+
+using documento::Alineacion;
+using documento::Bloque;
+using documento::Seccion;
+
+constexpr const char* TituloMemoria = "MEMORIA DE CÁLCULO";
+constexpr double AltoDeDibujo = 105;  // mm: two to a page
+
+Seccion Portada(const DatosDelProyecto& datos, const std::string& fecha) {
+    documento::Ficha ficha;
+    ficha.Columnas = 1;
+    ficha.Datos = {{"Proyecto", datos.Proyecto, "", ""},        {"Propietario", datos.Propietario, "", ""},
+                   {"Cliente", datos.Cliente, "", ""},          {"Calculista", datos.Calculista, "", ""},
+                   {"Fecha del proyecto", datos.Fecha, "", ""}, {"Fecha de impresión", fecha, "", ""},
+                   {"Comentario", datos.Comentario, "", ""}};
+    documento::Tabla firmas;
+    firmas.Columnas = {{"Elaboró", "", "", 60, Alineacion::Centro},
+                       {"Revisó", "", "", 60, Alineacion::Centro},
+                       {"Aprobó", "", "", 60, Alineacion::Centro}};
+    firmas.Estilo.Lineas = true;
+    firmas.Filas = {{{datos.Calculista + "\n\n\n\n", "", ""}},
+                    {{"Firma y fecha", "Firma y fecha", "Firma y fecha"}}};
+    return {
+        "Portada", false, false, {documento::Titulo{1, TituloMemoria}, std::move(ficha), std::move(firmas)}};
+}
+
+documento::Tabla TablaResumida(const Lista& lista) {
+    documento::Tabla tabla;
+    for (const ColumnaResumen& columna : lista.De->Columnas)
+        tabla.Columnas.push_back({columna.Encabezado, "", columna.Formato ? columna.Formato : "",
+                                  columna.Formato ? 20.0 : 45.0,
+                                  columna.Formato ? Alineacion::Derecha : Alineacion::Izquierda});
+    for (const Elemento& elemento : lista.Elementos) {
+        documento::FilaDeTabla fila{{elemento.Nombre}};
+        if (elemento.Error.empty()) {
+            for (const Celda& celda : lista.De->Resumir(elemento))
+                std::visit([&](const auto& valor) { fila.Celdas.emplace_back(valor); }, celda);
+        } else {
+            fila.Celdas.emplace_back("No se pudo calcular: " + elemento.Error);
+        }
+        fila.Celdas.resize(tabla.Columnas.size());
+        tabla.Filas.push_back(std::move(fila));
+    }
+    return tabla;
+}
+
+std::string Capitulo(const Lista& lista) {
+    return Mayusculas(lista.De->Plural);
+}
+
+bool TieneCapitulo(const Lista& lista) {
+    return lista.De->Memoria != nullptr && !lista.Elementos.empty();
+}
+
+Seccion Resumen(const ProyectoCalculado& calculado) {
+    Seccion seccion{"Resumen", true, false, {documento::Titulo{1, "RESUMEN"}}};
+    for (const Lista& lista : calculado.Listas) {
+        if (!TieneCapitulo(lista)) continue;
+        seccion.Bloques.emplace_back(documento::Titulo{3, Capitulo(lista)});
+        seccion.Bloques.emplace_back(TablaResumida(lista));
+    }
+    return seccion;
+}
+
+/// An element: what its module tells, with its drawings behind the data.
+Seccion SeccionDe(const Lista& lista, const Elemento& elemento, const Separadores& numeros,
+                  const Pintar& pintar) {
+    Seccion seccion{elemento.Nombre, true, false, {documento::Titulo{2, elemento.Nombre}}};
+    ParteDeMemoria parte = lista.De->Memoria->Contar(lista, elemento, numeros);
+    std::move(parte.Datos.begin(), parte.Datos.end(), std::back_inserter(seccion.Bloques));
+    if (!elemento.Error.empty())
+        seccion.Bloques.emplace_back(documento::Parrafo{"El cálculo no terminó: " + elemento.Error, true});
+    if (lista.De->Dibujos != nullptr && pintar)
+        for (Dibujo& dibujo : lista.De->Dibujos(lista, elemento)) {
+            const std::string pie = dibujo.Titulo;
+            seccion.Bloques.emplace_back(documento::Imagen{
+                [dibujo = std::move(dibujo), pintar] { return pintar(dibujo); }, 0, AltoDeDibujo, pie});
+        }
+    std::move(parte.Resultados.begin(), parte.Resultados.end(), std::back_inserter(seccion.Bloques));
+    return seccion;
+}
+
+documento::Documento Vacio(const ProyectoCalculado& calculado, const std::string& fecha,
+                           const Separadores& numeros) {
+    documento::Documento memoria;
+    memoria.Titulo = std::string(TituloMemoria) + ": " + calculado.Datos.Proyecto;
+    memoria.Autor = calculado.Datos.Calculista;
+    memoria.Locales = numeros;
+    memoria.Papel.Tamano = documento::TamanoPagina::Carta;
+    memoria.Papel.Encabezado = {calculado.Datos.Proyecto, "", "Memoria de Cálculo"};
+    memoria.Papel.Pie = {fecha, calculado.Datos.Calculista,
+                         std::string("Página ") + documento::MarcaPagina + " de " + documento::MarcaPaginas};
+    return memoria;
+}
+
+void Agregar(documento::Documento& memoria, const ProyectoCalculado& calculado, const std::string& fecha,
+             const Pintar& pintar) {
+    memoria.Secciones.push_back(Portada(calculado.Datos, fecha));
+    memoria.Secciones.push_back(Resumen(calculado));
+    for (const Lista& lista : calculado.Listas) {
+        if (!TieneCapitulo(lista)) continue;
+        Seccion capitulo{Capitulo(lista), true, false, {documento::Titulo{1, Capitulo(lista)}}};
+        for (const char* parrafo : lista.De->Memoria->Metodo())
+            capitulo.Bloques.emplace_back(documento::Parrafo{parrafo});
+        memoria.Secciones.push_back(std::move(capitulo));
+        for (const Elemento& elemento : lista.Elementos) {
+            memoria.Secciones.push_back(SeccionDe(lista, elemento, memoria.Locales, pintar));
+            memoria.Secciones.back().PaginaNueva = &elemento != lista.Elementos.data();
+        }
+    }
+}
+
+}  // namespace
+
+documento::Documento ComponerMemoria(const ProyectoCalculado& calculado, const std::string& fecha,
+                                     const Separadores& numeros, const Pintar& pintar) {
+    documento::Documento memoria = Vacio(calculado, fecha, numeros);
+    Agregar(memoria, calculado, fecha, pintar);
+    return memoria;
+}
+
+documento::Documento ComponerMemoriaEnHojas(const ProyectoCalculado& calculado, const std::string& fecha,
+                                            const Separadores& numeros, const Pintar& pintar) {
+    documento::Documento memoria = Vacio(calculado, fecha, numeros);
+    for (const Lista& lista : calculado.Listas)
+        if (TieneCapitulo(lista) && lista.De->Memoria->Tablas != nullptr)
+            for (auto& [nombre, tabla] : lista.De->Memoria->Tablas(lista))
+                memoria.Secciones.push_back({nombre, false, false, {std::move(tabla)}});
+    Agregar(memoria, calculado, fecha, pintar);
+    return memoria;
+}
+
+}  // namespace trabex::lote
