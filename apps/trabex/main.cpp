@@ -3,10 +3,15 @@
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QTranslator>
+#include <array>
 #include <memory>
 #include <utility>
 #include <vector>
 
+#include "helical/salida/ModuloEscalerasH.h"
+#include "loads/salida/ModuloCargas.h"
+#include "lote/ui/qt/EspacioMemoria.h"
+#include "markus/salida/ModuloMarcus.h"
 #include "reports/ui/qt/SalidaDelPrograma.h"
 #include "shell/Arranque.h"
 #include "shell/qt/CajaMensajesQt.h"
@@ -16,10 +21,16 @@
 #include "shell/qt/PlataformaQt.h"
 #include "shell/qt/VentanaMenuPrincipal.h"
 #include "shell/qt/VentanaSplash.h"
+#include "slab/salida/ModuloLosas.h"
 #include "slab/ui/qt/EspacioLosas.h"
+#include "stairs/salida/ModuloEscalerasT.h"
 #include "stairs/ui/qt/EspacioEscaleraT.h"
 
 int main(int argc, char** argv) {
+    const std::array<const trabex::lote::Modulo*, 5> modulos{
+        &trabex::losas::salida::ModuloLosas, &trabex::escaleras::salida::ModuloEscalerasT,
+        &trabex::helices::salida::ModuloEscalerasH, &trabex::marcus::salida::ModuloMarcus,
+        &trabex::cargas::salida::ModuloCargas};
     QApplication programa(argc, argv);
     QApplication::setOrganizationName("Nodara Software");
     QApplication::setApplicationName("Trabex24");
@@ -39,6 +50,7 @@ int main(int argc, char** argv) {
     std::vector<trabex::programa::qt::Espacio> espacios{
         trabex::losas::ui::qt::EspacioLosas(salida),
         trabex::escaleras::ui::qt::EspacioEscaleraT(salida),
+        trabex::lote::ui::qt::EspacioMemoria(modulos),
     };
     std::unique_ptr<trabex::programa::qt::VentanaMenuPrincipal> menu;
     trabex::programa::qt::VentanaSplash splash([&] {

@@ -25,7 +25,7 @@ struct Comando {
     Orden Ejecuta = Orden::Propia;
 };
 
-inline constexpr std::array<Comando, 17> Comandos{{
+inline constexpr std::array<Comando, 18> Comandos{{
     {"ID_Nuevo", "&NUEVO PROYECTO...", Menu::Proyecto, "nuevo", true},
     {"ID_Abrir", "&ABRIR PROYECTO...", Menu::Proyecto, "abrir", true},
     {"ID_Modificar", "EDITAR DATOS DEL PROYECTO...", Menu::Proyecto, "editar", true},
@@ -43,6 +43,7 @@ inline constexpr std::array<Comando, 17> Comandos{{
      Orden::EspacioDelProyecto},
     {"ID_EscaleraH", "ANÁLISIS Y DISEÑO DE ESCALERAS HELICOIDALES...", Menu::Calculo, "helice", true,
      Orden::EspacioDelProyecto},
+    {"ID_Memoria", "MEMORIA DE CÁLCULO...", Menu::Calculo, "imprimir", false, Orden::EspacioDelProyecto},
     {"ID_Carga", "Base de Datos Análisis de Carga de Losas...", Menu::Mantenimiento, "base", true,
      Orden::Espacio},
     {"ID_Reparar", "REPARAR Y COMPACTAR ARCHIVOS...", Menu::Mantenimiento, "reparar", true},

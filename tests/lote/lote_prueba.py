@@ -5,6 +5,7 @@ import json
 import math
 import os
 import pathlib
+import re
 import shutil
 import sqlite3
 import struct
@@ -203,6 +204,23 @@ class Lote(unittest.TestCase):
         self.assertEqual(self.proyecto.read_bytes(), antes)
         self.proyecto.write_bytes(antes[:30000])
         self.assertEqual(correr("--solo=resultados", self.proyecto, self.carpeta / "otra").returncode, 3)
+
+    def test_la_memoria_dice_lo_calculado(self):
+        documento, _ = self.resultados("--solo=memoria")
+        carpeta = self.carpeta / "salida"
+        self.assertEqual(sorted(a.name for a in carpeta.iterdir()),
+                         ["memoria.htm", "memoria.pdf", "memoria.rtf", "memoria.xls", "resultados.json"])
+        texto = subprocess.run(["pdftotext", "-layout", carpeta / "memoria.pdf", "-"], capture_output=True, text=True).stdout
+        for clave in ("losas", "escalerasT", "escalerasH", "marcus", "analisisCarga"):
+            for elemento in documento[clave]:
+                self.assertIn(elemento.get("Nombre") or elemento["Descripcion"], texto)
+        # The steps end in the steel of the section that governs, to five figures.
+        finales = re.findall(r"^As +\S.* ([\d,]+) cm²$", texto, re.M)
+        esperados = [max(abs(eje["AS1"]) for eje in losa["DisenoEje"]) for losa in documento["losas"]
+                     if len(losa["DisenoEje"]) > 2]
+        dichos = [float(numero.replace(",", ".")) for numero in finales]
+        for esperado in esperados:
+            self.assertTrue(any(abs(dicho - esperado) <= 6e-5 * esperado for dicho in dichos), (esperado, dichos))
 
     def planex(self):
         """The exchange file's rows by table, as mdbtools reads them."""

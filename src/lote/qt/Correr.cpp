@@ -4,7 +4,9 @@
 #include <algorithm>
 #include <array>
 #include <iostream>
+#include <string>
 #include <thread>
+#include <vector>
 
 #include "base/Archivos.h"
 #include "lote/Opciones.h"
@@ -43,7 +45,10 @@ class Salidas {
         }
         if (opciones_.Pide(SalidaReportes)) EscribirLosReportes();
         if (opciones_.Solo.contains(SalidaMemoria)) {
-            EscribirMemoria(calculado_, !opciones_.SinDibujos, opciones_.Carpeta, marcha_, faltas_);
+            std::vector<ArchivoDeMemoria> archivos;
+            for (const char* extension : {".pdf", ".htm", ".rtf", ".xls"})
+                archivos.push_back({opciones_.Carpeta / (std::string("memoria") + extension), extension});
+            EscribirMemoria(calculado_, !opciones_.SinDibujos, {}, archivos, marcha_, faltas_);
             Cerrar("Memoria de cálculo", opciones_.Carpeta / "memoria.pdf");
         }
     }

@@ -1,12 +1,15 @@
 #include "lote/qt/MemoriaLote.h"
 
+#include <algorithm>
 #include <array>
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
+#include "base/Archivos.h"
 #include "base/Fecha.h"
 #include "base/Formatos.h"
 #include "drawing/Superficie.h"
@@ -50,10 +53,21 @@ class Pinturas {
     std::map<std::string, almacen::Bytes> de_;
 };
 
+constexpr std::array<std::pair<std::string_view, int>, 4> Formatos{{{".pdf", salidas::FormatoPdf},
+                                                                    {".htm", salidas::FormatoHtml},
+                                                                    {".rtf", salidas::FormatoRtf},
+                                                                    {".xls", salidas::FormatoXls}}};
+
+int FormatoDe(std::string_view extension) {
+    const auto* cual = std::find_if(Formatos.begin(), Formatos.end(),
+                                    [&](const auto& formato) { return formato.first == extension; });
+    return cual == Formatos.end() ? salidas::FormatoPdf : cual->second;
+}
+
 }  // namespace
 
-void EscribirMemoria(const ProyectoCalculado& calculado, bool dibujos, const std::filesystem::path& carpeta,
-                     const Marcha& marcha, Faltas& faltas) {
+void EscribirMemoria(const ProyectoCalculado& calculado, bool dibujos, const Separadores& numeros,
+                     std::span<const ArchivoDeMemoria> archivos, const Marcha& marcha, Faltas& faltas) {
     salidas::MotorReportes motor;
     motor.Registrar(salidas::FormatoPdf, salidas::qt::EscribirPdf);
     std::optional<Pinturas> pinturas;
@@ -63,23 +77,15 @@ void EscribirMemoria(const ProyectoCalculado& calculado, bool dibujos, const std
         pintar = [&pinturas](const Dibujo& dibujo) { return (*pinturas)(dibujo); };
     }
     const std::string fecha = FormatoFecha(Hoy());
-    const documento::Documento memoria = ComponerMemoria(calculado, fecha, {}, pintar);
-    const documento::Documento enHojas = ComponerMemoriaEnHojas(calculado, fecha, {}, pintar);
-    struct Formato {
-        int Codigo;
-        const char* Extension;
-        const documento::Documento* De;
-    };
-    const std::array<Formato, 4> formatos{{{salidas::FormatoPdf, ".pdf", &memoria},
-                                           {salidas::FormatoHtml, ".htm", &memoria},
-                                           {salidas::FormatoRtf, ".rtf", &memoria},
-                                           {salidas::FormatoXls, ".xls", &enHojas}}};
-    Repartir(marcha, "Escribiendo la memoria", formatos.size(), [&](std::size_t i, unsigned) {
-        const std::string archivo = std::string("memoria") + formatos[i].Extension;
+    Repartir(marcha, "Escribiendo la memoria", archivos.size(), [&](std::size_t i, unsigned) {
+        const int formato = FormatoDe(archivos[i].Extension);
         try {
-            motor.Exportar(*formatos[i].De, formatos[i].Codigo, carpeta / archivo);
+            motor.Exportar(formato == salidas::FormatoXls
+                               ? ComponerMemoriaEnHojas(calculado, fecha, numeros, pintar)
+                               : ComponerMemoria(calculado, fecha, numeros, pintar),
+                           formato, archivos[i].Camino);
         } catch (const ErrorEjecucion& error) {
-            faltas.Anotar(archivo, error.Texto());
+            faltas.Anotar(TextoDeCamino(archivos[i].Camino.filename()), error.Texto());
         }
     });
 }

@@ -1,16 +1,24 @@
 #pragma once
 
 #include <filesystem>
+#include <span>
 
+#include "base/Formatos.h"
 #include "lote/Calculo.h"
 #include "lote/Faltas.h"
 #include "lote/Marcha.h"
 
 namespace trabex::lote::qt {
 
-/// Writes the calculation memo of a project into a folder, as memoria.pdf, .htm, .rtf and .xls. What can't be
-/// written is noted in `faltas`.
-void EscribirMemoria(const ProyectoCalculado& calculado, bool dibujos, const std::filesystem::path& carpeta,
-                     const Marcha& marcha, Faltas& faltas);
+/// A file of the calculation memo; its format is that of its extension: .pdf, .htm, .rtf, .xls.
+struct ArchivoDeMemoria {
+    std::filesystem::path Camino;
+    const char* Extension;
+};
+
+/// Writes the calculation memo of a project into files. What can't be written is noted in `faltas`. What
+/// `marcha.Avance` throws ends it.
+void EscribirMemoria(const ProyectoCalculado& calculado, bool dibujos, const Separadores& numeros,
+                     std::span<const ArchivoDeMemoria> archivos, const Marcha& marcha, Faltas& faltas);
 
 }  // namespace trabex::lote::qt

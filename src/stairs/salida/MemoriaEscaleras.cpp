@@ -98,7 +98,8 @@ void PasosQueRigen(const EscaleraCalculada& escalera, const Separadores& numeros
                          ? punto.EnvolventeNegativa
                          : punto.EnvolventePositiva;
     const auto lugar = [&](std::size_t estacion) {
-        return " (X = " + CincoCifras(Progresiva(escalera.Datos, EstacionesDeTramo - 1 - estacion)) + " m)";
+        return " (X = " +
+               Formato(Progresiva(escalera.Datos, EstacionesDeTramo - 1 - estacion), "0.00", numeros) + " m)";
     };
     Relato deFlexion, deTorsion, deCorte;
     CalculeRefuerzoEscalera(M, escalera.Datos.B, escalera.Datos.HT, escalera.Generales, Pasos(deFlexion));
