@@ -12,7 +12,8 @@ using documento::Alineacion;
 std::string EnLocal(std::string texto, const Separadores& numeros) {
     const auto cifra = [](char letra) { return letra >= '0' && letra <= '9'; };
     for (std::size_t i = 1; i + 1 < texto.size(); ++i)
-        if (texto[i] == '.' && cifra(texto[i - 1]) && cifra(texto[i + 1])) texto.replace(i, 1, numeros.Decimal);
+        if (texto[i] == '.' && cifra(texto[i - 1]) && cifra(texto[i + 1]))
+            texto.replace(i, 1, numeros.Decimal);
     return texto;
 }
 
