@@ -97,6 +97,9 @@ TEST(PanelesEscaleraH, MitadesDesigualesBarraMediaYSinDatos) {
     EXPECT_EQ(Fila(diseno, 1), "90|0,37|27,75|7,99|7,67|8,36|35,74|7,17|E 3/8 @8");
     EXPECT_EQ(Fila(diseno, 2), "80|0,00|20,80|14,29|7,67|14,29|35,08|5,24|E 1/2 @8");
 
+    Calculo fallida(EscaleraHNuevaDe("H", ""));
+    fallida.Resultados.Error = ErrorEjecucion(CodigoError::DivisionPorCero);
+    EXPECT_TRUE(ColoqueDiseno(fallida.Ver()).Celdas.Filas.empty());
     const ResultadosEscaleraH nada;
     EXPECT_TRUE(ColoqueSolicitaciones({{}, nada}).Celdas.Filas.empty());
     EXPECT_TRUE(ColoqueDiseno({{}, nada}).Celdas.Filas.empty());

@@ -80,16 +80,20 @@ Sitios Repartir(const Lienzo& lienzo, const DatosEscaleraH& e, const CuerpoHelic
 void Escriba(const Plano& p, const Sitios& r, const EscaleraHCalculada& escalera, const HojaHelice& hoja,
              const EstiloHelice& estilo) {
     const DatosEscaleraH& e = escalera.Datos;
+    const helices::ResultadosEscaleraH& resultados = escalera.Resultados;
     const auto metros = [&](double valor) { return Formato(valor, "0.00", hoja.Numeros); };
-    const auto fuerza = [&](double valor) { return Formato(valor, "#,##0", hoja.Numeros) + " kgf"; };
-    const std::array<std::string, 8> textos{"Radio = " + metros(e.R) + " m",
-                                            "Angulo = " + NumeroParaEditar(e.Angulo, 0, hoja.Numeros) + "º",
-                                            "Carga W = " + std::to_string(e.W) + " kgf/ml",
-                                            "Longitud = " + metros(escalera.Resultados.L) + " m",
-                                            "Alfa = " + metros(escalera.Resultados.Alfa) + "º",
-                                            "Reacción Vertical RV = " + fuerza(escalera.Resultados.FV),
-                                            "Reacción Horizontal RH = " + fuerza(escalera.Resultados.Fh),
-                                            estilo.RotuloSeccion + metros(e.B) + " x " + metros(e.T)};
+    const auto resultado = [&](double valor, const char* formato, const char* unidad) {
+        return resultados.Error ? std::string() : Formato(valor, formato, hoja.Numeros) + unidad;
+    };
+    const std::array<std::string, 8> textos{
+        "Radio = " + metros(e.R) + " m",
+        "Angulo = " + NumeroParaEditar(e.Angulo, 0, hoja.Numeros) + "º",
+        "Carga W = " + std::to_string(e.W) + " kgf/ml",
+        "Longitud = " + resultado(resultados.L, "0.00", " m"),
+        "Alfa = " + resultado(resultados.Alfa, "0.00", "º"),
+        "Reacción Vertical RV = " + resultado(resultados.FV, "#,##0", " kgf"),
+        "Reacción Horizontal RH = " + resultado(resultados.Fh, "#,##0", " kgf"),
+        estilo.RotuloSeccion + metros(e.B) + " x " + metros(e.T)};
     p.LetraDeTitulo(LetraTitulo);
     p.Escribir(estilo.Arriba == Encabezado::Titulo ? e.Titulo : e.Nombre, Ancla::Centro, p.X(r.Titulo.x),
                p.Y(r.Titulo.y));

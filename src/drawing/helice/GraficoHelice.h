@@ -7,7 +7,8 @@
 
 namespace trabex::dibujo::helice {
 
-/// Plan and perspective of a helical stair, its heading and its texts, on a cleared canvas. Without width,
+/// Plan and perspective of a helical stair, its heading and its texts, on a cleared canvas. Results of a
+/// calculation that a fault ended are left out. Without width,
 /// thickness, radius or development, or with a rise that is no number, the canvas is left cleared.
 void RedibujeVista(Lienzo& lienzo, HojaHelice& hoja, const helices::EscaleraHCalculada& escalera,
                    const EstiloHelice& estilo = HeliceEnPantalla);

@@ -38,7 +38,7 @@ void LleneEscaleraH(almacen::Conexion& temporal, Escaleras escaleras) {
     for (const auto& [escalera, resultados] : escaleras) {
         tabla.Poner("Nombre", escalera.Nombre);
         almacen::PonerCampos(tabla, escalera, almacen::tablas::CamposEscaleraH);
-        almacen::PonerCampos(tabla, resultados, CamposDelConjuntoH);
+        if (!resultados.Error) almacen::PonerCampos(tabla, resultados, CamposDelConjuntoH);
         tabla.Agregar();
     }
 }
@@ -52,7 +52,7 @@ void LleneEscaleraHS(almacen::Conexion& temporal, Escaleras escaleras) {
             almacen::PonerCampos(tabla, estacion, CamposEstacionH);
             tabla.Agregar();
         };
-        if (r.NEst == 0) continue;
+        if (r.NEst == 0 || r.Error) continue;
         const EstacionesHelice estaciones = EstacionesDe(escalera);
         for (std::size_t i = 1; i <= r.NEst; ++i) agregar(-estaciones.GradosSuperior(i), r.TramoSuperior[i]);
         for (std::size_t i = 1; i <= r.NEst; ++i) agregar(estaciones.GradosInferior(i), r.TramoInferior[i]);

@@ -26,8 +26,9 @@ bool GuardeGraficos(const montaje::EntornoReportes& entorno, const DatosDelProye
 bool LLenarDatos(const montaje::EntornoReportes& entorno, const DatosDelProyecto& datos,
                  const EscaleraHCalculada& escalera);
 
-/// Put rows in the place of those of the scratch tables, for any number of stairs. `EscaleraH`: a row a
-/// stair, its data and what was calculated of the whole.
+/// Put rows in the place of those of the scratch tables, for any number of stairs. Of a calculation that a
+/// fault ended no number is reported. `EscaleraH`: a row a stair, its data and what was calculated of the
+/// whole.
 void LleneEscaleraH(almacen::Conexion& temporal, std::span<const EscaleraHCalculada> escaleras);
 /// `EscaleraHS`: a row a station, from the records; upper half and lower half, by degrees from the centre.
 void LleneEscaleraHS(almacen::Conexion& temporal, std::span<const EscaleraHCalculada> escaleras);

@@ -70,7 +70,7 @@ cuadricula::HojaDeCuadricula Panel(const EscaleraHCalculada& escalera, const cha
     hoja.Nombre = nombre;
     hoja.Celdas.Columnas = std::move(columnas);
     const ResultadosEscaleraH& r = escalera.Resultados;
-    if (r.TramoSuperior.empty()) return hoja;
+    if (r.TramoSuperior.empty() || r.Error) return hoja;
     std::vector<FilaDeTabla>& filas = hoja.Celdas.Filas;
     const EstacionesHelice estaciones = EstacionesDe(escalera.Datos);
     const auto agregar = [&](int grados, const EstacionEscaleraH& estacion) {
