@@ -1,10 +1,11 @@
+#include <algorithm>
 #include <cmath>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "drawing/helice/CuerpoHelice.h"
 #include "drawing/helice/GraficoHelice.h"
-#include "drawing/helice/Perspectiva.h"
 #include "helical/CalcularEscaleraH.h"
 #include "support/LienzoGrabador.h"
 
@@ -71,6 +72,25 @@ TEST(GraficoHelice, LaPerspectivaYElFinDeLaPlanta) {
         EXPECT_NEAR(fin.x - contorno[0].x, 150 * (std::cos(giro) - 1), 1.01) << angulo;
         EXPECT_NEAR(fin.y - contorno[0].y, 150 * std::sin(giro), 1.01) << angulo;
     }
+}
+
+/// It climbs, and what other parts hide of its edges is dotted. The one dotted line of a flat beam seen from
+/// above is its radius.
+TEST(GraficoHelice, SubeYLoOcultoEsPunteado) {
+    DatosEscaleraH e = EscaleraHNuevaDe("", "");
+    EXPECT_EQ(CuerpoHelice(e).En(1, 0).y, -1.5);
+    EXPECT_EQ(CuerpoHelice(e).En(1, 260).y, 1.5);
+    const auto punteadas = [&](const Giro& giro) {
+        LienzoGrabador lienzo(1000, 600);
+        HojaHelice hoja;
+        hoja.ElGiro = giro;
+        RedibujeVista(lienzo, hoja, {e, {}});
+        return std::count_if(lienzo.Lineas.begin(), lienzo.Lineas.end(),
+                             [](const auto& l) { return l.Borde->Estilo == EstiloLinea::Punteada; });
+    };
+    EXPECT_GT(punteadas({}), 20);
+    e.H = 0;
+    EXPECT_EQ(punteadas({90, 0}), 1);
 }
 
 TEST(GraficoHelice, GiraConElTiempoYConLasTeclas) {
