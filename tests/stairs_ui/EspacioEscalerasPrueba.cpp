@@ -8,9 +8,7 @@
 #include "stairs/ui/EscaleraTNueva.h"
 #include "stairs/ui/EscaleraTitulo.h"
 #include "store/tablas/TablasEscalera.h"
-#include "support/CarpetaTemporal.h"
-#include "support/ProyectoDePrueba.h"
-#include "support/ShellGuiado.h"
+#include "support/EspacioGuiado.h"
 
 namespace trabex {
 
@@ -23,32 +21,12 @@ namespace {
 
 using testing::ElementsAre;
 
-struct PantallaGuiada : PantallaEspacio, PantallaEscaleraT {
-    void PonerTitulo(const std::string& titulo) override { Titulo = titulo; }
-    void PonerEstado(const std::string&) override {}
-    void PonerEncabezado(const std::string& texto) override { Encabezado = texto; }
-    void LlenarLista(const std::vector<std::string>& nombres) override {
-        Filas = nombres;
-        Fallan.clear();
-    }
-    void MarcarFila(int fila) override { Marcada = fila; }
-    void PonerAvisos(const Avisos& avisos) override { Anotados = avisos.size(); }
-    void MarcarFalla(int fila, bool falla) override { Fallan[fila] = falla; }
-    void RestablecerVista() override { ++Restablecida; }
-    void Redibujar() override { ++Dibujos; }
-    void MostrarRenombrar(programa::Renombrar& operaciones) override { operaciones.Aceptar(NombreNuevo); }
-    void MarcarHoja(int hoja) override { Hoja = hoja; }
+struct PantallaGuiada : prueba::PantallaEspacioGuiada, PantallaEscaleraT {
     bool MostrarEscaleraTNueva() override { return Nueva(); }
     void MostrarEscaleraTDatos(const TrabajoEscaleraT& trabajo) override { Datos(trabajo); }
     bool MostrarEscaleraTG() override { return General(); }
     bool MostrarEscaleraTitulo() override { return TituloNuevo(); }
 
-    std::string Titulo, Encabezado, NombreNuevo;
-    std::vector<std::string> Filas;
-    int Marcada = 0, Restablecida = 0, Dibujos = 0;
-    int Hoja = dibujo::escalera::VistaReacciones;
-    std::size_t Anotados = 0;
-    std::map<int, bool> Fallan;
     std::function<bool()> Nueva, General, TituloNuevo;
     std::function<void(const TrabajoEscaleraT&)> Datos;
 };
@@ -58,33 +36,18 @@ struct SinFoco : PantallaDeCampos<CampoEscaleraT>, PantallaDeCampos<CampoEscaler
     void Enfocar(CampoEscaleraTG) override {}
 };
 
-struct EspacioEscaleras : testing::Test {
-    EspacioEscaleras() {
-        carpetas.CaminoUsuario = carpeta.Camino();
-        aplicacion.ArchivoProyecto =
-            Proyecto("obra.los",
-                     "INSERT INTO EscaleraTDatos VALUES ('B', 'SEGUNDA'), ('A', 'PRIMERA');"
-                     "INSERT INTO EscaleraT VALUES ('A', 2.4, 1.2, 3, 0.15, 0.15, 1200, 1000,"
-                     " 600);");
-        aplicacion.NombreProyecto = "obra.los";
+struct EspacioEscaleras : testing::Test, prueba::ProgramaGuiado {
+    EspacioEscaleras()
+        : ProgramaGuiado(
+              "INSERT INTO EscaleraTDatos VALUES ('B', 'SEGUNDA'), ('A', 'PRIMERA');"
+              "INSERT INTO EscaleraT VALUES ('A', 2.4, 1.2, 3, 0.15, 0.15, 1200, 1000, 600);") {
         espacio.Lista().Abrir();
     }
-    std::filesystem::path Proyecto(const std::string& nombre, const std::string& filas) const {
-        CrearBaseDatos(carpeta / nombre, prueba::EsquemaDeProyecto() + filas);
-        return carpeta / nombre;
-    }
-    /// A column of a table, in the order of the file.
-    std::vector<std::string> Columna(std::string_view tabla, std::string_view columna) const {
-        Conexion conexion;
-        AbrirConexion(conexion, aplicacion.ArchivoProyecto);
-        Recordset filas;
-        AbrirRecordset(conexion, filas, tabla);
-        std::vector<std::string> valores;
-        for (int fila = 1; fila <= filas.NumeroRegistros(); ++fila) {
-            filas.MoverA(fila);
-            valores.push_back(filas.Texto(columna));
-        }
-        return valores;
+    /// The rename window, in which that name is entered.
+    void Renombrar(const char* nombre) {
+        vista.Renombrar = [nombre](programa::Renombrar& operaciones) { operaciones.Aceptar(nombre); };
+        caja.Respuestas = {RespuestaSi};
+        espacio.Lista().Renombrar();
     }
     bool Agregar(const std::string& nombre, const std::string& titulo) {
         return EscaleraTNueva(espacio.Lista()).Aceptar(nombre, titulo);
@@ -96,13 +59,6 @@ struct EspacioEscaleras : testing::Test {
         EXPECT_TRUE(ventana.Salvar(entrados));
     }
 
-    prueba::CarpetaTemporal carpeta;
-    Aplicacion aplicacion;
-    prueba::CajaGuiada caja;
-    prueba::DialogosGuiados dialogos;
-    prueba::PlataformaGuiada plataforma{carpeta.Camino()};
-    Carpetas carpetas;
-    Servicios servicios{caja, dialogos, plataforma, carpetas};
     PantallaGuiada vista;
     SinFoco sinFoco;
     EscaleraT espacio{aplicacion, servicios, vista, vista};
@@ -116,12 +72,12 @@ TEST_F(EspacioEscaleras, AlAbrirSeVeLaPrimera) {
     EXPECT_EQ(vista.Dibujos, 1);  // nothing is drawn while it loads
     EXPECT_EQ(aplicacion.Generales.FS, 1.55);
     EXPECT_NEAR(espacio.Estado().Resultados.ReaccionVertical, 4080, 1e-9);
-    EXPECT_GT(vista.Anotados, 0U);  // steel below the minimum at some station
+    EXPECT_GT(vista.Puestos.size(), 0U);  // steel below the minimum at some station
 
     espacio.Lista().Seleccionar(2);  // a stair without data keeps the results and shows an empty sheet
     EXPECT_EQ(vista.Encabezado, "ESCALERA: B");
     EXPECT_EQ(espacio.Estado().Abierta.L, 0);
-    EXPECT_EQ(vista.Anotados, 0U);
+    EXPECT_EQ(vista.Puestos.size(), 0U);
     EXPECT_NEAR(espacio.Estado().Resultados.ReaccionVertical, 4080, 1e-9);
 
     const int antes = vista.Restablecida;
@@ -211,16 +167,12 @@ TEST_F(EspacioEscaleras, LosParametrosQueNoSeGuardanNoValen) {
 }
 
 TEST_F(EspacioEscaleras, RenombrarTitularYEliminar) {
-    vista.NombreNuevo = "Zeta";
-    caja.Respuestas = {RespuestaSi};
-    espacio.Lista().Renombrar();
+    Renombrar("Zeta");
     EXPECT_THAT(vista.Filas, ElementsAre("B", "Zeta"));
     EXPECT_EQ(vista.Encabezado, "ESCALERA: Zeta");
     EXPECT_THAT(Columna("EscaleraT", "Nombre"), ElementsAre("Zeta"));
     espacio.Lista().Seleccionar(1);
-    vista.NombreNuevo = "Beta";  // it has no row of data
-    caja.Respuestas = {RespuestaSi};
-    espacio.Lista().Renombrar();
+    Renombrar("Beta");  // it has no row of data
     EXPECT_THAT(Columna("EscaleraTDatos", "Nombre"), ElementsAre("Beta", "Zeta"));
     EXPECT_THAT(Columna("EscaleraT", "Nombre"), ElementsAre("Zeta"));
 

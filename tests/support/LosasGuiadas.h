@@ -1,16 +1,13 @@
 #pragma once
 
 #include <functional>
-#include <map>
 #include <string>
 #include <vector>
 
 #include "slab/ui/LosaDatos.h"
 #include "slab/ui/Losas.h"
-#include "support/CarpetaTemporal.h"
+#include "support/EspacioGuiado.h"
 #include "support/LosasDePrueba.h"
-#include "support/ProyectoDePrueba.h"
-#include "support/ShellGuiado.h"
 
 namespace trabex::prueba {
 
@@ -20,35 +17,16 @@ using namespace losas;
 using namespace losas::ui;
 using namespace programa;
 
-/// The workspace's window as a record of what was shown; modal windows are functions of the test.
-struct PantallaLosasGuiada : PantallaEspacio, PantallaLosas {
-    void PonerTitulo(const std::string& titulo) override { Titulo = titulo; }
-    void PonerEstado(const std::string& texto) override { Pie = texto; }
-    void PonerEncabezado(const std::string& texto) override { Encabezado = texto; }
-    void PonerAvisos(const Avisos& avisos) override { Puestos = avisos; }
-    void LlenarLista(const std::vector<std::string>& nombres) override { Filas = nombres; }
-    void MarcarFalla(int fila, bool falla) override { Fallan[fila] = falla; }
-    void MarcarFila(int fila) override { Marcada = fila; }
-    void MarcarHoja(int /*hoja*/) override {}
-    void RestablecerVista() override { ++Restablecida; }
-    void Redibujar() override { ++Dibujos; }
+/// Modal windows are functions of the test.
+struct PantallaLosasGuiada : PantallaEspacioGuiada, PantallaLosas {
     void MarcarOpcionCarga(dibujo::losa::OpcionDeCarga opcion) override { OpcionCarga = opcion; }
     bool MostrarLosaNueva() override { return LosaNueva && LosaNueva(); }
     bool MostrarLosaSalvarComo() override { return SalvarComo && SalvarComo(); }
     bool MostrarLosaDatos() override { return Datos && Datos(); }
     bool MostrarLosaGeneral() override { return General && General(); }
-    void MostrarRenombrar(programa::Renombrar& operaciones) override {
-        if (Renombrar) Renombrar(operaciones);
-    }
 
-    std::string Titulo, Pie, Encabezado;
-    std::vector<std::string> Filas;
-    Avisos Puestos;
-    std::map<int, bool> Fallan;
-    int Marcada = 0, Restablecida = 0, Dibujos = 0;
     dibujo::losa::OpcionDeCarga OpcionCarga = dibujo::losa::CargaPorCasos;
     std::function<bool()> LosaNueva, SalvarComo, Datos, General;
-    std::function<void(programa::Renombrar&)> Renombrar;
 };
 
 struct PantallaLosaDatosGuiada : PantallaLosaDatos {

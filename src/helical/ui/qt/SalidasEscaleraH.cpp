@@ -1,0 +1,86 @@
+#include "helical/ui/qt/SalidasEscaleraH.h"
+
+#include <QAction>
+
+#include "drawing/helice/GraficoHelice.h"
+#include "helical/salida/ReportesEscaleraH.h"
+#include "reports/ui/qt/ImprimirDibujos.h"
+#include "reports/ui/qt/MontarConPanel.h"
+#include "reports/ui/qt/VentanaExportarGrafico.h"
+#include "reports/ui/qt/VentanaSalidaReporte.h"
+
+namespace trabex::helices::ui::qt {
+
+namespace {
+
+constexpr std::int16_t ReporteEscaleraH = 2;
+
+using reportes::ui::qt::VentanaSalidaReporte;
+
+}  // namespace
+
+OperacionesDeHelices SalidasEscaleraH::Operaciones() {
+    const auto propia = [this](void (SalidasEscaleraH::*operacion)(EscaleraH&, VentanaEscaleraH&)) {
+        return [this, operacion](EscaleraH& escaleras, VentanaEscaleraH& ventana) {
+            if (escaleras.Lista().Vacia()) return;
+            if (const auto& fallo = escaleras.Estado().Fallo)
+                return reportes::ui::ExportadorReportes(entorno_).Avisar(*fallo);
+            (this->*operacion)(escaleras, ventana);
+        };
+    };
+    return {{"ID_Graficos", propia(&SalidasEscaleraH::ExportarGrafico)},
+            {"ID_Exportar", propia(&SalidasEscaleraH::ExportarTablas)},
+            {"ID_Imprimir", propia(&SalidasEscaleraH::ImprimirGrafico)},
+            {"ID_ExportarG", propia(&SalidasEscaleraH::ExportarImagen)}};
+}
+
+/// The drawing of the report is the whole stair, so that of the screen becomes so too.
+void SalidasEscaleraH::ExportarGrafico(EscaleraH& escaleras, VentanaEscaleraH& ventana) {
+    const dibujo::helice::HojaHelice& hoja = escaleras.Estado().Hoja;
+    if (hoja.Vista.Zoom != 1 || hoja.Vista.PanX != 0 || hoja.Vista.PanY != 0)
+        ventana.Accion("ID_ZoomExtents")->trigger();
+    reportes::ui::qt::MontarConPanel(ventana, [&](auto& superficie, auto& panel) {
+        salida::GuardeGraficos(entorno_.Montaje(), aplicacion_.Datos, escaleras.Calculada(), hoja, superficie,
+                               panel);
+    });
+    salida_.Estado.GraficoHelicoidal = true;
+    salida_.Estado.GraficoAutoportante = false;
+    VentanaSalidaReporte(entorno_, VentanaSalidaReporte::Clase::Grafico, &ventana).exec();
+    escaleras.Releer();
+}
+
+void SalidasEscaleraH::ExportarTablas(EscaleraH& escaleras, VentanaEscaleraH& ventana) {
+    salida::LLenarDatos(entorno_.Montaje(), aplicacion_.Datos, escaleras.Calculada());
+    salida_.Estado.ReporteActual = ReporteEscaleraH;
+    VentanaSalidaReporte(entorno_, VentanaSalidaReporte::Clase::Tabular, &ventana).exec();
+    escaleras.Releer();
+}
+
+void SalidasEscaleraH::ImprimirGrafico(EscaleraH& escaleras, VentanaEscaleraH& ventana) {
+    reportes::ui::qt::PedirEImprimirDibujos(entorno_, ventana, [&](dibujo::qt::PapelQt& papel) {
+        papel.Pagina([&](dibujo::Lienzo& pagina) {
+            dibujo::helice::DibujeEnPapel(
+                pagina, escaleras.Estado().Hoja, escaleras.Calculada(),
+                {aplicacion_.Usuario, aplicacion_.Datos.Proyecto, aplicacion_.Datos.Calculista});
+        });
+    });
+}
+
+/// The texts are those of paper, on a picture that is none.
+void SalidasEscaleraH::ExportarImagen(EscaleraH& escaleras, VentanaEscaleraH& ventana) {
+    dibujo::helice::EstiloHelice estilo = dibujo::helice::HeliceEnPapel;
+    estilo.Medio = dibujo::helice::HeliceEnPantalla.Medio;
+    estilo.Cabecera = dibujo::helice::HeliceEnPantalla.Cabecera;
+    estilo.Pie = dibujo::helice::HeliceEnPantalla.Pie;
+    reportes::ui::qt::VentanaExportarGrafico(
+        {aplicacion_, salida_.Opciones, entorno_.Servicios},
+        reportes::ui::qt::DibujoDeHoja(escaleras.Estado().Hoja,
+                                       [&](dibujo::Lienzo& lienzo, dibujo::helice::HojaHelice& hoja) {
+                                           dibujo::helice::RedibujeVista(lienzo, hoja, escaleras.Calculada(),
+                                                                         estilo);
+                                       }),
+        &ventana)
+        .exec();
+}
+
+}  // namespace trabex::helices::ui::qt
