@@ -1,0 +1,192 @@
+// The workspace of helical stairs, with scripted answers, down to the file.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "helical/ui/EscaleraH.h"
+#include "stairs/ui/EscaleraTNueva.h"
+#include "stairs/ui/EscaleraTitulo.h"
+#include "support/EspacioGuiado.h"
+
+namespace trabex {
+
+using namespace helices;
+using namespace helices::ui;
+using namespace programa;
+using dibujo::helice::ModoGiro;
+namespace {
+
+using testing::ElementsAre;
+using testing::StartsWith;
+
+struct PantallaGuiada : prueba::PantallaEspacioGuiada, PantallaEscaleraH {
+    bool MostrarEscaleraTNueva() override { return Nueva(); }
+    void MostrarEscaleraHDatos(const TrabajoEscaleraH& trabajo) override { Datos(trabajo); }
+    void MostrarEscaleraTG() override { General(); }
+    bool MostrarEscaleraTitulo() override { return TituloNuevo(); }
+    void PonerPaneles(const EscaleraHCalculada& escalera) override {
+        EnPaneles = escalera.Datos.Nombre;
+        Estaciones = escalera.Resultados.NEst;
+    }
+    void MarcarGiro(ModoGiro modo) override { Giro = modo; }
+
+    std::string EnPaneles;
+    std::size_t Estaciones = 99;
+    ModoGiro Giro = ModoGiro::Ninguno;
+    std::function<bool()> Nueva, TituloNuevo;
+    std::function<void()> General;
+    std::function<void(const TrabajoEscaleraH&)> Datos;
+};
+
+struct SinFoco : PantallaEscaleraHDatos {
+    void Enfocar(CampoEscaleraH) override {}
+    void Pitar() override {}
+};
+
+/// 'A' is a stair of every day, 'B' one without data, 'C' one whose stirrups come to a spacing of 0.
+struct EspacioHelices : testing::Test, prueba::ProgramaGuiado {
+    EspacioHelices()
+        : ProgramaGuiado(
+              "INSERT INTO EscaleraHDatos VALUES ('C', 'FALLA'), ('B', 'SEGUNDA'), ('A', 'PRIMERA');"
+              "INSERT INTO EscaleraH VALUES ('A', 1.5, 0.15, 3, 2.5, 260, 1500, 5),"
+              "('C', 1.5, 0.15, 3, 2.5, 260, 900000000, 5);") {
+        espacio.Lista().Abrir();
+    }
+    /// The data window of a stair, in which its rise is entered.
+    void Guardar(const TrabajoEscaleraH& trabajo, double H) {
+        EscaleraHDatos ventana(trabajo, caja, sinFoco);
+        EntradaEscaleraH entrados = ventana.Mostrar();
+        entrados.H = H;
+        EXPECT_TRUE(ventana.Salvar(entrados));
+    }
+    int RH() const { return espacio.Calculada().Resultados.Fh; }
+
+    PantallaGuiada vista;
+    SinFoco sinFoco;
+    EscaleraH espacio{aplicacion, servicios, vista, vista};
+};
+
+TEST_F(EspacioHelices, SeVeLaQueSeEligeYLaQueFallaDejaLaAnterior) {
+    EXPECT_THAT(vista.Filas, ElementsAre("A", "B", "C"));
+    EXPECT_EQ(vista.Encabezado, "ESCALERA: A");
+    EXPECT_EQ(vista.Dibujos, 1);
+    EXPECT_EQ(vista.Estaciones, 27U);
+    EXPECT_EQ(RH(), 10639);
+
+    espacio.Lista().Seleccionar(3);
+    EXPECT_THAT(vista.Encabezado, StartsWith("ESCALERA: C   (No se pudo calcular"));
+    EXPECT_TRUE(vista.Fallan[3] && !vista.Puestos.empty() && espacio.Estado().Fallo);
+    EXPECT_EQ(vista.EnPaneles, "A");
+    EXPECT_EQ(RH(), 10639);
+    EXPECT_EQ(vista.Dibujos, 1);
+
+    espacio.Lista().Anterior();
+    EXPECT_EQ(vista.Encabezado, "ESCALERA: B");
+    EXPECT_EQ(vista.EnPaneles, "B");
+    EXPECT_EQ(vista.Estaciones, 0U);
+    EXPECT_TRUE(vista.Puestos.empty() && !espacio.Estado().Fallo);
+    EXPECT_EQ(vista.Dibujos, 2);
+    espacio.Lista().Anterior();
+    espacio.Lista().Anterior();  // there is none
+    EXPECT_EQ(vista.Marcada, 1);
+    EXPECT_EQ(RH(), 10639);
+}
+
+TEST_F(EspacioHelices, CrearEditarYDatosGeneralesCalculan) {
+    const auto crear = [&](const char* nombre) {
+        vista.Nueva = [&, nombre] {
+            return escaleras::ui::EscaleraTNueva(espacio.Lista()).Aceptar(nombre, " T ");
+        };
+        espacio.Nueva();
+    };
+    int mostradas = 0;
+    vista.Datos = [&](const TrabajoEscaleraH& trabajo) {
+        ++mostradas;
+        EXPECT_EQ(EscaleraHDatos(trabajo, caja, sinFoco).Mostrar().Angulo, 260);
+    };
+    crear(" D ");  // left without a save it is listed and shows nothing
+    EXPECT_THAT(Columna("EscaleraHDatos", "Nombre"), ElementsAre("C", "B", "A", "D"));
+    EXPECT_THAT(Columna("EscaleraH", "Nombre"), ElementsAre("A", "C"));
+    EXPECT_EQ(vista.EnPaneles, "D");
+    EXPECT_EQ(vista.Estaciones, 0U);
+    espacio.Editar();  // and is still offered its seeds
+    EXPECT_EQ(mostradas, 2);
+    espacio.Lista().Seleccionar(2);  // another stair is not
+    vista.Datos = [&](const TrabajoEscaleraH& trabajo) {
+        EXPECT_EQ(EscaleraHDatos(trabajo, caja, sinFoco).Mostrar().Angulo, 0);
+    };
+    espacio.Editar();
+    EXPECT_EQ(vista.Estaciones, 0U);
+
+    vista.Datos = [&](const TrabajoEscaleraH& trabajo) { Guardar(trabajo, trabajo.Nueva ? 3 : 2); };
+    crear("E");
+    EXPECT_EQ(RH(), 10639);
+    espacio.Editar();
+    EXPECT_NE(RH(), 10639);
+    EXPECT_THAT(Columna("EscaleraH", "Nombre"), ElementsAre("A", "C", "E"));
+
+    const double antes = espacio.Calculada().Resultados.TramoSuperior[1].ASXS;
+    vista.General = [&] { aplicacion.Generales.FS *= 2; };
+    espacio.DatosGenerales();
+    EXPECT_GT(espacio.Calculada().Resultados.TramoSuperior[1].ASXS, 1.5 * antes);
+}
+
+TEST_F(EspacioHelices, RenombrarTitularEliminarYAbrirOtro) {
+    vista.Renombrar = [](programa::Renombrar& operaciones) { operaciones.Aceptar("Zeta"); };
+    caja.Respuestas = {RespuestaSi};
+    espacio.Lista().Renombrar();
+    EXPECT_THAT(Columna("EscaleraH", "Nombre"), ElementsAre("Zeta", "C"));
+    EXPECT_EQ(vista.Encabezado, "ESCALERA: Zeta");
+    EXPECT_EQ(vista.Estaciones, 27U);
+    vista.TituloNuevo = [&] {
+        return escaleras::ui::EscaleraTitulo(aplicacion.Proyecto, caja).Aceptar("NUEVO");
+    };
+    espacio.Titulo();
+    EXPECT_EQ(espacio.Calculada().Datos.Titulo, "NUEVO");
+
+    caja.Respuestas = {RespuestaAceptarONo, RespuestaSi, RespuestaSi, RespuestaSi};
+    espacio.Lista().Eliminar();
+    EXPECT_EQ(caja.Mensajes.back().Texto,
+              "Escalera: Zeta  (NUEVO)\n¿Esta Usted Seguro de Eliminar la Escalera del Proyecto?");
+    EXPECT_EQ(caja.Mensajes.back().Encabezado, "Eliminar Escalera...");
+    EXPECT_EQ(vista.Filas.size(), 3U);
+    for (int i = 0; i < 3; ++i) espacio.Lista().Eliminar();
+    EXPECT_TRUE(vista.Filas.empty() && Columna("EscaleraH", "Nombre").empty());
+    EXPECT_EQ(vista.Encabezado + vista.EnPaneles, "");
+    EXPECT_EQ(vista.Estaciones, 0U);
+    const std::size_t mensajes = caja.Mensajes.size();  // with an empty list nothing happens
+    espacio.Editar();
+    espacio.Titulo();
+    espacio.Lista().Eliminar();
+    EXPECT_EQ(caja.Mensajes.size(), mensajes);
+
+    dialogos.Elegidos = {Proyecto("otra.los", "INSERT INTO EscaleraHDatos VALUES ('Z', '');")};
+    espacio.Lista().AbrirProyecto();
+    EXPECT_EQ(vista.Encabezado, "ESCALERA: Z");
+}
+
+TEST_F(EspacioHelices, ElGiroAvanzaMientrasDuraSuModo) {
+    const dibujo::helice::Giro& giro = espacio.Estado().Hoja.ElGiro;
+    const auto teclas = espacio.Teclas();
+    EXPECT_FALSE(teclas.Antes(dibujo::TeclaVista::Arriba));
+    espacio.AvanzarGiro();
+    EXPECT_EQ(vista.Dibujos, 1);
+    espacio.Girar(ModoGiro::Vertical);
+    EXPECT_EQ(vista.Giro, ModoGiro::Vertical);
+    espacio.AvanzarGiro();
+    EXPECT_TRUE(teclas.Antes(dibujo::TeclaVista::Arriba));
+    EXPECT_EQ(giro.GiroVertical, 10);
+    EXPECT_EQ(vista.Dibujos, 3);
+    espacio.Girar(ModoGiro::Horizontal);  // one takes the other's place, and the same again ends it
+    EXPECT_EQ(vista.Giro, ModoGiro::Horizontal);
+    espacio.AvanzarGiro();
+    espacio.Girar(ModoGiro::Horizontal);
+    EXPECT_EQ(vista.Giro, ModoGiro::Ninguno);
+    espacio.Lista().Seleccionar(2);  // what was turned stays so
+    EXPECT_EQ(giro.GiroHorizontal, 5);
+    espacio.AnguloNormal();
+    EXPECT_EQ(giro.GiroVertical + giro.GiroHorizontal, 0);
+}
+
+}  // namespace
+}  // namespace trabex
