@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "helical/salida/ModuloEscalerasH.h"
+#include "helical/ui/qt/EspacioEscaleraH.h"
 #include "loads/salida/ModuloCargas.h"
 #include "lote/ui/qt/EspacioMemoria.h"
 #include "markus/salida/ModuloMarcus.h"
@@ -50,6 +51,7 @@ int main(int argc, char** argv) {
     std::vector<trabex::programa::qt::Espacio> espacios{
         trabex::losas::ui::qt::EspacioLosas(salida),
         trabex::escaleras::ui::qt::EspacioEscaleraT(salida),
+        trabex::helices::ui::qt::EspacioEscaleraH(salida),
         trabex::lote::ui::qt::EspacioMemoria(modulos),
     };
     std::unique_ptr<trabex::programa::qt::VentanaMenuPrincipal> menu;

@@ -1,36 +1,15 @@
 """A stair in the real program: create, enter, see, title, rename, report, delete; the file and the batch program's numbers."""
 
-import contextlib
 import json
 import pathlib
-import sqlite3
 import subprocess
 import sys
 
-from escritorio import correr
+from escritorio import CAJA, PRINCIPAL, correr, crear_proyecto, filas
 
-PRINCIPAL = "Trabex 2024   Proyecto:[obra.los]"
 ESCALERAS = "Trabex 2024   Proyecto:[OBRA.LOS]"
 DATOS = "GEOMETRÍA DE LA ESCALERA AUTOPORTANTE"
-CAJA = "Trabex 2024"
 VALORES = ("2.40", "1,2", "3", "0.15", "0.15", "1200", "1000", "600")
-
-
-def filas(archivo, consulta):
-    with contextlib.closing(sqlite3.connect(archivo)) as base:
-        return base.execute(consulta).fetchall()
-
-
-def crear_proyecto(e):
-    e.ventana("Trabex 2024   Proyecto:[]")
-    e.teclas("ctrl+n")
-    e.ventana("Crear un Nuevo Proyecto")
-    e.escribir("obra")
-    e.teclas("Return")
-    e.ventana("DATOS DEL PROYECTO")
-    e.teclas("Return")
-    e.ventana(PRINCIPAL)
-    return e.usuario / "Proyectos" / "obra.los"
 
 
 def crear_escalera(e):
@@ -87,7 +66,7 @@ def comprobar_resultados(e, obra):
 
 def recorrer(e):
     obra = crear_proyecto(e)
-    e.teclas("alt+c", "Down", "Return")
+    e.teclas("alt+c", "Up", "Up", "Return")
     e.ventana(ESCALERAS)
     ventana = crear_escalera(e)
     assert filas(obra, "SELECT * FROM EscaleraTDatos") == [("Principal", "PLANTA TIPO")]

@@ -1,14 +1,18 @@
 """A private virtual desktop with the real program on it, driven by mouse and keyboard."""
 
+import contextlib
 import os
 import pathlib
 import shutil
+import sqlite3
 import subprocess
 import sys
 import tempfile
 import time
 
 ESPERA = 60
+PRINCIPAL = "Trabex 2024   Proyecto:[obra.los]"
+CAJA = "Trabex 2024"
 
 
 def exigir(*programas):
@@ -109,6 +113,23 @@ class Escritorio:
             proceso.kill()
             proceso.wait()
         shutil.rmtree(self.carpeta, ignore_errors=True)
+
+
+def filas(archivo, consulta):
+    with contextlib.closing(sqlite3.connect(archivo)) as base:
+        return base.execute(consulta).fetchall()
+
+
+def crear_proyecto(e):
+    e.ventana("Trabex 2024   Proyecto:[]")
+    e.teclas("ctrl+n")
+    e.ventana("Crear un Nuevo Proyecto")
+    e.escribir("obra")
+    e.teclas("Return")
+    e.ventana("DATOS DEL PROYECTO")
+    e.teclas("Return")
+    e.ventana(PRINCIPAL)
+    return e.usuario / "Proyectos" / "obra.los"
 
 
 def correr(recorrer):

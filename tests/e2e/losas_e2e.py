@@ -1,40 +1,19 @@
 """A whole slab job in the real program: create, enter, see, change, rename, copy, delete, reopen; the file and the
 batch program's numbers against a solution by hand."""
 
-import contextlib
 import json
 import math
 import pathlib
-import sqlite3
 import subprocess
 import sys
 
-from escritorio import correr
+from escritorio import CAJA, PRINCIPAL, correr, crear_proyecto, filas
 
-PRINCIPAL = "Trabex 2024   Proyecto:[obra.los]"
 LOSAS = "Trabex 2024   Proyecto:[OBRA.LOS]"
 DATOS = "Datos Generales Losa: "
-CAJA = "Trabex 2024"
 # second, third, ninth and twelfth of the workspace's tool bar
 BOTON_GENERALES, BOTON_NUEVA, BOTON_EXPORTAR, BOTON_PLANEX = (58, 42), (98, 42), (304, 42), (403, 42)
 LUCES, WP, WV = (5.2, 4.8, 5.2), 290, 90
-
-
-def filas(archivo, consulta):
-    with contextlib.closing(sqlite3.connect(archivo)) as base:
-        return base.execute(consulta).fetchall()
-
-
-def crear_proyecto(e):
-    e.ventana("Trabex 2024   Proyecto:[]")
-    e.teclas("ctrl+n")
-    e.ventana("Crear un Nuevo Proyecto")
-    e.escribir("obra")
-    e.teclas("Return")
-    e.ventana("DATOS DEL PROYECTO")
-    e.teclas("Return")
-    e.ventana(PRINCIPAL)
-    return e.usuario / "Proyectos" / "obra.los"
 
 
 def abrir_losas(e):

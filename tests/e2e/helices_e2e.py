@@ -1,0 +1,90 @@
+"""A helical stair in the real program: create, enter, see, turn, copy, rename, report, delete; the file, the clipboard and the
+batch program's numbers."""
+
+import json
+import pathlib
+import subprocess
+import sys
+
+from escritorio import CAJA, PRINCIPAL, correr, crear_proyecto, filas
+
+ESCALERAS = "Trabex 2024   Proyecto:[OBRA.LOS]"
+DATOS = "ESCALERA HELICOIDAL"
+
+
+def crear_escalera(e):
+    """By keyboard: an angle past 360 is told, an interval of 0 sends to the angle, and what is typed is stored."""
+    e.teclas("ctrl+n")
+    e.ventana(DATOS)
+    e.escribir(" Caracol ")
+    e.teclas("Tab")
+    e.escribir("PLANTA TIPO")
+    e.teclas("Return")
+    e.respiro()
+    e.ventana(DATOS)
+    for valor in ("3", "1,5", "0.15", "2.5", "361"):
+        e.escribir(valor)
+        e.teclas("Tab")
+    e.teclas("alt+s")
+    e.ventana(CAJA)
+    e.teclas("Return")
+    e.ventana(DATOS)
+    e.escribir("260")
+    e.teclas("Tab")
+    e.escribir("1500")
+    e.teclas("Tab")
+    e.escribir("0")
+    e.teclas("alt+s")
+    e.respiro()   # a button pressed by its key acts a moment later
+    e.escribir("260")
+    e.teclas("Tab", "Tab")
+    e.escribir("7")
+    e.teclas("alt+s")
+    e.respiro()
+    e.teclas("alt+r")
+    return e.ventana(ESCALERAS)
+
+
+def comprobar_resultados(e, obra):
+    lote = pathlib.Path(sys.argv[1]).with_name("trabex-lote")
+    subprocess.run([lote, obra, e.carpeta / "salida"], check=True, stdout=subprocess.DEVNULL)
+    escalera, = json.loads((e.carpeta / "salida" / "resultados.json").read_text())["escalerasH"]
+    assert (escalera["FV"], escalera["Fh"]) == (8508, 10639)
+    return escalera
+
+
+def recorrer(e):
+    obra = crear_proyecto(e)
+    e.teclas("alt+c", "Up", "Return")
+    e.ventana(ESCALERAS)
+    ventana = crear_escalera(e)
+    assert filas(obra, "SELECT * FROM EscaleraHDatos") == [("Caracol", "PLANTA TIPO")]
+    guardada = filas(obra, "SELECT Nombre, B, T, H, R, Angulo, W, Inter FROM EscaleraH")
+    assert guardada == [("Caracol", 1.5, 0.15, 3, 2.5, 260, 1500, 7)], guardada
+    comprobar_resultados(e, obra)
+
+    e.pulsar(ventana, 700, 400)   # the canvas, and its keys
+    e.teclas("KP_Add", "Left", "Escape")
+    for hoja in "cdg":
+        e.teclas("alt+" + hoja)
+        e.ventana(ESCALERAS)
+    e.teclas("alt+l", "F2")
+    e.ventana("RENOMBRAR")
+    e.escribir("Piso 1")
+    e.teclas("Return")
+    e.ventana(CAJA)
+    e.teclas("Return")
+    e.ventana(ESCALERAS)
+    assert filas(obra, "SELECT Nombre FROM EscaleraH") == [("Piso 1",)]
+
+    e.teclas("alt+l", "Delete")
+    e.ventana(CAJA)
+    e.teclas("Return")
+    e.ventana(ESCALERAS)
+    assert filas(obra, "SELECT * FROM EscaleraHDatos") == filas(obra, "SELECT * FROM EscaleraH") == []
+    e.teclas("alt+r")
+    e.ventana(PRINCIPAL)
+
+
+if __name__ == "__main__":
+    correr(recorrer)
