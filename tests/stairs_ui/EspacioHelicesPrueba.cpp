@@ -74,7 +74,7 @@ TEST_F(EspacioHelices, SeVeLaQueSeEligeYLaQueFallaDejaLaAnterior) {
     EXPECT_EQ(RH(), 10639);
 
     espacio.Lista().Seleccionar(3);
-    EXPECT_THAT(vista.Encabezado, StartsWith("ESCALERA: C   (No se pudo calcular"));
+    EXPECT_THAT(vista.Encabezado, StartsWith("ESCALERA: C   (sin calcular"));
     EXPECT_TRUE(vista.Fallan[3] && !vista.Puestos.empty() && espacio.Estado().Fallo);
     EXPECT_EQ(vista.EnPaneles, "A");
     EXPECT_EQ(RH(), 10639);

@@ -15,7 +15,7 @@ constexpr programa::ClaseDeElemento ClaseEscaleraH = escaleras::ui::ClaseDeEscal
     almacen::tablas::ConsultaListaEscalerasH, almacen::tablas::TablasDeEscaleraH, "Titulo");
 
 /// Numbers that are not those of the stair that is named must not pass for its own.
-constexpr const char* SinCalcular = "   (No se pudo calcular: se muestran los resultados anteriores)";
+constexpr const char* SinCalcular = "   (sin calcular: se ve lo anterior)";
 
 }  // namespace
 

@@ -75,7 +75,7 @@ void VentanaEspacio::Armar(const DatosDeEspacio& datos) {
     columna->setContentsMargins(6, 4, 6, 4);
     columna->setSpacing(4);
     columna->setMenuBar(BarraDeMenus(datos));
-    columna->addWidget(BarraDeMandos());
+    columna->addLayout(BarraDeMandos());
     columna->addWidget(partes, 1);
     columna->addLayout(lineaDelPie);
     TamanoInicial(this, TamanoDeEspacio);
@@ -191,7 +191,8 @@ QMenuBar* VentanaEspacio::BarraDeMenus(const DatosDeEspacio& datos) {
     return barra;
 }
 
-QWidget* VentanaEspacio::BarraDeMandos() {
+/// The way out stays in sight where the commands do not all find room.
+QLayout* VentanaEspacio::BarraDeMandos() {
     auto* barra = new QToolBar(this);
     barra->setIconSize({24, 24});
     for (const GrupoComandos grupo :
@@ -199,15 +200,14 @@ QWidget* VentanaEspacio::BarraDeMandos() {
         if (grupo != GrupoComandos::Proyecto) barra->addSeparator();
         AgregarComandos(*barra, grupo);
     }
-    auto* hueco = new QWidget(barra);
-    hueco->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    barra->addWidget(hueco);
-    auto* retorno = Boton(" &Retorno ", "salida", barra);
+    auto* retorno = Boton(" &Retorno ", "salida", this);
     retorno->setAutoDefault(false);
     PonerAyuda(retorno, "Retorno", "Volver al menú principal. ");
     connect(retorno, &QPushButton::clicked, this, &QDialog::accept);
-    barra->addWidget(retorno);
-    return barra;
+    auto* fila = new QHBoxLayout;
+    fila->addWidget(barra, 1);
+    fila->addWidget(retorno);
+    return fila;
 }
 
 void VentanaEspacio::CrearMenusDeContexto() {
@@ -252,6 +252,7 @@ QWidget* VentanaEspacio::PanelDeHojas(const DatosDeEspacio& datos) {
     hojas_->setExpanding(false);
     frente_ = new QStackedWidget(panel);
     lienzo_ = new dibujo::qt::WidgetLienzo(datos.Vista, datos.Dibujar, frente_, datos.Teclas);
+    lienzo_->setObjectName("Lienzo");
     frente_->addWidget(lienzo_);
     for (const char* titulo : datos.Hojas) hojas_->addTab(titulo);
     for (const PaginaDeEspacio& pagina : datos.Paginas) {

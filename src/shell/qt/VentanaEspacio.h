@@ -88,7 +88,7 @@ class VentanaEspacio : public QDialog, public PantallaEspacio {
     void ConectarVista();
     void PonerAtajos();
     QMenuBar* BarraDeMenus(const DatosDeEspacio& datos);
-    QWidget* BarraDeMandos();
+    QLayout* BarraDeMandos();
     void CrearMenusDeContexto();
     void AgregarComandos(QWidget& destino, GrupoComandos grupo) const;
     QWidget* PanelDeLista(const DatosDeEspacio& datos);

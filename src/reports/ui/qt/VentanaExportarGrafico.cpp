@@ -51,31 +51,38 @@ QLayout* VentanaExportarGrafico::Controles() {
     }
     formatos_->button(0)->setChecked(true);
 
-    auto* fila = new QHBoxLayout;
-    fila->addWidget(marco);
-    fila->addStretch(1);
-    const auto agregar = [this, fila](const QString& texto, const char* icono, const char* ayuda,
-                                      auto accion) {
-        auto* boton = programa::qt::Boton(texto, icono, this);
-        boton->setAutoDefault(false);
-        programa::qt::PonerAyuda(boton, texto.trimmed().isEmpty() ? "Carpeta" : texto.trimmed(), ayuda);
-        connect(boton, &QPushButton::clicked, this, accion);
-        fila->addWidget(boton, 0, Qt::AlignBottom);
-        return boton;
+    const auto boton = [this](QLayout& fila, const QString& texto, const char* icono, const char* ayuda,
+                              auto accion) {
+        auto* nuevo = programa::qt::Boton(texto, icono, this);
+        nuevo->setAutoDefault(false);
+        programa::qt::PonerAyuda(nuevo, texto.trimmed().isEmpty() ? "Carpeta" : texto.trimmed(), ayuda);
+        connect(nuevo, &QPushButton::clicked, this, accion);
+        fila.addWidget(nuevo);
+        return nuevo;
     };
     dibujo::Visor& visor = lienzo_->Comandos();
-    agregar(" Zoom Más ", "acercar", "Acercar el gráfico.", [&visor] { visor.EjecuteZoomIn(); });
-    agregar(" Zoom Menos ", "alejar", "Alejar el gráfico.", [&visor] { visor.EjecuteZoomOut(); });
-    agregar(" Zoom Extents ", "pantalla", "Ver el gráfico completo.",
-            [&visor] { visor.EjecuteZoomExtents(); });
-    auto* carpeta = agregar("", "carpeta", "Abrir la carpeta de las imágenes exportadas.",
-                            [this] { operaciones_.AbrirCarpeta(); });
-    carpeta->setObjectName("Carpeta");
-    auto* exportar = agregar(" Exportar ", "camara", "Salvar el gráfico como imagen.", [this] {
+    auto* delZoom = new QHBoxLayout;
+    delZoom->addStretch(1);
+    boton(*delZoom, " Zoom Más ", "acercar", "Acercar el gráfico.", [&visor] { visor.EjecuteZoomIn(); });
+    boton(*delZoom, " Zoom Menos ", "alejar", "Alejar el gráfico.", [&visor] { visor.EjecuteZoomOut(); });
+    boton(*delZoom, " Zoom Extents ", "pantalla", "Ver el gráfico completo.",
+          [&visor] { visor.EjecuteZoomExtents(); });
+    auto* deSalida = new QHBoxLayout;
+    deSalida->addStretch(1);
+    boton(*deSalida, "", "carpeta", "Abrir la carpeta de las imágenes exportadas.", [this] {
+        operaciones_.AbrirCarpeta();
+    })->setObjectName("Carpeta");
+    boton(*deSalida, " Exportar ", "camara", "Salvar el gráfico como imagen.", [this] {
         operaciones_.ExportarPantalla(FormatosGrafico[static_cast<std::size_t>(formatos_->checkedId())]);
-    });
-    exportar->setDefault(true);
-    agregar(" Retorno ", "salida", "Cerrar la ventana.", [this] { reject(); });
+    })->setDefault(true);
+    boton(*deSalida, " Retorno ", "salida", "Cerrar la ventana.", [this] { reject(); });
+    auto* botones = new QVBoxLayout;
+    botones->addStretch(1);
+    botones->addLayout(delZoom);
+    botones->addLayout(deSalida);
+    auto* fila = new QHBoxLayout;
+    fila->addWidget(marco);
+    fila->addLayout(botones, 1);
     return fila;
 }
 

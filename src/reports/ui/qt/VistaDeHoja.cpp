@@ -80,7 +80,7 @@ class CabeceraDeGrupos : public QHeaderView {
         initStyleOption(&opcion);
         opcion.rect = sitio;
         opcion.section = 0;
-        style()->drawControl(QStyle::CE_Header, &opcion, &pintor, this);
+        style()->drawControl(QStyle::CE_HeaderSection, &opcion, &pintor, this);
         pintor.setPen(palette().color(QPalette::ButtonText));
         pintor.drawText(sitio, Qt::AlignCenter, texto);
     }

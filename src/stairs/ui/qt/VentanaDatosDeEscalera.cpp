@@ -12,7 +12,8 @@ namespace trabex::escaleras::ui::qt {
 
 namespace {
 constexpr QSize MenorBoceto(228, 264);
-}
+constexpr QSize TamanoDeVentana(760, 480);
+}  // namespace
 
 VentanaDatosDeEscalera::VentanaDatosDeEscalera(const programa::Aplicacion& aplicacion, QWidget* padre)
     : QDialog(padre), aplicacion_(aplicacion) {
@@ -30,6 +31,7 @@ void VentanaDatosDeEscalera::Armar(const char* nombre, const char* titulo,
     columna->addLayout(partes, 1);
     columna->addLayout(Botones());
     Rellenar();
+    programa::qt::TamanoInicial(this, TamanoDeVentana);
     programa::qt::PrepararVentana(this, aplicacion_.Preferencias);
     campos_->EnfocarPrimero();
 }
@@ -53,6 +55,7 @@ QWidget* VentanaDatosDeEscalera::MarcoDeCampos(std::span<const RotuloDeCampo> ro
 QWidget* VentanaDatosDeEscalera::Boceto() {
     boceto_ = new dibujo::qt::WidgetLienzo(
         vista_, [this](dibujo::Lienzo& lienzo) { DibujarBoceto(lienzo, vista_); }, this);
+    boceto_->setObjectName("Boceto");
     boceto_->setMinimumSize(MenorBoceto);
     boceto_->setFocusPolicy(Qt::ClickFocus);
     return boceto_;
