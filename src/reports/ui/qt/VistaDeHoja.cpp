@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QPainter>
 #include <algorithm>
+#include <array>
 #include <numeric>
 
 #include "shell/qt/ComunVentanas.h"
@@ -17,7 +18,8 @@ namespace {
 
 using programa::qt::Q;
 
-constexpr int Holgura = 16;  // pixels beside the widest text of a column
+constexpr int Holgura = 16;    // pixels beside the widest text of a column
+constexpr int MasAncho = 260;  // of one that holds a number of hundreds of digits
 
 Qt::Alignment LadoDe(documento::Alineacion lado) {
     switch (lado) {
@@ -32,7 +34,7 @@ Qt::Alignment LadoDe(documento::Alineacion lado) {
 }
 
 int AnchoDe(const QFontMetrics& letra, const QString& texto) {
-    return letra.boundingRect(QRect(), Qt::AlignCenter, texto).width() + Holgura;
+    return std::min(letra.boundingRect(QRect(), Qt::AlignCenter, texto).width() + Holgura, MasAncho);
 }
 
 /// Headings of two levels: neighbours of one group stand below one heading, which each of them paints in its
@@ -114,6 +116,25 @@ class VistaDeHoja::Modelo : public QAbstractTableModel {
         return Q(documento::TextoDeValor(celdas[lugar], formato, separadores_));
     }
 
+    /// Rows whose cells are the widest of a column: its least and its greatest number, or its longest text.
+    /// Only these are measured, so that a sheet of many rows opens at once.
+    std::array<int, 2> FilasExtremas(int columna) const {
+        std::array<int, 2> filas{-1, -1};
+        double menor = 0, mayor = 0;
+        for (int f = 0; f < rowCount(); ++f) {
+            if (Fila(f).Rotulo || Fila(f).Celdas.size() <= static_cast<std::size_t>(columna)) continue;
+            const almacen::Valor& celda = Fila(f).Celdas[static_cast<std::size_t>(columna)];
+            const auto* texto = std::get_if<std::string>(&celda);
+            const double medida = texto != nullptr ? static_cast<double>(texto->size())
+                                                   : documento::NumeroDe(celda).value_or(0);
+            if (filas[0] < 0 || medida < menor) filas[0] = f;
+            if (filas[1] < 0 || medida > mayor) filas[1] = f;
+            menor = std::min(menor, medida);
+            mayor = std::max(mayor, medida);
+        }
+        return filas;
+    }
+
     int rowCount(const QModelIndex& padre = {}) const override {
         return padre.isValid() ? 0 : static_cast<int>(Tabla().Filas.size());
     }
@@ -187,12 +208,12 @@ void VistaDeHoja::MedirColumnas() {
     const QFontMetrics letra = fontMetrics();
     minimos_.clear();
     for (int c = 0; c < modelo_->columnCount(); ++c) {
-        int ancho = AnchoDe(letra, Q(modelo_->Columna(c).Titulo));
-        for (int f = 0; f < modelo_->rowCount(); ++f) {
-            if (modelo_->Fila(f).Rotulo) continue;
-            ancho = std::max(ancho, AnchoDe(letra, modelo_->index(f, c).data().toString()));
+        minimos_.push_back(AnchoDe(letra, Q(modelo_->Columna(c).Titulo)));
+        for (const int fila : modelo_->FilasExtremas(c)) {
+            if (fila < 0) continue;
+            minimos_.back() =
+                std::max(minimos_.back(), AnchoDe(letra, modelo_->index(fila, c).data().toString()));
         }
-        minimos_.push_back(ancho);
     }
     for (const documento::GrupoDeColumnas& grupo : documento::GruposDe(modelo_->Tabla())) {
         const auto primera = minimos_.begin() + static_cast<std::ptrdiff_t>(grupo.Desde);
