@@ -90,6 +90,15 @@ TEST_F(EspacioHelices, SeVeLaQueSeEligeYLaQueFallaDejaLaAnterior) {
     espacio.Lista().Anterior();  // there is none
     EXPECT_EQ(vista.Marcada, 1);
     EXPECT_EQ(RH(), 10639);
+
+    // Of another project nothing stays, though its first stair fails.
+    dialogos.Elegidos = {Proyecto("otra.los",
+                                  "INSERT INTO EscaleraHDatos VALUES ('Z', '');"
+                                  "INSERT INTO EscaleraH VALUES ('Z', 1.5, 0.15, 3, 2.5, 260, 1500, -5);")};
+    espacio.Lista().AbrirProyecto();
+    EXPECT_THAT(vista.Encabezado, StartsWith("ESCALERA: Z   (sin calcular"));
+    EXPECT_EQ(vista.EnPaneles, "");
+    EXPECT_EQ(vista.Estaciones, 0U);
 }
 
 TEST_F(EspacioHelices, CrearEditarYDatosGeneralesCalculan) {
@@ -131,7 +140,7 @@ TEST_F(EspacioHelices, CrearEditarYDatosGeneralesCalculan) {
     EXPECT_GT(espacio.Calculada().Resultados.TramoSuperior[1].ASXS, 1.5 * antes);
 }
 
-TEST_F(EspacioHelices, RenombrarTitularEliminarYAbrirOtro) {
+TEST_F(EspacioHelices, RenombrarTitularYEliminar) {
     vista.Renombrar = [](programa::Renombrar& operaciones) { operaciones.Aceptar("Zeta"); };
     caja.Respuestas = {RespuestaSi};
     espacio.Lista().Renombrar();
@@ -159,10 +168,6 @@ TEST_F(EspacioHelices, RenombrarTitularEliminarYAbrirOtro) {
     espacio.Titulo();
     espacio.Lista().Eliminar();
     EXPECT_EQ(caja.Mensajes.size(), mensajes);
-
-    dialogos.Elegidos = {Proyecto("otra.los", "INSERT INTO EscaleraHDatos VALUES ('Z', '');")};
-    espacio.Lista().AbrirProyecto();
-    EXPECT_EQ(vista.Encabezado, "ESCALERA: Z");
 }
 
 TEST_F(EspacioHelices, ElGiroAvanzaMientrasDuraSuModo) {

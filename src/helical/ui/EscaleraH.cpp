@@ -32,6 +32,7 @@ void EscaleraH::AlConectar() {
     almacen::tablas::LeaDatosGenerales(aplicacion_.Proyecto.ConexionProyecto,
                                        almacen::tablas::ClaseEscalera::Helicoidal, aplicacion_.Usuario,
                                        aplicacion_.Datos, aplicacion_.Generales);
+    AlVaciar();  // of another project nothing stays in sight
 }
 
 /// The mark of a new stair is that of the one just created: another must not be offered its seeds.
