@@ -5,6 +5,7 @@
 #include "helical/Avisos.h"
 #include "helical/CalcularEscaleraH.h"
 #include "stairs/ui/ClaseDeEscalera.h"
+#include "store/Posicion.h"
 #include "store/tablas/TablasEscalera.h"
 
 namespace trabex::helices::ui {
@@ -58,6 +59,20 @@ void EscaleraH::AlVaciar() {
     Mostrar({});
 }
 
+/// Each stair is read and calculated on records of its own: an engineer sees at opening which of them fail.
+void EscaleraH::AlLlenar() {
+    almacen::Recordset& lista = aplicacion_.Proyecto.RegistrosProyecto;
+    const auto posicion = almacen::PosicionGuardada(lista);
+    for (int fila = 1; fila <= lista.NumeroRegistros(); ++fila) {
+        lista.MoverA(fila);
+        DatosEscaleraH escalera;
+        ResultadosEscaleraH resultados;
+        if (!almacen::tablas::LeaDatosEscalera(aplicacion_.Proyecto, escalera)) continue;
+        CalcularEscaleraH(escalera, aplicacion_.Generales, resultados);
+        espacio_.MarcarFalla(fila, HayFalla(AvisosDe(escalera, aplicacion_.Generales, resultados)));
+    }
+}
+
 /// A stair without a row of data clears picture and grids. One whose calculation fails leaves them as they
 /// were.
 void EscaleraH::LeaDatosEscalera() {
@@ -101,6 +116,7 @@ void EscaleraH::Editar() {
 void EscaleraH::DatosGenerales() {
     pantalla_.MostrarEscaleraTG();
     Releer();
+    AlLlenar();
 }
 
 void EscaleraH::Titulo() {

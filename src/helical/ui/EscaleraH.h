@@ -73,6 +73,7 @@ class EscaleraH : private programa::ElementoDeLista {
     void AlSeleccionar() override;
     void AlAgregar() override;
     void AlVaciar() override;
+    void AlLlenar() override;
     void LeaDatosEscalera();
     /// The panels and the drawing show `resultados` of the current stair.
     void Mostrar(ResultadosEscaleraH resultados);
