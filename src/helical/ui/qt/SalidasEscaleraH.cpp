@@ -1,10 +1,23 @@
 #include "helical/ui/qt/SalidasEscaleraH.h"
 
+#include <QAction>
+
 #include "drawing/helice/GraficoHelice.h"
+#include "helical/salida/GraficosEscalerasH.h"
 #include "reports/ui/qt/ImprimirDibujos.h"
+#include "reports/ui/qt/MontarConPanel.h"
 #include "reports/ui/qt/VentanaExportarGrafico.h"
+#include "reports/ui/qt/VentanaSalidaReporte.h"
 
 namespace trabex::helices::ui::qt {
+
+namespace {
+
+constexpr std::int16_t ReporteEscaleraH = 2;
+
+using reportes::ui::qt::VentanaSalidaReporte;
+
+}  // namespace
 
 OperacionesDeHelices SalidasEscaleraH::Operaciones() {
     const auto propia = [this](void (SalidasEscaleraH::*operacion)(EscaleraH&, VentanaEscaleraH&)) {
@@ -15,8 +28,32 @@ OperacionesDeHelices SalidasEscaleraH::Operaciones() {
             (this->*operacion)(escaleras, ventana);
         };
     };
-    return {{"ID_Imprimir", propia(&SalidasEscaleraH::ImprimirGrafico)},
+    return {{"ID_Graficos", propia(&SalidasEscaleraH::ExportarGrafico)},
+            {"ID_Exportar", propia(&SalidasEscaleraH::ExportarTablas)},
+            {"ID_Imprimir", propia(&SalidasEscaleraH::ImprimirGrafico)},
             {"ID_ExportarG", propia(&SalidasEscaleraH::ExportarImagen)}};
+}
+
+/// The drawing of the report is the whole stair, so that of the screen becomes so too.
+void SalidasEscaleraH::ExportarGrafico(EscaleraH& escaleras, VentanaEscaleraH& ventana) {
+    const dibujo::helice::HojaHelice& hoja = escaleras.Estado().Hoja;
+    if (hoja.Vista.Zoom != 1 || hoja.Vista.PanX != 0 || hoja.Vista.PanY != 0)
+        ventana.Accion("ID_ZoomExtents")->trigger();
+    reportes::ui::qt::MontarConPanel(ventana, [&](auto& superficie, auto& panel) {
+        salida::GuardeGraficos(entorno_.Montaje(), aplicacion_.Datos, escaleras.Calculada(), hoja, superficie,
+                               panel);
+    });
+    salida_.Estado.GraficoHelicoidal = true;
+    salida_.Estado.GraficoAutoportante = false;
+    VentanaSalidaReporte(entorno_, VentanaSalidaReporte::Clase::Grafico, &ventana).exec();
+    escaleras.Releer();
+}
+
+void SalidasEscaleraH::ExportarTablas(EscaleraH& escaleras, VentanaEscaleraH& ventana) {
+    salida::LLenarDatos(entorno_.Montaje(), aplicacion_.Datos, escaleras.Calculada());
+    salida_.Estado.ReporteActual = ReporteEscaleraH;
+    VentanaSalidaReporte(entorno_, VentanaSalidaReporte::Clase::Tabular, &ventana).exec();
+    escaleras.Releer();
 }
 
 void SalidasEscaleraH::ImprimirGrafico(EscaleraH& escaleras, VentanaEscaleraH& ventana) {

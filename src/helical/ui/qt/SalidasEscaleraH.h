@@ -17,6 +17,8 @@ class SalidasEscaleraH {
     OperacionesDeHelices Operaciones();
 
   private:
+    void ExportarGrafico(EscaleraH& escaleras, VentanaEscaleraH& ventana);
+    void ExportarTablas(EscaleraH& escaleras, VentanaEscaleraH& ventana);
     void ImprimirGrafico(EscaleraH& escaleras, VentanaEscaleraH& ventana);
     void ExportarImagen(EscaleraH& escaleras, VentanaEscaleraH& ventana);
 
