@@ -5,7 +5,7 @@ import pathlib
 import subprocess
 import sys
 
-from escritorio import CAJA, PRINCIPAL, correr, crear_proyecto, filas
+from escritorio import CAJA, PRINCIPAL, correr, crear_proyecto, filas, guardar_pdf
 
 ESCALERAS = "Trabex 2024   Proyecto:[OBRA.LOS]"
 DATOS = "GEOMETRÍA DE LA ESCALERA AUTOPORTANTE"
@@ -41,15 +41,7 @@ def exportar(e):
     e.teclas("alt+s", "Return")
     e.ventana("EXPORTAR LOS GRÁFICOS")
     e.teclas("Return")
-    e.ventana("IMPRIMIR Y EXPORTAR LOS GRÁFICOS")
-    e.teclas("Down", "Return")
-    e.ventana("Exportar el Reporte a formato: Adobe Acrobat(PDF)")
-    e.escribir("escalera.pdf")
-    e.teclas("Return")
-    e.ventana(CAJA)   # open it?
-    e.teclas("Tab", "Return")
-    e.ventana(ESCALERAS)
-    pdf = (e.usuario / "ReportesExportados" / "escalera.pdf").read_bytes()
+    pdf = guardar_pdf(e, "IMPRIMIR Y EXPORTAR LOS GRÁFICOS", "escalera.pdf", ESCALERAS)
     assert pdf.startswith(b"%PDF") and pdf.count(b"/Type /Page\n") == 4
     assert filas(e.usuario / "Trabajo" / "Temporal.mdb", "SELECT Losa, CargaTramo FROM Grafico") == [
         ("Piso 1" + hoja, 1200) for hoja in (": GEOMETRÍA", ": SOLICITACIONES", ": DISEÑO", ": REACCIONES")]

@@ -132,6 +132,19 @@ def crear_proyecto(e):
     return e.usuario / "Proyectos" / "obra.los"
 
 
+def guardar_pdf(e, dialogo, nombre, despues):
+    """From the dialog of a staged report, which begins on the screen's option, back to the window below; the file's bytes."""
+    e.ventana(dialogo)
+    e.teclas("Down", "Return")
+    e.ventana("Exportar el Reporte a formato: Adobe Acrobat(PDF)")
+    e.escribir(nombre)
+    e.teclas("Return")
+    e.ventana(CAJA)   # open it?
+    e.teclas("Tab", "Return")
+    e.ventana(despues)
+    return (e.usuario / "ReportesExportados" / nombre).read_bytes()
+
+
 def correr(recorrer):
     """Walks through the program of the command line; pictures of its windows go to a second argument's folder."""
     escritorio = Escritorio(sys.argv[1], fotos=sys.argv[2] if len(sys.argv) > 2 else None)

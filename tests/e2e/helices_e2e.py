@@ -6,7 +6,7 @@ import pathlib
 import subprocess
 import sys
 
-from escritorio import CAJA, PRINCIPAL, correr, crear_proyecto, filas
+from escritorio import CAJA, PRINCIPAL, correr, crear_proyecto, filas, guardar_pdf
 
 ESCALERAS = "Trabex 2024   Proyecto:[OBRA.LOS]"
 DATOS = "ESCALERA HELICOIDAL"
@@ -53,6 +53,20 @@ def comprobar_resultados(e, obra):
     return escalera
 
 
+def exportar(e):
+    """Both reports as PDF: the drawing with the grids, and the table of stations."""
+    temporal = e.usuario / "Trabajo" / "Temporal.mdb"
+    e.teclas("alt+s", "Return")
+    assert guardar_pdf(e, "IMPRIMIR Y EXPORTAR LOS GRÁFICOS", "helice.pdf", ESCALERAS).startswith(b"%PDF")
+    assert filas(temporal, "SELECT Titulo FROM Generales") == [("ANALISIS Y DISEÑO DE LOSAS Y VIGAS HELICOIDALES",)]
+    assert filas(temporal, "SELECT Nombre, FV, Fh FROM EscaleraH") == [("Piso 116", 8508, 10639)]
+    primera, *_, ultima = filas(temporal, "SELECT Numero, Inter, Estribos FROM EscaleraH1S")
+    assert (primera[:2], ultima[:2]) == ((1, 130), (38, 126)), (primera, ultima)
+    e.teclas("alt+s", "Down", "Return")
+    assert guardar_pdf(e, "IMPRIMIR Y EXPORTAR EL REPORTE", "tabla.pdf", ESCALERAS).startswith(b"%PDF")
+    assert len(filas(temporal, "SELECT * FROM EscaleraHS")) == 38
+
+
 def recorrer(e):
     obra = crear_proyecto(e)
     e.teclas("alt+c", "Up", "Return")
@@ -65,17 +79,16 @@ def recorrer(e):
 
     e.pulsar(ventana, 700, 400)   # the canvas, and its keys
     e.teclas("KP_Add", "Left", "Escape")
-    for hoja in "cdg":
-        e.teclas("alt+" + hoja)
-        e.ventana(ESCALERAS)
-    e.teclas("alt+l", "F2")
+    e.teclas("alt+g", "alt+d", "alt+c", "Down", "Down", "Down", "ctrl+c")   # the third angle of the grid
+    e.teclas("alt+g", "alt+l", "F2")
     e.ventana("RENOMBRAR")
-    e.escribir("Piso 1")
-    e.teclas("Return")
+    e.escribir("Piso ")
+    e.teclas("ctrl+v", "Return")
     e.ventana(CAJA)
     e.teclas("Return")
     e.ventana(ESCALERAS)
-    assert filas(obra, "SELECT Nombre FROM EscaleraH") == [("Piso 1",)]
+    assert filas(obra, "SELECT Nombre FROM EscaleraH") == [("Piso 116",)]
+    exportar(e)
 
     e.teclas("alt+l", "Delete")
     e.ventana(CAJA)

@@ -277,9 +277,12 @@ bool VentanaEspacio::HojaAlFrente() const {
     return frente_->currentWidget() == lienzo_;
 }
 
+/// The keyboard stays where it was, but that what goes behind hands it to what comes to the front.
 void VentanaEspacio::PonerAlFrente(int hoja) {
     const int hojas = hojas_->count() - (frente_->count() - 1);
+    const bool conTeclado = frente_->currentWidget()->hasFocus();
     frente_->setCurrentIndex(std::max(0, hoja - hojas + 1));
+    if (conTeclado) frente_->currentWidget()->setFocus();
     HabilitarComandos();
 }
 
