@@ -3,9 +3,6 @@
 #include <QAction>
 #include <QClipboard>
 #include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
 #include <QTabBar>
 #include <QTest>
 
@@ -13,17 +10,11 @@
 
 #include "drawing/qt/WidgetLienzo.h"
 #include "helical/ui/qt/VentanaEscaleraH.h"
-#include "helical/ui/qt/VentanaEscaleraHDatos.h"
 #include "reports/ui/qt/VistaDeHoja.h"
-#include "store/tablas/TablasEscalera.h"
 #include "support/EspacioGuiado.h"
 
 namespace trabex {
 
-using namespace almacen;
-using namespace almacen::tablas;
-using namespace helices;
-using namespace helices::ui;
 using namespace helices::ui::qt;
 namespace {
 
@@ -96,35 +87,6 @@ TEST_F(VentanasHelice, ElGiroTomaLasFlechasYAvanzaSolo) {
     ventana.Accion("ID_GirarN")->trigger();
     EXPECT_FALSE(ventana.Accion("ID_GirarV")->isChecked());
     EXPECT_EQ(hoja.ElGiro.GiroVertical + hoja.ElGiro.GiroHorizontal, 0);
-}
-
-TEST_F(VentanasHelice, LosDatosTecleadosLleganAlArchivo) {
-    AbrirConexion(aplicacion.Proyecto.ConexionProyecto, aplicacion.ArchivoProyecto);
-    AbrirRecordset(aplicacion.Proyecto.ConexionProyecto, aplicacion.Proyecto.RegistrosProyecto,
-                   ConsultaListaEscalerasH);
-    aplicacion.Proyecto.RegistrosProyecto.MoverA(2);
-    DatosEscaleraH actual;
-    bool nueva = true, cambiados = false;
-    VentanaEscaleraHDatos ventana({aplicacion.Proyecto, actual, nueva, cambiados}, aplicacion, caja, nullptr);
-    ventana.show();
-    const auto campos = ventana.findChildren<QLineEdit*>();
-    ASSERT_EQ(campos.size(), 7);
-    const auto* boceto = ventana.findChild<WidgetLienzo*>("Boceto");
-    const QImage semilla = boceto->Imagen();
-    const std::array<const char*, 7> textos{"2,7", "1.2", "0.18", "3", "360", "1800", "10"};
-    for (int i = 0; i < 7; ++i) {
-        campos[i]->selectAll();
-        QTest::keyClicks(campos[i], textos[static_cast<std::size_t>(i)]);
-    }
-    EXPECT_NE(boceto->Imagen(), semilla);
-    ventana.findChild<QPushButton*>("Salvar")->click();
-    DatosEscaleraH leida;
-    ASSERT_TRUE(LeaDatosEscalera(aplicacion.Proyecto, leida));
-    EXPECT_EQ(std::tie(leida.Nombre, leida.H, leida.B, leida.T, leida.R, leida.Angulo),
-              std::make_tuple("B", 2.7, 1.2, 0.18, 3.0, 360.0));
-    EXPECT_TRUE(leida.W == 1800 && leida.Inter == 10);
-    ventana.reject();
-    EXPECT_TRUE(!ventana.isVisible() && caja.Mensajes.empty());
 }
 
 }  // namespace
