@@ -53,7 +53,9 @@ void ListaElementos::Conectar() {
     MostrarPrimera();
     const std::string camino = TextoDeCamino(aplicacion_.ArchivoProyecto);
     pantalla_.PonerEstado(conexion.ConexionFallida() ? "No se pudo leer el proyecto: " + camino : camino);
-    pantalla_.PonerTitulo(TituloConProyecto(Mayusculas(aplicacion_.NombreProyecto)));
+    pantalla_.PonerTitulo(clase_.TituloVentana.empty()
+                              ? TituloConProyecto(Mayusculas(aplicacion_.NombreProyecto))
+                              : std::string(clase_.TituloVentana));
 }
 
 void ListaElementos::AbrirLista() {

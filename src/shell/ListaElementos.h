@@ -29,6 +29,7 @@ struct ClaseDeElemento {
     TextosDeRenombrar Renombrar;
     /// The column that the same question tells in brackets behind the name; empty: none.
     std::string_view EntreParentesis{};
+    std::string_view TituloVentana{};  ///< of its workspace; empty: the program's, with the project's name
 };
 
 /// What an element does as its list moves.

@@ -8,19 +8,18 @@ import sys
 
 from escritorio import CAJA, PRINCIPAL, correr, crear_proyecto, filas, guardar_pdf
 
-ESCALERAS = "Trabex 2024   Proyecto:[OBRA.LOS]"
+ESCALERAS = "ESCALERAS HELICOIDALES"
 DATOS = "ESCALERA HELICOIDAL"
 
 
 def crear_escalera(e):
     """By keyboard: an angle past 360 is told, an interval of 0 sends to the angle, and what is typed is stored."""
     e.teclas("ctrl+n")
-    e.ventana(DATOS)
+    e.ventana("Escalera o Viga Helicoidal")
     e.escribir(" Caracol ")
     e.teclas("Tab")
     e.escribir("PLANTA TIPO")
     e.teclas("Return")
-    e.respiro()
     e.ventana(DATOS)
     for valor in ("3", "1,5", "0.15", "2.5", "361"):
         e.escribir(valor)

@@ -68,6 +68,7 @@ struct EspacioHelices : testing::Test, prueba::ProgramaGuiado {
 
 TEST_F(EspacioHelices, SeVeLaQueSeEligeYLaQueFallaDejaLaAnterior) {
     EXPECT_THAT(vista.Filas, ElementsAre("A", "B", "C"));
+    EXPECT_EQ(vista.Titulo, "ESCALERAS HELICOIDALES");
     EXPECT_EQ(vista.Encabezado, "ESCALERA: A");
     EXPECT_EQ(vista.Dibujos, 1);
     EXPECT_TRUE(vista.Fallan[3] && !vista.Fallan[1]);  // seen at opening

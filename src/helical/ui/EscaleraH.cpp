@@ -12,8 +12,9 @@ namespace trabex::helices::ui {
 
 namespace {
 
-constexpr programa::ClaseDeElemento ClaseEscaleraH = escaleras::ui::ClaseDeEscalera(
-    almacen::tablas::ConsultaListaEscalerasH, almacen::tablas::TablasDeEscaleraH, "Titulo");
+constexpr programa::ClaseDeElemento ClaseEscaleraH =
+    escaleras::ui::ClaseDeEscalera(almacen::tablas::ConsultaListaEscalerasH,
+                                   almacen::tablas::TablasDeEscaleraH, "Titulo", "ESCALERAS HELICOIDALES");
 
 /// Numbers that are not those of the stair that is named must not pass for its own.
 constexpr const char* SinCalcular = "   (sin calcular: se ve lo anterior)";

@@ -14,7 +14,7 @@ struct TextosDeEscaleraNueva {
     const char* Marco;
 };
 inline constexpr TextosDeEscaleraNueva NuevaAutoportante{"CREAR NUEVA ESCALERA", "ESCALERA AUTOPORTANTE"};
-inline constexpr TextosDeEscaleraNueva NuevaHelicoidal{"ESCALERA HELICOIDAL", "Escalera o Viga Helicoidal"};
+inline constexpr TextosDeEscaleraNueva NuevaHelicoidal{"Escalera o Viga Helicoidal", "ESCALERA HELICOIDAL"};
 
 /// Names a new stair of either kind: `EscaleraTNueva`. Accepted when the stair was added.
 class VentanaEscaleraTNueva : public QDialog {
