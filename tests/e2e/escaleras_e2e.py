@@ -58,7 +58,7 @@ def comprobar_resultados(e, obra):
 
 def recorrer(e):
     obra = crear_proyecto(e)
-    e.teclas("alt+c", "Up", "Up", "Return")
+    e.teclas("alt+c", "Up", "Up", "Up", "Return")
     e.ventana(ESCALERAS)
     ventana = crear_escalera(e)
     assert filas(obra, "SELECT * FROM EscaleraTDatos") == [("Principal", "PLANTA TIPO")]

@@ -68,7 +68,7 @@ def exportar(e):
 
 def recorrer(e):
     obra = crear_proyecto(e)
-    e.teclas("alt+c", "Up", "Return")
+    e.teclas("alt+c", "Up", "Up", "Return")
     e.ventana(ESCALERAS)
     ventana = crear_escalera(e)
     assert filas(obra, "SELECT * FROM EscaleraHDatos") == [("Caracol", "PLANTA TIPO")]
