@@ -7,9 +7,10 @@
 #include "helical/CalcularEscaleraH.h"
 #include "helical/salida/GraficosEscalerasH.h"
 #include "helical/salida/PanelesEscaleraH.h"
+#include "support/BaseSqlite.h"
 #include "support/CarpetaTemporal.h"
-#include "support/LienzoGrabador.h"
 #include "support/Lugares.h"
+#include "support/MontajeDePrueba.h"
 #include "support/ProyectoDePrueba.h"
 
 namespace trabex {
@@ -105,42 +106,6 @@ TEST(PanelesEscaleraH, MitadesDesigualesBarraMediaYSinDatos) {
     EXPECT_TRUE(ColoqueDiseno({{}, nada}).Celdas.Filas.empty());
 }
 
-class SuperficieDeTextos : public SuperficieOculta {
-  public:
-    void Dibujar(std::int32_t ancho, std::int32_t alto,
-                 const std::function<void(dibujo::Lienzo&)>& dibujar) override {
-        prueba::LienzoGrabador lienzo(ancho / 15, alto / 15);
-        dibujar(lienzo);
-        Ultimo = lienzo.Textos.back().Texto;
-    }
-    ImagenMontada Imagen() const override { return {Bytes(7), Bytes(1)}; }
-    Bytes Foto() const override { return Bytes(9); }
-    std::string Ultimo;
-};
-struct PanelMudo : PanelProgreso {
-    void Mostrar() override {}
-    void Avanzar(double, const std::string&) override {}
-    void Ocultar() override {}
-};
-
-/// All rows of a scratch table, as texts.
-std::vector<std::string> Filas(const EntornoReportes& entorno, const std::string& tabla,
-                               const std::vector<const char*>& numeros, const char* texto) {
-    Conexion temporal;
-    AbrirConexion(temporal, TemporalMdb(entorno));
-    Recordset registros;
-    AbrirRecordset(temporal, registros, tabla);
-    std::vector<std::string> filas;
-    for (int fila = 1; fila <= registros.NumeroRegistros(); ++fila) {
-        registros.MoverA(fila);
-        std::string linea = registros.Texto(texto);
-        for (const char* columna : numeros)
-            linea += "|" + documento::TextoDeValor(registros.Leer(columna), "0.00", {});
-        filas.push_back(linea);
-    }
-    return filas;
-}
-
 TEST(ReportesEscalerasH, LosDosMontajes) {
     const prueba::CarpetaTemporal carpeta;
     std::filesystem::create_directories(carpeta / "programa" / "Imagen");
@@ -148,43 +113,53 @@ TEST(ReportesEscalerasH, LosDosMontajes) {
     CrearBaseDatos(carpeta / "programa" / "Imagen" / "Temporal.tbx",
                    prueba::LeerArchivo(prueba::Install() + "/Imagen/Temporal.sql"));
     const EntornoReportes entorno{carpeta / "programa", carpeta.Camino(), "U"};
+    /// Each row of a scratch table in a form of SQLite's printf.
+    const auto filas = [&](const std::string& tabla, const std::string& forma) {
+        std::vector<std::string> textos;
+        for (const auto& fila : prueba::ConsultarSqlite(
+                 TemporalMdb(entorno), "SELECT printf(" + forma + ") AS T FROM " + tabla + " ORDER BY rowid"))
+            textos.push_back(fila.at("T"));
+        return textos;
+    };
+    const auto estaLaEscalera = [&](const char* titulo) {
+        EXPECT_EQ(filas("Generales", "'%s', Titulo"), std::vector<std::string>{titulo});
+        EXPECT_EQ(
+            filas("EscaleraH",
+                  "'%s|%g %g %g %g %g %d %d|%.2f %.2f %d %d', Nombre, B, T, H, Angulo, R, W, Inter, L, Alfa, "
+                  "FV, Fh"),
+            std::vector<std::string>{"H-1|1.5 0.15 3 260 2.5 1500 5|11.34 14.81 8508 10639"});
+    };
     const Calculo c(EscaleraHNuevaDe("H-1", "TÍTULO"));
-    dibujo::helice::HojaHelice pantalla;
-    SuperficieDeTextos superficie;
-    PanelMudo panel;
-    ASSERT_TRUE(GuardeGraficos(entorno, {}, c.Ver(), pantalla, superficie, panel));
-    EXPECT_EQ(superficie.Ultimo, "SECCIÖN: 1,50 x 0,15");
-    EXPECT_EQ(prueba::LeerArchivo(carpeta / "Trabajo" / "Foto").size(), 9U);
-    EXPECT_EQ(Filas(entorno, "Generales", {}, "Titulo")[0],
-              "ANALISIS Y DISEÑO DE LOSAS Y VIGAS HELICOIDALES");
-    EXPECT_EQ(Filas(entorno, "Grafico", {"Numero"}, "Nombre")[0], "H-1|1,00");
-    const std::vector<const char*> conjunto{"B",     "T", "H",    "Angulo", "R", "W",
-                                            "Inter", "L", "Alfa", "FV",     "Fh"};
-    const char* unica = "H-1|1,50|0,15|3,00|260,00|2,50|1500,00|5,00|11,34|14,81|8508,00|10639,00";
-    EXPECT_EQ(Filas(entorno, "EscaleraH", conjunto, "Nombre"), std::vector<std::string>{unica});
+    prueba::SuperficieDeTextos superficie;
+    prueba::PanelAnotado panel;
+    ASSERT_TRUE(GuardeGraficos(entorno, {}, c.Ver(), {}, superficie, panel));
+    EXPECT_EQ(panel.Pasos.back(), 100);
+    EXPECT_THAT(superficie.Textos, testing::EndsWith("|SECCIÖN: 1,50 x 0,15|"));
+    EXPECT_EQ(prueba::LeerArchivo(carpeta / "Trabajo" / "Foto"), "foto de " + superficie.Textos);
+    EXPECT_EQ(filas("Grafico", "'%d %s', Numero, Nombre"), std::vector<std::string>{"1 H-1"});
+    estaLaEscalera("ANALISIS Y DISEÑO DE LOSAS Y VIGAS HELICOIDALES");
     const auto lineas =
-        Filas(entorno, "EscaleraH1S",
-              {"Numero", "Inter", "N", "QX", "QY", "MXI", "MXS", "MY", "MT", "VT", "ASXI", "ASXS", "AsY"},
-              "Estribos");
+        filas("EscaleraH1S",
+              "'%d: %d %.2f %.2f %.2f %.2f %.2f %.2f %.2f %.2f|%.2f %.2f %.2f %s', Numero, Inter, N, QX, "
+              "QY, MXI, MXS, MY, MT, VT, ASXI, ASXS, AsY, Estribos");
     ASSERT_EQ(lineas.size(), 54U);
     EXPECT_EQ(lineas[0],
-              "E 3/8 @30|1,00|130,00|-9330,21|-6333,65|6210,12|0,00|-4085,27|19259,08|-456,64|-288,14|"
-              "3,75|18,18|5,49");
-    EXPECT_THAT(lineas[53], testing::StartsWith("E 3/8 @30|54,00|130,00|9330,21|"));
-    EXPECT_TRUE(Filas(entorno, "EscaleraHS", {}, "Nombre").empty());
+              "1: 130 -9330.21 -6333.65 6210.12 0.00 -4085.27 19259.08 -456.64 -288.14|3.75 18.18 5.49 "
+              "E 3/8 @30");
+    EXPECT_THAT(lineas[53], testing::StartsWith("54: 130 9330.21 "));
 
     ASSERT_TRUE(LLenarDatos(entorno, {}, c.Ver()));
-    EXPECT_EQ(Filas(entorno, "Generales", {}, "Titulo")[0], "ANALISIS Y DISEÑO DE LOSAS HELICOIDALES");
-    EXPECT_EQ(Filas(entorno, "EscaleraH", conjunto, "Nombre"), std::vector<std::string>{unica});
-    const auto estaciones = Filas(entorno, "EscaleraHS",
-                                  {"Inter", "N", "QX", "QY", "MI1", "MS1", "MX", "MY", "MT", "TU", "ASXS",
-                                   "ASXI", "AsY", "AsT", "LON", "SEP", "ASMin"},
-                                  "Nombre");
+    estaLaEscalera("ANALISIS Y DISEÑO DE LOSAS HELICOIDALES");
+    EXPECT_TRUE(filas("EscaleraH1S", "''").empty());
+    const auto estaciones =
+        filas("EscaleraHS",
+              "'%d: %.2f %.2f %.2f %.2f %.2f %.2f %.2f %.2f %.2f|%.2f %.2f %.2f %.2f %.2f %d %.2f', "
+              "Inter, N, QX, QY, MI1, MS1, MX, MY, MT, TU, ASXS, ASXI, AsY, AsT, LON, SEP, ASMin");
     ASSERT_EQ(estaciones.size(), 54U);
     EXPECT_EQ(estaciones[0],
-              "H-1|130,00|-9330,21|-6333,65|6210,12|0,00|-4085,27|-4085,27|19259,08|-456,64|"
-              "-288,14|14,51|0,00|5,49|0,71|7,34|30,00|3,75");
-    EXPECT_THAT(estaciones[27], testing::StartsWith("H-1|0,00|0,00|0,00|-9661,23|"));
+              "130: -9330.21 -6333.65 6210.12 0.00 -4085.27 -4085.27 19259.08 -456.64 -288.14|14.51 0.00 "
+              "5.49 0.71 7.34 30 3.75");
+    EXPECT_THAT(estaciones[27], testing::StartsWith("0: 0.00 0.00 -9661.23 "));
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include "support/CarpetaTemporal.h"
 #include "support/LosasDePrueba.h"
 #include "support/Lugares.h"
+#include "support/MontajeDePrueba.h"
 #include "support/ProyectoDePrueba.h"
 
 namespace trabex {
@@ -180,67 +181,6 @@ TEST_F(ReporteLosas, UnResultadoQueNoEsNumeroQuedaNulo) {
     EXPECT_LT(N(tramos[0], "MuB"), 0);
 }
 
-/// A canvas that keeps the texts drawn on it.
-class LienzoDeTextos : public Lienzo {
-  public:
-    std::int32_t ScaleWidth() const override { return 940; }
-    std::int32_t ScaleHeight() const override { return 580; }
-    void Limpiar() override { Textos.clear(); }
-    void PonerFuente(const Fuente& /*fuente*/) override {}
-    void PonerColorTexto(Color /*color*/) override {}
-    Color ColorTextoDeBotones() const override { return {}; }
-    MedidaTexto Medir(std::string_view texto) override { return {static_cast<int>(6 * texto.size()), 12}; }
-    void Texto(std::string_view texto, PuntoLienzo /*lugar*/, std::int32_t /*giro*/) override {
-        Textos += std::string(texto) + "|";
-    }
-    void Linea(PuntoLienzo /*a*/, PuntoLienzo /*b*/, const Pluma& /*pluma*/) override {}
-    void Poligono(std::span<const PuntoLienzo> /*p*/, const std::optional<Pluma>& /*pluma*/,
-                  const std::optional<Color>& /*relleno*/) override {}
-    void Circulo(PuntoLienzo /*c*/, std::int32_t /*r*/, const std::optional<Pluma>& /*pluma*/,
-                 const std::optional<Color>& /*relleno*/) override {}
-    void Pixel(PuntoLienzo /*lugar*/, Color /*color*/) override {}
-
-    std::string Textos;
-};
-
-/// A surface whose picture is its texts; it fails where it is told to.
-class SuperficieDeTextos : public SuperficieOculta {
-  public:
-    void Dibujar(std::int32_t ancho, std::int32_t alto,
-                 const std::function<void(Lienzo&)>& dibujar) override {
-        EXPECT_EQ(ancho, 14100);
-        EXPECT_EQ(alto, 8700);
-        if (--FallaEn == 0) throw ErrorEjecucion(CodigoError::ErrorDispositivo);
-        dibujar(lienzo_);
-    }
-    ImagenMontada Imagen() const override {
-        return {ComoBytes(lienzo_.Textos), ComoBytes("png de " + lienzo_.Textos)};
-    }
-    Bytes Foto() const override { return ComoBytes("foto de " + lienzo_.Textos); }
-    int FallaEn = 0;
-
-  private:
-    static Bytes ComoBytes(const std::string& texto) {
-        const auto* datos = reinterpret_cast<const std::byte*>(texto.data());
-        return {datos, datos + texto.size()};
-    }
-    LienzoDeTextos lienzo_;
-};
-
-class PanelAnotado : public PanelProgreso {
-  public:
-    void Mostrar() override { Visible = true; }
-    void Avanzar(double porcentaje, const std::string& rotulo) override {
-        Porcentaje = porcentaje;
-        Rotulo = rotulo;
-        EXPECT_TRUE(Visible);
-    }
-    void Ocultar() override { Visible = false; }
-    bool Visible = false;
-    double Porcentaje = 0;
-    std::string Rotulo;
-};
-
 TEST_F(ReporteLosas, LosGraficosSiguenLaOpcionConSusTitulos) {
     SuperficieDeTextos superficie;
     PanelAnotado panel;
@@ -261,7 +201,8 @@ TEST_F(ReporteLosas, LosGraficosSiguenLaOpcionConSusTitulos) {
     const auto todas = titulos(1, 2);
     ASSERT_EQ(todas.size(), 3 * Losas.size());
     EXPECT_EQ(todas[4], "5 N+3.00-B: CORTES Y MOMENTOS");
-    EXPECT_EQ(panel.Porcentaje, 100);
+    EXPECT_EQ(panel.Pasos.back(), 100);
+    EXPECT_EQ(superficie.Tamano.Ancho, 14100);
     EXPECT_FALSE(panel.Visible);
 
     const auto reacciones = titulos(5, 2);

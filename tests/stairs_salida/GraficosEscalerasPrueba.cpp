@@ -7,8 +7,8 @@
 #include "stairs/salida/GraficosEscaleras.h"
 #include "store/tablas/TablasEscalera.h"
 #include "support/CarpetaTemporal.h"
-#include "support/LienzoGrabador.h"
 #include "support/Lugares.h"
+#include "support/MontajeDePrueba.h"
 #include "support/ProyectoDePrueba.h"
 
 namespace trabex {
@@ -21,33 +21,6 @@ using namespace montaje;
 namespace {
 
 using testing::ElementsAre;
-
-/// A surface whose picture is the sizes it was drawn in and its texts.
-class SuperficieDeTextos : public SuperficieOculta {
-  public:
-    void Dibujar(std::int32_t ancho, std::int32_t alto,
-                 const std::function<void(dibujo::Lienzo&)>& dibujar) override {
-        prueba::LienzoGrabador lienzo(ancho / 15, alto / 15);
-        dibujar(lienzo);
-        Tamano = {ancho, alto};
-        Textos = lienzo.Textos.size();
-    }
-    ImagenMontada Imagen() const override { return {Bytes(Textos + 1), Bytes(1)}; }
-    Bytes Foto() const override { return Bytes(1); }
-    TamanoGrafico Tamano;
-    std::size_t Textos = 0;
-};
-
-struct PanelAnotado : PanelProgreso {
-    void Mostrar() override {}
-    void Avanzar(double porcentaje, const std::string& rotulo) override {
-        if (Pasos.empty() || Pasos.back() != porcentaje) Pasos.push_back(porcentaje);
-        Rotulo = rotulo;
-    }
-    void Ocultar() override {}
-    std::vector<double> Pasos;
-    std::string Rotulo;
-};
 
 struct GraficosEscaleras : testing::Test {
     GraficosEscaleras() {
@@ -97,8 +70,8 @@ struct GraficosEscaleras : testing::Test {
     DatosEscaleraT actual;
     DatosGenerales generales;
     ResultadosEscaleraT resultados;
-    SuperficieDeTextos superficie;
-    PanelAnotado panel;
+    prueba::SuperficieDeTextos superficie;
+    prueba::PanelAnotado panel;
     EstadoReportes estado;
 };
 
@@ -113,7 +86,7 @@ TEST_F(GraficosEscaleras, CadaOpcionConSusHojasYCargas) {
     EXPECT_EQ(todas[3], "4 A: REACCIONES 1200 1000 600");
     EXPECT_EQ(todas[6], "7 B: DISEÑO 2076 1865 1040");
     EXPECT_EQ(todas[11], "12 Ñ: REACCIONES 0 0 0");  // a stair of zeros: an empty sheet
-    EXPECT_EQ(superficie.Textos, 0U);
+    EXPECT_EQ(superficie.Textos, "");
     EXPECT_THAT(panel.Pasos, ElementsAre(0, testing::DoubleNear(100 / 3.0, 1e-9),
                                          testing::DoubleNear(200 / 3.0, 1e-9), 100));
 

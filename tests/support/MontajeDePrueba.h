@@ -1,0 +1,53 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "base/ErrorEjecucion.h"
+#include "reports/montaje/PanelProgreso.h"
+#include "reports/montaje/SuperficieOculta.h"
+#include "support/LienzoGrabador.h"
+
+namespace trabex::prueba {
+
+/// A surface whose picture is its texts, each with a bar after it; it fails where it is told to.
+class SuperficieDeTextos : public montaje::SuperficieOculta {
+  public:
+    void Dibujar(std::int32_t ancho, std::int32_t alto,
+                 const std::function<void(Lienzo&)>& dibujar) override {
+        if (--FallaEn == 0) throw ErrorEjecucion(CodigoError::ErrorDispositivo);
+        LienzoGrabador lienzo(ancho / TwipsPorUnidad, alto / TwipsPorUnidad);
+        dibujar(lienzo);
+        Tamano = {ancho, alto};
+        Textos.clear();
+        for (const auto& texto : lienzo.Textos) Textos += texto.Texto + "|";
+    }
+    montaje::ImagenMontada Imagen() const override {
+        return {ComoBytes(Textos), ComoBytes("png de " + Textos)};
+    }
+    almacen::Bytes Foto() const override { return ComoBytes("foto de " + Textos); }
+
+    int FallaEn = 0;
+    montaje::TamanoGrafico Tamano;
+    std::string Textos;
+
+  private:
+    static almacen::Bytes ComoBytes(const std::string& texto) {
+        const auto* datos = reinterpret_cast<const std::byte*>(texto.data());
+        return {datos, datos + texto.size()};
+    }
+};
+
+struct PanelAnotado : montaje::PanelProgreso {
+    void Mostrar() override { Visible = true; }
+    void Avanzar(double porcentaje, const std::string& rotulo) override {
+        if (Pasos.empty() || Pasos.back() != porcentaje) Pasos.push_back(porcentaje);
+        Rotulo = rotulo;
+    }
+    void Ocultar() override { Visible = false; }
+    bool Visible = false;
+    std::vector<double> Pasos;
+    std::string Rotulo;
+};
+
+}  // namespace trabex::prueba
