@@ -21,10 +21,12 @@ struct Separadores {
 /// An infinity or NaN shows as an empty text.
 std::string Formato(double valor, std::string_view formato, const Separadores& separadores);
 
-/// A number as it is typed into a field or copied from a spreadsheet: comma or point before the decimals;
-/// where both stand, or one of them more than once, the thousands go by groups of three. Nothing when it is
-/// no number.
-std::optional<double> LeerNumero(std::string_view texto);
+/// A number as it is typed into a field, pasted or read from a file: comma or point before the decimals, and
+/// thousands by groups of three where comma and point both stand, where one of them stands more than once, or
+/// behind the locale's own mark. Nothing when it is no number, and nothing when it could be two: "1.250"
+/// where the point is the mark of thousands. Without such a mark, as in numbers that programs write, a mark
+/// that stands alone is the decimal one.
+std::optional<double> LeerNumero(std::string_view texto, const Separadores& separadores = {"", "."});
 
 /// `valor` as a field shows it for editing: up to 10 decimals, as many as it has and at least `decimales`; no
 /// thousands.

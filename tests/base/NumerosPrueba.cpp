@@ -1,11 +1,12 @@
 #include <cmath>
 #include <limits>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
 #include "base/Aviso.h"
 #include "base/Enteros.h"
-#include "base/Formatos.h"
+#include "base/LeerNumero.h"
 #include "base/RefuerzoFlexion.h"
 #include "base/Round.h"
 #include "base/VigilanciaFlotante.h"
@@ -136,19 +137,57 @@ TEST(RefuerzoFlexion, LaTensionDelAceroComprimidoSigueALaResistenciaDelConcreto)
     }
 }
 
-TEST(Numeros, SeLeenConComaOPunto) {
+TEST(Numeros, SeLeenComoSeEscribenOSeRechazan) {
+    const Separadores punto{".", ","};
+    const Separadores coma{",", "."};
+    const Separadores blanco{"\u202F", ","};
+    const Separadores programa{"", "."};
+    constexpr ClaseNumero numero{};
     struct Caso {
-        const char* texto;
-        double valor;
+        const char* Texto;
+        Separadores En;
+        ClaseNumero Clase;
+        double Valor;
     };
-    for (const Caso& caso :
-         {Caso{"5", 5}, Caso{" 5,25 ", 5.25}, Caso{"5.25", 5.25}, Caso{"-,5", -0.5}, Caso{"7.", 7},
-          Caso{"1.234", 1.234}, Caso{"1.234,5", 1234.5}, Caso{"1,234,567.5", 1234567.5},
-          Caso{"1.234.567", 1234567}, Caso{"0,1", 0.1}, Caso{"-9999999999,99", -9999999999.99}})
-        EXPECT_EQ(LeerNumero(caso.texto), caso.valor) << caso.texto;
-    for (const char* texto : {"", " ", "-", ".", "cinco", "5 m", "1e5", "1,2,3", "1.23.456", "12.34,5",
-                              "1.2345,6", "--1", "1,,2"})
-        EXPECT_FALSE(LeerNumero(texto)) << texto;
+    for (const Caso& caso : {Caso{"5", punto, numero, 5},
+                             Caso{" 5,25\u00A0", punto, numero, 5.25},
+                             Caso{"5.25", punto, numero, 5.25},
+                             Caso{"-,5", coma, numero, -0.5},
+                             Caso{"\u22127.", punto, numero, -7},
+                             Caso{"", punto, numero, 0},
+                             Caso{"1.234", programa, numero, 1.234},
+                             Caso{"1.234", coma, numero, 1.234},
+                             Caso{"1,234", punto, numero, 1.234},
+                             Caso{"0.250", punto, numero, 0.25},
+                             Caso{"1234.567", punto, numero, 1234.567},
+                             Caso{"1.250,5", punto, numero, 1250.5},
+                             Caso{"1.250,5", coma, numero, 1250.5},
+                             Caso{"1,234,567.5", punto, numero, 1234567.5},
+                             Caso{"1.234.567", coma, numero, 1234567},
+                             Caso{"-9999999999,99", punto, numero, -9999999999.99},
+                             Caso{"12 500,25", blanco, numero, 12500.25},
+                             Caso{"1’250", {"'", "."}, numero, 1250},
+                             Caso{"1.250", punto, EnteroDe32, 1250},
+                             Caso{"350,00", punto, EnteroDe32, 350}}) {
+        const NumeroJuzgado juzgado = JuzgarNumero(caso.Texto, caso.Clase, caso.En);
+        EXPECT_EQ(juzgado.Valor, caso.Valor) << caso.Texto;
+        EXPECT_EQ(juzgado.Motivo, "") << caso.Texto;
+    }
+    for (const char* texto : {"-", ".", "cinco", "5 m", "1e5", "1,2,3", "1.23.456", "12.34,5", "1.2345,6",
+                              "--1", "1,,2", "1 250", "1'250", "nan", "0x1F"})
+        EXPECT_EQ(JuzgarNumero(texto, numero, punto).Motivo, "No es un número.") << texto;
+    for (const auto& [texto, clase, motivo] :
+         {std::tuple{"1.250", numero, "Puede leerse 1250 o 1,25: escríbalo sin separador de miles."},
+          {"-1.250", numero, "Puede leerse -1250 o -1,25: escríbalo sin separador de miles."},
+          {"350.000", EnteroDe32, "Puede leerse 350000 o 350: escríbalo sin separador de miles."},
+          {"350.5", EnteroDe32, "Debe ser un número entero."},
+          {"2147483648", EnteroDe32, "Debe estar entre -2147483648 y 2147483647."},
+          {"-0,01", Longitud, "Debe estar entre 0 y 9999999999,99."},
+          {"-1", NaturalSinLimite, "No puede ser menor que 0."}})
+        EXPECT_EQ(JuzgarNumero(texto, clase, punto).Motivo, motivo) << texto;
+    EXPECT_EQ(JuzgarNumero(std::string(400, '9'), numero, punto).Motivo, "No es un número.");
+    EXPECT_FALSE(LeerNumero("1.250", punto));
+    EXPECT_EQ(LeerNumero("1.250"), 1.25);
 }
 
 TEST(Numeros, SeEditanConLosDecimalesQueTienen) {

@@ -4,6 +4,8 @@
 #include <QClipboard>
 #include <QLineEdit>
 #include <QTest>
+#include <QToolTip>
+#include <QVBoxLayout>
 
 #include <gtest/gtest.h>
 
@@ -38,11 +40,15 @@ class Tabla : public testing::Test {
                           return true;
                       },
                   .Largo = 3}},
-                {".", ","}, Avance::Abajo, nullptr) {
+                {".", ","}, &marco),
+          otro(&marco) {
         tabla.PonerFilas(4);
-        tabla.show();
-        tabla.activateWindow();
-        static_cast<void>(QTest::qWaitForWindowActive(&tabla));
+        auto* columna = new QVBoxLayout(&marco);
+        columna->addWidget(&tabla);
+        columna->addWidget(&otro);
+        marco.show();
+        marco.activateWindow();
+        static_cast<void>(QTest::qWaitForWindowActive(&marco));
         tabla.setFocus();
         tabla.IrA(1, 0);
     }
@@ -68,28 +74,66 @@ class Tabla : public testing::Test {
     std::vector<double> numeros;
     std::vector<QString> textos;
     int rechazos = 0;
+    QWidget marco;
     TablaDatos tabla;
+    QLineEdit otro;
 };
 
-TEST_F(Tabla, SeEscribeYEnterSigue) {
+/// Enter goes down, below where a run of Tab began; Tab goes right and, past the end, out.
+TEST_F(Tabla, EnterBajaYTabVaALaDerechaYSale) {
     Teclas("5,25");
     Tecla(Qt::Key_Return);
     Teclas("4.5");
-    Tecla(Qt::Key_Return);
-    Teclas("x3a");  // letters do not enter a number
-    Tecla(Qt::Key_Down);
-    Tecla(Qt::Key_Return);
-    EXPECT_EQ(numeros, (std::vector<double>{5.25, 4.5, 3, 0}));
-    EXPECT_EQ(Celda(1, 0), "5,25");
-    EXPECT_EQ(Celda(2, 0), "4,50");
-    EXPECT_EQ(tabla.FilaActual(), 1);  // past the end it goes on in the next column that takes entries
-    EXPECT_EQ(tabla.currentIndex().column(), 2);
-    Teclas("abcd");
     Tecla(Qt::Key_Tab);
-    EXPECT_EQ(textos[0], "abc");
-    EXPECT_EQ(tabla.FilaActual(), 2);
-    Tecla(Qt::Key_Backtab);
-    EXPECT_EQ(tabla.FilaActual(), 1);
+    Teclas("abc");
+    Tecla(Qt::Key_Return);
+    EXPECT_EQ(std::pair(tabla.FilaActual(), tabla.currentIndex().column()), std::pair(3, 0));
+    EXPECT_EQ(numeros, (std::vector<double>{5.25, 4.5, 0, 0}));
+    EXPECT_EQ(Celda(1, 0), "5,25");
+    EXPECT_EQ(textos[1], "abc");
+    tabla.IrA(4, 2);
+    Tecla(Qt::Key_Return);
+    EXPECT_EQ(tabla.FilaActual(), 4);
+    EXPECT_TRUE(tabla.hasFocus());
+    Tecla(Qt::Key_Tab);
+    EXPECT_FALSE(tabla.EnMano());
+    tabla.setFocus();
+    tabla.IrA(1, 0);
+    Teclas("9");
+    Tecla(Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_FALSE(tabla.EnMano());
+    EXPECT_EQ(numeros[0], 9);
+}
+
+/// What is no number of its column stays in its cell with the focus and its reason, and is not stored.
+TEST_F(Tabla, LoQueNoEsNumeroQuedaALaVistaYNoSale) {
+    numeros[0] = 7;
+    tabla.Refrescar();
+    struct Caso {
+        const char* Texto;
+        int Columna;
+        const char* Motivo;
+    };
+    for (const Caso& caso :
+         {Caso{"x3a", 0, "No es un número."}, Caso{"1.250", 0, "Puede leerse 1250 o 1,25"},
+          Caso{"1e308", 0, "No es un número."}, Caso{"abcd", 2, "No caben más de 3 letras."}}) {
+        for (const Qt::Key salida : {Qt::Key_Return, Qt::Key_Tab, Qt::Key_Down}) {
+            tabla.IrA(1, caso.Columna);
+            Teclas(caso.Texto);
+            Tecla(salida);
+            EXPECT_EQ(Celda(1, caso.Columna), caso.Texto);
+            EXPECT_TRUE(tabla.Motivo().startsWith(caso.Motivo)) << tabla.Motivo().toStdString();
+            EXPECT_FALSE(EntradasEnOrden(&marco));
+            tabla.IrA(3, caso.Columna);
+            QTest::qWait(1);
+            EXPECT_EQ(tabla.FilaActual(), 1);
+            EXPECT_TRUE(tabla.hasFocus());
+            EXPECT_EQ(numeros[0], 7);
+            Tecla(Qt::Key_Escape);
+            EXPECT_EQ(Celda(1, caso.Columna), caso.Columna == 0 ? "7,00" : "");
+            EXPECT_TRUE(EntradasEnOrden(&marco));
+        }
+    }
 }
 
 TEST_F(Tabla, EscapeDejaLaCeldaYF2LaEditaConDeshacer) {
@@ -117,30 +161,53 @@ TEST_F(Tabla, LoRechazadoVuelveASuValorYNoSigue) {
     EXPECT_EQ(Celda(1, 0), "0,00");
     EXPECT_EQ(tabla.FilaActual(), 1);
     Teclas("-5");
-    tabla.TerminarEdicion();
+    tabla.Terminar();
     EXPECT_EQ(numeros[0], -5);
 }
 
-TEST_F(Tabla, PegaColumnasYBloquesHastaDondeLlega) {
-    QApplication::clipboard()->setText("5,2\r\n4.8\r\n1.234,5\r\n");
-    tabla.Pegar();
-    EXPECT_EQ(numeros, (std::vector<double>{5.2, 4.8, 0, 0}));  // the third is refused, and nothing after it
-    EXPECT_EQ(rechazos, 1);
-    EXPECT_EQ(tabla.FilaActual(), 3);
-
-    QApplication::clipboard()->setText("1\tno\tA\n2\tno\tB\n3\tno\tC\n");
-    tabla.IrA(3, 0);
-    tabla.Pegar();
-    EXPECT_EQ(numeros, (std::vector<double>{5.2, 4.8, 1, 2}));
+/// A block goes in whole or not at all, says why, and is taken back whole.
+TEST_F(Tabla, UnBloqueEntraEnteroONoEntra) {
+    struct Caso {
+        const char* Bloque;
+        int Fila;
+        std::vector<double> Numeros;
+        const char* Motivo;
+    };
+    const std::vector<double> vacia(4, 0.0);
+    for (const Caso& caso : {Caso{"5,2\r\n4.8\r\n1.234,5\r\n", 1, vacia, ""},  // refused by its column
+                             Caso{"8\ncinco\n9", 1, vacia, "«cinco»: No es un número."},
+                             Caso{"8\n1.250\n9", 1, vacia, "«1.250»: Puede leerse 1250 o 1,25"},
+                             Caso{"1\tno\tA\n2\tno\tLarga", 1, vacia, "«Larga»: No caben más de 3 letras."},
+                             Caso{"1\n2\n3", 3, vacia, "El bloque tiene 3 filas y desde aquí caben 2."},
+                             Caso{"1\tno\tA\tsobra", 1, vacia, "El bloque tiene más columnas"},
+                             Caso{"1\tno\tA\n2,5\tno\tB\n", 3, {0, 0, 1, 2.5}, ""}}) {
+        QApplication::clipboard()->setText(caso.Bloque);
+        tabla.IrA(caso.Fila, 0);
+        tabla.Pegar();
+        EXPECT_EQ(numeros, caso.Numeros) << caso.Bloque;
+        EXPECT_TRUE(QToolTip::text().startsWith(caso.Motivo)) << QToolTip::text().toStdString();
+        EXPECT_EQ(Celda(1, 1), "x");
+    }
     EXPECT_EQ(textos[3], "B");
-    EXPECT_EQ(Celda(3, 1), "x");
-
-    QApplication::clipboard()->setText("8\ncinco\n9");
-    tabla.IrA(1, 0);
-    tabla.Pegar();
-    EXPECT_EQ(numeros[0], 8);
-    EXPECT_EQ(numeros[1], 4.8);
+    EXPECT_EQ(rechazos, 1);
+    Tecla(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(numeros, vacia);
+    EXPECT_EQ(textos[3], "");
+    Tecla(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(numeros[3], 2.5);
+    tabla.PonerFilas(3);
+    Tecla(Qt::Key_Z, Qt::ControlModifier);  // a row that is gone takes its undoing along
     EXPECT_EQ(numeros[2], 1);
+}
+
+TEST_F(Tabla, SinElFocoNingunaCeldaSeVeActiva) {
+    const auto color = [&] {
+        const QRect celda = tabla.visualRect(tabla.currentIndex());
+        return tabla.viewport()->grab().toImage().pixelColor(celda.left() + 3, celda.center().y());
+    };
+    const QColor activa = color();
+    otro.setFocus();
+    EXPECT_NE(color(), activa);
 }
 
 TEST_F(Tabla, CopiaElBloqueElegidoYUnValorLoLlenaTodo) {

@@ -1,45 +1,63 @@
 #include "shell/qt/CampoNumero.h"
 
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
-#include <QRegularExpression>
-#include <cmath>
 
 #include "shell/qt/ComunVentanas.h"
 
 namespace trabex::programa::qt {
 
-std::optional<double> NumeroDe(const QString& texto, const ClaseNumero& clase) {
-    if (texto.trimmed().isEmpty()) return 0;
-    const auto numero = LeerNumero(S(texto));
-    if (!numero || *numero < clase.Minimo || *numero > clase.Maximo) return std::nullopt;
-    if (clase.Entero && *numero != std::trunc(*numero)) return std::nullopt;
-    return numero;
-}
-
-QValidator::State ValidadorNumero::validate(QString& texto, int&) const {
-    static const QRegularExpression entero("^-?\\d{0,10}$");
-    static const QRegularExpression decimal("^-?\\d{0,10}([.,]\\d{0,10})?$");
-    const QString limpio = texto.trimmed();
-    if (!(clase_.Entero ? entero : decimal).match(limpio).hasMatch()) return Invalid;
-    if (clase_.Minimo >= 0 && limpio.startsWith('-')) return Invalid;
-    if (limpio == "-" || limpio == "." || limpio == ",") return Intermediate;
-    return NumeroDe(limpio, clase_) ? Acceptable : Intermediate;  // a digit that is lost in silence is worse
-}
-
 CampoNumero::CampoNumero(const ClaseNumero& clase, const Separadores& separadores, QWidget* padre)
     : QLineEdit(padre), clase_(clase), separadores_(separadores) {
     setAlignment(Qt::AlignRight);
     setFixedWidth(110);
-    setValidator(new ValidadorNumero(clase, this));
+    connect(this, &QLineEdit::textChanged, this, [this] { Juzgar(); });
+    connect(this, &QLineEdit::returnPressed, this, [this] { Terminar(); });
 }
 
-double CampoNumero::Valor() const {
-    return NumeroDe(text(), clase_).value_or(0);
+void CampoNumero::Juzgar() {
+    const NumeroJuzgado juzgado = JuzgarNumero(S(text()), clase_, separadores_);
+    motivo_ = Q(juzgado.Motivo);
+    valor_ = juzgado.Valor.value_or(entrado_);
+    if (marcado_) Marcar();
 }
 
 void CampoNumero::PonerValor(double valor) {
     setText(Q(NumeroParaEditar(valor, clase_.Decimales, separadores_)));
+    valor_ = entrado_ = valor;  // with all its decimals, unless another is typed
+    motivo_.clear();
+    Marcar();
+}
+
+void CampoNumero::Marcar() {
+    const bool malo = !motivo_.isEmpty();
+    if (malo && !marcado_) ayuda_ = toolTip();
+    if (malo || marcado_) setToolTip(malo ? motivo_ : ayuda_);
+    marcado_ = malo;
+    QPalette paleta;
+    if (malo) paleta.setColor(QPalette::Base, FondoDeRechazo(palette()));
+    setPalette(paleta);
+}
+
+void CampoNumero::Terminar() {
+    if (!motivo_.isEmpty()) {
+        Marcar();
+        DecirMotivo(this, rect(), motivo_);
+        return;
+    }
+    if (entrando_ || valor_ == entrado_) return;
+    entrado_ = valor_;
+    entrando_ = true;
+    if (alEntrar_) alEntrar_(valor_);
+    entrando_ = false;
+}
+
+void CampoNumero::Reclamar() {
+    setFocus();
+    selectAll();
+    Marcar();
+    DecirMotivo(this, rect(), motivo_);
 }
 
 /// Whichever way the focus comes, typing replaces what stands.
@@ -49,6 +67,26 @@ void CampoNumero::focusInEvent(QFocusEvent* evento) {
     QLineEdit::focusInEvent(evento);
     seleccionarAlSoltar_ = evento->reason() == Qt::MouseFocusReason;
     if (!seleccionarAlSoltar_ && evento->reason() != Qt::PopupFocusReason) selectAll();
+}
+
+/// Escape gives up what is refused, not the window.
+void CampoNumero::keyPressEvent(QKeyEvent* evento) {
+    if (evento->key() != Qt::Key_Escape || motivo_.isEmpty()) return QLineEdit::keyPressEvent(evento);
+    PonerValor(entrado_);
+    selectAll();
+}
+
+void CampoNumero::focusOutEvent(QFocusEvent* evento) {
+    QLineEdit::focusOutEvent(evento);
+    if (evento->reason() == Qt::PopupFocusReason) return;
+    if (evento->reason() != Qt::ActiveWindowFocusReason) Terminar();
+    RetenerFoco(this, *evento);
+}
+
+bool CampoNumero::focusNextPrevChild(bool adelante) {
+    if (motivo_.isEmpty()) return QLineEdit::focusNextPrevChild(adelante);
+    Reclamar();
+    return true;
 }
 
 void CampoNumero::mouseReleaseEvent(QMouseEvent* evento) {

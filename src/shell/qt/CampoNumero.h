@@ -1,53 +1,54 @@
 #pragma once
 
 #include <QLineEdit>
-#include <QValidator>
-#include <optional>
+#include <functional>
 
-#include "base/Formatos.h"
+#include "base/LeerNumero.h"
+#include "shell/qt/EntradaJuzgada.h"
 
 namespace trabex::programa::qt {
 
-/// What a field or a table's column takes for a number.
-struct ClaseNumero {
-    bool Entero = false;
-    double Minimo = -9999999999.99;
-    double Maximo = 9999999999.99;
-    int Decimales = 0;  ///< shown at least
-};
-inline constexpr ClaseNumero EnteroDe32{true, -2147483648.0, 2147483647.0, 0};
-inline constexpr ClaseNumero NaturalDe16{true, 0, 32767, 0};
-inline constexpr ClaseNumero Longitud{false, 0, 9999999999.99, 2};
-inline constexpr ClaseNumero Distancia{false, -9999999999.99, 9999999999.99, 2};
-
-/// The number of an entry; an empty one is 0. Nothing when it is no number, has decimals where it must be
-/// whole, or is out of range.
-std::optional<double> NumeroDe(const QString& texto, const ClaseNumero& clase);
-
-/// Lets only what may become such a number be typed, with comma or point.
-class ValidadorNumero : public QValidator {
-  public:
-    ValidadorNumero(const ClaseNumero& clase, QObject* padre) : QValidator(padre), clase_(clase) {}
-    State validate(QString& texto, int& lugar) const override;
-
-  private:
-    ClaseNumero clase_;
-};
+using trabex::ClaseNumero;
+using trabex::Distancia;
+using trabex::EnteroDe32;
+using trabex::Longitud;
+using trabex::NaturalDe16;
 
 /// A field for one number.
-class CampoNumero : public QLineEdit {
+class CampoNumero : public QLineEdit, public EntradaJuzgada {
   public:
     CampoNumero(const ClaseNumero& clase, const Separadores& separadores, QWidget* padre);
-    double Valor() const;
+    /// The number of the entry; while what stands there is none, the one that stood before it was typed.
+    double Valor() const { return valor_; }
     void PonerValor(double valor);
+    /// Called with the number once it is whole: on Enter and on leaving, when it is another.
+    void AlEntrar(std::function<void(double)> accion) { alEntrar_ = std::move(accion); }
+
+    QString Motivo() const override { return motivo_; }
+    void Terminar() override;
+    void Reclamar() override;
 
   protected:
     void focusInEvent(QFocusEvent* evento) override;
+    void focusOutEvent(QFocusEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
+    bool focusNextPrevChild(bool adelante) override;
     void mouseReleaseEvent(QMouseEvent* evento) override;
 
   private:
+    void Juzgar();
+    /// Marks what is refused with its reason, or takes the mark off.
+    void Marcar();
+
     ClaseNumero clase_;
     Separadores separadores_;
+    double valor_ = 0;
+    double entrado_ = 0;  // the last one that was whole
+    QString motivo_;
+    bool marcado_ = false;
+    QString ayuda_;          // its tool tip while there is no reason to tell
+    bool entrando_ = false;  // a message that the number brings up takes the focus, and tells it again
+    std::function<void(double)> alEntrar_;
     bool seleccionarAlSoltar_ = false;
 };
 

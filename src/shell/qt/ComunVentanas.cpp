@@ -9,6 +9,7 @@
 #include <QSettings>
 #include <QWidget>
 
+#include "shell/qt/EntradaJuzgada.h"
 #include "shell/qt/Iconos.h"
 
 namespace trabex::programa::qt {
@@ -98,7 +99,9 @@ QLayout* FilaAceptarCancelar(QDialog* dialogo, const std::function<void()>& alAc
     auto* aceptar = Boton(" Aceptar ", "", dialogo);
     auto* cancelar = Boton(" Cancelar ", "", dialogo);
     aceptar->setDefault(true);
-    QObject::connect(aceptar, &QPushButton::clicked, dialogo, alAceptar);
+    QObject::connect(aceptar, &QPushButton::clicked, dialogo, [dialogo, alAceptar] {
+        if (EntradasEnOrden(dialogo)) alAceptar();
+    });
     QObject::connect(cancelar, &QPushButton::clicked, dialogo, &QDialog::reject);
     auto* fila = new QHBoxLayout;
     fila->addStretch(1);

@@ -44,7 +44,8 @@ void MostrarModal(QDialog& ventana);
 /// A button with a line icon.
 QPushButton* Boton(const QString& texto, const QString& icono, QWidget* padre);
 
-/// The row of " Aceptar " and " Cancelar " at a dialog's foot; the second closes it without change.
+/// The row of " Aceptar " and " Cancelar " at a dialog's foot: the first accepts once no entry stands
+/// refused, the second closes it without change.
 QLayout* FilaAceptarCancelar(QDialog* dialogo, const std::function<void()>& alAceptar);
 
 /// The pointer of long work, on or off, however often it is asked for.

@@ -8,13 +8,14 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QStyledItemDelegate>
+#include <QTimer>
 #include <algorithm>
 
 #include "shell/qt/ComunVentanas.h"
 
 namespace trabex::programa::qt {
 
-/// The cells as their columns read and put them.
+/// The cells as their columns read and put them, and what was put into them.
 class ModeloTabla : public QAbstractTableModel {
   public:
     ModeloTabla(std::vector<ColumnaDatos> columnas, const Separadores& separadores, QObject* padre)
@@ -26,6 +27,23 @@ class ModeloTabla : public QAbstractTableModel {
     /// The last entry was taken.
     bool Tomada() const { return tomada_; }
 
+    /// The cell whose entry stands refused, and why.
+    QModelIndex Rechazada() const { return rechazada_; }
+    QString Motivo() const { return rechazada_.isValid() ? motivo_ : QString(); }
+    void OlvidarRechazo();
+
+    /// An entry as its column takes it, or why it does not.
+    std::pair<QVariant, QString> Juzgar(int columna, const QString& texto) const;
+
+    /// What is put from now on is undone together.
+    void AbrirGrupo();
+    /// A group that was not taken whole is put back.
+    void CerrarGrupo(bool tomado);
+    /// Puts back what the last group found, and the other way round. The first of its cells; none without it.
+    QModelIndex Deshacer() { return Repetir(hechos_, deshechos_); }
+    QModelIndex Rehacer() { return Repetir(deshechos_, hechos_); }
+    void OlvidarCambios();
+
     int rowCount(const QModelIndex& padre = {}) const override { return padre.isValid() ? 0 : filas_; }
     int columnCount(const QModelIndex& = {}) const override { return static_cast<int>(columnas_.size()); }
     QVariant data(const QModelIndex& celda, int papel) const override;
@@ -34,7 +52,16 @@ class ModeloTabla : public QAbstractTableModel {
     Qt::ItemFlags flags(const QModelIndex& celda) const override;
 
   private:
+    struct Cambio {
+        int Fila;
+        int Columna;
+        QVariant Otro;  ///< what a repetition puts
+    };
+    using Grupo = std::vector<Cambio>;
+
     QString Texto(const QModelIndex& celda) const;
+    bool Poner(const QModelIndex& celda, const QVariant& valor);
+    QModelIndex Repetir(std::vector<Grupo>& de, std::vector<Grupo>& a);
 
     std::vector<ColumnaDatos> columnas_;
     Separadores separadores_;
@@ -42,6 +69,12 @@ class ModeloTabla : public QAbstractTableModel {
     bool poniendo_ =
         false;  // a message that an entry brings up takes the focus, and the editor tells it again
     bool tomada_ = true;
+    QPersistentModelIndex rechazada_;
+    QString rechazado_;
+    QString motivo_;
+    std::vector<Grupo> hechos_;
+    std::vector<Grupo> deshechos_;
+    bool agrupando_ = false;
 };
 
 void ModeloTabla::PonerFilas(int filas) {
@@ -53,6 +86,12 @@ void ModeloTabla::PonerFilas(int filas) {
         beginRemoveRows({}, filas, filas_ - 1);
         filas_ = filas;
         endRemoveRows();
+        const auto perdido = [this](const Grupo& grupo) {
+            return std::any_of(grupo.begin(), grupo.end(),
+                               [this](const Cambio& c) { return c.Fila >= filas_; });
+        };
+        std::erase_if(hechos_, perdido);
+        std::erase_if(deshechos_, perdido);
     }
 }
 
@@ -71,36 +110,109 @@ QString ModeloTabla::Texto(const QModelIndex& celda) const {
 
 QVariant ModeloTabla::data(const QModelIndex& celda, int papel) const {
     const ColumnaDatos& columna = Columna(celda.column());
+    const bool rechazada = celda == rechazada_;
     switch (papel) {
         case Qt::DisplayRole:
         case Qt::EditRole:
-            return Texto(celda);
+            return rechazada ? rechazado_ : Texto(celda);
+        case Qt::ToolTipRole:
+            return rechazada ? motivo_.toHtmlEscaped() : QVariant();
         case Qt::TextAlignmentRole:
             return QVariant((columna.Numero ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
         case Qt::BackgroundRole:
+            if (rechazada) return FondoDeRechazo(QApplication::palette());
             return columna.Poner ? QVariant() : QApplication::palette().brush(QPalette::Window);
         default:
             return {};
     }
 }
 
-bool ModeloTabla::setData(const QModelIndex& celda, const QVariant& valor, int papel) {
-    const ColumnaDatos& columna = Columna(celda.column());
-    if (papel != Qt::EditRole || !columna.Poner || poniendo_) return false;
-    if (valor.toString() == Texto(celda)) return tomada_ = true;
-    QVariant entrado = valor.toString().left(columna.Largo);
-    tomada_ = true;
-    if (columna.Numero) {
-        const auto numero = NumeroDe(valor.toString(), *columna.Numero);
-        tomada_ = numero.has_value();
-        entrado = numero.value_or(0);
-        if (!tomada_) QApplication::beep();
+std::pair<QVariant, QString> ModeloTabla::Juzgar(int columna, const QString& texto) const {
+    const ColumnaDatos& como = Columna(columna);
+    if (como.Numero) {
+        const NumeroJuzgado juzgado = JuzgarNumero(S(texto), *como.Numero, separadores_);
+        return {juzgado.Valor.value_or(0), Q(juzgado.Motivo)};
     }
-    poniendo_ = true;
-    tomada_ = tomada_ && columna.Poner(celda.row() + 1, entrado);
-    poniendo_ = false;
+    if (texto.size() <= como.Largo) return {texto, {}};
+    return {texto, QString("No caben más de %1 letras.").arg(como.Largo)};
+}
+
+bool ModeloTabla::setData(const QModelIndex& celda, const QVariant& valor, int papel) {
+    const QString texto = valor.toString();
+    if (papel != Qt::EditRole || !Columna(celda.column()).Poner || poniendo_) return false;
+    if (celda == rechazada_ && texto == rechazado_) return tomada_ = false;
+    const bool estaba = texto == Texto(celda);
+    OlvidarRechazo();
+    if (estaba) return tomada_ = true;
+    const auto [entrado, motivo] = Juzgar(celda.column(), texto);
+    tomada_ = motivo.isEmpty();
+    if (tomada_) {
+        const QVariant antes = Columna(celda.column()).Leer(celda.row() + 1);
+        tomada_ = Poner(celda, entrado);
+        if (tomada_) {
+            if (!agrupando_) hechos_.emplace_back();
+            hechos_.back().push_back({celda.row(), celda.column(), antes});
+            deshechos_.clear();
+        }
+    } else {
+        rechazada_ = celda;
+        rechazado_ = texto;
+        motivo_ = motivo;
+    }
     Q_EMIT dataChanged(index(celda.row(), 0), index(celda.row(), columnCount() - 1));
     return tomada_;
+}
+
+bool ModeloTabla::Poner(const QModelIndex& celda, const QVariant& valor) {
+    poniendo_ = true;
+    const bool tomado = Columna(celda.column()).Poner(celda.row() + 1, valor);
+    poniendo_ = false;
+    return tomado;
+}
+
+void ModeloTabla::OlvidarRechazo() {
+    if (!rechazada_.isValid()) return;
+    const QModelIndex celda = rechazada_;
+    rechazada_ = QPersistentModelIndex();
+    motivo_.clear();
+    Q_EMIT dataChanged(celda, celda);
+}
+
+void ModeloTabla::AbrirGrupo() {
+    hechos_.emplace_back();
+    agrupando_ = true;
+}
+
+void ModeloTabla::CerrarGrupo(bool tomado) {
+    agrupando_ = false;
+    if (hechos_.back().empty())
+        hechos_.pop_back();
+    else if (!tomado) {
+        Deshacer();
+        deshechos_.clear();
+    }
+}
+
+QModelIndex ModeloTabla::Repetir(std::vector<Grupo>& de, std::vector<Grupo>& a) {
+    if (de.empty()) return {};
+    const Grupo grupo = std::move(de.back());
+    de.pop_back();
+    Grupo vuelta;
+    for (auto cambio = grupo.rbegin(); cambio != grupo.rend(); ++cambio) {
+        const QModelIndex celda = index(cambio->Fila, cambio->Columna);
+        const QVariant antes = Columna(cambio->Columna).Leer(cambio->Fila + 1);
+        if (!celda.isValid() || !Poner(celda, cambio->Otro)) break;
+        vuelta.push_back({cambio->Fila, cambio->Columna, antes});
+    }
+    if (!vuelta.empty()) a.push_back(std::move(vuelta));
+    Refrescar();
+    return index(grupo.front().Fila, grupo.front().Columna);
+}
+
+void ModeloTabla::OlvidarCambios() {
+    OlvidarRechazo();
+    hechos_.clear();
+    deshechos_.clear();
 }
 
 QVariant ModeloTabla::headerData(int seccion, Qt::Orientation orientacion, int papel) const {
@@ -125,28 +237,30 @@ class EditorDeCelda : public QStyledItemDelegate {
 
     QWidget* createEditor(QWidget* padre, const QStyleOptionViewItem&,
                           const QModelIndex& celda) const override {
-        const ColumnaDatos& columna = modelo_.Columna(celda.column());
         auto* linea = new QLineEdit(padre);
         linea->setFrame(false);
-        linea->setMaxLength(columna.Largo);
-        if (columna.Numero) {
-            linea->setAlignment(Qt::AlignRight);
-            linea->setValidator(new ValidadorNumero(*columna.Numero, linea));
-        }
+        if (modelo_.Columna(celda.column()).Numero) linea->setAlignment(Qt::AlignRight);
         return linea;
     }
 
     bool eventFilter(QObject* objeto, QEvent* evento) override {
         if (evento->type() == QEvent::KeyPress) {
-            const int tecla = static_cast<QKeyEvent*>(evento)->key();
+            const auto& tecla = static_cast<QKeyEvent&>(*evento);
             for (const int propia :
                  {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Up, Qt::Key_Down}) {
-                if (tecla != propia) continue;
+                if (tecla.key() != propia) continue;
                 tabla_.TomarYSeguir(static_cast<QWidget*>(objeto), tecla);
                 return true;
             }
         }
         return QStyledItemDelegate::eventFilter(objeto, evento);
+    }
+
+  protected:
+    /// Where the keyboard is elsewhere no cell looks as if it took what is typed.
+    void initStyleOption(QStyleOptionViewItem* opcion, const QModelIndex& celda) const override {
+        QStyledItemDelegate::initStyleOption(opcion, celda);
+        if (!tabla_.EnMano()) opcion->state &= ~(QStyle::State_Selected | QStyle::State_HasFocus);
     }
 
   private:
@@ -156,9 +270,8 @@ class EditorDeCelda : public QStyledItemDelegate {
 
 }  // namespace
 
-TablaDatos::TablaDatos(std::vector<ColumnaDatos> columnas, const Separadores& separadores, Avance avance,
-                       QWidget* padre)
-    : QTableView(padre), modelo_(new ModeloTabla(std::move(columnas), separadores, this)), avance_(avance) {
+TablaDatos::TablaDatos(std::vector<ColumnaDatos> columnas, const Separadores& separadores, QWidget* padre)
+    : QTableView(padre), modelo_(new ModeloTabla(std::move(columnas), separadores, this)) {
     setModel(modelo_);
     setItemDelegate(new EditorDeCelda(*this, *modelo_));
     setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
@@ -196,90 +309,135 @@ void TablaDatos::Refrescar() {
 }
 
 void TablaDatos::IrA(int fila, int columna) {
-    const QModelIndex celda = modelo_->index(fila - 1, columna);
+    Mostrar(modelo_->index(fila - 1, columna));
+}
+
+void TablaDatos::Mostrar(const QModelIndex& celda) {
     if (celda.isValid()) setCurrentIndex(celda);
+}
+
+void TablaDatos::OlvidarCambios() {
+    modelo_->OlvidarCambios();
 }
 
 void TablaDatos::currentChanged(const QModelIndex& actual, const QModelIndex& anterior) {
     QTableView::currentChanged(actual, anterior);
+    columnaDeEnter_ = -1;
     if (alCambiarFila_ && actual.isValid() && actual.row() != anterior.row())
         alCambiarFila_(actual.row() + 1);
+    const QModelIndex rechazada = modelo_->Rechazada();
+    if (rechazada.isValid() && actual != rechazada)
+        QTimer::singleShot(0, this, [this] {
+            if (modelo_->Rechazada().isValid() && currentIndex() != modelo_->Rechazada()) Reclamar();
+        });
+}
+
+bool TablaDatos::EnMano() const {
+    return hasFocus() || isAncestorOf(QApplication::focusWidget());
 }
 
 bool TablaDatos::Editable(int columna) const {
     return modelo_->Columna(columna).Poner != nullptr;
 }
 
-/// The next cell that can be edited, along the table's way of going on; past its end, none.
 QModelIndex TablaDatos::Avanzar(bool atras) const {
-    const int filas = modelo_->rowCount();
     const int columnas = modelo_->columnCount();
-    const bool abajo = avance_ == Avance::Abajo;
-    const int total = filas * columnas;
-    const auto lugar = [&](int i) {
-        return abajo ? modelo_->index(i % filas, i / filas) : modelo_->index(i / columnas, i % columnas);
-    };
-    const QModelIndex actual = currentIndex();
-    const int desde =
-        abajo ? actual.column() * filas + actual.row() : actual.row() * columnas + actual.column();
+    const int total = modelo_->rowCount() * columnas;
     const int paso = atras ? -1 : 1;
-    for (int i = desde + paso; i >= 0 && i < total; i += paso) {
-        if (Editable(lugar(i).column())) return lugar(i);
-    }
+    for (int i = currentIndex().row() * columnas + currentIndex().column() + paso; i >= 0 && i < total;
+         i += paso)
+        if (Editable(i % columnas)) return modelo_->index(i / columnas, i % columnas);
     return {};
 }
 
-QModelIndex TablaDatos::Siguiente(int tecla) const {
-    const QModelIndex actual = currentIndex();
-    if (!actual.isValid()) return {};
-    switch (tecla) {
-        case Qt::Key_Up:
-            return actual.siblingAtRow(actual.row() - 1);
-        case Qt::Key_Down:
-            return actual.siblingAtRow(actual.row() + 1);
-        default:
-            return Avanzar(tecla == Qt::Key_Backtab);
-    }
-}
-
-void TablaDatos::TomarYSeguir(QWidget* editor, int tecla) {
+void TablaDatos::TomarYSeguir(QWidget* editor, const QKeyEvent& tecla) {
     commitData(editor);
     closeEditor(editor, QAbstractItemDelegate::NoHint);
     setFocus();  // a message has taken it from the editor
-    if (modelo_->Tomada()) Seguir(tecla);
+    if (modelo_->Tomada())
+        Seguir(tecla.key(), tecla.modifiers());
+    else if (!Motivo().isEmpty())
+        Reclamar();
 }
 
-void TablaDatos::Seguir(int tecla) {
-    const QModelIndex siguiente = Siguiente(tecla);
+void TablaDatos::Seguir(int tecla, Qt::KeyboardModifiers mas) {
+    const QModelIndex actual = currentIndex();
+    const bool tabulador = tecla == Qt::Key_Tab || tecla == Qt::Key_Backtab;
+    const bool atras = tecla == Qt::Key_Backtab || (tabulador && mas.testFlag(Qt::ShiftModifier));
+    if (tabulador) {
+        const QModelIndex siguiente = mas.testFlag(Qt::ControlModifier) ? QModelIndex() : Avanzar(atras);
+        if (!siguiente.isValid()) {
+            QTableView::focusNextPrevChild(!atras);
+            return;
+        }
+        const int empezo = columnaDeEnter_ >= 0 ? columnaDeEnter_ : actual.column();
+        setCurrentIndex(siguiente);
+        columnaDeEnter_ = siguiente.row() == actual.row() ? empezo : siguiente.column();
+        return;
+    }
+    const bool enter = tecla == Qt::Key_Return || tecla == Qt::Key_Enter;
+    const int columna = enter && columnaDeEnter_ >= 0 ? columnaDeEnter_ : actual.column();
+    const QModelIndex siguiente = actual.sibling(actual.row() + (tecla == Qt::Key_Up ? -1 : 1), columna);
     if (siguiente.isValid()) setCurrentIndex(siguiente);
 }
 
-void TablaDatos::TerminarEdicion() {
+void TablaDatos::Terminar() {
     QWidget* editor = indexWidget(currentIndex());
     if (state() != EditingState || editor == nullptr) return;
     commitData(editor);
     closeEditor(editor, QAbstractItemDelegate::NoHint);
 }
 
+QString TablaDatos::Motivo() const {
+    return modelo_->Motivo();
+}
+
+void TablaDatos::Reclamar() {
+    const QModelIndex celda = modelo_->Rechazada();
+    setFocus();
+    setCurrentIndex(celda);
+    DecirMotivo(viewport(), visualRect(celda), Motivo());
+}
+
+void TablaDatos::focusOutEvent(QFocusEvent* evento) {
+    QTableView::focusOutEvent(evento);
+    viewport()->update();
+    RetenerFoco(this, *evento);
+}
+
 void TablaDatos::keyPressEvent(QKeyEvent* evento) {
     if (evento->matches(QKeySequence::Copy)) return Copiar();
     if (evento->matches(QKeySequence::Paste)) return Pegar();
+    if (evento->matches(QKeySequence::Undo)) return Deshacer();
+    if (evento->matches(QKeySequence::Redo) || evento->keyCombination() == (Qt::CTRL | Qt::Key_Y))
+        return Rehacer();
     switch (evento->key()) {
         case Qt::Key_Delete:
         case Qt::Key_Backspace:
             return Borrar();
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            return Seguir(evento->key());
+            if (Motivo().isEmpty()) Seguir(evento->key(), evento->modifiers());
+            return;
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
+            return Seguir(evento->key(), evento->modifiers());
+        case Qt::Key_Escape:
+            if (!Motivo().isEmpty()) return modelo_->OlvidarRechazo();
+            [[fallthrough]];
         default:
             QTableView::keyPressEvent(evento);
     }
 }
 
 bool TablaDatos::focusNextPrevChild(bool adelante) {
-    const QModelIndex siguiente = Siguiente(adelante ? Qt::Key_Tab : Qt::Key_Backtab);
-    if (!hasFocus() || !siguiente.isValid()) return QTableView::focusNextPrevChild(adelante);
-    setCurrentIndex(siguiente);
+    if (!Motivo().isEmpty()) {
+        Reclamar();
+    } else if (hasFocus() && currentIndex().isValid()) {
+        Seguir(adelante ? Qt::Key_Tab : Qt::Key_Backtab, Qt::NoModifier);
+    } else {
+        return QTableView::focusNextPrevChild(adelante);
+    }
     return true;
 }
 
@@ -288,6 +446,7 @@ void TablaDatos::contextMenuEvent(QContextMenuEvent* evento) {
     menu.addAction("&Copiar\tCtrl+C", this, [this] { Copiar(); });
     menu.addAction("&Pegar\tCtrl+V", this, [this] { Pegar(); });
     menu.addAction("&Borrar\tSupr", this, [this] { Borrar(); });
+    menu.addAction("&Deshacer\tCtrl+Z", this, [this] { Deshacer(); });
     menu.exec(evento->globalPos());
 }
 
@@ -311,15 +470,30 @@ void TablaDatos::Copiar() const {
     QApplication::clipboard()->setText(texto);
 }
 
-/// Puts a block's cells from a corner on, as far as the table reaches. False at the first one that is
-/// refused.
-bool TablaDatos::PegarBloque(const QStringList& filas, const QModelIndex& esquina) {
-    for (int f = 0; f < filas.size(); ++f) {
-        const QStringList celdas = filas[f].split('\t');
-        for (int c = 0; c < celdas.size(); ++c) {
+std::pair<QString, QModelIndex> TablaDatos::FaltaDelBloque(const QList<QStringList>& bloque,
+                                                           const QModelIndex& esquina) const {
+    const qsizetype filas = modelo_->rowCount() - esquina.row();
+    if (bloque.size() > filas)
+        return {QString("El bloque tiene %1 filas y desde aquí caben %2.").arg(bloque.size()).arg(filas),
+                esquina};
+    for (int f = 0; f < bloque.size(); ++f) {
+        for (int c = 0; c < bloque[f].size(); ++c) {
             const QModelIndex celda = modelo_->index(esquina.row() + f, esquina.column() + c);
-            if (!celda.isValid() || !Editable(celda.column())) continue;
-            if (!modelo_->setData(celda, celdas[c].trimmed(), Qt::EditRole)) {
+            if (!celda.isValid())
+                return {"El bloque tiene más columnas que las que caben desde aquí.", esquina};
+            if (!Editable(celda.column())) continue;
+            const QString motivo = modelo_->Juzgar(celda.column(), bloque[f][c]).second;
+            if (!motivo.isEmpty()) return {"«" + bloque[f][c] + "»: " + motivo, celda};
+        }
+    }
+    return {};
+}
+
+bool TablaDatos::PonerBloque(const QList<QStringList>& bloque, const QModelIndex& esquina) {
+    for (int f = 0; f < bloque.size(); ++f) {
+        for (int c = 0; c < bloque[f].size(); ++c) {
+            const QModelIndex celda = modelo_->index(esquina.row() + f, esquina.column() + c);
+            if (Editable(celda.column()) && !modelo_->setData(celda, bloque[f][c], Qt::EditRole)) {
                 setCurrentIndex(celda);
                 return false;
             }
@@ -332,23 +506,44 @@ bool TablaDatos::PegarBloque(const QStringList& filas, const QModelIndex& esquin
 void TablaDatos::Pegar() {
     QString texto = QApplication::clipboard()->text().remove('\r');
     if (texto.endsWith('\n')) texto.chop(1);
-    const QStringList filas = texto.split('\n');
+    QList<QStringList> bloque;
+    for (const QString& fila : texto.split('\n')) {
+        bloque.append(fila.split('\t'));
+        for (QString& celda : bloque.last()) celda = celda.trimmed();
+    }
     const QModelIndexList elegidas = selectedIndexes();
-    const QModelIndex esquina = EsquinaElegida();
-    if (!esquina.isValid()) return;
-    if (filas.size() > 1 || filas[0].contains('\t') || elegidas.size() < 2) {
-        PegarBloque(filas, esquina);
-        return;
-    }
-    for (const QModelIndex& celda : elegidas) {
-        if (!PegarBloque(filas, celda)) return;
-    }
+    const bool unValor = bloque.size() == 1 && bloque[0].size() == 1;
+    const QModelIndexList esquinas =
+        unValor && elegidas.size() > 1 ? elegidas : QModelIndexList{EsquinaElegida()};
+    PonerTodo(bloque, esquinas);
 }
 
 void TablaDatos::Borrar() {
-    for (const QModelIndex& celda : selectedIndexes()) {
-        if (Editable(celda.column()) && !modelo_->setData(celda, QString(), Qt::EditRole)) return;
+    PonerTodo({{QString()}}, selectedIndexes());
+}
+
+/// A block, whole or not at all, at each of some corners; what was put is undone together.
+void TablaDatos::PonerTodo(const QList<QStringList>& bloque, const QModelIndexList& esquinas) {
+    for (const QModelIndex& esquina : esquinas) {
+        if (!esquina.isValid()) return;
+        const auto [motivo, celda] = FaltaDelBloque(bloque, esquina);
+        if (motivo.isEmpty()) continue;
+        setCurrentIndex(celda);
+        DecirMotivo(viewport(), visualRect(celda), motivo);
+        return;
     }
+    modelo_->AbrirGrupo();
+    const bool todo = std::all_of(esquinas.begin(), esquinas.end(),
+                                  [&](const QModelIndex& esquina) { return PonerBloque(bloque, esquina); });
+    modelo_->CerrarGrupo(todo);
+}
+
+void TablaDatos::Deshacer() {
+    Mostrar(modelo_->Deshacer());
+}
+
+void TablaDatos::Rehacer() {
+    Mostrar(modelo_->Rehacer());
 }
 
 }  // namespace trabex::programa::qt

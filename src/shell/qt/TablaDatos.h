@@ -3,6 +3,7 @@
 #include <QTableView>
 #include <functional>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "shell/qt/CampoNumero.h"
@@ -20,21 +21,19 @@ struct ColumnaDatos {
     /// False refuses the entry, after its message: the cell shows the old value. Null in a column that can't
     /// be edited.
     std::function<bool(int fila, const QVariant& valor)> Poner = nullptr;
-    int Largo = 255;  ///< of a text, in characters
+    int Largo = 255;  ///< of a text, in characters; a longer one is refused
     int Ancho = 0;    ///< of the column, in pixels; 0 shares what the others leave
 };
 
-/// Where Enter goes on to from a cell.
-enum class Avance { Abajo, Derecha };
-
 /// A table in which data are entered as in a spreadsheet: typing replaces a cell, F2 or a double click edit
-/// it, Escape leaves it as it was, Enter, Tab and the arrows take the entry and go on; cells are copied and
-/// pasted in blocks, deleted together, and edits inside a cell can be undone. It holds no data: its columns
-/// read and put them.
-class TablaDatos : public QTableView {
+/// it, Escape leaves it as it was. Tab goes right and, past the last cell, out; Ctrl+Tab goes out at once;
+/// Enter goes down, below where a run of Tab began. Cells are copied and pasted in blocks, a block whole or
+/// not at all, and deleted together; Ctrl+Z takes entries back, Ctrl+Y brings them again. An entry that is no
+/// number of its column stays in its cell, marked and with its reason. It holds no data: its columns read and
+/// put them.
+class TablaDatos : public QTableView, public EntradaJuzgada {
   public:
-    TablaDatos(std::vector<ColumnaDatos> columnas, const Separadores& separadores, Avance avance,
-               QWidget* padre);
+    TablaDatos(std::vector<ColumnaDatos> columnas, const Separadores& separadores, QWidget* padre);
 
     void PonerFilas(int filas);
     int Filas() const;
@@ -46,16 +45,25 @@ class TablaDatos : public QTableView {
     void IrA(int fila, int columna);
     void AlCambiarFila(std::function<void(int fila)> accion) { alCambiarFila_ = std::move(accion); }
 
+    /// Other data come on show: what stood refused and what could be undone is forgotten.
+    void OlvidarCambios();
+
     /// Takes what a cell that is being edited holds, as leaving it would.
-    void TerminarEdicion();
+    void Terminar() override;
+    QString Motivo() const override;
+    void Reclamar() override;
 
     void Copiar() const;
     void Pegar();
     void Borrar();
+    void Deshacer();
+    void Rehacer();
 
-    /// The entry in an open editor is taken, and the next cell in that direction becomes current. A refused
+    /// The entry in an open editor is taken, and the next cell that a key leads to becomes current. A refused
     /// one stays where it is.
-    void TomarYSeguir(QWidget* editor, int tecla);
+    void TomarYSeguir(QWidget* editor, const QKeyEvent& tecla);
+    /// The keyboard is in the table or in one of its cells.
+    bool EnMano() const;
 
     QSize sizeHint() const override;
 
@@ -65,18 +73,24 @@ class TablaDatos : public QTableView {
     bool focusNextPrevChild(bool adelante) override;
     void contextMenuEvent(QContextMenuEvent* evento) override;
     void currentChanged(const QModelIndex& actual, const QModelIndex& anterior) override;
+    void focusOutEvent(QFocusEvent* evento) override;
 
   private:
-    void Seguir(int tecla);
-    /// The cell that a key leads to; none where the table ends.
-    QModelIndex Siguiente(int tecla) const;
+    void Seguir(int tecla, Qt::KeyboardModifiers mas);
+    /// The next cell that can be edited; none past the table's end.
     QModelIndex Avanzar(bool atras) const;
     bool Editable(int columna) const;
     QModelIndex EsquinaElegida() const;
-    bool PegarBloque(const QStringList& filas, const QModelIndex& esquina);
+    /// Why a block does not go into the table from a corner on, and the cell where it fails; empty when it
+    /// does.
+    std::pair<QString, QModelIndex> FaltaDelBloque(const QList<QStringList>& bloque,
+                                                   const QModelIndex& esquina) const;
+    bool PonerBloque(const QList<QStringList>& bloque, const QModelIndex& esquina);
+    void PonerTodo(const QList<QStringList>& bloque, const QModelIndexList& esquinas);
+    void Mostrar(const QModelIndex& celda);
 
     ModeloTabla* modelo_;
-    Avance avance_;
+    int columnaDeEnter_ = -1;  // where the run of Tab began; none when there is no run
     std::function<void(int)> alCambiarFila_;
 };
 

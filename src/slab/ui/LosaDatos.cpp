@@ -25,6 +25,16 @@ std::optional<CampoSeccion> PrimerCero(const Losa& losa) {
     return std::nullopt;
 }
 
+/// Cuts or lengthens `filas`; what is cut stays in `cortadas` and comes back from there.
+template <class Fila>
+void Redimensionar(std::vector<Fila>& filas, std::vector<Fila>& cortadas, std::size_t cuantas) {
+    if (cortadas.size() < filas.size()) cortadas.resize(filas.size());
+    std::copy(filas.begin(), filas.end(), cortadas.begin());
+    const std::size_t quedaban = filas.size();
+    filas.resize(cuantas);
+    for (std::size_t i = quedaban; i < std::min(cuantas, cortadas.size()); ++i) filas[i] = cortadas[i];
+}
+
 }  // namespace
 
 LosaDatos::LosaDatos(Losas& losas, PantallaLosaDatos& pantalla, programa::CajaMensajes& caja)
@@ -33,6 +43,7 @@ LosaDatos::LosaDatos(Losas& losas, PantallaLosaDatos& pantalla, programa::CajaMe
 void LosaDatos::Abrir() {
     modificada_ = false;
     edicion_ = losas_.Estado().Abierta;
+    OlvidarCortados();
     edicion_.Ejes.resize(edicion_.Tramos.size() + 1);  // one joint more than spans, whatever the file held
     tramo_ = std::min<std::size_t>(1, NumeroDeTramos());
     pantalla_.Rellenar();
@@ -64,13 +75,11 @@ double LosaDatos::Seccion(CampoSeccion campo) const {
 }
 
 void LosaDatos::PonerNumeroTramos(std::size_t tramos) {
-    edicion_.Tramos.resize(tramos + 1);
-    edicion_.Ejes.resize(tramos + 2);
+    Redimensionar(edicion_.Tramos, tramosCortados_, tramos + 1);
+    Redimensionar(edicion_.Ejes, ejesCortados_, tramos + 2);
     for (std::size_t j = 1; j < edicion_.Ejes.size(); ++j) {
         if (edicion_.Ejes[j].Tipo == 0) edicion_.Ejes[j].Tipo = ApoyoFijo;
     }
-    const auto perdida = [&](const JuntaD& junta) { return junta.Junta > static_cast<int>(tramos) + 1; };
-    std::erase_if(edicion_.JuntasD, perdida);
     tramo_ = tramos == 0 ? 0 : std::clamp<std::size_t>(tramo_, 1, tramos);
     cambios_ = true;
     pantalla_.Refrescar();
@@ -163,6 +172,11 @@ void LosaDatos::CargaPuntual() {
     AbrirCarga(&PantallaLosaDatos::MostrarCarga02);
 }
 
+void LosaDatos::OlvidarCortados() {
+    tramosCortados_.clear();
+    ejesCortados_.clear();
+}
+
 bool LosaDatos::ConCeros() {
     const auto cero = PrimerCero(edicion_);
     if (!cero) return false;
@@ -183,6 +197,7 @@ bool LosaDatos::SalvarDatos() {
         return false;
     }
     losas_.Estado().Abierta = guardada;
+    OlvidarCortados();
     if (edicion_.Loseta != guardada.Loseta) {  // a topping of 0 is stored as the usual one
         edicion_ = guardada;
         pantalla_.Rellenar();

@@ -60,7 +60,8 @@ class LosaDatos {
     void PonerMaciza(bool maciza);
     void PonerSeccion(CampoSeccion campo, double valor);
     double Seccion(CampoSeccion campo) const;
-    /// What remains keeps its data; new joints get a fixed support; shifts of joints that are gone go too.
+    /// What remains keeps its data, and what is cut comes back when the number is raised again before a save;
+    /// new joints get a fixed support. Displaced joints stay as they were entered.
     void PonerNumeroTramos(std::size_t tramos);
     void PonerEje(std::size_t junta, const std::string& eje);
     void PonerLongitud(std::size_t tramo, double LT);
@@ -91,6 +92,7 @@ class LosaDatos {
   private:
     bool SalvarSiSePide(const std::string& texto);
     bool SalvarDatos();
+    void OlvidarCortados();
     bool ConCeros();
     void Cambiado();
     void AbrirCarga(bool (PantallaLosaDatos::*mostrar)(const EntradaDeCarga&));
@@ -99,6 +101,8 @@ class LosaDatos {
     PantallaLosaDatos& pantalla_;
     programa::CajaMensajes& caja_;
     Losa edicion_;
+    std::vector<Tramo> tramosCortados_;  // by their places in the slab, until a save
+    std::vector<EjeLosa> ejesCortados_;
     bool cambios_ = false;  // not saved yet
     bool modificada_ = false;
     std::size_t tramo_ = 0;

@@ -7,7 +7,6 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QVBoxLayout>
-#include <algorithm>
 
 #include "shell/qt/CampoNumero.h"
 #include "shell/qt/ComunVentanas.h"
@@ -25,11 +24,10 @@ VentanaCarga::VentanaCarga(CargaDeTramos& operaciones, const Separadores& separa
       encabezado_(new QLabel(this)),
       deslizador_(new QScrollBar(Qt::Horizontal, this)) {}
 
-programa::qt::CampoNumero* VentanaCarga::Campo(const QString& rotulo,
-                                               const programa::qt::ClaseNumero& clase) {
+programa::qt::CampoNumero* VentanaCarga::Campo(const QString& rotulo, const ClaseNumero& clase) {
     auto* campo = new programa::qt::CampoNumero(clase, separadores_, marco_);
     campo->installEventFilter(this);
-    connect(campo, &QLineEdit::textEdited, this, [this] { TomarSiValen(); });
+    connect(campo, &QLineEdit::textEdited, this, [this] { TomarCampos(); });
     formulario_->addRow(rotulo, campo);
     campos_.push_back(campo);
     return campo;
@@ -47,10 +45,7 @@ void VentanaCarga::Armar(const QString& titulo, QWidget* pie) {
     deslizador_->setPageStep(1);
     deslizador_->setValue(static_cast<int>(operaciones_.TramoActual()));
     deslizador_->setMinimumHeight(20);
-    connect(deslizador_, &QScrollBar::valueChanged, this, [this](int tramo) {
-        operaciones_.MoverA(static_cast<std::size_t>(tramo));
-        MostrarTramo();
-    });
+    connect(deslizador_, &QScrollBar::valueChanged, this, [this](int tramo) { MoverA(tramo); });
     auto* columna = new QVBoxLayout(this);
     columna->addWidget(encabezado_);
     columna->addWidget(deslizador_);
@@ -70,37 +65,26 @@ QLayout* VentanaCarga::FilaDeBotones() {
     programa::qt::PonerAyuda(fijar, "Fijar Carga", "Fijar las cargas de todos los tramos. ");
     programa::qt::PonerAyuda(igualar, "Igualar", "Igualar todos los tramos a la carga seleccionada. ");
     connect(fijar, &QPushButton::clicked, this, [this] {
-        if (!Entradas()) return;
+        if (!programa::qt::EntradasEnOrden(this)) return;
         operaciones_.Fijar();
         accept();
     });
     connect(igualar, &QPushButton::clicked, this, [this] {
-        if (Entradas() && operaciones_.Igualar()) accept();
+        if (programa::qt::EntradasEnOrden(this) && operaciones_.Igualar()) accept();
     });
     connect(cancelar, &QPushButton::clicked, this, &QDialog::reject);
-    fijar_ = fijar;
+    for (QPushButton* boton : {fijar, igualar, cancelar}) boton->setAutoDefault(false);
     auto* fila = new QHBoxLayout;
     for (QPushButton* boton : {fijar, igualar, cancelar}) fila->addWidget(boton);
     return fila;
 }
 
-programa::qt::CampoNumero* VentanaCarga::PrimerMalo() const {
-    const auto malo =
-        std::find_if(campos_.begin(), campos_.end(),
-                     [](const programa::qt::CampoNumero* campo) { return !campo->hasAcceptableInput(); });
-    return malo == campos_.end() ? nullptr : *malo;
-}
-
-bool VentanaCarga::Entradas() {
-    programa::qt::CampoNumero* malo = PrimerMalo();
-    if (malo == nullptr) return true;
-    malo->setFocus();
-    malo->selectAll();
-    return false;
-}
-
-void VentanaCarga::TomarSiValen() {
-    if (PrimerMalo() == nullptr) TomarCampos();
+void VentanaCarga::MoverA(int tramo) {
+    const auto actual = static_cast<int>(operaciones_.TramoActual());
+    if (tramo == actual) return;
+    if (!programa::qt::EntradasEnOrden(this)) return deslizador_->setValue(actual);
+    operaciones_.MoverA(static_cast<std::size_t>(tramo));
+    MostrarTramo();
 }
 
 void VentanaCarga::MostrarTramo() {
@@ -108,40 +92,26 @@ void VentanaCarga::MostrarTramo() {
     MostrarCampos();
 }
 
-void VentanaCarga::Seguir(std::size_t campo) {
-    if (campo + 1 < campos_.size()) return campos_[campo + 1]->setFocus();
-    if (deslizador_->value() == deslizador_->maximum()) return fijar_->setFocus();
-    deslizador_->setValue(deslizador_->value() + 1);
-    campos_.front()->setFocus();
-    campos_.front()->selectAll();
-}
-
 bool VentanaCarga::eventFilter(QObject* objeto, QEvent* evento) {
-    if (evento->type() == QEvent::KeyPress) {
-        const int tecla = static_cast<QKeyEvent*>(evento)->key();
-        for (std::size_t i = 0; i < campos_.size(); ++i) {
-            if (objeto != campos_[i]) continue;
-            if (tecla == Qt::Key_Return || tecla == Qt::Key_Enter) {
-                TomarSiValen();
-                if (Entradas()) Seguir(i);
-                return true;
-            }
-            if (tecla == Qt::Key_PageDown || tecla == Qt::Key_PageUp) {
-                deslizador_->setValue(deslizador_->value() + (tecla == Qt::Key_PageUp ? -1 : 1));
-                campos_[i]->selectAll();
-                return true;
-            }
-        }
-    }
-    return QDialog::eventFilter(objeto, evento);
+    auto* campo = dynamic_cast<programa::qt::CampoNumero*>(objeto);
+    if (campo == nullptr || evento->type() != QEvent::KeyPress) return QDialog::eventFilter(objeto, evento);
+    const int tecla = static_cast<QKeyEvent*>(evento)->key();
+    if (tecla == Qt::Key_Return || tecla == Qt::Key_Enter)
+        campo->Terminar();
+    else if (tecla == Qt::Key_PageDown || tecla == Qt::Key_PageUp)
+        deslizador_->setValue(deslizador_->value() + (tecla == Qt::Key_PageUp ? -1 : 1));
+    else
+        return QDialog::eventFilter(objeto, evento);
+    campo->selectAll();
+    return true;
 }
 
 VentanaCarga01::VentanaCarga01(Carga01& operaciones, const Separadores& separadores,
                                const programa::Tapiz& preferencias, QWidget* padre)
     : VentanaCarga(operaciones, separadores, preferencias, padre),
       operaciones_(operaciones),
-      permanente_(Campo("Carga Permanente (kgf/m)  Wp =", programa::qt::EnteroDe32)),
-      variable_(Campo("Carga Variable (kgf/m)  WV =", programa::qt::EnteroDe32)),
+      permanente_(Campo("Carga Permanente (kgf/m)  Wp =", EnteroDe32)),
+      variable_(Campo("Carga Variable (kgf/m)  WV =", EnteroDe32)),
       suma_(new QLabel(this)) {
     suma_->setAlignment(Qt::AlignRight);
     suma_->setFixedWidth(permanente_->width());
@@ -167,8 +137,8 @@ VentanaCarga02::VentanaCarga02(Carga02& operaciones, const Separadores& separado
                                const programa::Tapiz& preferencias, QWidget* padre)
     : VentanaCarga(operaciones, separadores, preferencias, padre),
       operaciones_(operaciones),
-      carga_(Campo("Carga Puntual (Permanente)", programa::qt::EnteroDe32)),
-      distancia_(Campo("Distancia al Eje Izquierdo (m)  L1 =", programa::qt::Longitud)) {
+      carga_(Campo("Carga Puntual (Permanente)", EnteroDe32)),
+      distancia_(Campo("Distancia al Eje Izquierdo (m)  L1 =", Longitud)) {
     Armar("CARGA PUNTUAL", nullptr);
 }
 

@@ -11,12 +11,12 @@ class QLabel;
 class QScrollBar;
 class QFormLayout;
 
-namespace trabex::programa::qt {
-class CampoNumero;
+namespace trabex {
+struct ClaseNumero;
 }
 
 namespace trabex::programa::qt {
-struct ClaseNumero;
+class CampoNumero;
 }
 
 namespace trabex::losas::ui::qt {
@@ -24,7 +24,7 @@ namespace trabex::losas::ui::qt {
 /// What both load windows look like: the spans' scroller, the fields, and the buttons.
 class VentanaCarga : public QDialog {
   public:
-    /// Walks on from a field: to the next one, then to the next span, then to the button that accepts.
+    /// Enter stores a field and stays in it; the page keys go to another span.
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
   protected:
@@ -32,19 +32,15 @@ class VentanaCarga : public QDialog {
                  const programa::Tapiz& preferencias, QWidget* padre);
     /// Lays the window out, once its fields are there.
     void Armar(const QString& titulo, QWidget* pie);
-    programa::qt::CampoNumero* Campo(const QString& rotulo, const programa::qt::ClaseNumero& clase);
+    programa::qt::CampoNumero* Campo(const QString& rotulo, const ClaseNumero& clase);
     void MostrarTramo();
     virtual void MostrarCampos() = 0;
     virtual void TomarCampos() = 0;
 
   private:
     QLayout* FilaDeBotones();
-    void Seguir(std::size_t campo);
-    /// The first field whose entry is no load; null when there is none. Such an entry is not taken.
-    programa::qt::CampoNumero* PrimerMalo() const;
-    /// A field whose entry is no load takes the focus. True when there was none.
-    bool Entradas();
-    void TomarSiValen();
+    /// The scroller: another span, once no entry stands refused on this one.
+    void MoverA(int tramo);
 
     CargaDeTramos& operaciones_;
     Separadores separadores_;
@@ -53,7 +49,6 @@ class VentanaCarga : public QDialog {
     QFormLayout* formulario_;
     QLabel* encabezado_;
     QScrollBar* deslizador_;
-    QWidget* fijar_ = nullptr;
     std::vector<programa::qt::CampoNumero*> campos_;
 };
 

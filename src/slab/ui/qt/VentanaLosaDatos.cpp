@@ -10,12 +10,12 @@
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSignalBlocker>
-#include <QSpinBox>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QTabWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "drawing/qt/WidgetLienzo.h"
 #include "shell/qt/ComunVentanas.h"
@@ -50,6 +50,12 @@ constexpr std::array<const char*, 5> TextosDeApoyo{
 
 std::size_t Indice(int fila) {
     return static_cast<std::size_t>(fila);
+}
+
+/// A whole number, however large, for an operation that tells its own limit.
+std::int64_t Entero64(double valor) {
+    constexpr double cabe = 9e18;
+    return static_cast<std::int64_t>(std::clamp(valor, -cabe, cabe));
 }
 
 QToolButton* BotonDeBarra(const QString& icono, const QString& texto, const QString& ayuda, QWidget* padre) {
@@ -147,7 +153,7 @@ QWidget* VentanaLosaDatos::PaginaDeSeccion() {
     auto* medidas = new QGroupBox("Sección", pagina);
     formulario_ = new QFormLayout(medidas);
     for (const RotuloDeCampo& rotulo : CamposDeSeccion) {
-        auto* campo = new programa::qt::CampoNumero(programa::qt::Longitud, numeros_, medidas);
+        auto* campo = new programa::qt::CampoNumero(Longitud, numeros_, medidas);
         seccion_[static_cast<std::size_t>(rotulo.Campo)] = campo;
         campo->setObjectName(rotulo.Nombre);
         formulario_->addRow(rotulo.Texto, campo);
@@ -164,27 +170,25 @@ QWidget* VentanaLosaDatos::PaginaDeSeccion() {
 }
 
 /// Enter in a count goes on to the table that it sizes.
-void VentanaLosaDatos::SeguirEn(QSpinBox* contador, programa::qt::TablaDatos* tabla) {
-    connect(contador->findChild<QLineEdit*>(), &QLineEdit::returnPressed, this, [tabla] {
-        if (tabla->Filas() == 0) return;
+void VentanaLosaDatos::SeguirEn(programa::qt::CampoNumero* contador, programa::qt::TablaDatos* tabla) {
+    connect(contador, &QLineEdit::returnPressed, this, [contador, tabla] {
+        if (tabla->Filas() == 0 || !contador->Motivo().isEmpty()) return;
         tabla->setFocus();
         tabla->IrA(1, 0);
     });
 }
 
-QSpinBox* VentanaLosaDatos::Contador(int maximo, const char* nombre) {
-    auto* contador = new QSpinBox(this);
+programa::qt::CampoNumero* VentanaLosaDatos::Contador(const ClaseNumero& clase, const char* nombre,
+                                                      const std::function<void(double)>& alEntrar) {
+    auto* contador = new programa::qt::CampoNumero(clase, numeros_, this);
     contador->setObjectName(nombre);
-    contador->setRange(0, maximo);
-    contador->setKeyboardTracking(false);  // a number counts once it is whole
-    contador->setAlignment(Qt::AlignRight);
-    contador->setFixedWidth(90);
+    contador->AlEntrar(alEntrar);
     return contador;
 }
 
 programa::qt::TablaDatos* VentanaLosaDatos::Tabla(std::vector<programa::qt::ColumnaDatos> columnas,
-                                                  programa::qt::Avance avance, const char* nombre) {
-    auto* tabla = new programa::qt::TablaDatos(std::move(columnas), numeros_, avance, this);
+                                                  const char* nombre) {
+    auto* tabla = new programa::qt::TablaDatos(std::move(columnas), numeros_, this);
     tabla->setObjectName(nombre);
     tabla->AlCambiarFila([this](int) { Redibujar(); });
     return tabla;
@@ -192,8 +196,8 @@ programa::qt::TablaDatos* VentanaLosaDatos::Tabla(std::vector<programa::qt::Colu
 
 QWidget* VentanaLosaDatos::PaginaDeTramos() {
     auto* pagina = new QWidget(this);
-    numeroTramos_ = Contador(static_cast<int>(MaximoTramos), "NumeroTramos");
-    connect(numeroTramos_, &QSpinBox::valueChanged, this, [this](int tramos) { PonerNumeroTramos(tramos); });
+    numeroTramos_ = Contador({true, 0, static_cast<double>(MaximoTramos), 0}, "NumeroTramos",
+                             [this](double tramos) { PonerNumeroTramos(static_cast<int>(tramos)); });
     ejes_ =
         Tabla({{.Titulo = "Nombre Eje",
                 .Numero = std::nullopt,
@@ -204,16 +208,16 @@ QWidget* VentanaLosaDatos::PaginaDeTramos() {
                         return true;
                     },
                 .Largo = LargoDeEje}},
-              programa::qt::Avance::Abajo, "Ejes");
+              "Ejes");
     luces_ = Tabla({{.Titulo = "Longitud (m)",
-                     .Numero = programa::qt::Longitud,
+                     .Numero = Longitud,
                      .Leer = [this](int i) { return operaciones_.Edicion().Tramos[Indice(i)].LT; },
                      .Poner =
                          [this](int i, const QVariant& LT) {
                              operaciones_.PonerLongitud(Indice(i), LT.toDouble());
                              return true;
                          }}},
-                   programa::qt::Avance::Abajo, "Luces");
+                   "Luces");
     auto* fila = new QHBoxLayout;
     auto* rotulo = new QLabel("Número de &Tramos =", pagina);
     rotulo->setBuddy(numeroTramos_);
@@ -236,7 +240,7 @@ QWidget* VentanaLosaDatos::PaginaDeTramos() {
 programa::qt::ColumnaDatos VentanaLosaDatos::ColumnaDeCorrimiento(const QString& titulo,
                                                                   double JuntaD::*campo) {
     return {.Titulo = titulo,
-            .Numero = programa::qt::Distancia,
+            .Numero = Distancia,
             .Leer = [this, campo](int k) { return operaciones_.Edicion().JuntasD[Indice(k)].*campo; },
             .Poner =
                 [this, campo](int k, const QVariant& valor) {
@@ -249,21 +253,20 @@ programa::qt::ColumnaDatos VentanaLosaDatos::ColumnaDeCorrimiento(const QString&
 
 QWidget* VentanaLosaDatos::PaginaDeJuntasD() {
     auto* pagina = new QWidget(this);
-    numeroJuntasD_ = Contador(32767, "NumeroJuntasD");
-    connect(numeroJuntasD_, &QSpinBox::valueChanged, this,
-            [this](int juntas) { PonerNumeroJuntasD(juntas); });
+    numeroJuntasD_ =
+        Contador(NaturalSinLimite, "NumeroJuntasD", [this](double juntas) { PonerNumeroJuntasD(juntas); });
     juntasD_ = Tabla(
         {{.Titulo = "Junta Número",
-          .Numero = programa::qt::NaturalDe16,
+          .Numero = NaturalSinLimite,
           .Leer =
               [this](int k) { return static_cast<double>(operaciones_.Edicion().JuntasD[Indice(k)].Junta); },
           .Poner =
               [this](int k, const QVariant& junta) {
-                  return operaciones_.PonerJunta(Indice(k), junta.toLongLong());
+                  return operaciones_.PonerJunta(Indice(k), Entero64(junta.toDouble()));
               }},
          ColumnaDeCorrimiento("X (m)", &JuntaD::x),
          ColumnaDeCorrimiento("Y (m)", &JuntaD::y)},
-        programa::qt::Avance::Derecha, "JuntasD");
+        "JuntasD");
     auto* fila = new QHBoxLayout;
     auto* rotulo = new QLabel("&Juntas Desplazadas =", pagina);
     rotulo->setBuddy(numeroJuntasD_);
@@ -303,11 +306,11 @@ QWidget* VentanaLosaDatos::PaginaDeApoyos() {
                       .Leer = [eje](int j) { return programa::qt::Q(eje(j).Eje); },
                       .Ancho = 70},
                      {.Titulo = "Tipo",
-                      .Numero = programa::qt::NaturalDe16,
+                      .Numero = EnteroSinLimite,
                       .Leer = [eje](int j) { return static_cast<double>(eje(j).Tipo); },
                       .Poner =
                           [this](int j, const QVariant& tipo) {
-                              return operaciones_.PonerTipo(Indice(j), tipo.toLongLong());
+                              return operaciones_.PonerTipo(Indice(j), Entero64(tipo.toDouble()));
                           },
                       .Ancho = 60},
                      {.Titulo = "Apoyo",
@@ -319,7 +322,7 @@ QWidget* VentanaLosaDatos::PaginaDeApoyos() {
                                          ? QString()
                                          : QString(TextosDeApoyo[Indice(tipo - 1)]).trimmed();
                           }}},
-                    programa::qt::Avance::Abajo, "Apoyos");
+                    "Apoyos");
     auto* columna = new QVBoxLayout(pagina);
     columna->addLayout(FilaDeBotonesDeApoyo());
     columna->addWidget(apoyos_, 1);
@@ -328,8 +331,8 @@ QWidget* VentanaLosaDatos::PaginaDeApoyos() {
 }
 
 programa::qt::ColumnaDatos VentanaLosaDatos::ColumnaDeCarga(
-    const QString& titulo, const programa::qt::ClaseNumero& clase,
-    const std::function<double(const Tramo&)>& leer, const std::function<void(Tramo&, double)>& poner) {
+    const QString& titulo, const ClaseNumero& clase, const std::function<double(const Tramo&)>& leer,
+    const std::function<void(Tramo&, double)>& poner) {
     return {.Titulo = titulo,
             .Numero = clase,
             .Leer = [this, leer](int i) { return leer(operaciones_.Edicion().Tramos[Indice(i)]); },
@@ -368,19 +371,19 @@ QWidget* VentanaLosaDatos::PaginaDeCargas() {
     auto* pagina = new QWidget(this);
     marcoCargas_ = new QGroupBox(pagina);
     const auto entero = [](double valor) { return static_cast<std::int32_t>(valor); };
-    cargas_ = Tabla({ColumnaDeCarga(
-                         "Wp (kgf/m)", programa::qt::EnteroDe32, [](const Tramo& t) { return t.Wp; },
-                         [entero](Tramo& t, double v) { t.Wp = entero(v); }),
-                     ColumnaDeCarga(
-                         "WV (kgf/m)", programa::qt::EnteroDe32, [](const Tramo& t) { return t.WV; },
-                         [entero](Tramo& t, double v) { t.WV = entero(v); }),
-                     ColumnaDeCarga(
-                         "P1 (kgf)", programa::qt::EnteroDe32, [](const Tramo& t) { return t.p1; },
-                         [entero](Tramo& t, double v) { t.p1 = entero(v); }),
-                     ColumnaDeCarga(
-                         "L1 (m)", programa::qt::Longitud, [](const Tramo& t) { return t.L1; },
-                         [](Tramo& t, double v) { t.L1 = v; })},
-                    programa::qt::Avance::Abajo, "Cargas");
+    cargas_ = Tabla(
+        {ColumnaDeCarga(
+             "Wp (kgf/m)", EnteroDe32, [](const Tramo& t) { return t.Wp; },
+             [entero](Tramo& t, double v) { t.Wp = entero(v); }),
+         ColumnaDeCarga(
+             "WV (kgf/m)", EnteroDe32, [](const Tramo& t) { return t.WV; },
+             [entero](Tramo& t, double v) { t.WV = entero(v); }),
+         ColumnaDeCarga(
+             "P1 (kgf)", EnteroDe32, [](const Tramo& t) { return t.p1; },
+             [entero](Tramo& t, double v) { t.p1 = entero(v); }),
+         ColumnaDeCarga(
+             "L1 (m)", Longitud, [](const Tramo& t) { return t.L1; }, [](Tramo& t, double v) { t.L1 = v; })},
+        "Cargas");
     cargas_->AlCambiarFila([this](int tramo) {
         operaciones_.MoverATramo(Indice(tramo));
         MostrarTramo();
@@ -434,6 +437,8 @@ dibujo::losa::MarcaBoceto VentanaLosaDatos::Marca() const {
 
 void VentanaLosaDatos::Rellenar() {
     rellenando_ = true;
+    for (programa::qt::TablaDatos* tabla : {luces_, ejes_, juntasD_, apoyos_, cargas_})
+        tabla->OlvidarCambios();
     setWindowTitle(programa::qt::Q(operaciones_.Titulo()));
     selector_->clear();
     for (const std::string& nombre : losas_.Lista().Nombres()) selector_->addItem(programa::qt::Q(nombre));
@@ -460,13 +465,14 @@ void VentanaLosaDatos::MostrarClase() {
 void VentanaLosaDatos::Refrescar() {
     rellenando_ = true;
     const int tramos = static_cast<int>(operaciones_.NumeroDeTramos());
-    numeroTramos_->setValue(tramos);
-    numeroJuntasD_->setValue(static_cast<int>(operaciones_.NumeroDeJuntasD()));
+    const int juntas = static_cast<int>(operaciones_.NumeroDeJuntasD());
+    numeroTramos_->PonerValor(tramos);
+    numeroJuntasD_->PonerValor(juntas);
     luces_->PonerFilas(tramos);
     cargas_->PonerFilas(tramos);
     ejes_->PonerFilas(tramos + 1);
     apoyos_->PonerFilas(tramos + 1);
-    juntasD_->PonerFilas(numeroJuntasD_->value());
+    juntasD_->PonerFilas(juntas);
     deslizador_->setRange(tramos == 0 ? 0 : 1, tramos);
     deslizador_->setEnabled(tramos > 1);
     rellenando_ = false;
@@ -496,12 +502,11 @@ void VentanaLosaDatos::MostrarPagina(PaginaLosa pagina) {
 }
 
 void VentanaLosaDatos::CambiarPagina() {
-    TerminarEdiciones();
+    programa::qt::EntradasEnOrden(this);
     apoyos_->Refrescar();  // names of axes may have changed on their own page
     bocetos_->setCurrentIndex(Pagina() == PaginaLosa::Cargas ? 1 : 0);
     QWidget* primero = primeros_[static_cast<std::size_t>(Pagina())];
     primero->setFocus();
-    if (auto* contador = qobject_cast<QSpinBox*>(primero)) contador->selectAll();
     if (Pagina() == PaginaLosa::Apoyos && apoyos_->currentIndex().column() != 1)
         apoyos_->IrA(std::max(1, apoyos_->FilaActual()), 1);
     Redibujar();
@@ -528,12 +533,12 @@ void VentanaLosaDatos::PonerNumeroTramos(int tramos) {
     luces_->IrA(1, 0);
 }
 
-void VentanaLosaDatos::PonerNumeroJuntasD(int juntas) {
-    if (rellenando_) return;
-    rellenando_ = true;  // a message takes the focus, and the field tells its number again
-    const bool tomado = operaciones_.PonerNumeroJuntasD(Indice(juntas));
-    if (!tomado) numeroJuntasD_->setValue(static_cast<int>(operaciones_.NumeroDeJuntasD()));
-    rellenando_ = false;
+void VentanaLosaDatos::PonerNumeroJuntasD(double juntas) {
+    if (!operaciones_.PonerNumeroJuntasD(static_cast<std::size_t>(Entero64(juntas)))) {
+        numeroJuntasD_->PonerValor(static_cast<double>(operaciones_.NumeroDeJuntasD()));
+        numeroJuntasD_->setFocus();
+        numeroJuntasD_->selectAll();
+    }
     Redibujar();
 }
 
@@ -551,21 +556,14 @@ bool VentanaLosaDatos::MostrarCarga02(const EntradaDeCarga& entrada) {
     return operaciones.LosaModificada();
 }
 
-void VentanaLosaDatos::TerminarEdiciones() {
-    for (QSpinBox* contador : {numeroTramos_, numeroJuntasD_}) contador->interpretText();
-    for (programa::qt::TablaDatos* tabla : {luces_, ejes_, juntasD_, apoyos_, cargas_})
-        tabla->TerminarEdicion();
-}
-
 void VentanaLosaDatos::Salvar() {
-    TerminarEdiciones();
-    operaciones_.Salvar();
+    if (programa::qt::EntradasEnOrden(this)) operaciones_.Salvar();
 }
 
 void VentanaLosaDatos::ElegirLosa(int lugar) {
-    TerminarEdiciones();
     if (lugar + 1 == losas_.Lista().Fila()) return;
-    if (!operaciones_.ElegirLosa(lugar + 1)) selector_->setCurrentIndex(losas_.Lista().Fila() - 1);
+    if (!programa::qt::EntradasEnOrden(this) || !operaciones_.ElegirLosa(lugar + 1))
+        selector_->setCurrentIndex(losas_.Lista().Fila() - 1);
 }
 
 void VentanaLosaDatos::Cerrar() {
@@ -573,8 +571,7 @@ void VentanaLosaDatos::Cerrar() {
 }
 
 void VentanaLosaDatos::reject() {
-    TerminarEdiciones();
-    operaciones_.Retorno();
+    if (programa::qt::EntradasEnOrden(this)) operaciones_.Retorno();
 }
 
 }  // namespace trabex::losas::ui::qt

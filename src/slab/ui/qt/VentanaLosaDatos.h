@@ -14,7 +14,6 @@ class QGroupBox;
 class QLabel;
 class QRadioButton;
 class QScrollBar;
-class QSpinBox;
 class QStackedWidget;
 class QTabWidget;
 
@@ -57,24 +56,22 @@ class VentanaLosaDatos : public QDialog, public PantallaLosaDatos {
     QWidget* Bocetos();
     QLayout* FilaDeBotonesDeApoyo();
     QLayout* FilaDeBotonesDeCarga();
-    QSpinBox* Contador(int maximo, const char* nombre);
-    void SeguirEn(QSpinBox* contador, programa::qt::TablaDatos* tabla);
-    programa::qt::TablaDatos* Tabla(std::vector<programa::qt::ColumnaDatos> columnas,
-                                    programa::qt::Avance avance, const char* nombre);
-    programa::qt::ColumnaDatos ColumnaDeCarga(const QString& titulo, const programa::qt::ClaseNumero& clase,
+    programa::qt::CampoNumero* Contador(const ClaseNumero& clase, const char* nombre,
+                                        const std::function<void(double)>& alEntrar);
+    void SeguirEn(programa::qt::CampoNumero* contador, programa::qt::TablaDatos* tabla);
+    programa::qt::TablaDatos* Tabla(std::vector<programa::qt::ColumnaDatos> columnas, const char* nombre);
+    programa::qt::ColumnaDatos ColumnaDeCarga(const QString& titulo, const ClaseNumero& clase,
                                               const std::function<double(const Tramo&)>& leer,
                                               const std::function<void(Tramo&, double)>& poner);
     programa::qt::ColumnaDatos ColumnaDeCorrimiento(const QString& titulo, double JuntaD::*campo);
 
     void PonerNumeroTramos(int tramos);
-    void PonerNumeroJuntasD(int juntas);
+    void PonerNumeroJuntasD(double juntas);
     void MostrarClase();
     void MostrarTramo();
     void CambiarPagina();
     void Salvar();
     void ElegirLosa(int lugar);
-    /// What is being typed is taken, as leaving it would.
-    void TerminarEdiciones();
     dibujo::losa::MarcaBoceto Marca() const;
 
     Losas& losas_;
@@ -90,8 +87,8 @@ class VentanaLosaDatos : public QDialog, public PantallaLosaDatos {
     QRadioButton* maciza_;
     QFormLayout* formulario_;
     std::array<programa::qt::CampoNumero*, 5> seccion_{};
-    QSpinBox* numeroTramos_;
-    QSpinBox* numeroJuntasD_;
+    programa::qt::CampoNumero* numeroTramos_;
+    programa::qt::CampoNumero* numeroJuntasD_;
     programa::qt::TablaDatos* ejes_;
     programa::qt::TablaDatos* luces_;
     programa::qt::TablaDatos* juntasD_;

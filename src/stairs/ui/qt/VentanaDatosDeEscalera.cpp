@@ -79,7 +79,11 @@ QLayout* VentanaDatosDeEscalera::Botones() {
     AgregarBotones(*fila);
     fila->addStretch(1);
     AgregarBoton(
-        *fila, " &Salvar ", "salvar", "Guardar la escalera en el proyecto. ", [this] { Salvar(); }, true);
+        *fila, " &Salvar ", "salvar", "Guardar la escalera en el proyecto. ",
+        [this] {
+            if (programa::qt::EntradasEnOrden(this)) Salvar();
+        },
+        true);
     AgregarBoton(*fila, " &Retorno ", "salida", "Volver a las escaleras del proyecto. ",
                  [this] { reject(); });
     return fila;
@@ -91,7 +95,7 @@ void VentanaDatosDeEscalera::Rellenar() {
 }
 
 void VentanaDatosDeEscalera::reject() {
-    if (Cerrar()) QDialog::reject();
+    if (programa::qt::EntradasEnOrden(this) && Cerrar()) QDialog::reject();
 }
 
 }  // namespace trabex::escaleras::ui::qt

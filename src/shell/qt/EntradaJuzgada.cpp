@@ -1,0 +1,75 @@
+#include "shell/qt/EntradaJuzgada.h"
+
+#include <QApplication>
+#include <QFocusEvent>
+#include <QTabWidget>
+#include <QTimer>
+#include <QToolTip>
+
+namespace trabex::programa::qt {
+
+namespace {
+
+EntradaJuzgada* Juzgada(QObject* control) {
+    return dynamic_cast<EntradaJuzgada*>(control);
+}
+
+/// Brings up the pages of tabs on which a control stands.
+void MostrarSuPagina(QWidget* control) {
+    for (QWidget* hijo = control; hijo != nullptr; hijo = hijo->parentWidget()) {
+        for (QWidget* padre = hijo->parentWidget(); padre != nullptr; padre = padre->parentWidget()) {
+            auto* paginas = qobject_cast<QTabWidget*>(padre);
+            if (paginas != nullptr && paginas->indexOf(hijo) >= 0) paginas->setCurrentWidget(hijo);
+        }
+    }
+}
+
+void Retomar(QWidget* control) {
+    constexpr int pausa = 20;  // ms, while a button of the mouse is down
+    if (QApplication::mouseButtons() != Qt::NoButton) {
+        QTimer::singleShot(pausa, control, [control] { Retomar(control); });
+        return;
+    }
+    EntradaJuzgada* otra = Juzgada(QApplication::focusWidget());
+    if (otra != nullptr && !otra->Motivo().isEmpty()) return;  // two refused ones would fight for it
+    if (control->isVisible() && control->isActiveWindow() && !control->hasFocus() &&
+        !Juzgada(control)->Motivo().isEmpty())
+        Juzgada(control)->Reclamar();
+}
+
+}  // namespace
+
+bool EntradasEnOrden(QWidget* ventana) {
+    QWidget* primera = nullptr;
+    for (QWidget* control : ventana->findChildren<QWidget*>()) {
+        EntradaJuzgada* entrada = Juzgada(control);
+        if (entrada == nullptr || control->isHidden() || !control->isEnabled()) continue;
+        entrada->Terminar();
+        if (primera == nullptr && !entrada->Motivo().isEmpty()) primera = control;
+    }
+    if (primera == nullptr) return true;
+    MostrarSuPagina(primera);
+    Juzgada(primera)->Reclamar();
+    return false;
+}
+
+void RetenerFoco(QWidget* control, const QFocusEvent& evento) {
+    const Qt::FocusReason razon = evento.reason();
+    if (razon == Qt::ActiveWindowFocusReason || razon == Qt::PopupFocusReason) return;
+    if (Juzgada(control)->Motivo().isEmpty()) return;
+    QTimer::singleShot(0, control, [control] { Retomar(control); });
+}
+
+void DecirMotivo(QWidget* control, const QRect& lugar, const QString& motivo) {
+    QToolTip::showText(control->mapToGlobal(lugar.bottomLeft()), motivo.toHtmlEscaped(), control);
+}
+
+QColor FondoDeRechazo(const QPalette& paleta) {
+    const QColor base = paleta.color(QPalette::Base);
+    const QColor rojo(220, 50, 47);
+    const auto mezcla = [](int de, int a) { return (3 * de + a) / 4; };
+    return {mezcla(base.red(), rojo.red()), mezcla(base.green(), rojo.green()),
+            mezcla(base.blue(), rojo.blue())};
+}
+
+}  // namespace trabex::programa::qt
