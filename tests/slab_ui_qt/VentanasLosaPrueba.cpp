@@ -97,7 +97,7 @@ TEST_F(Ventanas, LosDatosSeEscribenEnLasTablasYLleganAlArchivo) {
     for (const char* tipo : {"6", "0", "-70000", "70000"}) {
         EXPECT_FALSE(apoyos->model()->setData(apoyos->model()->index(3, 1), tipo));
         EXPECT_EQ(e.caja.Mensajes.back().Texto, "El Tipo de Apoyo no puede ser < 1 ni > 5");
-        EXPECT_EQ(apoyos->model()->index(3, 1).data(), "1");
+        EXPECT_EQ(apoyos->model()->index(3, 1).data(), "2");
     }
     apoyos->IrA(4, 1);
     BotonDe(ventana, "4")->click();

@@ -12,6 +12,7 @@ CampoNumero::CampoNumero(const ClaseNumero& clase, const Separadores& separadore
     : QLineEdit(padre), clase_(clase), separadores_(separadores) {
     setAlignment(Qt::AlignRight);
     setFixedWidth(110);
+    connect(this, &QLineEdit::textEdited, this, [this] { Juzgar(); });  // comes before the other
     connect(this, &QLineEdit::textChanged, this, [this] { Juzgar(); });
     connect(this, &QLineEdit::returnPressed, this, [this] { Terminar(); });
 }
