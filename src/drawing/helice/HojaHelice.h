@@ -30,7 +30,10 @@ struct EstiloHelice {
 inline constexpr EstiloHelice HeliceEnPantalla{
     {"Arial", true, false}, "SECCIÖN: ", Encabezado::Titulo, 0.5, 0.02, 0.02};
 inline constexpr EstiloHelice HeliceEnPapel{EnPapel, "Sección: ", Encabezado::Nombre, 0.5, 0.08, 0.05};
+/// A picture has the texts of paper and no furniture.
+inline constexpr EstiloHelice HeliceEnImagen{
+    HeliceEnPantalla.Medio, HeliceEnPapel.RotuloSeccion, HeliceEnPapel.Arriba, 0.5, 0.02, 0.02};
 inline constexpr EstiloHelice HeliceEnBoceto{
-    {"Arial", true, false}, nullptr, Encabezado::Titulo, 0.48, 0.02, 0.02};
+    HeliceEnPantalla.Medio, nullptr, Encabezado::Titulo, 0.48, 0.02, 0.02};
 
 }  // namespace trabex::dibujo::helice

@@ -66,18 +66,13 @@ void SalidasEscaleraH::ImprimirGrafico(EscaleraH& escaleras, VentanaEscaleraH& v
     });
 }
 
-/// The texts are those of paper, on a picture that is none.
 void SalidasEscaleraH::ExportarImagen(EscaleraH& escaleras, VentanaEscaleraH& ventana) {
-    dibujo::helice::EstiloHelice estilo = dibujo::helice::HeliceEnPapel;
-    estilo.Medio = dibujo::helice::HeliceEnPantalla.Medio;
-    estilo.Cabecera = dibujo::helice::HeliceEnPantalla.Cabecera;
-    estilo.Pie = dibujo::helice::HeliceEnPantalla.Pie;
     reportes::ui::qt::VentanaExportarGrafico(
         {aplicacion_, salida_.Opciones, entorno_.Servicios},
         reportes::ui::qt::DibujoDeHoja(escaleras.Estado().Hoja,
                                        [&](dibujo::Lienzo& lienzo, dibujo::helice::HojaHelice& hoja) {
                                            dibujo::helice::RedibujeVista(lienzo, hoja, escaleras.Calculada(),
-                                                                         estilo);
+                                                                         dibujo::helice::HeliceEnImagen);
                                        }),
         &ventana)
         .exec();
