@@ -6,7 +6,7 @@ set(privada "lib/trabex")
 set(paquete "${CMAKE_CURRENT_SOURCE_DIR}/install/paquete")
 
 install(TARGETS trabex trabex-lote trabex-jet RUNTIME DESTINATION ${privada})
-install(DIRECTORY "${TRABEX_PROGRAMA}/Imagen" "${TRABEX_PROGRAMA}/Reportes" DESTINATION ${privada}
+install(DIRECTORY "${TRABEX_PROGRAMA}/Imagen" "${TRABEX_PROGRAMA}/Reportes" "${TRABEX_PROGRAMA}/Manual" DESTINATION ${privada}
     FILE_PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
 foreach(programa trabex trabex-lote)
     install(CODE "
