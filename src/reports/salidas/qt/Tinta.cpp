@@ -66,10 +66,12 @@ void TintaDePintor::Mapa(const QRectF& donde, const documento::Imagen& imagen) {
     const almacen::Bytes bytes = imagen.Leer();
     QImage mapa;
     mapa.loadFromData(reinterpret_cast<const uchar*>(bytes.data()), static_cast<int>(bytes.size()));
-    // On a raster a drawing shown much smaller is averaged, which the painter by itself is not good at.
+    // On a raster a drawing shown much smaller is averaged, which the painter by itself is not good at. One
+    // of a palette would get back into it by dots.
     const QSize visto = pintor_.combinedTransform().mapRect(donde).size().toSize();
     if (pintor_.paintEngine()->type() == QPaintEngine::Raster && visto.width() * 2 < mapa.width())
-        mapa = mapa.scaled(visto, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        mapa = mapa.convertToFormat(QImage::Format_RGB32)
+                   .scaled(visto, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     // Line drawings: without loss, and smooth where the screen shows them smaller.
     pintor_.setRenderHint(QPainter::LosslessImageRendering);
     pintor_.setRenderHint(QPainter::SmoothPixmapTransform);
