@@ -23,7 +23,7 @@ using namespace dibujo;
 using namespace dibujo::losa;
 using namespace dibujo::qt;
 
-QImage Pantalla(int ancho = 1280, int alto = 720) {
+QImage Pantalla(int ancho = 1600, int alto = 1000) {
     QImage imagen(ancho, alto, QImage::Format_RGB32);
     imagen.setDotsPerMeterX(PuntosPorMetro);
     imagen.setDotsPerMeterY(PuntosPorMetro);
@@ -42,13 +42,13 @@ void Redibujar(benchmark::State& estado) {
     for (auto _ : estado) {
         hoja.Vista.PanX += 1;
         QPainter pintor(&imagen);
-        LienzoQt lienzo(pintor, 1280, 720, &memoria);
+        LienzoQt lienzo(pintor, 1600, 1000, &memoria);
         RedibujeVista(lienzo, hoja, {losa, generales, resultados});
     }
 }
 BENCHMARK(Redibujar)
     ->ArgNames({"hoja", "tramos"})
-    ->ArgsProduct({{VistaGeometria, VistaFuerzas, VistaDiseno}, {5, 20, 60}})
+    ->ArgsProduct({{VistaGeometria, VistaFuerzas, VistaDiseno}, {5, 20, 60, 400, 4000}})
     ->Unit(benchmark::kMillisecond);
 
 /// A tick of the timer that turns a helix, on a canvas of so many pixels of height.

@@ -12,17 +12,31 @@ namespace trabex::dibujo {
 
 namespace {
 constexpr double PuntosMinimosDeTitulo = 8;
-constexpr double AnchoDeColumna = 96;
-// More labels than a column of the canvas could show legibly: from here on one more makes it no fuller, and a
-// sheet of thousands of spans is drawn in a time that grows with them and not with their square.
-constexpr std::size_t CabenEnColumna = 512;
+constexpr double AnchoDeCelda = 96;
+constexpr double AltoDeCelda = 24;
+// More labels than a cell could show legibly: from here on one more makes it no fuller, and a sheet of
+// thousands of spans is drawn in a time that grows with them and not with their square.
+constexpr std::size_t CabenEnCelda = 16;
 
-/// Runs `accion` on the number of each column of the canvas that a box touches.
+std::int64_t Celda(std::int64_t columna, std::int64_t fila) {
+    return columna * (std::int64_t{1} << 32) + fila;
+}
+
+/// Runs `accion` on the cells of the canvas that a box touches, until it answers false. A box beyond any
+/// canvas touches none.
 template <class Accion>
-void PorColumna(const PiezaTexto& caja, Accion accion) {
-    const auto primera = static_cast<std::int64_t>(std::floor(caja.x / AnchoDeColumna));
-    const auto ultima = static_cast<std::int64_t>(std::floor((caja.x + caja.Ancho) / AnchoDeColumna));
-    for (std::int64_t columna = primera; columna <= ultima; ++columna) accion(columna);
+void PorCelda(const PiezaTexto& caja, Accion accion) {
+    constexpr double lejos = 1e8;
+    if (!(std::fabs(caja.x) < lejos && std::fabs(caja.y) < lejos)) return;
+    const auto celda = [](double lugar, double lado) {
+        return static_cast<std::int64_t>(std::floor(lugar / lado));
+    };
+    const std::int64_t ultimaColumna = celda(caja.x + caja.Ancho, AnchoDeCelda);
+    const std::int64_t ultimaFila = celda(caja.y + caja.Alto, AltoDeCelda);
+    for (std::int64_t fila = celda(caja.y, AltoDeCelda); fila <= ultimaFila; ++fila) {
+        for (std::int64_t columna = celda(caja.x, AnchoDeCelda); columna <= ultimaColumna; ++columna)
+            if (!accion(columna, fila)) return;
+    }
 }
 }  // namespace
 
@@ -58,23 +72,30 @@ void Plano::EscribirCentrado(std::string_view texto, double x, double y, double 
 }
 
 void Plano::Reservar(const PiezaTexto& caja) {
-    PorColumna(caja, [&](std::int64_t columna) {
-        std::vector<PiezaTexto>& suyas = ocupadas_[columna];
-        if (suyas.size() < CabenEnColumna) suyas.push_back(caja);
+    PorCelda(caja, [&](std::int64_t columna, std::int64_t fila) {
+        std::vector<PiezaTexto>& suyas = ocupadas_[Celda(columna, fila)];
+        if (suyas.size() < CabenEnCelda) suyas.push_back(caja);
+        return true;
     });
 }
 
-double Plano::Solape(const PiezaTexto& caja) const {
+double Plano::Solape(const PiezaTexto& caja, double tope) const {
     double total = 0;
-    PorColumna(caja, [&](std::int64_t columna) {
-        const auto hallada = ocupadas_.find(columna);
-        if (hallada == ocupadas_.end()) return;
+    PorCelda(caja, [&](std::int64_t columna, std::int64_t fila) {
+        const auto hallada = ocupadas_.find(Celda(columna, fila));
+        if (hallada == ocupadas_.end()) return true;
+        const double x = static_cast<double>(columna) * AnchoDeCelda;
+        const double y = static_cast<double>(fila) * AltoDeCelda;
+        const double izquierda = std::max(caja.x, x);
+        const double arriba = std::max(caja.y, y);
+        const double derecha = std::min(caja.x + caja.Ancho, x + AnchoDeCelda);
+        const double abajo = std::min(caja.y + caja.Alto, y + AltoDeCelda);
         for (const PiezaTexto& otra : hallada->second) {
-            const double ancho =
-                std::min(caja.x + caja.Ancho, otra.x + otra.Ancho) - std::max(caja.x, otra.x);
-            const double alto = std::min(caja.y + caja.Alto, otra.y + otra.Alto) - std::max(caja.y, otra.y);
+            const double ancho = std::min(derecha, otra.x + otra.Ancho) - std::max(izquierda, otra.x);
+            const double alto = std::min(abajo, otra.y + otra.Alto) - std::max(arriba, otra.y);
             if (ancho > 0 && alto > 0) total += ancho * alto;
         }
+        return total < tope;
     });
     return total;
 }
@@ -84,7 +105,7 @@ PiezaTexto Plano::Colocar(double ancho, double alto, const std::vector<Centro>& 
     double menor = std::numeric_limits<double>::infinity();
     for (const Centro& centro : centros) {
         const PiezaTexto caja{centro.x - ancho / 2, centro.y - alto / 2, ancho, alto};
-        const double solape = Solape(caja);
+        const double solape = Solape(caja, menor);
         if (solape < menor) {
             menor = solape;
             mejor = caja;

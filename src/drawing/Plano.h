@@ -62,12 +62,13 @@ class Plano {
     void Rotular(std::string_view texto, const std::vector<Centro>& centros, double grados = 0);
 
   private:
-    double Solape(const PiezaTexto& caja) const;
+    /// How much of `caja` is taken; counted no further than `tope`.
+    double Solape(const PiezaTexto& caja, double tope) const;
 
     Lienzo& lienzo_;
     const EstadoVista& vista_;
     std::string_view fuente_;
-    std::unordered_map<std::int64_t, std::vector<PiezaTexto>> ocupadas_;  // by column of the canvas
+    std::unordered_map<std::int64_t, std::vector<PiezaTexto>> ocupadas_;  // by cell of the canvas
 };
 
 }  // namespace trabex::dibujo

@@ -38,28 +38,51 @@ std::int32_t EjeDelDiagrama(const Trazado& t, const Diagrama& diagrama, std::siz
     return t.EnMetros.Y(t.EjeY(i) + tangente * d) + diagrama.Desfase;
 }
 
-void DibujeFranjas(const Trazado& t, const Diagrama& diagrama, std::size_t i, double tangente,
-                   const std::vector<losas::PuntoDiagrama>& puntos) {
-    const auto x = [&](const losas::PuntoDiagrama& punto) { return t.EnMetros.X(t.EjeX(i) + punto.d); };
-    const auto eje = [&](const losas::PuntoDiagrama& punto) {
-        return EjeDelDiagrama(t, diagrama, i, punto.d, tangente);
-    };
-    const auto extremo = [&](const losas::PuntoDiagrama& punto) {
-        return eje(punto) + Pixeles(diagrama.Subida(punto.*diagrama.Valor));
-    };
-    const Pluma pluma{1, EstiloLinea::Solida, diagrama.Fondo};
-    for (std::size_t k = 1; k < puntos.size(); ++k) {
-        const losas::PuntoDiagrama& a = puntos[k - 1];
-        const losas::PuntoDiagrama& b = puntos[k];
-        const std::array<PuntoLienzo, 4> franja{
-            {{x(a), eje(a)}, {x(a), extremo(a)}, {x(b), extremo(b)}, {x(b), eje(b)}}};
-        t.EnMetros.ElLienzo().Poligono(franja, pluma, diagrama.Fondo);
+/// A station on the canvas.
+struct PuntoDeFranja {
+    std::int32_t x;
+    std::int32_t Eje;      ///< row of the diagram's axis
+    std::int32_t Extremo;  ///< row of its value
+};
+
+std::vector<PuntoDeFranja> EnLienzo(const Trazado& t, const Diagrama& diagrama, std::size_t i,
+                                    double tangente, const std::vector<losas::PuntoDiagrama>& puntos) {
+    std::vector<PuntoDeFranja> enLienzo;
+    enLienzo.reserve(puntos.size());
+    for (const losas::PuntoDiagrama& punto : puntos) {
+        const std::int32_t eje = EjeDelDiagrama(t, diagrama, i, punto.d, tangente);
+        enLienzo.push_back(
+            {t.EnMetros.X(t.EjeX(i) + punto.d), eje, eje + Pixeles(diagrama.Subida(punto.*diagrama.Valor))});
     }
-    for (std::size_t k = 1; k < puntos.size(); ++k)
-        DibujeLinea(t.EnMetros.ElLienzo(), x(puntos[k - 1]), extremo(puntos[k - 1]), x(puntos[k]),
-                    extremo(puntos[k]), 1, EstiloLinea::Solida, Contorno);
-    DibujeLinea(t.EnMetros.ElLienzo(), x(puntos.front()), eje(puntos.front()), x(puntos.back()),
-                eje(puntos.back()), 1, EstiloLinea::Solida, Contorno);
+    return enLienzo;
+}
+
+/// Of the stations in one column of the canvas only the first, the lowest, the highest and the last can be
+/// told apart: a slab of thousands of spans has no more strips than the canvas has columns for them.
+std::vector<PuntoDeFranja> Distinguibles(const std::vector<PuntoDeFranja>& puntos) {
+    const auto masBajo = [](const PuntoDeFranja& a, const PuntoDeFranja& b) { return a.Extremo < b.Extremo; };
+    std::vector<PuntoDeFranja> visibles;
+    for (auto desde = puntos.begin(); desde != puntos.end();) {
+        const auto hasta =
+            std::find_if(desde, puntos.end(), [&](const PuntoDeFranja& p) { return p.x != desde->x; });
+        auto [menor, mayor] = std::minmax_element(desde, hasta, masBajo);
+        if (mayor < menor) std::swap(menor, mayor);
+        auto ultimo = puntos.end();
+        for (const auto punto : {desde, menor, mayor, hasta - 1}) {
+            if (punto != ultimo) visibles.push_back(*punto);
+            ultimo = punto;
+        }
+        desde = hasta;
+    }
+    return visibles;
+}
+
+/// The strips between stations as one figure, closed along its axis and at the span's ends.
+void DibujeFranjas(const Trazado& t, const Diagrama& diagrama, const std::vector<PuntoDeFranja>& puntos) {
+    std::vector<PuntoLienzo> figura{{puntos.front().x, puntos.front().Eje}};
+    for (const PuntoDeFranja& punto : puntos) figura.push_back({punto.x, punto.Extremo});
+    figura.push_back({puntos.back().x, puntos.back().Eje});
+    t.EnMetros.ElLienzo().Poligono(figura, PlumaContorno, diagrama.Fondo);
 }
 
 /// A value that is written at the diagram's ordinate. The shear at a span's end is written as the support's
@@ -96,11 +119,20 @@ void RotularExtremo(Trazado& t, const Diagrama& diagrama, double x, double eje, 
     p.Rotular(texto, centros);
 }
 
+/// A span that lies beside the canvas shows nothing of its diagram.
+bool ALaVista(const Trazado& t, std::size_t i) {
+    const auto [izquierda, derecha] =
+        std::minmax({t.EnMetros.X(t.EjeX(i)), t.EnMetros.X(t.EjeX(i) + t.Losa.Tramos[i].LT)});
+    return derecha >= 0 && izquierda <= t.EnMetros.ElLienzo().ScaleWidth();
+}
+
 void DibujeDiagrama(Trazado& t, const Diagrama& diagrama) {
     for (std::size_t i = 1; i <= t.N; ++i) {
+        if (!ALaVista(t, i)) continue;
         const double pendiente = PendienteDeTramo(t.Hoja.Ejes, i);
         const std::vector<losas::PuntoDiagrama> puntos = losas::EstacionesDeTramo(t.Calculada, i, pendiente);
-        if (!puntos.empty()) DibujeFranjas(t, diagrama, i, std::tan(pendiente), puntos);
+        if (!puntos.empty())
+            DibujeFranjas(t, diagrama, Distinguibles(EnLienzo(t, diagrama, i, std::tan(pendiente), puntos)));
     }
 }
 

@@ -62,18 +62,28 @@ bool DeEjes(std::span<const PuntoLienzo> puntos) {
 
 }  // namespace
 
-const QStaticText& MemoriaDeTextos::Buscar(std::string_view texto, const QFont& fuente) {
-    constexpr int limite = 4096;
-    const QString llave =
-        fuente.key() + '\n' + QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
-    const auto hallado = textos_.constFind(llave);
-    if (hallado != textos_.constEnd()) return *hallado;
-    if (textos_.size() >= limite) textos_.clear();
-    QStaticText preparado(QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size())));
-    preparado.setTextFormat(Qt::PlainText);
-    preparado.setPerformanceHint(QStaticText::AggressiveCaching);
-    preparado.prepare(QTransform(), fuente);
-    return *textos_.insert(llave, preparado);
+const MemoriaDeTextos::Preparado& MemoriaDeTextos::Buscar(std::string_view texto, const QFont& fuente,
+                                                          const QFontMetricsF& metrica) {
+    constexpr qsizetype limite = 8192;
+    if (cuantos_ >= limite) {
+        textos_.clear();
+        deFuente_ = nullptr;
+        cuantos_ = 0;
+    }
+    if (deFuente_ == nullptr || fuente != fuente_) {
+        fuente_ = fuente;
+        deFuente_ = &textos_[fuente.key()];
+    }
+    const auto largo = static_cast<qsizetype>(texto.size());
+    const auto hallado = deFuente_->constFind(QByteArray::fromRawData(texto.data(), largo));
+    if (hallado != deFuente_->constEnd()) return *hallado;
+    const QString escrito = QString::fromUtf8(texto.data(), largo);
+    Preparado preparado{QStaticText(escrito), metrica.horizontalAdvance(escrito)};
+    preparado.Texto.setTextFormat(Qt::PlainText);
+    preparado.Texto.setPerformanceHint(QStaticText::AggressiveCaching);
+    preparado.Texto.prepare(QTransform(), fuente);
+    ++cuantos_;
+    return *deFuente_->insert(QByteArray(texto.data(), largo), preparado);
 }
 
 LienzoQt::LienzoQt(QPainter& pintor, std::int32_t ancho, std::int32_t alto, MemoriaDeTextos* memoria)
@@ -97,9 +107,11 @@ void LienzoQt::Limpiar() {
 }
 
 void LienzoQt::PonerFuente(const Fuente& fuente) {
-    fuente_ = QFont(FamiliasDe(QString::fromStdString(fuente.Nombre)));
-    fuente_.setPointSizeF(std::clamp(fuente.Puntos, 0.5, 5000.0));
-    fuente_.setBold(fuente.Negrita);
+    QFont nueva(FamiliasDe(QString::fromStdString(fuente.Nombre)));
+    nueva.setPointSizeF(std::clamp(fuente.Puntos, 0.5, 5000.0));
+    nueva.setBold(fuente.Negrita);
+    if (metrica_ && nueva == fuente_) return;
+    fuente_ = nueva;
     metrica_ = std::make_unique<QFontMetricsF>(fuente_, pintor_.device());
     pintor_.setFont(fuente_);
 }
@@ -115,8 +127,9 @@ Color LienzoQt::ColorTextoDeBotones() const {
 }
 
 MedidaTexto LienzoQt::Medir(std::string_view texto) {
-    const double ancho =
-        metrica_->horizontalAdvance(QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size())));
+    const double ancho = memoria_ != nullptr ? memoria_->Buscar(texto, fuente_, *metrica_).Ancho
+                                             : metrica_->horizontalAdvance(QString::fromUtf8(
+                                                   texto.data(), static_cast<qsizetype>(texto.size())));
     return {static_cast<std::int32_t>(std::ceil(ancho)),
             static_cast<std::int32_t>(std::ceil(metrica_->height()))};
 }
@@ -135,14 +148,22 @@ void LienzoQt::Texto(std::string_view texto, PuntoLienzo lugar, std::int32_t dec
         lugar = {0, 0};
     }
     if (memoria_ != nullptr)
-        pintor_.drawStaticText(QPointF(lugar.x, lugar.y), memoria_->Buscar(texto, fuente_));
+        pintor_.drawStaticText(QPointF(lugar.x, lugar.y), memoria_->Buscar(texto, fuente_, *metrica_).Texto);
     else
         pintor_.drawText(QPointF(lugar.x, lugar.y + metrica_->ascent()),
                          QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size())));
     if (girado) pintor_.restore();
 }
 
+bool LienzoQt::ALaVista(PuntoLienzo menor, PuntoLienzo mayor, std::int32_t pluma) const {
+    const std::int32_t aire = 2 * pluma * lado_;  // mitres stand out
+    return mayor.x >= -aire && mayor.y >= -aire && menor.x <= ancho_ + aire && menor.y <= alto_ + aire;
+}
+
 void LienzoQt::Linea(PuntoLienzo desde, PuntoLienzo hasta, const Pluma& pluma) {
+    const auto [x1, x2] = std::minmax(desde.x, hasta.x);
+    const auto [y1, y2] = std::minmax(desde.y, hasta.y);
+    if (!ALaVista({x1, y1}, {x2, y2}, pluma.Ancho)) return;
     const Suavizado suave(pintor_, !DeEjes(desde, hasta));
     pintor_.setPen(PlumaQt(pluma, lado_));
     pintor_.drawLine(desde.x, desde.y, hasta.x, hasta.y);
@@ -150,6 +171,14 @@ void LienzoQt::Linea(PuntoLienzo desde, PuntoLienzo hasta, const Pluma& pluma) {
 
 void LienzoQt::Poligono(std::span<const PuntoLienzo> puntos, const std::optional<Pluma>& pluma,
                         const std::optional<Color>& relleno) {
+    if (puntos.empty()) return;
+    PuntoLienzo menor = puntos.front();
+    PuntoLienzo mayor = menor;
+    for (const PuntoLienzo& p : puntos) {
+        menor = {std::min(menor.x, p.x), std::min(menor.y, p.y)};
+        mayor = {std::max(mayor.x, p.x), std::max(mayor.y, p.y)};
+    }
+    if (!ALaVista(menor, mayor, pluma ? pluma->Ancho : 0)) return;
     const Suavizado suave(pintor_, !DeEjes(puntos));
     pintor_.setPen(pluma ? PlumaQt(*pluma, lado_) : QPen(Qt::NoPen));
     pintor_.setBrush(relleno ? QBrush(ColorQt(*relleno)) : QBrush(Qt::NoBrush));
@@ -161,6 +190,9 @@ void LienzoQt::Poligono(std::span<const PuntoLienzo> puntos, const std::optional
 
 void LienzoQt::Circulo(PuntoLienzo centro, std::int32_t radio, const std::optional<Pluma>& pluma,
                        const std::optional<Color>& relleno) {
+    if (!ALaVista({centro.x - radio, centro.y - radio}, {centro.x + radio, centro.y + radio},
+                  pluma ? pluma->Ancho : 0))
+        return;
     const Suavizado suave(pintor_, true);
     pintor_.setPen(pluma ? PlumaQt(*pluma, lado_) : QPen(Qt::NoPen));
     pintor_.setBrush(relleno ? QBrush(ColorQt(*relleno)) : QBrush(Qt::NoBrush));
@@ -168,6 +200,7 @@ void LienzoQt::Circulo(PuntoLienzo centro, std::int32_t radio, const std::option
 }
 
 void LienzoQt::Pixel(PuntoLienzo lugar, Color color) {
+    if (!ALaVista(lugar, lugar, 1)) return;
     pintor_.fillRect(lugar.x, lugar.y, lado_, lado_, ColorQt(color));
 }
 

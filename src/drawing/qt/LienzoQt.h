@@ -17,10 +17,17 @@ namespace trabex::dibujo::qt {
 /// zoom step brings a new size of each text, so it starts afresh when it is full.
 class MemoriaDeTextos {
   public:
-    const QStaticText& Buscar(std::string_view texto, const QFont& fuente);
+    struct Preparado {
+        QStaticText Texto;
+        double Ancho;
+    };
+    const Preparado& Buscar(std::string_view texto, const QFont& fuente, const QFontMetricsF& metrica);
 
   private:
-    QHash<QString, QStaticText> textos_;
+    QHash<QString, QHash<QByteArray, Preparado>> textos_;  // by font and text
+    QHash<QByteArray, Preparado>* deFuente_ = nullptr;     // those of the font that was asked for last
+    QFont fuente_;
+    qsizetype cuantos_ = 0;
 };
 
 /// A drawing surface on any painter: a picture, a printer's page, a PDF. The painter's device is `ancho` by
@@ -49,6 +56,10 @@ class LienzoQt : public Lienzo {
     void Pixel(PuntoLienzo lugar, Color color) override;
 
   private:
+    /// Whether any of a figure between two corners, with a line of `pluma` around it, is on the surface: what
+    /// is not costs the painter as much as what is.
+    bool ALaVista(PuntoLienzo menor, PuntoLienzo mayor, std::int32_t pluma) const;
+
     QPainter& pintor_;
     std::int32_t ancho_;
     std::int32_t alto_;

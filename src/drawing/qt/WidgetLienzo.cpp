@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
+#include <cstdlib>
 #include <optional>
 
 #include "drawing/qt/ImagenDeHoja.h"
@@ -113,8 +114,13 @@ void WidgetLienzo::mouseMoveEvent(QMouseEvent* evento) {
 }
 
 void WidgetLienzo::wheelEvent(QWheelEvent* evento) {
-    if (evento->angleDelta().y() == 0) return;
-    visor_.ZoomMouseWheel(evento->angleDelta().y() > 0);
+    const int giro = evento->angleDelta().y();
+    if (giro == 0) return;
+    if ((giro > 0) != (rueda_ > 0)) rueda_ = 0;
+    rueda_ += giro;
+    for (; std::abs(rueda_) >= QWheelEvent::DefaultDeltasPerStep;
+         rueda_ -= giro > 0 ? QWheelEvent::DefaultDeltasPerStep : -QWheelEvent::DefaultDeltasPerStep)
+        visor_.ZoomMouseWheel(giro > 0);
     evento->accept();
 }
 

@@ -55,6 +55,7 @@ class WidgetLienzo : public QWidget, private AnfitrionVista {
     QMenu* menu_ = nullptr;
     QImage imagen_;
     MemoriaDeTextos memoria_;
+    int rueda_ = 0;  // turn of the wheel that is not yet a step: fine wheels and touch pads give it in parts
 };
 
 }  // namespace trabex::dibujo::qt
