@@ -22,7 +22,8 @@ CREATE TABLE Grafico (
     CargaVolado DOUBLE,
     CargaPermanente DOUBLE,
     Grafico BLOB,
-    GraficoPng BLOB -- the same picture, compressed
+    GraficoPng BLOB, -- the same picture, compressed
+    GraficoTrazos BLOB -- the strokes it was drawn with
 );
 
 -- Slabs

@@ -18,6 +18,10 @@ QImage DibujarImagen(std::int32_t ancho, std::int32_t alto, double finura,
     QPainter pintor(&imagen);
     LienzoQt lienzo(pintor, ancho, alto);
     dibujar(lienzo);
+    pintor.end();
+    // From here on it is a picture of its own resolution.
+    imagen.setDotsPerMeterX(static_cast<int>(PuntosPorMetro * finura));
+    imagen.setDotsPerMeterY(static_cast<int>(PuntosPorMetro * finura));
     return imagen;
 }
 

@@ -16,7 +16,8 @@ inline constexpr std::int32_t AltoSuperficie = AltoGraficoTwips / TwipsPorUnidad
 /// units alike on every machine.
 inline constexpr int PuntosPorMetro = 3780;
 
-/// A drawing on a hidden surface of `ancho` by `alto` units, `finura` pixels to a unit.
+/// A drawing on a hidden surface of `ancho` by `alto` units, `finura` pixels to a unit; the picture tells its
+/// resolution, so that it has the drawing's size wherever it is put.
 QImage DibujarImagen(std::int32_t ancho, std::int32_t alto, double finura,
                      const std::function<void(Lienzo&)>& dibujar);
 

@@ -86,11 +86,16 @@ const MemoriaDeTextos::Preparado& MemoriaDeTextos::Buscar(std::string_view texto
     return *deFuente_->insert(QByteArray(texto.data(), largo), preparado);
 }
 
-LienzoQt::LienzoQt(QPainter& pintor, std::int32_t ancho, std::int32_t alto, MemoriaDeTextos* memoria)
+LienzoQt::LienzoQt(QPainter& pintor, std::int32_t ancho, std::int32_t alto, MemoriaDeTextos* memoria,
+                   Unidad unidad)
     : pintor_(pintor),
       ancho_(ancho),
       alto_(alto),
-      lado_(std::max(1, pintor.device()->logicalDpiX() / PuntosPorPulgadaDePantalla)),
+      deAparato_(unidad == Unidad::DelAparato),
+      lado_(deAparato_ ? std::max(1, pintor.device()->logicalDpiX() / PuntosPorPulgadaDePantalla) : 1),
+      porPunto_(deAparato_
+                    ? 1.0
+                    : static_cast<double>(PuntosPorPulgadaDePantalla) / pintor.device()->logicalDpiY()),
       memoria_(memoria) {
     pintor_.setRenderHint(QPainter::Antialiasing, false);
     pintor_.setRenderHint(QPainter::TextAntialiasing, true);
@@ -108,7 +113,8 @@ void LienzoQt::Limpiar() {
 
 void LienzoQt::PonerFuente(const Fuente& fuente) {
     QFont nueva(FamiliasDe(QString::fromStdString(fuente.Nombre)));
-    nueva.setPointSizeF(std::clamp(fuente.Puntos, 0.5, 5000.0));
+    nueva.setPointSizeF(std::clamp(fuente.Puntos, 0.5, 5000.0) * porPunto_);
+    if (!deAparato_) nueva.setHintingPreference(QFont::PreferNoHinting);
     nueva.setBold(fuente.Negrita);
     if (metrica_ && nueva == fuente_) return;
     fuente_ = nueva;
@@ -201,7 +207,9 @@ void LienzoQt::Circulo(PuntoLienzo centro, std::int32_t radio, const std::option
 
 void LienzoQt::Pixel(PuntoLienzo lugar, Color color) {
     if (!ALaVista(lugar, lugar, 1)) return;
-    pintor_.fillRect(lugar.x, lugar.y, lado_, lado_, ColorQt(color));
+    // Neighbours drawn elsewhere in another size would show the seam between them.
+    const double solape = deAparato_ ? 0 : 0.1;
+    pintor_.fillRect(QRectF(lugar.x, lugar.y, lado_ + solape, lado_ + solape), ColorQt(color));
 }
 
 }  // namespace trabex::dibujo::qt

@@ -34,7 +34,12 @@ class MemoriaDeTextos {
 /// `alto` units, and its resolution turns points of fonts into units.
 class LienzoQt : public Lienzo {
   public:
-    LienzoQt(QPainter& pintor, std::int32_t ancho, std::int32_t alto, MemoriaDeTextos* memoria = nullptr);
+    /// What a unit is: one of the device, or one of the screen for which a drawing was made, which the
+    /// painter's transformation brings to the device.
+    enum class Unidad { DelAparato, DePantalla };
+
+    LienzoQt(QPainter& pintor, std::int32_t ancho, std::int32_t alto, MemoriaDeTextos* memoria = nullptr,
+             Unidad unidad = Unidad::DelAparato);
 
     /// Ground and colour of texts; white and black to begin with.
     void PonerColores(const QColor& fondo, const QColor& textoDeBotones);
@@ -63,7 +68,9 @@ class LienzoQt : public Lienzo {
     QPainter& pintor_;
     std::int32_t ancho_;
     std::int32_t alto_;
+    bool deAparato_;
     std::int32_t lado_;
+    double porPunto_;  // size of a font in points of the device, by its points
     MemoriaDeTextos* memoria_;
     QColor fondo_ = Qt::white;
     QColor textoDeBotones_ = Qt::black;

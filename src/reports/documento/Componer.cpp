@@ -361,10 +361,12 @@ void Compositor::Escribir(const ElementoImagen& e, const FilaActual* alrededor) 
     const Hallada hallada = nombres_.BuscarImagen(e.Campo, alrededor);
     if (hallada.Tabla == nullptr || !hallada.Fila) return;
     // The rows live as long as a picture that is read from them.
-    auto leer = [datos = datos_, tabla = hallada.Tabla, fila = *hallada.Fila, columna = e.Campo.Columna] {
-        return tabla->LeerImagen(fila, columna);
+    const auto leer = [&](almacen::Bytes (TablaDeDatos::*cual)(std::size_t, std::string_view) const) {
+        return [datos = datos_, tabla = hallada.Tabla, fila = *hallada.Fila, columna = e.Campo.Columna,
+                cual] { return (tabla->*cual)(fila, columna); };
     };
-    Agregar(Imagen{std::move(leer), e.Ancho, e.Alto, Texto(e.Pie, alrededor)});
+    Agregar(Imagen{leer(&TablaDeDatos::LeerImagen), e.Ancho, e.Alto, Texto(e.Pie, alrededor),
+                   leer(&TablaDeDatos::LeerTrazos)});
 }
 
 }  // namespace

@@ -13,8 +13,9 @@ namespace trabex::documento {
 
 namespace {
 
-/// A picture may stand a second time, compressed, in a column of this further name.
+/// A picture may stand a second time, compressed or as its strokes, in columns of these further names.
 constexpr const char* SufijoPng = "Png";
+constexpr const char* SufijoTrazos = "Trazos";
 
 bool MismoNombre(std::string_view a, std::string_view b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
@@ -83,14 +84,19 @@ bool TablaDeDatos::EsImagen(std::string_view columna) const {
                        [&](const std::string& nombre) { return MismoNombre(nombre, columna); });
 }
 
-almacen::Bytes TablaDeDatos::LeerImagen(std::size_t fila, std::string_view columna) const {
-    const std::string comprimida = std::string(columna) + SufijoPng;
+almacen::Bytes TablaDeDatos::LeerJunto(std::size_t fila, const std::string& columna) const {
+    if (!EsImagen(columna)) return {};
     const std::scoped_lock espera(turno_);
-    if (EsImagen(comprimida)) {
-        almacen::Bytes bytes = almacen::LeerBytes(*conexion_, nombre_, comprimida, identidades_[fila]);
-        if (!bytes.empty()) return bytes;
-    }
     return almacen::LeerBytes(*conexion_, nombre_, columna, identidades_[fila]);
+}
+
+almacen::Bytes TablaDeDatos::LeerImagen(std::size_t fila, std::string_view columna) const {
+    almacen::Bytes bytes = LeerJunto(fila, std::string(columna) + SufijoPng);
+    return bytes.empty() ? LeerJunto(fila, std::string(columna)) : bytes;
+}
+
+almacen::Bytes TablaDeDatos::LeerTrazos(std::size_t fila, std::string_view columna) const {
+    return LeerJunto(fila, std::string(columna) + SufijoTrazos);
 }
 
 DatosReporte::Base& DatosReporte::Abierta(const std::filesystem::path& ubicacion) {

@@ -37,8 +37,13 @@ class TablaDeDatos {
     /// The picture of a row; where the table keeps it compressed beside, in a column of the same name and
     /// "Png", that one. Any thread may ask, while nothing else is read from the database.
     almacen::Bytes LeerImagen(std::size_t fila, std::string_view columna) const;
+    /// The strokes of that picture, where the table keeps them beside, in a column of the same name and
+    /// "Trazos"; else empty.
+    almacen::Bytes LeerTrazos(std::size_t fila, std::string_view columna) const;
 
   private:
+    almacen::Bytes LeerJunto(std::size_t fila, const std::string& columna) const;
+
     using Indice = std::unordered_map<std::string, std::vector<std::size_t>>;
 
     almacen::Conexion* conexion_ = nullptr;

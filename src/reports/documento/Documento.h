@@ -147,6 +147,8 @@ struct Imagen {
     double Ancho = 0;  ///< the room it fills, keeping its proportions; 0: the width of the text
     double Alto = 0;   ///< 0: the height of the text
     std::string Pie;   ///< caption, on the same page
+    /// The strokes that it was drawn with, for outputs that draw; nothing or empty where it has none.
+    std::function<almacen::Bytes()> LeerTrazos{};
 };
 
 /// The size at which a picture of so many pixels fills its room, within the room that there is.

@@ -16,10 +16,11 @@ struct TamanoGrafico {
 };
 
 /// A picture as the scratch database keeps it: a Windows bitmap file, which any program opens, and beside it
-/// the same pixels as a PNG, which writers of reports take as it stands.
+/// the same pixels as a PNG, and the strokes it was drawn with: writers of reports take those as they stand.
 struct ImagenMontada {
     almacen::Bytes MapaDeBits;
     almacen::Bytes Png;
+    almacen::Bytes Trazos{};
 };
 
 /// A drawing surface off the screen, with the picture that was last drawn on it.

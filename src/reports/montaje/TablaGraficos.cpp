@@ -24,6 +24,7 @@ void TablaGraficos::Agregar(const std::string& nombre, const std::string& titulo
     tabla_.Poner("Losa", titulo);
     tabla_.Poner("Grafico", std::move(imagen.MapaDeBits));
     tabla_.Poner("GraficoPng", std::move(imagen.Png));
+    tabla_.Poner("GraficoTrazos", std::move(imagen.Trazos));
     tabla_.Agregar();
 }
 

@@ -37,7 +37,13 @@ div.imagen { text-align: center; margin: 1em 0; page-break-inside: avoid }
 div.imagen img { max-width: 100%; height: auto }
 p.pie { font-style: italic; margin: .3em 0 }
 p.banda { color: #555555; font-size: 90%; border-bottom: 1px solid #d9dfe5; padding-bottom: .3em }
-@media print { div.pagina { page-break-before: always } body { max-width: none; margin: 0 } }
+@media print {
+  body { max-width: none; margin: 0; padding: 0 }
+  div.pagina { page-break-before: always }
+  div.junta { page-break-inside: avoid; break-inside: avoid }
+  h1, h2, h3 { page-break-after: avoid; break-after: avoid }
+  ul.indice { display: none }
+}
 )";
 
 /// A line feed of a text stays one.
@@ -199,8 +205,9 @@ void EscribirHtml(const documento::Documento& documento, const std::filesystem::
     for (std::size_t i = 0; i < documento.Secciones.size(); ++i) {
         const documento::Seccion& seccion = documento.Secciones[i];
         const bool aparte = seccion.PaginaNueva && i > 0;
+        const std::string clase = std::string(aparte ? " pagina" : "") + (seccion.Junta ? " junta" : "");
         archivo.Escribir("<div id=\"s" + std::to_string(i + 1) +
-                         (aparte ? "\" class=\"pagina\">\n" : "\">\n"));
+                         (clase.empty() ? "\">\n" : "\" class=\"" + clase.substr(1) + "\">\n"));
         for (const documento::Bloque& bloque : seccion.Bloques) archivo.Escribir(pagina.Bloque(bloque));
         archivo.Escribir("</div>\n");
     }

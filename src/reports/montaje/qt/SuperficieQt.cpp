@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 
+#include "drawing/Trazos.h"
 #include "drawing/qt/ImagenDeHoja.h"
 #include "reports/salidas/ImagenDePaleta.h"
 #include "reports/salidas/ImagenPng.h"
@@ -17,7 +18,11 @@ constexpr int Calidad = 100;
 void SuperficieQt::Dibujar(std::int32_t ancho, std::int32_t alto,
                            const std::function<void(dibujo::Lienzo&)>& dibujar) {
     imagen_ = dibujo::qt::DibujarImagen(ancho / dibujo::TwipsPorUnidad, alto / dibujo::TwipsPorUnidad,
-                                        finura_, dibujar);
+                                        finura_, [&](dibujo::Lienzo& lienzo) {
+                                            dibujo::LienzoConTrazos conTrazos(lienzo);
+                                            dibujar(conTrazos);
+                                            trazos_ = conTrazos.Trazos();
+                                        });
 }
 
 ImagenMontada SuperficieQt::Imagen() const {
@@ -26,7 +31,8 @@ ImagenMontada SuperficieQt::Imagen() const {
     const auto* pixeles = reinterpret_cast<const std::uint32_t*>(imagen_.constBits());
     salidas::ImagenDePaleta reducida = salidas::ReducirColores({pixeles, ancho * alto}, ancho, alto);
     reducida.PuntosPorMetro = static_cast<std::int32_t>(dibujo::qt::PuntosPorMetro * finura_);
-    return {salidas::MapaDeBitsDe(reducida), salidas::PngDe(reducida)};
+    const auto* trazos = reinterpret_cast<const std::byte*>(trazos_.data());
+    return {salidas::MapaDeBitsDe(reducida), salidas::PngDe(reducida), {trazos, trazos + trazos_.size()}};
 }
 
 almacen::Bytes SuperficieQt::Foto() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QImage>
+#include <string>
 
 #include "reports/montaje/SuperficieOculta.h"
 
@@ -23,6 +24,7 @@ class SuperficieQt : public SuperficieOculta {
   private:
     double finura_;
     QImage imagen_;
+    std::string trazos_;
 };
 
 }  // namespace trabex::montaje::qt

@@ -1,45 +1,21 @@
 #include "reports/salidas/qt/EscritorPdf.h"
 
+#include <QBuffer>
 #include <QDateTime>
-#include <QIODevice>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
-#include <optional>
+#include <string_view>
+#include <vector>
 
 #include "base/Archivos.h"
 #include "base/Edicion.h"
+#include "reports/salidas/ComplementoPdf.h"
 #include "reports/salidas/qt/Paginador.h"
 
 namespace trabex::salidas::qt {
 
 namespace {
-
-/// The file as a device of the toolkit. The toolkit goes on past a failed write: the error is kept for the
-/// end.
-class Dispositivo : public QIODevice {
-  public:
-    explicit Dispositivo(ArchivoNuevo& archivo) : archivo_(archivo) { open(QIODevice::WriteOnly); }
-    bool isSequential() const override { return true; }
-    const std::optional<ErrorEjecucion>& Error() const { return error_; }
-
-  protected:
-    qint64 readData(char*, qint64) override { return -1; }
-    qint64 writeData(const char* bytes, qint64 cuantos) override {
-        if (error_) return -1;
-        try {
-            archivo_.Escribir({bytes, static_cast<std::size_t>(cuantos)});
-            return cuantos;
-        } catch (const ErrorEjecucion& error) {
-            error_ = error;
-            return -1;
-        }
-    }
-
-  private:
-    ArchivoNuevo& archivo_;
-    std::optional<ErrorEjecucion> error_;
-};
 
 /// What the document is called and who made it, as readers of PDF look for it.
 QByteArray Metadatos(const documento::Documento& documento) {
@@ -60,8 +36,7 @@ QByteArray Metadatos(const documento::Documento& documento) {
 
 constexpr int PuntosPorPulgada = 2540;  // hundredths of a millimetre, the unit of the pages
 
-void Pintar(const documento::Documento& documento, QIODevice& dispositivo) {
-    const Paginador paginas(documento);
+void Pintar(const documento::Documento& documento, const Paginador& paginas, QIODevice& dispositivo) {
     QPdfWriter escritor(&dispositivo);
     escritor.setResolution(PuntosPorPulgada);
     escritor.setTitle(QString::fromStdString(documento.Titulo));
@@ -77,13 +52,27 @@ void Pintar(const documento::Documento& documento, QIODevice& dispositivo) {
     }
 }
 
+/// One bookmark a section, where there are several.
+std::vector<MarcadorPdf> Marcadores(const Paginador& paginas) {
+    std::vector<MarcadorPdf> marcadores;
+    if (paginas.Comienzos().size() < 2) return marcadores;
+    for (const Paginador::Comienzo& comienzo : paginas.Comienzos())
+        marcadores.push_back({comienzo.Seccion, static_cast<std::size_t>(comienzo.Pagina),
+                              (paginas.Papel().Alto * Milimetro - comienzo.Y) / PuntoTipografico});
+    return marcadores;
+}
+
 }  // namespace
 
 void EscribirPdf(const documento::Documento& documento, const std::filesystem::path& destino) {
+    const Paginador paginas(documento);
+    QBuffer bytes;
+    bytes.open(QIODevice::WriteOnly);
+    Pintar(documento, paginas, bytes);
     ArchivoNuevo archivo(destino);
-    Dispositivo dispositivo(archivo);
-    Pintar(documento, dispositivo);
-    if (dispositivo.Error()) throw ErrorEjecucion(*dispositivo.Error());
+    const std::string_view pdf(bytes.data().constData(), static_cast<std::size_t>(bytes.data().size()));
+    archivo.Escribir(pdf);
+    archivo.Escribir(ComplementoPdf(pdf, documento.Autor, Marcadores(paginas)));
     archivo.Colocar();
 }
 

@@ -82,19 +82,43 @@ double Paginador::AltoTotal(const Piezas& piezas) const {
 
 void Paginador::Colocar(const documento::Seccion& seccion, const Piezas& piezas) {
     const double total = seccion.Junta ? AltoTotal(piezas) : 0;
-    const bool noCabe = total > util_.height() - y_ && total <= util_.height();
-    if (!AlPrincipio() && (seccion.PaginaNueva || noCabe)) PaginaNueva();
+    if (!AlPrincipio() && (seccion.PaginaNueva || total > util_.height() - y_)) PaginaNueva();
+    bool marcada = false;
     for (std::size_t i = 0; i < piezas.size(); ++i) {
         if (!piezas[i]) {
             if (!AlPrincipio()) PaginaNueva();
             continue;
         }
-        if (!AlPrincipio() && y_ + AltoPrincipio(piezas, i) > util_.height()) PaginaNueva();
-        ColocarPieza(*piezas[i]);
+        if (!AlPrincipio() && y_ + AltoPrincipio(piezas, i) > util_.height()) {
+            // A picture names itself, and may need the whole page.
+            const bool esImagen = std::holds_alternative<documento::Imagen>(seccion.Bloques[i]);
+            if (marcada && !esImagen)
+                Continuar(seccion);
+            else
+                PaginaNueva();
+        }
+        if (!marcada) Marcar(seccion);
+        marcada = true;
+        ColocarPieza(*piezas[i], seccion);
     }
 }
 
-void Paginador::ColocarPieza(const Pieza& pieza) {
+void Paginador::Marcar(const documento::Seccion& seccion) {
+    comienzos_.push_back({seccion.Nombre, NumeroPaginas() - 1,
+                          documento_.Papel.MargenSuperior * Milimetro + altoMembrete_ + y_});
+}
+
+/// A page in the middle of a section says whose it is.
+void Paginador::Continuar(const documento::Seccion& seccion) {
+    PaginaNueva();
+    if (seccion.Nombre.empty()) return;
+    piezas_.push_back(
+        PiezaDe(documento::Titulo{3, seccion.Nombre + " (continuación)"}, documento_, letras_, util_));
+    paginas_.back().push_back({piezas_.back().get(), 0, 0, piezas_.back()->Filas()});
+    y_ = piezas_.back()->Alto(0, piezas_.back()->Filas()) + piezas_.back()->Despues();
+}
+
+void Paginador::ColocarPieza(const Pieza& pieza, const documento::Seccion& seccion) {
     if (!AlPrincipio()) y_ += pieza.Antes();
     for (std::size_t desde = 0; desde < pieza.Filas();) {
         std::size_t hasta = desde + 1;
@@ -109,7 +133,7 @@ void Paginador::ColocarPieza(const Pieza& pieza) {
         paginas_.back().push_back({&pieza, y_, desde, hasta});
         y_ += pieza.Alto(desde, hasta);
         desde = hasta;
-        if (desde < pieza.Filas()) PaginaNueva();
+        if (desde < pieza.Filas()) Continuar(seccion);
     }
     y_ += pieza.Despues();
 }

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "reports/documento/Documento.h"
@@ -23,6 +24,14 @@ class Paginador {
     /// Puts the ink of a page, from 0.
     void Pintar(int pagina, Tinta& tinta) const;
 
+    /// Where a section begins: its page, from 0, and how far below the sheet's upper edge.
+    struct Comienzo {
+        std::string Seccion;
+        int Pagina;
+        double Y;
+    };
+    const std::vector<Comienzo>& Comienzos() const { return comienzos_; }
+
   private:
     /// A box, or the rows of it that a page holds.
     struct Trozo {
@@ -41,7 +50,9 @@ class Paginador {
 
     void ComponerMembrete();
     void Colocar(const documento::Seccion& seccion, const Piezas& piezas);
-    void ColocarPieza(const Pieza& pieza);
+    void ColocarPieza(const Pieza& pieza, const documento::Seccion& seccion);
+    void Continuar(const documento::Seccion& seccion);
+    void Marcar(const documento::Seccion& seccion);
     double AltoPrincipio(const Piezas& piezas, std::size_t i) const;
     double AltoTotal(const Piezas& piezas) const;
     void PaginaNueva();
@@ -57,6 +68,7 @@ class Paginador {
     QSizeF util_;
     Piezas piezas_;
     std::vector<std::vector<Trozo>> paginas_;
+    std::vector<Comienzo> comienzos_;
     double y_ = 0;  // below what stands on the last page
 };
 

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "drawing/Trazos.h"
 #include "reports/salidas/qt/PiezaTabla.h"
 
 namespace trabex::salidas::qt {
@@ -161,8 +162,10 @@ class PiezaImagen : public Pieza {
     bool legible_ = false;
 };
 
-/// The size in pixels that a picture's first bytes tell.
-QSize MedidaEnPixeles(const almacen::Bytes& bytes) {
+/// The size that a picture's strokes or its first bytes tell, in units of its own.
+QSize MedidaPropia(const documento::Imagen& imagen) {
+    if (const auto medida = dibujo::MedidaDe(TrazosDe(imagen))) return {medida->Ancho, medida->Alto};
+    const almacen::Bytes bytes = imagen.Leer();
     QByteArray vista = QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
                                                static_cast<qsizetype>(bytes.size()));
     QBuffer archivo(&vista);
@@ -175,7 +178,7 @@ PiezaImagen::PiezaImagen(const documento::Imagen& imagen, const Letras& letras, 
       ancho_(util.width()),
       pie_(imagen.Pie.empty() ? QStringList() : letras.Cursiva.Lineas(Q(imagen.Pie), util.width())),
       medida_(util.width(), 2 * letras.Normal.Alto()) {
-    const QSize pixeles = MedidaEnPixeles(imagen.Leer());
+    const QSize pixeles = MedidaPropia(imagen);
     legible_ = !pixeles.isEmpty();
     if (!legible_) return;
     const double sitio = util.height() - AltoDelPie() - 0.3 * letras.Normal.Alto();

@@ -4,6 +4,7 @@
 #include <QPointF>
 #include <QRectF>
 #include <QString>
+#include <string>
 
 #include "reports/salidas/qt/TipoDeLetra.h"
 
@@ -14,6 +15,9 @@ struct Imagen;
 }
 
 namespace trabex::salidas::qt {
+
+/// The strokes of a picture; empty when it has none.
+std::string TrazosDe(const documento::Imagen& imagen);
 
 /// What a page is made of, in hundredths of a millimetre from its corner. A painter puts it on paper or on
 /// the screen; a search reads only its texts.

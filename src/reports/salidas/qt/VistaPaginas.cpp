@@ -1,6 +1,11 @@
 #include "reports/salidas/qt/VistaPaginas.h"
 
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QWheelEvent>
@@ -17,6 +22,7 @@ constexpr double ZoomMayor = 500;
 constexpr int MemoriaDeEstampas = 96 * 1024;  // KB
 const QColor ColorDeHallazgo(255, 213, 0, 90);
 const QColor ColorDelActual(255, 140, 0, 130);
+const QColor ColorDeElegido(51, 122, 204, 90);
 
 /// Letters without case and accents, each in its place.
 QString Llano(const QString& texto) {
@@ -28,26 +34,6 @@ QString Llano(const QString& texto) {
     }
     return llano;
 }
-
-/// Reads a page's texts and keeps where one stands.
-class TintaDeBusqueda : public Tinta {
-  public:
-    explicit TintaDeBusqueda(const QString& buscado) : buscado_(buscado) {}
-    std::vector<QRectF> Hallados;
-
-    void Texto(const QPointF& base, const QString& texto, const TipoDeLetra& letra, const QColor&) override {
-        const QString llano = Llano(texto);
-        for (qsizetype i = llano.indexOf(buscado_); i >= 0; i = llano.indexOf(buscado_, i + buscado_.size()))
-            Hallados.emplace_back(base.x() + letra.Ancho(texto.left(i)), base.y() - letra.Ascenso(),
-                                  letra.Ancho(texto.mid(i, buscado_.size())), letra.Alto());
-    }
-    void Raya(const QPointF&, const QPointF&, double, const QColor&) override {}
-    void Fondo(const QRectF&, const QColor&) override {}
-    void Mapa(const QRectF&, const documento::Imagen&) override {}
-
-  private:
-    QString buscado_;
-};
 
 }  // namespace
 
@@ -69,6 +55,7 @@ void VistaPaginas::PonerDocumento(const documento::Documento& documento) {
     estampas_.clear();
     hallazgos_.clear();
     hallazgo_ = -1;
+    elegidos_.clear();
     Acomodar();
     IrAPagina(pagina);
     viewport()->update();
@@ -177,8 +164,13 @@ const QPixmap& VistaPaginas::Estampa(int pagina) {
     return suelta_;
 }
 
-void VistaPaginas::PintarHallazgos(QPainter& pintor, int pagina) const {
+void VistaPaginas::PintarMarcas(QPainter& pintor, int pagina) const {
     const QPoint esquina = Lugar(pagina).topLeft();
+    for (const TextoDePagina& texto : elegidos_) {
+        if (pagina != paginaElegida_) break;
+        pintor.fillRect(QRectF(esquina + texto.Donde.topLeft() * Escala(), texto.Donde.size() * Escala()),
+                        ColorDeElegido);
+    }
     for (std::size_t i = 0; i < hallazgos_.size(); ++i) {
         if (hallazgos_[i].Pagina != pagina) continue;
         const QRectF& donde = hallazgos_[i].Donde;
@@ -186,6 +178,51 @@ void VistaPaginas::PintarHallazgos(QPainter& pintor, int pagina) const {
         pintor.fillRect(marca.adjusted(-1, -1, 1, 1),
                         static_cast<int>(i) == hallazgo_ ? ColorDelActual : ColorDeHallazgo);
     }
+}
+
+/// The texts that a rectangle of a page touches.
+void VistaPaginas::Elegir(int pagina, const QRectF& donde) {
+    paginaElegida_ = pagina;
+    elegidos_ = TextosDePagina(*paginas_, pagina);
+    std::erase_if(elegidos_, [&](const TextoDePagina& texto) { return !texto.Donde.intersects(donde); });
+    viewport()->update();
+}
+
+void VistaPaginas::ElegirTodo() {
+    Elegir(PaginaActual(), {0, 0, paginas_->Papel().Ancho * Milimetro, paginas_->Papel().Alto * Milimetro});
+}
+
+void VistaPaginas::Copiar() const {
+    if (!elegidos_.empty()) QGuiApplication::clipboard()->setText(EnRenglones(elegidos_));
+}
+
+QPointF VistaPaginas::EnPagina(int pagina, const QPointF& lugar) const {
+    return (lugar - Lugar(pagina).topLeft()) / Escala();
+}
+
+void VistaPaginas::mousePressEvent(QMouseEvent* evento) {
+    if (evento->button() != Qt::LeftButton) return QAbstractScrollArea::mousePressEvent(evento);
+    elegidos_.clear();
+    paginaElegida_ = -1;
+    for (int i = 0; i < NumeroPaginas() && paginaElegida_ < 0; ++i) {
+        if (Lugar(i).contains(evento->pos())) paginaElegida_ = i;
+    }
+    if (paginaElegida_ >= 0) desdeDonde_ = EnPagina(paginaElegida_, evento->position());
+    viewport()->update();
+}
+
+void VistaPaginas::mouseMoveEvent(QMouseEvent* evento) {
+    if (!(evento->buttons() & Qt::LeftButton) || paginaElegida_ < 0)
+        return QAbstractScrollArea::mouseMoveEvent(evento);
+    Elegir(paginaElegida_, QRectF(desdeDonde_, EnPagina(paginaElegida_, evento->position())).normalized());
+}
+
+void VistaPaginas::contextMenuEvent(QContextMenuEvent* evento) {
+    QMenu menu(this);
+    QAction* copiar = menu.addAction("&Copiar", QKeySequence::Copy, this, [this] { Copiar(); });
+    copiar->setEnabled(!elegidos_.empty());
+    menu.addAction("Seleccionar la &Página", QKeySequence::SelectAll, this, [this] { ElegirTodo(); });
+    menu.exec(evento->globalPos());
 }
 
 void VistaPaginas::paintEvent(QPaintEvent* evento) {
@@ -196,7 +233,7 @@ void VistaPaginas::paintEvent(QPaintEvent* evento) {
         if (!lugar.intersects(evento->rect())) continue;
         pintor.fillRect(lugar.translated(2, 2), QColor(0, 0, 0, 60));
         pintor.drawPixmap(lugar.topLeft(), Estampa(i));
-        PintarHallazgos(pintor, i);
+        PintarMarcas(pintor, i);
     }
 }
 
@@ -223,6 +260,8 @@ void VistaPaginas::wheelEvent(QWheelEvent* evento) {
 }
 
 void VistaPaginas::keyPressEvent(QKeyEvent* evento) {
+    if (evento->matches(QKeySequence::Copy)) return Copiar();
+    if (evento->matches(QKeySequence::SelectAll)) return ElegirTodo();
     QScrollBar* barra = verticalScrollBar();
     switch (evento->key()) {
         case Qt::Key_Home:
@@ -243,10 +282,12 @@ void VistaPaginas::Buscar(const QString& texto) {
     hallazgos_.clear();
     hallazgo_ = -1;
     const QString buscado = Llano(texto);
-    for (int i = 0; !buscado.isEmpty() && i < NumeroPaginas(); ++i) {
-        TintaDeBusqueda tinta(buscado);
-        paginas_->Pintar(i, tinta);
-        for (const QRectF& donde : tinta.Hallados) hallazgos_.push_back({i, donde});
+    for (int pagina = 0; !buscado.isEmpty() && pagina < NumeroPaginas(); ++pagina) {
+        for (const TextoDePagina& texto : TextosDePagina(*paginas_, pagina)) {
+            const QString llano = Llano(texto.Texto);
+            for (qsizetype i = llano.indexOf(buscado); i >= 0; i = llano.indexOf(buscado, i + buscado.size()))
+                hallazgos_.push_back({pagina, texto.Parte(i, buscado.size())});
+        }
     }
     viewport()->update();
 }

@@ -7,7 +7,7 @@
 #include <memory>
 #include <vector>
 
-#include "reports/salidas/qt/Paginador.h"
+#include "reports/salidas/qt/TextosDePagina.h"
 
 namespace trabex::salidas::qt {
 
@@ -43,6 +43,11 @@ class VistaPaginas : public QAbstractScrollArea {
     /// Shows the next answer, or the one before. Its number, from 1; 0 when there is none.
     int IrAlHallazgo(bool adelante);
 
+    /// Texts are chosen with the mouse, by the rectangle that it draws on a page, or all of the page in
+    /// sight; Ctrl+C and the menu copy them.
+    void ElegirTodo();
+    void Copiar() const;
+
     std::function<void(int pagina)> AlCambiarPagina;
     std::function<void(double porcentaje)> AlCambiarZoom;
     std::function<void()> AlCambiarTamano;  ///< of the view
@@ -53,6 +58,9 @@ class VistaPaginas : public QAbstractScrollArea {
     void scrollContentsBy(int dx, int dy) override;
     void wheelEvent(QWheelEvent* evento) override;
     void keyPressEvent(QKeyEvent* evento) override;
+    void mousePressEvent(QMouseEvent* evento) override;
+    void mouseMoveEvent(QMouseEvent* evento) override;
+    void contextMenuEvent(QContextMenuEvent* evento) override;
 
   private:
     struct Hallazgo {
@@ -64,9 +72,11 @@ class VistaPaginas : public QAbstractScrollArea {
     QSize Lado() const;         // of a page on the screen
     int Paso() const;
     QRect Lugar(int pagina) const;
+    QPointF EnPagina(int pagina, const QPointF& lugar) const;
+    void Elegir(int pagina, const QRectF& donde);
     void Acomodar();
     const QPixmap& Estampa(int pagina);
-    void PintarHallazgos(QPainter& pintor, int pagina) const;
+    void PintarMarcas(QPainter& pintor, int pagina) const;
 
     std::unique_ptr<const Paginador> paginas_;
     int columnas_ = 1;
@@ -76,6 +86,9 @@ class VistaPaginas : public QAbstractScrollArea {
     std::vector<Hallazgo> hallazgos_;
     int hallazgo_ = -1;
     int paginaAvisada_ = 0;
+    std::vector<TextoDePagina> elegidos_;  // of one page
+    int paginaElegida_ = -1;
+    QPointF desdeDonde_;  // where the mouse began to choose, in the units of the pages
 };
 
 }  // namespace trabex::salidas::qt
