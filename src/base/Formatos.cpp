@@ -15,13 +15,14 @@ namespace {
 std::string DigitosRedondeados(double valor, int decimales) {
     constexpr int significativos = 15;
     std::array<char, 40> texto{};
-    std::snprintf(texto.data(), texto.size(), "%.*e", significativos - 1, std::fabs(valor));
+    const auto fin = std::to_chars(texto.data(), texto.data() + texto.size(), std::fabs(valor),
+                                   std::chars_format::scientific, significativos - 1);
     std::string digitos{texto[0]};
     digitos.append(&texto[2], significativos - 1);
     int exponente = 0;
     const char* cifras =
         &texto[significativos + 2];  // after "e", a sign that from_chars takes only as a minus
-    std::from_chars(cifras + (*cifras == '+' ? 1 : 0), texto.data() + texto.size(), exponente);
+    std::from_chars(cifras + (*cifras == '+' ? 1 : 0), fin.ptr, exponente);
 
     // Digits to keep: the whole part has exponente + 1 of them.
     const int conservar = exponente + 1 + decimales;

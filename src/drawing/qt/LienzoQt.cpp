@@ -62,6 +62,13 @@ bool DeEjes(std::span<const PuntoLienzo> puntos) {
 
 }  // namespace
 
+QFont FuenteDeLienzo(const Fuente& fuente) {
+    QFont nueva(FamiliasDe(QString::fromStdString(fuente.Nombre)));
+    nueva.setPointSizeF(std::clamp(fuente.Puntos, 0.5, 5000.0));
+    nueva.setBold(fuente.Negrita);
+    return nueva;
+}
+
 const MemoriaDeTextos::Preparado& MemoriaDeTextos::Buscar(std::string_view texto, const QFont& fuente,
                                                           const QFontMetricsF& metrica) {
     constexpr qsizetype limite = 8192;
@@ -112,8 +119,8 @@ void LienzoQt::Limpiar() {
 }
 
 void LienzoQt::PonerFuente(const Fuente& fuente) {
-    QFont nueva(FamiliasDe(QString::fromStdString(fuente.Nombre)));
-    nueva.setPointSizeF(std::clamp(fuente.Puntos, 0.5, 5000.0) * porPunto_);
+    QFont nueva = FuenteDeLienzo(fuente);
+    nueva.setPointSizeF(nueva.pointSizeF() * porPunto_);
     if (!deAparato_) nueva.setHintingPreference(QFont::PreferNoHinting);
     nueva.setBold(fuente.Negrita);
     if (metrica_ && nueva == fuente_) return;

@@ -13,6 +13,9 @@
 
 namespace trabex::dibujo::qt {
 
+/// The font of a drawing as the toolkit knows it, with others to fall back on where it is not installed.
+QFont FuenteDeLienzo(const Fuente& fuente);
+
 /// Shaped texts of earlier redraws: a drawing that is panned shows the same ones again. One per surface. A
 /// zoom step brings a new size of each text, so it starts afresh when it is full.
 class MemoriaDeTextos {

@@ -1,0 +1,116 @@
+#include "reports/salidas/ArchivoPdf.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <cstdio>
+
+#include <zlib.h>
+
+#include "base/Texto.h"
+
+namespace trabex::salidas {
+
+namespace {
+
+/// Pages are mostly short numbers: the fastest way takes a tenth more room and a third of the time.
+constexpr int Rapidez = Z_BEST_SPEED;
+
+std::string Comprimido(std::string_view bytes) {
+    uLongf largo = compressBound(static_cast<uLong>(bytes.size()));
+    std::string salida(largo, '\0');
+    if (compress2(reinterpret_cast<Bytef*>(salida.data()), &largo,
+                  reinterpret_cast<const Bytef*>(bytes.data()), static_cast<uLong>(bytes.size()),
+                  Rapidez) != Z_OK)
+        throw ErrorEjecucion(CodigoError::ErrorDispositivo);
+    salida.resize(largo);
+    return salida;
+}
+
+}  // namespace
+
+std::string TextoPdf(std::string_view texto) {
+    std::string salida = "<FEFF";
+    const auto unidad = [&salida](std::uint32_t valor) {
+        std::array<char, 5> cifras{};
+        std::snprintf(cifras.data(), cifras.size(), "%04X", static_cast<unsigned>(valor & 0xFFFFU));
+        salida += cifras.data();
+    };
+    while (!texto.empty()) {
+        const char32_t c = TomarCaracter(texto);
+        if (c >= 0x10000) unidad(0xD7C0 + (c >> 10));
+        unidad(c >= 0x10000 ? 0xDC00 + (c & 0x3FF) : c);
+    }
+    return salida + ">";
+}
+
+void AgregarNumeroPdf(std::string& salida, double valor) {
+    constexpr double limite = 1e12;
+    constexpr std::int64_t milesimas = 1000;
+    const double acotado = std::isfinite(valor) ? std::fmin(std::fmax(valor, -limite), limite) : 0;
+    std::int64_t entero = std::llround(acotado * milesimas);
+    if (entero < 0) {
+        salida += '-';
+        entero = -entero;
+    }
+    std::array<char, 24> cifras{};
+    const auto fin = std::to_chars(cifras.data(), cifras.data() + cifras.size(), entero / milesimas);
+    salida.append(cifras.data(), fin.ptr);
+    std::int64_t resto = entero % milesimas;
+    if (resto == 0) return;
+    salida += '.';
+    for (std::int64_t peso = milesimas / 10; resto > 0; peso /= 10) {
+        salida += static_cast<char>('0' + resto / peso);
+        resto %= peso;
+    }
+}
+
+ArchivoPdf::ArchivoPdf(ArchivoNuevo& destino) : destino_(destino) {
+    Escribir("%PDF-1.4\n%\xE2\xE3\xCF\xD3\n");
+}
+
+std::size_t ArchivoPdf::Reservar() {
+    lugares_.push_back(0);
+    return lugares_.size() - 1;
+}
+
+void ArchivoPdf::Escribir(std::string_view bytes) {
+    destino_.Escribir(bytes);
+    largo_ += bytes.size();
+}
+
+void ArchivoPdf::Empezar(std::size_t numero) {
+    lugares_[numero] = largo_;
+    Escribir(std::to_string(numero) + " 0 obj\n");
+}
+
+void ArchivoPdf::Objeto(std::size_t numero, std::string_view contenido) {
+    Empezar(numero);
+    Escribir("<<" + std::string(contenido) + ">>\nendobj\n");
+}
+
+void ArchivoPdf::Flujo(std::size_t numero, std::string_view contenido, std::string_view bytes,
+                       bool comprimir) {
+    const std::string comprimidos = comprimir ? Comprimido(bytes) : std::string();
+    const std::string_view guardados = comprimir ? std::string_view(comprimidos) : bytes;
+    Empezar(numero);
+    Escribir("<<" + std::string(contenido) + (comprimir ? "/Filter/FlateDecode" : "") + "/Length " +
+             std::to_string(guardados.size()) + ">>\nstream\n");
+    Escribir(guardados);
+    Escribir("\nendstream\nendobj\n");
+}
+
+void ArchivoPdf::Terminar(std::size_t raiz, std::size_t ficha) {
+    const std::size_t tabla = largo_;
+    std::string fin = "xref\n0 " + std::to_string(lugares_.size()) + "\n0000000000 65535 f \n";
+    for (std::size_t i = 1; i < lugares_.size(); ++i) {
+        std::array<char, 32> entrada{};
+        std::snprintf(entrada.data(), entrada.size(), "%010zu 00000 n \n", lugares_[i]);
+        fin += entrada.data();
+    }
+    Escribir(fin + "trailer\n<</Size " + std::to_string(lugares_.size()) + "/Root " + Enlace(raiz) +
+             "/Info " + Enlace(ficha) + ">>\nstartxref\n" + std::to_string(tabla) + "\n%%EOF\n");
+}
+
+}  // namespace trabex::salidas

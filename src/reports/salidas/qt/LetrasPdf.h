@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QFont>
+#include <QHash>
+#include <QRawFont>
+#include <QString>
+#include <array>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "reports/salidas/ArchivoPdf.h"
+
+namespace trabex::salidas::qt {
+
+/// The fonts of a PDF file, whatever their size: each is embedded once, with the glyphs that were used and
+/// the characters that they stand for.
+class LetrasPdf {
+  public:
+    /// A stretch of a text in one font: its glyphs in hexadecimal, and how far it stands from the text's
+    /// beginning, in sizes of the font.
+    struct Tramo {
+        std::size_t Letra = 0;
+        std::string Glifos;
+        double x = 0;
+        double y = 0;
+    };
+    /// A text in a font of the toolkit, in others where that one has not its characters.
+    std::vector<Tramo> Componer(const QFont& fuente, const QString& texto);
+    /// How high a font stands over its foot line, in sizes of it.
+    double Ascenso(const QFont& fuente);
+
+    /// The name of a font in a page's resources.
+    static std::string Nombre(std::size_t letra) { return "/F" + std::to_string(letra); }
+    /// Writes them, and gives the inside of the dictionary in which pages find them.
+    std::string Escribir(ArchivoPdf& archivo) const;
+
+  private:
+    struct Letra {
+        QRawFont Fuente;
+        std::array<quint32, 256> Latinos{};       // glyphs of the first characters; 0 where it has none
+        std::map<std::uint32_t, QString> Usados;  // glyphs, with what they stand for
+    };
+    struct Elegida {
+        QFont Fuente;
+        std::size_t Numero = 0;
+    };
+    std::size_t Numero(const QFont& fuente);
+    std::size_t Numero(const QRawFont& fuente);
+    bool ComponerSencillo(Letra& letra, const QString& texto, std::string& glifos);
+    std::vector<Tramo> ComponerPorPartes(const QFont& fuente, const QString& texto);
+    static void EscribirLetra(ArchivoPdf& archivo, std::size_t numero, std::size_t orden, const Letra& letra);
+
+    std::vector<std::unique_ptr<Letra>> letras_;
+    QHash<QString, std::size_t> porFuente_;
+    QHash<QString, std::size_t> porNombre_;
+    Elegida ultima_;
+    bool hayUltima_ = false;
+};
+
+}  // namespace trabex::salidas::qt
