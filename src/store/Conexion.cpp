@@ -22,8 +22,8 @@ bool CopiarBase(Motor& destino, Motor& origen) {
     return sqlite3_backup_finish(copia) == SQLITE_OK;
 }
 
-/// Indexes every table that has names. Only ever on a copy: in a file, an index in this order would mislead a
-/// program that compares names otherwise.
+/// Indexes every table that has names. Only ever on a copy: in a file that stays, an index in this order
+/// would mislead a program that compares names otherwise.
 void IndexarNombres(Motor& motor) {
     const SentenciaSqlite tablas = motor.Preparar(
         "SELECT m.name FROM sqlite_master m, pragma_table_info(m.name) c"
@@ -61,6 +61,14 @@ void Conexion::Cerrar() {
 void AbrirConexion(Conexion& conexion, const std::filesystem::path& camino) {
     conexion.motor_ = AbrirSano(camino);
     conexion.fallida_ = conexion.motor_ == nullptr;
+}
+
+void AbrirDeTrabajo(Conexion& conexion, const std::filesystem::path& camino) {
+    AbrirConexion(conexion, camino);
+    if (!conexion.Abierta()) return;
+    conexion.motor_->Consultar("PRAGMA journal_mode = MEMORY");
+    conexion.motor_->Consultar("PRAGMA synchronous = OFF");
+    IndexarNombres(*conexion.motor_);
 }
 
 void CopiarEnMemoria(Conexion& origen, Conexion& copia) {

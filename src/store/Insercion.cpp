@@ -1,6 +1,8 @@
 #include "store/Insercion.h"
 
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "store/Columna.h"
@@ -50,13 +52,16 @@ Insercion::Insercion(Conexion& conexion, std::string_view tabla) {
 
 Insercion::~Insercion() = default;
 
-void Insercion::Poner(std::string_view campo, const Valor& valor) {
-    if (!interna_) return;
+bool Insercion::Poner(std::string_view campo, const Valor& valor) {
+    if (!interna_) return false;
     for (std::size_t i = 0; i < interna_->columnas.size(); ++i) {
         if (interna_->columnas[i].Nombre != campo) continue;
-        interna_->fila[i] = Admitir(interna_->columnas[i], valor).value_or(Valor{});
-        return;
+        std::optional<Valor> admitido = Admitir(interna_->columnas[i], valor);
+        const bool puesto = admitido.has_value();
+        interna_->fila[i] = puesto ? std::move(*admitido) : Valor{};
+        return puesto;
     }
+    return false;
 }
 
 bool Insercion::Agregar() {

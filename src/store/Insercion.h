@@ -22,8 +22,9 @@ class Insercion {
     bool Abierta() const { return interna_ != nullptr; }
 
     /// Sets a column of the row to come. A value that the column refuses, an infinity or NaN among them,
-    /// leaves it null: a row of a report is worth more than its worst number.
-    void Poner(std::string_view campo, const Valor& valor);
+    /// leaves it null: a row of a report is worth more than its worst number. False then, and where there is
+    /// no such column.
+    bool Poner(std::string_view campo, const Valor& valor);
     /// Adds the row; what was not set in it is null. False when the engine refused.
     bool Agregar();
 

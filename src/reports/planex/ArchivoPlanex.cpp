@@ -35,11 +35,10 @@ constexpr std::array<const char*, 14> TablasQueSeVacian{"LosaComputos",
 
 using Campo = std::pair<const char*, almacen::Valor>;
 
-bool AgregarFila(almacen::Recordset& tabla, std::initializer_list<Campo> campos) {
-    tabla.AgregarNuevo();
+bool AgregarFila(almacen::Insercion& tabla, std::initializer_list<Campo> campos) {
     bool puestos = true;
     for (const auto& [campo, valor] : campos) puestos = tabla.Poner(campo, valor) && puestos;
-    return puestos && tabla.Actualizar();
+    return puestos && tabla.Agregar();
 }
 
 /// A literal of the contract.
@@ -68,7 +67,7 @@ almacen::Valor AceroDeTramo(const losas::ResultadosLosa& resultados, std::size_t
     return i < resultados.DisenoTramo.size() ? resultados.DisenoTramo[i].AS2 : 0.0;
 }
 
-bool AgregarDatos(almacen::Recordset& tabla, const std::string& nombre, const losas::Losa& losa) {
+bool AgregarDatos(almacen::Insercion& tabla, const std::string& nombre, const losas::Losa& losa) {
     // A solid slab's row leaves the fields of ribs without a value.
     const auto deNervada = [&](double valor) {
         return losa.OpcionMaciza ? almacen::Valor{} : almacen::Valor{valor};
@@ -89,7 +88,7 @@ bool AgregarDatos(almacen::Recordset& tabla, const std::string& nombre, const lo
                                {"OpcionLosaF", false}});
 }
 
-bool AgregarNervio(almacen::Recordset& tabla, const std::string& nombre, const losas::Losa& losa,
+bool AgregarNervio(almacen::Insercion& tabla, const std::string& nombre, const losas::Losa& losa,
                    std::size_t i) {
     const NervioPlanex nervio = NervioParaPlanex(losa, i);
     return AgregarFila(tabla, {{"Nombre", nombre},
@@ -99,7 +98,7 @@ bool AgregarNervio(almacen::Recordset& tabla, const std::string& nombre, const l
                                {"Ancho", nervio.Ancho}});
 }
 
-bool AgregarEje(almacen::Recordset& tabla, const std::string& nombre, const losas::Losa& losa,
+bool AgregarEje(almacen::Insercion& tabla, const std::string& nombre, const losas::Losa& losa,
                 std::size_t i) {
     const EjePlanex eje = EjeParaPlanex(losa, i);
     return AgregarFila(tabla, {{"Nombre", nombre},
@@ -114,7 +113,7 @@ bool AgregarEje(almacen::Recordset& tabla, const std::string& nombre, const losa
 }
 
 /// The last axis has no span: its row has no steel of one.
-bool AgregarAcero(almacen::Recordset& tabla, const std::string& nombre, const losas::Losa& losa,
+bool AgregarAcero(almacen::Insercion& tabla, const std::string& nombre, const losas::Losa& losa,
                   const losas::ResultadosLosa& r, std::size_t i) {
     return AgregarFila(tabla, {{"Nombre", nombre},
                                {"Eje", Numero(i)},
@@ -160,8 +159,7 @@ bool EscribirProyectoPlanex(almacen::Conexion& destino, const DatosDelProyecto& 
                             const DatosGenerales& generales) {
     almacen::Transaccion guardado(destino);
     almacen::VaciarTabla(destino, "Proyecto");
-    almacen::Recordset tabla;
-    almacen::AbrirRecordset(destino, tabla, "Proyecto");
+    almacen::Insercion tabla(destino, "Proyecto");
     const bool escrita = AgregarFila(tabla, {{"Proyecto", datos.Proyecto},
                                              {"Cliente", datos.Cliente},
                                              {"Propietario", datos.Propietario},
@@ -185,13 +183,12 @@ bool EscribirProyectoPlanex(almacen::Conexion& destino, const DatosDelProyecto& 
     return escrita && guardado.Confirmar();
 }
 
-TablasPlanex::TablasPlanex(almacen::Conexion& destino) {
-    almacen::AbrirRecordset(destino, datos_, "LosaDatos");
-    almacen::AbrirRecordset(destino, tramos_, "LosaTramos");
-    almacen::AbrirRecordset(destino, nervios_, "LosaNervios");
-    almacen::AbrirRecordset(destino, ejes_, "LosaEjes");
-    almacen::AbrirRecordset(destino, teorico_, "LosaRefTeorico");
-}
+TablasPlanex::TablasPlanex(almacen::Conexion& destino)
+    : datos_(destino, "LosaDatos"),
+      tramos_(destino, "LosaTramos"),
+      nervios_(destino, "LosaNervios"),
+      ejes_(destino, "LosaEjes"),
+      teorico_(destino, "LosaRefTeorico") {}
 
 bool TablasPlanex::Agregar(const losas::Losa& losa, const losas::ResultadosLosa& resultados) {
     const std::string nombre = Recortar(losa.Nombre);

@@ -8,7 +8,7 @@
 #include "slab/Losa.h"
 #include "slab/ResultadosLosa.h"
 #include "store/Conexion.h"
-#include "store/Recordset.h"
+#include "store/Insercion.h"
 #include "store/antiguo/BaseEnJet.h"
 
 namespace trabex::planex {
@@ -51,7 +51,7 @@ class TablasPlanex {
     bool Agregar(const losas::Losa& losa, const losas::ResultadosLosa& resultados);
 
   private:
-    almacen::Recordset datos_, tramos_, nervios_, ejes_, teorico_;
+    almacen::Insercion datos_, tramos_, nervios_, ejes_, teorico_;
 };
 
 /// Writes a slab over its earlier rows, as one save: those of Planex's own tables go too. False when it could

@@ -15,7 +15,7 @@ BaseEnJet::BaseEnJet(const std::filesystem::path& programa, const std::filesyste
                      std::filesystem::path trabajo)
     : trabajo_(std::move(trabajo)) {
     if (EsBaseAntigua(archivo)) CopiarBaseAntigua(programa, archivo, trabajo_);
-    AbrirConexion(conexion_, trabajo_);
+    AbrirDeTrabajo(conexion_, trabajo_);
 }
 
 BaseEnJet::~BaseEnJet() {

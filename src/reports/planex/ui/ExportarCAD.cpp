@@ -157,8 +157,14 @@ int ExportarCAD::EscribirLosas(const std::vector<int>& filas, const std::filesys
     try {
         if (pantalla_.Opcion() == ArchivoCAD::CrearNuevo)
             Exigir(EscribirProyectoPlanex(destino, aplicacion_.Datos, aplicacion_.Generales), destino);
+        // A copy with its names indexed is read in a time that grows with the slabs, not with their square.
+        almacen::Recordset& lista = aplicacion_.Proyecto.RegistrosProyecto;
+        almacen::tablas::ProyectoAbierto copia{.ConexionProyecto = {}, .RegistrosProyecto = lista};
+        almacen::CopiarEnMemoria(aplicacion_.Proyecto.ConexionProyecto, copia.ConexionProyecto);
         for (const int fila : filas) {
-            const losas::Losa losa = LosaDe(fila);
+            losas::Losa losa;
+            lista.MoverA(fila);
+            almacen::tablas::LeerLosa(copia.ConexionProyecto.Abierta() ? copia : aplicacion_.Proyecto, losa);
             losas::ResultadosLosa resultados;
             losas::CalcularLosa(losa, aplicacion_.Generales, resultados);
             Exigir(ReemplazarLosaPlanex(destino, losa, resultados), destino);

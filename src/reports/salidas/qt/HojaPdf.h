@@ -7,6 +7,7 @@
 #include "drawing/Lienzo.h"
 #include "reports/salidas/qt/LetrasPdf.h"
 #include "reports/salidas/qt/Tinta.h"
+#include "store/Valor.h"
 
 namespace trabex::salidas::qt {
 
