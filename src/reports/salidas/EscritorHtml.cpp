@@ -198,12 +198,14 @@ std::string PaginaHtml::De(const documento::Imagen& imagen) const {
 
 }  // namespace
 
-void EscribirHtml(const documento::Documento& documento, const std::filesystem::path& destino) {
+void EscribirHtml(const documento::Documento& documento, const std::filesystem::path& destino,
+                  const Avance& avance) {
     ArchivoNuevo archivo(destino);
     const PaginaHtml pagina(documento);
     archivo.Escribir(pagina.Principio());
     for (std::size_t i = 0; i < documento.Secciones.size(); ++i) {
         const documento::Seccion& seccion = documento.Secciones[i];
+        Avisar(avance, i, documento.Secciones.size());
         const bool aparte = seccion.PaginaNueva && i > 0;
         const std::string clase = std::string(aparte ? " pagina" : "") + (seccion.Junta ? " junta" : "");
         archivo.Escribir("<div id=\"s" + std::to_string(i + 1) +

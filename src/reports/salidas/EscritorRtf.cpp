@@ -241,12 +241,14 @@ std::string TextoRico::De(const documento::Imagen& imagen) const {
 
 }  // namespace
 
-void EscribirRtf(const documento::Documento& documento, const std::filesystem::path& destino) {
+void EscribirRtf(const documento::Documento& documento, const std::filesystem::path& destino,
+                 const Avance& avance) {
     ArchivoNuevo archivo(destino);
     const TextoRico texto(documento);
     archivo.Escribir(texto.Principio());
     for (std::size_t i = 0; i < documento.Secciones.size(); ++i) {
         const documento::Seccion& seccion = documento.Secciones[i];
+        Avisar(avance, i, documento.Secciones.size());
         // No word processor keeps several tables together: a section that must stay whole begins a page.
         if (i > 0 && (seccion.PaginaNueva || seccion.Junta))
             archivo.Escribir(texto.De(documento::SaltoDePagina{}));

@@ -299,11 +299,12 @@ class EscritorDeHoja {
 
 }  // namespace
 
-xls::LibroXls LibroDe(const documento::Documento& documento) {
+xls::LibroXls LibroDe(const documento::Documento& documento, const Avance& avance) {
     xls::LibroXls libro;
     libro.Titulo = documento.Titulo;
     libro.Autor = documento.Autor;
     for (const documento::Seccion& seccion : documento.Secciones) {
+        Avisar(avance, libro.Hojas.size(), documento.Secciones.size());
         xls::HojaXls& hoja = libro.Hojas.emplace_back();
         hoja.Nombre = seccion.Nombre;
         hoja.Cuadricula = false;
@@ -313,8 +314,9 @@ xls::LibroXls LibroDe(const documento::Documento& documento) {
     return libro;
 }
 
-void EscribirXls(const documento::Documento& documento, const std::filesystem::path& destino) {
-    xls::GuardarXls(LibroDe(documento), destino);
+void EscribirXls(const documento::Documento& documento, const std::filesystem::path& destino,
+                 const Avance& avance) {
+    xls::GuardarXls(LibroDe(documento, avance), destino);
 }
 
 }  // namespace trabex::salidas

@@ -48,10 +48,10 @@ void MotorReportes::Registrar(int codigo, EscritorReporte escritor) {
 }
 
 void MotorReportes::Exportar(const documento::Documento& documento, int codigo,
-                             const std::filesystem::path& destino) const {
+                             const std::filesystem::path& destino, const Avance& avance) const {
     const auto escritor = escritores_.find(codigo);
     if (escritor == escritores_.end()) throw ErrorEjecucion(CodigoError::ArgumentoInvalido);
-    escritor->second(documento, destino);
+    escritor->second(documento, destino, avance);
 }
 
 }  // namespace trabex::salidas

@@ -7,6 +7,7 @@
 
 #include "reports/documento/Documento.h"
 #include "reports/documento/MaquetaReporte.h"
+#include "reports/salidas/Avance.h"
 
 namespace trabex::salidas {
 
@@ -38,8 +39,9 @@ class Reporte {
     std::optional<documento::Documento> compuesto_;
 };
 
-/// Writes a document to a file. Throws ErrorEjecucion; an older file then stays.
-using EscritorReporte = std::function<void(const documento::Documento&, const std::filesystem::path&)>;
+/// Writes a document to a file. Throws ErrorEjecucion, or EscrituraCancelada; an older file then stays.
+using EscritorReporte =
+    std::function<void(const documento::Documento&, const std::filesystem::path&, const Avance&)>;
 
 /// The report engine: opens layouts and writes reports to files by the format's code.
 class MotorReportes {
@@ -51,8 +53,8 @@ class MotorReportes {
     void Registrar(int codigo, EscritorReporte escritor);
 
     /// Throws ErrorEjecucion: 5 when no writer has the code, and as the writers do.
-    void Exportar(const documento::Documento& documento, int codigo,
-                  const std::filesystem::path& destino) const;
+    void Exportar(const documento::Documento& documento, int codigo, const std::filesystem::path& destino,
+                  const Avance& avance = {}) const;
 
   private:
     std::map<int, EscritorReporte> escritores_;

@@ -1,5 +1,7 @@
 #include "reports/ui/SalidaReporte.h"
 
+#include <chrono>
+
 #include "base/Archivos.h"
 
 namespace trabex::reportes::ui {
@@ -39,14 +41,42 @@ std::optional<std::filesystem::path> ExportadorReportes::PedirArchivo(std::uint8
     return elegido;
 }
 
-void ExportadorReportes::Exportar(const documento::Documento& documento, std::uint8_t salida) {
+/// With a panel, which repaints the windows below it now and then. False when it was cancelled.
+bool ExportadorReportes::Escribir(const documento::Documento& documento, std::uint8_t salida) {
     const std::filesystem::path& archivo = entorno_.Estado.ArchivoExportado;
-    entorno_.Motor.Exportar(documento, Salidas[salida].Codigo, archivo);
+    const int codigo = Salidas[salida].Codigo;
+    if (!entorno_.CrearPanel) {
+        entorno_.Motor.Exportar(documento, codigo, archivo);
+        return true;
+    }
+    using Reloj = std::chrono::steady_clock;
+    constexpr auto paso = std::chrono::milliseconds(50);
+    const std::unique_ptr<montaje::PanelProgreso> panel = entorno_.CrearPanel();
+    const auto aLaVista = montaje::PanelALaVista(*panel);
+    const std::string rotulo = "Exportando el Reporte: " + TextoDeCamino(archivo.filename());
+    Reloj::time_point ultimo{};
+    try {
+        entorno_.Motor.Exportar(documento, codigo, archivo, [&](double parte) {
+            if (Reloj::now() - ultimo < paso) return true;
+            panel->Avanzar(100 * parte, rotulo);
+            ultimo = Reloj::now();
+            return !panel->Cancelado();
+        });
+    } catch (const salidas::EscrituraCancelada&) {
+        return false;
+    }
+    return true;
+}
+
+bool ExportadorReportes::Exportar(const documento::Documento& documento, std::uint8_t salida) {
+    if (!Escribir(documento, salida)) return false;
+    const std::filesystem::path& archivo = entorno_.Estado.ArchivoExportado;
     const std::string texto = "¿Desea Abrir el Archivo " + TextoDeCamino(archivo) + "?";
     if (entorno_.Servicios.Caja.Mostrar(programa::Pregunta(texto, "Abrir el Archivo Exportado...")) !=
         programa::RespuestaSi)
-        return;
+        return true;
     if (!entorno_.Servicios.Sistema.AbrirArchivo(archivo)) throw SinProgramaQueAbra();
+    return true;
 }
 
 bool ExportadorReportes::HayImpresoras() {
@@ -94,10 +124,8 @@ bool SalidaReporte::Enviar(std::uint8_t salida) {
     const documento::Documento& documento = reporte.Contenido();
     pantalla_.PunteroDeEspera(false);
     if (salida == SalidaImpresora) return exportador_.Imprimir(documento);
-    if (EsArchivo(salida))
-        exportador_.Exportar(documento, salida);
-    else
-        pantalla_.Ver(documento);
+    if (EsArchivo(salida)) return exportador_.Exportar(documento, salida);
+    pantalla_.Ver(documento);
     return true;
 }
 

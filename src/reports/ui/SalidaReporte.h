@@ -3,11 +3,14 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "reports/montaje/BaseTemporal.h"
+#include "reports/montaje/PanelProgreso.h"
 #include "reports/montaje/PapelDeGraficos.h"
 #include "reports/salidas/MotorReportes.h"
 #include "shell/Aplicacion.h"
@@ -84,6 +87,8 @@ struct EntornoSalida {
     salidas::MotorReportes& Motor;
     Impresoras& LasImpresoras;
     programa::Servicios Servicios;
+    /// Makes the panel of a file that is written, which can be cancelled; empty: none is shown.
+    std::function<std::unique_ptr<montaje::PanelProgreso>()> CrearPanel{};
 
     /// Where reports are staged.
     montaje::EntornoReportes Montaje() const;
@@ -97,8 +102,9 @@ class ExportadorReportes {
     void AbrirCarpeta();
     /// Asks for the file of an output and keeps it as the exported one. Nothing when the engineer cancels.
     std::optional<std::filesystem::path> PedirArchivo(std::uint8_t salida);
-    /// Writes the exported file and offers to open it. Throws ErrorEjecucion.
-    void Exportar(const documento::Documento& documento, std::uint8_t salida);
+    /// Writes the exported file and offers to open it. False when the engineer cancels: what stood there then
+    /// stays. Throws ErrorEjecucion.
+    bool Exportar(const documento::Documento& documento, std::uint8_t salida);
     /// There is a printer to print on; otherwise says so.
     bool HayImpresoras();
     /// On the program's printer. False when nothing was printed. Throws ErrorEjecucion.
@@ -106,6 +112,8 @@ class ExportadorReportes {
     void Avisar(const ErrorEjecucion& error);
 
   private:
+    bool Escribir(const documento::Documento& documento, std::uint8_t salida);
+
     EntornoSalida& entorno_;
 };
 

@@ -35,10 +35,10 @@ class Escritura {
     Escritura(const documento::Documento& documento, ArchivoNuevo& destino)
         : documento_(documento), paginas_(documento), archivo_(destino), imagenes_(archivo_) {}
 
-    void Escribir() {
+    void Escribir(const Avance& avance) {
         const std::size_t raiz = archivo_.Reservar();
         const std::size_t ficha = archivo_.Reservar();
-        EscribirPaginas();
+        EscribirPaginas(avance);
         const QDateTime ahora = QDateTime::currentDateTime();
         const std::size_t metadatos = archivo_.Reservar();
         archivo_.Flujo(metadatos, "/Type/Metadata/Subtype/XML",
@@ -53,12 +53,13 @@ class Escritura {
     }
 
   private:
-    void EscribirPaginas() {
+    void EscribirPaginas(const Avance& avance) {
         arbol_ = archivo_.Reservar();
         const std::size_t recursos = archivo_.Reservar();
         const double alto = paginas_.Papel().Alto * Milimetro;
         std::string hijas;
         for (int i = 0; i < paginas_.NumeroPaginas(); ++i) {
+            Avisar(avance, numeros_.size(), static_cast<std::size_t>(paginas_.NumeroPaginas()));
             TintaPdf tinta(letras_, imagenes_, alto);
             paginas_.Pintar(i, tinta);
             const std::size_t contenido = archivo_.Reservar();
@@ -113,9 +114,10 @@ class Escritura {
 
 }  // namespace
 
-void EscribirPdf(const documento::Documento& documento, const std::filesystem::path& destino) {
+void EscribirPdf(const documento::Documento& documento, const std::filesystem::path& destino,
+                 const Avance& avance) {
     ArchivoNuevo archivo(destino);
-    Escritura(documento, archivo).Escribir();
+    Escritura(documento, archivo).Escribir(avance);
     archivo.Colocar();
 }
 

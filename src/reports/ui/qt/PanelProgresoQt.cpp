@@ -3,13 +3,14 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "shell/qt/ComunVentanas.h"
 
 namespace trabex::reportes::ui::qt {
 
-PanelProgresoQt::PanelProgresoQt(QWidget* ventana)
+PanelProgresoQt::PanelProgresoQt(QWidget* ventana, bool cancelable)
     : panel_(ventana, Qt::Dialog | Qt::FramelessWindowHint),
       rotulo_(new QLabel(&panel_)),
       barra_(new QProgressBar(&panel_)) {
@@ -21,12 +22,19 @@ PanelProgresoQt::PanelProgresoQt(QWidget* ventana)
     columna->setSpacing(10);
     columna->addWidget(rotulo_);
     columna->addWidget(barra_);
+    panel_.Cancelable = cancelable;
+    if (cancelable) {
+        auto* cancelar = programa::qt::Boton(" Cancelar ", "", &panel_);
+        QObject::connect(cancelar, &QPushButton::clicked, &panel_, &QDialog::reject);
+        columna->addWidget(cancelar, 0, Qt::AlignRight);
+    }
     // A frameless window needs an edge of its own, in the colours of the theme.
     panel_.setStyleSheet("QDialog#PanelProgreso { border: 1px solid palette(mid); }");
 }
 
 void PanelProgresoQt::Mostrar() {
     barra_->setValue(0);
+    panel_.Cancelado = false;
     rotulo_->clear();
     panel_.adjustSize();
     if (const QWidget* ventana = panel_.parentWidget()) {

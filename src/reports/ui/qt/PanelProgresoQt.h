@@ -10,14 +10,15 @@ class QProgressBar;
 namespace trabex::reportes::ui::qt {
 
 /// The progress panel: over its window, which takes no command meanwhile. Nothing closes it but the end of
-/// the work.
+/// the work, or " Cancelar " and Escape where the work can be left half done.
 class PanelProgresoQt : public montaje::PanelProgreso {
   public:
-    explicit PanelProgresoQt(QWidget* ventana);
+    explicit PanelProgresoQt(QWidget* ventana, bool cancelable = false);
 
     void Mostrar() override;
     void Avanzar(double porcentaje, const std::string& rotulo) override;
     void Ocultar() override;
+    bool Cancelado() const override { return panel_.Cancelado; }
 
     QWidget* Ventana() { return &panel_; }
 
@@ -25,7 +26,9 @@ class PanelProgresoQt : public montaje::PanelProgreso {
     class Panel : public QDialog {
       public:
         using QDialog::QDialog;
-        void reject() override {}
+        void reject() override { Cancelado = Cancelable; }
+        bool Cancelable = false;
+        bool Cancelado = false;
     };
     Panel panel_;
     QLabel* rotulo_;

@@ -1,6 +1,9 @@
 #include "reports/ui/qt/SalidaDelPrograma.h"
 
+#include <QApplication>
+
 #include "reports/salidas/qt/EscritorPdf.h"
+#include "reports/ui/qt/PanelProgresoQt.h"
 
 namespace trabex::reportes::ui::qt {
 
@@ -10,7 +13,9 @@ SalidaDelPrograma::SalidaDelPrograma() {
 
 EntornoSalida SalidaDelPrograma::Entorno(programa::Aplicacion& aplicacion,
                                          const programa::Servicios& servicios) {
-    return {aplicacion, Estado, Motor, Impresoras, servicios};
+    return {aplicacion, Estado,
+            Motor,      Impresoras,
+            servicios,  [] { return std::make_unique<PanelProgresoQt>(QApplication::activeWindow(), true); }};
 }
 
 }  // namespace trabex::reportes::ui::qt
