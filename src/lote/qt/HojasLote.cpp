@@ -8,14 +8,13 @@
 
 #include "base/Archivos.h"
 #include "base/Edicion.h"
-#include "drawing/qt/ImagenDeHoja.h"
+#include "drawing/Superficie.h"
 #include "drawing/qt/PapelQt.h"
+#include "reports/montaje/qt/SuperficieQt.h"
 
 namespace trabex::lote::qt {
 
 namespace {
-
-constexpr int CompresionRapida = 80;  // of PNG: the same pixels in a third of the time
 
 /// A name without the characters that file systems refuse.
 std::string ParaArchivo(std::string nombre) {
@@ -32,12 +31,10 @@ void Escribir(const QBuffer& bytes, const std::filesystem::path& archivo) {
 }
 
 void EscribirPng(const Dibujo& dibujo, const std::filesystem::path& archivo) {
-    const QImage imagen =
-        dibujo::qt::DibujarImagen(dibujo::qt::AnchoSuperficie, dibujo::qt::AltoSuperficie, 1, dibujo.Dibujar);
-    QBuffer bytes;
-    bytes.open(QIODevice::WriteOnly);
-    if (!imagen.save(&bytes, "PNG", CompresionRapida)) throw ErrorEjecucion(CodigoError::ErrorDispositivo);
-    Escribir(bytes, archivo);
+    montaje::qt::SuperficieQt superficie(1);
+    superficie.Dibujar(dibujo::AnchoGraficoTwips, dibujo::AltoGraficoTwips, dibujo.Dibujar);
+    const almacen::Bytes png = superficie.Png();
+    EscribirArchivo(archivo, {reinterpret_cast<const char*>(png.data()), png.size()});
 }
 
 /// Each drawing on its page of A4 across.

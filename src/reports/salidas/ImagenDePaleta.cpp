@@ -58,14 +58,34 @@ void Admitir(std::vector<Rgb>& paleta, std::vector<ColorContado>& colores, Rgb c
     paleta.push_back(color);
 }
 
+/// A value for each colour. Drawings have few, one after another the same: those seen last are found at once.
+template <class Valor>
+class PorColor {
+  public:
+    Valor& operator[](Rgb color) {
+        Visto& visto = vistos_[(color * 2654435761U) >> 20U];
+        if (visto.Donde == nullptr || visto.Color != color) visto = {color, &todos_[color]};
+        return *visto.Donde;
+    }
+    const std::unordered_map<Rgb, Valor>& Todos() const { return todos_; }
+
+  private:
+    struct Visto {
+        Rgb Color = 0;
+        Valor* Donde = nullptr;
+    };
+    std::unordered_map<Rgb, Valor> todos_;
+    std::vector<Visto> vistos_ = std::vector<Visto>(4096);
+};
+
 /// Numbers of the colours. The palette holds the most frequent ones, and then those that are farthest from
 /// it.
-std::unordered_map<Rgb, std::uint8_t> Numerar(std::span<const Rgb> pixeles, std::vector<Rgb>& paleta) {
-    std::unordered_map<Rgb, std::size_t> veces;
+PorColor<std::uint8_t> Numerar(std::span<const Rgb> pixeles, std::vector<Rgb>& paleta) {
+    PorColor<std::size_t> veces;
     PorTramos(pixeles, [&](std::size_t, std::size_t largo, Rgb color) { veces[color] += largo; });
     std::vector<ColorContado> colores;
-    colores.reserve(veces.size());
-    for (const auto& [color, cuenta] : veces) colores.push_back({color, cuenta});
+    colores.reserve(veces.Todos().size());
+    for (const auto& [color, cuenta] : veces.Todos()) colores.push_back({color, cuenta});
     std::sort(colores.begin(), colores.end(), [](const ColorContado& a, const ColorContado& b) {
         return std::pair(b.Veces, b.Color) < std::pair(a.Veces, a.Color);
     });
@@ -74,10 +94,10 @@ std::unordered_map<Rgb, std::uint8_t> Numerar(std::span<const Rgb> pixeles, std:
     while (paleta.size() < std::min(Colores, colores.size())) {
         const auto lejano = std::max_element(
             colores.begin(), colores.end(),
-            [](const ColorContado& a, const ColorContado& b) { return a.Lejania < b.Lejania; });
+            [](const ColorContado& x, const ColorContado& y) { return x.Lejania < y.Lejania; });
         Admitir(paleta, colores, lejano->Color);
     }
-    std::unordered_map<Rgb, std::uint8_t> numeros;
+    PorColor<std::uint8_t> numeros;
     for (const ColorContado& c : colores) numeros[c.Color] = static_cast<std::uint8_t>(c.Cercano);
     return numeros;
 }
@@ -174,9 +194,9 @@ bool Descomprimir(const almacen::Bytes& bytes, std::size_t desde, FilasDeMapa& f
 
 ImagenDePaleta ReducirColores(std::span<const std::uint32_t> pixeles, std::size_t ancho, std::size_t alto) {
     ImagenDePaleta imagen{ancho, alto, {}, std::vector<std::uint8_t>(ancho * alto), 0};
-    const auto numeros = Numerar(pixeles, imagen.Paleta);
+    PorColor<std::uint8_t> numeros = Numerar(pixeles, imagen.Paleta);
     PorTramos(pixeles, [&](std::size_t desde, std::size_t largo, Rgb color) {
-        std::fill_n(imagen.Pixeles.begin() + static_cast<std::ptrdiff_t>(desde), largo, numeros.at(color));
+        std::fill_n(imagen.Pixeles.begin() + static_cast<std::ptrdiff_t>(desde), largo, numeros[color]);
     });
     return imagen;
 }

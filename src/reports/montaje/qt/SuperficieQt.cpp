@@ -4,7 +4,6 @@
 
 #include "drawing/Trazos.h"
 #include "drawing/qt/ImagenDeHoja.h"
-#include "reports/salidas/ImagenDePaleta.h"
 #include "reports/salidas/ImagenPng.h"
 
 namespace trabex::montaje::qt {
@@ -25,14 +24,23 @@ void SuperficieQt::Dibujar(std::int32_t ancho, std::int32_t alto,
                                         });
 }
 
-ImagenMontada SuperficieQt::Imagen() const {
+salidas::ImagenDePaleta SuperficieQt::Reducida() const {
     const auto ancho = static_cast<std::size_t>(imagen_.width());
     const auto alto = static_cast<std::size_t>(imagen_.height());
     const auto* pixeles = reinterpret_cast<const std::uint32_t*>(imagen_.constBits());
     salidas::ImagenDePaleta reducida = salidas::ReducirColores({pixeles, ancho * alto}, ancho, alto);
     reducida.PuntosPorMetro = static_cast<std::int32_t>(dibujo::qt::PuntosPorMetro * finura_);
+    return reducida;
+}
+
+ImagenMontada SuperficieQt::Imagen() const {
+    const salidas::ImagenDePaleta reducida = Reducida();
     const auto* trazos = reinterpret_cast<const std::byte*>(trazos_.data());
     return {salidas::MapaDeBitsDe(reducida), salidas::PngDe(reducida), {trazos, trazos + trazos_.size()}};
+}
+
+almacen::Bytes SuperficieQt::Png() const {
+    return salidas::PngDe(Reducida());
 }
 
 almacen::Bytes SuperficieQt::Foto() const {
