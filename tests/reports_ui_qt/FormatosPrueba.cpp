@@ -1,5 +1,6 @@
 // Every number of the scratch database reaches every format, as programs of others read it.
 
+#include <QFileInfo>
 #include <QImage>
 #include <QRegularExpression>
 #include <csignal>
@@ -7,6 +8,9 @@
 #include <sys/resource.h>
 
 #include "ReportePreparado.h"
+#include "drawing/Primitivas.h"
+#include "reports/montaje/TablaGraficos.h"
+#include "reports/montaje/qt/SuperficieQt.h"
 #include "reports/salidas/ImagenPng.h"
 #include "store/Recordset.h"
 
@@ -132,6 +136,7 @@ TEST_F(Formatos, LaCabeceraSeRepiteYLasPaginasSeCuentan) {
     int conFilas = 0;
     for (int i = 0; i < paginas.size(); ++i) {
         EXPECT_TRUE(paginas[i].contains(QString("Página %1 de %2").arg(i + 1).arg(paginas.size())));
+        EXPECT_EQ(paginas[i].contains("(continuación)"), i > 1);  // of a slab whose first page is the second
         if (!paginas[i].contains(fila)) continue;
         ++conFilas;
         EXPECT_TRUE(paginas[i].contains("Máximo del tramo")) << i;
@@ -146,11 +151,12 @@ TEST_F(Formatos, ElPdfLlevaSusLetrasYSuTitulo) {
          {std::pair("A4 apaisada", "842 x 595"), std::pair("A4", "595 x 842"),
           std::pair("Carta apaisada", "792 x 612"), std::pair("Carta", "612 x 792")}) {
         Reporte reporte = Abrir("titulo \"{Generales.Titulo}\"\nautor \"{Generales.Calculista}\"\npagina " +
-                                std::string(pagina) + "\nparrafo \"Ñandú ½ · cm²\"\n");
+                                std::string(pagina) + "\nparrafo \"Ñandú ½ · cm² 漢\"\n");
         const QString archivo = Ruta(Exportar(reporte, FormatoPdf, "a.pdf"));
         const QString datos = Correr("pdfinfo", {archivo});
         EXPECT_TRUE(datos.contains(QRegularExpression("Title: +ANALISIS Y DISEÑO DE LOSAS")))
             << datos.toStdString();
+        EXPECT_TRUE(datos.contains(QRegularExpression("Author: +Ing. José Ñáñez"))) << datos.toStdString();
         EXPECT_TRUE(datos.contains(medida)) << datos.toStdString();
         EXPECT_TRUE(Correr("pdfinfo", {"-meta", archivo}).contains("Ing. José Ñáñez"));
         const QStringList letras = Correr("pdffonts", {archivo}).split('\n', Qt::SkipEmptyParts).mid(2);
@@ -225,6 +231,45 @@ TEST_F(Formatos, LosGraficosLleganPuntoPorPunto) {
     const QString rtf = QString::fromStdString(prueba::LeerArchivo(Exportar(reporte, FormatoRtf, "g.rtf")));
     QString cifras = rtf.mid(rtf.indexOf("89504e47"));
     ComprobarPixeles(QImage::fromData(QByteArray::fromHex(cifras.left(cifras.indexOf('}')).toLatin1())));
+}
+
+TEST_F(Formatos, LosDibujosLleganAlPdfComoTrazos) {
+    Preparar({});
+    Conexion conexion;
+    AbrirConexion(conexion, base);
+    montaje::TablaGraficos tabla(conexion);
+    for (const char* nombre : {"L1", "L2"}) {
+        montaje::qt::SuperficieQt superficie;
+        superficie.Dibujar(15 * 400, 15 * 300, [&](dibujo::Lienzo& lienzo) {
+            lienzo.Limpiar();
+            lienzo.PonerFuente({"Tahoma", 12, true});
+            dibujo::DibujeTexto(lienzo, "MU (kgf-m): Ñ 漢", 20, 20, 0);
+            dibujo::DibujeTexto(lienzo, "parado", 20, 200, 90);
+            lienzo.Circulo({300, 200}, 50, dibujo::Pluma{}, dibujo::Color{200, 0, 0});
+        });
+        tabla.Agregar(nombre, nombre, superficie.Imagen());
+    }
+    conexion.Cerrar();
+    Reporte reporte = Abrir("Grafico.rpt");
+    const QString pdf = Ruta(Exportar(reporte, FormatoPdf, "g.pdf"));
+    const QString texto = Correr("pdftotext", {"-layout", pdf, "-"});
+    EXPECT_EQ(texto.count("MU (kgf-m): Ñ 漢"), 2) << texto.toStdString();
+    EXPECT_EQ(texto.count("parado"), 2);
+    EXPECT_EQ(Correr("pdfimages", {"-list", pdf}).count('\n'), 2);  // its heading alone
+    EXPECT_LT(QFileInfo(pdf).size(), 60000);
+    const QString indice = Correr("pdftohtml", {"-xml", "-i", "-stdout", pdf});
+    EXPECT_TRUE(indice.contains(
+        QRegularExpression("<outline>.*L1.*L2.*</outline>", QRegularExpression::DotMatchesEverythingOption)))
+        << indice.toStdString();
+    // As another program paints it: the circle's colour in its middle.
+    Correr("pdftoppm", {"-r", "72", "-png", "-f", "1", "-l", "1", pdf, Ruta(carpeta / "hoja")});
+    const QImage hoja(Ruta(carpeta / "hoja-1.png"));
+    ASSERT_FALSE(hoja.isNull());
+    int rojos = 0;
+    for (int y = 0; y < hoja.height(); ++y) {
+        for (int x = 0; x < hoja.width(); ++x) rojos += hoja.pixel(x, y) == qRgb(200, 0, 0);
+    }
+    EXPECT_GT(rojos, 3000);
 }
 
 TEST(ImagenPng, UnMapaRecortadoOAlteradoNoSeLee) {

@@ -70,7 +70,7 @@ TEST(SuperficieQt, ElMapaDeBitsEsElDibujoEnLaFinuraDelPapel) {
     };
     SuperficieQt superficie;
     superficie.Dibujar(AnchoGraficoTwips, AltoGraficoTwips, dibujar);
-    const auto [mapa, png] = superficie.Imagen();
+    const auto [mapa, png, trazos] = superficie.Imagen();
     QImage leida;
     ASSERT_TRUE(leida.loadFromData(reinterpret_cast<const uchar*>(mapa.data()), static_cast<int>(mapa.size()),
                                    "BMP"));
