@@ -22,20 +22,22 @@ std::int64_t Celda(std::int64_t columna, std::int64_t fila) {
     return columna * (std::int64_t{1} << 32) + fila;
 }
 
-/// Runs `accion` on the cells of the canvas that a box touches, until it answers false. A box beyond any
-/// canvas touches none.
+/// Runs `accion` on the cells that a box touches, on the canvas and as far again around it: at any zoom they
+/// are no more than these.
 template <class Accion>
-void PorCelda(const PiezaTexto& caja, Accion accion) {
-    constexpr double lejos = 1e8;
-    if (!(std::fabs(caja.x) < lejos && std::fabs(caja.y) < lejos)) return;
-    const auto celda = [](double lugar, double lado) {
-        return static_cast<std::int64_t>(std::floor(lugar / lado));
+void PorCelda(const Lienzo& lienzo, const PiezaTexto& caja, Accion accion) {
+    const auto celda = [](double lugar, double lado, double tamano) {
+        const double acotado = lugar > -tamano ? std::min(lugar, 2 * tamano) : -tamano;
+        return static_cast<std::int64_t>(std::floor(acotado / lado));
     };
-    const std::int64_t ultimaColumna = celda(caja.x + caja.Ancho, AnchoDeCelda);
-    const std::int64_t ultimaFila = celda(caja.y + caja.Alto, AltoDeCelda);
-    for (std::int64_t fila = celda(caja.y, AltoDeCelda); fila <= ultimaFila; ++fila) {
-        for (std::int64_t columna = celda(caja.x, AnchoDeCelda); columna <= ultimaColumna; ++columna)
-            if (!accion(columna, fila)) return;
+    const double W = lienzo.ScaleWidth();
+    const double H = lienzo.ScaleHeight();
+    if (!(caja.x < 2 * W && caja.y < 2 * H && caja.x + caja.Ancho > -W && caja.y + caja.Alto > -H)) return;
+    const std::int64_t ultimaColumna = celda(caja.x + caja.Ancho, AnchoDeCelda, W);
+    const std::int64_t ultimaFila = celda(caja.y + caja.Alto, AltoDeCelda, H);
+    for (std::int64_t fila = celda(caja.y, AltoDeCelda, H); fila <= ultimaFila; ++fila) {
+        for (std::int64_t columna = celda(caja.x, AnchoDeCelda, W); columna <= ultimaColumna; ++columna)
+            accion(columna, fila);
     }
 }
 }  // namespace
@@ -72,18 +74,17 @@ void Plano::EscribirCentrado(std::string_view texto, double x, double y, double 
 }
 
 void Plano::Reservar(const PiezaTexto& caja) {
-    PorCelda(caja, [&](std::int64_t columna, std::int64_t fila) {
+    PorCelda(lienzo_, caja, [&](std::int64_t columna, std::int64_t fila) {
         std::vector<PiezaTexto>& suyas = ocupadas_[Celda(columna, fila)];
         if (suyas.size() < CabenEnCelda) suyas.push_back(caja);
-        return true;
     });
 }
 
-double Plano::Solape(const PiezaTexto& caja, double tope) const {
+double Plano::Solape(const PiezaTexto& caja) const {
     double total = 0;
-    PorCelda(caja, [&](std::int64_t columna, std::int64_t fila) {
+    PorCelda(lienzo_, caja, [&](std::int64_t columna, std::int64_t fila) {
         const auto hallada = ocupadas_.find(Celda(columna, fila));
-        if (hallada == ocupadas_.end()) return true;
+        if (hallada == ocupadas_.end()) return;
         const double x = static_cast<double>(columna) * AnchoDeCelda;
         const double y = static_cast<double>(fila) * AltoDeCelda;
         const double izquierda = std::max(caja.x, x);
@@ -95,7 +96,6 @@ double Plano::Solape(const PiezaTexto& caja, double tope) const {
             const double alto = std::min(abajo, otra.y + otra.Alto) - std::max(arriba, otra.y);
             if (ancho > 0 && alto > 0) total += ancho * alto;
         }
-        return total < tope;
     });
     return total;
 }
@@ -105,7 +105,7 @@ PiezaTexto Plano::Colocar(double ancho, double alto, const std::vector<Centro>& 
     double menor = std::numeric_limits<double>::infinity();
     for (const Centro& centro : centros) {
         const PiezaTexto caja{centro.x - ancho / 2, centro.y - alto / 2, ancho, alto};
-        const double solape = Solape(caja, menor);
+        const double solape = Solape(caja);
         if (solape < menor) {
             menor = solape;
             mejor = caja;

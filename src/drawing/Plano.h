@@ -62,8 +62,7 @@ class Plano {
     void Rotular(std::string_view texto, const std::vector<Centro>& centros, double grados = 0);
 
   private:
-    /// How much of `caja` is taken; counted no further than `tope`.
-    double Solape(const PiezaTexto& caja, double tope) const;
+    double Solape(const PiezaTexto& caja) const;
 
     Lienzo& lienzo_;
     const EstadoVista& vista_;

@@ -1,5 +1,6 @@
 #include "store/Conexion.h"
 
+#include "store/DeTrabajo.h"
 #include "store/Dialecto.h"
 #include "store/Motor.h"
 
@@ -66,9 +67,9 @@ void AbrirConexion(Conexion& conexion, const std::filesystem::path& camino) {
 void AbrirDeTrabajo(Conexion& conexion, const std::filesystem::path& camino) {
     AbrirConexion(conexion, camino);
     if (!conexion.Abierta()) return;
-    conexion.motor_->Consultar("PRAGMA journal_mode = MEMORY");
-    conexion.motor_->Consultar("PRAGMA synchronous = OFF");
-    IndexarNombres(*conexion.motor_);
+    conexion.motor()->Consultar("PRAGMA journal_mode = MEMORY");
+    conexion.motor()->Consultar("PRAGMA synchronous = OFF");
+    IndexarNombres(*conexion.motor());
 }
 
 void CopiarEnMemoria(Conexion& origen, Conexion& copia) {

@@ -30,7 +30,6 @@ class Conexion {
 
   private:
     friend void AbrirConexion(Conexion& conexion, const std::filesystem::path& camino);
-    friend void AbrirDeTrabajo(Conexion& conexion, const std::filesystem::path& camino);
     friend void CopiarEnMemoria(Conexion& origen, Conexion& copia);
     std::shared_ptr<Motor> motor_;
     bool fallida_ = false;
@@ -45,11 +44,7 @@ void AbrirConexion(Conexion& conexion, const std::filesystem::path& camino);
 /// read, ConexionFallida is set.
 void CopiarEnMemoria(Conexion& origen, Conexion& copia);
 
-/// Opens a file that only this connection knows and that goes when its work is done: nothing waits for the
-/// disk, and names are indexed.
-void AbrirDeTrabajo(Conexion& conexion, const std::filesystem::path& camino);
-
-/// As AbrirConexion, on a private copy in memory.
+/// As AbrirConexion, on such a copy.
 void AbrirCopiaEnMemoria(Conexion& conexion, const std::filesystem::path& camino);
 
 /// One save: what runs between its making and `Confirmar` is stored together or not at all.

@@ -5,6 +5,7 @@
 
 #include "base/Archivos.h"
 #include "base/ErrorEjecucion.h"
+#include "store/DeTrabajo.h"
 #include "store/Mantenimiento.h"
 #include "store/antiguo/Convertir.h"
 #include "store/antiguo/EscribirJet.h"
