@@ -8,10 +8,6 @@
 
 namespace trabex::dibujo::qt {
 
-/// Size of the hidden surfaces of reports and pictures, in units.
-inline constexpr std::int32_t AnchoSuperficie = AnchoGraficoTwips / TwipsPorUnidad;
-inline constexpr std::int32_t AltoSuperficie = AltoGraficoTwips / TwipsPorUnidad;
-
 /// Resolution of canvases on a screen and of pictures: 96 units an inch, so that points of fonts turn into
 /// units alike on every machine.
 inline constexpr int PuntosPorMetro = 3780;

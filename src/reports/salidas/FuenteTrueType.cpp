@@ -22,7 +22,7 @@ int LeerConSigno(std::string_view tabla, size_t lugar) {
     return static_cast<std::int16_t>(Leer(tabla, lugar, 2));
 }
 
-void Escribir(std::string& salida, std::uint32_t valor, size_t bytes) {
+void AgregarEntero(std::string& salida, std::uint32_t valor, size_t bytes) {
     for (size_t i = bytes; i-- > 0;) salida += static_cast<char>(valor >> (8 * i) & 0xFFU);
 }
 
@@ -99,16 +99,16 @@ std::string ArchivoDeFuente(std::uint32_t clase, Tablas tablas) {
     std::uint32_t potencia = 1;
     std::uint32_t exponente = 0;
     for (; potencia * 2 <= tablas.size(); potencia *= 2) ++exponente;
-    Escribir(directorio, clase, 4);
+    AgregarEntero(directorio, clase, 4);
     const auto cuantas = static_cast<std::uint32_t>(tablas.size());
     for (const std::uint32_t valor : {cuantas, potencia * 16, exponente, cuantas * 16 - potencia * 16})
-        Escribir(directorio, valor, 2);
+        AgregarEntero(directorio, valor, 2);
     const size_t inicio = directorio.size() + 16 * tablas.size();
     for (const auto& [nombre, bytes] : tablas) {
         directorio += nombre;
-        Escribir(directorio, Suma(bytes), 4);
-        Escribir(directorio, static_cast<std::uint32_t>(inicio + cuerpo.size()), 4);
-        Escribir(directorio, static_cast<std::uint32_t>(bytes.size()), 4);
+        AgregarEntero(directorio, Suma(bytes), 4);
+        AgregarEntero(directorio, static_cast<std::uint32_t>(inicio + cuerpo.size()), 4);
+        AgregarEntero(directorio, static_cast<std::uint32_t>(bytes.size()), 4);
         cuerpo += bytes;
         Rellenar(cuerpo);
     }
@@ -164,11 +164,11 @@ std::string ParteDeFuente(const TablaDeFuente& tabla, const std::set<std::uint32
     std::string lugares;
     const std::uint32_t cuantos = Leer(tabla("maxp"), 4, 2);
     for (std::uint32_t glifo = 0; glifo < cuantos; ++glifo) {
-        Escribir(lugares, static_cast<std::uint32_t>(cuerpo.size()), 4);
+        AgregarEntero(lugares, static_cast<std::uint32_t>(cuerpo.size()), 4);
         if (tomados.count(glifo) != 0) cuerpo += contornos.De(glifo);
         Rellenar(cuerpo);
     }
-    Escribir(lugares, static_cast<std::uint32_t>(cuerpo.size()), 4);
+    AgregarEntero(lugares, static_cast<std::uint32_t>(cuerpo.size()), 4);
     Tablas tablas = Tomar(tabla, {"head", "hhea", "hmtx", "maxp", "cvt ", "fpgm", "prep"});
     std::string& cabeza = tablas.front().second;
     if (cabeza.size() > FormaDeLugares + 1) cabeza[FormaDeLugares + 1] = 1;
