@@ -283,10 +283,10 @@ void VistaPaginas::Buscar(const QString& texto) {
     hallazgo_ = -1;
     const QString buscado = Llano(texto);
     for (int pagina = 0; !buscado.isEmpty() && pagina < NumeroPaginas(); ++pagina) {
-        for (const TextoDePagina& texto : TextosDePagina(*paginas_, pagina)) {
-            const QString llano = Llano(texto.Texto);
+        for (const TextoDePagina& escrito : TextosDePagina(*paginas_, pagina)) {
+            const QString llano = Llano(escrito.Texto);
             for (qsizetype i = llano.indexOf(buscado); i >= 0; i = llano.indexOf(buscado, i + buscado.size()))
-                hallazgos_.push_back({pagina, texto.Parte(i, buscado.size())});
+                hallazgos_.push_back({pagina, escrito.Parte(i, buscado.size())});
         }
     }
     viewport()->update();
