@@ -42,7 +42,7 @@ def exportar(e):
     e.ventana("EXPORTAR LOS GRÁFICOS")
     e.teclas("Return")
     pdf = guardar_pdf(e, "IMPRIMIR Y EXPORTAR LOS GRÁFICOS", "escalera.pdf", ESCALERAS)
-    assert pdf.startswith(b"%PDF") and pdf.count(b"/Type /Page\n") == 4
+    assert pdf.startswith(b"%PDF") and pdf.count(b"/Type/Page/") == 4
     assert filas(e.usuario / "Trabajo" / "Temporal.mdb", "SELECT Losa, CargaTramo FROM Grafico") == [
         ("Piso 1" + hoja, 1200) for hoja in (": GEOMETRÍA", ": SOLICITACIONES", ": DISEÑO", ": REACCIONES")]
 
