@@ -125,7 +125,7 @@ TEST_F(Formatos, CadaNumeroLlegaACadaFormato) {
 }
 
 TEST_F(Formatos, LaCabeceraSeRepiteYLasPaginasSeCuentan) {
-    Losa larga = prueba::LosaUniforme(40, 4.85, 290, 90);
+    Losa larga = prueba::LosaUniforme(80, 4.85, 290, 90);
     larga.Nombre =
         "Losa larguísima del entrepiso nº 2, ala norte, entre los ejes A’ y Ñ, junto al patio de luces";
     Preparar({larga});
@@ -148,7 +148,7 @@ TEST_F(Formatos, LaCabeceraSeRepiteYLasPaginasSeCuentan) {
 TEST_F(Formatos, ElPdfLlevaSusLetrasYSuTitulo) {
     Preparar({prueba::LosaUniforme(3, 5, 300, 100)});
     for (const auto& [pagina, medida] :
-         {std::pair("A4 apaisada", "842 x 595"), std::pair("A4", "595 x 842"),
+         {std::pair("A4 apaisada", "841.89 x 595.276"), std::pair("A4", "595.276 x 841.89"),
           std::pair("Carta apaisada", "792 x 612"), std::pair("Carta", "612 x 792")}) {
         Reporte reporte = Abrir("titulo \"{Generales.Titulo}\"\nautor \"{Generales.Calculista}\"\npagina " +
                                 std::string(pagina) + "\nparrafo \"Ñandú ½ · cm² 漢\"\n");

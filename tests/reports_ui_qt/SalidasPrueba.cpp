@@ -216,14 +216,18 @@ TEST_F(SalidasDeReporte, LoImpresoEsLoMismoQueElPdf) {
     impresora.setOutputFormat(QPrinter::PdfFormat);
     impresora.setFullPage(true);
     impresora.setPageSize(QPageSize(QPageSize::Letter));
+    const auto paginas = [](const QString& pdf) {
+        QStringList textos;
+        for (const QString& pagina : prueba::Correr("pdftotext", {"-layout", pdf, "-"}).split('\f'))
+            textos.append(pagina.simplified());
+        return textos;
+    };
     const auto impreso = [&] {
         impresora.setOutputFileName(prueba::Ruta(carpeta / "impreso.pdf"));
         ImprimirPaginas(reporte.Contenido(), impresora);
-        return prueba::Correr("pdftotext", {"-layout", prueba::Ruta(carpeta / "impreso.pdf"), "-"})
-            .split('\f');
+        return paginas(prueba::Ruta(carpeta / "impreso.pdf"));
     };
-    const QString pdf = prueba::Ruta(Exportar(reporte, FormatoPdf, "exportado.pdf"));
-    const QStringList esperado = prueba::Correr("pdftotext", {"-layout", pdf, "-"}).split('\f');
+    const QStringList esperado = paginas(prueba::Ruta(Exportar(reporte, FormatoPdf, "exportado.pdf")));
     EXPECT_EQ(impreso(), esperado);
     impresora.setFromTo(2, 2);
     EXPECT_EQ(impreso(), (QStringList{esperado[1], ""}));
