@@ -23,6 +23,7 @@
 
 #include "drawing/qt/WidgetLienzo.h"
 #include "shell/qt/ComunVentanas.h"
+#include "shell/qt/FilaNumerada.h"
 #include "shell/qt/Iconos.h"
 #include "shell/qt/LineaElidida.h"
 #include "shell/qt/VentanaRenombrar.h"
@@ -233,9 +234,18 @@ QWidget* VentanaEspacio::PanelDeLista(const DatosDeEspacio& datos) {
     connect(lista_, &QListWidget::currentRowChanged, this,
             [this](int fila) { operaciones_->Seleccionar(fila + 1); });
     connect(lista_, &QListWidget::itemActivated, this, [this] { Accion("ID_Editar")->trigger(); });
+    auto* titulos = new QHBoxLayout;
+    if (datos.ListaNumerada) {
+        lista_->setItemDelegate(new FilaNumerada(lista_));
+        auto* numero = new QLabel("No", panel);
+        numero->setFixedWidth(FilaNumerada::Ancho(lista_->fontMetrics()));
+        numero->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        titulos->addWidget(numero);
+    }
+    titulos->addWidget(titulo, 1);
     auto* columna = new QVBoxLayout(panel);
     columna->setContentsMargins(0, 0, 0, 0);
-    columna->addWidget(titulo);
+    columna->addLayout(titulos);
     columna->addWidget(lista_, 1);
     if (datos.BajoLaLista != nullptr) columna->addWidget(datos.BajoLaLista);
     return panel;

@@ -53,6 +53,7 @@ struct DatosDeEspacio {
     QWidget* BajoLaLista = nullptr;
     dibujo::TeclasDeVista Teclas = {};
     std::vector<PaginaDeEspacio> Paginas = {};  ///< the tabs behind those of the sheets
+    bool ListaNumerada = false;                 ///< under the heading "No"
 };
 
 /// The workspace of an element: its list and the sheets and pages of the selected one, with tool bar, menu

@@ -32,13 +32,24 @@ VentanaEscaleraT::VentanaEscaleraT(programa::Aplicacion& aplicacion, const progr
     };
     for (const auto& [clave, operacion] : otras)
         propias[clave] = [this, operacion = operacion] { operacion(operaciones_, *this); };
-    Armar({"EscaleraT", "Esca&leras", "&Escalera", ComandosEscaleraT, TitulosDeHoja, operaciones_.Lista(),
-           operaciones_.Estado().Hoja.Vista,
-           [this](dibujo::Lienzo& lienzo) {
-               dibujo::escalera::RedibujeVista(lienzo, operaciones_.Estado().Hoja, operaciones_.Calculada());
-           },
-           [this](int hoja) { operaciones_.ElegirHoja(static_cast<dibujo::escalera::VistaEscalera>(hoja)); },
-           std::move(propias)});
+    Armar({.Nombre = "EscaleraT",
+           .RotuloLista = "Esca&leras",
+           .MenuElemento = "&Escalera",
+           .Comandos = ComandosEscaleraT,
+           .Hojas = TitulosDeHoja,
+           .Lista = operaciones_.Lista(),
+           .Vista = operaciones_.Estado().Hoja.Vista,
+           .Dibujar =
+               [this](dibujo::Lienzo& lienzo) {
+                   dibujo::escalera::RedibujeVista(lienzo, operaciones_.Estado().Hoja,
+                                                   operaciones_.Calculada());
+               },
+           .AlElegirHoja =
+               [this](int hoja) {
+                   operaciones_.ElegirHoja(static_cast<dibujo::escalera::VistaEscalera>(hoja));
+               },
+           .Operaciones = std::move(propias),
+           .ListaNumerada = true});
 }
 
 bool VentanaEscaleraT::MostrarEscaleraTNueva() {
