@@ -22,6 +22,6 @@ inline constexpr EstiloEscalera HojaEnPapel{EnPapel, {0.8, 0.7}, 0.5, {0.4, 0, 6
                                             0.04,    {0.8, 0.8}, true};
 
 /// Beside the fields of an entry window, where the canvas is narrow: the dimensions need more of it.
-inline constexpr EstiloEscalera HojaDeBoceto{EnPantalla, {0.55, 0.75}, 1.3, {0.7, 0.7}, 0, {1, 1}, false};
+inline constexpr EstiloEscalera HojaDeBoceto{EnPantalla, {0.45, 0.75}, 1.3, {0.7, 0.7}, 0, {1, 1}, false};
 
 }  // namespace trabex::dibujo::escalera

@@ -230,6 +230,8 @@ QWidget* VentanaEspacio::PanelDeLista(const DatosDeEspacio& datos) {
     lista_->setObjectName("Lista");
     lista_->setAlternatingRowColors(true);
     lista_->setSpacing(1);
+    const int letra = lista_->fontMetrics().height();
+    lista_->setIconSize({letra, letra});  // a row that is marked is as high as the others
     titulo->setBuddy(lista_);
     connect(lista_, &QListWidget::currentRowChanged, this,
             [this](int fila) { operaciones_->Seleccionar(fila + 1); });
