@@ -123,12 +123,5 @@ TEST(DisenoEscaleraT, CarasYSignos) {
     EXPECT_EQ(q.FallaCorte, "");
 }
 
-TEST(DisenoEscaleraT, AcerosMinimos) {
-    const DatosGenerales g = prueba::GeneralesTrabajados;
-    const DatosEscaleraT d = prueba::EscaleraTTrabajada();
-    EXPECT_NEAR(AceroMinimoTramo({d, g, {}}, 100), 14.0 / 2800 * 130 * 13, 1e-12);
-    EXPECT_NEAR(AceroMinimoDescanso({d, g, {}}, 100), 0.002 * 130 * 18, 1e-12);
-}
-
 }  // namespace
 }  // namespace trabex

@@ -110,18 +110,6 @@ TEST(HojasEscaleraT, DisenoDelCasoTrabajado) {
          {3.682, "PROGRESIVA (m):", {FilaProgresiva}}});
 }
 
-TEST(HojasEscaleraT, ReaccionesYAceroMinimo) {
-    const Calculada e(Modelo());
-    const ReaccionesDeHoja reacciones = ReaccionesDe(e.Ver(), {});
-    EXPECT_EQ(reacciones.Vertical, "4.080");  // 1200·2.4 + 1000·1.2
-    EXPECT_EQ(reacciones.Horizontal, "5.530");
-    const RotulosDeMinimo enPapel = RotulosDeAceroMinimo(e.Ver(), 100, {});
-    EXPECT_EQ(enPapel.Tramo, "EN EL TRAMO ASMín = 5,00 cm2 (14/Fy)");  // 14/4200·120·12.5
-    EXPECT_EQ(enPapel.Descanso, "EN EL DESCANSO ASMín = 3,00 cm2 (0.002)");
-    // Half the units to the metre, a quarter of the area.
-    EXPECT_EQ(RotulosDeAceroMinimo(e.Ver(), 50, {}).Tramo, "EN EL TRAMO ASMín = 1,25 cm2 (14/Fy)");
-}
-
 TEST(HojasEscaleraT, ElEstriboYLaFallaSeLeenDeLaEstacion) {
     Calculada e(Modelo());
     e.Resultados.TramoT[10].AreaEstribo = 1.27;

@@ -153,19 +153,6 @@ TEST_F(EspacioEscaleras, EditarYDatosGeneralesCalculanDeNuevo) {
     EXPECT_FALSE(vista.Fallan[3]);  // it shows A's numbers, and fails for none of its own
 }
 
-/// A save that the store refuses keeps the window open and the working values as they were.
-TEST_F(EspacioEscaleras, LosParametrosQueNoSeGuardanNoValen) {
-    Conexion cerrada;
-    bool guardados = false;
-    EscaleraTG ventana(cerrada, ClaseEscalera::Autoportante, aplicacion.Generales, guardados, caja, sinFoco);
-    EntradaEscaleraTG entrados = ventana.Mostrar();
-    entrados.FC = 300;
-    EXPECT_FALSE(ventana.Aceptar(entrados));
-    EXPECT_EQ(aplicacion.Generales.FC, 250);
-    EXPECT_FALSE(guardados);
-    EXPECT_EQ(caja.Mensajes.back().Encabezado, "Error Inesperado...");
-}
-
 TEST_F(EspacioEscaleras, RenombrarTitularYEliminar) {
     Renombrar("Zeta");
     EXPECT_THAT(vista.Filas, ElementsAre("B", "Zeta"));

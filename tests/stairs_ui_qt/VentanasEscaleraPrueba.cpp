@@ -149,6 +149,7 @@ TEST_F(VentanasEscalera, LosDatosGeneralesQuedanAbiertosMientrasNoSeGuardan) {
         PulsarElPrincipal(generales);
         EXPECT_TRUE(generales.isVisible());
         EXPECT_EQ(caja.Mensajes.back().Encabezado, "Error Inesperado...");
+        EXPECT_EQ(aplicacion.Generales.FS, 1.55);
         AbrirConexion(aplicacion.Proyecto.ConexionProyecto, aplicacion.ArchivoProyecto);
         PulsarElPrincipal(generales);
         EXPECT_FALSE(generales.isVisible());
