@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "drawing/Primitivas.h"
 #include "drawing/Reparto.h"
 #include "drawing/escalera/GraficoEscalera.h"
 #include "stairs/CalcularEscaleraT.h"
@@ -20,6 +21,7 @@ using TextoGrabado = LienzoGrabador::TextoGrabado;
 struct Dibujada {
     explicit Dibujada(DatosEscaleraT datos) : Datos(std::move(datos)) {
         CalcularEscaleraT(Datos, Generales, Resultados);
+        Hoja.Vista.CuadriculaVisible = false;
     }
     EscaleraCalculada Ver() const { return {Datos, Generales, Resultados}; }
     void Dibujar(LienzoGrabador& lienzo, std::uint8_t vista, const EstiloEscalera& estilo = HojaEnPantalla) {
@@ -96,6 +98,7 @@ TEST_P(Rejilla, NingunTextoPisaOtroNiSale) {
                         GuardeGraficos1(lienzo, e.Hoja, e.Ver(), {"U", "P", "C"});
                     else
                         e.Dibujar(lienzo, vista);
+                    EXPECT_EQ(lienzo.Hallar("PROYECTO: P") != nullptr, s.DePapel);
                     EXPECT_EQ(Faltas(lienzo), "")
                         << "sheet " << int(vista) << ", " << L << " " << B << " " << H;
                     EXPECT_GT(lienzo.Textos.size(), 4U);
@@ -135,6 +138,7 @@ TEST(HojasEscalera, EscalaYOrigenDeCadaHoja) {
         {0, HojaEnPapel, 4500, 6000, 6000 * 0.7 / 5.9, 2929},  // 3000 − 0.1·711.9
         {1, HojaEnPapel, 4500, 6000, 500, 490},                // 0.5·500 under the page's furniture
         {1, HojaEnPapel, 6000, 4500, 600, 480},                // 666.7 is capped
+        {1, HojaEnPapel, 6000, 6000, 6000 * 0.4 / 3.6, 573},   // a page that is not across has no cap
         {3, HojaEnPapel, 6000, 4500, 4500 * 0.8 / 5.4, 1050},  // 2250 − 1.8·666.7
     };
     for (const Origen& c : casos) {
@@ -147,39 +151,57 @@ TEST(HojasEscalera, EscalaYOrigenDeCadaHoja) {
     }
 }
 
+using Puntos = std::vector<PuntoLienzo>;
+
+std::vector<Puntos> PuntosDe(const std::vector<LienzoGrabador::Figura>& figuras) {
+    std::vector<Puntos> puntos;
+    for (const auto& figura : figuras) puntos.push_back(figura.Puntos);
+    return puntos;
+}
+
 TEST(HojasEscalera, PlantaYSeccion) {
     Dibujada e(Modelo());
     LienzoGrabador lienzo(1800, 670);  // 80 units to the metre, the origin at 900, 327
     e.Dibujar(lienzo, VistaGeometria);
     ASSERT_DOUBLE_EQ(e.Hoja.Vista.Escala, 80);
-    const auto lineaEn = [&](std::int32_t x) {
-        std::vector<LienzoGrabador::Figura> halladas;
-        for (const auto& linea : lienzo.Lineas)
-            if (linea.Puntos[0].x == x && linea.Puntos[1].x == x && linea.Borde->Tinta == Color{})
-                halladas.push_back(linea);
-        return halladas;
+    std::vector<Puntos> figuras{{{948, 303}, {1044, 303}, {1044, 87}, {948, 87}},
+                                {{756, 303}, {948, 303}, {948, 207}, {756, 207}},
+                                {{756, 183}, {948, 183}, {948, 87}, {756, 87}}};
+    // Flights: 0.15 m square to a slope of 1.5 in 2.4 (sine 0.53, cosine 0.848), with steps of 24 by 15.
+    figuras.push_back({{756, 351}, {948, 471}, {942, 481}, {750, 361}});
+    for (int i = 0, x = 756, y = 351; i < 8; ++i, x += 24, y += 15)
+        figuras.push_back({{x, y}, {x + 24, y}, {x + 24, y + 15}});
+    figuras.push_back({{948, 471}, {756, 591}, {762, 601}, {954, 481}});
+    for (int i = 0, x = 948, y = 471; i < 8; ++i, x -= 24, y += 15)
+        figuras.push_back({{x, y}, {x - 24, y}, {x - 24, y + 15}});
+    figuras.push_back({{948, 471}, {1044, 471}, {1044, 483}, {948, 483}});
+    EXPECT_EQ(PuntosDe(lienzo.Poligonos), figuras);
+    EXPECT_EQ(lienzo.DeColor({181, 196, 200}).size(), figuras.size() - 3);
+    // Treads across both flights; the last one, where the landing begins, one flight alone, a unit longer.
+    std::vector<Puntos> lineas;
+    for (int x = 780; x < 948; x += 24) {
+        lineas.push_back({{x, 303}, {x, 207}});
+        lineas.push_back({{x, 183}, {x, 87}});
+    }
+    lineas.push_back({{948, 304}, {948, 207}});
+    const std::vector<std::pair<Puntos, const char*>> cotas{
+        {{{756, 79}, {948, 79}}, "2,40"},   {{{948, 79}, {1044, 79}}, "1,20"},
+        {{{748, 87}, {748, 183}}, "1,20"},  {{{748, 183}, {748, 207}}, "0,30"},
+        {{{748, 207}, {748, 303}}, "1,20"}, {{{1052, 87}, {1052, 303}}, "2,70"},
+        {{{736, 351}, {736, 471}}, "1,50"}, {{{736, 471}, {736, 591}}, "1,50"},
     };
-    // The first tread, 0.3 m from the left edge at 900 − 1.8·80, crosses both flights.
-    const auto primera = lineaEn(780);
-    ASSERT_EQ(primera.size(), 2U);
-    EXPECT_EQ(primera[0].Puntos, (std::vector<PuntoLienzo>{{780, 303}, {780, 207}}));
-    EXPECT_EQ(primera[1].Puntos, (std::vector<PuntoLienzo>{{780, 183}, {780, 87}}));
-    // The last one, where the landing begins, one flight alone, a unit longer.
-    const auto ultima = lineaEn(948);
-    ASSERT_EQ(ultima.size(), 1U);
-    EXPECT_EQ(ultima[0].Puntos, (std::vector<PuntoLienzo>{{948, 304}, {948, 207}}));
-    // Flight: 0.15 m square to a slope of 1.5 in 2.4 (sine 0.53, cosine 0.848).
-    const auto seccion = lienzo.DeColor({181, 196, 200});
-    ASSERT_EQ(seccion.size(), 2U * (1 + 8) + 1);
-    EXPECT_EQ(seccion[0].Puntos, (std::vector<PuntoLienzo>{{756, 351}, {948, 471}, {942, 481}, {750, 361}}));
-    EXPECT_EQ(seccion[1].Puntos, (std::vector<PuntoLienzo>{{756, 351}, {780, 351}, {780, 366}}));
-    EXPECT_EQ(seccion[10].Puntos, (std::vector<PuntoLienzo>{{948, 471}, {924, 471}, {924, 486}}));
-    for (const char* texto :
-         {"2,40", "1,20", "0,30", "2,70", "1,50", "e1 = 0,15", "e2 = 0,15", "Escalera principal"})
-        EXPECT_TRUE(lienzo.Hallar(texto)) << texto;
-    EXPECT_EQ(std::count_if(lienzo.Textos.begin(), lienzo.Textos.end(),
-                            [](const TextoGrabado& t) { return t.Texto == "1,20"; }),
-              3);
+    for (std::size_t i = 0; i < cotas.size(); ++i) {
+        lineas.push_back(cotas[i].first);
+        EXPECT_EQ(lienzo.Textos[i].Texto, cotas[i].second);
+    }
+    EXPECT_EQ(PuntosDe(lienzo.Lineas), lineas);
+    const auto lugar = [&](const char* texto) {
+        const PiezaTexto caja = PiezaDe(*lienzo.Hallar(texto));
+        return PuntoLienzo{Pixeles(caja.x), Pixeles(caja.y + caja.Alto / 2)};
+    };
+    EXPECT_EQ(lugar("e1 = 0,15"), (PuntoLienzo{756, 471}));
+    EXPECT_EQ(lugar("e2 = 0,15"), (PuntoLienzo{1052, 477}));
+    EXPECT_NEAR(lienzo.Hallar("Escalera principal")->CentroX(), 900, 1);
 }
 
 TEST(HojasEscalera, CadaCifraEnSuColumnaYSuFila) {
@@ -207,6 +229,9 @@ TEST(HojasEscalera, CadaCifraEnSuColumnaYSuFila) {
     EXPECT_NEAR(rotulo.Lugar.y + rotulo.Medida.Alto / 2.0, base, 1);
     EXPECT_EQ(rotulo.Decimas, 0);
     EXPECT_DOUBLE_EQ(rotulo.Letra.Puntos, 8);
+    // Its rule goes from the label to the last column, and one line parts the flight from the landing.
+    EXPECT_EQ(lienzo.Lineas[0].Puntos, (std::vector<PuntoLienzo>{{857, 486}, {1522, 486}}));
+    EXPECT_EQ(lienzo.Lineas.back().Puntos[0].x, 1305);
     // What fails in shear is red, in its row alone. Its column moved half a line from the flight's last.
     for (const TextoGrabado& t : lienzo.Textos)
         EXPECT_EQ(t.Tinta == (Color{255, 0, 0}),
@@ -230,18 +255,37 @@ TEST(HojasEscalera, ElAceroMinimoSigueAlZoomEnPantallaYEsCiertoEnPapel) {
 
 TEST(HojasEscalera, ReaccionesEnLosDosApoyos) {
     Dibujada e(Modelo());
-    LienzoGrabador lienzo(1000, 600);
+    LienzoGrabador lienzo(1000, 540);  // 100 units to the metre, the origin at 500, 90
     e.Dibujar(lienzo, VistaReacciones);
-    EXPECT_EQ(lienzo.DeColor({248, 199, 199}).size(), 4U);
-    int verticales = 0;
-    int horizontales = 0;
-    for (const TextoGrabado& t : lienzo.Textos) {
-        verticales += t.Texto == "4.080" && t.Decimas == 900;
-        horizontales += t.Texto == "5.530" && t.Decimas == 0;
+    EXPECT_EQ(PuntosDe(lienzo.Poligonos)[0], (Puntos{{320, 140}, {560, 290}, {552, 303}, {312, 153}}));
+    std::vector<Puntos> bloques;
+    for (const int y : {140, 440}) {
+        bloques.push_back({{305, y + 50}, {305, y}});
+        bloques.push_back({{305, y}, {335, y}});
+        bloques.push_back({{335, y}, {335, y + 50}});
     }
-    EXPECT_EQ(verticales, 2);
-    EXPECT_EQ(horizontales, 2);
-    EXPECT_TRUE(lienzo.Hallar("Escalera principal"));
+    EXPECT_EQ(PuntosDe(lienzo.Lineas), bloques);
+    Puntos puntas;
+    for (const auto& flecha : lienzo.DeColor({248, 199, 199})) puntas.push_back(flecha.Puntos[0]);
+    EXPECT_EQ(puntas, (Puntos{{305, 140}, {303, 165}, {305, 440}, {268, 465}}));
+    // Values: turned at the arrow's left, level below the other one; the title clear of the highest.
+    ASSERT_EQ(lienzo.Textos.size(), 5U);
+    for (const std::size_t i : {0U, 2U}) {
+        const int y = i == 0 ? 140 : 440;
+        const PiezaTexto vertical = PiezaDe(lienzo.Textos[i]);
+        EXPECT_EQ(lienzo.Textos[i].Texto, "4.080");
+        EXPECT_EQ(lienzo.Textos[i].Decimas, 900);
+        EXPECT_NEAR(vertical.x + vertical.Ancho, 305 - 10.1 - 2, 1);
+        EXPECT_NEAR(vertical.y + vertical.Alto / 2, y - std::max(35.4, vertical.Alto) / 2, 1);
+        const PiezaTexto horizontal = PiezaDe(lienzo.Textos[i + 1]);
+        EXPECT_EQ(lienzo.Textos[i + 1].Texto, "5.530");
+        EXPECT_EQ(horizontal.x + horizontal.Ancho, 303);
+        EXPECT_EQ(horizontal.y, y + 25 + 10 + 1);
+    }
+    EXPECT_EQ(lienzo.Textos[4].Texto, "Escalera principal");
+    EXPECT_EQ(lienzo.Textos[4].Letra.Puntos, 9);
+    const PiezaTexto titulo = PiezaDe(lienzo.Textos[4]);
+    EXPECT_NEAR(titulo.y + titulo.Alto, std::min(PiezaDe(lienzo.Textos[0]).y, 140 - 35.0) - 4, 1);
 }
 
 TEST(HojasEscalera, SinMedidasOSinPeldanosQuedaLoDibujado) {
@@ -250,7 +294,6 @@ TEST(HojasEscalera, SinMedidasOSinPeldanosQuedaLoDibujado) {
         datos.H = 0;
         Dibujada vacia(datos);
         LienzoGrabador lienzo(1000, 600);
-        vacia.Hoja.Vista.CuadriculaVisible = false;
         vacia.Dibujar(lienzo, vista);
         EXPECT_EQ(lienzo.Limpiezas, 1);
         EXPECT_TRUE(lienzo.Textos.empty() && lienzo.Lineas.empty() && lienzo.Poligonos.empty());
