@@ -56,14 +56,19 @@ class Apoyo {
         return std::min(Pixeles(centro - medida.Ancho / 2.0), punta - Pixeles(LargoDeFlecha * p_.Escala()));
     }
 
+    /// Arrow to or from the block's left side, and the value below it.
     void DibujarHorizontal(const std::string& valor, bool haciaLaEscalera) const {
         const std::int32_t fila = p_.Fila(abajo_ + AltoDeApoyo / 2);
         const std::int32_t largo = Pixeles(LargoDeFlecha * p_.Escala());
-        const std::int32_t cerca =
-            std::max({canto_ - p_.Unidades(2), largo, p_.ElLienzo().Medir(valor).Ancho});
+        const std::int32_t alBorde = std::max(largo, p_.ElLienzo().Medir(valor).Ancho);
+        const std::int32_t alBloque = canto_ - p_.Unidades(2);
+        const std::int32_t cerca = std::max(alBloque, alBorde);
         DibujeFlechaDiagonal(p_.ElLienzo(), haciaLaEscalera ? cerca : cerca - largo, fila,
                              haciaLaEscalera ? HaciaDerecha : HaciaIzquierda, ColorFlecha, p_.Escala());
-        p_.Escribir(valor, Ancla::Derecha, cerca, fila + Pixeles(0.101 * p_.Escala()) + p_.Unidades(1));
+        // Over the block the value stands below it, clear of its sides.
+        const std::int32_t pie =
+            alBloque < alBorde ? p_.Fila(abajo_ + AltoDeApoyo) : fila + Pixeles(0.101 * p_.Escala());
+        p_.Escribir(valor, Ancla::Derecha, cerca, pie + p_.Unidades(1));
     }
 
   private:
