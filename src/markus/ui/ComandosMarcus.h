@@ -16,7 +16,7 @@ inline constexpr std::array<programa::ComandoEspacio, 6> ComandosMarcus{{
      "Eliminar el nivel seleccionado y sus paños. ", "eliminar", programa::GrupoComandos::Elemento, true},
     {"ID_Salvar", " Salvar losa Datos del Nivel ", "Salvar Nivel", "Salvar los paños del nivel. ", "salvar",
      programa::GrupoComandos::Elemento, true},
-    {"ID_Deshacer", " Deshacer ", "Deshacer", "Volver a lo que había antes del último cambio. ", "anterior",
+    {"ID_Deshacer", " Deshacer ", "Deshacer", "Volver a lo que había antes del último cambio. ", "deshacer",
      programa::GrupoComandos::Vista, false},
     {"ID_Exportar", " Imprimir los Resultados ", "Exportar Resultados",
      "Imprimir o exportar los resultados del nivel. ", "exportar", programa::GrupoComandos::Salida, true},

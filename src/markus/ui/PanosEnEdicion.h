@@ -36,6 +36,7 @@ class PanosEnEdicion {
 
     /// All that is changed from the first change on until this is called is taken back as one.
     void CerrarCambio() { abierto_ = false; }
+    bool PuedeDeshacer() const { return !anteriores_.empty(); }
     /// False when there is nothing to take back.
     bool Deshacer();
 

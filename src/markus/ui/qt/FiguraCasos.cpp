@@ -68,7 +68,7 @@ void FiguraCasos::DibujarCaso(QPainter& pintor, std::int16_t caso) const {
 void FiguraCasos::paintEvent(QPaintEvent* /*evento*/) {
     QPainter pintor(this);
     for (std::int16_t caso = PrimerCaso; caso <= UltimoCaso; ++caso) DibujarCaso(pintor, caso);
-    QString pie = "Bordes rayados: empotrados. X: horizontal; Y: vertical.";
+    QString pie = "Rayado: empotrado.  X: →  Y: ↑";
     if (caso_ != 0) pie = programa::qt::Q(TextoDeCaso(caso_)) + "\n" + pie;
     pintor.setPen(palette().color(QPalette::WindowText));
     pintor.drawText(QRect(0, height() - AltoDelPie(), width(), AltoDelPie()),

@@ -247,6 +247,7 @@ void VentanaMarcus::MostrarPanos() {
 void VentanaMarcus::AsentarCambio() {
     operaciones_.Panos().CerrarCambio();
     PonerAvisos(operaciones_.Panos().LosAvisos());
+    Accion("ID_Deshacer")->setEnabled(operaciones_.Panos().PuedeDeshacer());
     MostrarCaso();
 }
 
