@@ -58,11 +58,11 @@ void FiguraCasos::DibujarCaso(QPainter& pintor, std::int16_t caso) const {
     pintor.setPen(QPen(color, 1));
     pintor.drawRect(pano);
     pintor.drawText(pano, Qt::AlignCenter, QString::number(caso));
-    const auto [enX, enY] = Bordes[static_cast<std::size_t>(caso - PrimerCaso)];
-    if (enX > 0) Empotrar(pintor, pano.topLeft(), pano.bottomLeft(), {-1, 0});
-    if (enX > 1) Empotrar(pintor, pano.topRight(), pano.bottomRight(), {1, 0});
-    if (enY > 0) Empotrar(pintor, pano.bottomLeft(), pano.bottomRight(), {0, 1});
-    if (enY > 1) Empotrar(pintor, pano.topLeft(), pano.topRight(), {0, -1});
+    const BordesDeCaso& bordes = Bordes[static_cast<std::size_t>(caso - PrimerCaso)];
+    if (bordes.EnX > 0) Empotrar(pintor, pano.topLeft(), pano.bottomLeft(), {-1, 0});
+    if (bordes.EnX > 1) Empotrar(pintor, pano.topRight(), pano.bottomRight(), {1, 0});
+    if (bordes.EnY > 0) Empotrar(pintor, pano.bottomLeft(), pano.bottomRight(), {0, 1});
+    if (bordes.EnY > 1) Empotrar(pintor, pano.topLeft(), pano.topRight(), {0, -1});
 }
 
 void FiguraCasos::paintEvent(QPaintEvent* /*evento*/) {
