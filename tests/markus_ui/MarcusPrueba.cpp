@@ -27,6 +27,7 @@ class NivelesDeMarkus : public testing::Test, public PantallaMarcus {
         Ventana.Lista().Abrir();
     }
     void MostrarNiveles() override {}
+    void MostrarNivel() override {}
     void MostrarPanos() override {}
     void SoltarBloque() override { ++Sueltas; }
     std::string Pedir(const std::string& texto, const std::string& encabezado) override {

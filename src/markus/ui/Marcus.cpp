@@ -90,12 +90,13 @@ void Marcus::AlRenombrar() {
     nivel_ = fila.Nombre;
     if (modificado_) fila.Panos = static_cast<int>(panos_.Cuantos());
     pantalla_.MostrarNiveles();
+    pantalla_.MostrarNivel();
 }
 
 void Marcus::Cargar(NivelMarcus nivel) {
     nivel_ = std::move(nivel.Nombre);
     panos_.Cargar(std::move(nivel.Filas));
-    pantalla_.MostrarPanos();
+    pantalla_.MostrarNivel();
 }
 
 void Marcus::SeleccionarNivel(int fila) {

@@ -21,6 +21,8 @@ class PantallaMarcus {
     virtual ~PantallaMarcus() = default;
     /// Levels were added, deleted or renamed, or the count of one was set.
     virtual void MostrarNiveles() = 0;
+    /// The panels of another level came on show, or the level has another name.
+    virtual void MostrarNivel() = 0;
     /// Panels changed: their number, their data or their shares.
     virtual void MostrarPanos() = 0;
     /// No cell of the grid of panels is selected any more.
@@ -50,6 +52,8 @@ class Marcus : private programa::ElementoDeLista {
 
     programa::ListaElementos& Lista() { return lista_; }
     const std::vector<FilaDeNivel>& Niveles() const { return niveles_; }
+    /// Whose panels are on show; empty while there is no level.
+    const std::string& Nivel() const { return nivel_; }
     PanosEnEdicion& Panos() { return panos_; }
     bool Modificado() const { return modificado_; }
 
@@ -83,7 +87,7 @@ class Marcus : private programa::ElementoDeLista {
     programa::Servicios servicios_;
     PantallaMarcus& pantalla_;
     std::vector<FilaDeNivel> niveles_;
-    std::string nivel_;  // whose panels are edited
+    std::string nivel_;
     PanosEnEdicion panos_;
     bool modificado_ = false;
     programa::ListaElementos lista_;

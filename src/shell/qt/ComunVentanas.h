@@ -45,15 +45,11 @@ void MostrarModal(QDialog& ventana);
 /// A button with a line icon.
 QPushButton* Boton(const QString& texto, const QString& icono, QWidget* padre);
 
-<<<<<<< HEAD
-/// The row of " Aceptar " and " Cancelar " at a dialog's foot: the first accepts once no entry stands
-/// refused, the second closes it without change.
-=======
 /// Gives each entry of a menu a letter of its own.
 void PonerMnemonicos(const QMenu& menu);
 
-/// The row of " Aceptar " and " Cancelar " at a dialog's foot; the second closes it without change.
->>>>>>> c628264 (Markus levels have their window, report and batch report)
+/// The row of " Aceptar " and " Cancelar " at a dialog's foot: the first accepts once no entry stands
+/// refused, the second closes it without change.
 QLayout* FilaAceptarCancelar(QDialog* dialogo, const std::function<void()>& alAceptar);
 
 /// The pointer of long work, on or off, however often it is asked for.

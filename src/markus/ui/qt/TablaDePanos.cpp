@@ -15,11 +15,10 @@ namespace {
 
 using programa::qt::ColumnaDatos;
 
-constexpr programa::qt::ClaseNumero Numero{false, -9999999999.99, 9999999999.99, 2};
-constexpr programa::qt::ClaseNumero CasoDeApoyo{true, -32768, 32767, 0};
+constexpr ClaseNumero CasoDeApoyo{true, -32768, 32767, 0, 1};
 
 ColumnaDatos Entrada(Marcus& operaciones, const char* titulo, ColumnaDePano columna,
-                     const programa::qt::ClaseNumero& clase) {
+                     const ClaseNumero& clase) {
     return {
         .Titulo = titulo,
         .Numero = clase,
@@ -34,7 +33,7 @@ ColumnaDatos Entrada(Marcus& operaciones, const char* titulo, ColumnaDePano colu
 
 ColumnaDatos Resultado(Marcus& operaciones, const Separadores& numeros, const char* titulo,
                        double RepartoMarcus::*dato, const char* formato) {
-    return {.Titulo = titulo, .Numero = Numero, .Leer = [&operaciones, numeros, dato, formato](int fila) {
+    return {.Titulo = titulo, .Numero = Distancia, .Leer = [&operaciones, numeros, dato, formato](int fila) {
                 const double valor =
                     operaciones.Panos().Panos()[static_cast<std::size_t>(fila) - 1].Reparto.*dato;
                 return programa::qt::Q(Formato(valor, formato, numeros));
@@ -43,10 +42,10 @@ ColumnaDatos Resultado(Marcus& operaciones, const Separadores& numeros, const ch
 
 std::vector<ColumnaDatos> Columnas(Marcus& operaciones, const Separadores& numeros) {
     return {
-        Entrada(operaciones, "Carga\n(kgf/m2)", ColumnaDePano::Carga, Numero),
+        Entrada(operaciones, "Carga\n(kgf/m2)", ColumnaDePano::Carga, Distancia),
         Entrada(operaciones, "Markus\nCaso", ColumnaDePano::Caso, CasoDeApoyo),
-        Entrada(operaciones, "Lx\n(m)", ColumnaDePano::LX, Numero),
-        Entrada(operaciones, "Ly\n(m)", ColumnaDePano::LY, Numero),
+        Entrada(operaciones, "Lx\n(m)", ColumnaDePano::LX, Distancia),
+        Entrada(operaciones, "Ly\n(m)", ColumnaDePano::LY, Distancia),
         Resultado(operaciones, numeros, "Cx", &RepartoMarcus::CX, "0.0000"),
         Resultado(operaciones, numeros, "Cy", &RepartoMarcus::CY, "0.0000"),
         Resultado(operaciones, numeros, "Wx\n(kgf/m)", &RepartoMarcus::WX, "#,##0.00"),
@@ -57,12 +56,12 @@ std::vector<ColumnaDatos> Columnas(Marcus& operaciones, const Separadores& numer
 }  // namespace
 
 TablaDePanos::TablaDePanos(Marcus& operaciones, const Separadores& numeros, QWidget* padre)
-    : TablaDatos(Columnas(operaciones, numeros), numeros, programa::qt::Avance::Derecha, padre),
-      operaciones_(operaciones) {
+    : TablaDatos(Columnas(operaciones, numeros), numeros, padre), operaciones_(operaciones) {
     setObjectName("Panos");
     setHorizontalHeader(new programa::qt::EncabezadoAgrupado(
         {{2, 3, "Longitudes"}, {4, 5, "Coeficientes"}, {6, 7, "En cada Dirección"}}, this));
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this] { ContarBloque(); });
+    DeshacerPor([this] { operaciones_.Deshacer(); });
     TitularEsquina();
 }
 
@@ -101,7 +100,12 @@ void TablaDePanos::ContarBloque() {
     if (elegidas.size() != 1 || elegidas.front().height() < 2) return;
     const QItemSelectionRange& r = elegidas.front();
     const Bloque bloque{r.top() + 1, r.bottom() + 1, r.left() + 1, r.right() + 1};
-    QTimer::singleShot(0, this, [this, bloque] { operaciones_.EntrarBloque(bloque); });
+    QTimer::singleShot(0, this, [this, bloque] {
+        preguntando_ = true;
+        operaciones_.EntrarBloque(bloque);
+        preguntando_ = false;
+        viewport()->update();
+    });
 }
 
 }  // namespace trabex::marcus::ui::qt

@@ -11,6 +11,9 @@ class TablaDePanos : public programa::qt::TablaDatos {
   public:
     TablaDePanos(Marcus& operaciones, const Separadores& numeros, QWidget* padre);
 
+    /// A block that is asked about stays in sight.
+    bool EnMano() const override { return preguntando_ || TablaDatos::EnMano(); }
+
   protected:
     void mouseReleaseEvent(QMouseEvent* evento) override;
     void keyPressEvent(QKeyEvent* evento) override;
@@ -23,6 +26,7 @@ class TablaDePanos : public programa::qt::TablaDatos {
 
     Marcus& operaciones_;
     bool extendiendo_ = false;
+    bool preguntando_ = false;
 };
 
 }  // namespace trabex::marcus::ui::qt

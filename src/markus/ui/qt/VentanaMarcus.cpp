@@ -2,7 +2,6 @@
 
 #include <QAction>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QLabel>
@@ -17,6 +16,7 @@
 
 #include "markus/ui/ComandosMarcus.h"
 #include "markus/ui/qt/FiguraCasos.h"
+#include "markus/ui/qt/TablaDeNiveles.h"
 #include "markus/ui/qt/TablaDePanos.h"
 #include "markus/ui/qt/VentanaMarcusNuevo.h"
 #include "shell/qt/ComunVentanas.h"
@@ -37,46 +37,6 @@ constexpr qsizetype AvisosALaVista = 25;  // in the tool tip
 QString Texto(std::string_view texto) {
     return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
 }
-
-/// The names, which can't be entered, and the counts.
-class TablaDeNiveles : public programa::qt::TablaDatos {
-  public:
-    TablaDeNiveles(Marcus& operaciones, const Separadores& numeros, QWidget* padre)
-        : TablaDatos({{.Titulo = "Nivel",
-                       .Numero = std::nullopt,
-                       .Leer =
-                           [&operaciones](int fila) {
-                               return Q(operaciones.Niveles()[static_cast<std::size_t>(fila) - 1].Nombre);
-                           }},
-                      {.Titulo = "Paños",
-                       .Numero = programa::qt::NaturalDe16,
-                       .Leer =
-                           [&operaciones](int fila) {
-                               const int panos =
-                                   operaciones.Niveles()[static_cast<std::size_t>(fila) - 1].Panos;
-                               return static_cast<double>(panos);
-                           },
-                       .Poner =
-                           [&operaciones](int fila, const QVariant& panos) {
-                               if (fila != operaciones.Lista().Fila()) return false;
-                               operaciones.PonerNumeroDePanos(panos.toInt());
-                               return true;
-                           },
-                       .Ancho = 70}},
-                     numeros, programa::qt::Avance::Quieto, padre) {
-        setObjectName("Niveles");
-        setSelectionBehavior(SelectRows);
-        setSelectionMode(SingleSelection);
-        verticalHeader()->hide();
-    }
-
-  protected:
-    /// A name can't be entered: the active cell is the count beside it.
-    void currentChanged(const QModelIndex& actual, const QModelIndex& anterior) override {
-        TablaDatos::currentChanged(actual, anterior);
-        if (actual.isValid() && actual.column() == 0) setCurrentIndex(actual.siblingAtColumn(1));
-    }
-};
 
 }  // namespace
 
@@ -117,6 +77,11 @@ QWidget* VentanaMarcus::PanelDeNiveles() {
     niveles_->AlCambiarFila([this](int fila) {
         if (!mostrando_) operaciones_.SeleccionarNivel(fila);
     });
+    niveles_->AlEntrar([this] {
+        if (panos_->Filas() == 0) return;
+        panos_->setFocus();
+        panos_->IrA(1, 0);
+    });
     casos_ = new FiguraCasos(panel);
     auto* columna = new QVBoxLayout(panel);
     columna->setContentsMargins(0, 0, 0, 0);
@@ -126,9 +91,15 @@ QWidget* VentanaMarcus::PanelDeNiveles() {
 }
 
 QWidget* VentanaMarcus::PanelDePanos() {
-    panos_ = new TablaDePanos(operaciones_, aplicacion_.SeparadoresLocales, this);
+    auto* panel = new QWidget(this);
+    encabezado_ = new programa::qt::LineaElidida("Encabezado", panel);
+    panos_ = new TablaDePanos(operaciones_, aplicacion_.SeparadoresLocales, panel);
     panos_->AlCambiarFila([this](int) { MostrarCaso(); });
-    return panos_;
+    auto* columna = new QVBoxLayout(panel);
+    columna->setContentsMargins(0, 0, 0, 0);
+    columna->addWidget(encabezado_);
+    columna->addWidget(panos_, 1);
+    return panel;
 }
 
 QLayout* VentanaMarcus::LineaDelPie() {
@@ -162,9 +133,7 @@ void VentanaMarcus::CrearAcciones() {
         if (const auto atajo = atajos.find(comando.Clave); atajo != atajos.end())
             accion->setShortcut(atajo->second);
         connect(accion, &QAction::triggered, this, [this, operacion = operaciones.at(comando.Clave)] {
-            niveles_->TerminarEdicion();
-            panos_->TerminarEdicion();
-            operacion();
+            if (programa::qt::EntradasEnOrden(this)) operacion();
         });
         acciones_[comando.Clave] = accion;
     }
@@ -239,6 +208,13 @@ void VentanaMarcus::MostrarNiveles() {
         if (comando.PideElemento) Accion(comando.Clave)->setEnabled(!operaciones_.Niveles().empty());
 }
 
+void VentanaMarcus::MostrarNivel() {
+    const std::string& nivel = operaciones_.Nivel();
+    encabezado_->setText(nivel.empty() ? QString() : "Paños del nivel: " + Q(nivel));
+    panos_->OlvidarCambios();
+    MostrarPanos();
+}
+
 void VentanaMarcus::MostrarPanos() {
     panos_->PonerFilas(static_cast<int>(operaciones_.Panos().Cuantos()));
     cambio_.start(0);
@@ -281,9 +257,7 @@ bool VentanaMarcus::MostrarMarcusNuevo() {
 }
 
 void VentanaMarcus::reject() {
-    niveles_->TerminarEdicion();
-    panos_->TerminarEdicion();
-    if (operaciones_.PuedeCerrar()) QDialog::reject();
+    if (programa::qt::EntradasEnOrden(this) && operaciones_.PuedeCerrar()) QDialog::reject();
 }
 
 void VentanaMarcus::keyPressEvent(QKeyEvent* evento) {

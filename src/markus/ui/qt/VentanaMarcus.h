@@ -7,7 +7,6 @@
 #include <string_view>
 
 #include "markus/ui/Marcus.h"
-#include "shell/qt/TablaDatos.h"
 
 class QLabel;
 class QMenuBar;
@@ -15,6 +14,7 @@ class QMenuBar;
 namespace trabex::marcus::ui::qt {
 
 class FiguraCasos;
+class TablaDeNiveles;
 class TablaDePanos;
 
 /// The window `Marcus`: the levels of a project, the panels of the selected one with their shares, and the
@@ -41,6 +41,7 @@ class VentanaMarcus : public QDialog, public programa::PantallaEspacio, public P
     void Redibujar() override {}
 
     void MostrarNiveles() override;
+    void MostrarNivel() override;
     void MostrarPanos() override;
     void SoltarBloque() override;
     std::string Pedir(const std::string& texto, const std::string& encabezado) override;
@@ -69,7 +70,8 @@ class VentanaMarcus : public QDialog, public programa::PantallaEspacio, public P
     std::function<void(QWidget&)> reporte_;
     Marcus operaciones_;
     std::map<std::string_view, QAction*> acciones_;
-    programa::qt::TablaDatos* niveles_ = nullptr;
+    TablaDeNiveles* niveles_ = nullptr;
+    QLabel* encabezado_ = nullptr;
     TablaDePanos* panos_ = nullptr;
     FiguraCasos* casos_ = nullptr;
     QLabel* pie_ = nullptr;
