@@ -15,7 +15,7 @@ const FilaDeNivel& Fila(const Marcus& operaciones, int fila) {
     return operaciones.Niveles()[static_cast<std::size_t>(fila) - 1];
 }
 
-std::vector<programa::qt::ColumnaDatos> Columnas(Marcus& operaciones) {
+std::vector<programa::qt::ColumnaDatos> ColumnasDeNivel(Marcus& operaciones) {
     return {
         {.Titulo = "Nivel",
          .Numero = std::nullopt,
@@ -36,7 +36,7 @@ std::vector<programa::qt::ColumnaDatos> Columnas(Marcus& operaciones) {
 }  // namespace
 
 TablaDeNiveles::TablaDeNiveles(Marcus& operaciones, const Separadores& numeros, QWidget* padre)
-    : TablaDatos(Columnas(operaciones), numeros, padre) {
+    : TablaDatos(ColumnasDeNivel(operaciones), numeros, padre) {
     setObjectName("Niveles");
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);

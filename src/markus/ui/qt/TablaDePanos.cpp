@@ -40,7 +40,7 @@ ColumnaDatos Resultado(Marcus& operaciones, const Separadores& numeros, const ch
             }};
 }
 
-std::vector<ColumnaDatos> Columnas(Marcus& operaciones, const Separadores& numeros) {
+std::vector<ColumnaDatos> ColumnasDePano(Marcus& operaciones, const Separadores& numeros) {
     return {
         Entrada(operaciones, "Carga\n(kgf/m2)", ColumnaDePano::Carga, Distancia),
         Entrada(operaciones, "Markus\nCaso", ColumnaDePano::Caso, CasoDeApoyo),
@@ -56,7 +56,7 @@ std::vector<ColumnaDatos> Columnas(Marcus& operaciones, const Separadores& numer
 }  // namespace
 
 TablaDePanos::TablaDePanos(Marcus& operaciones, const Separadores& numeros, QWidget* padre)
-    : TablaDatos(Columnas(operaciones, numeros), numeros, padre), operaciones_(operaciones) {
+    : TablaDatos(ColumnasDePano(operaciones, numeros), numeros, padre), operaciones_(operaciones) {
     setObjectName("Panos");
     setHorizontalHeader(new programa::qt::EncabezadoAgrupado(
         {{2, 3, "Longitudes"}, {4, 5, "Coeficientes"}, {6, 7, "En cada Dirección"}}, this));
