@@ -122,21 +122,8 @@ void MedirPanos(benchmark::State& estado) {
     for (int i = 0; i < Panos; ++i)
         panos.push_back({900, static_cast<std::int16_t>(i % 9 + 1), Longitud(i), Longitud(i + 37), {}});
     MedirConRazon(
-        estado, [&] { CalculePanos(panos); }, FormulaSola());
+        estado, [&] { CalculeMarcus(panos); }, FormulaSola());
 }
 BENCHMARK(MedirPanos)->Unit(benchmark::kMicrosecond);
-
-void MedirFilasDeTexto(benchmark::State& estado) {
-    std::vector<FilaMarcus> filas;
-    for (int i = 0; i < Panos; ++i)
-        filas.push_back({"900",
-                         std::to_string(i % 9 + 1),
-                         std::to_string(Longitud(i)),
-                         std::to_string(Longitud(i + 37)),
-                         {}});
-    MedirConRazon(
-        estado, [&] { CalculeMarcus(filas); }, FormulaSola());
-}
-BENCHMARK(MedirFilasDeTexto)->Unit(benchmark::kMicrosecond);
 
 }  // namespace

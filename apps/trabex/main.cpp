@@ -13,6 +13,7 @@
 #include "loads/salida/ModuloCargas.h"
 #include "lote/ui/qt/EspacioMemoria.h"
 #include "markus/salida/ModuloMarcus.h"
+#include "markus/ui/qt/EspacioMarcus.h"
 #include "reports/ui/qt/SalidaDelPrograma.h"
 #include "shell/Arranque.h"
 #include "shell/qt/CajaMensajesQt.h"
@@ -53,6 +54,7 @@ int main(int argc, char** argv) {
         trabex::escaleras::ui::qt::EspacioEscaleraT(salida),
         trabex::helices::ui::qt::EspacioEscaleraH(salida),
         trabex::lote::ui::qt::EspacioMemoria(modulos),
+        trabex::marcus::ui::qt::EspacioMarcus(salida),
     };
     std::unique_ptr<trabex::programa::qt::VentanaMenuPrincipal> menu;
     trabex::programa::qt::VentanaSplash splash([&] {

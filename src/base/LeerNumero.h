@@ -14,7 +14,8 @@ struct ClaseNumero {
     bool Entero = false;
     double Minimo = -9999999999.99;
     double Maximo = 9999999999.99;
-    int Decimales = 0;  ///< shown at least
+    int Decimales = 0;                ///< shown at least
+    std::optional<double> Vacio = 0;  ///< what an empty entry is; nothing where it is refused
 };
 inline constexpr ClaseNumero EnteroDe32{true, -2147483648.0, 2147483647.0, 0};
 inline constexpr ClaseNumero NaturalDe16{true, 0, 32767, 0};
@@ -31,7 +32,7 @@ struct NumeroJuzgado {
     std::string Motivo;
 };
 
-/// The one judgement of typing, paste and files. An empty entry is 0. A whole number takes its thousands
+/// The one judgement of typing, paste and files. A whole number takes its thousands
 /// where no other reading is whole: "1.250" is then 1250.
 NumeroJuzgado JuzgarNumero(std::string_view texto, const ClaseNumero& clase, const Separadores& separadores);
 

@@ -80,6 +80,8 @@ struct ReportesDeModulo {
     const char* TituloGraficos = nullptr;
     /// Fills the tables that the report of drawings shows beside them; null where it shows none.
     void (*MontarConGraficos)(almacen::Conexion& temporal, const Lista& lista) = nullptr;
+    /// The report of results tells one element: each gets its own, staged as a list of one.
+    bool UnoPorElemento = false;
 };
 
 /// A file for another program, with all elements of a kind.

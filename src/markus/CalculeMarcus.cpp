@@ -2,11 +2,9 @@
 
 #include <array>
 #include <cmath>
+#include <vector>
 
-#include "base/Enteros.h"
 #include "base/ErrorEjecucion.h"
-#include "base/Formatos.h"
-#include "base/Texto.h"
 #include "base/VigilanciaFlotante.h"
 
 namespace trabex::marcus {
@@ -48,21 +46,20 @@ RepartoMarcus Repartir(const PanoMarcus& pano, double CX) {
     return {CX, CY, pano.Carga * CX, pano.Carga * CY};
 }
 
-/// Walks rows in order, carrying CX from one to the next. Those before a fault get what was found for them,
-/// the others keep what they had.
-template <class Fila, class Leer>
-void RepartirFilas(std::span<Fila> filas, Leer leer) {
+}  // namespace
+
+void CalculeMarcus(std::span<PanoMarcus> panos) {
     std::vector<RepartoMarcus> repartos;
-    repartos.reserve(filas.size());
+    repartos.reserve(panos.size());
     const auto guardar = [&] {
-        for (std::size_t i = 0; i < repartos.size(); ++i) filas[i].Reparto = repartos[i];
+        for (std::size_t i = 0; i < repartos.size(); ++i) panos[i].Reparto = repartos[i];
     };
     try {
         Vigilar([&](const Pasos& pasos) {
             repartos.clear();
             double CX = 0;
-            for (const Fila& fila : filas) {
-                repartos.push_back(pasos([&] { return Repartir(leer(fila), CX); }));
+            for (const PanoMarcus& pano : panos) {
+                repartos.push_back(pasos([&] { return Repartir(pano, CX); }));
                 CX = repartos.back().CX;
             }
         });
@@ -71,30 +68,6 @@ void RepartirFilas(std::span<Fila> filas, Leer leer) {
         throw;
     }
     guardar();
-}
-
-double Numero(const std::string& texto) {
-    if (const auto numero = LeerNumero(texto)) return *numero;
-    throw ErrorEjecucion(CodigoError::TiposNoCoinciden);
-}
-
-PanoMarcus LeerFila(const FilaMarcus& fila) {
-    PanoMarcus pano;
-    pano.Carga = Numero(fila.Carga);
-    pano.LX = Numero(fila.LX);
-    pano.LY = Numero(fila.LY);
-    pano.Caso = Recortar(fila.Caso).empty() ? std::int16_t{1} : Redondear16(Numero(fila.Caso));
-    return pano;
-}
-
-}  // namespace
-
-void CalculePanos(std::span<PanoMarcus> panos) {
-    RepartirFilas(panos, [](const PanoMarcus& pano) -> const PanoMarcus& { return pano; });
-}
-
-void CalculeMarcus(std::span<FilaMarcus> filas) {
-    RepartirFilas(filas, LeerFila);
 }
 
 }  // namespace trabex::marcus

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -19,6 +20,15 @@ struct RepartoMarcus {
 inline constexpr std::int16_t PrimerCaso = 1;
 inline constexpr std::int16_t UltimoCaso = 9;
 
+/// How many edges of a panel are fixed at the ends of its strip along each direction; the others are simply
+/// supported. The factor of a strip is 5, 2 or 1 for none, one or both ends fixed.
+struct BordesDeCaso {
+    int EnX;
+    int EnY;
+};
+inline constexpr std::array<BordesDeCaso, UltimoCaso> Bordes{
+    {{0, 0}, {1, 1}, {2, 2}, {0, 1}, {1, 0}, {2, 0}, {0, 2}, {2, 1}, {1, 2}}};
+
 /// A rectangular two-way panel. A number that was left empty is NaN.
 struct PanoMarcus {
     double Carga = 0;       ///< in whatever unit the engineer takes it to be: it is only shared out
@@ -35,15 +45,6 @@ struct NivelMarcus {
     std::vector<PanoMarcus> Filas;
 };
 
-/// A row of the grid of panels: what is typed, and the results.
-struct FilaMarcus {
-    std::string Carga;
-    std::string Caso;
-    std::string LX;
-    std::string LY;
-    RepartoMarcus Reparto;
-};
-
 /// Shares the load of each panel between its two directions by equal deflection of two crossing strips at the
 /// centre (H. Marcus, "Die vereinfachte Berechnung biegsamer Platten", 1925), by support case.
 ///
@@ -51,10 +52,6 @@ struct FilaMarcus {
 /// repeats the CX of the panel before it, 0 at the first. Throws ErrorEjecucion 13 at an empty number, and 6
 /// when the ratio of the lengths is past the range of numbers: that panel and those after it keep the results
 /// they had.
-void CalculePanos(std::span<PanoMarcus> panos);
-
-/// The same on the grid's rows. An empty case is 1. Throws ErrorEjecucion 13 at a text that is no number, and
-/// 6 at a case past 16 bits; the results of that row and those after it stay as they were.
-void CalculeMarcus(std::span<FilaMarcus> filas);
+void CalculeMarcus(std::span<PanoMarcus> panos);
 
 }  // namespace trabex::marcus

@@ -135,8 +135,9 @@ void ListaElementos::Renombrar() {
     }
     AbrirLista();
     almacen::BuscarRegistro(Lista(), "Nombre=" + almacen::EntreComillas(nuevo));
-    if (!Lista().Encontrado()) Lista().MoverAlPrimero();
-    Seleccionar(Fila());
+    if (!Lista().Encontrado()) return MostrarPrimera();
+    pantalla_.MarcarFila(Fila());
+    elemento_.AlRenombrar();
 }
 
 void ListaElementos::Eliminar() {

@@ -44,6 +44,8 @@ class ElementoDeLista {
     virtual void AlAgregar() = 0;
     /// There is no element.
     virtual void AlVaciar() = 0;
+    /// The list stands on the element that was just given another name.
+    virtual void AlRenombrar() { AlSeleccionar(); }
     /// The list was filled anew, and none of its rows is marked as failing.
     virtual void AlLlenar() {}
 };

@@ -10,8 +10,10 @@ namespace trabex::programa {
 
 /// What the rename window says of a kind of element.
 struct TextosDeRenombrar {
-    std::string_view YaExiste;  ///< of a name that is taken, below the name itself
-    std::string_view Pregunta;  ///< before the old name
+    std::string_view YaExiste;                    ///< of a name that is taken, below the name itself
+    std::string_view Pregunta;                    ///< before the old name
+    std::string_view Por = "   Por el Nombre: ";  ///< between the old and the new one
+    std::string_view Encabezado = "Renombrar...";
 };
 
 /// Operations of the window that asks for an element's new name. It writes nothing: the workspace does.

@@ -63,7 +63,7 @@ void ProbarPanos(Bytes& bytes) {
     std::vector<marcus::PanoMarcus> panos(2);
     for (marcus::PanoMarcus& pano : panos) bytes.PonerTodos(pano.Carga, pano.Caso, pano.LX, pano.LY);
     try {
-        marcus::CalculePanos(panos);
+        marcus::CalculeMarcus(panos);
     } catch (const ErrorEjecucion&) {
         Exigir(panos[1].Reparto.CX == 0);
     }

@@ -323,7 +323,7 @@ class Lote(unittest.TestCase):
         self.assertEqual(sorted(os.listdir(reportes)),
                          sorted(f"{cual}.{formato}" for formato in ("htm", "pdf", "rtf", "xls")
                                 for cual in ("escalerasH-graficos", "escalerasH-resultados", "escalerasT-graficos", "losas-graficos",
-                                             "losas-resultados")))
+                                             "losas-resultados", "marcus-1-NIVEL 1", "marcus-2-TECHO")))
         pdf = subprocess.run(["pdftotext", "-layout", reportes / "losas-resultados.pdf", "-"],
                              capture_output=True, text=True).stdout
         html = (reportes / "losas-resultados.htm").read_text()
@@ -335,6 +335,11 @@ class Lote(unittest.TestCase):
             texto = f"{momento:,.2f}".replace(",", " ").replace(".", ",").replace(" ", ".")
             self.assertIn(texto, pdf)
             self.assertIn(texto, html)
+        for numero, nivel in enumerate(documento["marcus"], 1):
+            html = (reportes / f"marcus-{numero}-{nivel['Nombre']}.htm").read_text()
+            for fila in nivel["Filas"]:
+                for valor, decimales in ((fila["CX"], 4), (fila["CY"], 4), (fila["WX"], 2), (fila["WY"], 2)):
+                    self.assertIn(f">{valor:.{decimales}f}<".replace(".", ","), html)
         for cual in ("escalerasH-graficos", "escalerasH-resultados"):
             html = (reportes / f"{cual}.htm").read_text()
             for helice in documento["escalerasH"]:
@@ -343,7 +348,7 @@ class Lote(unittest.TestCase):
         self.assertEqual(len(os.listdir(self.comun / "salida" / "escalerasH")), 2 * len(documento["escalerasH"]))
 
     def test_se_escribe_lo_que_se_pide(self):
-        self.sql("DELETE FROM LosaDatos WHERE Nombre <> 'L-7 TECHO'")
+        self.sql("DELETE FROM LosaDatos WHERE Nombre <> 'L-7 TECHO'", "DELETE FROM MarcusDatos")
         pedidos = ((["--solo=resultados"], []), (["--solo=planex,resultados"], ["planex"]),
                    (["--sin-dibujos", "--solo=hojas,planex"], ["planex"]),
                    (["--solo=reportes", "--sin-dibujos"], ["Trabajo", "reportes"]))

@@ -57,7 +57,7 @@ void VerificarMarcus(Problemas& problemas) {
         double razon = 0.2;
         for (int i = 0; i < 21; ++i, razon *= 1.17) {
             std::array<PanoMarcus, 1> pano{{{1000, grupo.Caso, 4, 4 * razon, {}}}};
-            CalculePanos(pano);
+            CalculeMarcus(pano);
             const double x4 = cx, y4 = cy * std::pow(razon, 4);
             problema.NuevoCaso();
             problema.Comparar(pano[0].Reparto.CX, y4 / (x4 + y4), 1);
@@ -71,7 +71,7 @@ void VerificarMarcus(Problemas& problemas) {
         {{1, 0.5}, {4, 0.2857}, {6, 0.8333}, {8, 0.6667}}};
     for (const auto& [caso, CX] : publicados) {
         std::array<PanoMarcus, 1> pano{{{1000, caso, 5, 5, {}}}};
-        CalculePanos(pano);
+        CalculeMarcus(pano);
         tabla.NuevoCaso();
         tabla.Comparar(pano[0].Reparto.CX, CX, 1);
     }

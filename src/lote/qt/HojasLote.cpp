@@ -3,28 +3,18 @@
 #include <QBuffer>
 #include <QPdfWriter>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "base/Archivos.h"
 #include "base/Edicion.h"
 #include "drawing/Superficie.h"
 #include "drawing/qt/PapelQt.h"
+#include "lote/NombreDeArchivo.h"
 #include "reports/montaje/qt/SuperficieQt.h"
 
 namespace trabex::lote::qt {
 
 namespace {
-
-/// A name without the characters that file systems refuse.
-std::string ParaArchivo(std::string nombre) {
-    for (char& letra : nombre) {
-        if (std::string_view("\\/:*?\"<>|").find(letra) != std::string_view::npos ||
-            static_cast<unsigned char>(letra) < ' ')
-            letra = '_';
-    }
-    return nombre;
-}
 
 void Escribir(const QBuffer& bytes, const std::filesystem::path& archivo) {
     EscribirArchivo(archivo, {bytes.data().constData(), static_cast<std::size_t>(bytes.data().size())});

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "drawing/Superficie.h"
+#include "lote/NombreDeArchivo.h"
 #include "reports/montaje/TablaGraficos.h"
 #include "reports/montaje/qt/SuperficieQt.h"
 #include "reports/salidas/MotorReportes.h"
@@ -46,21 +47,30 @@ class ReportesDeLista {
         Exportar(reportes.Graficos, "graficos");
     }
 
-    /// The heading names the first element, as that of a workspace that has just opened does.
     void Resultados() {
-        almacen::Conexion temporal;
-        const std::string primero = lista_.Elementos.empty() ? "" : lista_.Elementos.front().Nombre;
-        montaje::AbrirTemporal(entorno_, datos_, {lista_.De->Reportes->Titulo, primero, true}, temporal);
-        almacen::Transaccion guardado(temporal);
-        lista_.De->Reportes->Montar(temporal, lista_);
-        if (!guardado.Confirmar()) return NoSeMonto("resultados");
-        temporal.Cerrar();
-        Exportar(lista_.De->Reportes->Resultados, "resultados");
+        if (!lista_.De->Reportes->UnoPorElemento) return ResultadosDe(lista_, "resultados");
+        for (std::size_t i = 0; i < lista_.Elementos.size(); ++i) {
+            const Elemento& elemento = lista_.Elementos[i];
+            ResultadosDe({lista_.De, lista_.Generales, {elemento}},
+                         std::to_string(i + 1) + "-" + ParaArchivo(elemento.Nombre));
+        }
     }
 
   private:
     std::string Reporte(const std::string& nombre) const {
         return "el reporte " + std::string(lista_.De->Clave) + "-" + nombre;
+    }
+
+    /// The heading names the first element, as that of a workspace that has just opened does.
+    void ResultadosDe(const Lista& lista, const std::string& nombre) {
+        almacen::Conexion temporal;
+        const std::string primero = lista.Elementos.empty() ? "" : lista.Elementos.front().Nombre;
+        montaje::AbrirTemporal(entorno_, datos_, {lista.De->Reportes->Titulo, primero, true}, temporal);
+        almacen::Transaccion guardado(temporal);
+        lista.De->Reportes->Montar(temporal, lista);
+        if (!guardado.Confirmar()) return NoSeMonto(nombre);
+        temporal.Cerrar();
+        Exportar(lista.De->Reportes->Resultados, nombre);
     }
 
     void NoSeMonto(const std::string& nombre) {

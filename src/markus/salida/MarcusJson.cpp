@@ -1,7 +1,5 @@
 #include "markus/salida/MarcusJson.h"
 
-#include <tuple>
-
 #include "lote/EscritorJson.h"
 #include "markus/Avisos.h"
 #include "store/tablas/CamposMarcus.h"
@@ -10,11 +8,7 @@ namespace trabex::marcus::salida {
 
 namespace {
 
-using almacen::Campo;
 using lote::Escritor;
-
-constexpr std::tuple CamposReparto{Campo{"CX", &RepartoMarcus::CX}, Campo{"CY", &RepartoMarcus::CY},
-                                   Campo{"WX", &RepartoMarcus::WX}, Campo{"WY", &RepartoMarcus::WY}};
 
 }  // namespace
 
@@ -26,7 +20,7 @@ std::string MarcusJson(const NivelMarcus& nivel, const std::optional<ErrorEjecuc
         for (const PanoMarcus& pano : nivel.Filas) {
             json.StartObject();
             lote::EscribirCampos(json, pano, almacen::tablas::CamposPano);
-            lote::EscribirCampos(json, pano.Reparto, CamposReparto);
+            lote::EscribirCampos(json, pano.Reparto, almacen::tablas::CamposReparto);
             json.EndObject();
         }
         json.EndArray();

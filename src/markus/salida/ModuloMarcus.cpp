@@ -6,6 +6,7 @@
 
 #include "lote/BloquesDeMemoria.h"
 #include "markus/salida/MarcusJson.h"
+#include "markus/salida/ReporteMarcus.h"
 #include "store/tablas/TablasMarcus.h"
 
 namespace trabex::marcus::salida {
@@ -21,7 +22,7 @@ lote::Elemento Calcular(almacen::proyecto::ProyectoAbierto& proyecto, const lote
     Calculado calculado;
     almacen::tablas::LeerMarcus(proyecto, calculado.Nivel);
     try {
-        CalculePanos(calculado.Nivel.Filas);
+        CalculeMarcus(calculado.Nivel.Filas);
     } catch (const ErrorEjecucion& error) {
         calculado.Error = error;
     }
@@ -80,6 +81,12 @@ lote::ParteDeMemoria Contar(const lote::Lista&, const lote::Elemento& elemento, 
 }
 
 constexpr lote::MemoriaDeModulo Memoria{Metodo, Contar, nullptr};
+void Montar(almacen::Conexion& temporal, const lote::Lista& lista) {
+    MontarPanos(temporal, lote::Leer<Calculado>(lista.Elementos.front().Calculado).Nivel.Filas);
+}
+
+constexpr lote::ReportesDeModulo Reportes{
+    TituloReporteMarcus, "Marcus.rpt", nullptr, Montar, nullptr, nullptr, true};
 
 }  // namespace
 
@@ -94,6 +101,8 @@ const lote::Modulo ModuloMarcus{.Nombre = "nivel de Markus",
                                 .Json = Json,
                                 .Columnas = Columnas,
                                 .Resumir = Resumir,
+
+                                .Reportes = &Reportes,
                                 .Memoria = &Memoria};
 
 }  // namespace trabex::marcus::salida

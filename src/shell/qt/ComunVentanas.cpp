@@ -4,10 +4,12 @@
 #include <QDialog>
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QMenu>
 #include <QPushButton>
 #include <QScreen>
 #include <QSettings>
 #include <QWidget>
+#include <algorithm>
 
 #include "shell/qt/EntradaJuzgada.h"
 #include "shell/qt/Iconos.h"
@@ -93,6 +95,19 @@ QPushButton* Boton(const QString& texto, const QString& icono, QWidget* padre) {
     auto* boton = new QPushButton(texto, padre);
     if (!icono.isEmpty()) boton->setIcon(Icono(icono));
     return boton;
+}
+
+void PonerMnemonicos(const QMenu& menu) {
+    QString usadas;
+    for (QAction* accion : menu.actions()) {
+        const QString texto = accion->text();
+        const auto libre = std::find_if(texto.begin(), texto.end(), [&](QChar letra) {
+            return letra.isLetter() && !usadas.contains(letra, Qt::CaseInsensitive);
+        });
+        if (libre == texto.end()) continue;
+        usadas += *libre;
+        accion->setText(QString(texto).insert(libre - texto.begin(), '&'));
+    }
 }
 
 QLayout* FilaAceptarCancelar(QDialog* dialogo, const std::function<void()>& alAceptar) {

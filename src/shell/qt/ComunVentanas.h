@@ -8,6 +8,7 @@
 
 class QDialog;
 class QLayout;
+class QMenu;
 class QPushButton;
 class QSize;
 class QWidget;
@@ -43,6 +44,9 @@ void MostrarModal(QDialog& ventana);
 
 /// A button with a line icon.
 QPushButton* Boton(const QString& texto, const QString& icono, QWidget* padre);
+
+/// Gives each entry of a menu a letter of its own.
+void PonerMnemonicos(const QMenu& menu);
 
 /// The row of " Aceptar " and " Cancelar " at a dialog's foot: the first accepts once no entry stands
 /// refused, the second closes it without change.

@@ -539,6 +539,7 @@ void TablaDatos::PonerTodo(const QList<QStringList>& bloque, const QModelIndexLi
 }
 
 void TablaDatos::Deshacer() {
+    if (deshacerPor_) return deshacerPor_();
     Mostrar(modelo_->Deshacer());
 }
 

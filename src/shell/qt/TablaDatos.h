@@ -58,12 +58,14 @@ class TablaDatos : public QTableView, public EntradaJuzgada {
     void Borrar();
     void Deshacer();
     void Rehacer();
+    /// Whoever holds the data takes changes back, others than entries among them.
+    void DeshacerPor(std::function<void()> accion) { deshacerPor_ = std::move(accion); }
 
     /// The entry in an open editor is taken, and the next cell that a key leads to becomes current. A refused
     /// one stays where it is.
     void TomarYSeguir(QWidget* editor, const QKeyEvent& tecla);
     /// The keyboard is in the table or in one of its cells.
-    bool EnMano() const;
+    virtual bool EnMano() const;
 
     QSize sizeHint() const override;
 
@@ -75,8 +77,10 @@ class TablaDatos : public QTableView, public EntradaJuzgada {
     void currentChanged(const QModelIndex& actual, const QModelIndex& anterior) override;
     void focusOutEvent(QFocusEvent* evento) override;
 
+    /// Goes where a key leads once its entry is taken.
+    virtual void Seguir(int tecla, Qt::KeyboardModifiers mas);
+
   private:
-    void Seguir(int tecla, Qt::KeyboardModifiers mas);
     /// The next cell that can be edited; none past the table's end.
     QModelIndex Avanzar(bool atras) const;
     bool Editable(int columna) const;
@@ -92,6 +96,7 @@ class TablaDatos : public QTableView, public EntradaJuzgada {
     ModeloTabla* modelo_;
     int columnaDeEnter_ = -1;  // where the run of Tab began; none when there is no run
     std::function<void(int)> alCambiarFila_;
+    std::function<void()> deshacerPor_;
 };
 
 }  // namespace trabex::programa::qt

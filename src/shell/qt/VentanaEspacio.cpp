@@ -17,7 +17,6 @@
 #include <QTabBar>
 #include <QToolBar>
 #include <QVBoxLayout>
-#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -37,20 +36,6 @@ constexpr int AnchoDeLista = 230;
 
 QString Texto(std::string_view texto) {
     return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
-}
-
-/// Gives each entry of a menu a letter of its own.
-void PonerMnemonicos(const QMenu& menu) {
-    QString usadas;
-    for (QAction* accion : menu.actions()) {
-        const QString texto = accion->text();
-        const auto libre = std::find_if(texto.begin(), texto.end(), [&](QChar letra) {
-            return letra.isLetter() && !usadas.contains(letra, Qt::CaseInsensitive);
-        });
-        if (libre == texto.end()) continue;
-        usadas += *libre;
-        accion->setText(QString(texto).insert(libre - texto.begin(), '&'));
-    }
 }
 
 }  // namespace
