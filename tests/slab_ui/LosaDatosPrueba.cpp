@@ -121,9 +121,9 @@ TEST_F(Datos, LosMomentosDePruebaSonLosDeLoQueSeVe) {
     const Separadores numeros{".", ","};
     const auto texto = [&](double momento) { return Formato(momento, "#,##0", numeros); };
     const std::string prueba = datos.MomentosDePrueba(numeros);
-    EXPECT_TRUE(prueba.starts_with("Momentos de prueba (kgf·m):  0 | ")) << prueba;
-    EXPECT_NE(prueba.find(" | " + texto(-MB) + " | "), std::string::npos) << prueba << texto(-MB);
-    EXPECT_NE(prueba.find(" | " + texto(-MC) + " | "), std::string::npos) << prueba << texto(-MC);
+    EXPECT_TRUE(prueba.starts_with("Momentos de prueba (kgf·m):  1: 0 | ")) << prueba;
+    EXPECT_NE(prueba.find(" | 2: " + texto(-MB) + " | "), std::string::npos) << prueba << texto(-MB);
+    EXPECT_NE(prueba.find(" | 3: " + texto(-MC) + " | "), std::string::npos) << prueba << texto(-MC);
     datos.PonerLongitud(2, 0);
     EXPECT_EQ(datos.MomentosDePrueba(numeros), "");
     datos.PonerLongitud(2, 4);

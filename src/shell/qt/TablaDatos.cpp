@@ -265,6 +265,9 @@ class EditorDeCelda : public QStyledItemDelegate {
     void initStyleOption(QStyleOptionViewItem* opcion, const QModelIndex& celda) const override {
         QStyledItemDelegate::initStyleOption(opcion, celda);
         if (!tabla_.EnMano()) opcion->state &= ~(QStyle::State_Selected | QStyle::State_HasFocus);
+        if (celda != modelo_.Rechazada()) return;  // its mark shows through the selection too
+        opcion->palette.setBrush(QPalette::Highlight, opcion->backgroundBrush);
+        opcion->palette.setBrush(QPalette::HighlightedText, opcion->palette.text());
     }
 
   private:
@@ -334,6 +337,12 @@ void TablaDatos::currentChanged(const QModelIndex& actual, const QModelIndex& an
         QTimer::singleShot(0, this, [this] {
             if (modelo_->Rechazada().isValid() && currentIndex() != modelo_->Rechazada()) Reclamar();
         });
+}
+
+/// The row below a cell is painted by the view, with the view's palette.
+void TablaDatos::initViewItemOption(QStyleOptionViewItem* opcion) const {
+    QTableView::initViewItemOption(opcion);
+    if (!EnMano()) opcion->palette.setBrush(QPalette::Highlight, Qt::transparent);
 }
 
 bool TablaDatos::EnMano() const {

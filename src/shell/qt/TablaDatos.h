@@ -79,6 +79,7 @@ class TablaDatos : public QTableView, public EntradaJuzgada {
     void contextMenuEvent(QContextMenuEvent* evento) override;
     void currentChanged(const QModelIndex& actual, const QModelIndex& anterior) override;
     void focusOutEvent(QFocusEvent* evento) override;
+    void initViewItemOption(QStyleOptionViewItem* opcion) const override;
 
   private:
     void Seguir(int tecla, Qt::KeyboardModifiers mas);

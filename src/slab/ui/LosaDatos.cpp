@@ -176,7 +176,8 @@ std::string LosaDatos::MomentosDePrueba(const Separadores& numeros) const {
                numero(resultados.MaxMomentoTramo);
     const LosaCalculada calculada{prueba, losas_.Programa().Generales, resultados};
     for (std::size_t j = 1; j <= N + 1; ++j) {
-        texto += numero(MomentoSuperior(calculada, j));
+        const std::string& eje = prueba.Ejes[j].Eje;
+        texto += (eje.empty() ? std::to_string(j) : eje) + ": " + numero(MomentoSuperior(calculada, j));
         if (j <= N) texto += " | " + numero(resultados.DisenoTramo[j].MT) + " | ";
     }
     return texto;

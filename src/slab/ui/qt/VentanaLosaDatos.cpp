@@ -12,6 +12,7 @@
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -93,6 +94,7 @@ VentanaLosaDatos::VentanaLosaDatos(Losas& losas, programa::CajaMensajes& caja, Q
     paginas_->addTab(PaginaDeJuntasD(), "Juntas Desplazadas");
     paginas_->addTab(PaginaDeApoyos(), "Apoyos");
     paginas_->addTab(PaginaDeCargas(), "Cargas");
+    paginas_->setMinimumWidth(paginas_->tabBar()->sizeHint().width());  // no tab out of sight
     auto* partes = new QSplitter(Qt::Horizontal, this);
     partes->addWidget(paginas_);
     partes->addWidget(Bocetos());
