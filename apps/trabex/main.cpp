@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/Archivos.h"
 #include "helical/salida/ModuloEscalerasH.h"
 #include "helical/ui/qt/EspacioEscaleraH.h"
 #include "loads/salida/ModuloCargas.h"
@@ -61,6 +62,8 @@ int main(int argc, char** argv) {
         menu = std::make_unique<trabex::programa::qt::VentanaMenuPrincipal>(aplicacion, servicios,
                                                                             std::move(espacios));
         menu->show();
+        const QStringList argumentos = QApplication::arguments();
+        if (argumentos.size() > 1) menu->AbrirProyecto(trabex::CaminoDeTexto(argumentos[1].toStdString()));
     });
     splash.show();
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);

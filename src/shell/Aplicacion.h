@@ -17,6 +17,7 @@ struct Aplicacion {
     std::string NombreProyecto;             ///< its name with extension; empty while no project is chosen
     std::filesystem::path ArchivoAyuda;     ///< the help file, where there is one
     std::string Usuario;                    ///< the user's name, as reports print it
+    std::filesystem::path Respaldos;        ///< folder of the projects' backups; empty where none are taken
     Separadores SeparadoresLocales;
     Tapiz Preferencias;
 

@@ -80,6 +80,7 @@ void PrepararArranque(Plataforma& plataforma, Carpetas& carpetas, Aplicacion& ap
     carpetas.CaminoUsuario = base / CarpetaComun / CarpetaPropia;
     carpetas.CaminoTemporales = carpetas.CaminoUsuario / "Temporales";
     aplicacion.Usuario = plataforma.NombreDelUsuario();
+    aplicacion.Respaldos = carpetas.Respaldos();
     CrearCarpetas(base, carpetas);
     CopiarArchivos(carpetas);
     LeerPreferencias(carpetas, aplicacion);

@@ -65,6 +65,12 @@ Mensaje Pregunta(const std::string& texto, const std::string& encabezado) {
     return mensaje;
 }
 
+Mensaje PreguntaDeEliminar(const std::string& texto, const std::string& encabezado) {
+    Mensaje mensaje = Pregunta(texto, encabezado);
+    mensaje.PorDefecto = 1;
+    return mensaje;
+}
+
 Mensaje PreguntaDeSalvar(const std::string& editado, const std::string& encabezado) {
     return Pregunta(editado + "\n¿Desea Salvar las Modificaciones?", encabezado);
 }

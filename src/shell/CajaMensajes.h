@@ -77,6 +77,9 @@ Mensaje Aviso(const std::string& texto, const std::string& encabezado);
 /// A question with two buttons, the first by default.
 Mensaje Pregunta(const std::string& texto, const std::string& encabezado);
 
+/// The question before something is deleted: "No" has the focus.
+Mensaje PreguntaDeEliminar(const std::string& texto, const std::string& encabezado);
+
 /// The question of a data window that is left with changes: what is edited, over it.
 Mensaje PreguntaDeSalvar(const std::string& editado, const std::string& encabezado);
 

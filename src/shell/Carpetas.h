@@ -14,6 +14,7 @@ struct Carpetas {
     /// The load database that all projects share.
     std::filesystem::path AnalisisCarga() const { return Proyectos() / "AnalisisCarga.mdb"; }
     std::filesystem::path ReportesExportados() const { return CaminoUsuario / "ReportesExportados"; }
+    std::filesystem::path Respaldos() const { return CaminoUsuario / "Respaldos"; }
     std::filesystem::path Tapices() const { return CaminoUsuario / "Tapices"; }
 };
 

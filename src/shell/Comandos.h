@@ -25,7 +25,7 @@ struct Comando {
     Orden Ejecuta = Orden::Propia;
 };
 
-inline constexpr std::array<Comando, 18> Comandos{{
+inline constexpr std::array<Comando, 19> Comandos{{
     {"ID_Nuevo", "&NUEVO PROYECTO...", Menu::Proyecto, "nuevo", true},
     {"ID_Abrir", "&ABRIR PROYECTO...", Menu::Proyecto, "abrir", true},
     {"ID_Modificar", "EDITAR DATOS DEL PROYECTO...", Menu::Proyecto, "editar", true},
@@ -47,6 +47,7 @@ inline constexpr std::array<Comando, 18> Comandos{{
     {"ID_Carga", "Base de Datos Análisis de Carga de Losas...", Menu::Mantenimiento, "base", true,
      Orden::Espacio},
     {"ID_Reparar", "REPARAR Y COMPACTAR ARCHIVOS...", Menu::Mantenimiento, "reparar", true},
+    {"ID_Restaurar", "Restaurar un Respaldo...", Menu::Mantenimiento, "respaldo", false},
     {"ID_Temas", "TEMAS DE AYUDA...", Menu::Ayuda, "ayuda", false},
     {"ID_Manual", "MANUAL DE LOSAS...", Menu::Ayuda, "manual", true},
     {"ID_Sobre", "ACERCA DE Trabex 2024...", Menu::Ayuda, "sobre", false},

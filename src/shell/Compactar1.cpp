@@ -6,6 +6,7 @@
 
 #include "base/Archivos.h"
 #include "base/Texto.h"
+#include "shell/Respaldos.h"
 #include "store/Comparacion.h"
 #include "store/Mantenimiento.h"
 
@@ -52,6 +53,7 @@ void Compactar1::VaciarTemporales() const {
 void Compactar1::Compactar(const std::filesystem::path& archivo) {
     const std::filesystem::path destino = servicios_.Carpetas.CaminoTemporales / NombreTemporal();
     std::error_code error;
+    Respaldar(aplicacion_.Respaldos, archivo);
     if (std::filesystem::exists(destino, error)) BorrarArchivo(destino);
     if (!almacen::CompactarBaseDatos(archivo, destino)) {
         Mensaje fallo;

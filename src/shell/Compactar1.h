@@ -27,7 +27,7 @@ std::vector<std::string> ListarProyectos(const std::filesystem::path& carpeta);
 /// place.
 ///
 /// The steps after a failed compaction run all the same: the source is deleted and the copy of what was not
-/// made fails. The engineer keeps a backup for that case.
+/// made fails. Each file is copied into the folder of backups before, for that case.
 class Compactar1 {
   public:
     Compactar1(Aplicacion& aplicacion, const Servicios& servicios, PantallaCompactar& pantalla)

@@ -5,7 +5,7 @@
 namespace trabex::programa {
 
 ResultadoConfiguracion AceptarConfiguracion(Aplicacion& aplicacion, const Servicios& servicios,
-                                            const Tapiz& elegida) {
+                                            const Tapiz& elegida, const std::function<void()>& antes) {
     Mensaje pregunta = Pregunta(
         "Tapiz de la Pantalla: " + elegida.Imagen + "\n¿Asumir por Defecto las Opciones Seleccionadas?",
         "Configurar la Pantalla...");
@@ -14,6 +14,7 @@ ResultadoConfiguracion AceptarConfiguracion(Aplicacion& aplicacion, const Servic
     if (respuesta == RespuestaCancelar) return ResultadoConfiguracion::SigueAbierta;
     if (respuesta != RespuestaSi) return ResultadoConfiguracion::SinGuardar;
     try {
+        antes();
         GuardarTapiz(ArchivoTapiz(servicios.Carpetas), elegida);
     } catch (const ErrorEjecucion& error) {
         servicios.Caja.Mostrar(MensajeDeError(error, ErrorInesperado));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "shell/Aplicacion.h"
 #include "shell/Servicios.h"
 
@@ -9,8 +11,10 @@ namespace trabex::programa {
 enum class ResultadoConfiguracion { SigueAbierta, Guardada, SinGuardar };
 
 /// Asks whether to keep the chosen settings. On yes they are stored and become the current ones. A file that
-/// can't be written shows the fixed error form and leaves the window open.
-ResultadoConfiguracion AceptarConfiguracion(Aplicacion& aplicacion, const Servicios& servicios,
-                                            const Tapiz& elegida);
+/// can't be written shows the fixed error form and leaves the window open. `antes` writes what the settings
+/// name and has no file yet, or throws.
+ResultadoConfiguracion AceptarConfiguracion(
+    Aplicacion& aplicacion, const Servicios& servicios, const Tapiz& elegida,
+    const std::function<void()>& antes = [] {});
 
 }  // namespace trabex::programa

@@ -3,6 +3,7 @@
 #include "base/Archivos.h"
 #include "base/Texto.h"
 #include "shell/ProyectoAntiguo.h"
+#include "shell/Respaldos.h"
 
 namespace trabex::programa {
 
@@ -46,7 +47,7 @@ void ListaElementos::AbrirProyecto() {
 
 void ListaElementos::Conectar() {
     almacen::Conexion& conexion = aplicacion_.Proyecto.ConexionProyecto;
-    almacen::AbrirConexion(conexion, aplicacion_.ArchivoProyecto);
+    ConectarProyecto(aplicacion_, conexion);
     elemento_.AlConectar();
     AbrirLista();
     pantalla_.RestablecerVista();
@@ -145,8 +146,10 @@ void ListaElementos::Eliminar() {
     std::string cual = Lista().Texto("Nombre");
     if (!clase_.EntreParentesis.empty()) cual += "  (" + Lista().Texto(clase_.EntreParentesis) + ")";
     const std::string pregunta = Con(clase_.Eliminar, cual);
-    if (servicios_.Caja.Mostrar(Pregunta(pregunta, std::string(clase_.Eliminar.Encabezado))) != RespuestaSi)
+    if (servicios_.Caja.Mostrar(PreguntaDeEliminar(pregunta, std::string(clase_.Eliminar.Encabezado))) !=
+        RespuestaSi)
         return;
+    Respaldar(aplicacion_.Respaldos, aplicacion_.ArchivoProyecto);
     if (!almacen::BorrarElemento(aplicacion_.Proyecto.ConexionProyecto, clase_.Tablas, Lista())) {
         servicios_.Caja.Mostrar(MensajeSinGuardar());
         return;

@@ -10,6 +10,7 @@
 #include "shell/Comandos.h"
 #include "shell/Espera.h"
 #include "shell/ProyectoAntiguo.h"
+#include "shell/Respaldos.h"
 #include "store/Comparacion.h"
 #include "store/Mantenimiento.h"
 
@@ -35,15 +36,18 @@ void MenuPrincipal::Iniciar() {
     pantalla_.PonerTitulo(TituloConProyecto(""));
     pantalla_.PonerRevision(std::string("Revisión del Programa: ") + VersionPrograma);
     aplicacion_.SeparadoresLocales = LeerSeparadores(servicios_.Sistema.NumeroDeMuestra());
-    const std::filesystem::path ayuda = servicios_.Carpetas.CaminoPrograma / "AyudaLosas2024.chm";
-    if (Existe(ayuda)) aplicacion_.ArchivoAyuda = ayuda;
+    if (Existe(ArchivoDeAyuda())) aplicacion_.ArchivoAyuda = ArchivoDeAyuda();
     ColoqueTapiz();
     pantalla_.PunteroDeEspera(false);
 }
 
+std::filesystem::path MenuPrincipal::ArchivoDeAyuda() const {
+    return servicios_.Carpetas.CaminoPrograma / "AyudaLosas2024.chm";
+}
+
 void MenuPrincipal::Ejecutar(std::string_view clave) {
     using Operacion = void (MenuPrincipal::*)();
-    constexpr std::array<std::pair<std::string_view, Operacion>, 11> operaciones{{
+    constexpr std::array<std::pair<std::string_view, Operacion>, 12> operaciones{{
         {"ID_Nuevo", &MenuPrincipal::CrearNuevoProyecto},
         {"ID_Abrir", &MenuPrincipal::AbrirProyecto},
         {"ID_Modificar", &MenuPrincipal::ModificarProyecto},
@@ -51,6 +55,7 @@ void MenuPrincipal::Ejecutar(std::string_view clave) {
         {"ID_ConfigurarPantalla", &MenuPrincipal::ConfigurarTapiz},
         {"ID_Salida", &MenuPrincipal::Salida},
         {"ID_Reparar", &MenuPrincipal::Reparar},
+        {"ID_Restaurar", &MenuPrincipal::RestaurarRespaldo},
         {"ID_Temas", &MenuPrincipal::TemasAyuda},
         {"ID_Manual", &MenuPrincipal::ManualLosas},
         {"ID_Sobre", &MenuPrincipal::Sobre},
@@ -70,6 +75,7 @@ void MenuPrincipal::HacerActual(const std::filesystem::path& archivo) {
     aplicacion_.ArchivoProyecto = archivo;
     aplicacion_.NombreProyecto = NombreDe(archivo);
     pantalla_.PonerTitulo(TituloConProyecto(aplicacion_.NombreProyecto));
+    pantalla_.RecordarProyecto(archivo);
 }
 
 /// The question on replacing an existing file is an announcement: both of its answers go on, and only a third
@@ -108,10 +114,52 @@ void MenuPrincipal::AbrirProyecto() {
     const auto archivo = servicios_.Dialogos.Elegir(
         {"Abrir un Proyecto Existente", FiltroAbrir, servicios_.Carpetas.Proyectos(), false, false, true});
     pantalla_.PunteroDeEspera(false);
-    if (!archivo || !HacerLegible(servicios_, *archivo)) return;
-    HacerActual(*archivo);
+    if (archivo) Abrir(*archivo);
+}
+
+/// Where it can be read shows when a workspace connects.
+void MenuPrincipal::Abrir(const std::filesystem::path& archivo) {
+    if (!HacerLegible(servicios_, archivo)) return;
+    HacerActual(archivo);
     pantalla_.HabilitarSalvarComo(true);
     pantalla_.Repintar();
+}
+
+void MenuPrincipal::AbrirDeFuera(const std::filesystem::path& archivo) {
+    std::error_code error;
+    const std::filesystem::path camino = std::filesystem::absolute(archivo, error);
+    if (!error && Existe(camino)) return Abrir(camino);
+    servicios_.Caja.Mostrar(
+        MensajeDeError(ErrorEjecucion(CodigoError::ArchivoNoEncontrado), "Abrir un Proyecto Existente..."));
+}
+
+/// The file that is replaced is kept first; the chosen one is set aside before, for the folder keeps only so
+/// many.
+void MenuPrincipal::RestaurarRespaldo() {
+    const char* titulo = "Restaurar un Respaldo";
+    const auto respaldo =
+        servicios_.Dialogos.Elegir({titulo, FiltroProyectos, aplicacion_.Respaldos, false, false, true});
+    if (!respaldo) return;
+    const std::string nombre = NombreRespaldado(*respaldo);
+    const bool delActual = nombre == NombreDe(aplicacion_.ArchivoProyecto);
+    const auto destino = servicios_.Dialogos.Elegir(
+        {titulo, FiltroProyectos,
+         delActual ? aplicacion_.ArchivoProyecto.parent_path() : servicios_.Carpetas.Proyectos(), true, true,
+         false, nombre});
+    if (!destino) return;
+    const auto espera = Espera(pantalla_);
+    try {
+        const std::filesystem::path aparte = servicios_.Carpetas.CaminoTemporales / "Respaldo.los";
+        CopiarArchivo(*respaldo, aparte);
+        Respaldar(aplicacion_.Respaldos, *destino);
+        almacen::OlvidarGuardado(*destino);
+        CopiarArchivo(aparte, *destino);
+        BorrarArchivo(aparte);
+    } catch (const ErrorEjecucion& error) {
+        servicios_.Caja.Mostrar(MensajeDeError(error, ErrorInesperado));
+        return;
+    }
+    Abrir(*destino);
 }
 
 /// The target of a save-as. An existing file is never taken: the box does not yield the answer that would.
@@ -167,7 +215,7 @@ void MenuPrincipal::ModificarProyecto() {
 /// A workspace has its own open command: the title follows it.
 void MenuPrincipal::MostrarEspacio(std::string_view clave) {
     pantalla_.MostrarEspacio(clave);
-    pantalla_.PonerTitulo(TituloConProyecto(aplicacion_.NombreProyecto));
+    if (!aplicacion_.NombreProyecto.empty()) HacerActual(aplicacion_.ArchivoProyecto);
 }
 
 void MenuPrincipal::ConfigurarTapiz() {
@@ -183,15 +231,15 @@ void MenuPrincipal::Sobre() {
 }
 
 void MenuPrincipal::TemasAyuda() {
-    if (!aplicacion_.ArchivoAyuda.empty()) servicios_.Sistema.AbrirArchivo(aplicacion_.ArchivoAyuda);
+    AbrirODecir(servicios_, ArchivoDeAyuda());
 }
 
 void MenuPrincipal::ManualLosas() {
-    servicios_.Sistema.AbrirArchivo(servicios_.Carpetas.CaminoPrograma / "Manual" / "ManualLosas2024.pdf");
+    AbrirODecir(servicios_, servicios_.Carpetas.CaminoPrograma / "Manual" / "ManualLosas2024.pdf");
 }
 
 void MenuPrincipal::AbreExplorador() {
-    servicios_.Sistema.AbrirCarpeta(servicios_.Carpetas.Proyectos());
+    AbrirODecir(servicios_, servicios_.Carpetas.Proyectos());
 }
 
 void MenuPrincipal::Salida() {

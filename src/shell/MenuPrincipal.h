@@ -18,6 +18,8 @@ class PantallaMenuPrincipal {
     virtual void PunteroDeEspera(bool espera) = 0;
     virtual void PonerTapiz(const Tapiz& tapiz) = 0;
     virtual void Repintar() = 0;
+    /// The project goes to the head of the recent ones.
+    virtual void RecordarProyecto(const std::filesystem::path& archivo) = 0;
     virtual void Cerrar() = 0;
 
     // Windows, each modal: the call returns when it closes.
@@ -42,6 +44,11 @@ class MenuPrincipal {
 
     void CrearNuevoProyecto();
     void AbrirProyecto();
+    /// A project that was named elsewhere: in the program's argument, among the recent ones, or dropped on
+    /// the window. One that is not there is said so, and the current one stays.
+    void AbrirDeFuera(const std::filesystem::path& archivo);
+    /// Brings a backup back to a place that the user chooses, and makes it the current project.
+    void RestaurarRespaldo();
     void SalvarComo();
     void ModificarProyecto();
     void ConfigurarTapiz();
@@ -61,6 +68,8 @@ class MenuPrincipal {
     void ConProyecto(Mostrar mostrar);
     void MostrarEspacio(std::string_view clave);
     void HacerActual(const std::filesystem::path& archivo);
+    void Abrir(const std::filesystem::path& archivo);
+    std::filesystem::path ArchivoDeAyuda() const;
     void Reemplazar(const std::filesystem::path& archivo);
 
     std::optional<std::filesystem::path> ElegirDestino();

@@ -15,4 +15,11 @@ struct Servicios {
     const programa::Carpetas& Carpetas;
 };
 
+/// The error of a file that nothing on the machine opens.
+ErrorEjecucion SinProgramaQueAbra();
+
+/// Opens a file with the desktop's program, or a folder in its file manager; where there is nothing to open,
+/// or nothing that opens it, says so.
+bool AbrirODecir(const Servicios& servicios, const std::filesystem::path& camino);
+
 }  // namespace trabex::programa

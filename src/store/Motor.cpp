@@ -57,7 +57,10 @@ SentenciaSqlite Motor::Preparar(std::string_view sql) {
         if ((codigo & 0xFF) != SQLITE_ERROR) Fallo();
         return nula;
     }
-    return {sentencia, sqlite3_finalize};
+    SentenciaSqlite preparada(sentencia, sqlite3_finalize);
+    if (antesDeCambiar_ && niveles_ == 0 && sentencia != nullptr && sqlite3_stmt_readonly(sentencia) == 0)
+        antesDeCambiar_();
+    return preparada;
 }
 
 bool Motor::Avanzar(sqlite3_stmt* sentencia, bool& hayFila) {
@@ -90,6 +93,7 @@ std::string Motor::Consultar(std::string_view sql) {
 }
 
 void Motor::EmpezarGuardado() {
+    if (antesDeCambiar_ && niveles_ == 0) antesDeCambiar_();
     if (niveles_++ > 0) return;
     ++numeroGuardado_;
     if (!Correr("BEGIN IMMEDIATE")) estropeado_ = true;

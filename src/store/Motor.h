@@ -41,6 +41,9 @@ class Motor {
     /// The first column of the first row as a text; empty when there is none.
     std::string Consultar(std::string_view sql);
 
+    /// Called before each change, and before each save as a whole: the file is then in no transaction of this
+    /// connection, so that another handle on it may be closed.
+    void AntesDeCambiar(std::function<void()> accion) { antesDeCambiar_ = std::move(accion); }
     void EmpezarGuardado();
     bool TerminarGuardado(bool confirmar);
     bool GuardadoEnCurso() const { return niveles_ > 0; }
@@ -54,6 +57,7 @@ class Motor {
 
     sqlite3* base_ = nullptr;
     Comparador comparador_;
+    std::function<void()> antesDeCambiar_;
     int niveles_ = 0;
     int numeroGuardado_ = 0;
     bool estropeado_ = false;

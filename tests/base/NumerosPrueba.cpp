@@ -6,6 +6,7 @@
 
 #include "base/Aviso.h"
 #include "base/Enteros.h"
+#include "base/LeerFecha.h"
 #include "base/LeerNumero.h"
 #include "base/RefuerzoFlexion.h"
 #include "base/Round.h"
@@ -90,6 +91,24 @@ INSTANTIATE_TEST_SUITE_P(Numeros, FormatoDe,
 TEST(Formato, Fecha) {
     using namespace std::chrono;
     EXPECT_EQ(FormatoFecha(2024y / March / 7d), "07/03/2024");
+}
+
+TEST(Fecha, SeLeeComoSeEscribe) {
+    using namespace std::chrono;
+    constexpr Fecha hoy = 2026y / November / 26d;
+    using enum OrdenFecha;
+    for (const auto& [texto, orden, fecha] : {std::tuple{"07/03/2024", DiaMesAno, 2024y / March / 7d},
+                                              {" 7-3-24 ", MesDiaAno, 2024y / March / 7d},
+                                              {"7.3.46", DiaMesAno, 2046y / March / 7d},
+                                              {"7 3 47", DiaMesAno, 1947y / March / 7d},
+                                              {"31/12/99", DiaMesAno, 1999y / December / 31d},
+                                              {"12/31/24", MesDiaAno, 2024y / December / 31d},
+                                              {"24-12-31", AnoMesDia, 2031y / December / 24d},
+                                              {"2024-02-29", DiaMesAno, 2024y / February / 29d}})
+        EXPECT_EQ(LeerFecha(texto, orden, hoy), Fecha(fecha)) << texto;
+    for (const char* texto : {"", "ayer", "31/02/2024", "12/31/24", "7/3", "7/3/2", "7/3/024", "7/3/2024/1",
+                              "1-2-3-4", "00/03/2024", "7//2024", "7/3/0000", "-7/3/2024", "7/3/2024 10"})
+        EXPECT_FALSE(LeerFecha(texto, DiaMesAno, hoy)) << texto;
 }
 
 TEST(Aviso, SeLeeEnUnaLinea) {

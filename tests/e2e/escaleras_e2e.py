@@ -81,7 +81,7 @@ def recorrer(e):
 
     e.teclas("alt+l", "Delete")
     e.ventana(CAJA)
-    e.teclas("Return")
+    e.teclas("s")
     e.ventana(ESCALERAS)
     assert filas(obra, "SELECT * FROM EscaleraTDatos") == filas(obra, "SELECT * FROM EscaleraT") == []
     e.teclas("alt+r")

@@ -91,7 +91,7 @@ def recorrer(e):
 
     e.teclas("alt+l", "Delete")
     e.ventana(CAJA)
-    e.teclas("Return")
+    e.teclas("s")
     e.ventana(ESCALERAS)
     assert filas(obra, "SELECT * FROM EscaleraHDatos") == filas(obra, "SELECT * FROM EscaleraH") == []
     e.teclas("alt+r")

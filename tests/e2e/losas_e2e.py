@@ -114,6 +114,36 @@ def exportar(e):
     e.ventana(LOSAS)
 
 
+def losa_de_libro(e, obra):
+    """Three spans, their axes and loads, from the command to the sheets, with few keys; then it is deleted."""
+    pulsadas = 0
+
+    def pulsar(*teclas):
+        nonlocal pulsadas
+        for tecla in teclas:
+            pulsadas += 1
+            (e.teclas if "+" in tecla or len(tecla) > 1 else e.escribir)(tecla)
+
+    pulsar("ctrl+n")
+    e.ventana("CREAR NUEVA LOSA")
+    pulsar("T", "Return")
+    e.ventana(DATOS + "T")
+    pulsar("ctrl+Next", "3", "Return", "5", "Return", "4", "Return", "5", "Tab", "A", "ctrl+d")
+    pulsar("ctrl+Next", "ctrl+Next", "ctrl+Next", *"300", "ctrl+d", "Tab", *"100", "ctrl+d", "ctrl+s")
+    e.respiro()
+    pulsar("alt+r")
+    e.ventana(LOSAS)
+    assert pulsadas < 40, pulsadas
+    assert filas(obra, "SELECT LT, Wp, WV FROM LosaTramos WHERE Nombre='T' ORDER BY Numero") == [
+        (5, 300, 100), (4, 300, 100), (5, 300, 100)]
+    assert filas(obra, "SELECT Eje, Tipo FROM LosaEjes WHERE Nombre='T' ORDER BY Numero") == [
+        ("A", 1), ("B", 1), ("C", 1), ("D", 1)]
+    e.teclas("Delete")
+    e.ventana(CAJA)
+    e.teclas("s")
+    e.ventana(LOSAS)
+
+
 def recorrer(e):
     obra = crear_proyecto(e)
     ventana = abrir_losas(e)
@@ -142,7 +172,7 @@ def recorrer(e):
     comprobar_archivo(obra, "Piso 2")
     assert filas(obra, "SELECT * FROM LosaTramos WHERE Nombre='Nivel 1'") == []
 
-    e.teclas("ctrl+c")
+    e.teclas("ctrl+d")
     e.ventana("Salvar Como...")
     entrar(e, "PISO 2")
     e.ventana(CAJA)   # taken, by another case
@@ -165,11 +195,12 @@ def recorrer(e):
     e.ventana(LOSAS)
     e.teclas("Down", "Delete")
     e.ventana(CAJA)
-    e.teclas("Return")
+    e.teclas("s")   # "No" has the focus
     e.ventana(LOSAS)
     assert filas(obra, "SELECT Nombre FROM LosaDatos") == [("Azotea",)]
     assert filas(obra, "SELECT DISTINCT Nombre FROM LosaEjes") == [("Azotea",)]
     comprobar_resultados(e, obra, 280)
+    losa_de_libro(e, obra)
     exportar(e)
     e.teclas("alt+r")
     e.ventana(PRINCIPAL)

@@ -59,7 +59,7 @@ def recorrer(e):
     e.ventana("Trabex 2024   Proyecto:[obra uno.los]")
     assert filas(obra, "SELECT Propietario, Calculista FROM Proyecto") == [("INVERSIONES", "ING. PEREZ")]
 
-    e.teclas("alt+m", "Down", "Return")
+    e.teclas("alt+m", "Up", "Up", "Return")   # the last but one
     e.ventana("Reparar y Compactar Archivos")
     e.teclas("alt+t")
     e.respiro()   # a button pressed by its letter takes a moment

@@ -83,6 +83,7 @@ TEST_F(ExportarCAD_, PreguntaEnSuOrdenYNuncaReemplaza) {
     EXPECT_EQ(Filas(nuevo, "Proyecto").NumeroRegistros(), 0);
     EXPECT_EQ(Cuantas(nuevo, "LosaDatos", "A MACIZA"), 1);
 
+    std::filesystem::create_directories(dialogos.Peticiones[0].Carpeta);
     ExportarCAD(aplicacion, servicios, Planex2023, pantalla).AbrirCarpeta();
     EXPECT_EQ(plataforma.Abiertos.back(), dialogos.Peticiones[0].Carpeta);
     std::filesystem::remove(carpeta / "programa" / "Imagen" / "ImagenCAD8.tbx");

@@ -36,7 +36,7 @@ using namespace prueba;
 
 void Pulsar(QWidget& ventana, const QString& texto) {
     for (auto* boton : ventana.findChildren<QAbstractButton*>()) {
-        if (boton->text() == texto) return boton->click();
+        if (boton->text().remove('&') == texto) return boton->click();
     }
     ADD_FAILURE() << "no button " << texto.toStdString();
 }

@@ -5,6 +5,7 @@
 #include "shell/Comandos.h"
 #include "shell/DatosProyecto.h"
 #include "shell/MenuPrincipal.h"
+#include "shell/Respaldos.h"
 #include "slab/ui/LosaGeneral.h"
 #include "store/antiguo/Convertir.h"
 #include "store/antiguo/EscribirJet.h"
@@ -33,6 +34,7 @@ struct PantallaGuiada : PantallaMenuPrincipal {
     void PunteroDeEspera(bool espera) override { Espera = espera; }
     void PonerTapiz(const Tapiz&) override {}
     void Repintar() override {}
+    void RecordarProyecto(const std::filesystem::path& archivo) override { Recordado = archivo; }
     void Cerrar() override { Cerrada = true; }
     void MostrarDatosProyecto() override { Mostradas.push_back("DatosProyecto"); }
     void MostrarConfiguracion() override { Mostradas.push_back("Configuracion"); }
@@ -42,6 +44,7 @@ struct PantallaGuiada : PantallaMenuPrincipal {
     std::string Titulo, Revision;
     bool SalvarComo = true, Espera = true, Cerrada = false;
     std::vector<std::string> Mostradas;
+    std::filesystem::path Recordado;
 };
 
 class Menu_ : public testing::Test {
@@ -72,6 +75,77 @@ TEST_F(Menu_, Empieza) {
     EXPECT_EQ(aplicacion.SeparadoresLocales.Miles, ".");
     EXPECT_EQ(LeerSeparadores("1 234.56").Decimal, ".");
     EXPECT_EQ(LeerSeparadores("1234.56").Decimal, ",");
+}
+
+TEST_F(Menu_, LoQueNoSePuedeAbrirSeDice) {
+    for (const char* clave : {"ID_Temas", "ID_Manual"}) {
+        caja.Mensajes.clear();
+        menu.Ejecutar(clave);
+        ASSERT_EQ(caja.Mensajes.size(), 1U) << clave;
+        EXPECT_EQ(caja.Mensajes[0].Texto, "Error Número: 53\nNo se encontró el archivo");
+    }
+    std::filesystem::remove_all(carpetas.Proyectos());
+    menu.Ejecutar("ID_Explorador");
+    EXPECT_EQ(caja.Mensajes.back().Texto, "Error Número: 76\nNo se encontró la ruta de acceso");
+    EXPECT_TRUE(plataforma.Abiertos.empty());
+    menu.AbrirDeFuera(carpeta / "no hay.los");
+    EXPECT_EQ(caja.Mensajes.back().Encabezado, "Abrir un Proyecto Existente...");
+    EXPECT_EQ(pantalla.Titulo, "Trabex 2024   Proyecto:[]");
+    EscribirArchivo(carpeta / "hay.los", "");
+    menu.AbrirDeFuera(carpeta / "hay.los");
+    EXPECT_EQ(pantalla.Titulo, "Trabex 2024   Proyecto:[hay.los]");
+    EXPECT_EQ(pantalla.Recordado, carpeta / "hay.los");
+    EXPECT_TRUE(pantalla.SalvarComo);
+}
+
+std::vector<std::filesystem::path> EnOrden(std::vector<std::filesystem::path> archivos) {
+    std::sort(archivos.begin(), archivos.end());
+    return archivos;
+}
+
+/// Of each project the last ones stay, and one comes back over what was there, which is kept in its turn.
+TEST_F(Menu_, LosRespaldosSeGuardanYVuelven) {
+    const auto obra = carpetas.Proyectos() / "Obra Ñ 2024.los";
+    EscribirArchivo(obra, "de hoy");
+    std::filesystem::create_directory(carpetas.Respaldos());
+    for (int i = 10; i < 35; ++i)
+        EscribirArchivo(carpetas.Respaldos() /
+                            CaminoDeTexto("Obra Ñ 2024 2020-01-" + std::to_string(i) + " 10.15.30.los"),
+                        std::to_string(i));
+    EscribirArchivo(carpetas.Respaldos() / "otra 2020-01-01 10.15.30.los", "");
+    Respaldar(aplicacion.Respaldos, obra);
+    auto quedan = EnOrden(ArchivosDe(carpetas.Respaldos()));
+    ASSERT_EQ(quedan.size(), RespaldosQueQuedan + 1);
+    EXPECT_EQ(LeerArchivo(quedan[0]), "16");
+    EXPECT_EQ(LeerArchivo(quedan[RespaldosQueQuedan - 1]), "de hoy");
+    EXPECT_EQ(NombreRespaldado(quedan[0]), "Obra Ñ 2024.los");
+
+    dialogos.Elegidos = {quedan[0], obra};
+    menu.Ejecutar("ID_Restaurar");
+    EXPECT_EQ(dialogos.Peticiones[0].Titulo, "Restaurar un Respaldo");
+    EXPECT_EQ(dialogos.Peticiones[1].Nombre, "Obra Ñ 2024.los");
+    EXPECT_TRUE(dialogos.Peticiones[1].AvisarReemplazo);
+    EXPECT_EQ(LeerArchivo(obra), "16");
+    EXPECT_EQ(LeerArchivo(EnOrden(ArchivosDe(carpetas.Respaldos()))[RespaldosQueQuedan - 1]), "de hoy");
+    EXPECT_EQ(pantalla.Titulo, "Trabex 2024   Proyecto:[Obra Ñ 2024.los]");
+    EXPECT_TRUE(ArchivosDe(carpetas.CaminoTemporales).empty());
+}
+
+TEST_F(Menu_, ElPrimerCambioDelDiaDejaUnRespaldoDeAntes) {
+    aplicacion.ArchivoProyecto = carpetas.Proyectos() / "obra.los";
+    CopiarArchivo(Plantilla(), aplicacion.ArchivoProyecto);
+    Conexion conexion;
+    for (int vez = 0; vez < 2; ++vez) {
+        ConectarProyecto(aplicacion, conexion);
+        Recordset lista;
+        AbrirRecordset(conexion, lista, "SELECT * FROM LosaDatos");
+        EXPECT_EQ(ArchivosDe(carpetas.Respaldos()).size(), vez == 0 ? 0U : 1U);
+        EXPECT_TRUE(conexion.Ejecutar("DELETE * FROM LosaG"));
+        EXPECT_TRUE(conexion.Ejecutar("DELETE * FROM Proyecto"));
+    }
+    const auto respaldos = ArchivosDe(carpetas.Respaldos());
+    ASSERT_EQ(respaldos.size(), 1U);
+    EXPECT_EQ(LeerArchivo(respaldos[0]), LeerArchivo(Plantilla()));
 }
 
 TEST_F(Menu_, NuevoSobreUnoExistenteReemplazaSeRespondaLoQueSeResponda) {

@@ -4,14 +4,21 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDropEvent>
+#include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
+#include <QMimeData>
 #include <QPlainTextEdit>
+#include <QSettings>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
 
 #include <gtest/gtest.h>
 
+#include "base/Archivos.h"
 #include "shell/Arranque.h"
 #include "shell/Comandos.h"
 #include "shell/qt/CajaMensajesQt.h"
@@ -76,6 +83,9 @@ TEST_F(Ventanas, LaCajaRespondePorBotonYPorEscape) {
           Caso{BotonesCaja::SiNo, Qt::Key_Escape, "", 0, false},
           Caso{BotonesCaja::SiNoCancelar, Qt::Key_Escape, "", 2, true},
           Caso{BotonesCaja::SiNo, 0, "Sí", 1, true}, Caso{BotonesCaja::SiNo, 0, "No", 0, true},
+          Caso{BotonesCaja::SiNo, Qt::Key_S, "", 1, true}, Caso{BotonesCaja::SiNo, Qt::Key_N, "", 0, true},
+          Caso{BotonesCaja::SiNo, Qt::Key_C, "", 0, false},
+          Caso{BotonesCaja::SiNoCancelar, Qt::Key_C, "", 2, true},
           Caso{BotonesCaja::SiNoCancelar, Qt::Key_Return, "", 0, true}}) {
         Mensaje mensaje = Pregunta("Una línea\nOtra línea", "Encabezado...");
         mensaje.Botones = caso.botones;
@@ -118,6 +128,39 @@ TEST_F(Ventanas, ElMenuMandaLosComandos) {
     EXPECT_EQ(plataforma.Abiertos.size(), 1U);
 }
 
+/// A project comes by the menu of recent ones and by being dropped; the last one heads the menu.
+TEST_F(Ventanas, LosProyectosRecientesYLosSoltadosSeAbren) {
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, Q(carpeta.Camino().string()));
+    QCoreApplication::setOrganizationName("prueba");
+    VentanaMenuPrincipal menu(aplicacion, servicios, {});
+    const auto soltar = [&](const QString& camino) {
+        QMimeData datos;
+        datos.setUrls({QUrl::fromLocalFile(camino)});
+        QDragEnterEvent entra({5, 5}, Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&menu, &entra);
+        QDropEvent evento(QPointF(5, 5), Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&menu, &evento);
+    };
+    const QString obra = Q(TextoDeCamino(aplicacion.ArchivoProyecto));
+    QFile::copy(obra, Q((carpeta / "otra.LOS").string()));
+    soltar(obra);
+    soltar(Q((carpeta / "otra.LOS").string()));
+    soltar(Q((carpeta / "foto.jpg").string()));
+    EXPECT_EQ(menu.windowTitle(), "Trabex 2024   Proyecto:[otra.LOS]");
+    QMenu* recientes = nullptr;
+    for (QMenu* candidato : menu.findChildren<QMenu*>())
+        if (candidato->title().contains("Recientes")) recientes = candidato;
+    ASSERT_NE(recientes, nullptr);
+    ASSERT_EQ(recientes->actions().size(), 2);
+    recientes->actions()[1]->trigger();
+    EXPECT_EQ(menu.windowTitle(), "Trabex 2024   Proyecto:[obra.los]");
+    EXPECT_TRUE(recientes->actions()[0]->text().endsWith("obra.los"));
+    QFile::remove(obra);
+    recientes->actions()[0]->trigger();
+    EXPECT_EQ(caja.Mensajes.back().Texto, "Error Número: 53\nNo se encontró el archivo");
+    QCoreApplication::setOrganizationName({});
+}
+
 TEST_F(Ventanas, LosDatosTecleadosLleganAlArchivo) {
     VentanaDatosProyecto ventana(aplicacion, caja, nullptr);
     ventana.show();
@@ -129,9 +172,12 @@ TEST_F(Ventanas, LosDatosTecleadosLleganAlArchivo) {
     auto* fecha = ventana.findChild<QLineEdit*>("Fecha");
     fecha->setText("31/02/2024");
     BotonDe(ventana, "Salvar")->click();
-    EXPECT_TRUE(ventana.isVisible());  // no such day: the field takes the focus
-    fecha->setText("29/02/2024");
+    EXPECT_TRUE(ventana.isVisible());  // no such day
+    EXPECT_EQ(ventana.focusWidget(), fecha);
+    EXPECT_TRUE(fecha->toolTip().startsWith("No es una fecha"));
+    fecha->setText("29-2-24");
     BotonDe(ventana, "Salvar")->click();
+    EXPECT_EQ(fecha->text(), "29/02/2024");
     EXPECT_FALSE(ventana.isVisible());
     Conexion conexion;
     DatosDelProyecto datos;
@@ -177,6 +223,27 @@ TEST_F(Ventanas, LaConfiguracionSeGuardaAlAceptar) {
     EXPECT_TRUE(guardada.Ajustar);
     EXPECT_EQ(guardada.Vertical, 2);
     EXPECT_EQ(guardada.TamanoAyuda, 7);
+}
+
+/// What is captured has no file before the settings are accepted, and the window is not in the picture.
+TEST_F(Ventanas, LaCapturaSeGuardaAlAceptar) {
+    for (const std::int16_t respuesta : {RespuestaAceptarONo, RespuestaSi}) {
+        caja.Respuestas = {respuesta};
+        const std::size_t antes = ArchivosDe(carpetas.Tapices()).size();
+        VentanaConfigurar ventana(aplicacion, servicios, nullptr);
+        bool visible = true;
+        QTimer::singleShot(0, qApp, [&] {
+            QTimer::singleShot(150, qApp, [&] { visible = ventana.isVisible(); });
+            QTimer::singleShot(800, qApp, [&] {
+                EXPECT_EQ(ArchivosDe(carpetas.Tapices()).size(), antes);
+                BotonDe(ventana, "Aceptar")->click();
+            });
+            BotonDe(ventana, "Capturar Imagen")->click();
+        });
+        ventana.exec();
+        EXPECT_FALSE(visible);
+        EXPECT_EQ(ArchivosDe(carpetas.Tapices()).size(), antes + (respuesta == RespuestaSi ? 1 : 0));
+    }
 }
 
 TEST_F(Ventanas, LaReparacionTomaLoElegido) {

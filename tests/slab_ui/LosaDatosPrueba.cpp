@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "slab/ui/SerieDeEjes.h"
 #include "support/LosasGuiadas.h"
 
 namespace trabex {
@@ -91,6 +92,54 @@ TEST_F(Datos, RechazaLoQueNoCabeEnLaLosa) {
     EXPECT_EQ(Dicho(), "El Tipo de Apoyo no puede ser < 1 ni > 5");
     EXPECT_EQ(e.caja.Mensajes.back().Encabezado, "Apoyos Restringidos...");
     EXPECT_EQ(datos.Edicion().Ejes[2].Tipo, RodilloEnX);
+}
+
+TEST(Ejes, ElNombreQueSigueEnLaSerie) {
+    for (const auto& [de, a] : {std::pair{"A", "B"},
+                                {"Z", "AA"},
+                                {"z", "aa"},
+                                {"AZ", "BA"},
+                                {"9", "10"},
+                                {"P-09", "P-10"},
+                                {"Eje", "Eje"},
+                                {"B'", "B'"},
+                                {"1A", "1B"},
+                                {"", ""},
+                                {"Ñ", "Ñ"},
+                                {"Ña", "Ña"},
+                                {"Eje 3", "Eje 4"}})
+        EXPECT_EQ(SiguienteEnSerie(de), a);
+}
+
+/// Spans of 5, 4 and 3 m under 390 kgf/m, by the theorem of three moments with the factors of the project.
+TEST_F(Datos, LosMomentosDePruebaSonLosDeLoQueSeVe) {
+    const double w = 1.2 * 300 + 1.6 * 90;
+    const double a = w * (125 + 64) / 4;
+    const double b = w * (64 + 27) / 4;
+    const double MC = (18 * b - 4 * a) / (18 * 14 - 16);
+    const double MB = (a - 4 * MC) / 18;
+    const Separadores numeros{".", ","};
+    const auto texto = [&](double momento) { return Formato(momento, "#,##0", numeros); };
+    const std::string prueba = datos.MomentosDePrueba(numeros);
+    EXPECT_TRUE(prueba.starts_with("Momentos de prueba (kgf·m):  1: 0 | ")) << prueba;
+    EXPECT_NE(prueba.find(" | 2: " + texto(-MB) + " | "), std::string::npos) << prueba << texto(-MB);
+    EXPECT_NE(prueba.find(" | 3: " + texto(-MC) + " | "), std::string::npos) << prueba << texto(-MC);
+    datos.PonerLongitud(2, 0);
+    EXPECT_EQ(datos.MomentosDePrueba(numeros), "");
+    datos.PonerLongitud(2, 4);
+    datos.PonerNumeroTramos(12);
+    for (std::size_t i = 4; i <= 12; ++i) datos.PonerLongitud(i, 4);
+    EXPECT_NE(datos.MomentosDePrueba(numeros).find("máximo en apoyos"), std::string::npos);
+}
+
+TEST_F(Datos, UnTramoSeCopiaALosQueSeElijan) {
+    datos.PonerCargas(1, {5, 10, 20, 30, 1.5});
+    datos.CopiarTramo(1, {2, 3}, {.Longitud = false, .CargaUniforme = false, .CargaPuntual = true});
+    datos.CopiarTramo(1, {3}, {.Longitud = true, .CargaUniforme = true, .CargaPuntual = false});
+    const auto& t = datos.Edicion().Tramos;
+    EXPECT_EQ(std::tuple(t[2].LT, t[2].Wp, t[2].WV, t[2].p1, t[2].L1), std::tuple(4, 300, 90, 30, 1.5));
+    EXPECT_EQ(std::tuple(t[3].LT, t[3].Wp, t[3].WV, t[3].p1, t[3].L1), std::tuple(5, 10, 20, 30, 1.5));
+    EXPECT_FALSE(datos.LosaModificada());
 }
 
 /// What is cut comes back until a save; displaced joints are no one's to drop.

@@ -39,6 +39,7 @@ class Tabla : public testing::Test {
                           textos[static_cast<std::size_t>(f - 1)] = v.toString();
                           return true;
                       },
+                  .Siguiente = [](const QString& de) { return de + "a"; },
                   .Largo = 3}},
                 {".", ","}, &marco),
           otro(&marco) {
@@ -134,6 +135,14 @@ TEST_F(Tabla, LoQueNoEsNumeroQuedaALaVistaYNoSale) {
             EXPECT_TRUE(EntradasEnOrden(&marco));
         }
     }
+    tabla.IrA(1, 0);
+    Teclas("7x");
+    Tecla(Qt::Key_Return);
+    Teclas("8");
+    QTest::qWait(50);  // the focus is in the cell, and stays there
+    Teclas("5");
+    Tecla(Qt::Key_Return);
+    EXPECT_EQ(numeros[0], 85);
 }
 
 TEST_F(Tabla, EscapeDejaLaCeldaYF2LaEditaConDeshacer) {
@@ -201,14 +210,26 @@ TEST_F(Tabla, UnBloqueEntraEnteroONoEntra) {
     EXPECT_EQ(numeros[2], 1);
 }
 
+TEST_F(Tabla, SeRellenaHaciaAbajoConLaSerie) {
+    Teclas("5");
+    Tecla(Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(numeros, (std::vector<double>{5, 5, 5, 5}));
+    tabla.IrA(2, 2);
+    Teclas("a");
+    Tecla(Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(textos, (std::vector<QString>{"", "a", "aa", "aaa"}));
+    Tecla(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(textos, (std::vector<QString>{"", "a", "", ""}));
+}
+
 TEST_F(Tabla, SinElFocoNingunaCeldaSeVeActiva) {
     const auto color = [&] {
         const QRect celda = tabla.visualRect(tabla.currentIndex());
         return tabla.viewport()->grab().toImage().pixelColor(celda.left() + 3, celda.center().y());
     };
-    const QColor activa = color();
+    EXPECT_EQ(color(), tabla.palette().color(QPalette::Highlight));
     otro.setFocus();
-    EXPECT_NE(color(), activa);
+    EXPECT_EQ(color(), tabla.palette().color(QPalette::Base));
 }
 
 TEST_F(Tabla, CopiaElBloqueElegidoYUnValorLoLlenaTodo) {

@@ -1,6 +1,7 @@
 // The slab's windows through their real widgets.
 
 #include <QAction>
+#include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -16,6 +17,7 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
+#include <QToolBar>
 #include <QToolButton>
 #include <set>
 
@@ -137,6 +139,16 @@ TEST_F(Ventanas, LaSeccionMuestraLoDeSuClase) {
     EXPECT_FALSE(ventana.isVisible());
     EXPECT_TRUE(e.Guardada("L-1").OpcionMaciza);
     EXPECT_EQ(e.Guardada("L-1").Hm, 0.18);
+}
+
+TEST_F(Ventanas, CabenEn800x600) {
+    const VentanaLosaDatos datos(e.espacio, e.caja, nullptr);
+    e.espacio.Lista().Cerrar();
+    const VentanaLosas losas(e.aplicacion, e.servicios, e.memoria, {}, nullptr);
+    for (const QWidget* ventana : std::initializer_list<const QWidget*>{&datos, &losas}) {
+        EXPECT_LE(ventana->minimumSizeHint().width(), 784) << S(ventana->objectName());
+        EXPECT_LE(ventana->minimumSizeHint().height(), 552) << S(ventana->objectName());
+    }
 }
 
 /// Enter stores and stays; another span comes with the page keys or the scroller, once nothing stands
@@ -288,6 +300,11 @@ TEST_F(Espacio, TodoSeAlcanzaConElTeclado) {
     for (const auto* rotulo : ventana.findChildren<QLabel*>())
         if (rotulo->buddy() != nullptr) rotulos << rotulo->text();
     for (const auto* boton : ventana.findChildren<QPushButton*>()) rotulos << boton->text();
+    for (const auto* boton : ventana.findChild<QToolBar*>()->findChildren<QToolButton*>())
+        EXPECT_TRUE((boton->focusPolicy() & Qt::TabFocus) != 0) << boton->text().toStdString();
+    auto* lista = ventana.findChild<QListWidget*>("Lista");
+    QTest::keyClick(lista, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "L-1");
     EXPECT_EQ(Letras(rotulos).size(), 9) << rotulos.join('|').toStdString();
     EsperarDistintas(Letras(rotulos));
 }
@@ -300,12 +317,17 @@ TEST_F(Espacio, RecuerdaComoSeRepartioLaVentana) {
         VentanaLosas ventana(e.aplicacion, e.servicios, e.memoria, {}, nullptr);
         ventana.show();
         ventana.findChild<QSplitter*>()->setSizes({400, 500});
+        ventana.findChild<QTabBar*>()->setCurrentIndex(2);
+        BotonDe(ventana, "Permanente + Variable")->click();
         repartida = ventana.findChild<QSplitter*>()->sizes();
         ventana.accept();
     }
     VentanaLosas ventana(e.aplicacion, e.servicios, e.memoria, {}, nullptr);
     ventana.show();
     EXPECT_EQ(ventana.findChild<QSplitter*>()->sizes(), repartida);
+    EXPECT_EQ(ventana.findChild<QTabBar*>()->currentIndex(), 2);
+    EXPECT_EQ(ventana.Operaciones().Estado().Hoja.VistaActual, VistaLosa(2));
+    EXPECT_EQ(ventana.Operaciones().Estado().Hoja.OpcionCarga, CargaPorCasos);
     QCoreApplication::setOrganizationName({});
 }
 

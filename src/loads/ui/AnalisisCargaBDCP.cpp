@@ -69,7 +69,8 @@ void AnalisisCargaBDCP::Crear() {
 void AnalisisCargaBDCP::Eliminar(int fila) {
     if (!MoverA(fila)) return;
     const std::string pregunta = std::string(variante_.PreguntaEliminar) + "\n¿Esta Usted Seguro?";
-    if (servicios_.Caja.Mostrar(programa::Pregunta(pregunta, "Eliminar Cargas...")) != programa::RespuestaSi)
+    if (servicios_.Caja.Mostrar(programa::PreguntaDeEliminar(pregunta, "Eliminar Cargas...")) !=
+        programa::RespuestaSi)
         return;
     if (!lista_.Borrar()) servicios_.Caja.Mostrar(programa::MensajeSinGuardar());
     Rellenar();

@@ -45,7 +45,7 @@ void AnalisisCargaModificar::CrearLinea() {
 void AnalisisCargaModificar::EliminarLinea(int fila) {
     if (fila < 1 || static_cast<std::size_t>(fila) > trabajo_.Permanentes.size()) return;
     const programa::Mensaje pregunta =
-        programa::Pregunta("¿Eliminar la Fila Seleccionada?", "Eliminar Filas...");
+        programa::PreguntaDeEliminar("¿Eliminar la Fila Seleccionada?", "Eliminar Filas...");
     if (servicios_.Caja.Mostrar(pregunta) != programa::RespuestaSi) return;
     trabajo_.Permanentes.erase(trabajo_.Permanentes.begin() + (fila - 1));
     pantalla_->LlenarItems(trabajo_.Permanentes);

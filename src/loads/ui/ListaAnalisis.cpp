@@ -3,6 +3,7 @@
 #include "base/Archivos.h"
 #include "base/Formatos.h"
 #include "loads/salida/ReporteCargas.h"
+#include "shell/Respaldos.h"
 #include "store/proyecto/TablaProyecto.h"
 #include "store/tablas/CamposCargas.h"
 #include "store/tablas/TablasCargas.h"
@@ -31,7 +32,7 @@ void ListaAnalisis::Abrir(PantallaListaAnalisis& pantalla) {
     pantalla_ = &pantalla;
     almacen::AbrirConexion(compartida_, servicios_.Carpetas.AnalisisCarga());
     if (DelProyecto()) {
-        almacen::AbrirConexion(Conexion(), aplicacion_.ArchivoProyecto);
+        programa::ConectarProyecto(aplicacion_, Conexion());
         almacen::proyecto::LeerProyecto(Conexion(), aplicacion_.Usuario, aplicacion_.Datos);
     }
     Reabrir();
@@ -96,10 +97,11 @@ void ListaAnalisis::Modificar() {
 
 void ListaAnalisis::Eliminar() {
     if (!EnUnaLinea()) return;
-    const programa::Mensaje pregunta =
-        programa::Pregunta("El Análisis de Carga Seleccionado será Eliminado...\n¿Esta Usted Seguro?",
-                           "Eliminar Análisis de Carga...");
+    const programa::Mensaje pregunta = programa::PreguntaDeEliminar(
+        "El Análisis de Carga Seleccionado será Eliminado...\n¿Esta Usted Seguro?",
+        "Eliminar Análisis de Carga...");
     if (servicios_.Caja.Mostrar(pregunta) != programa::RespuestaSi) return;
+    if (&Conexion() != &compartida_) programa::Respaldar(aplicacion_.Respaldos, aplicacion_.ArchivoProyecto);
     if (!almacen::tablas::BorrarAnalisis(Conexion(), Lista(), variante_.Donde))
         servicios_.Caja.Mostrar(programa::MensajeSinGuardar());
     Rellenar();

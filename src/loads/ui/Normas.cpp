@@ -1,7 +1,5 @@
 #include "loads/ui/Normas.h"
 
-#include "base/Archivos.h"
-
 namespace trabex::cargas::ui {
 
 namespace {
@@ -14,10 +12,7 @@ const char* ArchivoDe(DocumentoDeNorma documento) {
 }  // namespace
 
 void Normas::Abrir(DocumentoDeNorma documento) {
-    const std::filesystem::path camino = servicios_.Carpetas.CaminoPrograma / "Normas" / ArchivoDe(documento);
-    if (Existe(camino) && servicios_.Sistema.AbrirArchivo(camino)) return;
-    servicios_.Caja.Mostrar(programa::MensajeDeError(ErrorEjecucion(CodigoError::ArchivoNoEncontrado),
-                                                     programa::ErrorInesperado));
+    programa::AbrirODecir(servicios_, servicios_.Carpetas.CaminoPrograma / "Normas" / ArchivoDe(documento));
 }
 
 }  // namespace trabex::cargas::ui

@@ -14,7 +14,7 @@ std::filesystem::path ExportarGrafico::Carpeta() const {
 }
 
 void ExportarGrafico::AbrirCarpeta() {
-    entorno_.Servicios.Sistema.AbrirCarpeta(Carpeta());
+    programa::AbrirODecir(entorno_.Servicios, Carpeta());
 }
 
 void ExportarGrafico::ExportarPantalla(const FormatoGrafico& formato) {

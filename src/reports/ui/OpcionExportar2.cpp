@@ -67,7 +67,8 @@ void OpcionExportar2::OfrecerAbrir(const FormatoDeCuadricula& formato,
         programa::RespuestaSi)
         return;
     if (!entorno_.Servicios.Sistema.AbrirArchivo(archivo))
-        entorno_.Servicios.Caja.Mostrar(programa::MensajeDeError(SinProgramaQueAbra(), EncabezadoFalla));
+        entorno_.Servicios.Caja.Mostrar(
+            programa::MensajeDeError(programa::SinProgramaQueAbra(), EncabezadoFalla));
 }
 
 void OpcionExportar2::Aceptar(std::uint8_t formatoSalida) {

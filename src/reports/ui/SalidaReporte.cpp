@@ -17,16 +17,12 @@ bool EsArchivo(std::uint8_t salida) {
 
 }  // namespace
 
-ErrorEjecucion SinProgramaQueAbra() {
-    return {CodigoError::ArchivoNoEncontrado, "No se encontró un programa que abra el archivo"};
-}
-
 montaje::EntornoReportes EntornoSalida::Montaje() const {
     return {Servicios.Carpetas.CaminoPrograma, Servicios.Carpetas.CaminoUsuario, LaAplicacion.Usuario};
 }
 
 void ExportadorReportes::AbrirCarpeta() {
-    entorno_.Servicios.Sistema.AbrirCarpeta(entorno_.Servicios.Carpetas.ReportesExportados());
+    programa::AbrirODecir(entorno_.Servicios, entorno_.Servicios.Carpetas.ReportesExportados());
 }
 
 std::optional<std::filesystem::path> ExportadorReportes::PedirArchivo(std::uint8_t salida) {
@@ -75,7 +71,7 @@ bool ExportadorReportes::Exportar(const documento::Documento& documento, std::ui
     if (entorno_.Servicios.Caja.Mostrar(programa::Pregunta(texto, "Abrir el Archivo Exportado...")) !=
         programa::RespuestaSi)
         return true;
-    if (!entorno_.Servicios.Sistema.AbrirArchivo(archivo)) throw SinProgramaQueAbra();
+    if (!entorno_.Servicios.Sistema.AbrirArchivo(archivo)) throw programa::SinProgramaQueAbra();
     return true;
 }
 

@@ -77,9 +77,6 @@ class Impresoras {
                           const PedidoDeImpresion& pedido) = 0;
 };
 
-/// What is told where the desktop has no program for an exported file.
-ErrorEjecucion SinProgramaQueAbra();
-
 /// What the windows of report output work with.
 struct EntornoSalida {
     programa::Aplicacion& LaAplicacion;

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
@@ -102,10 +103,7 @@ void VentanaMensaje::PonerBotones(const Mensaje& mensaje) {
         auto* boton = new QPushButton(disposicion_.Botones[b].Texto, this);
         boton->setMinimumWidth(96);
         boton->setAutoDefault(true);
-        connect(boton, &QPushButton::clicked, this, [this, b] {
-            respuesta_ = disposicion_.Botones[b].Respuesta;
-            accept();
-        });
+        connect(boton, &QPushButton::clicked, this, [this, b] { Responder(b); });
         fila->addWidget(boton);
         if (b == mensaje.PorDefecto) {
             boton->setDefault(true);
@@ -114,6 +112,20 @@ void VentanaMensaje::PonerBotones(const Mensaje& mensaje) {
     }
     fila->addStretch(1);
     static_cast<QVBoxLayout*>(layout())->addLayout(fila);
+}
+
+void VentanaMensaje::Responder(std::int16_t boton) {
+    respuesta_ = disposicion_.Botones[boton].Respuesta;
+    accept();
+}
+
+void VentanaMensaje::keyPressEvent(QKeyEvent* evento) {
+    for (std::int16_t b = 0; b < disposicion_.Cuantos; ++b) {
+        const QString texto = disposicion_.Botones[b].Texto;
+        if (texto.startsWith(evento->text(), Qt::CaseInsensitive) && !evento->text().isEmpty())
+            return Responder(b);
+    }
+    QDialog::keyPressEvent(evento);
 }
 
 void VentanaMensaje::reject() {

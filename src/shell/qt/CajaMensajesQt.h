@@ -17,10 +17,13 @@ class VentanaMensaje : public QDialog {
   protected:
     /// Escape and the window's cross: by the layout.
     void reject() override;
+    /// A button also answers to the first letter of its caption.
+    void keyPressEvent(QKeyEvent* evento) override;
 
   private:
     void Armar(const Mensaje& mensaje);
     void PonerBotones(const Mensaje& mensaje);
+    void Responder(std::int16_t boton);
 
     DisposicionCaja disposicion_;
     std::int16_t respuesta_ = RespuestaAceptarONo;

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <QLineEdit>
 #include <functional>
 
 #include "base/LeerNumero.h"
-#include "shell/qt/EntradaJuzgada.h"
+#include "shell/qt/CampoJuzgado.h"
 
 namespace trabex::programa::qt {
 
@@ -15,7 +14,7 @@ using trabex::Longitud;
 using trabex::NaturalDe16;
 
 /// A field for one number.
-class CampoNumero : public QLineEdit, public EntradaJuzgada {
+class CampoNumero : public CampoJuzgado {
   public:
     CampoNumero(const ClaseNumero& clase, const Separadores& separadores, QWidget* padre);
     /// The number of the entry; while what stands there is none, the one that stood before it was typed.
@@ -25,31 +24,21 @@ class CampoNumero : public QLineEdit, public EntradaJuzgada {
     void AlEntrar(std::function<void(double)> accion) { alEntrar_ = std::move(accion); }
 
     QString Motivo() const override { return motivo_; }
-    void Terminar() override;
-    void Reclamar() override;
 
   protected:
-    void focusInEvent(QFocusEvent* evento) override;
-    void focusOutEvent(QFocusEvent* evento) override;
-    void keyPressEvent(QKeyEvent* evento) override;
-    bool focusNextPrevChild(bool adelante) override;
-    void mouseReleaseEvent(QMouseEvent* evento) override;
+    void Tomar() override;
+    void Volver() override { PonerValor(entrado_); }
 
   private:
     void Juzgar();
-    /// Marks what is refused with its reason, or takes the mark off.
-    void Marcar();
 
     ClaseNumero clase_;
     Separadores separadores_;
     double valor_ = 0;
     double entrado_ = 0;  // the last one that was whole
     QString motivo_;
-    bool marcado_ = false;
-    QString ayuda_;          // its tool tip while there is no reason to tell
     bool entrando_ = false;  // a message that the number brings up takes the focus, and tells it again
     std::function<void(double)> alEntrar_;
-    bool seleccionarAlSoltar_ = false;
 };
 
 }  // namespace trabex::programa::qt

@@ -52,6 +52,14 @@ void CaberEnPantalla(QWidget* ventana) {
     ventana->resize(ventana->size().boundedTo(libre.expandedTo(ventana->minimumSizeHint())));
 }
 
+/// A window is wide enough for its title beside the frame's buttons, as far as the screen gives it.
+void TituloEntero(QWidget* ventana) {
+    constexpr int botones = 140;
+    const int ancho = ventana->fontMetrics().horizontalAdvance(ventana->windowTitle()) * 6 / 5 + botones;
+    const int libre = ventana->screen()->availableSize().width() - 16;
+    ventana->setMinimumWidth(std::max(ventana->minimumWidth(), std::min(ancho, libre)));
+}
+
 }  // namespace
 
 QString TextoDeAyuda(const QString& titulo, const QString& texto) {
@@ -76,6 +84,7 @@ void PrepararVentana(QWidget* ventana, const Tapiz& preferencias) {
     ventana->setStyleSheet(EstiloDeAyudas(preferencias));
     ventana->setWindowIcon(Figura("trabex", 48));
     new Guardian(ventana, preferencias.OcultarAyuda);
+    TituloEntero(ventana);
     const QByteArray geometria = QSettings().value("geometria/" + ventana->objectName()).toByteArray();
     const bool recordada = !ventana->objectName().isEmpty() && !geometria.isEmpty();
     if (!recordada || !ventana->restoreGeometry(geometria)) CaberEnPantalla(ventana);

@@ -37,7 +37,7 @@ std::optional<std::filesystem::path> DialogosArchivoQt::Elegir(const PeticionArc
     dialogo.setOption(QFileDialog::DontConfirmOverwrite, !peticion.AvisarReemplazo);
     const QString patron =
         Q(peticion.Filtro).section("*.", 1, 1).section(QRegularExpression("[^a-zA-Z0-9]"), 0, 0);
-    if (peticion.Guardar) dialogo.setDefaultSuffix(patron);
+    dialogo.setDefaultSuffix(patron);  // a name typed without it is completed, to open as to save
     if (!peticion.Nombre.empty()) dialogo.selectFile(Q(peticion.Nombre));
     if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return std::nullopt;
     return CaminoDeTexto(S(dialogo.selectedFiles().constFirst()));

@@ -30,10 +30,11 @@ void Retomar(QWidget* control) {
         QTimer::singleShot(pausa, control, [control] { Retomar(control); });
         return;
     }
-    EntradaJuzgada* otra = Juzgada(QApplication::focusWidget());
+    QWidget* actual = QApplication::focusWidget();
+    if (actual == control || control->isAncestorOf(actual)) return;  // a cell of it is being edited
+    EntradaJuzgada* otra = Juzgada(actual);
     if (otra != nullptr && !otra->Motivo().isEmpty()) return;  // two refused ones would fight for it
-    if (control->isVisible() && control->isActiveWindow() && !control->hasFocus() &&
-        !Juzgada(control)->Motivo().isEmpty())
+    if (control->isVisible() && control->isActiveWindow() && !Juzgada(control)->Motivo().isEmpty())
         Juzgada(control)->Reclamar();
 }
 

@@ -10,8 +10,11 @@ LienzoTapiz::LienzoTapiz(QWidget* padre) : QWidget(padre) {
     setMinimumSize(160, 90);
 }
 
-bool LienzoTapiz::Poner(const Tapiz& tapiz) {
-    if (tapiz.Imagen != tapiz_.Imagen || imagen_.isNull()) imagen_ = QPixmap(Q(tapiz.Imagen));
+bool LienzoTapiz::Poner(const Tapiz& tapiz, const QPixmap& imagen) {
+    if (!imagen.isNull())
+        imagen_ = imagen;
+    else if (tapiz.Imagen != tapiz_.Imagen || imagen_.isNull())
+        imagen_ = QPixmap(Q(tapiz.Imagen));
     tapiz_ = tapiz;
     update();
     return !imagen_.isNull();

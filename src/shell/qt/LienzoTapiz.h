@@ -12,8 +12,9 @@ class LienzoTapiz : public QWidget {
   public:
     explicit LienzoTapiz(QWidget* padre = nullptr);
 
-    /// False when the picture could not be loaded; the plain ground then shows.
-    bool Poner(const Tapiz& tapiz);
+    /// `imagen` stands for a picture that has no file yet. False when the picture could not be loaded; the
+    /// plain ground then shows.
+    bool Poner(const Tapiz& tapiz, const QPixmap& imagen = {});
     /// Shows, at its scale, what a window of that size would: for previews.
     void Representar(const QSize& ventana);
 

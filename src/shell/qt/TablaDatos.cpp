@@ -229,6 +229,10 @@ Qt::ItemFlags ModeloTabla::flags(const QModelIndex& celda) const {
 
 namespace {
 
+bool EsRellenar(const QKeyEvent& tecla) {
+    return tecla.key() == Qt::Key_D && tecla.modifiers() == Qt::ControlModifier;
+}
+
 /// The editor of a cell: a line that takes what its column takes.
 class EditorDeCelda : public QStyledItemDelegate {
   public:
@@ -246,9 +250,9 @@ class EditorDeCelda : public QStyledItemDelegate {
     bool eventFilter(QObject* objeto, QEvent* evento) override {
         if (evento->type() == QEvent::KeyPress) {
             const auto& tecla = static_cast<QKeyEvent&>(*evento);
-            for (const int propia :
-                 {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Up, Qt::Key_Down}) {
-                if (tecla.key() != propia) continue;
+            for (const int propia : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Up,
+                                     Qt::Key_Down, Qt::Key_D}) {
+                if (tecla.key() != propia || (propia == Qt::Key_D && !EsRellenar(tecla))) continue;
                 tabla_.TomarYSeguir(static_cast<QWidget*>(objeto), tecla);
                 return true;
             }
@@ -261,6 +265,9 @@ class EditorDeCelda : public QStyledItemDelegate {
     void initStyleOption(QStyleOptionViewItem* opcion, const QModelIndex& celda) const override {
         QStyledItemDelegate::initStyleOption(opcion, celda);
         if (!tabla_.EnMano()) opcion->state &= ~(QStyle::State_Selected | QStyle::State_HasFocus);
+        if (celda != modelo_.Rechazada()) return;  // its mark shows through the selection too
+        opcion->palette.setBrush(QPalette::Highlight, opcion->backgroundBrush);
+        opcion->palette.setBrush(QPalette::HighlightedText, opcion->palette.text());
     }
 
   private:
@@ -332,6 +339,12 @@ void TablaDatos::currentChanged(const QModelIndex& actual, const QModelIndex& an
         });
 }
 
+/// The row below a cell is painted by the view, with the view's palette.
+void TablaDatos::initViewItemOption(QStyleOptionViewItem* opcion) const {
+    QTableView::initViewItemOption(opcion);
+    if (!EnMano()) opcion->palette.setBrush(QPalette::Highlight, Qt::transparent);
+}
+
 bool TablaDatos::EnMano() const {
     return hasFocus() || isAncestorOf(QApplication::focusWidget());
 }
@@ -354,7 +367,9 @@ void TablaDatos::TomarYSeguir(QWidget* editor, const QKeyEvent& tecla) {
     commitData(editor);
     closeEditor(editor, QAbstractItemDelegate::NoHint);
     setFocus();  // a message has taken it from the editor
-    if (modelo_->Tomada())
+    if (modelo_->Tomada() && EsRellenar(tecla))
+        RellenarAbajo();
+    else if (modelo_->Tomada())
         Seguir(tecla.key(), tecla.modifiers());
     else if (!Motivo().isEmpty())
         Reclamar();
@@ -411,6 +426,7 @@ void TablaDatos::keyPressEvent(QKeyEvent* evento) {
     if (evento->matches(QKeySequence::Undo)) return Deshacer();
     if (evento->matches(QKeySequence::Redo) || evento->keyCombination() == (Qt::CTRL | Qt::Key_Y))
         return Rehacer();
+    if (EsRellenar(*evento)) return RellenarAbajo();
     switch (evento->key()) {
         case Qt::Key_Delete:
         case Qt::Key_Backspace:
@@ -446,6 +462,7 @@ void TablaDatos::contextMenuEvent(QContextMenuEvent* evento) {
     menu.addAction("&Copiar\tCtrl+C", this, [this] { Copiar(); });
     menu.addAction("&Pegar\tCtrl+V", this, [this] { Pegar(); });
     menu.addAction("&Borrar\tSupr", this, [this] { Borrar(); });
+    menu.addAction("&Rellenar hacia Abajo\tCtrl+D", this, [this] { RellenarAbajo(); });
     menu.addAction("&Deshacer\tCtrl+Z", this, [this] { Deshacer(); });
     menu.exec(evento->globalPos());
 }
@@ -536,6 +553,21 @@ void TablaDatos::PonerTodo(const QList<QStringList>& bloque, const QModelIndexLi
     const bool todo = std::all_of(esquinas.begin(), esquinas.end(),
                                   [&](const QModelIndex& esquina) { return PonerBloque(bloque, esquina); });
     modelo_->CerrarGrupo(todo);
+}
+
+void TablaDatos::RellenarAbajo() {
+    const QModelIndexList elegidas = selectedIndexes();
+    const QModelIndex primera = elegidas.size() > 1 ? EsquinaElegida() : currentIndex();
+    if (!primera.isValid() || !Editable(primera.column()) || !Motivo().isEmpty()) return;
+    const ColumnaDatos& columna = modelo_->Columna(primera.column());
+    const int ultima = elegidas.size() > 1 ? elegidas.last().row() : modelo_->rowCount() - 1;
+    QString texto = primera.data(Qt::EditRole).toString();
+    QList<QStringList> bloque;
+    for (int fila = primera.row() + 1; fila <= ultima; ++fila) {
+        if (columna.Siguiente) texto = columna.Siguiente(texto);
+        bloque.append(QStringList{texto});
+    }
+    if (!bloque.isEmpty()) PonerTodo(bloque, {primera.siblingAtRow(primera.row() + 1)});
 }
 
 void TablaDatos::Deshacer() {

@@ -21,6 +21,8 @@ struct ColumnaDatos {
     /// False refuses the entry, after its message: the cell shows the old value. Null in a column that can't
     /// be edited.
     std::function<bool(int fila, const QVariant& valor)> Poner = nullptr;
+    /// The entry below another when a column is filled down; null repeats it.
+    std::function<QString(const QString& texto)> Siguiente = nullptr;
     int Largo = 255;  ///< of a text, in characters; a longer one is refused
     int Ancho = 0;    ///< of the column, in pixels; 0 shares what the others leave
 };
@@ -28,7 +30,8 @@ struct ColumnaDatos {
 /// A table in which data are entered as in a spreadsheet: typing replaces a cell, F2 or a double click edit
 /// it, Escape leaves it as it was. Tab goes right and, past the last cell, out; Ctrl+Tab goes out at once;
 /// Enter goes down, below where a run of Tab began. Cells are copied and pasted in blocks, a block whole or
-/// not at all, and deleted together; Ctrl+Z takes entries back, Ctrl+Y brings them again. An entry that is no
+/// not at all, and deleted together; Ctrl+D fills down from a
+/// cell; Ctrl+Z takes entries back, Ctrl+Y brings them again. An entry that is no
 /// number of its column stays in its cell, marked and with its reason. It holds no data: its columns read and
 /// put them.
 class TablaDatos : public QTableView, public EntradaJuzgada {
@@ -56,6 +59,8 @@ class TablaDatos : public QTableView, public EntradaJuzgada {
     void Copiar() const;
     void Pegar();
     void Borrar();
+    /// From the current cell on, to the end of the column or of what is selected in it.
+    void RellenarAbajo();
     void Deshacer();
     void Rehacer();
     /// Whoever holds the data takes changes back, others than entries among them.
@@ -76,6 +81,7 @@ class TablaDatos : public QTableView, public EntradaJuzgada {
     void contextMenuEvent(QContextMenuEvent* evento) override;
     void currentChanged(const QModelIndex& actual, const QModelIndex& anterior) override;
     void focusOutEvent(QFocusEvent* evento) override;
+    void initViewItemOption(QStyleOptionViewItem* opcion) const override;
 
     /// Goes where a key leads once its entry is taken.
     virtual void Seguir(int tecla, Qt::KeyboardModifiers mas);

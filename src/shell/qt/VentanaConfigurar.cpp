@@ -4,8 +4,8 @@
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QDateTime>
+#include <QEventLoop>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -16,7 +16,9 @@
 #include <QRadioButton>
 #include <QScreen>
 #include <QTabWidget>
+#include <QTimer>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "base/Archivos.h"
 #include "shell/ConfigurarPrograma.h"
@@ -113,7 +115,10 @@ QWidget* VentanaConfigurar::PaginaImagen() {
     if (const auto* menu = qobject_cast<QMainWindow*>(parentWidget()))
         muestra_->Representar(menu->centralWidget()->size());
     connect(elegir, &QPushButton::clicked, this, [this] { ElegirImagen(); });
-    connect(capturar, &QPushButton::clicked, this, [this] { CapturarImagen(); });
+    connect(capturar, &QPushButton::clicked, this, [this] {
+        porCapturar_ = frameGeometry();
+        hide();
+    });
     connect(ajustar_, &QCheckBox::toggled, this, [this] { Refrescar(); });
 
     auto* filaRuta = new QHBoxLayout;
@@ -124,6 +129,7 @@ QWidget* VentanaConfigurar::PaginaImagen() {
     horizontal_ =
         Opciones(lado, "Alineación Horizontal", {"Centrado", "Izquierda", "Derecha"}, elegida_.Horizontal);
     vertical_ = Opciones(lado, "Alineación Vertical", {"Centrado", "Al tope", "Al fondo"}, elegida_.Vertical);
+    setTabOrder(vertical_->buttons().constLast(), ajustar_);
     lado->addWidget(ajustar_);
     lado->addStretch(1);
     auto* centro = new QHBoxLayout;
@@ -175,26 +181,42 @@ void VentanaConfigurar::ElegirImagen() {
                                                      servicios_.Carpetas.Tapices(), false, false, true});
     if (!archivo) return;
     elegida_.Imagen = TextoDeCamino(*archivo);
+    captura_ = QPixmap();
     Refrescar();
 }
 
-/// Takes what the screen shows below this window.
-void VentanaConfigurar::CapturarImagen() {
-    QScreen* pantalla = screen();
-    const QRect lugar = frameGeometry();
-    setWindowOpacity(0);
-    QCoreApplication::processEvents();
-    const QPixmap captura = pantalla->grabWindow(0, lugar.x(), lugar.y(), lugar.width(), lugar.height());
-    setWindowOpacity(1);
-    const QString nombre = "Captura " + QDateTime::currentDateTime().toString("yyyyMMdd-HHmmss") + ".jpg";
-    const QString archivo = Q(TextoDeCamino(servicios_.Carpetas.Tapices())) + "/" + nombre;
-    if (!captura.save(archivo, "JPG", 95)) {
+/// Takes what the screen shows below this window, which is not there meanwhile: it closes, and opens again.
+/// The picture gets its file when the settings are accepted.
+int VentanaConfigurar::exec() {
+    int resultado = QDialog::exec();
+    while (!porCapturar_.isEmpty()) {
+        Capturar();
+        resultado = QDialog::exec();
+    }
+    return resultado;
+}
+
+void VentanaConfigurar::Capturar() {
+    constexpr int espera = 300;  // ms in which the windows below repaint
+    QEventLoop pausa;
+    QTimer::singleShot(espera, &pausa, &QEventLoop::quit);
+    pausa.exec();
+    const QRect lugar = std::exchange(porCapturar_, {});
+    const QPixmap captura = screen()->grabWindow(0, lugar.x(), lugar.y(), lugar.width(), lugar.height());
+    if (captura.isNull()) {
         servicios_.Caja.Mostrar(
-            MensajeDeError(ErrorEjecucion(CodigoError::ErrorAccesoRuta), ErrorInesperado));
+            MensajeDeError(ErrorEjecucion(CodigoError::ErrorDispositivo), ErrorInesperado));
         return;
     }
-    elegida_.Imagen = S(archivo);
+    captura_ = captura;
+    const QString nombre = "Captura " + QDateTime::currentDateTime().toString("yyyyMMdd-HHmmss") + ".jpg";
+    elegida_.Imagen = TextoDeCamino(servicios_.Carpetas.Tapices() / CaminoDeTexto(S(nombre)));
     Refrescar();
+}
+
+void VentanaConfigurar::GuardarCaptura() const {
+    if (!captura_.isNull() && !captura_.save(Q(elegida_.Imagen), "JPG", 95))
+        throw ErrorEjecucion(CodigoError::ErrorAccesoRuta);
 }
 
 void VentanaConfigurar::ElegirColor(std::uint32_t& color) {
@@ -211,7 +233,7 @@ void VentanaConfigurar::Refrescar() {
     elegida_.OcultarAyuda = ocultar_->isChecked();
     elegida_.AyudaEnGlobo = globo_->isChecked();
     ruta_->setText(Q(elegida_.Imagen));
-    muestra_->Poner(elegida_);
+    muestra_->Poner(elegida_, captura_);
     PintarMuestra(fondo_, elegida_.FondoAyuda);
     PintarMuestra(color_, elegida_.ColorAyuda);
     ejemplo_->setVisible(!elegida_.OcultarAyuda);
@@ -219,7 +241,8 @@ void VentanaConfigurar::Refrescar() {
 }
 
 void VentanaConfigurar::Aceptar() {
-    const ResultadoConfiguracion resultado = AceptarConfiguracion(aplicacion_, servicios_, elegida_);
+    const ResultadoConfiguracion resultado =
+        AceptarConfiguracion(aplicacion_, servicios_, elegida_, [this] { GuardarCaptura(); });
     if (resultado == ResultadoConfiguracion::SigueAbierta) return;
     guardada_ = resultado == ResultadoConfiguracion::Guardada;
     accept();

@@ -19,6 +19,7 @@ class VentanaConfigurar : public QDialog {
   public:
     VentanaConfigurar(Aplicacion& aplicacion, const Servicios& servicios, QWidget* padre);
     bool Guardada() const { return guardada_; }
+    int exec() override;
 
   private:
     QWidget* PaginaImagen();
@@ -27,7 +28,8 @@ class VentanaConfigurar : public QDialog {
                            std::uint8_t actual);
     QLabel* MuestraDeColor(std::uint32_t& color);
     void ElegirImagen();
-    void CapturarImagen();
+    void Capturar();
+    void GuardarCaptura() const;
     void ElegirColor(std::uint32_t& color);
     void Refrescar();
     void Aceptar();
@@ -36,6 +38,8 @@ class VentanaConfigurar : public QDialog {
     Servicios servicios_;
     Tapiz elegida_;
     bool guardada_ = false;
+    QPixmap captura_;    // chosen, without a file yet
+    QRect porCapturar_;  // what of the screen is asked for; the window closes meanwhile
     QLineEdit* ruta_;
     QButtonGroup* horizontal_;
     QButtonGroup* vertical_;

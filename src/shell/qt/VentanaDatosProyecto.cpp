@@ -1,15 +1,14 @@
 #include "shell/qt/VentanaDatosProyecto.h"
 
-#include <QDate>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTextCursor>
 
+#include "shell/qt/CampoFecha.h"
 #include "shell/qt/ComunVentanas.h"
 #include "shell/qt/VentanaCalendario.h"
 
@@ -38,18 +37,10 @@ void Limitar(QPlainTextEdit* campo, int ancho) {
     });
 }
 
-/// The date of a text as the day, month and year, or as the locale's short form.
-std::optional<Fecha> LeerFechaDe(const QString& texto) {
-    QDate dia = QDate::fromString(texto.trimmed(), "dd/MM/yyyy");
-    if (!dia.isValid()) dia = QLocale::system().toDate(texto.trimmed(), QLocale::ShortFormat);
-    if (!dia.isValid()) return std::nullopt;
-    return Fecha{std::chrono::year(dia.year()) / dia.month() / dia.day()};
-}
-
 }  // namespace
 
 VentanaDatosProyecto::VentanaDatosProyecto(Aplicacion& aplicacion, CajaMensajes& caja, QWidget* padre)
-    : QDialog(padre), aplicacion_(aplicacion), operaciones_(aplicacion, caja), fecha_(Hoy()) {
+    : QDialog(padre), aplicacion_(aplicacion), operaciones_(aplicacion, caja) {
     setObjectName("DatosProyecto");
     setWindowTitle("DATOS DEL PROYECTO");
     Armar();
@@ -61,7 +52,8 @@ void VentanaDatosProyecto::Armar() {
     proyecto_ = Campo(this, "Proyecto");
     propietario_ = Campo(this, "Propietario");
     calculista_ = Campo(this, "Calculista");
-    fechaTexto_ = Campo(this, "Fecha");
+    fecha_ = new CampoFecha(this);
+    fecha_->setObjectName("Fecha");
     cliente_ = Campo(this, "Cliente");
     comentario_ = new QPlainTextEdit(this);
     comentario_->setObjectName("Comentario");
@@ -79,12 +71,14 @@ void VentanaDatosProyecto::Armar() {
     formulario->addRow("Pr&opietario:", propietario_);
     formulario->addRow("C&alculista:", calculista_);
     auto* filaFecha = new QHBoxLayout;
-    filaFecha->addWidget(fechaTexto_);
+    filaFecha->addWidget(fecha_);
     filaFecha->addWidget(calendario);
     filaFecha->addStretch(1);
     auto* rotuloFecha = new QLabel("&Fecha:", this);
-    rotuloFecha->setBuddy(fechaTexto_);
+    rotuloFecha->setBuddy(fecha_);
     formulario->addRow(rotuloFecha, filaFecha);
+    setTabOrder(fecha_, calendario);
+    setTabOrder(calendario, cliente_);
     formulario->addRow("C&liente:", cliente_);
     formulario->addRow("Co&mentario:", comentario_);
 
@@ -107,33 +101,22 @@ void VentanaDatosProyecto::Mostrar(const DatosDelProyecto& datos) {
     proyecto_->setText(Q(datos.Proyecto));
     propietario_->setText(Q(datos.Propietario));
     calculista_->setText(Q(datos.Calculista));
-    PonerFecha(datos.Fecha);
+    fecha_->PonerValor(datos.Fecha);
     cliente_->setText(Q(datos.Cliente));
     comentario_->setPlainText(Q(datos.Comentario));
 }
 
-void VentanaDatosProyecto::PonerFecha(const Fecha& fecha) {
-    fecha_ = fecha;
-    fechaTexto_->setText(Q(FormatoFecha(fecha)));
-}
-
 void VentanaDatosProyecto::ElegirFecha() {
-    VentanaCalendario calendario(LeerFechaDe(fechaTexto_->text()).value_or(fecha_), aplicacion_.Preferencias,
-                                 this);
-    if (calendario.exec() == QDialog::Accepted) PonerFecha(calendario.Elegida());
+    VentanaCalendario calendario(fecha_->Valor(), aplicacion_.Preferencias, this);
+    if (calendario.exec() == QDialog::Accepted) fecha_->PonerValor(calendario.Elegida());
 }
 
 void VentanaDatosProyecto::Salvar() {
-    const auto fecha = LeerFechaDe(fechaTexto_->text());
-    if (!fecha) {
-        fechaTexto_->setFocus();
-        fechaTexto_->selectAll();
-        return;
-    }
+    if (!EntradasEnOrden(this)) return;
     const DatosDelProyecto datos{.Proyecto = S(proyecto_->text()),
                                  .Propietario = S(propietario_->text()),
                                  .Calculista = S(calculista_->text()),
-                                 .Fecha = *fecha,
+                                 .Fecha = fecha_->Valor(),
                                  .Cliente = S(cliente_->text()),
                                  .Comentario = S(comentario_->toPlainText())};
     if (operaciones_.Salvar(datos)) accept();

@@ -9,6 +9,8 @@ class QPlainTextEdit;
 
 namespace trabex::programa::qt {
 
+class CampoFecha;
+
 /// Edits the project's title data.
 class VentanaDatosProyecto : public QDialog {
   public:
@@ -19,15 +21,13 @@ class VentanaDatosProyecto : public QDialog {
     void Mostrar(const DatosDelProyecto& datos);
     void Salvar();
     void ElegirFecha();
-    void PonerFecha(const Fecha& fecha);
 
     Aplicacion& aplicacion_;
     DatosProyecto operaciones_;
-    Fecha fecha_;
     QLineEdit* proyecto_;
     QLineEdit* propietario_;
     QLineEdit* calculista_;
-    QLineEdit* fechaTexto_;
+    CampoFecha* fecha_;
     QLineEdit* cliente_;
     QPlainTextEdit* comentario_;
 };

@@ -16,6 +16,7 @@
 #include <QStyle>
 #include <QTabBar>
 #include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <array>
 #include <utility>
@@ -66,6 +67,7 @@ void VentanaEspacio::Armar(const DatosDeEspacio& datos) {
     columna->addLayout(lineaDelPie);
     TamanoInicial(this, TamanoDeEspacio);
     datos.Lista.Abrir();
+    hojas_->setCurrentIndex(QSettings().value("hoja/" + objectName()).toInt());
     PrepararVentana(this, preferencias_);
     lista_->setFocus();
 }
@@ -133,15 +135,26 @@ void VentanaEspacio::PonerAtajos() {
     struct Atajo {
         std::string_view Clave;
         QKeySequence Tecla;
-        bool SoloEnLaLista;
+        bool SoloEnLaLista = false;
     };
-    const std::array<Atajo, 7> atajos{{{"ID_Abrir", QKeySequence::Open, false},
-                                       {"ID_Nueva", QKeySequence::New, false},
-                                       {"ID_Anterior", Qt::CTRL | Qt::Key_PageUp, false},
-                                       {"ID_Siguiente", Qt::CTRL | Qt::Key_PageDown, false},
-                                       {"ID_Renombrar", Qt::Key_F2, true},
-                                       {"ID_Eliminar", QKeySequence::Delete, true},
-                                       {"ID_Copiar", QKeySequence::Copy, true}}};
+    const std::array<Atajo, 18> atajos{{{"ID_Abrir", QKeySequence::Open},
+                                        {"ID_Generales", QKeySequence("Ctrl+G")},
+                                        {"ID_Nueva", QKeySequence::New},
+                                        {"ID_Editar", QKeySequence("F4")},
+                                        {"ID_Copiar", QKeySequence("Ctrl+D")},
+                                        {"ID_Renombrar", Qt::Key_F2, true},
+                                        {"ID_Eliminar", QKeySequence::Delete, true},
+                                        {"ID_Anterior", Qt::CTRL | Qt::Key_PageUp},
+                                        {"ID_Siguiente", Qt::CTRL | Qt::Key_PageDown},
+                                        {"ID_Graficos", QKeySequence("Ctrl+Shift+G")},
+                                        {"ID_Exportar", QKeySequence("Ctrl+E")},
+                                        {"ID_Imprimir", QKeySequence::Print},
+                                        {"ID_Planex", QKeySequence("Ctrl+L")},
+                                        {"ID_ExportarG", QKeySequence("Ctrl+I")},
+                                        {"ID_ZoomIN", QKeySequence::ZoomIn},
+                                        {"ID_ZoomOut", QKeySequence::ZoomOut},
+                                        {"ID_ZoomExtents", QKeySequence("Ctrl+0")},
+                                        {"ID_Plotear", QKeySequence("F5")}}};
     for (const Atajo& atajo : atajos) {
         const auto hallada = acciones_.find(atajo.Clave);
         if (hallada == acciones_.end()) continue;
@@ -190,6 +203,7 @@ QLayout* VentanaEspacio::BarraDeMandos() {
     retorno->setAutoDefault(false);
     PonerAyuda(retorno, "Retorno", "Volver al menú principal. ");
     connect(retorno, &QPushButton::clicked, this, &QDialog::accept);
+    for (auto* boton : barra->findChildren<QToolButton*>()) boton->setFocusPolicy(Qt::TabFocus);
     auto* fila = new QHBoxLayout;
     fila->addWidget(barra, 1);
     fila->addWidget(retorno);
@@ -372,6 +386,7 @@ void VentanaEspacio::keyPressEvent(QKeyEvent* evento) {
 
 void VentanaEspacio::hideEvent(QHideEvent* evento) {
     QSettings().setValue("partes/" + objectName(), partes_->saveState());
+    QSettings().setValue("hoja/" + objectName(), hojas_->currentIndex());
     QDialog::hideEvent(evento);
 }
 

@@ -1,10 +1,14 @@
 #include "shell/qt/VentanaMenuPrincipal.h"
 
 #include <QApplication>
+#include <QDropEvent>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMimeData>
+#include <QSettings>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QUrl>
 #include <algorithm>
 #include <utility>
 
@@ -26,6 +30,19 @@ QString Texto(std::string_view texto) {
     return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
 }
 
+constexpr const char* ClaveRecientes = "proyectos/recientes";
+
+QStringList Recientes() {
+    return QSettings().value(ClaveRecientes).toStringList();
+}
+
+/// The one project among what is dragged; empty when there is none.
+QString ProyectoSoltado(const QMimeData* soltado) {
+    const QList<QUrl> archivos = soltado->urls();
+    const QString camino = archivos.size() == 1 ? archivos[0].toLocalFile() : QString();
+    return camino.endsWith(".los", Qt::CaseInsensitive) ? camino : QString();
+}
+
 }  // namespace
 
 VentanaMenuPrincipal::VentanaMenuPrincipal(Aplicacion& aplicacion, const Servicios& servicios,
@@ -34,12 +51,15 @@ VentanaMenuPrincipal::VentanaMenuPrincipal(Aplicacion& aplicacion, const Servici
       servicios_(servicios),
       espacios_(std::move(espacios)),
       operaciones_(aplicacion, servicios, *this),
+      recientes_(new QMenu("Proyectos &Recientes", this)),
       tapiz_(new LienzoTapiz(this)) {
     setObjectName("MenuPrincipal");
+    setAcceptDrops(true);
     resize(1100, 700);
     setCentralWidget(tapiz_);
     CrearAcciones();
     CrearMenus();
+    LlenarRecientes();
     CrearBarra();
     CrearPanelEstado();
     PrepararVentana(this, aplicacion_.Preferencias);
@@ -78,6 +98,7 @@ void VentanaMenuPrincipal::CrearMenus() {
             if (comando.En != static_cast<Menu>(m)) continue;
             if (comando.Clave == "ID_Salida") menu->addSeparator();
             menu->addAction(Accion(comando.Clave));
+            if (comando.Clave == "ID_Abrir") menu->addMenu(recientes_);
         }
     }
 }
@@ -141,6 +162,37 @@ void VentanaMenuPrincipal::PonerTapiz(const Tapiz& tapiz) {
 
 void VentanaMenuPrincipal::Repintar() {
     update();
+}
+
+void VentanaMenuPrincipal::RecordarProyecto(const std::filesystem::path& archivo) {
+    constexpr qsizetype cuantos = 9;  // as many as have a digit for their mnemonic
+    const QString camino = Q(TextoDeCamino(archivo));
+    QStringList recientes = Recientes();
+    recientes.removeAll(camino);
+    recientes.prepend(camino);
+    QSettings().setValue(ClaveRecientes, recientes.mid(0, cuantos));
+    LlenarRecientes();
+}
+
+void VentanaMenuPrincipal::LlenarRecientes() {
+    recientes_->clear();
+    for (const QString& camino : Recientes()) {
+        const QString rotulo =
+            QString("&%1  ").arg(recientes_->actions().size() + 1) + QString(camino).replace('&', "&&");
+        recientes_->addAction(rotulo, this, [this, camino] { AbrirProyecto(CaminoDeTexto(S(camino))); });
+    }
+    recientes_->setEnabled(!recientes_->isEmpty());
+}
+
+void VentanaMenuPrincipal::dragEnterEvent(QDragEnterEvent* evento) {
+    if (!ProyectoSoltado(evento->mimeData()).isEmpty()) evento->acceptProposedAction();
+}
+
+void VentanaMenuPrincipal::dropEvent(QDropEvent* evento) {
+    const QString proyecto = ProyectoSoltado(evento->mimeData());
+    if (proyecto.isEmpty()) return;
+    evento->acceptProposedAction();
+    AbrirProyecto(CaminoDeTexto(S(proyecto)));
 }
 
 void VentanaMenuPrincipal::Cerrar() {

@@ -11,6 +11,7 @@
 #include "shell/qt/LienzoTapiz.h"
 
 class QLabel;
+class QMenu;
 
 namespace trabex::programa::qt {
 
@@ -28,6 +29,7 @@ class VentanaMenuPrincipal : public QMainWindow, public PantallaMenuPrincipal {
     void PunteroDeEspera(bool espera) override;
     void PonerTapiz(const Tapiz& tapiz) override;
     void Repintar() override;
+    void RecordarProyecto(const std::filesystem::path& archivo) override;
     void Cerrar() override;
     void MostrarDatosProyecto() override;
     void MostrarConfiguracion() override;
@@ -35,12 +37,21 @@ class VentanaMenuPrincipal : public QMainWindow, public PantallaMenuPrincipal {
     void MostrarSobre() override;
     void MostrarEspacio(std::string_view clave) override;
 
+    /// A project named in the program's argument.
+    void AbrirProyecto(const std::filesystem::path& archivo) { operaciones_.AbrirDeFuera(archivo); }
+
+  protected:
+    // A project's file that is dropped on the window opens.
+    void dragEnterEvent(QDragEnterEvent* evento) override;
+    void dropEvent(QDropEvent* evento) override;
+
   private:
     /// The workspace of a command; null when the program has none.
     const Espacio* EspacioDe(std::string_view clave) const;
     void CrearAcciones();
     void CrearMenus();
     void CrearBarra();
+    void LlenarRecientes();
     void CrearPanelEstado();
 
     Aplicacion& aplicacion_;
@@ -48,6 +59,7 @@ class VentanaMenuPrincipal : public QMainWindow, public PantallaMenuPrincipal {
     std::vector<Espacio> espacios_;
     MenuPrincipal operaciones_;
     std::map<std::string_view, QAction*> acciones_;
+    QMenu* recientes_;
     LienzoTapiz* tapiz_;
     QLabel* revision_;
     QLabel* proyecto_;

@@ -5,6 +5,8 @@
 #include <optional>
 
 #include "base/Enteros.h"
+#include "slab/CalcularLosa.h"
+#include "slab/ValoresLosa.h"
 #include "store/tablas/TablasLosa.h"
 
 namespace trabex::losas::ui {
@@ -142,6 +144,43 @@ void LosaDatos::PonerCargas(std::size_t tramo, const Tramo& cargas) {
     edicion_.Tramos[tramo] = cargas;
     edicion_.Tramos[tramo].LT = LT;
     Cambiado();
+}
+
+void LosaDatos::CopiarTramo(std::size_t desde, const std::vector<std::size_t>& a, const QueCopiar& que) {
+    const Tramo de = edicion_.Tramos.at(desde);
+    for (const std::size_t i : a) {
+        Tramo& tramo = edicion_.Tramos.at(i);
+        if (que.Longitud) tramo.LT = de.LT;
+        if (que.CargaUniforme) tramo.Wp = de.Wp, tramo.WV = de.WV;
+        if (que.CargaPuntual) tramo.p1 = de.p1, tramo.L1 = de.L1;
+    }
+    cambios_ = true;
+    pantalla_.Refrescar();
+}
+
+std::string LosaDatos::MomentosDePrueba(const Separadores& numeros) const {
+    constexpr std::size_t tramosConTodos = 10;
+    constexpr std::size_t tramosAlMomento = 500;  // past them a calculation would hold up the keys
+    const std::size_t N = NumeroDeTramos();
+    if (N == 0 || N > tramosAlMomento) return {};
+    Losa prueba = edicion_;
+    prueba.Bm = 1;
+    ResultadosLosa resultados;
+    CalcularLosa(prueba, losas_.Programa().Generales, resultados);
+    if (resultados.DisenoTramo.size() != N + 1 || resultados.Error || !resultados.DireccionesLibres.empty())
+        return {};
+    const auto numero = [&](double momento) { return Formato(momento, "#,##0", numeros); };
+    std::string texto = "Momentos de prueba (kgf·m):  ";
+    if (N > tramosConTodos)
+        return texto + "máximo en apoyos " + numero(resultados.MaxMomentoApoyo) + ", en tramos " +
+               numero(resultados.MaxMomentoTramo);
+    const LosaCalculada calculada{prueba, losas_.Programa().Generales, resultados};
+    for (std::size_t j = 1; j <= N + 1; ++j) {
+        const std::string& eje = prueba.Ejes[j].Eje;
+        texto += (eje.empty() ? std::to_string(j) : eje) + ": " + numero(MomentoSuperior(calculada, j));
+        if (j <= N) texto += " | " + numero(resultados.DisenoTramo[j].MT) + " | ";
+    }
+    return texto;
 }
 
 void LosaDatos::PulsarTipo(std::int16_t tipo) {

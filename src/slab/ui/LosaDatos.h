@@ -2,7 +2,9 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
+#include "base/Formatos.h"
 #include "slab/ui/Cargas.h"
 #include "slab/ui/Losas.h"
 
@@ -12,6 +14,13 @@ enum class PaginaLosa { Seccion, Tramos, JuntasD, Apoyos, Cargas };
 inline constexpr int PaginasDeLosa = 5;
 
 enum class CampoSeccion { Bo, Ho, So, Loseta, Hm };
+
+/// What of a span is copied to others.
+struct QueCopiar {
+    bool Longitud = false;
+    bool CargaUniforme = true;
+    bool CargaPuntual = true;
+};
 
 /// What the data window's operations ask of it.
 class PantallaLosaDatos {
@@ -55,6 +64,9 @@ class LosaDatos {
     /// "Tramo: n", 0 until there is one.
     std::string LeyendaDeTramo() const { return "Tramo: " + std::to_string(tramo_); }
     std::size_t TramoActual() const { return tramo_; }
+    /// Factored moments of a trial calculation of what stands in the window, at axes and in spans in their
+    /// order; of a long slab the largest ones. Empty while the slab can't be calculated.
+    std::string MomentosDePrueba(const Separadores& numeros) const;
 
     // Edits. Those that answer false refused the entry, with its message: the cell shows the old value.
     void PonerMaciza(bool maciza);
@@ -70,6 +82,9 @@ class LosaDatos {
     bool PonerJunta(std::size_t registro, std::int64_t junta);
     void PonerCorrimiento(std::size_t registro, double x, double y);
     void PonerCargas(std::size_t tramo, const Tramo& cargas);
+
+    /// Gives spans what another one has of `que`.
+    void CopiarTramo(std::size_t desde, const std::vector<std::size_t>& a, const QueCopiar& que);
 
     /// A support type button: writes into the current row of the table and moves on to the next.
     void PulsarTipo(std::int16_t tipo);

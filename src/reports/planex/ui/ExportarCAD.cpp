@@ -179,9 +179,7 @@ int ExportarCAD::EscribirLosas(const std::vector<int>& filas, const std::filesys
 }
 
 void ExportarCAD::AbrirCarpeta() {
-    if (!servicios_.Sistema.AbrirCarpeta(CarpetaDe(Planex8)))
-        servicios_.Caja.Mostrar(programa::MensajeDeError(ErrorEjecucion(CodigoError::RutaNoEncontrada),
-                                                         programa::ErrorInesperado));
+    programa::AbrirODecir(servicios_, CarpetaDe(Planex8));
 }
 
 }  // namespace trabex::planex::ui

@@ -55,7 +55,8 @@ QLayout* VentanaExportarGrafico::Controles() {
                               auto accion) {
         auto* nuevo = programa::qt::Boton(texto, icono, this);
         nuevo->setAutoDefault(false);
-        programa::qt::PonerAyuda(nuevo, texto.trimmed().isEmpty() ? "Carpeta" : texto.trimmed(), ayuda);
+        programa::qt::PonerAyuda(
+            nuevo, texto.trimmed().isEmpty() ? "Carpeta" : QString(texto).remove('&').trimmed(), ayuda);
         connect(nuevo, &QPushButton::clicked, this, accion);
         fila.addWidget(nuevo);
         return nuevo;
@@ -63,19 +64,19 @@ QLayout* VentanaExportarGrafico::Controles() {
     dibujo::Visor& visor = lienzo_->Comandos();
     auto* delZoom = new QHBoxLayout;
     delZoom->addStretch(1);
-    boton(*delZoom, " Zoom Más ", "acercar", "Acercar el gráfico.", [&visor] { visor.EjecuteZoomIn(); });
-    boton(*delZoom, " Zoom Menos ", "alejar", "Alejar el gráfico.", [&visor] { visor.EjecuteZoomOut(); });
-    boton(*delZoom, " Zoom Extents ", "pantalla", "Ver el gráfico completo.",
+    boton(*delZoom, " Zoom &Más ", "acercar", "Acercar el gráfico.", [&visor] { visor.EjecuteZoomIn(); });
+    boton(*delZoom, " Zoom Me&nos ", "alejar", "Alejar el gráfico.", [&visor] { visor.EjecuteZoomOut(); });
+    boton(*delZoom, " Zoom E&xtents ", "pantalla", "Ver el gráfico completo.",
           [&visor] { visor.EjecuteZoomExtents(); });
     auto* deSalida = new QHBoxLayout;
     deSalida->addStretch(1);
     boton(*deSalida, "", "carpeta", "Abrir la carpeta de las imágenes exportadas.", [this] {
         operaciones_.AbrirCarpeta();
     })->setObjectName("Carpeta");
-    boton(*deSalida, " Exportar ", "camara", "Salvar el gráfico como imagen.", [this] {
+    boton(*deSalida, " &Exportar ", "camara", "Salvar el gráfico como imagen.", [this] {
         operaciones_.ExportarPantalla(FormatosGrafico[static_cast<std::size_t>(formatos_->checkedId())]);
     })->setDefault(true);
-    boton(*deSalida, " Retorno ", "salida", "Cerrar la ventana.", [this] { reject(); });
+    boton(*deSalida, " &Retorno ", "salida", "Cerrar la ventana.", [this] { reject(); });
     auto* botones = new QVBoxLayout;
     botones->addStretch(1);
     botones->addLayout(delZoom);

@@ -12,6 +12,7 @@
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -21,7 +22,9 @@
 #include "shell/qt/ComunVentanas.h"
 #include "shell/qt/Iconos.h"
 #include "slab/Analizar.h"
+#include "slab/ui/SerieDeEjes.h"
 #include "slab/ui/qt/VentanaCarga.h"
+#include "slab/ui/qt/VentanaCopiarTramo.h"
 
 namespace trabex::losas::ui::qt {
 
@@ -81,14 +84,17 @@ VentanaLosaDatos::VentanaLosaDatos(Losas& losas, programa::CajaMensajes& caja, Q
     setObjectName("LosaDatos");
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     redibujo_.setSingleShot(true);
-    connect(&redibujo_, &QTimer::timeout, this,
-            [this] { static_cast<dibujo::qt::WidgetLienzo*>(bocetos_->currentWidget())->RedibujeVista(); });
+    connect(&redibujo_, &QTimer::timeout, this, [this] {
+        static_cast<dibujo::qt::WidgetLienzo*>(bocetos_->currentWidget())->RedibujeVista();
+        momentos_->setText(programa::qt::Q(operaciones_.MomentosDePrueba(numeros_)));
+    });
     paginas_ = new QTabWidget(this);
     paginas_->addTab(PaginaDeSeccion(), "Sección");
     paginas_->addTab(PaginaDeTramos(), "Tramos y Ejes");
     paginas_->addTab(PaginaDeJuntasD(), "Juntas Desplazadas");
     paginas_->addTab(PaginaDeApoyos(), "Apoyos");
     paginas_->addTab(PaginaDeCargas(), "Cargas");
+    paginas_->setMinimumWidth(paginas_->tabBar()->sizeHint().width());  // no tab out of sight
     auto* partes = new QSplitter(Qt::Horizontal, this);
     partes->addWidget(paginas_);
     partes->addWidget(Bocetos());
@@ -198,17 +204,19 @@ QWidget* VentanaLosaDatos::PaginaDeTramos() {
     auto* pagina = new QWidget(this);
     numeroTramos_ = Contador({true, 0, static_cast<double>(MaximoTramos), 0}, "NumeroTramos",
                              [this](double tramos) { PonerNumeroTramos(static_cast<int>(tramos)); });
-    ejes_ =
-        Tabla({{.Titulo = "Nombre Eje",
-                .Numero = std::nullopt,
-                .Leer = [this](int j) { return programa::qt::Q(operaciones_.Edicion().Ejes[Indice(j)].Eje); },
-                .Poner =
-                    [this](int j, const QVariant& eje) {
-                        operaciones_.PonerEje(Indice(j), programa::qt::S(eje.toString().trimmed()));
-                        return true;
-                    },
-                .Largo = LargoDeEje}},
-              "Ejes");
+    ejes_ = Tabla(
+        {{.Titulo = "Nombre Eje",
+          .Numero = std::nullopt,
+          .Leer = [this](int j) { return programa::qt::Q(operaciones_.Edicion().Ejes[Indice(j)].Eje); },
+          .Poner =
+              [this](int j, const QVariant& eje) {
+                  operaciones_.PonerEje(Indice(j), programa::qt::S(eje.toString().trimmed()));
+                  return true;
+              },
+          .Siguiente =
+              [](const QString& eje) { return programa::qt::Q(SiguienteEnSerie(programa::qt::S(eje))); },
+          .Largo = LargoDeEje}},
+        "Ejes");
     luces_ = Tabla({{.Titulo = "Longitud (m)",
                      .Numero = Longitud,
                      .Leer = [this](int i) { return operaciones_.Edicion().Tramos[Indice(i)].LT; },
@@ -348,6 +356,8 @@ programa::qt::ColumnaDatos VentanaLosaDatos::ColumnaDeCarga(
 QLayout* VentanaLosaDatos::FilaDeBotonesDeCarga() {
     auto* uniforme = BotonDeBarra("carga-uniforme", "Carga &Uniforme", "Entrar la carga uniforme. ", this);
     auto* puntual = BotonDeBarra("carga-puntual", "Carga &Puntual", "Entrar la carga Puntual.  ", this);
+    auto* copiar = BotonDeBarra("copiar", "&Copiar a...", "Copiar el tramo actual a otros tramos. ", this);
+    connect(copiar, &QToolButton::clicked, this, [this] { CopiarTramo(); });
     connect(uniforme, &QToolButton::clicked, this, [this] { operaciones_.CargaUniforme(); });
     connect(puntual, &QToolButton::clicked, this, [this] { operaciones_.CargaPuntual(); });
     leyendaTramo_ = new QLabel(this);
@@ -360,10 +370,16 @@ QLayout* VentanaLosaDatos::FilaDeBotonesDeCarga() {
         operaciones_.MoverATramo(Indice(tramo));
         MostrarTramo();
     });
-    auto* fila = new QHBoxLayout;
-    for (QWidget* control : std::initializer_list<QWidget*>{uniforme, puntual, leyendaTramo_})
-        fila->addWidget(control);
-    fila->addWidget(deslizador_, 1);
+    auto* botones = new QHBoxLayout;
+    for (QWidget* control : std::initializer_list<QWidget*>{uniforme, puntual, copiar})
+        botones->addWidget(control);
+    botones->addStretch(1);
+    auto* recorrido = new QHBoxLayout;
+    recorrido->addWidget(leyendaTramo_);
+    recorrido->addWidget(deslizador_, 1);
+    auto* fila = new QVBoxLayout;
+    fila->addLayout(botones);
+    fila->addLayout(recorrido);
     return fila;
 }
 
@@ -412,7 +428,16 @@ QWidget* VentanaLosaDatos::Bocetos() {
         },
         bocetos_);
     for (dibujo::qt::WidgetLienzo* lienzo : lienzos_) bocetos_->addWidget(lienzo);
-    return bocetos_;
+    momentos_ = new QLabel(this);
+    momentos_->setObjectName("MomentosDePrueba");
+    momentos_->setWordWrap(true);
+    momentos_->setAlignment(Qt::AlignCenter);
+    auto* panel = new QWidget(this);
+    auto* columna = new QVBoxLayout(panel);
+    columna->setContentsMargins(0, 0, 0, 0);
+    columna->addWidget(bocetos_, 1);
+    columna->addWidget(momentos_);
+    return panel;
 }
 
 /// The span or the joint in hand on the page on show.
@@ -502,7 +527,7 @@ void VentanaLosaDatos::MostrarPagina(PaginaLosa pagina) {
 }
 
 void VentanaLosaDatos::CambiarPagina() {
-    programa::qt::EntradasEnOrden(this);
+    if (!programa::qt::EntradasEnOrden(this)) return;
     apoyos_->Refrescar();  // names of axes may have changed on their own page
     bocetos_->setCurrentIndex(Pagina() == PaginaLosa::Cargas ? 1 : 0);
     QWidget* primero = primeros_[static_cast<std::size_t>(Pagina())];
@@ -554,6 +579,12 @@ bool VentanaLosaDatos::MostrarCarga02(const EntradaDeCarga& entrada) {
     VentanaCarga02 ventana(operaciones, numeros_, losas_.Programa().Preferencias, this);
     programa::qt::MostrarModal(ventana);
     return operaciones.LosaModificada();
+}
+
+void VentanaLosaDatos::CopiarTramo() {
+    if (operaciones_.TramoActual() == 0 || !programa::qt::EntradasEnOrden(this)) return;
+    VentanaCopiarTramo ventana(operaciones_, losas_.Programa().Preferencias, this);
+    programa::qt::MostrarModal(ventana);
 }
 
 void VentanaLosaDatos::Salvar() {

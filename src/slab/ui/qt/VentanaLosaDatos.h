@@ -69,6 +69,7 @@ class VentanaLosaDatos : public QDialog, public PantallaLosaDatos {
     void PonerNumeroJuntasD(double juntas);
     void MostrarClase();
     void MostrarTramo();
+    void CopiarTramo();
     void CambiarPagina();
     void Salvar();
     void ElegirLosa(int lugar);
@@ -100,6 +101,7 @@ class VentanaLosaDatos : public QDialog, public PantallaLosaDatos {
     std::array<QWidget*, PaginasDeLosa> primeros_{};  // what takes the focus on each page
 
     QStackedWidget* bocetos_;
+    QLabel* momentos_;
     std::array<dibujo::EstadoVista, 2> vistas_;
     std::array<dibujo::qt::WidgetLienzo*, 2> lienzos_{};
 };

@@ -3,6 +3,7 @@
 #include <QButtonGroup>
 #include <QGroupBox>
 #include <QRadioButton>
+#include <QSettings>
 #include <QVBoxLayout>
 #include <array>
 #include <utility>
@@ -20,6 +21,8 @@ namespace {
 
 constexpr std::array<const char*, 3> TitulosDeHoja{"&Geometría de la Losa", "&Cortes y Momentos",
                                                    "&Diseño y Reacciones"};
+
+constexpr const char* ClaveOpcionCarga = "cargas/Losas";
 
 }  // namespace
 
@@ -45,6 +48,8 @@ VentanaLosas::VentanaLosas(programa::Aplicacion& aplicacion, const programa::Ser
            },
            [this](int hoja) { operaciones_.ElegirHoja(static_cast<dibujo::losa::VistaLosa>(hoja)); },
            std::move(propias), OpcionesDeCarga()});
+    const int recordada = QSettings().value(ClaveOpcionCarga).toInt();
+    if (QAbstractButton* opcion = opcionCarga_->button(recordada)) opcion->click();
 }
 
 QWidget* VentanaLosas::OpcionesDeCarga() {
@@ -58,6 +63,7 @@ QWidget* VentanaLosas::OpcionesDeCarga() {
     }
     connect(opcionCarga_, &QButtonGroup::idClicked, this, [this](int opcion) {
         operaciones_.ElegirOpcionCarga(static_cast<dibujo::losa::OpcionDeCarga>(opcion));
+        QSettings().setValue(ClaveOpcionCarga, opcion);
     });
     return marco;
 }
