@@ -11,6 +11,7 @@
 #include "helical/salida/ModuloEscalerasH.h"
 #include "helical/ui/qt/EspacioEscaleraH.h"
 #include "loads/salida/ModuloCargas.h"
+#include "loads/ui/qt/EspaciosCargas.h"
 #include "lote/ui/qt/EspacioMemoria.h"
 #include "markus/salida/ModuloMarcus.h"
 #include "reports/ui/qt/SalidaDelPrograma.h"
@@ -52,6 +53,8 @@ int main(int argc, char** argv) {
         trabex::losas::ui::qt::EspacioLosas(salida),
         trabex::escaleras::ui::qt::EspacioEscaleraT(salida),
         trabex::helices::ui::qt::EspacioEscaleraH(salida),
+        trabex::cargas::ui::qt::EspacioAnalisisCargaP(salida),
+        trabex::cargas::ui::qt::EspacioAnalisisCarga(salida),
         trabex::lote::ui::qt::EspacioMemoria(modulos),
     };
     std::unique_ptr<trabex::programa::qt::VentanaMenuPrincipal> menu;
