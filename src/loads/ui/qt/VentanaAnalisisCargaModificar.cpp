@@ -99,7 +99,7 @@ QWidget* VentanaAnalisisCargaModificar::Permanentes() {
     tabla_ = new programa::qt::TablaDatos(
         ColumnasDePesos(items_, [this](int fila, CampoDePeso campo,
                                        const std::string& texto) { return PonerItem(fila, campo, texto); }),
-        entorno_.LaAplicacion.SeparadoresLocales, programa::qt::Avance::Abajo, marco);
+        entorno_.LaAplicacion.SeparadoresLocales, programa::qt::Avance::Derecha, marco);
     tabla_->setObjectName("Items");
     auto* columna = new QVBoxLayout(marco);
     columna->addWidget(tabla_);
