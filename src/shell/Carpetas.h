@@ -14,6 +14,8 @@ struct Carpetas {
     /// The load database that all projects share.
     std::filesystem::path AnalisisCarga() const { return Proyectos() / "AnalisisCarga.mdb"; }
     std::filesystem::path ReportesExportados() const { return CaminoUsuario / "ReportesExportados"; }
+    /// What is made on the way to a report.
+    std::filesystem::path Trabajo() const { return CaminoUsuario / "Trabajo"; }
     std::filesystem::path Tapices() const { return CaminoUsuario / "Tapices"; }
 };
 

@@ -20,7 +20,7 @@ ErrorEjecucion SinProgramaQueAbra() {
 }
 
 montaje::EntornoReportes EntornoSalida::Montaje() const {
-    return {Servicios.Carpetas.CaminoPrograma, Servicios.Carpetas.CaminoUsuario, LaAplicacion.Usuario};
+    return {Servicios.Carpetas.CaminoPrograma, Servicios.Carpetas.Trabajo(), LaAplicacion.Usuario};
 }
 
 void ExportadorReportes::AbrirCarpeta() {

@@ -41,8 +41,8 @@ class LectorDeTabla {
     LectorDeTabla(const QTableView& tabla, const Separadores& separadores)
         : tabla_(tabla), separadores_(separadores) {}
 
-    cuadricula::Hoja Leer(const QString& nombre) const {
-        cuadricula::Hoja hoja;
+    cuadricula::HojaDeCuadricula Leer(const QString& nombre) const {
+        cuadricula::HojaDeCuadricula hoja;
         hoja.Nombre = S(nombre);
         hoja.AnchoDeCabeceras = Milimetros(tabla_.verticalHeader()->width());
         for (int fila = 0; fila < tabla_.model()->rowCount(); ++fila) {
