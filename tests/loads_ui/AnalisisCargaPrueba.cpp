@@ -464,6 +464,51 @@ TEST_F(Captura, LoQueNoSePuedeEscribirLoDice) {
     EXPECT_FALSE(std::filesystem::exists(Compartido()));
 }
 
+/// Two running programs over one shared database: each sees the other's weights; a save that meets the
+/// other's loses nothing, and goes through once that has ended.
+TEST_F(Captura, DosProgramasCompartenLosPesos) {
+    ListaAnalisis lista(aplicacion_, Servicios(), AnalisisCompartido, Azar());
+    lista.Abrir(vista_);
+    programa::Aplicacion otroPrograma;
+    ListaAnalisis otraLista(otroPrograma, Servicios(), AnalisisCompartido, Azar());
+    VistaListaGuiada otraVista;
+    otraLista.Abrir(otraVista);
+    VistaAnalisisGuiada edicion;
+    VistaPesosGuiada pesos;
+    edicion.EnPesos = [&](AnalisisCargaBDCP& b) {
+        b.Abrir(pesos);
+        b.Cerrar();
+    };
+    VistaAnalisisGuiada otraEdicion;
+    otraEdicion.EnPesos = [&](AnalisisCargaBDCP& b) {
+        b.Abrir(pesos);
+        EXPECT_TRUE(b.ModificarCelda(2, CampoDePeso::Peso, "4321"));
+        b.Cerrar();
+    };
+    vista_.EnModificar = [&](AnalisisCargaModificar& o) {
+        o.Abrir(edicion);
+        otraVista.EnModificar = [&](AnalisisCargaModificar& otra) {
+            otra.Abrir(otraEdicion);
+            otra.BuscarPesos(PesosVariables);
+        };
+        otraLista.Modificar();
+        o.BuscarPesos(PesosVariables);
+        EXPECT_EQ(pesos.Lineas[1].Peso, 4321);
+
+        o.CambiarVariable(CampoDePeso::Peso, "999");
+        EnArchivo(Ambito::Compartido, "Generales");
+        {
+            const Transaccion ajena(otra_);
+            EXPECT_FALSE(o.Salvar());
+            EXPECT_EQ(UltimoTexto().find("Error Número: "), 0U);
+            EXPECT_TRUE(o.Modificado());
+        }
+        EXPECT_TRUE(o.Salvar());
+        EXPECT_EQ(EnArchivo(Ambito::Compartido, edicion.Analisis.ID).CV, 999);
+    };
+    lista.Modificar();
+}
+
 INSTANTIATE_TEST_SUITE_P(, VentanasDeCarga, testing::Values(Ambito::Proyecto, Ambito::Compartido),
                          [](const auto& caso) {
                              return std::string(caso.param == Ambito::Proyecto ? "Proyecto" : "Compartido");
