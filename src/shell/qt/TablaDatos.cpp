@@ -305,6 +305,7 @@ void TablaDatos::PonerFilas(int filas) {
 
 void TablaDatos::PonerEditable(bool editable) {
     Terminar();
+    if (!editable) OlvidarCambios();
     modelo_->PonerEditable(editable);
     setSelectionBehavior(editable ? SelectItems : SelectRows);
     if (currentIndex().isValid())

@@ -30,7 +30,7 @@ programa::qt::TablaDatos* VentanaAnalisisCargaBDCP::Tabla() {
     auto* tabla = new programa::qt::TablaDatos(
         ColumnasDePesos(lineas_, [this](int fila, CampoDePeso campo,
                                         const std::string& texto) { return Poner(fila, campo, texto); }),
-        entorno_.LaAplicacion.SeparadoresLocales, programa::qt::Avance::Abajo, this);
+        entorno_.LaAplicacion.SeparadoresLocales, this);
     tabla->setObjectName("Pesos");
     return tabla;
 }
@@ -49,7 +49,7 @@ void VentanaAnalisisCargaBDCP::Armar() {
          {"ID_Imprimir", "imprimir", "&Imprimir la Pantalla Actual", "Ver, imprimir y exportar la lista.",
           "Ctrl+P",
           [this] {
-              tabla_->TerminarEdicion();
+              if (!programa::qt::EntradasEnOrden(this)) return;
               reportes::ui::qt::ImprimirPantallaActual(entorno_, {{tabla_, "Pesos Unitarios"}},
                                                        operaciones_.Variante().Encabezado, this);
           }},
@@ -65,14 +65,15 @@ void VentanaAnalisisCargaBDCP::Armar() {
     PonerModificarCeldas(*tabla_, *columna, capturar);
 }
 
-void VentanaAnalisisCargaBDCP::done(int resultado) {
-    tabla_->TerminarEdicion();
+void VentanaAnalisisCargaBDCP::reject() {
+    if (!programa::qt::EntradasEnOrden(this)) return;
     operaciones_.Cerrar();
-    QDialog::done(resultado);
+    QDialog::reject();
 }
 
 void VentanaAnalisisCargaBDCP::LlenarLista(const std::vector<PesoUnitario>& lineas) {
     lineas_ = lineas;
+    tabla_->OlvidarCambios();
     tabla_->PonerFilas(static_cast<int>(lineas_.size()));
 }
 

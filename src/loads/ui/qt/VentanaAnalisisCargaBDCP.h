@@ -17,7 +17,7 @@ class VentanaAnalisisCargaBDCP : public QDialog, private PantallaDePesos {
     VentanaAnalisisCargaBDCP(reportes::ui::EntornoSalida& entorno, AnalisisCargaBDCP& operaciones,
                              QWidget* padre);
 
-    void done(int resultado) override;
+    void reject() override;
 
   private:
     void LlenarLista(const std::vector<PesoUnitario>& lineas) override;

@@ -39,7 +39,7 @@ void VentanaAnalisisCargaModificar::Armar() {
     // What is being entered is taken before a command acts.
     const auto tras = [this](const std::function<void()>& hacer) {
         return [this, hacer] {
-            if (TomarEntradas()) hacer();
+            if (programa::qt::EntradasEnOrden(this)) hacer();
         };
     };
     auto* columna = new QVBoxLayout(this);
@@ -99,7 +99,7 @@ QWidget* VentanaAnalisisCargaModificar::Permanentes() {
     tabla_ = new programa::qt::TablaDatos(
         ColumnasDePesos(items_, [this](int fila, CampoDePeso campo,
                                        const std::string& texto) { return PonerItem(fila, campo, texto); }),
-        entorno_.LaAplicacion.SeparadoresLocales, programa::qt::Avance::Derecha, marco);
+        entorno_.LaAplicacion.SeparadoresLocales, marco);
     tabla_->setObjectName("Items");
     auto* columna = new QVBoxLayout(marco);
     columna->addWidget(tabla_);
@@ -117,10 +117,8 @@ QWidget* VentanaAnalisisCargaModificar::Variable() {
     connect(texto1_, &QLineEdit::textEdited, this, [this](const QString& texto) {
         operaciones_.CambiarVariable(CampoDePeso::Descripcion, S(texto));
     });
-    connect(long1_, &QLineEdit::textEdited, this, [this] { TomarPesoVariable(); });
-    connect(long1_, &QLineEdit::editingFinished, this, [this] {
-        if (const auto peso = PesoDeTexto(S(long1_->text()))) long1_->PonerValor(*peso);
-    });
+    connect(long1_, &QLineEdit::textChanged, this, [this] { TomarPesoVariable(); });
+    long1_->AlEntrar([this](double) { long1_->PonerValor(pesoVariable_); });
     auto* rotulo = new QLabel("&Descripción:", marco);
     rotulo->setBuddy(texto1_);
     auto* rotuloPeso = new QLabel("P&eso (kgf/m²):", marco);
@@ -155,29 +153,20 @@ QWidget* VentanaAnalisisCargaModificar::Sumas() {
     return marco;
 }
 
-bool VentanaAnalisisCargaModificar::TomarEntradas() {
-    tabla_->TerminarEdicion();
-    if (long1_->hasAcceptableInput()) return true;
-    long1_->setFocus();
-    long1_->selectAll();
-    return false;
-}
-
 /// The name of the variable load may be saved alone: the command is never off.
 void VentanaAnalisisCargaModificar::Salvar() {
-    if (!TomarEntradas() || !operaciones_.Salvar()) return;
-    setWindowModified(operaciones_.Modificado());
+    if (programa::qt::EntradasEnOrden(this) && operaciones_.Salvar()) setWindowModified(false);
 }
 
 void VentanaAnalisisCargaModificar::Desplazar(int posicion) {
     if (posicion == posicion_) return;
-    if (TomarEntradas() && operaciones_.Desplazar(posicion)) return;
+    if (programa::qt::EntradasEnOrden(this) && operaciones_.Desplazar(posicion)) return;
     const QSignalBlocker quieto(deslizador_);
     deslizador_->setValue(posicion_);
 }
 
 void VentanaAnalisisCargaModificar::reject() {
-    if (TomarEntradas() && operaciones_.Cerrar()) QDialog::reject();
+    if (programa::qt::EntradasEnOrden(this) && operaciones_.Cerrar()) QDialog::reject();
 }
 
 void VentanaAnalisisCargaModificar::PonerAnalisis(const AnalisisCarga& analisis, int posicion, int cuantos) {
@@ -187,12 +176,14 @@ void VentanaAnalisisCargaModificar::PonerAnalisis(const AnalisisCarga& analisis,
     deslizador_->setValue(posicion);
     lugar_->setText(QString("%1 de %2").arg(posicion).arg(cuantos));
     descripcion_->setText(Q(analisis.Descripcion));
+    tabla_->OlvidarCambios();
     LlenarItems(analisis.Permanentes);
     tabla_->IrA(1, 0);
     PonerVariable(analisis.Variable);
 }
 
 void VentanaAnalisisCargaModificar::LlenarItems(const std::vector<PesoUnitario>& items) {
+    if (items.size() < items_.size()) tabla_->OlvidarCambios();  // rows have moved up
     items_ = items;
     tabla_->PonerFilas(static_cast<int>(items_.size()));
 }
@@ -204,7 +195,8 @@ void VentanaAnalisisCargaModificar::MarcarItem(int fila) {
 
 void VentanaAnalisisCargaModificar::PonerVariable(const PesoUnitario& variable) {
     texto1_->setText(Q(variable.Descripcion));
-    long1_->PonerValor(variable.Peso);
+    pesoVariable_ = variable.Peso;
+    long1_->PonerValor(pesoVariable_);
 }
 
 void VentanaAnalisisCargaModificar::PonerSumas(const SumasDeCarga& sumas) {
@@ -216,8 +208,12 @@ void VentanaAnalisisCargaModificar::PonerSumas(const SumasDeCarga& sumas) {
     setWindowModified(operaciones_.Modificado());
 }
 
+/// Also where the field goes back to what stood in it.
 void VentanaAnalisisCargaModificar::TomarPesoVariable() {
-    if (long1_->hasAcceptableInput()) operaciones_.CambiarVariable(CampoDePeso::Peso, S(long1_->text()));
+    const auto peso = PesoDeTexto(TextoEntrado(long1_->Valor()));
+    if (!long1_->Motivo().isEmpty() || !peso || *peso == pesoVariable_) return;
+    pesoVariable_ = *peso;
+    operaciones_.CambiarVariable(CampoDePeso::Peso, TextoEntrado(long1_->Valor()));
 }
 
 bool VentanaAnalisisCargaModificar::PonerItem(int fila, CampoDePeso campo, const std::string& texto) {

@@ -39,8 +39,6 @@ class VentanaAnalisisCargaModificar : public QDialog, private PantallaDeAnalisis
     QWidget* Permanentes();
     QWidget* Variable();
     QWidget* Sumas();
-    /// Takes what is being entered. False when a field holds no weight: it then has the keyboard.
-    bool TomarEntradas();
     void Salvar();
     void Desplazar(int posicion);
     void TomarPesoVariable();
@@ -50,6 +48,7 @@ class VentanaAnalisisCargaModificar : public QDialog, private PantallaDeAnalisis
     AnalisisCargaModificar& operaciones_;
     std::vector<PesoUnitario> items_;
     int posicion_ = 1;
+    std::int32_t pesoVariable_ = 0;
     QLabel* descripcion_;
     QLabel* lugar_;
     QScrollBar* deslizador_;

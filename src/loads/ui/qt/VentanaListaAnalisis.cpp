@@ -18,7 +18,7 @@ namespace trabex::cargas::ui::qt {
 namespace {
 
 /// Whatever total an engineer types over the computed one.
-constexpr programa::qt::ClaseNumero CargaEntrada{false, -9999999999.99, 9999999999.99, 0};
+constexpr ClaseNumero CargaEntrada{false, -9999999999.99, 9999999999.99, 0};
 
 }  // namespace
 
@@ -58,7 +58,7 @@ programa::qt::TablaDatos* VentanaListaAnalisis::Tabla() {
           .Leer = [linea](int fila) { return linea(fila).Carga; },
           .Poner = alPoner(CampoDeLinea::Carga),
           .Ancho = 130}},
-        entorno_.LaAplicacion.SeparadoresLocales, programa::qt::Avance::Abajo, this);
+        entorno_.LaAplicacion.SeparadoresLocales, this);
     tabla->setObjectName("Analisis");
     tabla->AlCambiarFila([this](int fila) {
         if (!llenando_) operaciones_.Seleccionar(fila);
@@ -68,8 +68,7 @@ programa::qt::TablaDatos* VentanaListaAnalisis::Tabla() {
 
 void VentanaListaAnalisis::Armar() {
     const auto modificar = [this] {
-        tabla_->TerminarEdicion();
-        operaciones_.Modificar();
+        if (programa::qt::EntradasEnOrden(this)) operaciones_.Modificar();
     };
     std::vector<Mando> mandos{
         {"ID_Crear", "nuevo", "&Crear Análisis de Carga", "Agregar un análisis de carga a la lista.",
@@ -82,7 +81,7 @@ void VentanaListaAnalisis::Armar() {
          "Reporte del análisis seleccionado o de todos.", "Ctrl+E", [this] { operaciones_.Exportar(); }},
         {"ID_Imprimir", "imprimir", "&Imprimir la Pantalla Actual", "Ver, imprimir y exportar la lista.",
          "Ctrl+P", [this] {
-             tabla_->TerminarEdicion();
+             if (!programa::qt::EntradasEnOrden(this)) return;
              reportes::ui::qt::ImprimirPantallaActual(entorno_, {{tabla_, "Análisis de Carga"}},
                                                       operaciones_.Variante().Titulo, this);
          }}};
@@ -101,14 +100,14 @@ void VentanaListaAnalisis::Armar() {
     columna->addWidget(pie_);
 }
 
-void VentanaListaAnalisis::done(int resultado) {
-    tabla_->TerminarEdicion();
-    QDialog::done(resultado);
+void VentanaListaAnalisis::reject() {
+    if (programa::qt::EntradasEnOrden(this)) QDialog::reject();
 }
 
 void VentanaListaAnalisis::LlenarLista(const std::vector<LineaDeAnalisis>& lineas) {
     llenando_ = true;
     lineas_ = lineas;
+    tabla_->OlvidarCambios();
     tabla_->PonerFilas(static_cast<int>(lineas_.size()));
     llenando_ = false;
 }

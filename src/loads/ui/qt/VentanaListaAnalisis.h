@@ -30,7 +30,7 @@ class VentanaListaAnalisis : public QDialog, private PantallaListaAnalisis {
     void MostrarReporte(std::int16_t reporteActual) override;
     void MostrarCompartidos(ListaAnalisis& operaciones) override;
 
-    void done(int resultado) override;
+    void reject() override;
 
     void Armar();
     programa::qt::TablaDatos* Tabla();

@@ -6,6 +6,8 @@
 #include <QVBoxLayout>
 
 #include "loads/ui/qt/ClaseDePeso.h"
+#include "loads/ui/qt/Mandos.h"
+#include "shell/qt/CampoNumero.h"
 #include "shell/qt/ComunVentanas.h"
 
 namespace trabex::cargas::ui::qt {
@@ -30,7 +32,7 @@ VentanaDeCreacion::VentanaDeCreacion(const char* nombre, const QString& titulo, 
 
 void VentanaDeCreacion::Armar(const programa::Tapiz& preferencias, const std::function<bool()>& aceptar) {
     static_cast<QVBoxLayout*>(layout())->addLayout(programa::qt::FilaAceptarCancelar(this, [this, aceptar] {
-        if (aceptar()) accept();
+        if (programa::qt::EntradasEnOrden(this) && aceptar()) accept();
     }));
     programa::qt::PrepararVentana(this, preferencias);
 }
@@ -65,8 +67,9 @@ VentanaAnalisisCargaNewCP::VentanaAnalisisCargaNewCP(const programa::Aplicacion&
       peso_(new programa::qt::CampoNumero(PesoEntrado, aplicacion.SeparadoresLocales, this)) {
     peso_->setObjectName("Peso");
     Formulario->addRow("&Peso (kgf/m²):", peso_);
-    Armar(aplicacion.Preferencias,
-          [this, &operaciones] { return operaciones.Aceptar(Descripcion(), S(peso_->text()), *this); });
+    Armar(aplicacion.Preferencias, [this, &operaciones] {
+        return operaciones.Aceptar(Descripcion(), TextoEntrado(peso_->Valor()), *this);
+    });
 }
 
 QLineEdit* VentanaAnalisisCargaNewCP::Campo(CampoDePeso campo) const {
