@@ -12,6 +12,7 @@
 #include "helical/salida/ModuloEscalerasH.h"
 #include "helical/ui/qt/EspacioEscaleraH.h"
 #include "loads/salida/ModuloCargas.h"
+#include "loads/ui/qt/EspaciosCargas.h"
 #include "lote/ui/qt/EspacioMemoria.h"
 #include "markus/salida/ModuloMarcus.h"
 #include "markus/ui/qt/EspacioMarcus.h"
@@ -54,6 +55,8 @@ int main(int argc, char** argv) {
         trabex::losas::ui::qt::EspacioLosas(salida),
         trabex::escaleras::ui::qt::EspacioEscaleraT(salida),
         trabex::helices::ui::qt::EspacioEscaleraH(salida),
+        trabex::cargas::ui::qt::EspacioAnalisisCargaP(salida),
+        trabex::cargas::ui::qt::EspacioAnalisisCarga(salida),
         trabex::lote::ui::qt::EspacioMemoria(modulos),
         trabex::marcus::ui::qt::EspacioMarcus(salida),
     };

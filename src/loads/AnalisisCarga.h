@@ -10,6 +10,8 @@ namespace trabex::cargas {
 struct PesoUnitario {
     std::string Descripcion;
     std::int32_t Peso = 0;  ///< whole kgf/m²
+
+    bool operator==(const PesoUnitario&) const = default;
 };
 
 /// A named tally of the service loads on a floor or roof slab.

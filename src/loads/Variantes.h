@@ -20,15 +20,34 @@ inline constexpr const char* TextoYaExiste = "Este Registro ya existe en la Base
 /// What differs between the two.
 struct VarianteAnalisis {
     Ambito Donde;
-    bool
-        SorteaNumero;  ///< a new analysis gets a number of the program's; otherwise the database gives it one
+    /// A new analysis gets a number of the program's; otherwise the database gives it one.
+    bool SorteaNumero;
     const char* YaExiste;        ///< the message of a creation that does not go on
     std::int16_t ReporteActual;  ///< its report
+    // Names of its windows, and the caption of its list.
+    const char* Lista;
+    const char* Modificar;
+    const char* Nuevo;
+    const char* Titulo;
 };
 
-inline constexpr VarianteAnalisis AnalisisDeProyecto{Ambito::Proyecto, true, TextoYaExiste, 3};
-inline constexpr VarianteAnalisis AnalisisCompartido{Ambito::Compartido, false,
-                                                     "¡Este Registro ya existe en la Base de Datos!", 5};
+inline constexpr VarianteAnalisis AnalisisDeProyecto{.Donde = Ambito::Proyecto,
+                                                     .SorteaNumero = true,
+                                                     .YaExiste = TextoYaExiste,
+                                                     .ReporteActual = 3,
+                                                     .Lista = "AnalisisCargaP",
+                                                     .Modificar = "AnalisisCargaModificarP",
+                                                     .Nuevo = "NuevoAnalisisCargaP",
+                                                     .Titulo = "ANÁLISIS DE CARGA DE LAS LOSAS"};
+inline constexpr VarianteAnalisis AnalisisCompartido{
+    .Donde = Ambito::Compartido,
+    .SorteaNumero = false,
+    .YaExiste = "¡Este Registro ya existe en la Base de Datos!",
+    .ReporteActual = 5,
+    .Lista = "AnalisisCarga",
+    .Modificar = "AnalisisCargaModificar",
+    .Nuevo = "NuevoAnalisisCarga",
+    .Titulo = "Base de Datos Análisis de Carga de Losas"};
 
 constexpr const VarianteAnalisis& VarianteDe(Ambito ambito) {
     return ambito == Ambito::Proyecto ? AnalisisDeProyecto : AnalisisCompartido;

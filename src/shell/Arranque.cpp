@@ -21,7 +21,7 @@ std::filesystem::path BaseDeDatos(const Plataforma& plataforma) {
 void CrearCarpetas(const std::filesystem::path& base, const Carpetas& carpetas) {
     for (const std::filesystem::path& carpeta :
          {base / CarpetaComun, carpetas.CaminoUsuario, carpetas.Proyectos(), carpetas.ReportesExportados(),
-          carpetas.Tapices(), carpetas.CaminoUsuario / "Trabajo", carpetas.CaminoTemporales}) {
+          carpetas.Tapices(), carpetas.Trabajo(), carpetas.CaminoTemporales}) {
         std::error_code ignorado;
         std::filesystem::create_directory(carpeta, ignorado);
     }

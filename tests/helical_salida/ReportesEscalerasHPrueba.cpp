@@ -112,7 +112,7 @@ TEST(ReportesEscalerasH, LosDosMontajes) {
     std::filesystem::create_directories(carpeta / "Trabajo");
     CrearBaseDatos(carpeta / "programa" / "Imagen" / "Temporal.tbx",
                    prueba::LeerArchivo(prueba::Install() + "/Imagen/Temporal.sql"));
-    const EntornoReportes entorno{carpeta / "programa", carpeta.Camino(), "U"};
+    const EntornoReportes entorno{carpeta / "programa", carpeta / "Trabajo", "U"};
     /// Each row of a scratch table in a form of SQLite's printf.
     const auto filas = [&](const std::string& tabla, const std::string& forma) {
         std::vector<std::string> textos;

@@ -7,11 +7,7 @@
 #include "loads/ui/AnalisisCargaNewCP.h"
 #include "loads/ui/ListaAnalisis.h"
 #include "reports/salidas/MotorReportes.h"
-#include "store/tablas/TablasCargas.h"
-#include "support/CarpetaTemporal.h"
-#include "support/Lugares.h"
-#include "support/ProyectoDePrueba.h"
-#include "support/ShellGuiado.h"
+#include "support/CargasDePrueba.h"
 
 namespace trabex {
 
@@ -79,49 +75,8 @@ struct VistaListaGuiada : PantallaListaAnalisis {
     std::function<void(ListaAnalisis&)> EnCompartidos;
 };
 
-class CargasGuiadas : public testing::Test {
+class CargasGuiadas : public CargasDePrueba {
   protected:
-    CargasGuiadas() : sistema_(carpeta_ / "maquina") {
-        const std::string imagen = prueba::Install() + "/Imagen/";
-        carpetas_.CaminoUsuario = carpeta_ / "usuario";
-        carpetas_.CaminoPrograma = carpeta_ / "programa";
-        aplicacion_.ArchivoProyecto = carpeta_ / "p.los";
-        std::filesystem::create_directories(carpetas_.Proyectos());
-        CrearBaseDatos(aplicacion_.ArchivoProyecto,
-                       EsquemaDeProyecto() + LeerArchivo(imagen + "Ejemplo Demostrativo.sql"));
-        CrearBaseDatos(Compartido(), LeerArchivo(imagen + "AnalisisCarga.sql"));
-    }
-
-    std::filesystem::path Compartido() const { return carpetas_.AnalisisCarga(); }
-    programa::Servicios Servicios() { return {caja_, dialogos_, sistema_, carpetas_}; }
-    static FuenteAzar Azar() {
-        return [] { return 0.25; };
-    }
-    std::string UltimoTexto() const { return caja_.Mensajes.empty() ? "" : caja_.Mensajes.back().Texto; }
-    std::string UltimoEncabezado() const { return caja_.Mensajes.back().Encabezado; }
-
-    /// A statement's rows in the file of an Ambito, through another connection.
-    Recordset EnArchivo(Ambito ambito, const std::string& fuente) {
-        AbrirConexion(otra_, ambito == Ambito::Proyecto ? aplicacion_.ArchivoProyecto : Compartido());
-        Recordset registros;
-        AbrirRecordset(otra_, registros, fuente);
-        return registros;
-    }
-    AnalisisCarga EnArchivo(Ambito ambito, std::int32_t id) {
-        Recordset lista = EnArchivo(ambito, std::string(TablasDe(ambito).Generales));
-        BuscarRegistro(lista, Criterio(PorID(id)));
-        AnalisisCarga analisis;
-        LeerAnalisis(otra_, lista, ambito, analisis);
-        return analisis;
-    }
-
-    CarpetaTemporal carpeta_;
-    PlataformaGuiada sistema_;
-    CajaGuiada caja_;
-    DialogosGuiados dialogos_;
-    programa::Carpetas carpetas_;
-    programa::Aplicacion aplicacion_;
-    Conexion otra_;
     VistaListaGuiada vista_;
 };
 
@@ -507,6 +462,51 @@ TEST_F(Captura, LoQueNoSePuedeEscribirLoDice) {
     lista.Crear();
     lista.Modificar();
     EXPECT_FALSE(std::filesystem::exists(Compartido()));
+}
+
+/// Two running programs over one shared database: each sees the other's weights; a save that meets the
+/// other's loses nothing, and goes through once that has ended.
+TEST_F(Captura, DosProgramasCompartenLosPesos) {
+    ListaAnalisis lista(aplicacion_, Servicios(), AnalisisCompartido, Azar());
+    lista.Abrir(vista_);
+    programa::Aplicacion otroPrograma;
+    ListaAnalisis otraLista(otroPrograma, Servicios(), AnalisisCompartido, Azar());
+    VistaListaGuiada otraVista;
+    otraLista.Abrir(otraVista);
+    VistaAnalisisGuiada edicion;
+    VistaPesosGuiada pesos;
+    edicion.EnPesos = [&](AnalisisCargaBDCP& b) {
+        b.Abrir(pesos);
+        b.Cerrar();
+    };
+    VistaAnalisisGuiada otraEdicion;
+    otraEdicion.EnPesos = [&](AnalisisCargaBDCP& b) {
+        b.Abrir(pesos);
+        EXPECT_TRUE(b.ModificarCelda(2, CampoDePeso::Peso, "4321"));
+        b.Cerrar();
+    };
+    vista_.EnModificar = [&](AnalisisCargaModificar& o) {
+        o.Abrir(edicion);
+        otraVista.EnModificar = [&](AnalisisCargaModificar& otra) {
+            otra.Abrir(otraEdicion);
+            otra.BuscarPesos(PesosVariables);
+        };
+        otraLista.Modificar();
+        o.BuscarPesos(PesosVariables);
+        EXPECT_EQ(pesos.Lineas[1].Peso, 4321);
+
+        o.CambiarVariable(CampoDePeso::Peso, "999");
+        EnArchivo(Ambito::Compartido, "Generales");
+        {
+            const Transaccion ajena(otra_);
+            EXPECT_FALSE(o.Salvar());
+            EXPECT_EQ(UltimoTexto().find("Error Número: "), 0U);
+            EXPECT_TRUE(o.Modificado());
+        }
+        EXPECT_TRUE(o.Salvar());
+        EXPECT_EQ(EnArchivo(Ambito::Compartido, edicion.Analisis.ID).CV, 999);
+    };
+    lista.Modificar();
 }
 
 INSTANTIATE_TEST_SUITE_P(, VentanasDeCarga, testing::Values(Ambito::Proyecto, Ambito::Compartido),

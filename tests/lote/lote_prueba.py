@@ -322,12 +322,13 @@ class Lote(unittest.TestCase):
         reportes = self.comun / "salida" / "reportes"
         self.assertEqual(sorted(os.listdir(reportes)),
                          sorted(f"{cual}.{formato}" for formato in ("htm", "pdf", "rtf", "xls")
-                                for cual in ("escalerasH-graficos", "escalerasH-resultados", "escalerasT-graficos", "losas-graficos",
-                                             "losas-resultados", "marcus-1-NIVEL 1", "marcus-2-TECHO")))
+                                for cual in ("analisisCarga-resultados", "escalerasH-graficos", "escalerasH-resultados",
+                                             "escalerasT-graficos", "losas-graficos", "losas-resultados",
+                                             "marcus-1-NIVEL 1", "marcus-2-TECHO")))
         pdf = subprocess.run(["pdftotext", "-layout", reportes / "losas-resultados.pdf", "-"],
                              capture_output=True, text=True).stdout
         html = (reportes / "losas-resultados.htm").read_text()
-        with contextlib.closing(sqlite3.connect(self.comun / "salida" / "Trabajo" / "Temporal.mdb")) as base:
+        with contextlib.closing(sqlite3.connect(self.comun / "salida" / "Trabajo" / "losas" / "Temporal.mdb")) as base:
             momentos = base.execute("SELECT Nombre, MT FROM LosaTramos ORDER BY Nombre, Numero").fetchall()
         esperados = [(losa["Nombre"], tramo["MT"]) for losa in documento["losas"] for tramo in losa["DisenoTramo"]]
         self.assertEqual(sorted(momentos), sorted(esperados))
@@ -346,6 +347,11 @@ class Lote(unittest.TestCase):
                 for estacion in helice["TramoSuperior"] + helice["TramoInferior"]:
                     self.assertIn(f"{abs(estacion['TU']):,.2f}".translate(str.maketrans(".,", ",.")), html)
         self.assertEqual(len(os.listdir(self.comun / "salida" / "escalerasH")), 2 * len(documento["escalerasH"]))
+        with contextlib.closing(sqlite3.connect(self.comun / "salida" / "Trabajo" / "analisisCarga" / "Temporal.mdb")) as base:
+            cargas = base.execute("SELECT Descripcion, Carga FROM AnalisisCargaG").fetchall()
+            pesos = base.execute("SELECT Peso FROM AnalisisCargaCP UNION ALL SELECT Peso FROM AnalisisCargaCV").fetchall()
+        self.assertEqual(cargas, [(a["Descripcion"], a["Carga"]) for a in documento["analisisCarga"]])
+        self.assertEqual(sum(p for p, in pesos), sum(carga for _, carga in cargas))
 
     def test_se_escribe_lo_que_se_pide(self):
         self.sql("DELETE FROM LosaDatos WHERE Nombre <> 'L-7 TECHO'", "DELETE FROM MarcusDatos")

@@ -3,6 +3,8 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QStandardItemModel>
+#include <QTableView>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -11,6 +13,7 @@
 #include "reports/salidas/qt/VistaPaginas.h"
 #include "reports/ui/OpcionExportar2.h"
 #include "reports/ui/qt/VentanaVistaPreviaR.h"
+#include "reports/ui/qt/VistaDeTablas.h"
 #include "support/CarpetaTemporal.h"
 #include "support/CuadriculaDePrueba.h"
 #include "support/ImpresorasGuiadas.h"
@@ -188,6 +191,38 @@ TEST_F(PreviaDeCuadricula, ImprimirPreguntaYTomaSusAjustes) {
     EXPECT_EQ(impresoras.Ultimo.Paginas.Ultima, 3);
     EXPECT_NEAR(impresoras.Papel.MargenIzquierdo, 25.4, 0.01);
     EXPECT_TRUE(impresoras.Papel.Pie.Derecha.empty());
+}
+
+/// No number leaves the screen as another one: what would not show again as it stands stays a text.
+TEST_F(PreviaDeCuadricula, UnaTablaSaleComoEstaEnLaPantalla) {
+    const Separadores locales{".", ","};
+    const std::vector<std::pair<const char*, const char*>> celdas{
+        {"1.234,50", "1.234,50"}, {"12", "12,00"}, {"1.234", "1.234,00"}, {"-0,5", "-0,50"},
+        {"1,2,3", "1,2,3"},       {"007", "007"},  {"1.23", "1.23"},      {"", ""}};
+    QStandardItemModel modelo(static_cast<int>(celdas.size()), 2);
+    modelo.setHorizontalHeaderLabels({"Ítem", "Peso\nkgf/m²"});
+    QTableView tabla;
+    tabla.setModel(&modelo);
+    for (int fila = 0; fila < modelo.rowCount(); ++fila) {
+        modelo.setItem(fila, 0, new QStandardItem("12"));
+        auto* numero = new QStandardItem(celdas[static_cast<std::size_t>(fila)].first);
+        numero->setTextAlignment(Qt::AlignRight);
+        modelo.setItem(fila, 1, numero);
+    }
+    grilla = CuadriculaDe({{&tabla, "Uno"}, {&tabla, "Dos"}}, locales);
+    ASSERT_EQ(grilla.Hojas.size(), 2U);
+    const documento::Tabla& leida = grilla.Hojas[1].Celdas;
+    EXPECT_EQ(leida.Columnas[1].Titulo, "Peso\nkgf/m²");
+    EXPECT_EQ(std::get<std::string>(leida.Filas[0].Celdas[0]), "12");
+    for (std::size_t i = 0; i < celdas.size(); ++i)
+        EXPECT_EQ(cuadricula::TextoDeCelda(leida, i, 1, locales), celdas[i].second);
+
+    modelo.setRowCount(0);
+    grilla = CuadriculaDe({{&tabla, "Uno"}}, locales);
+    VentanaVistaPreviaR ventana(entorno, grilla, "Vacía", documento::Alineacion::Centro, false, nullptr);
+    auto* vista = ventana.findChild<VistaPaginas*>();
+    vista->Buscar("kgf/m²");
+    EXPECT_EQ(vista->NumeroHallazgos(), 1);
 }
 
 }  // namespace

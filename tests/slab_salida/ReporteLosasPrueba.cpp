@@ -52,7 +52,7 @@ class ReporteLosas : public testing::Test {
   protected:
     ReporteLosas() {
         std::filesystem::create_directories(Entorno.CaminoPrograma / "Imagen");
-        std::filesystem::create_directories(Entorno.CaminoUsuario);
+        std::filesystem::create_directories(Entorno.Trabajo);
         CrearBaseDatos(Entorno.CaminoPrograma / "Imagen" / "Temporal.tbx",
                        LeerArchivo(prueba::Install() + "/Imagen/Temporal.sql"));
         CrearBaseDatos(Carpeta / "obra.los", EsquemaDeProyecto());
@@ -82,7 +82,7 @@ class ReporteLosas : public testing::Test {
     }
 
     CarpetaTemporal Carpeta;
-    EntornoReportes Entorno{Carpeta / "programa", Carpeta / "usuario", "ING. NÚÑEZ"};
+    EntornoReportes Entorno{Carpeta / "programa", Carpeta / "trabajo", "ING. NÚÑEZ"};
     ProyectoAbierto Proyecto;
     DatosDelProyecto Datos;
     DatosGenerales Generales;
@@ -211,7 +211,7 @@ TEST_F(ReporteLosas, LosGraficosSiguenLaOpcionConSusTitulos) {
     const std::string textos = Consultar("SELECT CAST(Grafico AS TEXT) AS T FROM Grafico")[0].at("T");
     EXPECT_THAT(textos, HasSubstr("CP (kgf/metro):"));
     EXPECT_THAT(textos, testing::Not(HasSubstr("As Sup")));
-    EXPECT_THAT(LeerArchivo(CarpetaTrabajo(Entorno) / "Foto"), testing::StartsWith("foto de "));
+    EXPECT_THAT(LeerArchivo(Entorno.Trabajo / "Foto"), testing::StartsWith("foto de "));
 }
 
 TEST_F(ReporteLosas, UnFalloALaMitadBajaLasBanderasYDevuelveLaLista) {

@@ -43,7 +43,7 @@ struct GraficosEscaleras : testing::Test {
     std::vector<std::string> Montar(std::uint8_t opcion) {
         estado.OpcionGrafico = opcion;
         panel = {};
-        const EntornoReportes entorno{carpeta / "programa", carpeta.Camino(), "U"};
+        const EntornoReportes entorno{carpeta / "programa", carpeta / "Trabajo", "U"};
         EXPECT_TRUE(GuardeGraficos(entorno, {proyecto, datos, {actual, generales, resultados}}, {},
                                    superficie, panel, estado));
         EXPECT_EQ(proyecto.RegistrosProyecto.Posicion(), 2);

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "loads/salida/AnalisisCargaJson.h"
+#include "loads/salida/ReporteCargas.h"
 #include "lote/BloquesDeMemoria.h"
 #include "store/tablas/TablasCargas.h"
 
@@ -65,6 +66,17 @@ lote::ParteDeMemoria Contar(const lote::Lista&, const lote::Elemento& elemento, 
 
 constexpr lote::MemoriaDeModulo Memoria{Metodo, Contar, nullptr};
 
+/// A row that can't be written spoils the save.
+void Montar(almacen::Conexion& temporal, const lote::Lista& lista) {
+    std::vector<const AnalisisCarga*> analisis;
+    for (const lote::Elemento& elemento : lista.Elementos)
+        analisis.push_back(&lote::Leer<AnalisisCarga>(elemento.Calculado));
+    MontarAnalisis(temporal, analisis);
+}
+
+/// The summary, and below it each analysis as the program's other report of a project's analyses tells it.
+constexpr lote::ReportesDeModulo Reportes{TituloReporte, "AnalisisCarga1.rpt", nullptr, Montar};
+
 }  // namespace
 
 const lote::Modulo ModuloCargas{.Nombre = "análisis de carga",
@@ -78,6 +90,7 @@ const lote::Modulo ModuloCargas{.Nombre = "análisis de carga",
                                 .Json = Json,
                                 .Columnas = Columnas,
                                 .Resumir = Resumir,
+                                .Reportes = &Reportes,
                                 .Memoria = &Memoria};
 
 }  // namespace trabex::cargas::salida

@@ -26,15 +26,37 @@ class MontajeDeCargas {
         const almacen::tablas::TablasDeAnalisis& tablas = almacen::tablas::TablasDe(origen.Donde);
         AnalisisCarga analisis;
         almacen::LeerCampos(origen.Lista, analisis, almacen::tablas::CamposAnalisis);
-        generales_.AgregarNuevo();
-        almacen::PonerCampos(generales_, analisis, almacen::tablas::CamposAnalisis);
-        const bool agregado = generales_.Actualizar();
+        const bool agregado = AgregarFila(generales_, analisis, almacen::tablas::CamposAnalisis);
         const almacen::Clave clave = almacen::PorID(analisis.ID);
         const bool permanentes = Copiar(origen.Conexion, tablas.Permanentes, clave, permanentes_);
         return Copiar(origen.Conexion, tablas.Variables, clave, variables_) && agregado && permanentes;
     }
 
+    /// An analysis with its loads, as a save stores them.
+    bool Agregar(const AnalisisCarga& analisis) {
+        bool completo = AgregarFila(generales_, analisis, almacen::tablas::CamposAnalisis);
+        std::int32_t numero = 0;
+        for (const PesoUnitario& item : analisis.Permanentes)
+            completo = AgregarPeso(permanentes_, analisis.ID, item, ++numero) && completo;
+        if (analisis.Variable.Descripcion.empty()) return completo;
+        return AgregarPeso(variables_, analisis.ID, analisis.Variable) && completo;
+    }
+
   private:
+    template <class Registro, class Campos>
+    static bool AgregarFila(almacen::Recordset& tabla, const Registro& registro, const Campos& campos) {
+        tabla.AgregarNuevo();
+        almacen::PonerCampos(tabla, registro, campos);
+        return tabla.Actualizar();
+    }
+    static bool AgregarPeso(almacen::Recordset& tabla, std::int32_t id, const PesoUnitario& peso,
+                            std::optional<std::int32_t> numero = {}) {
+        tabla.AgregarNuevo();
+        tabla.Poner("ID", id);
+        if (numero) tabla.Poner("Numero", *numero);
+        almacen::PonerCampos(tabla, peso, almacen::tablas::CamposPeso);
+        return tabla.Actualizar();
+    }
     static void Abrir(almacen::Conexion& temporal, almacen::Recordset& tabla, const char* nombre) {
         almacen::VaciarTabla(temporal, nombre);
         almacen::AbrirRecordset(temporal, tabla, nombre);
@@ -66,6 +88,13 @@ bool LLeneDatos(const montaje::EntornoReportes& entorno, const AnalisisParaRepor
         completo = montaje.Agregar(origen) && completo;
     }
     return completo && guardado.Confirmar();
+}
+
+bool MontarAnalisis(almacen::Conexion& temporal, const std::vector<const AnalisisCarga*>& analisis) {
+    MontajeDeCargas montaje(temporal);
+    bool completo = true;
+    for (const AnalisisCarga* uno : analisis) completo = montaje.Agregar(*uno) && completo;
+    return completo;
 }
 
 }  // namespace trabex::cargas::salida

@@ -30,7 +30,7 @@ void AnalisisCargaBDCP::Rellenar() {
     std::vector<PesoUnitario> lineas(static_cast<std::size_t>(lista_.NumeroRegistros()));
     lista_.MoverAlPrimero();
     for (PesoUnitario& linea : lineas) {
-        almacen::LeerCampos(lista_, linea, almacen::tablas::CamposPeso);
+        linea = Actual();
         lista_.MoverAlSiguiente();
     }
     lista_.MoverA(donde);
@@ -44,8 +44,7 @@ bool AnalisisCargaBDCP::MoverA(int fila) {
 
 void AnalisisCargaBDCP::Capturar(int fila) {
     if (!MoverA(fila)) return;
-    PesoUnitario peso;
-    almacen::LeerCampos(lista_, peso, almacen::tablas::CamposPeso);
+    const PesoUnitario peso = Actual();
     if (variante_.EsVariable)
         receptor_.RecibirVariable(peso);
     else
@@ -60,10 +59,18 @@ void AnalisisCargaBDCP::Crear() {
     AnalisisCargaNewCP operaciones(lista_, variante_, servicios_.Caja);
     pantalla_->MostrarNueva(operaciones);
     if (!operaciones.Creada()) return;
-    const std::string nombre = lista_.Texto("Descripcion");
+    const PesoUnitario creada = Actual();
     Reabrir();
-    almacen::BuscarRegistro(lista_, almacen::Criterio({"Descripcion", nombre}));
+    // Of several lines of its name, the new one.
+    lista_.MoverAlUltimo();
+    while (lista_.Posicion() > 1 && Actual() != creada) lista_.MoverAlAnterior();
     pantalla_->MarcarFila(lista_.Posicion());
+}
+
+PesoUnitario AnalisisCargaBDCP::Actual() const {
+    PesoUnitario peso;
+    almacen::LeerCampos(lista_, peso, almacen::tablas::CamposPeso);
+    return peso;
 }
 
 void AnalisisCargaBDCP::Eliminar(int fila) {
@@ -79,8 +86,7 @@ void AnalisisCargaBDCP::Eliminar(int fila) {
 
 bool AnalisisCargaBDCP::ModificarCelda(int fila, CampoDePeso campo, const std::string& texto) {
     if (!MoverA(fila)) return false;
-    PesoUnitario peso;
-    almacen::LeerCampos(lista_, peso, almacen::tablas::CamposPeso);
+    PesoUnitario peso = Actual();
     if (!PonerCelda(peso, campo, texto)) return false;
     if (almacen::tablas::CambiarPeso(lista_, peso)) return true;
     servicios_.Caja.Mostrar(programa::MensajeSinGuardar());

@@ -66,6 +66,7 @@ class AnalisisCargaBDCP {
 
   private:
     bool MoverA(int fila);
+    PesoUnitario Actual() const;
     void Rellenar();
     void Reabrir();
 

@@ -34,6 +34,11 @@ void ListaAnalisis::Abrir(PantallaListaAnalisis& pantalla) {
     if (DelProyecto()) {
         programa::ConectarProyecto(aplicacion_, Conexion());
         almacen::proyecto::LeerProyecto(Conexion(), aplicacion_.Usuario, aplicacion_.Datos);
+    } else if (!destino_) {
+        // Reports tell the project that is chosen now, if any; opening this list writes nothing to it.
+        almacen::Conexion copia;
+        almacen::AbrirCopiaEnMemoria(copia, aplicacion_.ArchivoProyecto);
+        almacen::proyecto::LeerProyecto(copia, aplicacion_.Usuario, aplicacion_.Datos);
     }
     Reabrir();
     pantalla_->MarcarFila(Fila());
@@ -82,6 +87,7 @@ void ListaAnalisis::Crear() {
     if (!operaciones.Creado()) return;
     const std::string criterio = almacen::Criterio(almacen::PorID(Lista().Entero32("ID")));
     Reabrir();
+    Lista().MoverAlUltimo();  // of two of a number, the newer one
     almacen::BuscarRegistro(Lista(), criterio);
     pantalla_->MarcarFila(Fila());
 }
@@ -124,7 +130,7 @@ void ListaAnalisis::Exportar() {
     const std::optional<bool> todos = pantalla_->MostrarOpcion();
     if (!todos) return;
     const programa::Carpetas& carpetas = servicios_.Carpetas;
-    salida::LLeneDatos({carpetas.CaminoPrograma, carpetas.CaminoUsuario, aplicacion_.Usuario},
+    salida::LLeneDatos({carpetas.CaminoPrograma, carpetas.Trabajo(), aplicacion_.Usuario},
                        {variante_.Donde, Conexion(), Lista(), aplicacion_.Datos}, *todos);
     pantalla_->MostrarReporte(variante_.ReporteActual);
 }

@@ -91,11 +91,10 @@ class Salidas {
 
     void EscribirLosReportes() {
         bool hay = false;
-        // Backwards: the scratch database that stays is that of the first kind.
-        for (auto lista = calculado_.Listas.rbegin(); lista != calculado_.Listas.rend(); ++lista) {
-            if (!lista->De->Reportes) continue;
+        for (const Lista& lista : calculado_.Listas) {
+            if (!lista.De->Reportes) continue;
             hay = true;
-            EscribirReportes(CarpetaDelPrograma(), *lista, calculado_.Datos, !opciones_.SinDibujos,
+            EscribirReportes(CarpetaDelPrograma(), lista, calculado_.Datos, !opciones_.SinDibujos,
                              opciones_.Carpeta, marcha_, faltas_);
         }
         if (hay) Cerrar("Reportes", opciones_.Carpeta / "reportes");

@@ -27,9 +27,14 @@ constexpr std::size_t DibujosALaVez = 48;  // what is drawn and not yet staged s
 /// The reports of one list on their way.
 class ReportesDeLista {
   public:
-    ReportesDeLista(const montaje::EntornoReportes& entorno, const Lista& lista,
-                    const DatosDelProyecto& datos, const Marcha& marcha, Faltas& faltas)
-        : entorno_(entorno), lista_(lista), datos_(datos), marcha_(marcha), faltas_(faltas) {
+    ReportesDeLista(const montaje::EntornoReportes& entorno, const std::filesystem::path& destino,
+                    const Lista& lista, const DatosDelProyecto& datos, const Marcha& marcha, Faltas& faltas)
+        : entorno_(entorno),
+          destino_(destino),
+          lista_(lista),
+          datos_(datos),
+          marcha_(marcha),
+          faltas_(faltas) {
         motor_.Registrar(salidas::FormatoPdf, salidas::qt::EscribirPdf);
     }
 
@@ -118,13 +123,14 @@ class ReportesDeLista {
                   const std::string& nombre) {
         const std::string archivo = std::string(lista_.De->Clave) + "-" + nombre + formato.second;
         try {
-            motor_.Exportar(documento, formato.first, entorno_.CaminoUsuario / "reportes" / archivo);
+            motor_.Exportar(documento, formato.first, destino_ / archivo);
         } catch (const ErrorEjecucion& error) {
             faltas_.Anotar("el reporte " + archivo, error.Texto());
         }
     }
 
     const montaje::EntornoReportes& entorno_;
+    const std::filesystem::path& destino_;
     const Lista& lista_;
     const DatosDelProyecto& datos_;
     const Marcha& marcha_;
@@ -137,11 +143,12 @@ class ReportesDeLista {
 void EscribirReportes(const std::filesystem::path& programa, const Lista& lista,
                       const DatosDelProyecto& datos, bool dibujos, const std::filesystem::path& carpeta,
                       const Marcha& marcha, Faltas& faltas) {
+    const std::filesystem::path destino = carpeta / "reportes";
+    const montaje::EntornoReportes entorno{programa, carpeta / "Trabajo" / lista.De->Clave, ""};
     std::error_code error;
-    for (const char* parte : {"reportes", "Trabajo"})
-        std::filesystem::create_directories(carpeta / parte, error);
-    const montaje::EntornoReportes entorno{programa, carpeta, ""};
-    ReportesDeLista reportes(entorno, lista, datos, marcha, faltas);
+    std::filesystem::create_directories(destino, error);
+    std::filesystem::create_directories(entorno.Trabajo, error);
+    ReportesDeLista reportes(entorno, destino, lista, datos, marcha, faltas);
     if (dibujos && lista.De->Reportes->Graficos) reportes.Graficos();
     if (lista.De->Reportes->Resultados) reportes.Resultados();
 }

@@ -29,6 +29,7 @@ documento::Tabla TablaDe(const Cuadricula& cuadricula, const HojaDeCuadricula& h
                     .Lineas = ajustes.LineasDeCuadricula,
                     .Color = ajustes.Color,
                     .Sombras = ajustes.Sombras};
+    if (tabla.Filas.empty()) tabla.Filas.emplace_back();  // without a row its headings would not show
     return tabla;
 }
 

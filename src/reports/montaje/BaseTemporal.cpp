@@ -41,12 +41,8 @@ void EscribirGenerales(const EntornoReportes& entorno, const DatosDelProyecto& d
 
 }  // namespace
 
-std::filesystem::path CarpetaTrabajo(const EntornoReportes& entorno) {
-    return entorno.CaminoUsuario / "Trabajo";
-}
-
 std::filesystem::path TemporalMdb(const EntornoReportes& entorno) {
-    return CarpetaTrabajo(entorno) / "Temporal.mdb";
+    return entorno.Trabajo / "Temporal.mdb";
 }
 
 void AbrirTemporal(const EntornoReportes& entorno, const DatosDelProyecto& datos,

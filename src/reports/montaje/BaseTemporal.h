@@ -12,13 +12,12 @@ namespace trabex::montaje {
 /// Where reports are staged, and for whom.
 struct EntornoReportes {
     std::filesystem::path CaminoPrograma;  ///< holds the template
-    std::filesystem::path CaminoUsuario;   ///< holds the scratch database
+    std::filesystem::path Trabajo;         ///< holds the scratch database and what is made for one report
     std::string Usuario;                   ///< the user's name, as reports print it
 };
 
-/// The scratch database that every report reads, and the folder of what is made for one report.
+/// The scratch database that every report reads.
 std::filesystem::path TemporalMdb(const EntornoReportes& entorno);
-std::filesystem::path CarpetaTrabajo(const EntornoReportes& entorno);
 
 /// What the one row of `Generales` tells beside the project's data. What an element's report does not write
 /// stays null.

@@ -30,8 +30,7 @@ void TablaGraficos::Agregar(const std::string& nombre, const std::string& titulo
 
 void DejarFoto(const EntornoReportes& entorno, const almacen::Bytes& foto) {
     try {
-        EscribirArchivo(CarpetaTrabajo(entorno) / "Foto",
-                        {reinterpret_cast<const char*>(foto.data()), foto.size()});
+        EscribirArchivo(entorno.Trabajo / "Foto", {reinterpret_cast<const char*>(foto.data()), foto.size()});
     } catch (const ErrorEjecucion&) {
         // Staging ignores the disk's errors.
     }

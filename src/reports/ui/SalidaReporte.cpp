@@ -18,7 +18,7 @@ bool EsArchivo(std::uint8_t salida) {
 }  // namespace
 
 montaje::EntornoReportes EntornoSalida::Montaje() const {
-    return {Servicios.Carpetas.CaminoPrograma, Servicios.Carpetas.CaminoUsuario, LaAplicacion.Usuario};
+    return {Servicios.Carpetas.CaminoPrograma, Servicios.Carpetas.Trabajo(), LaAplicacion.Usuario};
 }
 
 void ExportadorReportes::AbrirCarpeta() {

@@ -23,6 +23,8 @@ class ModeloTabla : public QAbstractTableModel {
 
     const ColumnaDatos& Columna(int columna) const { return columnas_[static_cast<std::size_t>(columna)]; }
     void PonerFilas(int filas);
+    void PonerEditable(bool editable) { editable_ = editable; }
+    bool Editable(int columna) const { return editable_ && Columna(columna).Poner != nullptr; }
     void Refrescar();
     /// The last entry was taken.
     bool Tomada() const { return tomada_; }
@@ -66,6 +68,7 @@ class ModeloTabla : public QAbstractTableModel {
     std::vector<ColumnaDatos> columnas_;
     Separadores separadores_;
     int filas_ = 0;
+    bool editable_ = true;
     bool poniendo_ =
         false;  // a message that an entry brings up takes the focus, and the editor tells it again
     bool tomada_ = true;
@@ -139,7 +142,7 @@ std::pair<QVariant, QString> ModeloTabla::Juzgar(int columna, const QString& tex
 
 bool ModeloTabla::setData(const QModelIndex& celda, const QVariant& valor, int papel) {
     const QString texto = valor.toString();
-    if (papel != Qt::EditRole || !Columna(celda.column()).Poner || poniendo_) return false;
+    if (papel != Qt::EditRole || !Editable(celda.column()) || poniendo_) return false;
     if (celda == rechazada_ && texto == rechazado_) return tomada_ = false;
     const bool estaba = texto == Texto(celda);
     OlvidarRechazo();
@@ -224,7 +227,7 @@ QVariant ModeloTabla::headerData(int seccion, Qt::Orientation orientacion, int p
 
 Qt::ItemFlags ModeloTabla::flags(const QModelIndex& celda) const {
     const Qt::ItemFlags base = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
-    return celda.isValid() && Columna(celda.column()).Poner ? base | Qt::ItemIsEditable : base;
+    return celda.isValid() && Editable(celda.column()) ? base | Qt::ItemIsEditable : base;
 }
 
 namespace {
@@ -307,6 +310,17 @@ void TablaDatos::PonerFilas(int filas) {
     if (filas > 0 && !currentIndex().isValid()) IrA(1, 0);
 }
 
+void TablaDatos::PonerEditable(bool editable) {
+    Terminar();
+    if (!editable) OlvidarCambios();
+    modelo_->PonerEditable(editable);
+    setSelectionBehavior(editable ? SelectItems : SelectRows);
+    if (currentIndex().isValid())
+        selectionModel()->select(currentIndex(),
+                                 editable ? QItemSelectionModel::ClearAndSelect
+                                          : QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
 int TablaDatos::Filas() const {
     return modelo_->rowCount();
 }
@@ -350,7 +364,7 @@ bool TablaDatos::EnMano() const {
 }
 
 bool TablaDatos::Editable(int columna) const {
-    return modelo_->Columna(columna).Poner != nullptr;
+    return modelo_->Editable(columna);
 }
 
 QModelIndex TablaDatos::Avanzar(bool atras) const {

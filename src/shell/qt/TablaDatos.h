@@ -40,6 +40,8 @@ class TablaDatos : public QTableView, public EntradaJuzgada {
 
     void PonerFilas(int filas);
     int Filas() const;
+    /// Whether cells can be edited. While they can't, rows are selected whole.
+    void PonerEditable(bool editable);
     /// Shows again what the columns read.
     void Refrescar();
 
