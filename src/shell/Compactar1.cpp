@@ -23,6 +23,19 @@ std::string NombreTemporal() {
 
 }  // namespace
 
+namespace {
+
+/// What a damaged file lost, for the engineer.
+std::string Renglon(const std::filesystem::path& archivo, const almacen::Salvado& salvado) {
+    std::string texto = "Archivo: " + Mayusculas(TextoDeCamino(archivo.filename())) +
+                        "\nEstaba Dañado: se Salvaron " + std::to_string(salvado.Filas) + " Filas";
+    if (salvado.PaginasPerdidas == 0 && salvado.FilasPerdidas == 0) return texto;
+    return texto + " y se Perdieron " + std::to_string(salvado.FilasPerdidas) + " Filas y " +
+           std::to_string(salvado.PaginasPerdidas) + " Páginas de Filas";
+}
+
+}  // namespace
+
 std::vector<std::string> ListarProyectos(const std::filesystem::path& carpeta) {
     std::vector<std::string> nombres;
     for (const std::filesystem::path& archivo : ArchivosDe(carpeta)) {
@@ -53,17 +66,23 @@ void Compactar1::Compactar(const std::filesystem::path& archivo) {
     const std::filesystem::path destino = servicios_.Carpetas.CaminoTemporales / NombreTemporal();
     std::error_code error;
     if (std::filesystem::exists(destino, error)) BorrarArchivo(destino);
-    if (!almacen::CompactarBaseDatos(archivo, destino)) {
+    const auto plantilla = servicios_.Carpetas.CaminoPrograma / "Imagen" / "LosaImagen.tbx";
+    const almacen::Compactado compactado = almacen::CompactarBaseDatos(
+        archivo, destino, Existe(plantilla) ? plantilla : std::filesystem::path());
+    if (!compactado) {
         Mensaje fallo;
-        fallo.Texto = " Error: " + std::to_string(static_cast<int>(CodigoError::ErrorAccesoRuta));
+        fallo.Texto = " Error: " + std::to_string(static_cast<int>(compactado.Causa));
         fallo.Encabezado = "Error Inesperado";
         fallo.Titulo = "Error Inesperado";
         fallo.Icono = IconoCaja::Error;
         servicios_.Caja.Mostrar(fallo);
     }
-    BorrarArchivo(archivo);
+    almacen::ExigirLibre(archivo);
+    ExigirBorrable(archivo);
+    if (!servicios_.Sistema.LlevarAPapelera(archivo)) BorrarArchivo(archivo);
     almacen::OlvidarGuardado(archivo);
     CopiarArchivo(destino, archivo);
+    if (compactado.DelDanado.Filas > 0) danados_.push_back(Renglon(archivo, compactado.DelDanado));
 }
 
 int Compactar1::CompactarTodos(const std::filesystem::path& carpeta,
@@ -92,6 +111,7 @@ void Compactar1::Aceptar(const std::filesystem::path& carpeta, const std::vector
         return;
     }
     aplicacion_.Proyecto.ConexionProyecto.Cerrar();
+    danados_.clear();
     VaciarTemporales();
     pantalla_.MostrarProgreso(true);
     try {
@@ -103,6 +123,7 @@ void Compactar1::Aceptar(const std::filesystem::path& carpeta, const std::vector
                    ? "¡Se Repararon Y Compactaron ( " + std::to_string(reparados) + " ) Archivos con Exito!"
                    : "No se Reparó ni Compactó Nigún Archivo...",
                "Mantenimiento de Archivos...");
+        for (const std::string& danado : danados_) Avisar(danado, "Mantenimiento de Archivos...");
     } catch (const ErrorEjecucion& error) {
         pantalla_.MostrarProgreso(false);
         pantalla_.RefrescarLista();

@@ -1,21 +1,19 @@
 #include "shell/DatosProyecto.h"
 
+#include "store/proyecto/ConectarProyecto.h"
 #include "store/proyecto/TablaProyecto.h"
 
 namespace trabex::programa {
 
 const DatosDelProyecto& DatosProyecto::Leer() {
-    almacen::Conexion conexion;
-    almacen::AbrirConexion(conexion, aplicacion_.ArchivoProyecto);
-    almacen::proyecto::LeerProyecto(conexion, aplicacion_.Usuario, aplicacion_.Datos);
+    almacen::proyecto::ConectarProyecto(conexion_, aplicacion_.ArchivoProyecto);
+    almacen::proyecto::LeerProyecto(conexion_, aplicacion_.Usuario, aplicacion_.Datos);
     return aplicacion_.Datos;
 }
 
 bool DatosProyecto::Salvar(const DatosDelProyecto& datos) {
-    almacen::Conexion conexion;
-    almacen::AbrirConexion(conexion, aplicacion_.ArchivoProyecto);
-    if (!almacen::proyecto::GuardarProyecto(conexion, datos)) {
-        caja_.Mostrar(MensajeSinGuardar());
+    if (!almacen::proyecto::GuardarProyecto(conexion_, datos)) {
+        caja_.Mostrar(MensajeSinGuardar(conexion_.Causa()));
         return false;
     }
     aplicacion_.Datos = datos;

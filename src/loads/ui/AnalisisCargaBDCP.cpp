@@ -71,7 +71,7 @@ void AnalisisCargaBDCP::Eliminar(int fila) {
     const std::string pregunta = std::string(variante_.PreguntaEliminar) + "\n¿Esta Usted Seguro?";
     if (servicios_.Caja.Mostrar(programa::Pregunta(pregunta, "Eliminar Cargas...")) != programa::RespuestaSi)
         return;
-    if (!lista_.Borrar()) servicios_.Caja.Mostrar(programa::MensajeSinGuardar());
+    if (!lista_.Borrar()) servicios_.Caja.Mostrar(programa::MensajeSinGuardar(compartida_.Causa()));
     Rellenar();
     pantalla_->MarcarFila(lista_.Posicion());
 }
@@ -82,7 +82,7 @@ bool AnalisisCargaBDCP::ModificarCelda(int fila, CampoDePeso campo, const std::s
     almacen::LeerCampos(lista_, peso, almacen::tablas::CamposPeso);
     if (!PonerCelda(peso, campo, texto)) return false;
     if (almacen::tablas::CambiarPeso(lista_, peso)) return true;
-    servicios_.Caja.Mostrar(programa::MensajeSinGuardar());
+    servicios_.Caja.Mostrar(programa::MensajeSinGuardar(compartida_.Causa()));
     return false;
 }
 

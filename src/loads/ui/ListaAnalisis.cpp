@@ -3,6 +3,7 @@
 #include "base/Archivos.h"
 #include "base/Formatos.h"
 #include "loads/salida/ReporteCargas.h"
+#include "store/proyecto/ConectarProyecto.h"
 #include "store/proyecto/TablaProyecto.h"
 #include "store/tablas/CamposCargas.h"
 #include "store/tablas/TablasCargas.h"
@@ -31,7 +32,7 @@ void ListaAnalisis::Abrir(PantallaListaAnalisis& pantalla) {
     pantalla_ = &pantalla;
     almacen::AbrirConexion(compartida_, servicios_.Carpetas.AnalisisCarga());
     if (DelProyecto()) {
-        almacen::AbrirConexion(Conexion(), aplicacion_.ArchivoProyecto);
+        almacen::proyecto::ConectarProyecto(Conexion(), aplicacion_.ArchivoProyecto);
         almacen::proyecto::LeerProyecto(Conexion(), aplicacion_.Usuario, aplicacion_.Datos);
     }
     Reabrir();
@@ -101,7 +102,7 @@ void ListaAnalisis::Eliminar() {
                            "Eliminar Análisis de Carga...");
     if (servicios_.Caja.Mostrar(pregunta) != programa::RespuestaSi) return;
     if (!almacen::tablas::BorrarAnalisis(Conexion(), Lista(), variante_.Donde))
-        servicios_.Caja.Mostrar(programa::MensajeSinGuardar());
+        servicios_.Caja.Mostrar(programa::MensajeSinGuardar(Conexion().Causa()));
     Rellenar();
     pantalla_->MarcarFila(Fila());
 }
@@ -113,7 +114,7 @@ bool ListaAnalisis::ModificarCelda(int fila, CampoDeLinea campo, const std::stri
     Lista().MoverA(fila);
     const bool guardada = campo == CampoDeLinea::Carga ? almacen::tablas::CambiarCarga(Lista(), *carga)
                                                        : almacen::tablas::CambiarDescripcion(Lista(), texto);
-    if (!guardada) servicios_.Caja.Mostrar(programa::MensajeSinGuardar());
+    if (!guardada) servicios_.Caja.Mostrar(programa::MensajeSinGuardar(Conexion().Causa()));
     return guardada;
 }
 
@@ -146,7 +147,7 @@ void ListaAnalisis::Capturar() {
         return;
     }
     if (!almacen::tablas::CapturarAnalisis(compartida_, lista_, destino_->Conexion(), destino_->Lista()))
-        servicios_.Caja.Mostrar(programa::MensajeSinGuardar());
+        servicios_.Caja.Mostrar(programa::MensajeSinGuardar(destino_->Conexion().Causa()));
     destino_->Rellenar();
     destino_->pantalla_->MarcarFila(destino_->Fila());
 }
