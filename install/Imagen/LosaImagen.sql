@@ -1,4 +1,8 @@
--- A project without data. Names compare without regard to case: NOCASE is the store's own, aware of Unicode.
+-- A project without data. Names compare without regard to case: the store orders them by itself.
+
+-- The mark of a project, and its format: store/proyecto knows how to come here from an earlier one.
+PRAGMA application_id = 1414679635;
+PRAGMA user_version = 1;
 
 CREATE TABLE Proyecto (
     Proyecto TEXT(120),

@@ -17,8 +17,9 @@ CodigoError ErrorDeSistema(const std::error_code& error);
 /// Waits until what was written to a file is on the disk, out of a power cut's reach.
 std::error_code LlevarAlDisco(const std::filesystem::path& camino);
 
-/// A file that is written beside its place and then takes it: `camino` holds its old bytes or the new ones,
-/// never a part, also after a power cut. What was not placed is removed at the end.
+/// A file that is written beside its place, under a name that nobody foresees, and then takes it: `camino`
+/// holds its old bytes or the new ones, never a part, also after a power cut. What was not placed is removed
+/// at the end.
 class ArchivoNuevo {
   public:
     explicit ArchivoNuevo(std::filesystem::path camino);
@@ -32,10 +33,15 @@ class ArchivoNuevo {
     void Escribir(std::string_view bytes);
     /// Throws ErrorEjecucion when it can't.
     void Colocar();
+    /// The same, and with 58 when something stands there.
+    void ColocarSinPisar();
 
   private:
+    void Terminar();
+
     std::filesystem::path camino_;
     std::filesystem::path provisional_;
+    std::error_code error_;  // of making it
     std::ofstream archivo_;  // open from the first bytes on
 };
 
@@ -45,7 +51,11 @@ void EscribirArchivo(const std::filesystem::path& camino, std::string_view bytes
 /// Copies a whole file in the same way. Throws ErrorEjecucion 53 when `origen` is no file, and as above.
 void CopiarArchivo(const std::filesystem::path& origen, const std::filesystem::path& destino);
 
-/// Deletes a file. Throws ErrorEjecucion: 53 when there is none, 75 when it is read-only or a folder.
+/// Throws ErrorEjecucion when a file may not be deleted: 53 when there is none, 75 when it is read-only or a
+/// folder.
+void ExigirBorrable(const std::filesystem::path& camino);
+
+/// Deletes a file, under the same conditions.
 void BorrarArchivo(const std::filesystem::path& camino);
 
 /// There is a file or a folder at `camino`; one that can't be looked at counts as missing.

@@ -8,6 +8,8 @@ const char* TextoDeError(CodigoError codigo) {
             return "Argumento o llamada a procedimiento no válida";
         case CodigoError::Desbordamiento:
             return "Desbordamiento";
+        case CodigoError::MemoriaInsuficiente:
+            return "Memoria insuficiente";
         case CodigoError::SubindiceFueraDeIntervalo:
             return "El subíndice está fuera del intervalo";
         case CodigoError::DivisionPorCero:
@@ -34,6 +36,10 @@ const char* TextoDeError(CodigoError codigo) {
             return "Formato de archivo no válido";
         case CodigoError::ErrorImpresora:
             return "Error de impresora";
+        case CodigoError::CampoPequeno:
+            return "El campo es demasiado pequeño para los datos";
+        case CodigoError::RegistroCambiado:
+            return "Otro programa cambió o eliminó estos datos después de leerlos";
     }
     return "Error definido por la aplicación o el objeto";
 }

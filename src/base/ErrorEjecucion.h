@@ -11,6 +11,7 @@ namespace trabex {
 enum class CodigoError {
     ArgumentoInvalido = 5,
     Desbordamiento = 6,
+    MemoriaInsuficiente = 7,
     SubindiceFueraDeIntervalo = 9,
     DivisionPorCero = 11,
     TiposNoCoinciden = 13,
@@ -24,6 +25,8 @@ enum class CodigoError {
     RutaNoEncontrada = 76,
     FormatoNoValido = 321,
     ErrorImpresora = 482,
+    CampoPequeno = 3163,
+    RegistroCambiado = 3197,
 };
 
 /// The Spanish text of a code, as a message shows it below "Error Número: ".

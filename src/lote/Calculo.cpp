@@ -6,6 +6,7 @@
 
 #include "lote/EscritorJson.h"
 #include "store/proyecto/CamposProyecto.h"
+#include "store/proyecto/ConectarProyecto.h"
 #include "store/proyecto/TablaProyecto.h"
 
 namespace trabex::lote {
@@ -78,7 +79,7 @@ bool CalcularProyecto(const std::filesystem::path& camino, Modulos modulos, cons
     Lectores lectores;
     lectores.push_back(std::make_unique<Lector>());
     almacen::Conexion& conexion = lectores.front()->Proyecto.ConexionProyecto;
-    almacen::AbrirCopiaEnMemoria(conexion, camino);
+    almacen::proyecto::ConectarCopia(conexion, camino);
     calculado.Camino = camino;
     if (!LeerListas(*lectores.front(), modulos, calculado)) return false;
     almacen::proyecto::LeerProyecto(conexion, "", calculado.Datos);

@@ -44,8 +44,8 @@ Mensaje MensajeDeError(const ErrorEjecucion& error, const std::string& encabezad
     return mensaje;
 }
 
-Mensaje MensajeSinGuardar() {
-    return MensajeDeError(ErrorEjecucion(CodigoError::ErrorAccesoRuta), ErrorInesperado);
+Mensaje MensajeSinGuardar(CodigoError causa) {
+    return MensajeDeError(ErrorEjecucion(causa), ErrorInesperado);
 }
 
 Mensaje Aviso(const std::string& texto, const std::string& encabezado) {

@@ -68,8 +68,8 @@ int AnchoCaja(BotonesCaja botones, int anchoEncabezado, int anchoTexto);
 /// A run-time error in the fixed form, "Error Número: " and the code over its text.
 Mensaje MensajeDeError(const ErrorEjecucion& error, const std::string& encabezado);
 
-/// The same for a project that could not be written.
-Mensaje MensajeSinGuardar();
+/// The same for a project that could not be written; `causa` is what its connection tells.
+Mensaje MensajeSinGuardar(CodigoError causa = CodigoError::ErrorAccesoRuta);
 
 /// A notice with one button.
 Mensaje Aviso(const std::string& texto, const std::string& encabezado);

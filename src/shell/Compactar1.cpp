@@ -24,6 +24,19 @@ std::string NombreTemporal() {
 
 }  // namespace
 
+namespace {
+
+/// What a damaged file lost, for the engineer.
+std::string Renglon(const std::filesystem::path& archivo, const almacen::Salvado& salvado) {
+    std::string texto = "Archivo: " + Mayusculas(TextoDeCamino(archivo.filename())) +
+                        "\nEstaba Dañado: se Salvaron " + std::to_string(salvado.Filas) + " Filas";
+    if (salvado.PaginasPerdidas == 0 && salvado.FilasPerdidas == 0) return texto;
+    return texto + " y se Perdieron " + std::to_string(salvado.FilasPerdidas) + " Filas y " +
+           std::to_string(salvado.PaginasPerdidas) + " Páginas de Filas";
+}
+
+}  // namespace
+
 std::vector<std::string> ListarProyectos(const std::filesystem::path& carpeta) {
     std::vector<std::string> nombres;
     for (const std::filesystem::path& archivo : ArchivosDe(carpeta)) {
@@ -55,17 +68,23 @@ void Compactar1::Compactar(const std::filesystem::path& archivo) {
     std::error_code error;
     Respaldar(aplicacion_.Respaldos, archivo);
     if (std::filesystem::exists(destino, error)) BorrarArchivo(destino);
-    if (!almacen::CompactarBaseDatos(archivo, destino)) {
+    const auto plantilla = servicios_.Carpetas.CaminoPrograma / "Imagen" / "LosaImagen.tbx";
+    const almacen::Compactado compactado = almacen::CompactarBaseDatos(
+        archivo, destino, Existe(plantilla) ? plantilla : std::filesystem::path());
+    if (!compactado) {
         Mensaje fallo;
-        fallo.Texto = " Error: " + std::to_string(static_cast<int>(CodigoError::ErrorAccesoRuta));
+        fallo.Texto = " Error: " + std::to_string(static_cast<int>(compactado.Causa));
         fallo.Encabezado = "Error Inesperado";
         fallo.Titulo = "Error Inesperado";
         fallo.Icono = IconoCaja::Error;
         servicios_.Caja.Mostrar(fallo);
     }
-    BorrarArchivo(archivo);
+    almacen::ExigirLibre(archivo);
+    ExigirBorrable(archivo);
+    if (!servicios_.Sistema.LlevarAPapelera(archivo)) BorrarArchivo(archivo);
     almacen::OlvidarGuardado(archivo);
     CopiarArchivo(destino, archivo);
+    if (compactado.DelDanado.Filas > 0) danados_.push_back(Renglon(archivo, compactado.DelDanado));
 }
 
 int Compactar1::CompactarTodos(const std::filesystem::path& carpeta,
@@ -94,6 +113,7 @@ void Compactar1::Aceptar(const std::filesystem::path& carpeta, const std::vector
         return;
     }
     aplicacion_.Proyecto.ConexionProyecto.Cerrar();
+    danados_.clear();
     VaciarTemporales();
     pantalla_.MostrarProgreso(true);
     try {
@@ -105,6 +125,7 @@ void Compactar1::Aceptar(const std::filesystem::path& carpeta, const std::vector
                    ? "¡Se Repararon Y Compactaron ( " + std::to_string(reparados) + " ) Archivos con Exito!"
                    : "No se Reparó ni Compactó Nigún Archivo...",
                "Mantenimiento de Archivos...");
+        for (const std::string& danado : danados_) Avisar(danado, "Mantenimiento de Archivos...");
     } catch (const ErrorEjecucion& error) {
         pantalla_.MostrarProgreso(false);
         pantalla_.RefrescarLista();

@@ -18,6 +18,11 @@ ResultadoConfiguracion AceptarConfiguracion(Aplicacion& aplicacion, const Servic
         GuardarTapiz(ArchivoTapiz(servicios.Carpetas), elegida);
     } catch (const ErrorEjecucion& error) {
         servicios.Caja.Mostrar(MensajeDeError(error, ErrorInesperado));
+        if (error.Codigo() == static_cast<int>(CodigoError::LongitudDeRegistro)) {
+            const std::string imagen = aplicacion.Preferencias.Imagen;
+            aplicacion.Preferencias = elegida;
+            aplicacion.Preferencias.Imagen = imagen;
+        }
         return ResultadoConfiguracion::SigueAbierta;
     }
     aplicacion.Preferencias = elegida;

@@ -11,8 +11,9 @@ namespace trabex::programa {
 enum class ResultadoConfiguracion { SigueAbierta, Guardada, SinGuardar };
 
 /// Asks whether to keep the chosen settings. On yes they are stored and become the current ones. A file that
-/// can't be written shows the fixed error form and leaves the window open. `antes` writes what the settings
-/// name and has no file yet, or throws.
+/// can't be written shows the fixed error form and leaves the window open; of a picture whose path is too
+/// long only the other settings are stored. `antes` writes what the settings name and has no file yet, or
+/// throws.
 ResultadoConfiguracion AceptarConfiguracion(
     Aplicacion& aplicacion, const Servicios& servicios, const Tapiz& elegida,
     const std::function<void()>& antes = [] {});

@@ -6,17 +6,14 @@
 namespace trabex::programa {
 
 const DatosDelProyecto& DatosProyecto::Leer() {
-    almacen::Conexion conexion;
-    ConectarProyecto(aplicacion_, conexion);
-    almacen::proyecto::LeerProyecto(conexion, aplicacion_.Usuario, aplicacion_.Datos);
+    ConectarProyecto(aplicacion_, conexion_);
+    almacen::proyecto::LeerProyecto(conexion_, aplicacion_.Usuario, aplicacion_.Datos);
     return aplicacion_.Datos;
 }
 
 bool DatosProyecto::Salvar(const DatosDelProyecto& datos) {
-    almacen::Conexion conexion;
-    ConectarProyecto(aplicacion_, conexion);
-    if (!almacen::proyecto::GuardarProyecto(conexion, datos)) {
-        caja_.Mostrar(MensajeSinGuardar());
+    if (!almacen::proyecto::GuardarProyecto(conexion_, datos)) {
+        caja_.Mostrar(MensajeSinGuardar(conexion_.Causa()));
         return false;
     }
     aplicacion_.Datos = datos;

@@ -18,6 +18,7 @@ class DatosProyecto {
 
   private:
     Aplicacion& aplicacion_;
+    almacen::Conexion conexion_;  // stands as long as the window
     CajaMensajes& caja_;
 };
 

@@ -4,10 +4,14 @@
 #include "base/Texto.h"
 #include "shell/ProyectoAntiguo.h"
 #include "shell/Respaldos.h"
+#include "store/Filas.h"
 
 namespace trabex::programa {
 
 namespace {
+
+constexpr const char* SoloLectura = "   (sólo lectura: lo que se cambie no se podrá salvar)";
+constexpr const char* Releido = "   (otro programa lo cambió: se leyó de nuevo)";
 
 std::string Con(const TextoDeElemento& texto, const std::string& nombre) {
     return std::string(texto.Antes) + nombre + "\n" + std::string(texto.Despues);
@@ -52,11 +56,17 @@ void ListaElementos::Conectar() {
     AbrirLista();
     pantalla_.RestablecerVista();
     MostrarPrimera();
-    const std::string camino = TextoDeCamino(aplicacion_.ArchivoProyecto);
-    pantalla_.PonerEstado(conexion.ConexionFallida() ? "No se pudo leer el proyecto: " + camino : camino);
+    MostrarEstado("");
     pantalla_.PonerTitulo(clase_.TituloVentana.empty()
                               ? TituloConProyecto(Mayusculas(aplicacion_.NombreProyecto))
                               : std::string(clase_.TituloVentana));
+}
+
+void ListaElementos::MostrarEstado(const std::string& nota) {
+    const almacen::Conexion& conexion = aplicacion_.Proyecto.ConexionProyecto;
+    const std::string camino = TextoDeCamino(aplicacion_.ArchivoProyecto);
+    if (!Lista().Abierto()) return pantalla_.PonerEstado("No se pudo leer el proyecto: " + camino);
+    pantalla_.PonerEstado(camino + (conexion.SoloLectura() ? SoloLectura : "") + nota);
 }
 
 void ListaElementos::AbrirLista() {
@@ -118,8 +128,26 @@ bool ListaElementos::Agregar(const std::string& nombre,
     Lista().Actualizar();  // what the columns refuse spoils the save
     if (hijas) hijas(aplicacion_.Proyecto.ConexionProyecto);
     if (guardado.Confirmar()) return true;
-    servicios_.Caja.Mostrar(MensajeSinGuardar());
+    AvisarSinGuardar();
     return false;
+}
+
+void ListaElementos::AvisarSinGuardar() {
+    const CodigoError causa = aplicacion_.Proyecto.ConexionProyecto.Causa();
+    servicios_.Caja.Mostrar(MensajeSinGuardar(causa));
+    if (causa == CodigoError::RegistroCambiado || causa == CodigoError::ArchivoNoEncontrado) Releer();
+}
+
+void ListaElementos::Releer() {
+    const std::string nombre = Lista().Texto("Nombre");
+    Conectar();
+    almacen::BuscarRegistro(Lista(), almacen::Criterio(almacen::PorNombre(nombre)));
+    if (Lista().Encontrado()) Seleccionar(Fila());
+    MostrarEstado(Releido);
+}
+
+void ListaElementos::NotarCambios() {
+    if (!cargando_ && aplicacion_.Proyecto.ConexionProyecto.CambioPorFuera()) Releer();
 }
 
 void ListaElementos::Renombrar() {
@@ -131,11 +159,11 @@ void ListaElementos::Renombrar() {
     const std::string& nuevo = operaciones.NombreNuevo();
     if (nuevo.empty()) return;
     if (!almacen::RenombrarElemento(conexion, clase_.Tablas, actual, nuevo)) {
-        servicios_.Caja.Mostrar(MensajeSinGuardar());
+        AvisarSinGuardar();
         return;
     }
     AbrirLista();
-    almacen::BuscarRegistro(Lista(), "Nombre=" + almacen::EntreComillas(nuevo));
+    almacen::BuscarRegistro(Lista(), almacen::Criterio(almacen::PorNombre(nuevo)));
     if (!Lista().Encontrado()) return MostrarPrimera();
     pantalla_.MarcarFila(Fila());
     elemento_.AlRenombrar();
@@ -151,7 +179,7 @@ void ListaElementos::Eliminar() {
         return;
     Respaldar(aplicacion_.Respaldos, aplicacion_.ArchivoProyecto);
     if (!almacen::BorrarElemento(aplicacion_.Proyecto.ConexionProyecto, clase_.Tablas, Lista())) {
-        servicios_.Caja.Mostrar(MensajeSinGuardar());
+        AvisarSinGuardar();
         return;
     }
     Llenar();

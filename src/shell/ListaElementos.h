@@ -94,6 +94,14 @@ class ListaElementos {
     bool Agregar(const std::string& nombre, const std::function<void(almacen::Recordset& lista)>& columnas,
                  const std::function<void(almacen::Conexion& conexion)>& hijas = {});
 
+    /// Says why a save did not go through. When another program changed what was read, the list is read
+    /// again.
+    void AvisarSinGuardar();
+    /// Reads the project again, and selects the element that was selected where it is still there.
+    void Releer();
+    /// Reads the project again where another program changed it. For a window that comes to the front.
+    void NotarCambios();
+
     /// Draws the sheet on show, unless the workspace is still opening.
     void Redibujar();
 
@@ -103,6 +111,7 @@ class ListaElementos {
     void AbrirLista();
     void Llenar();
     void MostrarPrimera();
+    void MostrarEstado(const std::string& nota);
 
     Aplicacion& aplicacion_;
     Servicios servicios_;

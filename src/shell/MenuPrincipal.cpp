@@ -105,7 +105,11 @@ void MenuPrincipal::CrearNuevoProyecto() {
 }
 
 void MenuPrincipal::Reemplazar(const std::filesystem::path& archivo) {
-    if (Existe(archivo)) BorrarArchivo(archivo);
+    if (Existe(archivo)) {
+        almacen::ExigirLibre(archivo);
+        ExigirBorrable(archivo);
+        if (!servicios_.Sistema.LlevarAPapelera(archivo)) BorrarArchivo(archivo);
+    }
     almacen::OlvidarGuardado(archivo);
     CopiarArchivo(servicios_.Carpetas.CaminoPrograma / "Imagen" / "LosaImagen.tbx", archivo);
 }
@@ -191,9 +195,7 @@ void MenuPrincipal::SalvarComo() {
     if (!archivo) return;
     const auto espera = Espera(pantalla_);
     try {
-        almacen::AsentarBaseDatos(aplicacion_.ArchivoProyecto);
-        almacen::OlvidarGuardado(*archivo);
-        CopiarArchivo(aplicacion_.ArchivoProyecto, *archivo);
+        almacen::CopiarBaseDatos(aplicacion_.ArchivoProyecto, *archivo);
         HacerActual(*archivo);
     } catch (const ErrorEjecucion& error) {
         servicios_.Caja.Mostrar(MensajeDeError(error, ErrorInesperado));

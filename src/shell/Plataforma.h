@@ -26,6 +26,8 @@ class Plataforma {
     /// Opens a file with the desktop's program, or a folder in its file manager. False when it could not.
     virtual bool AbrirArchivo(const std::filesystem::path& archivo) = 0;
     virtual bool AbrirCarpeta(const std::filesystem::path& carpeta) = 0;
+    /// Moves a file to the desktop's trash. False when there is none, or it does not take it.
+    virtual bool LlevarAPapelera(const std::filesystem::path& archivo) = 0;
     /// Starts the desktop's system-information tool. False when there is none.
     virtual bool InformacionDelSistema() = 0;
 };

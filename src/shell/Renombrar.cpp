@@ -1,6 +1,7 @@
 #include "shell/Renombrar.h"
 
 #include "base/Texto.h"
+#include "store/Filas.h"
 #include "store/Recordset.h"
 
 namespace trabex::programa {
@@ -8,7 +9,7 @@ namespace trabex::programa {
 bool ExisteNombre(almacen::Conexion& conexion, std::string_view tabla, const std::string& nombre) {
     almacen::Recordset registros;
     almacen::AbrirRecordset(conexion, registros, tabla);
-    almacen::BuscarRegistro(registros, "Nombre=" + almacen::EntreComillas(nombre));
+    almacen::BuscarRegistro(registros, almacen::Criterio(almacen::PorNombre(nombre)));
     return registros.Encontrado();
 }
 

@@ -9,6 +9,7 @@
 #include "base/Archivos.h"
 #include "base/Fecha.h"
 #include "base/Formatos.h"
+#include "store/proyecto/ConectarProyecto.h"
 #include "store/AntesDeCambiar.h"
 #include "store/Mantenimiento.h"
 
@@ -72,7 +73,7 @@ std::string NombreRespaldado(const std::filesystem::path& respaldo) {
 void ConectarProyecto(const Aplicacion& aplicacion, almacen::Conexion& conexion) {
     const std::filesystem::path& carpeta = aplicacion.Respaldos;
     const std::filesystem::path proyecto = aplicacion.ArchivoProyecto;
-    almacen::AbrirConexion(conexion, proyecto);
+    almacen::proyecto::ConectarProyecto(conexion, proyecto);
     if (carpeta.empty()) return;
     almacen::AntesDeCambiar(conexion, [carpeta, proyecto, visto = Fecha()]() mutable {
         if (visto == Hoy()) return;

@@ -75,11 +75,13 @@ Tapiz LeerRegistros(const std::string& bytes) {
     return tapiz;
 }
 
-void PonerRegistros(const Tapiz& tapiz, std::string& bytes) {
-    if (tapiz.Imagen.size() > LargoRegistro - 2) throw ErrorEjecucion(CodigoError::LongitudDeRegistro);
+bool PonerRegistros(const Tapiz& tapiz, std::string& bytes) {
+    const bool cabe = tapiz.Imagen.size() <= LargoRegistro - 2;
     if (bytes.size() < Registros * LargoRegistro) bytes.resize(Registros * LargoRegistro, '\0');
-    PonerNumero(bytes, 1, 2, static_cast<std::uint32_t>(tapiz.Imagen.size()));
-    std::copy(tapiz.Imagen.begin(), tapiz.Imagen.end(), bytes.begin() + 2);
+    if (cabe) {
+        PonerNumero(bytes, 1, 2, static_cast<std::uint32_t>(tapiz.Imagen.size()));
+        std::copy(tapiz.Imagen.begin(), tapiz.Imagen.end(), bytes.begin() + 2);
+    }
     PonerNumero(bytes, 2, 1, tapiz.Horizontal);
     PonerNumero(bytes, 3, 1, tapiz.Vertical);
     PonerBandera(bytes, 4, tapiz.Ajustar);
@@ -89,6 +91,7 @@ void PonerRegistros(const Tapiz& tapiz, std::string& bytes) {
     PonerNumero(bytes, 8, 4, tapiz.ColorAyuda);
     PonerBandera(bytes, 9, tapiz.OcultarAyuda);
     PonerBandera(bytes, 10, tapiz.AyudaEnGlobo);
+    return cabe;
 }
 
 Tapiz LeerTapiz(const std::filesystem::path& archivo, const std::filesystem::path& imagenPorDefecto) {
@@ -113,8 +116,9 @@ Tapiz LeerTapiz(const std::filesystem::path& archivo, const std::filesystem::pat
 
 void GuardarTapiz(const std::filesystem::path& archivo, const Tapiz& tapiz) {
     std::string bytes = LeerBytes(archivo);
-    PonerRegistros(tapiz, bytes);
+    const bool cabe = PonerRegistros(tapiz, bytes);
     EscribirArchivo(archivo, bytes);
+    if (!cabe) throw ErrorEjecucion(CodigoError::LongitudDeRegistro);
 }
 
 }  // namespace trabex::programa

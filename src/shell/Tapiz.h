@@ -27,15 +27,16 @@ int PuntosDeAyuda(std::uint8_t indice);
 Tapiz LeerRegistros(const std::string& bytes);
 
 /// Puts the settings into a file's bytes: records of 128 bytes, little-endian, the path as a 16-bit length
-/// and its UTF-8. Alignments are written as one byte, and what else a record held stays. Throws
-/// ErrorEjecucion 59 when the path does not fit its record.
-void PonerRegistros(const Tapiz& tapiz, std::string& bytes);
+/// and its UTF-8. Alignments are written as one byte, and what else a record held stays. False when the path
+/// does not fit its record, which then stays as it was; the other nine are put all the same.
+bool PonerRegistros(const Tapiz& tapiz, std::string& bytes);
 
 /// Reads the settings at start: a file that is missing is made, and a picture that no longer exists brings
 /// the defaults back. A file that can't be read gives the defaults and is left alone.
 Tapiz LeerTapiz(const std::filesystem::path& archivo, const std::filesystem::path& imagenPorDefecto);
 
-/// Writes the settings. Throws ErrorEjecucion.
+/// Writes the settings. Throws ErrorEjecucion; 59 when all but the picture's path were written, which is too
+/// long.
 void GuardarTapiz(const std::filesystem::path& archivo, const Tapiz& tapiz);
 
 }  // namespace trabex::programa

@@ -1,5 +1,7 @@
 #include "store/Comparacion.h"
 
+#include <algorithm>
+
 #include <unicode/coll.h>
 #include <unicode/normalizer2.h>
 #include <unicode/unistr.h>
@@ -33,13 +35,21 @@ int Comparador::Comparar(std::string_view a, std::string_view b) const {
     UErrorCode estado = U_ZERO_ERROR;
     const UCollationResult orden = interna_->cotejo->compareUTF8(Trozo(a), Trozo(b), estado);
     if (orden != UCOL_EQUAL) return orden == UCOL_LESS ? -1 : 1;
-    // The collator also lets pass what is no letter's case, such as m² and m2: the folded texts decide.
-    const auto plegado = [&](std::string_view texto) {
-        icu::UnicodeString normal;
-        interna_->composicion->normalize(icu::UnicodeString::fromUTF8(Trozo(texto)), normal, estado);
-        return normal.foldCase();
-    };
-    return plegado(a).compareCodePointOrder(plegado(b));
+    // The collator also lets pass what is no letter's case, such as m² and m2: the folded texts decide. Their
+    // bytes stand in the order of their code points.
+    return Plegar(a).compare(Plegar(b));
+}
+
+std::string Comparador::Plegar(std::string_view texto) const {
+    std::string plegado;
+    if (std::all_of(texto.begin(), texto.end(), [](char c) { return static_cast<signed char>(c) >= 0; })) {
+        for (const char c : texto) plegado += static_cast<char>(c >= 'A' && c <= 'Z' ? c + ('a' - 'A') : c);
+        return plegado;
+    }
+    UErrorCode estado = U_ZERO_ERROR;
+    icu::UnicodeString normal;
+    interna_->composicion->normalize(icu::UnicodeString::fromUTF8(Trozo(texto)), normal, estado);
+    return normal.foldCase().toUTF8String(plegado);
 }
 
 }  // namespace trabex::almacen

@@ -1,20 +1,15 @@
 #include "store/Conexion.h"
 
-#include "store/DeTrabajo.h"
+#include <new>
+#include <utility>
+
+#include "store/Compuerta.h"
 #include "store/Dialecto.h"
 #include "store/Motor.h"
 
 namespace trabex::almacen {
 
 namespace {
-
-/// Opens an existing, sound database; null otherwise. A file that can't be written opens for reading.
-std::shared_ptr<Motor> AbrirSano(const std::filesystem::path& camino) {
-    if (!TieneCabecera(camino)) return nullptr;
-    auto motor = std::make_shared<Motor>(camino, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX);
-    if (!motor->Abierto() || motor->Consultar("PRAGMA quick_check(1)") != "ok") return nullptr;
-    return motor;
-}
 
 bool CopiarBase(Motor& destino, Motor& origen) {
     sqlite3_backup* copia = sqlite3_backup_init(destino.base(), "main", origen.base(), "main");
@@ -23,9 +18,9 @@ bool CopiarBase(Motor& destino, Motor& origen) {
     return sqlite3_backup_finish(copia) == SQLITE_OK;
 }
 
-/// Indexes every table that has names. Only ever on a copy: in a file that stays, an index in this order
-/// would mislead a program that compares names otherwise.
-void IndexarNombres(Motor& motor) {
+/// Indexes every table that has names. Only ever on a copy: in a file that stays, no other program could follow an index
+/// in this order. False when it takes too long.
+bool IndexarNombres(Motor& motor) {
     const SentenciaSqlite tablas = motor.Preparar(
         "SELECT m.name FROM sqlite_master m, pragma_table_info(m.name) c"
         " WHERE m.type = 'table' AND c.name = 'Nombre'");
@@ -35,9 +30,11 @@ void IndexarNombres(Motor& motor) {
         nombres.emplace_back(reinterpret_cast<const char*>(sqlite3_column_text(tablas.get(), 0)));
     for (const std::string& tabla : nombres) {
         const std::string sobre = Identificador(tabla);
-        motor.Correr("CREATE INDEX IF NOT EXISTS " + Identificador("Nombre" + tabla) + " ON " + sobre +
-                     " (Nombre)");
+        if (!motor.Correr("CREATE INDEX IF NOT EXISTS " + Identificador("Nombre" + tabla) + " ON " + sobre +
+                          " (Nombre COLLATE " + OrdenDelAlmacen + ")"))
+            return false;
     }
+    return true;
 }
 
 }  // namespace
@@ -59,9 +56,48 @@ void Conexion::Cerrar() {
     motor_.reset();
 }
 
+void Conexion::Tomar(std::shared_ptr<Motor> motor, CodigoError causa) {
+    motor_ = std::move(motor);
+    fallida_ = motor_ == nullptr;
+    causa_ = causa;
+}
+
+void Conexion::Rechazar() {
+    Tomar(nullptr, CodigoError::FormatoNoValido);
+}
+
+void Conexion::AntesDeGuardar(std::vector<std::string> sentencias) {
+    if (motor_) motor_->AntesDeGuardar(std::move(sentencias));
+}
+
+bool Conexion::CambioPorFuera() {
+    return motor_ && motor_->CambioPorFuera();
+}
+
+CodigoError Conexion::Causa() const {
+    return motor_ ? motor_->Causa() : causa_;
+}
+
+bool Conexion::SoloLectura() const {
+    return motor_ && sqlite3_db_readonly(motor_->base(), "main") == 1;
+}
+
 void AbrirConexion(Conexion& conexion, const std::filesystem::path& camino) {
-    conexion.motor_ = AbrirSano(camino);
-    conexion.fallida_ = conexion.motor_ == nullptr;
+    conexion.Tomar(nullptr, CodigoError::MemoriaInsuficiente);
+    try {
+        Entrada entrada = DejarEntrar(camino);
+        conexion.Tomar(std::move(entrada.Base), entrada.Causa);
+    } catch (const std::bad_alloc&) {
+        return;  // it stays failed
+    }
+}
+
+void AbrirBasePropia(Conexion& conexion, const std::filesystem::path& camino) {
+    conexion.Tomar(nullptr, CodigoError::ArchivoNoEncontrado);
+    if (!TieneCabecera(camino)) return;
+    constexpr int banderas = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
+    auto motor = std::make_shared<Motor>(camino, banderas, Procedencia::Propia);
+    if (motor->Abierto()) conexion.Tomar(std::move(motor), {});
 }
 
 void AbrirDeTrabajo(Conexion& conexion, const std::filesystem::path& camino) {
@@ -73,12 +109,12 @@ void AbrirDeTrabajo(Conexion& conexion, const std::filesystem::path& camino) {
 }
 
 void CopiarEnMemoria(Conexion& origen, Conexion& copia) {
-    constexpr int banderas = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
-    auto motor = std::make_shared<Motor>(":memory:", banderas);
-    const bool hecha = origen.Abierta() && motor->Abierto() && CopiarBase(*motor, *origen.motor());
-    copia.motor_ = hecha ? std::move(motor) : nullptr;
-    copia.fallida_ = !hecha;
-    if (hecha) IndexarNombres(*copia.motor_);
+    constexpr int banderas =
+        SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_MEMORY;
+    copia.Tomar(nullptr, origen.Causa());
+    auto motor = std::make_shared<Motor>("", banderas);
+    if (origen.Abierta() && motor->Abierto() && CopiarBase(*motor, *origen.motor()) && IndexarNombres(*motor))
+        copia.Tomar(std::move(motor), {});
 }
 
 void AbrirCopiaEnMemoria(Conexion& conexion, const std::filesystem::path& camino) {
@@ -87,12 +123,25 @@ void AbrirCopiaEnMemoria(Conexion& conexion, const std::filesystem::path& camino
     CopiarEnMemoria(archivo, conexion);
 }
 
+Lectura::Lectura(Conexion& conexion) {
+    const auto& motor = conexion.motor();
+    if (motor && sqlite3_get_autocommit(motor->base()) != 0 && motor->Correr("BEGIN")) motor_ = motor;
+}
+
+Lectura::~Lectura() {
+    if (motor_ && !motor_->Correr("COMMIT")) motor_->Correr("ROLLBACK");
+}
+
 Transaccion::Transaccion(Conexion& conexion) : motor_(conexion.motor()) {
     if (motor_) motor_->EmpezarGuardado();
 }
 
 Transaccion::~Transaccion() {
     if (motor_) motor_->TerminarGuardado(false);
+}
+
+void Transaccion::Estropear(CodigoError causa) {
+    if (motor_) motor_->Estropear(causa);
 }
 
 bool Transaccion::Confirmar() {

@@ -1,5 +1,7 @@
 #include "store/Elementos.h"
 
+#include "store/Dialecto.h"
+#include "store/Filas.h"
 #include "store/Posicion.h"
 
 namespace trabex::almacen {
@@ -14,12 +16,21 @@ std::vector<std::string> Nombres(Recordset& lista) {
     return nombres;
 }
 
+bool EstaEnLista(Conexion& conexion, const char* lista, const std::string& nombre) {
+    Recordset registros;
+    AbrirRecordset(conexion, registros,
+                   std::string("SELECT * FROM ") + lista + " WHERE " + Criterio(PorNombre(nombre)));
+    return !registros.Abierto() || registros.NumeroRegistros() > 0;
+}
+
 bool RenombrarElemento(Conexion& conexion, const TablasDeElemento& tablas, const std::string& actual,
                        const std::string& nuevo) {
     Transaccion guardado(conexion);
+    if (!EstaEnLista(conexion, tablas.Lista, actual)) guardado.Estropear(CodigoError::RegistroCambiado);
     const auto renombrar = [&](const char* tabla) {
-        conexion.Ejecutar(std::string("UPDATE ") + tabla + " SET Nombre=" + EntreComillas(nuevo) +
-                          " WHERE Nombre=" + EntreComillas(actual));
+        conexion.Ejecutar(
+            Sentencia(std::string("UPDATE ") + tabla + " SET Nombre=? WHERE Nombre=?", {nuevo, actual}));
+        for (const std::string& nombre : {actual, nuevo}) OlvidarFilas(conexion, {tabla}, PorNombre(nombre));
     };
     for (const char* hija : tablas.Hijas) renombrar(hija);
     renombrar(tablas.Lista);
@@ -29,8 +40,7 @@ bool RenombrarElemento(Conexion& conexion, const TablasDeElemento& tablas, const
 bool BorrarElemento(Conexion& conexion, const TablasDeElemento& tablas, Recordset& lista) {
     const std::string nombre = lista.Texto("Nombre");
     Transaccion guardado(conexion);
-    for (const char* hija : tablas.Hijas)
-        conexion.Ejecutar(std::string("DELETE * FROM ") + hija + " WHERE Nombre=" + EntreComillas(nombre));
+    for (const char* hija : tablas.Hijas) BorrarFilas(conexion, {hija}, PorNombre(nombre));
     const bool borrado = lista.Borrar();
     return borrado && guardado.Confirmar();
 }

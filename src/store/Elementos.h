@@ -18,6 +18,10 @@ struct TablasDeElemento {
 /// The names of a list's elements, in its order. The list stays on its record.
 std::vector<std::string> Nombres(Recordset& lista);
 
+/// A list still holds an element. A name that holds a quote breaks the question, which is then not answered
+/// with no.
+bool EstaEnLista(Conexion& conexion, const char* lista, const std::string& nombre);
+
 /// Gives an element another name in each of its tables, the list last, as one save. A name that holds a quote
 /// breaks its statements, and nothing changes. False when it could not be stored; what was stored then
 /// stands.

@@ -22,7 +22,8 @@ struct Clave {
 Clave PorNombre(const std::string& nombre);
 Clave PorID(std::int32_t id);
 
-/// "Nombre='…'" or "ID=…": what statements and searches take.
+/// "Nombre='…'" or "ID=…": what statements and searches take. Of a text that holds a quote it is empty, which
+/// breaks what it is put into.
 std::string Criterio(const Clave& clave);
 
 /// A table of rows of elements.
@@ -32,14 +33,18 @@ struct TablaDeFilas {
     bool Numerada = false;        ///< that column is the row's running number, from 1, rewritten at each save
 };
 
-/// Opens an element's rows, in their order.
+/// Opens an element's rows, in their order. What they hold is remembered: the next save of these rows happens
+/// only over the same.
 void AbrirFilas(Conexion& conexion, Recordset& registros, const TablaDeFilas& tabla, const Clave& clave);
 
 /// Deletes an element's rows.
 void BorrarFilas(Conexion& conexion, const TablaDeFilas& tabla, const Clave& clave);
 
+/// Forgets what was read of an element's rows: another element takes its key.
+void OlvidarFilas(Conexion& conexion, const TablaDeFilas& tabla, const Clave& clave);
+
 /// Writes an element's rows over its stored ones, its key and number in each: `poner` fills the rest of row k
-/// of 1 … filas. False when a row could not be written.
+/// of 1 … filas. False when a row could not be written, or when the stored rows are not those that were read.
 bool EscribirFilas(Conexion& conexion, const TablaDeFilas& tabla, const Clave& clave, std::size_t filas,
                    const std::function<void(Recordset&, std::size_t)>& poner);
 
@@ -47,13 +52,14 @@ bool EscribirFilas(Conexion& conexion, const TablaDeFilas& tabla, const Clave& c
 /// written.
 bool CopiarFilas(Recordset& origen, Recordset& destino);
 
-/// Writes the one row of a table of general data over whatever stands there, as one save. False when it could
+/// Writes the one row of a table of general data over what was read of it, as one save. False when it could
 /// not be stored; what was stored then stands.
 bool ReemplazarFila(Conexion& conexion, const char* tabla, const std::function<void(Recordset&)>& poner);
 
-/// Puts the set of such a table on its row, which `poner` first fills where there is none. False when the
+/// Opens the set of such a table on its row, which `poner` first fills where there is none. False when the
 /// table can't be reached or written.
-bool SembrarFila(Recordset& registros, const std::function<void(Recordset&)>& poner);
+bool AbrirFila(Conexion& conexion, Recordset& registros, const char* tabla,
+               const std::function<void(Recordset&)>& poner);
 
 /// An element's rows as records, from slot `desde` of the array on; the slots before it hold empty records.
 template <class Registro, class Campos>

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "store/Comparacion.h"
 #include "store/Dialecto.h"
 
 namespace trabex::almacen {
@@ -18,7 +19,7 @@ void AbrirConIdentidad(Conexion& conexion, Recordset& registros, const std::stri
     std::string consulta = "SELECT " + calificador + "rowid AS " + ColumnaIdentidad;
     for (const std::string& columna : columnas) consulta += ", " + calificador + Identificador(columna);
     consulta += " FROM " + Identificador(tabla) + " ORDER BY ";
-    if (!orden.empty()) consulta += calificador + Identificador(orden) + ", ";
+    if (!orden.empty()) consulta += calificador + Identificador(orden) + " COLLATE " + OrdenDelAlmacen + ", ";
     AbrirRecordset(conexion, registros, consulta + calificador + "rowid");
 }
 

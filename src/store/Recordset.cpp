@@ -2,11 +2,17 @@
 
 #include <algorithm>
 #include <charconv>
+#include <functional>
+#include <new>
 #include <optional>
 #include <system_error>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
+#include "base/Formatos.h"
 #include "store/Columna.h"
+#include "store/Compuerta.h"
 #include "store/Conexion.h"
 #include "store/Dialecto.h"
 #include "store/Ligadura.h"
@@ -48,6 +54,29 @@ Valor LeerColumna(sqlite3_stmt* sentencia, int i, const Columna& columna) {
     }
 }
 
+std::uint64_t HuellaDe(const Valor& valor) {
+    return std::visit(
+        [](const auto& v) -> std::uint64_t {
+            using T = std::decay_t<decltype(v)>;
+            if constexpr (std::is_same_v<T, std::monostate>)
+                return 0;
+            else if constexpr (std::is_same_v<T, Fecha>)
+                return std::hash<std::string>()(FechaIso(v));
+            else if constexpr (std::is_same_v<T, Bytes>)
+                return std::hash<std::string_view>()({reinterpret_cast<const char*>(v.data()), v.size()});
+            else
+                return std::hash<T>()(v);
+        },
+        valor);
+}
+
+/// Why a column refuses a value of its own kind; of another kind, the one is as good as the other.
+CodigoError PorQueNo(const Valor& valor) {
+    if (std::holds_alternative<std::string>(valor)) return CodigoError::CampoPequeno;
+    return std::holds_alternative<double>(valor) ? CodigoError::Desbordamiento
+                                                 : CodigoError::TiposNoCoinciden;
+}
+
 void Enlistar(std::string& lista, const std::string& parte) {
     if (!lista.empty()) lista += ", ";
     lista += parte;
@@ -63,7 +92,6 @@ struct Recordset::Interna : std::enable_shared_from_this<Recordset::Interna> {
     int posicion = 0;
     bool nueva = false;  // AgregarNuevo without its Actualizar
     std::vector<std::optional<Valor>> puestos;
-    int guardadoAnotado = 0;
 
     bool Llenar(Motor& m, const Fuente& fuente);
     Fila LeerFila(sqlite3_stmt* sentencia) const;
@@ -74,10 +102,15 @@ struct Recordset::Interna : std::enable_shared_from_this<Recordset::Interna> {
         nueva = false;
         puestos.assign(columnas.size(), std::nullopt);
     }
-    void Anotar(Motor& m);
+    template <class Deshacer>
+    void Anotar(Motor& m, Deshacer deshacer);
+    std::optional<Fila> Releer(Motor& m, std::int64_t identidad) const;
+    bool Vigente(Motor& m);
     bool Insertar(Motor& m);
     bool Modificar(Motor& m);
-    bool Cumple(const Fila& fila, int columna, const Criterio& criterio, const Comparador& comparador) const;
+    bool Quitar(Motor& m);
+    bool Cumple(const Fila& fila, int columna, const CriterioLeido& criterio,
+                const Comparador& comparador) const;
 };
 
 Fila Recordset::Interna::LeerFila(sqlite3_stmt* sentencia) const {
@@ -101,6 +134,7 @@ bool Recordset::Interna::Llenar(Motor& m, const Fuente& fuente) {
     while (hayFila) {
         if (!m.Avanzar(sentencia.get(), hayFila)) return false;
         if (hayFila) filas.push_back(LeerFila(sentencia.get()));
+        if (m.EsAjena() && filas.size() > FilasMaximas) return false;
     }
     posicion = filas.empty() ? 0 : 1;
     LimpiarPuestos();
@@ -117,17 +151,34 @@ int Recordset::Interna::NumeroDe(std::string_view campo) const {
     return -1;
 }
 
-/// Before its first change of a save the set notes how to stand again as it stands.
-void Recordset::Interna::Anotar(Motor& m) {
-    if (!m.GuardadoEnCurso() || guardadoAnotado == m.NumeroDeGuardado()) return;
-    guardadoAnotado = m.NumeroDeGuardado();
-    m.AlDeshacer([este = weak_from_this(), antes = filas, donde = posicion] {
+/// Notes how the set comes to stand again as it stands, for a save that is taken back.
+template <class Deshacer>
+void Recordset::Interna::Anotar(Motor& m, Deshacer deshacer) {
+    m.AlDeshacer([este = weak_from_this(), donde = posicion, deshacer] {
         if (const auto set = este.lock()) {
-            set->filas = antes;
+            deshacer(set->filas);
             set->posicion = donde;
             set->LimpiarPuestos();
         }
     });
+}
+
+std::optional<Fila> Recordset::Interna::Releer(Motor& m, std::int64_t identidad) const {
+    const SentenciaSqlite lectura =
+        m.Preparar("SELECT rowid, * FROM " + Identificador(tabla) + " WHERE rowid = ?");
+    if (!lectura) return std::nullopt;
+    sqlite3_bind_int64(lectura.get(), 1, identidad);
+    bool hayFila = false;
+    if (!m.Avanzar(lectura.get(), hayFila) || !hayFila) return std::nullopt;
+    return LeerFila(lectura.get());
+}
+
+/// The current row still holds what was read of it. Otherwise another program was there: the save is spoilt.
+bool Recordset::Interna::Vigente(Motor& m) {
+    const auto ahora = Releer(m, Actual().Identidad);
+    if (ahora && ahora->Valores == Actual().Valores) return true;
+    m.Estropear(CodigoError::RegistroCambiado);
+    return false;
 }
 
 bool Recordset::Interna::Insertar(Motor& m) {
@@ -150,12 +201,10 @@ bool Recordset::Interna::Insertar(Motor& m) {
     if (!m.Avanzar(sentencia.get(), hayFila)) return false;
 
     // What the engine fills by itself, such as a key of its own, is read back.
-    const SentenciaSqlite lectura =
-        m.Preparar("SELECT rowid, * FROM " + Identificador(tabla) + " WHERE rowid = ?");
-    if (!lectura) return false;
-    sqlite3_bind_int64(lectura.get(), 1, sqlite3_last_insert_rowid(m.base()));
-    if (!m.Avanzar(lectura.get(), hayFila) || !hayFila) return false;
-    filas.push_back(LeerFila(lectura.get()));
+    auto escrita = Releer(m, sqlite3_last_insert_rowid(m.base()));
+    if (!escrita) return false;
+    Anotar(m, [](std::vector<Fila>& lasFilas) { lasFilas.pop_back(); });
+    filas.push_back(std::move(*escrita));
     posicion = static_cast<int>(filas.size());
     return true;
 }
@@ -166,6 +215,7 @@ bool Recordset::Interna::Modificar(Motor& m) {
         if (puestos[i]) Enlistar(campos, Identificador(columnas[i].Nombre) + " = ?");
     }
     if (campos.empty()) return true;
+    if (!Vigente(m)) return false;
     const SentenciaSqlite sentencia =
         m.Preparar("UPDATE " + Identificador(tabla) + " SET " + campos + " WHERE rowid = ?");
     if (!sentencia) return false;
@@ -176,13 +226,32 @@ bool Recordset::Interna::Modificar(Motor& m) {
     sqlite3_bind_int64(sentencia.get(), ++n, Actual().Identidad);
     bool hayFila = false;
     if (!m.Avanzar(sentencia.get(), hayFila) || sqlite3_changes(m.base()) != 1) return false;
+    Anotar(m, [cual = posicion - 1, antes = Actual()](std::vector<Fila>& lasFilas) {
+        lasFilas[static_cast<std::size_t>(cual)] = antes;
+    });
     for (std::size_t i = 0; i < columnas.size(); ++i) {
         if (puestos[i]) Actual().Valores[i] = *puestos[i];
     }
     return true;
 }
 
-bool Recordset::Interna::Cumple(const Fila& fila, int columna, const Criterio& criterio,
+bool Recordset::Interna::Quitar(Motor& m) {
+    if (!Vigente(m)) return false;
+    const SentenciaSqlite sentencia = m.Preparar("DELETE FROM " + Identificador(tabla) + " WHERE rowid = ?");
+    if (!sentencia) return false;
+    sqlite3_bind_int64(sentencia.get(), 1, Actual().Identidad);
+    bool hayFila = false;
+    if (!m.Avanzar(sentencia.get(), hayFila)) return false;
+    const auto cual = filas.begin() + (posicion - 1);
+    Anotar(m, [lugar = posicion - 1, antes = *cual](std::vector<Fila>& lasFilas) {
+        lasFilas.insert(lasFilas.begin() + lugar, antes);
+    });
+    filas.erase(cual);
+    posicion = std::min(posicion, static_cast<int>(filas.size()));
+    return true;
+}
+
+bool Recordset::Interna::Cumple(const Fila& fila, int columna, const CriterioLeido& criterio,
                                 const Comparador& comparador) const {
     const Valor& valor = fila.Valores[static_cast<std::size_t>(columna)];
     if (const auto* texto = std::get_if<std::string>(&valor))
@@ -319,7 +388,7 @@ bool Recordset::Poner(std::string_view campo, const Valor& valor) {
     auto admitido =
         columna < 0 ? std::nullopt : Admitir(interna_->columnas[static_cast<std::size_t>(columna)], valor);
     if (!admitido) {
-        if (const auto motor = interna_->motor.lock()) motor->Estropear();
+        if (const auto motor = interna_->motor.lock()) motor->Estropear(PorQueNo(valor));
         return false;
     }
     interna_->puestos[static_cast<std::size_t>(columna)] = std::move(admitido);
@@ -333,10 +402,10 @@ bool Recordset::Poner(std::string_view campo, const char* texto) {
 bool Recordset::Actualizar() {
     const auto motor = interna_ ? interna_->motor.lock() : nullptr;
     if (!motor || !(interna_->nueva || interna_->HayActual())) return false;
-    interna_->Anotar(*motor);
+    motor->EmpezarGuardado();
     const bool hecho = interna_->nueva ? interna_->Insertar(*motor) : interna_->Modificar(*motor);
     interna_->LimpiarPuestos();
-    return hecho;
+    return motor->TerminarGuardado(hecho);
 }
 
 void Recordset::CancelarActualizacion() {
@@ -346,17 +415,22 @@ void Recordset::CancelarActualizacion() {
 bool Recordset::Borrar() {
     const auto motor = interna_ ? interna_->motor.lock() : nullptr;
     if (!motor || interna_->tabla.empty() || !interna_->HayActual()) return false;
-    interna_->Anotar(*motor);
-    const SentenciaSqlite sentencia =
-        motor->Preparar("DELETE FROM " + Identificador(interna_->tabla) + " WHERE rowid = ?");
-    if (!sentencia) return false;
-    sqlite3_bind_int64(sentencia.get(), 1, interna_->Actual().Identidad);
-    bool hayFila = false;
-    if (!motor->Avanzar(sentencia.get(), hayFila)) return false;
-    interna_->filas.erase(interna_->filas.begin() + (interna_->posicion - 1));
-    interna_->posicion = std::min(interna_->posicion, NumeroRegistros());
+    motor->EmpezarGuardado();
+    const bool hecho = interna_->Quitar(*motor);
     interna_->LimpiarPuestos();
-    return true;
+    return motor->TerminarGuardado(hecho);
+}
+
+std::uint64_t Recordset::Huella() const {
+    std::uint64_t suma = 0;
+    if (!interna_) return suma;
+    for (const Fila& fila : interna_->filas) {
+        std::uint64_t deFila = 14695981039346656037U;
+        for (const Valor& valor : fila.Valores)
+            deFila = (deFila ^ (HuellaDe(valor) + valor.index())) * 1099511628211U;
+        suma += deFila;
+    }
+    return suma;
 }
 
 void Recordset::Cerrar() {
@@ -374,7 +448,11 @@ void AbrirRecordset(Conexion& conexion, Recordset& registros, std::string_view f
     if (!conexion.Abierta() || !traducida) return;
     auto interna = std::make_shared<Recordset::Interna>();
     interna->motor = conexion.motor();
-    if (interna->Llenar(*conexion.motor(), *traducida)) registros.interna_ = std::move(interna);
+    try {
+        if (interna->Llenar(*conexion.motor(), *traducida)) registros.interna_ = std::move(interna);
+    } catch (const std::bad_alloc&) {
+        conexion.motor()->Estropear(CodigoError::MemoriaInsuficiente);
+    }
 }
 
 void BuscarRegistro(Recordset& registros, std::string_view criterio) {
@@ -385,10 +463,6 @@ void BuscarRegistro(Recordset& registros, std::string_view criterio) {
         if (registros.BOF()) return;
     }
     registros.encontrado_ = registros.Posicion() >= 1 && registros.Posicion() <= registros.NumeroRegistros();
-}
-
-std::string EntreComillas(std::string_view texto) {
-    return "'" + std::string(texto) + "'";
 }
 
 }  // namespace trabex::almacen

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -15,7 +16,8 @@ class Conexion;
 enum class Direccion { Adelante = 1, Atras = -1 };
 
 /// A static, client-side, optimistic recordset: its rows are read at opening; add-new, set and update write
-/// through by row identity; a new row stands at the end until the set is opened again.
+/// through by row identity, only over a row that still holds what was read; a new row stands at the end until
+/// the set is opened again.
 ///
 /// Nothing here throws. A set that could not be opened is closed, has no records, and does nothing. When a
 /// save is taken back, the sets it touched stand as before it. Positions count from 1; 0 is before the first
@@ -63,11 +65,16 @@ class Recordset {
     /// under way is spoilt. Whole numbers and doubles convert to one another, halves to even.
     bool Poner(std::string_view campo, const Valor& valor);
     bool Poner(std::string_view campo, const char* texto);
-    /// Writes the fields that were set. False when the engine refused; the record then stands as it stood.
+    /// Writes the fields that were set. False when the engine refused, or when the row no longer holds what
+    /// was read of it; the record then stands as it stood, and the save under way is spoilt.
     bool Actualizar();
     void CancelarActualizacion();
-    /// Deletes the current record. The set then stands on the one that follows it, or on the last.
+    /// Deletes the current record, under the same condition. The set then stands on the one that follows it,
+    /// or on the last.
     bool Borrar();
+
+    /// A number that tells its rows from others, whatever their order.
+    std::uint64_t Huella() const;
 
     void Cerrar();
 
@@ -90,9 +97,5 @@ void AbrirRecordset(Conexion& conexion, Recordset& registros, std::string_view f
 /// wherever it stands. Encontrado is clear only when both ways ended past the records: a criterion that its
 /// own text breaks leaves it set on a set that has records.
 void BuscarRegistro(Recordset& registros, std::string_view criterio);
-
-/// A text between single quotes, as statements take it. Nothing inside is escaped: a name that holds a quote
-/// breaks its own statements.
-std::string EntreComillas(std::string_view texto);
 
 }  // namespace trabex::almacen

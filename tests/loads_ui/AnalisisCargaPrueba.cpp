@@ -159,7 +159,7 @@ TEST_P(VentanasDeCarga, DesplazarPreguntaPorLosCambios) {
         o.CambiarItem(1, CampoDePeso::Descripcion, std::string(200, 'x'));
         caja_.Respuestas = {programa::RespuestaSi, programa::RespuestaAceptarONo, programa::RespuestaSi};
         EXPECT_FALSE(o.Desplazar(1));
-        EXPECT_EQ(UltimoTexto().find("Error Número: 75"), 0U);
+        EXPECT_EQ(UltimoTexto().find("Error Número: 3163"), 0U);
         EXPECT_FALSE(o.Cerrar());
         EXPECT_TRUE(o.Modificado());
     };
@@ -446,7 +446,7 @@ TEST_F(Captura, LoQueNoSePuedeEscribirLoDice) {
     const std::int32_t id = EnArchivo(Ambito::Compartido, TablasDe(Ambito::Compartido).Lista).Entero32("ID");
     otra_.Ejecutar("DELETE * FROM Generales WHERE ID=" + std::to_string(id));
     EXPECT_FALSE(lista.ModificarCelda(1, CampoDeLinea::Carga, "5"));
-    EXPECT_EQ(UltimoTexto().find("Error Número: 75"), 0U);
+    EXPECT_EQ(UltimoTexto().find("Error Número: 3197"), 0U);
     EXPECT_EQ(vista_.Lineas.size(), habia);
     lista.Cerrar();
 

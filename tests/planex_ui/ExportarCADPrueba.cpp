@@ -5,6 +5,7 @@
 #include "reports/planex/ui/CuadroCAD.h"
 #include "reports/planex/ui/ExportarCAD.h"
 #include "slab/CalcularLosa.h"
+#include "store/Filas.h"
 #include "support/ExportacionDePrueba.h"
 
 namespace trabex {
@@ -42,7 +43,7 @@ class ExportarCAD_ : public prueba::Exportacion {
     }
 
     int Cuantas(const std::filesystem::path& archivo, const std::string& tabla, const std::string& nombre) {
-        return Filas(archivo, "SELECT * FROM " + tabla + " WHERE Nombre=" + EntreComillas(nombre))
+        return Filas(archivo, "SELECT * FROM " + tabla + " WHERE " + Criterio(PorNombre(nombre)))
             .NumeroRegistros();
     }
     const Mensaje& Ultimo() const { return caja.Mensajes.back(); }

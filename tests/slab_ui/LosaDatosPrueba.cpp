@@ -224,7 +224,7 @@ TEST_F(Datos, UnGuardadoQueFallaDejaLaLosaEntera) {
         const prueba::ProyectoOcupado ocupado(e.aplicacion.ArchivoProyecto);
         EXPECT_FALSE(datos.Salvar());
     }
-    EXPECT_EQ(Dicho().rfind("Error Número: 75", 0), 0U);
+    EXPECT_EQ(Dicho().rfind("Error Número: 70", 0), 0U);
     EXPECT_FALSE(datos.LosaModificada());
     EXPECT_EQ(e.memoria.UltimoHo, 0.25);
     EXPECT_EQ(e.Guardada("L-1").Tramos.size(), 4U);

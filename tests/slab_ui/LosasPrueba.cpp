@@ -237,7 +237,7 @@ TEST_F(Espacio, UnProyectoQueNoSePuedeEscribirQuedaComoEstaba) {
     espacio.Lista().Eliminar();
     int errores = 0;
     for (const Mensaje& mensaje : e.caja.Mensajes)
-        errores += mensaje.Texto.rfind("Error Número: 75", 0) == 0 ? 1 : 0;
+        errores += mensaje.Texto.rfind("Error Número: 70", 0) == 0 ? 1 : 0;
     EXPECT_EQ(errores, 4);
     EXPECT_THAT(e.pantalla.Filas, ElementsAre("BALCON", "Nivel 1"));
     EXPECT_EQ(espacio.Lista().NumeroDeElementos(), 2);

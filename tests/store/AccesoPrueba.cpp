@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "store/Comparacion.h"
+#include "store/Filas.h"
 #include "support/CarpetaTemporal.h"
 #include "support/LosasDePrueba.h"
 #include "support/ProyectoDePrueba.h"
@@ -14,6 +15,8 @@ using namespace almacen;
 using namespace almacen::tablas;
 using namespace losas;
 namespace {
+
+using prueba::LeerArchivo;
 
 class Acceso : public testing::Test {
   protected:
@@ -145,7 +148,7 @@ TEST_F(Acceso, BuscarRegistroMiraEnLosDosSentidos) {
     for (const char* nombre : {"LOSA 1", "LOSA Ñ", "LOSÁ 2"}) Crear(nombre);
     Recordset& lista = proyecto.RegistrosProyecto;
     lista.MoverAlUltimo();
-    BuscarRegistro(lista, "Nombre=" + EntreComillas("losa ñ"));
+    BuscarRegistro(lista, Criterio(PorNombre("losa ñ")));
     EXPECT_TRUE(lista.Encontrado());
     EXPECT_EQ(lista.Texto("Nombre"), "LOSA Ñ");
     BuscarRegistro(lista, "Nombre='losa 2'");
@@ -176,18 +179,67 @@ TEST_F(Acceso, LosNombresSeOrdenanComoEnEspanol) {
 
 TEST_F(Acceso, UnNombreConComillaSoloRompeSusSentencias) {
     Crear("L-1");
-    for (const char* nombre : {"O'Brien", "x' --", "x'; DELETE FROM LosaTramos; --", "y' /*"}) {
-        const std::string comillas = EntreComillas(nombre);
-        EXPECT_FALSE(proyecto.ConexionProyecto.Ejecutar("DELETE * FROM LosaTramos WHERE Nombre=" + comillas));
-        EXPECT_FALSE(Abierto("SELECT * FROM LosaTramos WHERE Nombre=" + comillas).Abierto());
+    for (const char* nombre :
+         {"O'Brien", "' OR ''='", "x' --", "x'; DELETE FROM LosaTramos; --", "'", "''"}) {
+        SCOPED_TRACE(nombre);
+        Losa rota = prueba::LosaContinua({3}, 100);
+        rota.Nombre = nombre;
+        EXPECT_TRUE(
+            prueba::AgregarLosa(proyecto, rota));  // its deletes fail, the next steps run all the same
+        LeerLosa(proyecto, rota);
+        EXPECT_EQ(rota.Tramos.size(), 1U);
+        EXPECT_TRUE(RenombrarElemento(proyecto.ConexionProyecto, TablasDeLosa, nombre, "' WHERE Nombre='"));
+        EXPECT_TRUE(RenombrarElemento(proyecto.ConexionProyecto, TablasDeLosa, "L-1", nombre));
+        EXPECT_TRUE(BorrarElemento(proyecto.ConexionProyecto, TablasDeLosa, proyecto.RegistrosProyecto));
+        EXPECT_EQ(Filas("SELECT * FROM LosaTramos WHERE Nombre='l-1'"), 2);
     }
-    EXPECT_EQ(Filas("LosaTramos"), 2);
-    Losa rota = prueba::LosaContinua({3}, 100);
-    rota.Nombre = "O'Brien";
-    EXPECT_TRUE(prueba::AgregarLosa(proyecto, rota));  // its deletes fail, the next steps run all the same
-    LeerLosa(proyecto, rota);
-    EXPECT_EQ(rota.Tramos.size(), 1U);
-    EXPECT_EQ(Filas("SELECT * FROM LosaTramos WHERE Nombre='l-1'"), 2);
+    EXPECT_EQ(Filas("LosaDatos"), 1);
+}
+
+/// Another program has the same project: what it changed after it was read is neither overwritten nor
+/// orphaned.
+TEST_F(Acceso, LoQueOtroProgramaCambioNoSePisa) {
+    struct Caso {
+        const char* Sentencia;
+        bool Cabe;  ///< the slab's save goes through all the same
+    };
+    for (const auto& [sentencia, cabe] :
+         {Caso{"UPDATE LosaDatos SET Ho = 0.5 WHERE Nombre='L-1'", false},
+          Caso{"UPDATE LosaTramos SET Wp = 7 WHERE Nombre='L-1'", false},
+          Caso{"DELETE * FROM LosaEjes WHERE Nombre='L-1'", false},
+          Caso{"UPDATE LosaDatos SET Nombre = 'OTRA' WHERE Nombre='L-1'", false},
+          Caso{"DELETE * FROM LosaDatos WHERE Nombre='L-1'", false},
+          Caso{"DELETE * FROM LosaDatos WHERE Nombre='L-2'", true},
+          Caso{"UPDATE LosaTramos SET Wp = 7 WHERE Nombre='L-2'", true}}) {
+        SCOPED_TRACE(sentencia);
+        std::filesystem::remove(camino);
+        CrearBaseDatos(camino, prueba::EsquemaDeProyecto());
+        ASSERT_TRUE(prueba::Abrir(proyecto, camino));
+        for (const char* nombre : {"L-1", "L-2"}) Crear(nombre);
+        proyecto.RegistrosProyecto.MoverAlPrimero();
+        Losa losa;
+        LeerLosa(proyecto, losa);
+        losa.Ho = 0.9;
+        losa.Tramos.pop_back();
+        ProyectoAbierto otro;
+        ASSERT_TRUE(prueba::Abrir(otro, camino));
+        ASSERT_TRUE(otro.ConexionProyecto.Ejecutar(sentencia));
+        const std::string antes = LeerArchivo(camino);
+        EXPECT_EQ(GuardarLosa(proyecto, losa), cabe);
+        EXPECT_EQ(GuardarLosa(proyecto, losa), cabe);
+        if (cabe) continue;
+        EXPECT_EQ(proyecto.ConexionProyecto.Causa(), CodigoError::RegistroCambiado);
+        EXPECT_EQ(LeerArchivo(camino), antes);
+        EXPECT_EQ(proyecto.RegistrosProyecto.Doble("Ho"), 0.25);
+    }
+    DatosGenerales generales;
+    DatosDelProyecto datos;
+    LeerDatosGenerales(proyecto.ConexionProyecto, "YO", datos, generales);
+    ProyectoAbierto otro;
+    prueba::Abrir(otro, camino);
+    otro.ConexionProyecto.Ejecutar("UPDATE LosaG SET FC = 300");
+    EXPECT_FALSE(GuardarGeneralesLosa(proyecto.ConexionProyecto, generales));
+    EXPECT_FALSE(RenombrarElemento(proyecto.ConexionProyecto, TablasDeLosa, "NO ESTÁ", "X"));
 }
 
 TEST_F(Acceso, UnaSentenciaPorLlamada) {

@@ -6,6 +6,7 @@
 
 #include "slab/ui/LosaDatos.h"
 #include "slab/ui/Losas.h"
+#include "store/Filas.h"
 #include "support/EspacioGuiado.h"
 #include "support/LosasDePrueba.h"
 
@@ -71,7 +72,7 @@ class EspacioDePrueba {
     Losa Guardada(const std::string& nombre) const {
         ProyectoAbierto proyecto;
         prueba::Abrir(proyecto, aplicacion.ArchivoProyecto);
-        BuscarRegistro(proyecto.RegistrosProyecto, "Nombre=" + EntreComillas(nombre));
+        BuscarRegistro(proyecto.RegistrosProyecto, Criterio(PorNombre(nombre)));
         Losa losa;
         if (proyecto.RegistrosProyecto.Encontrado()) LeerLosa(proyecto, losa);
         return losa;
@@ -82,7 +83,7 @@ class EspacioDePrueba {
         AbrirConexion(conexion, aplicacion.ArchivoProyecto);
         Recordset registros;
         AbrirRecordset(conexion, registros,
-                       "SELECT * FROM " + tabla + " WHERE Nombre=" + EntreComillas(nombre));
+                       "SELECT * FROM " + tabla + " WHERE " + Criterio(PorNombre(nombre)));
         return registros.NumeroRegistros();
     }
 

@@ -59,6 +59,13 @@ class PlataformaGuiada : public Plataforma {
     }
     bool AbrirCarpeta(const std::filesystem::path& carpeta) override { return AbrirArchivo(carpeta); }
     bool InformacionDelSistema() override { return true; }
+    bool LlevarAPapelera(const std::filesystem::path& archivo) override {
+        if (!HayPapelera) return false;
+        std::filesystem::create_directories(raiz_ / "Papelera");
+        std::filesystem::rename(archivo, raiz_ / "Papelera" / archivo.filename());
+        return true;
+    }
+    bool HayPapelera = false;
 
     std::vector<std::filesystem::path> Abiertos;
 

@@ -62,7 +62,7 @@ bool EscaleraHDatos::Guardar(const EntradaEscaleraH& e) {
                                   e.W,
                                   Entero16(e.Inter)};
     if (!almacen::tablas::GuardarEscalera(trabajo_.Proyecto.ConexionProyecto, escalera)) {
-        caja_.Mostrar(programa::MensajeSinGuardar());
+        caja_.Mostrar(programa::MensajeSinGuardar(trabajo_.Proyecto.ConexionProyecto.Causa()));
         return false;
     }
     trabajo_.Actual = escalera;

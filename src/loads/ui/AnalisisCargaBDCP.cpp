@@ -79,7 +79,7 @@ void AnalisisCargaBDCP::Eliminar(int fila) {
     if (servicios_.Caja.Mostrar(programa::PreguntaDeEliminar(pregunta, "Eliminar Cargas...")) !=
         programa::RespuestaSi)
         return;
-    if (!lista_.Borrar()) servicios_.Caja.Mostrar(programa::MensajeSinGuardar());
+    if (!lista_.Borrar()) servicios_.Caja.Mostrar(programa::MensajeSinGuardar(compartida_.Causa()));
     Rellenar();
     pantalla_->MarcarFila(lista_.Posicion());
 }
@@ -89,7 +89,7 @@ bool AnalisisCargaBDCP::ModificarCelda(int fila, CampoDePeso campo, const std::s
     PesoUnitario peso = Actual();
     if (!PonerCelda(peso, campo, texto)) return false;
     if (almacen::tablas::CambiarPeso(lista_, peso)) return true;
-    servicios_.Caja.Mostrar(programa::MensajeSinGuardar());
+    servicios_.Caja.Mostrar(programa::MensajeSinGuardar(compartida_.Causa()));
     return false;
 }
 

@@ -74,7 +74,7 @@ void AnalisisCargaModificar::RecibirVariable(const PesoUnitario& peso) {
 bool AnalisisCargaModificar::Salvar() {
     AnalisisCarga guardado = trabajo_;
     if (!almacen::tablas::GuardarAnalisis(edicion_.Conexion, edicion_.Lista, edicion_.Donde, guardado)) {
-        servicios_.Caja.Mostrar(programa::MensajeSinGuardar());
+        servicios_.Caja.Mostrar(programa::MensajeSinGuardar(edicion_.Conexion.Causa()));
         return false;
     }
     trabajo_ = std::move(guardado);

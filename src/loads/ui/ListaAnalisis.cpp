@@ -109,7 +109,7 @@ void ListaAnalisis::Eliminar() {
     if (servicios_.Caja.Mostrar(pregunta) != programa::RespuestaSi) return;
     if (&Conexion() != &compartida_) programa::Respaldar(aplicacion_.Respaldos, aplicacion_.ArchivoProyecto);
     if (!almacen::tablas::BorrarAnalisis(Conexion(), Lista(), variante_.Donde))
-        servicios_.Caja.Mostrar(programa::MensajeSinGuardar());
+        servicios_.Caja.Mostrar(programa::MensajeSinGuardar(Conexion().Causa()));
     Rellenar();
     pantalla_->MarcarFila(Fila());
 }
@@ -121,7 +121,7 @@ bool ListaAnalisis::ModificarCelda(int fila, CampoDeLinea campo, const std::stri
     Lista().MoverA(fila);
     const bool guardada = campo == CampoDeLinea::Carga ? almacen::tablas::CambiarCarga(Lista(), *carga)
                                                        : almacen::tablas::CambiarDescripcion(Lista(), texto);
-    if (!guardada) servicios_.Caja.Mostrar(programa::MensajeSinGuardar());
+    if (!guardada) servicios_.Caja.Mostrar(programa::MensajeSinGuardar(Conexion().Causa()));
     return guardada;
 }
 
@@ -154,7 +154,7 @@ void ListaAnalisis::Capturar() {
         return;
     }
     if (!almacen::tablas::CapturarAnalisis(compartida_, lista_, destino_->Conexion(), destino_->Lista()))
-        servicios_.Caja.Mostrar(programa::MensajeSinGuardar());
+        servicios_.Caja.Mostrar(programa::MensajeSinGuardar(destino_->Conexion().Causa()));
     destino_->Rellenar();
     destino_->pantalla_->MarcarFila(destino_->Fila());
 }

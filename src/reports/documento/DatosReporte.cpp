@@ -101,7 +101,7 @@ almacen::Bytes TablaDeDatos::LeerTrazos(std::size_t fila, std::string_view colum
 
 DatosReporte::Base& DatosReporte::Abierta(const std::filesystem::path& ubicacion) {
     const auto [base, nueva] = bases_.try_emplace(ubicacion);
-    if (nueva) almacen::AbrirConexion(base->second.LaConexion, ubicacion);
+    if (nueva) almacen::AbrirBasePropia(base->second.LaConexion, ubicacion);
     return base->second;
 }
 

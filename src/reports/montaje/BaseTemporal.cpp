@@ -49,7 +49,7 @@ void AbrirTemporal(const EntornoReportes& entorno, const DatosDelProyecto& datos
                    const EncabezadoReporte& encabezado, almacen::Conexion& conexionTemporal) {
     conexionTemporal.Cerrar();  // of an earlier report, or the file could not be replaced
     Reponer(entorno);
-    almacen::AbrirConexion(conexionTemporal, TemporalMdb(entorno));
+    almacen::AbrirBasePropia(conexionTemporal, TemporalMdb(entorno));
     EscribirGenerales(entorno, datos, encabezado, conexionTemporal);
 }
 

@@ -45,6 +45,26 @@ int AnchoDe(const QString& texto, const QFont& fuente) {
     return ancho;
 }
 
+/// Lets words that are wider than the box, such as paths, break at any letter.
+QString ConCortes(const QString& texto, const QFont& fuente, int ancho) {
+    constexpr QChar corte(0x200B);
+    const QFontMetrics metrica(fuente);
+    QString salida;
+    for (qsizetype i = 0; i < texto.size();) {
+        qsizetype fin = i;
+        while (fin < texto.size() && !texto[fin].isSpace()) ++fin;
+        const QString palabra = texto.mid(i, fin - i);
+        const bool larga = metrica.horizontalAdvance(palabra) > ancho;
+        for (const QChar letra : palabra) {
+            salida += letra;
+            if (larga && !letra.isHighSurrogate()) salida += corte;
+        }
+        if (fin < texto.size()) salida += texto[fin];
+        i = fin + 1;
+    }
+    return salida;
+}
+
 }  // namespace
 
 VentanaMensaje::VentanaMensaje(const Mensaje& mensaje, QWidget* padre)
@@ -63,7 +83,7 @@ void VentanaMensaje::Armar(const Mensaje& mensaje) {
     auto* texto = new QLabel(this);
     texto->setFont(fuenteTexto);
     texto->setTextFormat(Qt::PlainText);
-    texto->setText(Q(mensaje.Texto));
+    texto->setText(ConCortes(Q(mensaje.Texto), fuenteTexto, EnPixeles(AnchoMaximoTexto)));
     texto->setWordWrap(true);
     texto->setTextInteractionFlags(Qt::TextSelectableByMouse);
     texto->setFocusPolicy(Qt::NoFocus);

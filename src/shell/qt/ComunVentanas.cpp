@@ -22,19 +22,20 @@ QString Color(std::uint32_t bgr) {
     return QString("rgb(%1, %2, %3)").arg(bgr & 0xFF).arg((bgr >> 8) & 0xFF).arg((bgr >> 16) & 0xFF);
 }
 
+constexpr const char* AyudasOcultas =
+    "AyudasOcultas";  // of a window that was prepared: whether its tool tips are off
+
 /// Keeps a window's geometry from one opening to the next, and its tool tips from showing when they are off.
 class Guardian : public QObject {
   public:
-    Guardian(QWidget* ventana, bool ocultarAyudas)
-        : QObject(ventana), ventana_(ventana), ocultar_(ocultarAyudas) {
+    explicit Guardian(QWidget* ventana) : QObject(ventana), ventana_(ventana) {
         ventana->installEventFilter(this);
-        if (!ocultar_) return;
         for (QWidget* control : ventana->findChildren<QWidget*>()) control->installEventFilter(this);
     }
 
   protected:
     bool eventFilter(QObject* objeto, QEvent* evento) override {
-        if (ocultar_ && evento->type() == QEvent::ToolTip) return true;
+        if (evento->type() == QEvent::ToolTip && ventana_->property(AyudasOcultas).toBool()) return true;
         if (objeto == ventana_ && evento->type() == QEvent::Hide && !ventana_->objectName().isEmpty())
             QSettings().setValue("geometria/" + ventana_->objectName(), ventana_->saveGeometry());
         return QObject::eventFilter(objeto, evento);
@@ -42,8 +43,12 @@ class Guardian : public QObject {
 
   private:
     QWidget* ventana_;
-    bool ocultar_;
 };
+
+void PonerAyudas(QWidget* ventana, const Tapiz& preferencias) {
+    ventana->setStyleSheet(EstiloDeAyudas(preferencias));
+    ventana->setProperty(AyudasOcultas, preferencias.OcultarAyuda);
+}
 
 /// A window that opens for the first time is no larger than the screen, its frame included.
 void CaberEnPantalla(QWidget* ventana) {
@@ -81,13 +86,19 @@ QString EstiloDeAyudas(const Tapiz& p) {
 }
 
 void PrepararVentana(QWidget* ventana, const Tapiz& preferencias) {
-    ventana->setStyleSheet(EstiloDeAyudas(preferencias));
+    PonerAyudas(ventana, preferencias);
     ventana->setWindowIcon(Figura("trabex", 48));
-    new Guardian(ventana, preferencias.OcultarAyuda);
+    new Guardian(ventana);
     TituloEntero(ventana);
     const QByteArray geometria = QSettings().value("geometria/" + ventana->objectName()).toByteArray();
     const bool recordada = !ventana->objectName().isEmpty() && !geometria.isEmpty();
     if (!recordada || !ventana->restoreGeometry(geometria)) CaberEnPantalla(ventana);
+}
+
+void AplicarAyudas(const Tapiz& preferencias) {
+    for (QWidget* ventana : QApplication::topLevelWidgets()) {
+        if (ventana->property(AyudasOcultas).isValid()) PonerAyudas(ventana, preferencias);
+    }
 }
 
 void TamanoInicial(QWidget* ventana, const QSize& tamano) {

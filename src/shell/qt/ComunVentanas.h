@@ -32,6 +32,9 @@ void PonerAyuda(QWidget* control, const QString& titulo, const QString& texto);
 /// holds, and the geometry that a window of the same name had when it last closed.
 void PrepararVentana(QWidget* ventana, const Tapiz& preferencias);
 
+/// Gives the tool tips of every open window the settings that were chosen.
+void AplicarAyudas(const Tapiz& preferencias);
+
 /// Tool tips in the user's settings, as a style sheet.
 QString EstiloDeAyudas(const Tapiz& preferencias);
 

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QLocale>
 #include <QProcess>
@@ -79,6 +80,10 @@ bool PlataformaQt::AbrirArchivo(const std::filesystem::path& archivo) {
 
 bool PlataformaQt::AbrirCarpeta(const std::filesystem::path& carpeta) {
     return AbrirArchivo(carpeta);
+}
+
+bool PlataformaQt::LlevarAPapelera(const std::filesystem::path& archivo) {
+    return QFile::moveToTrash(Q(TextoDeCamino(archivo)));
 }
 
 bool PlataformaQt::InformacionDelSistema() {

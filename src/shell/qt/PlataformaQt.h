@@ -14,6 +14,7 @@ class PlataformaQt : public Plataforma {
     std::string NumeroDeMuestra() const override;
     bool AbrirArchivo(const std::filesystem::path& archivo) override;
     bool AbrirCarpeta(const std::filesystem::path& carpeta) override;
+    bool LlevarAPapelera(const std::filesystem::path& archivo) override;
     bool InformacionDelSistema() override;
 };
 

@@ -1,6 +1,7 @@
 #include "shell/qt/VentanaEspacio.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QFont>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -15,6 +16,7 @@
 #include <QStackedWidget>
 #include <QStyle>
 #include <QTabBar>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -382,6 +384,15 @@ void VentanaEspacio::keyPressEvent(QKeyEvent* evento) {
         return;
     }
     QDialog::keyPressEvent(evento);
+}
+
+bool VentanaEspacio::event(QEvent* evento) {
+    if (evento->type() == QEvent::WindowActivate && operaciones_ != nullptr)
+        // Once what was going on under a window that has just closed is over.
+        QTimer::singleShot(0, this, [this] {
+            if (QApplication::activeModalWidget() == this) operaciones_->NotarCambios();
+        });
+    return QDialog::event(evento);
 }
 
 void VentanaEspacio::hideEvent(QHideEvent* evento) {

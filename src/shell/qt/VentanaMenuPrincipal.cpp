@@ -209,7 +209,7 @@ void VentanaMenuPrincipal::MostrarConfiguracion() {
     VentanaConfigurar ventana(aplicacion_, servicios_, this);
     ventana.exec();
     if (ventana.Guardada()) {
-        setStyleSheet(EstiloDeAyudas(aplicacion_.Preferencias));
+        AplicarAyudas(aplicacion_.Preferencias);
         PonerTapiz(aplicacion_.Preferencias);
     }
 }

@@ -232,7 +232,7 @@ bool LosaDatos::SalvarDatos() {
     Losa guardada = edicion_;
     guardada.Bm = 1;
     if (!almacen::tablas::GuardarLosa(losas_.Programa().Proyecto, guardada)) {
-        caja_.Mostrar(programa::MensajeSinGuardar());
+        losas_.Lista().AvisarSinGuardar();
         return false;
     }
     losas_.Estado().Abierta = guardada;

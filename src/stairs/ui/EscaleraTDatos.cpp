@@ -33,7 +33,7 @@ bool EscaleraTDatos::Salvar(const DatosEscaleraT& entrados) {
     escalera.Nombre = Nombre();
     escalera.Titulo = trabajo_.Proyecto.RegistrosProyecto.Texto("Titulo");
     if (!almacen::tablas::GuardarEscalera(trabajo_.Proyecto.ConexionProyecto, escalera)) {
-        caja_.Mostrar(programa::MensajeSinGuardar());
+        caja_.Mostrar(programa::MensajeSinGuardar(trabajo_.Proyecto.ConexionProyecto.Causa()));
         return false;
     }
     trabajo_.Actual = escalera;

@@ -43,7 +43,7 @@ bool EscaleraTG::Aceptar(const EntradaEscaleraTG& entrados) {
     }
     if (!almacen::tablas::GuardarGenerales(conexion_, clase_, generales_)) {
         generales_ = anteriores;
-        caja_.Mostrar(programa::MensajeSinGuardar());
+        caja_.Mostrar(programa::MensajeSinGuardar(conexion_.Causa()));
         return false;
     }
     datosCambiados_ = true;

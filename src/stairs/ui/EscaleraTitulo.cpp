@@ -9,7 +9,7 @@ bool EscaleraTitulo::Aceptar(const std::string& titulo) {
     proyecto_.RegistrosProyecto.Poner("Titulo", Recortar(titulo));
     if (proyecto_.RegistrosProyecto.Actualizar()) return true;
     proyecto_.RegistrosProyecto.CancelarActualizacion();
-    caja_.Mostrar(programa::MensajeSinGuardar());
+    caja_.Mostrar(programa::MensajeSinGuardar(proyecto_.ConexionProyecto.Causa()));
     return false;
 }
 

@@ -20,8 +20,7 @@ void LeerProyecto(Conexion& conexion, std::string_view usuario, DatosDelProyecto
              .Cliente = "",
              .Comentario = ""};
     Recordset registros;
-    AbrirRecordset(conexion, registros, Tabla);
-    if (SembrarFila(registros, [&](Recordset& r) { PonerCampos(r, datos, CamposProyecto); }))
+    if (AbrirFila(conexion, registros, Tabla, [&](Recordset& r) { PonerCampos(r, datos, CamposProyecto); }))
         LeerCampos(registros, datos, CamposProyecto);
 }
 

@@ -37,9 +37,10 @@ bool LeerEscalera(ProyectoAbierto& proyecto, const TablaDeFilas& tabla, const Ca
 }
 
 template <class Escalera, class CamposDatos>
-bool GuardarDatos(Conexion& conexion, const TablaDeFilas& tabla, const CamposDatos& campos,
+bool GuardarDatos(Conexion& conexion, const char* lista, const TablaDeFilas& tabla, const CamposDatos& campos,
                   const Escalera& escalera) {
     Transaccion guardado(conexion);
+    if (!EstaEnLista(conexion, lista, escalera.Nombre)) guardado.Estropear(CodigoError::RegistroCambiado);
     const std::vector<Escalera> unica{escalera};
     const bool escrita = GuardarFilas(conexion, tabla, PorNombre(escalera.Nombre), unica, 0, campos);
     return escrita && guardado.Confirmar();
@@ -52,8 +53,8 @@ void LeaDatosGenerales(Conexion& conexion, ClaseEscalera clase, std::string_view
     proyecto::LeerProyecto(conexion, usuario, datos);
     generales = SemillasDeEscalera(generales);
     Recordset registros;
-    AbrirRecordset(conexion, registros, TablaDeGenerales(clase));
-    if (SembrarFila(registros, [&](Recordset& r) { PonerCampos(r, generales, CamposGeneralesEscalera); }))
+    if (AbrirFila(conexion, registros, TablaDeGenerales(clase),
+                  [&](Recordset& r) { PonerCampos(r, generales, CamposGeneralesEscalera); }))
         LeerCampos(registros, generales, CamposGeneralesEscalera);
 }
 
@@ -71,11 +72,11 @@ bool LeaDatosEscalera(ProyectoAbierto& proyecto, helices::DatosEscaleraH& escale
 }
 
 bool GuardarEscalera(Conexion& conexion, const escaleras::DatosEscaleraT& escalera) {
-    return GuardarDatos(conexion, TablaEscaleraT, CamposEscaleraT, escalera);
+    return GuardarDatos(conexion, TablasDeEscaleraT.Lista, TablaEscaleraT, CamposEscaleraT, escalera);
 }
 
 bool GuardarEscalera(Conexion& conexion, const helices::DatosEscaleraH& escalera) {
-    return GuardarDatos(conexion, TablaEscaleraH, CamposEscaleraH, escalera);
+    return GuardarDatos(conexion, TablasDeEscaleraH.Lista, TablaEscaleraH, CamposEscaleraH, escalera);
 }
 
 }  // namespace trabex::almacen::tablas

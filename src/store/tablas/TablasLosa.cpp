@@ -41,8 +41,8 @@ void LeerDatosGenerales(Conexion& conexion, std::string_view usuario, DatosDelPr
     proyecto::LeerProyecto(conexion, usuario, datos);
     generales = {};
     Recordset registros;
-    AbrirRecordset(conexion, registros, TablaDeGenerales);
-    if (SembrarFila(registros, [&](Recordset& r) { PonerCampos(r, generales, CamposGeneralesLosa); }))
+    if (AbrirFila(conexion, registros, TablaDeGenerales,
+                  [&](Recordset& r) { PonerCampos(r, generales, CamposGeneralesLosa); }))
         LeerCampos(registros, generales, CamposGeneralesLosa);
 }
 
@@ -62,6 +62,7 @@ void EscribirElementos(Conexion& conexion, const std::string& nombre, const losa
 void LeerLosa(ProyectoAbierto& proyecto, losas::Losa& losa) {
     losas::VaciarLosa(losa);
     Conexion& conexion = proyecto.ConexionProyecto;
+    const Lectura lectura(conexion);
     losa.Nombre = proyecto.RegistrosProyecto.Texto("Nombre");
     const Clave clave = PorNombre(losa.Nombre);
     LeerSeccion(conexion, losa);
@@ -74,6 +75,7 @@ bool GuardarLosa(ProyectoAbierto& proyecto, losas::Losa& losa) {
     Recordset& lista = proyecto.RegistrosProyecto;
     if (lista.Posicion() < 1 || lista.EOF_()) return false;
     Transaccion guardado(proyecto.ConexionProyecto);
+    if (lista.Texto("Nombre") != losa.Nombre) guardado.Estropear(CodigoError::RegistroCambiado);
     PonerSeccion(lista, losa);
     lista.Actualizar();
     EscribirElementos(proyecto.ConexionProyecto, losa.Nombre, losa);

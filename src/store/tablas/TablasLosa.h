@@ -42,7 +42,8 @@ void EscribirElementos(Conexion& conexion, const std::string& nombre, const losa
 void LeerLosa(ProyectoAbierto& proyecto, losas::Losa& losa);
 
 /// Writes `losa` over the stored slab on which the list stands, child rows and all, as one save. False when
-/// it could not be stored; the stored slab then stands as it stood. A depth of topping of 0 becomes 0.05.
+/// it could not be stored, also because the list stands on another slab or another program changed what was
+/// read; the stored slab then stands as it stood. A depth of topping of 0 becomes 0.05.
 bool GuardarLosa(ProyectoAbierto& proyecto, losas::Losa& losa);
 
 }  // namespace trabex::almacen::tablas

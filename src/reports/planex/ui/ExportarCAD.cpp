@@ -52,7 +52,7 @@ programa::Mensaje Aviso(const std::string& texto, const std::string& encabezado,
 
 /// A file that could not be opened takes nothing in silence; one that refuses a save is an error.
 void Exigir(bool escrito, const almacen::Conexion& destino) {
-    if (!escrito && !destino.ConexionFallida()) throw ErrorEjecucion(CodigoError::ErrorAccesoRuta);
+    if (!escrito && !destino.ConexionFallida()) throw ErrorEjecucion(destino.Causa());
 }
 
 }  // namespace

@@ -1,0 +1,136 @@
+// Files that anybody may have written: what the gate lets in, and that nothing of the rest runs.
+
+#include <ctime>
+#include <functional>
+
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+#include "store/Filas.h"
+#include "support/CarpetaTemporal.h"
+#include "support/LosasDePrueba.h"
+#include "support/ProyectoDePrueba.h"
+
+namespace trabex {
+
+using namespace almacen;
+using namespace almacen::tablas;
+using namespace losas;
+namespace {
+
+using prueba::LeerArchivo;
+
+/// What another SQLite tool does to a file, as it likes.
+void ConOtraHerramienta(const std::filesystem::path& camino, const std::string& sql) {
+    sqlite3* base = nullptr;
+    ASSERT_EQ(sqlite3_open(camino.c_str(), &base), SQLITE_OK);
+    EXPECT_EQ(sqlite3_exec(base, sql.c_str(), nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(base);
+    sqlite3_close(base);
+}
+
+/// A project with slabs whose names the order of other tools does not tell apart or sorts otherwise.
+void CrearProyecto(const std::filesystem::path& camino) {
+    std::filesystem::remove(camino);
+    ASSERT_TRUE(CrearBaseDatos(camino, prueba::EsquemaDeProyecto()));
+    ProyectoAbierto proyecto;
+    ASSERT_TRUE(prueba::Abrir(proyecto, camino));
+    std::size_t tramos = 0;
+    for (const char* nombre : {"Ñandú", "nube", "Ábaco", "oro", "zeta", "LOSA É"}) {
+        Losa losa = prueba::LosaUniforme(++tramos, 4, 100);
+        losa.Nombre = nombre;
+        ASSERT_TRUE(prueba::AgregarLosa(proyecto, losa));
+    }
+}
+
+struct Caso {
+    const char* Nombre;
+    bool Entra;
+    const char* Sql;
+};
+
+class Compuerta : public testing::TestWithParam<Caso> {};
+
+TEST_P(Compuerta, EntraLoSimpleYNadaCorre) {
+    const prueba::CarpetaTemporal carpeta;
+    const auto camino = carpeta / "file:obra.los?mode=memory";
+    CrearProyecto(camino);
+    ConOtraHerramienta(camino, GetParam().Sql);
+    const std::string antes = LeerArchivo(camino);
+    const std::clock_t inicio = std::clock();
+    {
+        ProyectoAbierto proyecto;
+        EXPECT_EQ(prueba::Abrir(proyecto, camino), GetParam().Entra);
+        EXPECT_EQ(proyecto.ConexionProyecto.ConexionFallida(), !GetParam().Entra);
+        for (int i = 1; i <= proyecto.RegistrosProyecto.NumeroRegistros(); ++i) {
+            proyecto.RegistrosProyecto.MoverA(i);
+            Losa losa;
+            LeerLosa(proyecto, losa);
+            EXPECT_EQ(losa.Ejes.size(), losa.Tramos.size() + 1);
+            EXPECT_GT(losa.Tramos.size(), 1U);
+        }
+    }
+    EXPECT_LT(static_cast<double>(std::clock() - inicio) / CLOCKS_PER_SEC, 2);
+    EXPECT_EQ(LeerArchivo(camino), antes);
+    if (GetParam().Entra) {
+        ProyectoAbierto proyecto;
+        ASSERT_TRUE(prueba::Abrir(proyecto, camino));
+        BuscarRegistro(proyecto.RegistrosProyecto, Criterio(PorNombre("losa é")));
+        Losa losa;
+        LeerLosa(proyecto, losa);
+        EXPECT_EQ(losa.Tramos.size(), 7U);
+        EXPECT_TRUE(GuardarLosa(proyecto, losa));
+    }
+}
+
+#define SIN_FIN "WITH RECURSIVE n(x) AS (SELECT 1 UNION ALL SELECT x + 1 FROM n) "
+INSTANTIATE_TEST_SUITE_P(
+    Archivos, Compuerta,
+    testing::Values(Caso{"Indice", true,
+                         "CREATE INDEX a ON LosaTramos (Nombre); CREATE INDEX b ON LosaDatos (Nombre);"
+                         "CREATE UNIQUE INDEX c ON LosaEjes (Nombre COLLATE BINARY, Numero); ANALYZE"},
+                    Caso{"TablaAjena", true,
+                         "CREATE TABLE Fotos (Id TEXT PRIMARY KEY, Foto BLOB DEFAULT (zeroblob(9)),"
+                         " CHECK (length(Id) > 0)); INSERT INTO Fotos VALUES ('a', zeroblob(90000))"},
+                    Caso{"Log", true, "PRAGMA journal_mode=WAL"},
+                    Caso{"VistaSinFin", false,
+                         "DROP TABLE LosaDatos; CREATE VIEW LosaDatos AS " SIN_FIN
+                         "SELECT x AS Nombre FROM n"},
+                    Caso{"VistaDeTramos", false,
+                         "ALTER TABLE LosaTramos RENAME TO t; CREATE VIEW LosaTramos AS SELECT * FROM t"},
+                    Caso{"Disparador", false,
+                         "CREATE TRIGGER d AFTER DELETE ON LosaTramos BEGIN DELETE FROM LosaDatos; END"},
+                    Caso{"ColumnaGenerada", false,
+                         "ALTER TABLE LosaTramos ADD COLUMN g TEXT AS (hex(zeroblob(100000000)))"},
+                    Caso{"IndiceDeExpresion", false, "CREATE INDEX a ON LosaTramos (hex(Nombre))"},
+                    Caso{"TablaVirtual", false, "CREATE VIRTUAL TABLE v USING fts5(x)"},
+                    Caso{"ColumnaRowid", false, "ALTER TABLE LosaDatos ADD COLUMN rowid INTEGER DEFAULT 1"},
+                    Caso{"CientosDeMilesDeFilas", false,
+                         "INSERT INTO LosaJuntasD " SIN_FIN "SELECT 'x', 1, 0, 0 FROM n LIMIT 300000"},
+                    Caso{"CientosDeMilesDeLosas", false,
+                         "INSERT INTO LosaDatos (Nombre) " SIN_FIN "SELECT 'x' FROM n LIMIT 300000"}),
+    [](const auto& caso) { return caso.param.Nombre; });
+
+/// A log of another file beside a project would be taken for its own.
+TEST(CompuertaSola, UnDiarioAjenoNoPasaPorSuyo) {
+    const prueba::CarpetaTemporal carpeta;
+    const auto camino = carpeta / "obra.los";
+    CrearProyecto(camino);
+    const std::string antes = LeerArchivo(camino);
+    std::string log;
+    sqlite3* base = nullptr;
+    sqlite3_open(camino.c_str(), &base);
+    sqlite3_exec(base, "PRAGMA journal_mode=WAL; DELETE FROM LosaTramos", nullptr, nullptr, nullptr);
+    log = LeerArchivo(carpeta / "obra.los-wal");
+    sqlite3_close(base);
+    ASSERT_FALSE(log.empty());
+    prueba::EscribirArchivo(camino, antes);
+    prueba::EscribirArchivo(carpeta / "obra.los-wal", log);
+    ProyectoAbierto proyecto;
+    EXPECT_FALSE(prueba::Abrir(proyecto, camino));
+    OlvidarGuardado(camino);
+    EXPECT_TRUE(prueba::Abrir(proyecto, camino));
+    EXPECT_EQ(LeerArchivo(camino), antes);
+}
+
+}  // namespace
+}  // namespace trabex
