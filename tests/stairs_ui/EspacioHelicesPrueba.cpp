@@ -75,7 +75,9 @@ TEST_F(EspacioHelices, SeVeLaQueSeEligeYLaQueFallaDejaLaAnterior) {
     EXPECT_EQ(vista.Estaciones, 27U);
     EXPECT_EQ(RH(), 10639);
 
+    vista.Fallan.clear();
     espacio.Lista().Seleccionar(3);
+    EXPECT_TRUE(vista.Fallan[3]);
     EXPECT_THAT(vista.Encabezado, StartsWith("ESCALERA: C   (sin calcular"));
     EXPECT_TRUE(!vista.Puestos.empty() && espacio.Estado().Fallo);
     EXPECT_EQ(vista.EnPaneles, "A");

@@ -55,7 +55,6 @@ void EscaleraH::AlAgregar() {
 void EscaleraH::AlVaciar() {
     estado_.Abierta = {};
     estado_.Nueva = false;
-    estado_.Fallo.reset();
     espacio_.PonerAvisos({});
     Mostrar({});
 }

@@ -34,7 +34,7 @@ struct EstadoEscaleraH {
     /// failed, what stood there before.
     DatosEscaleraH Mostrada;
     ResultadosEscaleraH Resultados;
-    std::optional<ErrorEjecucion> Fallo;  ///< of the current stair's calculation
+    std::optional<ErrorEjecucion> Fallo;  ///< of the calculation of the stair read last
     dibujo::helice::HojaHelice Hoja;
 };
 
