@@ -46,8 +46,10 @@ std::optional<int> CorrerPrograma(const std::filesystem::path& programa,
                                   const std::vector<std::filesystem::path>& argumentos,
                                   std::chrono::milliseconds plazo) {
     std::vector<std::string> textos{programa.string()};
+    textos.reserve(argumentos.size() + 1);
     for (const std::filesystem::path& argumento : argumentos) textos.push_back(argumento.string());
     std::vector<char*> punteros;
+    punteros.reserve(textos.size() + 1);
     for (std::string& texto : textos) punteros.push_back(texto.data());
     punteros.push_back(nullptr);
 

@@ -54,7 +54,7 @@ std::string ComoUtf16(std::string_view utf8) {
 }
 
 std::string Comprimido(std::string_view utf8) {
-    const std::string texto = ComoUtf16(utf8);
+    std::string texto = ComoUtf16(utf8);
     std::string corto = "\xFF\xFE";
     for (std::size_t i = 0; i < texto.size(); i += 2) {
         if (texto[i + 1] != 0 || texto[i] == 0) return texto;
