@@ -27,8 +27,8 @@ std::vector<std::string> ListarProyectos(const std::filesystem::path& carpeta);
 /// place.
 ///
 /// The steps after a failed compaction run all the same: the source is deleted and the copy of what was not
-/// made fails. Each file is copied into the folder of backups before, for that case. The desktop's trash, where there is
-/// one, takes what is deleted. What another running program has open is not deleted.
+/// made fails. Each file is copied into the folder of backups before, for that case. The desktop's trash,
+/// where there is one, takes what is deleted. What another running program has open is not deleted.
 class Compactar1 {
   public:
     Compactar1(Aplicacion& aplicacion, const Servicios& servicios, PantallaCompactar& pantalla)

@@ -9,9 +9,9 @@
 #include "base/Archivos.h"
 #include "base/Fecha.h"
 #include "base/Formatos.h"
-#include "store/proyecto/ConectarProyecto.h"
 #include "store/AntesDeCambiar.h"
 #include "store/Mantenimiento.h"
+#include "store/proyecto/ConectarProyecto.h"
 
 namespace trabex::programa {
 

@@ -18,8 +18,8 @@ bool CopiarBase(Motor& destino, Motor& origen) {
     return sqlite3_backup_finish(copia) == SQLITE_OK;
 }
 
-/// Indexes every table that has names. Only ever on a copy: in a file that stays, no other program could follow an index
-/// in this order. False when it takes too long.
+/// Indexes every table that has names. Only ever on a copy: in a file that stays, no other program could
+/// follow an index in this order. False when it takes too long.
 bool IndexarNombres(Motor& motor) {
     const SentenciaSqlite tablas = motor.Preparar(
         "SELECT m.name FROM sqlite_master m, pragma_table_info(m.name) c"

@@ -6,9 +6,9 @@
 
 namespace trabex::almacen::proyecto {
 
-/// As AbrirConexion, on a project. The file of another program, or of a later edition of this one, counts as a
-/// project that can't be read. The file of an earlier edition is read as it is; its first save brings it to this
-/// edition, or leaves it whole as it was.
+/// As AbrirConexion, on a project. The file of another program, or of a later edition of this one, counts as
+/// a project that can't be read. The file of an earlier edition is read as it is; its first save brings it to
+/// this edition, or leaves it whole as it was.
 void ConectarProyecto(Conexion& conexion, const std::filesystem::path& camino);
 
 /// The same on a copy of it in memory.
