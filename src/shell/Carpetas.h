@@ -14,12 +14,9 @@ struct Carpetas {
     /// The load database that all projects share.
     std::filesystem::path AnalisisCarga() const { return Proyectos() / "AnalisisCarga.mdb"; }
     std::filesystem::path ReportesExportados() const { return CaminoUsuario / "ReportesExportados"; }
-<<<<<<< HEAD
     std::filesystem::path Respaldos() const { return CaminoUsuario / "Respaldos"; }
-=======
     /// What is made on the way to a report.
     std::filesystem::path Trabajo() const { return CaminoUsuario / "Trabajo"; }
->>>>>>> w-carg
     std::filesystem::path Tapices() const { return CaminoUsuario / "Tapices"; }
 };
 

@@ -29,7 +29,7 @@ struct Tabla {
     SentenciaSqlite Escritura{nullptr, sqlite3_finalize};
 };
 
-std::vector<std::string> LeerColumna(Motor& motor, std::string_view sql) {
+std::vector<std::string> PrimeraColumna(Motor& motor, std::string_view sql) {
     std::vector<std::string> textos;
     const SentenciaSqlite lectura = motor.Preparar(sql);
     bool hayFila = lectura != nullptr;
@@ -93,7 +93,7 @@ class Salvador {
     }
 
     Salvado Ejecutar() {
-        for (const std::string& nombre : LeerColumna(destino_, TablasDeUsuario))
+        for (const std::string& nombre : PrimeraColumna(destino_, TablasDeUsuario))
             tablas_.push_back(
                 Tabla{nombre, ColumnasEn(destino_, nombre), 0, false, {}, {nullptr, sqlite3_finalize}});
         LeerCatalogo();

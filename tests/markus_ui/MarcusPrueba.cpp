@@ -8,6 +8,7 @@
 #include "markus/ui/Marcus.h"
 #include "support/BaseSqlite.h"
 #include "support/EspacioGuiado.h"
+#include "support/Lugares.h"
 
 namespace trabex {
 
@@ -223,7 +224,7 @@ TEST_F(NivelesDeMarkus, UnNumeroVacioSeAvisaNoSeSalvaYQuedaNuloEnElReporte) {
     Programa.carpetas.CaminoPrograma = Programa.carpeta.Camino();
     std::filesystem::create_directories(Programa.carpeta / "Imagen");
     CrearBaseDatos(Programa.carpeta / "Imagen" / "Temporal.tbx",
-                   LeerArchivo(TRABEX_INSTALL "/Imagen/Temporal.sql"));
+                   LeerArchivo(prueba::Install() + "/Imagen/Temporal.sql"));
     Ventana.SeleccionarNivel(2);
     Ventana.SeleccionarNivel(1);
     EXPECT_NEAR(Pano(1).Reparto.CX, 5.0 / 7, 1e-12);
