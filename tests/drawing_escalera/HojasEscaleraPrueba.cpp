@@ -232,6 +232,12 @@ TEST(HojasEscalera, CadaCifraEnSuColumnaYSuFila) {
     // Its rule goes from the label to the last column, and one line parts the flight from the landing.
     EXPECT_EQ(lienzo.Lineas[0].Puntos, (std::vector<PuntoLienzo>{{857, 486}, {1522, 486}}));
     EXPECT_EQ(lienzo.Lineas.back().Puntos[0].x, 1305);
+    // Where no letters make room, they stop at the smallest.
+    DatosEscaleraT datos = Modelo();
+    datos.H = 12;
+    LienzoGrabador bajo(555, 464);
+    Dibujada(datos).Dibujar(bajo, VistaSolicitaciones);
+    EXPECT_EQ(bajo.Textos[0].Letra.Puntos, 6);
     // What fails in shear is red, in its row alone. Its column moved half a line from the flight's last.
     for (const TextoGrabado& t : lienzo.Textos)
         EXPECT_EQ(t.Tinta == (Color{255, 0, 0}),
