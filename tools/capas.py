@@ -132,10 +132,6 @@ DECLARADA = re.compile(r"^(?: {4})?(?!return|using|typedef|friend|case)[\w:<>,&*
                        r"(?: const| noexcept| override| = 0| final)*\s*[;{]", re.M)
 
 
-# Operations that tests run and whose windows are not built yet.
-SIN_VENTANA = {"GuardarMarcus"}
-
-
 def en_uso(archivos, otros):
     """What a header offers is read or called by the program, not by tests alone."""
     palabras = collections.Counter()
@@ -153,7 +149,7 @@ def en_uso(archivos, otros):
                 yield f"{archivo.donde}:{archivo.linea(campo.start(1))}: nothing uses {nombre}"
         for funcion in DECLARADA.finditer(archivo.codigo):
             nombre = funcion.group(1)
-            if nombre in SIN_VENTANA or "override" in funcion.group(0) or re.match(r"operator|if|for|while|switch|sizeof|function|[a-z0-9]+_", nombre):
+            if "override" in funcion.group(0) or re.match(r"operator|if|for|while|switch|sizeof|function|[a-z0-9]+_", nombre):
                 continue
             propio = archivo.codigo + codigo_de.get(archivo.camino.with_suffix(".cpp"), "")
             if palabras[nombre] <= min(2, len(re.findall(rf"\b{nombre}\(", propio))):
