@@ -364,7 +364,7 @@ class Lote(unittest.TestCase):
             self.assertEqual((corrida.returncode, corrida.stderr), (0, ""))
             self.assertEqual(sorted(os.listdir(carpeta)), sorted(partes + ["resultados.json"]))
         self.assertEqual(sorted(os.listdir(carpeta / "reportes")),
-                         [f"{cual}-resultados.{formato}" for cual in ("escalerasH", "losas")
+                         [f"{cual}-resultados.{formato}" for cual in ("analisisCarga", "escalerasH", "losas")
                           for formato in ("htm", "pdf", "rtf", "xls")])
 
     def test_ningun_valor_ensancha_el_resumen(self):
