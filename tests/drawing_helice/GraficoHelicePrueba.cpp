@@ -32,6 +32,41 @@ std::vector<std::string> Ultimos(const LienzoGrabador& lienzo, std::size_t deLaP
             textos.end() - static_cast<std::ptrdiff_t>(deLaPagina)};
 }
 
+struct Zona {
+    std::int32_t x1 = 1 << 20, y1 = 1 << 20, x2 = -1, y2 = -1;
+};
+Zona ZonaDe(std::span<const LienzoGrabador::Figura> figuras) {
+    Zona zona;
+    for (const auto& figura : figuras)
+        for (const PuntoLienzo& p : figura.Puntos)
+            zona = {std::min(zona.x1, p.x), std::min(zona.y1, p.y), std::max(zona.x2, p.x),
+                    std::max(zona.y2, p.y)};
+    return zona;
+}
+
+/// Plan and perspective beside or below one another, between heading and texts, turned as it may be.
+TEST(GraficoHelice, CadaFiguraEnSuSitio) {
+    for (const double R : {1.0, 2.5, 25.0})
+        for (const double giro : {0.0, 30.0, 90.0, 200.0})
+            for (const auto& [ancho, alto] : {std::pair{1300, 600}, {700, 1000}, {600, 580}}) {
+                DatosEscaleraH e = EscaleraHNuevaDe("H", "T");
+                e.R = R;
+                HojaHelice hoja;
+                hoja.ElGiro = {giro, 2 * giro};
+                LienzoGrabador lienzo(ancho, alto);
+                RedibujeVista(lienzo, hoja, {e, {}});
+                const Zona planta = ZonaDe(std::span(lienzo.Poligonos).first(1));
+                const Zona vista = ZonaDe(std::span(lienzo.Poligonos).subspan(2));
+                EXPECT_TRUE(planta.x2 < vista.x1 || planta.y2 < vista.y1) << R << " " << giro << " " << ancho;
+                EXPECT_GT(std::min(planta.y1, vista.y1), lienzo.Hallar("T")->Lugar.y + 12)
+                    << R << " " << giro;
+                EXPECT_LT(std::max(planta.y2, vista.y2), lienzo.Hallar("Angulo = 260º")->Lugar.y)
+                    << R << giro << ancho;
+                EXPECT_TRUE(std::min(planta.x1, vista.x1) > 0 && vista.x2 < ancho)
+                    << R << " " << giro << ancho;
+            }
+}
+
 TEST(GraficoHelice, LosTextosEnSuOrdenConTituloEnPantallaYNombreEnPapel) {
     const DatosEscaleraH e = EscaleraHNuevaDe("H-1", "ESCALERA HELICOIDAL DEL VESTÍBULO PRINCIPAL");
     ResultadosEscaleraH r;
