@@ -272,6 +272,41 @@ TEST_F(Formatos, LosDibujosLleganAlPdfComoTrazos) {
     EXPECT_GT(rojos, 3000);
 }
 
+TEST_F(Formatos, UnaFotoDeArchivoVaTalCual) {
+    Preparar({});
+    QImage foto(64, 48, QImage::Format_RGB32);
+    foto.fill(QColor(10, 120, 200));
+    ASSERT_TRUE(foto.save(Ruta(carpeta / "foto ñ.jpg"), "JPG", 90));
+    const std::string bytes = prueba::LeerArchivo(carpeta / "foto ñ.jpg");
+    Reporte reporte =
+        Abrir("titulo \"t\"\nimagen \"foto ñ.jpg\" ancho 50 pie \"p\"\nimagen \"no está.png\"\n");
+    const QString html = QString::fromStdString(prueba::LeerArchivo(Exportar(reporte, FormatoHtml, "f.htm")));
+    EXPECT_TRUE(html.contains("data:image/jpeg;base64," + QByteArray::fromStdString(bytes).toBase64()));
+    EXPECT_EQ(html.count(ImagenIlegible), 1);
+    EXPECT_TRUE(
+        prueba::LeerArchivo(Exportar(reporte, FormatoRtf, "f.rtf")).find("\\jpegblip\\picw64\\pich48") !=
+        std::string::npos);
+    for (const auto& [codigo, nombre] : {std::pair(FormatoXls, "f.xls"), std::pair(FormatoPdf, "f.pdf")})
+        EXPECT_NE(prueba::LeerArchivo(Exportar(reporte, codigo, nombre)).find(bytes.substr(2, 400)),
+                  std::string::npos);
+    EXPECT_TRUE(Correr("pdfimages", {"-list", Ruta(carpeta / "f.pdf")}).contains("jpeg"));
+}
+
+TEST_F(Formatos, LoQueSeCancelaDejaLoQueHabia) {
+    Preparar({prueba::LosaUniforme(3, 5, 300, 100)});
+    Reporte reporte = Abrir("ResultadosLosa.rpt");
+    for (const int codigo : {FormatoPdf, FormatoHtml, FormatoRtf, FormatoXls}) {
+        EscribirArchivo(carpeta / "viejo", "viejo");
+        double ultima = -1;
+        const auto seguir = [&](double parte) { return std::exchange(ultima, parte) < 0; };
+        EXPECT_THROW(motor.Exportar(reporte.Contenido(), codigo, carpeta / "viejo", seguir),
+                     EscrituraCancelada);
+        EXPECT_GT(ultima, 0);
+        EXPECT_EQ(prueba::LeerArchivo(carpeta / "viejo"), "viejo");
+        EXPECT_EQ(ArchivosDe(carpeta.Camino()).size(), 2U) << codigo;  // no half file, and the database
+    }
+}
+
 TEST(ImagenPng, UnMapaRecortadoOAlteradoNoSeLee) {
     for (const bool conPaleta : {false, true}) {
         const Bytes entero = Mapa(conPaleta);

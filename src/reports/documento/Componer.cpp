@@ -1,11 +1,14 @@
 #include "reports/documento/Componer.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <fstream>
 #include <memory>
 #include <unordered_set>
 #include <utility>
 
+#include "base/Archivos.h"
 #include "base/Texto.h"
 #include "reports/documento/DatosReporte.h"
 
@@ -36,10 +39,12 @@ class Nombres {
 
     /// Null when its database is not there.
     const TablaDeDatos* Tabla(const FuenteDeFilas& fuente) {
-        const TablaDeDatos* tabla = SinOrden(fuente.Tabla, fuente.Linea);
-        if (tabla == nullptr || fuente.Orden.empty()) return tabla;
-        Exigir(*tabla, fuente.Orden, fuente.Linea);
-        return datos_.Tabla(Ubicacion(fuente.Tabla), fuente.Tabla, fuente.Orden);
+        if (fuente.Orden.empty()) return SinOrden(fuente.Tabla, fuente.Linea);
+        if (!HayDatos(fuente.Tabla)) return nullptr;
+        const TablaDeDatos* tabla = datos_.Tabla(Ubicacion(fuente.Tabla), fuente.Tabla, fuente.Orden);
+        // Without order it tells whether the table is missing or its column.
+        if (tabla == nullptr) Exigir(*SinOrden(fuente.Tabla, fuente.Linea), fuente.Orden, fuente.Linea);
+        return tabla;
     }
 
     /// The numbers of a source's rows below the rows around it.
@@ -177,7 +182,10 @@ class Revisor {
         }
     }
     void Revisar(const ElementoImagen& e, const FilaActual* alrededor) {
-        nombres_.BuscarImagen(e.Campo, alrededor);
+        if (e.Archivo.Trozos.empty())
+            nombres_.BuscarImagen(e.Campo, alrededor);
+        else
+            Revisar(e.Archivo, alrededor);
         Revisar(e.Pie, alrededor);
     }
     void Revisar(const ElementoSeccion& e, const FilaActual* alrededor) {
@@ -357,7 +365,24 @@ void Compositor::Escribir(const ElementoTabla& e, const FilaActual* alrededor) {
     Agregar(std::move(tabla));
 }
 
+almacen::Bytes BytesDe(const std::filesystem::path& archivo) {
+    almacen::Bytes bytes;
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(archivo, error)) return bytes;
+    std::ifstream lectura(archivo, std::ios::binary);
+    for (std::array<char, 65536> parte{}; lectura.read(parte.data(), parte.size()) || lectura.gcount() > 0;) {
+        const auto* desde = reinterpret_cast<const std::byte*>(parte.data());
+        bytes.insert(bytes.end(), desde, desde + lectura.gcount());
+    }
+    return bytes;
+}
+
 void Compositor::Escribir(const ElementoImagen& e, const FilaActual* alrededor) {
+    if (!e.Archivo.Trozos.empty()) {
+        const auto archivo = maqueta_.Archivo.parent_path() / CaminoDeTexto(Texto(e.Archivo, alrededor));
+        Agregar(Imagen{[archivo] { return BytesDe(archivo); }, e.Ancho, e.Alto, Texto(e.Pie, alrededor)});
+        return;
+    }
     const Hallada hallada = nombres_.BuscarImagen(e.Campo, alrededor);
     if (hallada.Tabla == nullptr || !hallada.Fila) return;
     // The rows live as long as a picture that is read from them.

@@ -396,7 +396,11 @@ void Lector::LeerTabla(Argumentos& linea, Elementos& destino) {
 }
 
 void Lector::LeerImagen(Argumentos& linea, Elementos& destino) {
-    ElementoImagen imagen{linea.Campo("la columna"), 0, 0, {}};
+    ElementoImagen imagen;
+    if (linea.QuedaCitada())
+        imagen.Archivo = linea.Texto("el archivo");
+    else
+        imagen.Campo = linea.Campo("la columna");
     while (linea.Quedan()) {
         if (linea.Si("ancho"))
             imagen.Ancho = linea.Medida("el ancho");

@@ -83,7 +83,8 @@ struct ElementoTabla {
     std::vector<Fila> Filas;
 };
 struct ElementoImagen {
-    Referencia Campo;
+    Referencia Campo;     ///< the column that holds its bytes; without one:
+    Plantilla Archivo{};  ///< its file, by its path or its name beside the layout
     double Ancho = 0;
     double Alto = 0;
     Plantilla Pie;

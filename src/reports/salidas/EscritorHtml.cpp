@@ -182,13 +182,14 @@ std::string PaginaHtml::De(const documento::Tabla& tabla) const {
 
 std::string PaginaHtml::De(const documento::Imagen& imagen) const {
     std::string salida = "<div class=\"imagen\">";
-    if (const auto png = ComoPng(imagen.Leer())) {
+    if (const auto foto = Comprimida(imagen.Leer())) {
         const documento::MedidaPagina medida =
-            documento::MedidaDe(imagen, png->Ancho, png->Alto, documento::MedidaUtil(documento_.Papel));
+            documento::MedidaDe(imagen, foto->Ancho, foto->Alto, documento::MedidaUtil(documento_.Papel));
         salida += "<img alt=\"" + Atributo(imagen.Pie) + "\" width=\"" +
                   std::to_string(static_cast<int>(medida.Ancho * PixelesPorMilimetro)) + "\" height=\"" +
                   std::to_string(static_cast<int>(medida.Alto * PixelesPorMilimetro)) +
-                  "\" src=\"data:image/png;base64," + Base64(png->Archivo) + "\">";
+                  "\" src=\"data:image/" + (foto->EsJpeg ? "jpeg" : "png") + ";base64," +
+                  Base64(foto->Archivo) + "\">";
     } else {
         salida += documento::ImagenIlegible;
     }

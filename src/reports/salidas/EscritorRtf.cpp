@@ -228,11 +228,12 @@ std::string TextoRico::De(const documento::Tabla& tabla) const {
 
 std::string TextoRico::De(const documento::Imagen& imagen) const {
     std::string salida = "{\\pard\\qc\\keepn\\sb120" + Letra(1) + " ";
-    if (const auto png = ComoPng(imagen.Leer())) {
-        const documento::MedidaPagina medida = documento::MedidaDe(imagen, png->Ancho, png->Alto, util_);
-        salida += "{\\pict\\pngblip" + Orden("picw", static_cast<int>(png->Ancho)) +
-                  Orden("pich", static_cast<int>(png->Alto)) + Orden("picwgoal", Twips(medida.Ancho)) +
-                  Orden("pichgoal", Twips(medida.Alto)) + "\n" + Hexadecimal(png->Archivo) + "}";
+    if (const auto foto = Comprimida(imagen.Leer())) {
+        const documento::MedidaPagina medida = documento::MedidaDe(imagen, foto->Ancho, foto->Alto, util_);
+        salida += "{\\pict" + std::string(foto->EsJpeg ? "\\jpegblip" : "\\pngblip") +
+                  Orden("picw", static_cast<int>(foto->Ancho)) + Orden("pich", static_cast<int>(foto->Alto)) +
+                  Orden("picwgoal", Twips(medida.Ancho)) + Orden("pichgoal", Twips(medida.Alto)) + "\n" +
+                  Hexadecimal(foto->Archivo) + "}";
     } else {
         salida += Escapado(documento::ImagenIlegible);
     }

@@ -270,19 +270,19 @@ class EscritorDeHoja {
     }
 
     void Poner(const documento::Imagen& imagen) {
-        const auto png = ComoPng(imagen.Leer ? imagen.Leer() : almacen::Bytes{});
-        if (!png) {
+        const auto foto = Comprimida(imagen.Leer ? imagen.Leer() : almacen::Bytes{});
+        if (!foto) {
             Poner(documento::Parrafo{documento::ImagenIlegible, false});
         } else {
             const documento::MedidaPagina sitio = SitioDePagina();
             const documento::MedidaPagina medida = documento::MedidaDe(
-                imagen, png->Ancho, png->Alto,
+                imagen, foto->Ancho, foto->Alto,
                 {sitio.Ancho / PuntosPorMilimetro, (sitio.Alto - 2 * AltoDeFila) / PuntosPorMilimetro});
-            const auto* bytes = reinterpret_cast<const char*>(png->Archivo.data());
+            const auto* bytes = reinterpret_cast<const char*>(foto->Archivo.data());
             const double alto = medida.Alto * PuntosPorMilimetro;
             SaltarSiNoCabe(alto + 2 * AltoDeFila);  // with its caption
-            hoja_.Imagenes.push_back(
-                {std::string(bytes, png->Archivo.size()), fila_, 0, medida.Ancho * PuntosPorMilimetro, alto});
+            hoja_.Imagenes.push_back({std::string(bytes, foto->Archivo.size()), fila_, 0,
+                                      medida.Ancho * PuntosPorMilimetro, alto});
             fila_ += static_cast<std::size_t>(std::ceil(alto / AltoDeFila)) + 1;
         }
         if (!imagen.Pie.empty()) Poner(documento::Parrafo{imagen.Pie, false});

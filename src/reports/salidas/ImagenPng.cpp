@@ -9,6 +9,8 @@
 
 #include <png.h>
 
+#include "reports/salidas/CabeceraJpeg.h"
+
 namespace trabex::salidas {
 
 namespace {
@@ -120,12 +122,12 @@ almacen::Bytes Comprimir(std::uint32_t ancho, std::uint32_t alto, std::span<cons
     return archivo;
 }
 
-std::optional<ImagenPng> EscribirPng(const MapaDeBits& mapa) {
+std::optional<ImagenComprimida> EscribirPng(const MapaDeBits& mapa) {
     const auto paleta = Empaletar(mapa);
     almacen::Bytes archivo = paleta ? Comprimir(mapa.Ancho, mapa.Alto, paleta->Indices, paleta->Colores)
                                     : Comprimir(mapa.Ancho, mapa.Alto, mapa.Pixeles, {});
     if (archivo.empty()) return std::nullopt;
-    return ImagenPng{mapa.Ancho, mapa.Alto, std::move(archivo)};
+    return ImagenComprimida{mapa.Ancho, mapa.Alto, std::move(archivo)};
 }
 
 constexpr std::array<unsigned char, 8> FirmaPng{0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
@@ -167,10 +169,12 @@ almacen::Bytes PngDe(const ImagenDePaleta& imagen) {
                      imagen.Pixeles, colores);
 }
 
-std::optional<ImagenPng> ComoPng(const almacen::Bytes& archivo) {
+std::optional<ImagenComprimida> Comprimida(const almacen::Bytes& archivo) {
     constexpr std::size_t medidas = 16;  // after the signature and the first chunk's length and name
     if (archivo.size() >= medidas + 8 && std::memcmp(archivo.data(), FirmaPng.data(), FirmaPng.size()) == 0)
-        return ImagenPng{EnteroDeRed(archivo, medidas), EnteroDeRed(archivo, medidas + 4), archivo};
+        return ImagenComprimida{EnteroDeRed(archivo, medidas), EnteroDeRed(archivo, medidas + 4), archivo};
+    if (const auto jpeg = LeerCabeceraJpeg(archivo))
+        return ImagenComprimida{jpeg->Ancho, jpeg->Alto, archivo, true};
     const auto mapa = LeerMapaDeBits(archivo);
     return mapa ? EscribirPng(*mapa) : std::nullopt;
 }

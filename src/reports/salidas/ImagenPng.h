@@ -20,18 +20,20 @@ struct MapaDeBits {
 /// bits run-length encoded. Nothing when the bytes are not one.
 std::optional<MapaDeBits> LeerMapaDeBits(const almacen::Bytes& archivo);
 
-/// A picture as the bytes of a PNG file, and its size in pixels.
-struct ImagenPng {
+/// A picture as documents take it: the bytes of a PNG or JPEG file, and its size in pixels.
+struct ImagenComprimida {
     std::uint32_t Ancho = 0;
     std::uint32_t Alto = 0;
     almacen::Bytes Archivo;
+    bool EsJpeg = false;
 };
 
 /// The picture as a PNG file's bytes; empty when it is too large for one.
 almacen::Bytes PngDe(const ImagenDePaleta& imagen);
 
-/// The bytes of a Windows bitmap or a PNG as a PNG. A drawing of up to 256 colours takes a palette, which
-/// makes it a fraction of the bitmap. Nothing when the bytes are neither.
-std::optional<ImagenPng> ComoPng(const almacen::Bytes& archivo);
+/// The bytes of a Windows bitmap as a PNG, those of a PNG or a JPEG as they stand. A drawing of up to 256
+/// colours takes a palette, which makes it a fraction of the bitmap. Nothing when the bytes are none of
+/// these.
+std::optional<ImagenComprimida> Comprimida(const almacen::Bytes& archivo);
 
 }  // namespace trabex::salidas
