@@ -86,7 +86,7 @@ TEST_F(VentanaDeMarkus, SeEscribeUnNivelSoloConElTeclado) {
     Teclas("6\t");
     EXPECT_EQ(Columna(7), "642,86 761,90");
     Ventana.Accion("ID_Salvar")->trigger();
-    EXPECT_EQ(Programa.Columna("SELECT * FROM Marcus WHERE Nombre='Techo'", "LY"),
+    EXPECT_EQ(Programa.Columna("SELECT CAST(LY AS TEXT) AS LY FROM Marcus WHERE Nombre='Techo'", "LY"),
               (std::vector<std::string>{"4.5", "6.0"}));
     Teclas("\t");
     EXPECT_FALSE(Panos.model()->flags(Panos.model()->index(0, 4)).testFlag(Qt::ItemIsEditable));

@@ -132,7 +132,8 @@ TEST(OpcionesReporte, LoElegidoQuedaAlAceptarYSoloEntonces) {
 
 TEST(ExportarGrafico, SalvaLaImagenConSuZoomYRecuerdaLaCarpeta) {
     const CarpetaTemporal carpeta;
-    std::filesystem::create_directories(carpeta / "otra");
+    for (const char* nombre : {"otra", "ReportesExportados"})
+        std::filesystem::create_directories(carpeta / nombre);
     Aplicacion aplicacion;
     const Carpetas carpetas{.CaminoPrograma = {}, .CaminoUsuario = carpeta.Camino(), .CaminoTemporales = {}};
     EstadoReportes estado;

@@ -173,8 +173,8 @@ void Marcus::Crear() {
 
 void Marcus::Imprimir() {
     const programa::Carpetas& carpetas = servicios_.Carpetas;
-    salida::LLeneDatos({carpetas.CaminoPrograma, carpetas.CaminoUsuario, aplicacion_.Usuario},
-                       aplicacion_.Datos, nivel_, panos_.Panos());
+    salida::LLeneDatos({carpetas.CaminoPrograma, carpetas.Trabajo(), aplicacion_.Usuario}, aplicacion_.Datos,
+                       nivel_, panos_.Panos());
     pantalla_.MostrarReporte();
 }
 

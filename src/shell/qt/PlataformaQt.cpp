@@ -83,6 +83,8 @@ bool PlataformaQt::AbrirCarpeta(const std::filesystem::path& carpeta) {
 }
 
 bool PlataformaQt::LlevarAPapelera(const std::filesystem::path& archivo) {
+    // Without that folder the toolkit takes the current one for the trash.
+    QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
     return QFile::moveToTrash(Q(TextoDeCamino(archivo)));
 }
 
