@@ -293,7 +293,7 @@ TEST_F(Formatos, UnaFotoDeArchivoVaTalCual) {
 }
 
 TEST_F(Formatos, LoQueSeCancelaDejaLoQueHabia) {
-    Preparar({prueba::LosaUniforme(3, 5, 300, 100)});
+    Preparar({prueba::LosaUniforme(40, 5, 300, 100)});
     Reporte reporte = Abrir("ResultadosLosa.rpt");
     for (const int codigo : {FormatoPdf, FormatoHtml, FormatoRtf, FormatoXls}) {
         EscribirArchivo(carpeta / "viejo", "viejo");
