@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QSettings>
+#include <QVBoxLayout>
 #include <QWidget>
 #include <algorithm>
 
@@ -57,12 +58,16 @@ void CaberEnPantalla(QWidget* ventana) {
     ventana->resize(ventana->size().boundedTo(libre.expandedTo(ventana->minimumSizeHint())));
 }
 
-/// A window is wide enough for its title beside the frame's buttons, as far as the screen gives it.
+/// A window is wide enough for its title beside the frame's buttons, as far as the screen gives it. Its
+/// layout holds that width: a minimum of the window itself would take the place of what its controls need.
 void TituloEntero(QWidget* ventana) {
     constexpr int botones = 140;
     const int ancho = ventana->fontMetrics().horizontalAdvance(ventana->windowTitle()) * 6 / 5 + botones;
     const int libre = ventana->screen()->availableSize().width() - 16;
-    ventana->setMinimumWidth(std::max(ventana->minimumWidth(), std::min(ancho, libre)));
+    if (auto* columna = qobject_cast<QVBoxLayout*>(ventana->layout()))
+        columna->addStrut(std::min(ancho, libre));
+    else
+        ventana->setMinimumWidth(std::max(ventana->minimumSizeHint().width(), std::min(ancho, libre)));
 }
 
 }  // namespace
