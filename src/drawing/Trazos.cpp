@@ -124,6 +124,7 @@ class Lector {
         if (cuantos < 0 || static_cast<std::size_t>(cuantos) > bytes_.size())
             return Mal(), std::vector<PuntoLienzo>();
         std::vector<PuntoLienzo> puntos;
+        puntos.reserve(static_cast<std::size_t>(cuantos));
         for (std::int32_t i = 0; i < cuantos; ++i) puntos.push_back(Lugar());
         return puntos;
     }

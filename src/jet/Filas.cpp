@@ -75,7 +75,7 @@ std::string Variable(const Columna& columna, std::size_t orden, const Valor& val
     const std::string& texto = TextoDe(valor);
     switch (columna.De) {
         case Tipo::Texto:
-            if (ComoUtf16(texto).size() > 2U * columna.Ancho)
+            if (ComoUtf16(texto).size() > std::size_t{2} * columna.Ancho)
                 throw ErrorEjecucion(CodigoError::Desbordamiento);
             return Comprimido(texto);
         case Tipo::Binario:

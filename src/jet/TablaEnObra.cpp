@@ -62,7 +62,7 @@ void Columnas(Texto& texto, const std::vector<Columna>& columnas) {
         else if (fija)
             texto.Corto(BytesDe(columna.De));
         else
-            texto.Corto(columna.De == Tipo::Texto ? 2U * columna.Ancho : columna.Ancho);
+            texto.Corto(columna.De == Tipo::Texto ? std::size_t{2} * columna.Ancho : columna.Ancho);
         fija ? lugar += BytesDe(columna.De) : ++variable;
     }
     for (const Columna& columna : columnas) texto.Nombre(columna.Nombre);

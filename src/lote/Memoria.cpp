@@ -108,6 +108,8 @@ documento::Documento Vacio(const ProyectoCalculado& calculado, const std::string
 void Agregar(documento::Documento& memoria, const ProyectoCalculado& calculado, const std::string& fecha,
              const Pintar& pintar) {
     memoria.Secciones.push_back(Portada(calculado.Datos, fecha));
+    memoria.Secciones.push_back(
+        {"Índice", true, false, {documento::Titulo{1, "ÍNDICE"}, documento::Indice{}}});
     memoria.Secciones.push_back(Resumen(calculado));
     for (const Lista& lista : calculado.Listas) {
         if (!TieneCapitulo(lista)) continue;

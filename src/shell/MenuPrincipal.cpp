@@ -233,7 +233,9 @@ void MenuPrincipal::Sobre() {
 }
 
 void MenuPrincipal::TemasAyuda() {
-    AbrirODecir(servicios_, ArchivoDeAyuda());
+    const std::filesystem::path paginas =
+        servicios_.Carpetas.CaminoPrograma / "Manual" / "ayuda" / "index.html";
+    AbrirODecir(servicios_, Existe(ArchivoDeAyuda()) || !Existe(paginas) ? ArchivoDeAyuda() : paginas);
 }
 
 void MenuPrincipal::ManualLosas() {

@@ -45,7 +45,7 @@ bool Vigentes(Conexion& conexion, const std::string& filas, std::string_view con
 
 /// The condition that an element's rows meet, by the shortest way to them.
 std::string Condicion(Conexion& conexion, const TablaDeFilas& tabla, const Clave& clave) {
-    const std::string criterio = Criterio(clave);
+    std::string criterio = Criterio(clave);
     if (!conexion.Abierta() || !std::holds_alternative<std::string>(clave.Dato)) return criterio;
     return conexion.motor()->Nombres().Condicion(tabla.Nombre, criterio).value_or(criterio);
 }

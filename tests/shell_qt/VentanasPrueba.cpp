@@ -109,7 +109,7 @@ TEST_F(Ventanas, ElMenuMandaLosComandos) {
         EXPECT_EQ(suya.NombreProyecto, "otra.los");
         EXPECT_NE(padre, nullptr);
     };
-    VentanaMenuPrincipal menu(aplicacion, servicios, {{"ID_LosasD", abrir}});
+    VentanaMenuPrincipal menu(aplicacion, servicios, {{"ID_LosasD", abrir, "02-losas"}});
     EXPECT_EQ(menu.windowTitle(), "Trabex 2024   Proyecto:[]");
     for (const Comando& comando : Comandos) {
         ASSERT_NE(menu.Accion(comando.Clave), nullptr);

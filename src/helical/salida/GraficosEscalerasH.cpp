@@ -45,7 +45,9 @@ void LleneEscaleraH(almacen::Conexion& temporal, Escaleras escaleras) {
 
 void LleneEscaleraHS(almacen::Conexion& temporal, Escaleras escaleras) {
     almacen::Insercion tabla(SinFilas(temporal, "EscaleraHS"), "EscaleraHS");
-    for (const auto& [escalera, r] : escaleras) {
+    for (const EscaleraHCalculada& una : escaleras) {
+        const DatosEscaleraH& escalera = una.Datos;
+        const ResultadosEscaleraH& r = una.Resultados;
         const auto agregar = [&](int grados, const EstacionEscaleraH& estacion) {
             tabla.Poner("Nombre", escalera.Nombre);
             tabla.Poner("Inter", static_cast<std::int16_t>(grados));

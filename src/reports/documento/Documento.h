@@ -160,7 +160,10 @@ inline constexpr const char* ImagenIlegible = "(El gráfico no se pudo leer)";
 
 struct SaltoDePagina {};
 
-using Bloque = std::variant<Titulo, Parrafo, Ficha, Tabla, Imagen, SaltoDePagina>;
+/// The sections behind its own, with their pages. Outputs without pages leave it out.
+struct Indice {};
+
+using Bloque = std::variant<Titulo, Parrafo, Ficha, Tabla, Imagen, SaltoDePagina, Indice>;
 
 /// A part of the report: an anchor in HTML, a sheet in XLS.
 struct Seccion {

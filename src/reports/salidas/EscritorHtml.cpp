@@ -90,6 +90,7 @@ class PaginaHtml {
         const std::string texto = Escapado(parrafo.Texto);
         return parrafo.Destacado ? "<p><strong>" + texto + "</strong></p>\n" : "<p>" + texto + "</p>\n";
     }
+    std::string De(const documento::Indice&) const { return {}; }
     std::string De(const documento::SaltoDePagina&) const { return "<div class=\"pagina\"></div>\n"; }
     std::string De(const documento::Ficha& ficha) const;
     std::string De(const documento::Tabla& tabla) const;

@@ -74,6 +74,7 @@ class TextoRico {
     std::string Bloque(const trabex::documento::Bloque& bloque) const {
         return std::visit([this](const auto& b) { return De(b); }, bloque);
     }
+    std::string De(const documento::Indice&) const { return {}; }
     std::string De(const documento::SaltoDePagina&) const { return "{\\pard\\fs2\\page\\par}\n"; }
 
   private:

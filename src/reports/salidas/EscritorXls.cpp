@@ -288,6 +288,7 @@ class EscritorDeHoja {
         if (!imagen.Pie.empty()) Poner(documento::Parrafo{imagen.Pie, false});
     }
 
+    void Poner(const documento::Indice& /*indice*/) {}
     void Poner(const documento::SaltoDePagina& /*salto*/) { hoja_.SaltosDePagina.push_back(fila_); }
 
     xls::LibroXls& libro_;

@@ -16,6 +16,7 @@ struct Espacio {
     std::string_view Clave;  ///< of its command in the main window
     /// Shows the workspace until it closes.
     std::function<void(Aplicacion&, const Servicios&, QWidget* padre)> Abrir;
+    const char* Ayuda;  ///< its page of the help
 };
 
 }  // namespace trabex::programa::qt

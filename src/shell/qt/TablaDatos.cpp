@@ -396,7 +396,7 @@ void TablaDatos::Seguir(int tecla, Qt::KeyboardModifiers mas) {
     if (tabulador) {
         const QModelIndex siguiente = mas.testFlag(Qt::ControlModifier) ? QModelIndex() : Avanzar(atras);
         if (!siguiente.isValid()) {
-            QTableView::focusNextPrevChild(!atras);
+            SalirDeLaTabla(!atras);
             return;
         }
         const int empezo = columnaDeEnter_ >= 0 ? columnaDeEnter_ : actual.column();
@@ -458,6 +458,10 @@ void TablaDatos::keyPressEvent(QKeyEvent* evento) {
         default:
             QTableView::keyPressEvent(evento);
     }
+}
+
+void TablaDatos::SalirDeLaTabla(bool adelante) {
+    QTableView::focusNextPrevChild(adelante);
 }
 
 bool TablaDatos::focusNextPrevChild(bool adelante) {

@@ -87,6 +87,8 @@ class TablaDatos : public QTableView, public EntradaJuzgada {
 
     /// Goes where a key leads once its entry is taken.
     virtual void Seguir(int tecla, Qt::KeyboardModifiers mas);
+    /// To the widget behind the table, or the one before it.
+    void SalirDeLaTabla(bool adelante);
 
   private:
     /// The next cell that can be edited; none past the table's end.

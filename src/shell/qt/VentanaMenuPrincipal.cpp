@@ -26,6 +26,8 @@ namespace trabex::programa::qt {
 
 namespace {
 
+constexpr const char* PaginaDelMenu = "01-primer-trabajo";
+
 QString Texto(std::string_view texto) {
     return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
 }
@@ -51,9 +53,11 @@ VentanaMenuPrincipal::VentanaMenuPrincipal(Aplicacion& aplicacion, const Servici
       servicios_(servicios),
       espacios_(std::move(espacios)),
       operaciones_(aplicacion, servicios, *this),
+      ayuda_(servicios_),
       recientes_(new QMenu("Proyectos &Recientes", this)),
       tapiz_(new LienzoTapiz(this)) {
     setObjectName("MenuPrincipal");
+    ayuda_.PonerPagina(PaginaDelMenu);
     setAcceptDrops(true);
     resize(1100, 700);
     setCentralWidget(tapiz_);
@@ -226,7 +230,11 @@ void VentanaMenuPrincipal::MostrarSobre() {
 
 void VentanaMenuPrincipal::MostrarEspacio(std::string_view clave) {
     PunteroDeEspera(false);
-    if (const Espacio* espacio = EspacioDe(clave)) espacio->Abrir(aplicacion_, servicios_, this);
+    const Espacio* espacio = EspacioDe(clave);
+    if (espacio == nullptr) return;
+    ayuda_.PonerPagina(espacio->Ayuda);
+    espacio->Abrir(aplicacion_, servicios_, this);
+    ayuda_.PonerPagina(PaginaDelMenu);
 }
 
 }  // namespace trabex::programa::qt

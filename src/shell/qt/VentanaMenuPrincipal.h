@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "shell/MenuPrincipal.h"
+#include "shell/qt/AyudaF1.h"
 #include "shell/qt/ComunVentanas.h"
 #include "shell/qt/Espacio.h"
 #include "shell/qt/LienzoTapiz.h"
@@ -58,6 +59,7 @@ class VentanaMenuPrincipal : public QMainWindow, public PantallaMenuPrincipal {
     Servicios servicios_;
     std::vector<Espacio> espacios_;
     MenuPrincipal operaciones_;
+    AyudaF1 ayuda_;
     std::map<std::string_view, QAction*> acciones_;
     QMenu* recientes_;
     LienzoTapiz* tapiz_;

@@ -8,12 +8,14 @@ namespace {
 
 programa::qt::Espacio EspacioDe(std::string_view clave, const VarianteAnalisis& variante,
                                 reportes::ui::qt::SalidaDelPrograma& salida) {
-    return {clave, [&salida, &variante](programa::Aplicacion& aplicacion,
-                                        const programa::Servicios& servicios, QWidget* padre) {
+    return {clave,
+            [&salida, &variante](programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
+                                 QWidget* padre) {
                 reportes::ui::EntornoSalida entorno = salida.Entorno(aplicacion, servicios);
                 ListaAnalisis operaciones(aplicacion, servicios, variante, AzarDelSistema());
                 VentanaListaAnalisis(entorno, operaciones, padre).exec();
-            }};
+            },
+            "05-markus"};
 }
 
 }  // namespace

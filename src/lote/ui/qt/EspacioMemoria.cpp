@@ -120,8 +120,10 @@ void Ejecutar(Modulos modulos, programa::Aplicacion& aplicacion, const programa:
 }  // namespace
 
 programa::qt::Espacio EspacioMemoria(Modulos modulos) {
-    return {"ID_Memoria", [modulos](programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
-                                    QWidget* padre) { Ejecutar(modulos, aplicacion, servicios, padre); }};
+    return {"ID_Memoria",
+            [modulos](programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
+                      QWidget* padre) { Ejecutar(modulos, aplicacion, servicios, padre); },
+            "06-salidas"};
 }
 
 }  // namespace trabex::lote::ui::qt

@@ -59,7 +59,7 @@ void TablaDeNiveles::Seguir(int tecla, Qt::KeyboardModifiers mas) {
             return;
         case Qt::Key_Tab:
         case Qt::Key_Backtab:
-            QTableView::focusNextPrevChild(tecla == Qt::Key_Tab && !mas.testFlag(Qt::ShiftModifier));
+            SalirDeLaTabla(tecla == Qt::Key_Tab && !mas.testFlag(Qt::ShiftModifier));
             return;
         default:
             TablaDatos::Seguir(tecla, mas);

@@ -81,7 +81,7 @@ class Escritura {
 
     /// One bookmark a section, where there are several; what the root says of them.
     std::string EscribirMarcadores() {
-        const std::vector<Paginador::Comienzo>& comienzos = paginas_.Comienzos();
+        const std::vector<Comienzo>& comienzos = paginas_.Comienzos();
         if (comienzos.size() < 2) return {};
         const std::size_t indice = archivo_.Reservar();
         std::vector<std::size_t> marcadores;

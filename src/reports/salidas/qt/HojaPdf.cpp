@@ -118,7 +118,7 @@ std::string ImagenesPdf::Agregar(const almacen::Bytes& bytes) {
                        {reinterpret_cast<const char*>(bytes.data()), bytes.size()}, false);
     else
         archivo_.Flujo(numero, medida + "/ColorSpace/DeviceRGB", PixelesDe(imagen));
-    const std::string nombre = "/I" + std::to_string(++cuantas_);
+    std::string nombre = "/I" + std::to_string(++cuantas_);
     nombres_ += nombre + " " + ArchivoPdf::Enlace(numero);
     return nombre;
 }

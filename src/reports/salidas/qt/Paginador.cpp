@@ -42,6 +42,8 @@ Paginador::Paginador(const documento::Documento& documento, const documento::Med
         Colocar(seccion, piezas);
         std::move(piezas.begin(), piezas.end(), std::back_inserter(piezas_));
     }
+    for (const auto& pieza : piezas_)
+        if (pieza) pieza->Numerar(comienzos_);
 }
 
 void Paginador::ComponerMembrete() {

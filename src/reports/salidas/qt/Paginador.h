@@ -24,12 +24,6 @@ class Paginador {
     /// Puts the ink of a page, from 0.
     void Pintar(int pagina, Tinta& tinta) const;
 
-    /// Where a section begins: its page, from 0, and how far below the sheet's upper edge.
-    struct Comienzo {
-        std::string Seccion;
-        int Pagina;
-        double Y;
-    };
     const std::vector<Comienzo>& Comienzos() const { return comienzos_; }
 
   private:

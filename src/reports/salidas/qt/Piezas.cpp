@@ -204,6 +204,61 @@ void PiezaImagen::Pintar(Tinta& tinta, const QPointF& esquina, std::size_t, std:
     }
 }
 
+/// A line a section, with a dotted line to the number of its page.
+class PiezaIndice : public Pieza {
+  public:
+    PiezaIndice(const documento::Indice& indice, const documento::Documento& documento, const Letras& letras,
+                double ancho)
+        : letras_(letras), ancho_(ancho) {
+        const auto tiene = [&](const documento::Seccion& seccion) {
+            return std::any_of(seccion.Bloques.begin(), seccion.Bloques.end(),
+                               [&](const documento::Bloque& bloque) {
+                                   return std::get_if<documento::Indice>(&bloque) == &indice;
+                               });
+        };
+        const auto suya = std::find_if(documento.Secciones.begin(), documento.Secciones.end(), tiene);
+        for (auto seccion = suya; seccion != documento.Secciones.end(); ++seccion)
+            if (seccion != suya && !seccion->Nombre.empty()) secciones_.push_back(seccion->Nombre);
+    }
+
+    double Despues() const override { return letras_.Normal.Alto(); }
+    std::size_t Filas() const override { return std::max<std::size_t>(secciones_.size(), 1); }
+    double Alto(std::size_t desde, std::size_t hasta) const override {
+        return static_cast<double>(hasta - desde) * 1.25 * letras_.Normal.Alto();
+    }
+    /// The last sections are its own: those before it come first in `comienzos`.
+    void Numerar(const std::vector<Comienzo>& comienzos) override {
+        const std::size_t sobran = comienzos.size() - std::min(comienzos.size(), secciones_.size());
+        for (std::size_t i = sobran; i < comienzos.size(); ++i) paginas_.push_back(comienzos[i].Pagina + 1);
+    }
+    void Pintar(Tinta& tinta, const QPointF& esquina, std::size_t desde, std::size_t hasta) const override {
+        const QFontMetricsF metrica(letras_.Normal.Fuente());
+        double base = esquina.y() + letras_.Normal.Ascenso();
+        for (std::size_t i = desde; i < std::min(hasta, paginas_.size()); ++i) {
+            const QString numero = QString::number(paginas_[i]);
+            const double derecha = ancho_ - letras_.Normal.Ancho(numero);
+            const QString nombre = metrica.elidedText(Q(secciones_[i]), Qt::ElideRight, 0.85 * ancho_);
+            const double desdePuntos = letras_.Normal.Ancho(nombre) + 2 * Milimetro;
+            const int puntos =
+                static_cast<int>((derecha - desdePuntos - 2 * Milimetro) / letras_.Normal.Ancho(" ."));
+            tinta.Texto({esquina.x(), base}, nombre, letras_.Normal, Tinte);
+            if (puntos > 0) {
+                const QString linea = QString(" .").repeated(puntos);
+                tinta.Texto({esquina.x() + derecha - 2 * Milimetro - letras_.Normal.Ancho(linea), base},
+                            linea, letras_.Normal, TinteSuave);
+            }
+            tinta.Texto({esquina.x() + derecha, base}, numero, letras_.Normal, Tinte);
+            base += Alto(0, 1);
+        }
+    }
+
+  private:
+    const Letras& letras_;
+    double ancho_;
+    std::vector<std::string> secciones_;
+    std::vector<int> paginas_;
+};
+
 }  // namespace
 
 Letras::Letras(double puntos)
@@ -225,6 +280,8 @@ std::unique_ptr<Pieza> PiezaDe(const documento::Bloque& bloque, const documento:
         return std::make_unique<PiezaFicha>(*ficha, documento.Locales, letras, util.width());
     if (const auto* tabla = std::get_if<documento::Tabla>(&bloque))
         return std::make_unique<PiezaTabla>(*tabla, documento, letras, util.width());
+    if (const auto* indice = std::get_if<documento::Indice>(&bloque))
+        return std::make_unique<PiezaIndice>(*indice, documento, letras, util.width());
     if (const auto* imagen = std::get_if<documento::Imagen>(&bloque))
         return std::make_unique<PiezaImagen>(*imagen, letras, util);
     return nullptr;

@@ -4,6 +4,8 @@
 #include <array>
 #include <cstddef>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "reports/documento/Documento.h"
 #include "reports/salidas/qt/Tinta.h"
@@ -18,6 +20,13 @@ struct Letras {
     TipoDeLetra Cursiva;
     TipoDeLetra Chica;
     std::array<TipoDeLetra, 3> Titulos;
+};
+
+/// Where a section begins: its page, from 0, and how far below the sheet's upper edge.
+struct Comienzo {
+    std::string Seccion;
+    int Pagina;
+    double Y;
 };
 
 /// A block as it stands on pages: how high it is, where it may break, and its ink. It refers to the block and
@@ -37,6 +46,8 @@ class Pieza {
     virtual double Alto(std::size_t desde, std::size_t hasta) const = 0;
     /// Of how many rows at least it begins.
     virtual std::size_t FilasDelPrincipio() const { return 1; }
+    /// Once all have their place.
+    virtual void Numerar(const std::vector<Comienzo>& /*comienzos*/) {}
     virtual void Pintar(Tinta& tinta, const QPointF& esquina, std::size_t desde, std::size_t hasta) const = 0;
 };
 

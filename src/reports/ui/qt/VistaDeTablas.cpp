@@ -19,7 +19,8 @@ std::string Rotulo(const QTableView& tabla, int seccion, Qt::Orientation orienta
 }
 
 documento::Alineacion LadoDe(const QModelIndex& celda) {
-    const auto lado = Qt::Alignment::fromInt(celda.data(Qt::TextAlignmentRole).toInt());
+    const auto lado =
+        Qt::Alignment::fromInt(static_cast<Qt::Alignment::Int>(celda.data(Qt::TextAlignmentRole).toInt()));
     if (lado.testFlag(Qt::AlignRight)) return documento::Alineacion::Derecha;
     return lado.testFlag(Qt::AlignHCenter) ? documento::Alineacion::Centro : documento::Alineacion::Izquierda;
 }

@@ -5,12 +5,14 @@
 namespace trabex::losas::ui::qt {
 
 programa::qt::Espacio EspacioLosas(reportes::ui::qt::SalidaDelPrograma& salida) {
-    return {"ID_LosasD", [&salida, memoria = MemoriaLosas{}](programa::Aplicacion& aplicacion,
-                                                             const programa::Servicios& servicios,
-                                                             QWidget* padre) mutable {
-                SalidasLosas salidas(aplicacion, servicios, salida);
-                VentanaLosas(aplicacion, servicios, memoria, salidas.Operaciones(), padre).exec();
-            }};
+    return {
+        "ID_LosasD",
+        [&salida, memoria = MemoriaLosas{}](programa::Aplicacion& aplicacion,
+                                            const programa::Servicios& servicios, QWidget* padre) mutable {
+            SalidasLosas salidas(aplicacion, servicios, salida);
+            VentanaLosas(aplicacion, servicios, memoria, salidas.Operaciones(), padre).exec();
+        },
+        "02-losas"};
 }
 
 }  // namespace trabex::losas::ui::qt
