@@ -176,6 +176,32 @@ TEST_F(Arranque, RepararRehaceCadaArchivoElegido) {
     EXPECT_EQ(LeerArchivo(proyectos / "b.los"), antes);
     EXPECT_FALSE(pantalla.Cerrada);
 
+    // Another running program has it open: it stays.
+    std::filesystem::permissions(proyectos / "b.los", std::filesystem::perms(0644));
+    ASSERT_TRUE(prueba::Abrir(proyecto, proyectos / "b.los"));
+    reparacion.Aceptar(proyectos, {"b.los"});
+    EXPECT_EQ(caja.Mensajes.back().Texto, "Número de Error: 70\nPermiso denegado");
+    EXPECT_EQ(LeerArchivo(proyectos / "b.los"), antes);
+    proyecto.ConexionProyecto.Cerrar();
+
+    // Of a damaged one the rest comes back, what was lost is told, and the trash has the file as it was.
+    plataforma.HayPapelera = true;
+    CrearBaseDatos(carpeta.Camino() / "programa" / "Imagen" / "LosaImagen.tbx", prueba::EsquemaDeProyecto());
+    std::string bytes = antes;
+    std::fill_n(bytes.begin(), 4096, '\0');  // with it the catalogue
+    EscribirArchivo(proyectos / "b.los", bytes);
+    reparacion.Aceptar(proyectos, {"b.los"});
+    EXPECT_EQ(caja.Mensajes[caja.Mensajes.size() - 2].Texto,
+              "¡Se Repararon Y Compactaron ( 1 ) Archivos con Exito!");
+    EXPECT_EQ(
+        caja.Mensajes.back().Texto,
+        "Archivo: B.LOS\nEstaba Dañado: se Salvaron 6 Filas y se Perdieron 0 Filas y 1 Páginas de Filas");
+    EXPECT_EQ(LeerArchivo(carpeta / "Papelera/b.los"), bytes);
+    ASSERT_TRUE(prueba::Abrir(proyecto, proyectos / "b.los"));
+    EXPECT_EQ(proyecto.RegistrosProyecto.NumeroRegistros(), 1);
+    proyecto.ConexionProyecto.Cerrar();
+    plataforma.HayPapelera = false;
+
     // What is no database: the engine's box, then the failure of the copy.
     caja.Mensajes.clear();
     reparacion.Aceptar(proyectos, {"Ejemplo Demostrativo.los"});

@@ -256,6 +256,26 @@ TEST_F(Menu_, UnGuardadoCortadoNoPasaALaCopiaNiAlQueLoReemplaza) {
     EXPECT_EQ(LeerArchivo(proyectos / "otra.los"), LeerArchivo(Plantilla()));
 }
 
+/// A log that stands beside the place of a new file is another's; a project that another program has open
+/// stays.
+TEST_F(Menu_, NiElDiarioAjenoNiElAbiertoPorOtro) {
+    const auto proyectos = carpetas.Proyectos();
+    EscribirArchivo(proyectos / "obra.los-wal", std::string(5000, 'x'));
+    dialogos.Elegidos = {proyectos / "obra.los"};
+    menu.Ejecutar("ID_Nuevo");
+    EXPECT_FALSE(std::filesystem::exists(proyectos / "obra.los-wal"));
+    ProyectoAbierto otro;
+    ASSERT_TRUE(prueba::Abrir(otro, proyectos / "obra.los"));
+    Losa losa = prueba::LosaContinua({4}, 100);
+    ASSERT_TRUE(prueba::AgregarLosa(otro, losa));
+    dialogos.Elegidos = {proyectos / "obra.los"};
+    menu.Ejecutar("ID_Nuevo");
+    EXPECT_EQ(caja.Mensajes.back().Texto, "Error Número: 70\nPermiso denegado");
+    EXPECT_EQ(otro.RegistrosProyecto.NumeroRegistros(), 1);
+    ASSERT_TRUE(prueba::Abrir(otro, proyectos / "obra.los"));
+    EXPECT_EQ(otro.RegistrosProyecto.NumeroRegistros(), 1);
+}
+
 TEST_F(Menu_, LosComandosDeUnProyectoPrimeroLoAbren) {
     for (const auto& [clave, mostrada] : {std::pair{"ID_LosasD", "ID_LosasD"},
                                           {"ID_Marcus", "ID_Marcus"},
