@@ -155,6 +155,7 @@ using Puntos = std::vector<PuntoLienzo>;
 
 std::vector<Puntos> PuntosDe(const std::vector<LienzoGrabador::Figura>& figuras) {
     std::vector<Puntos> puntos;
+    puntos.reserve(figuras.size());
     for (const auto& figura : figuras) puntos.push_back(figura.Puntos);
     return puntos;
 }

@@ -98,7 +98,7 @@ std::string ArchivoDeFuente(std::uint32_t clase, Tablas tablas) {
     std::string cuerpo;
     std::uint32_t potencia = 1;
     std::uint32_t exponente = 0;
-    for (; potencia * 2 <= tablas.size(); potencia *= 2) ++exponente;
+    for (; std::size_t{potencia} * 2 <= tablas.size(); potencia *= 2) ++exponente;
     AgregarEntero(directorio, clase, 4);
     const auto cuantas = static_cast<std::uint32_t>(tablas.size());
     for (const std::uint32_t valor : {cuantas, potencia * 16, exponente, cuantas * 16 - potencia * 16})
