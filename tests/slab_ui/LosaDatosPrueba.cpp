@@ -148,7 +148,7 @@ TEST_F(Datos, LoCortadoVuelveHastaQueSeSalva) {
     EXPECT_TRUE(datos.PonerJunta(1, 4));
     const Losa antes = datos.Edicion();
     datos.MoverATramo(3);
-    for (const std::size_t tramos : {1, 0, 2, 5, 3}) {
+    for (const std::size_t tramos : {1U, 0U, 2U, 5U, 3U}) {
         datos.PonerNumeroTramos(tramos);
         EXPECT_EQ(datos.LeyendaDeTramo(), tramos == 0 ? "Tramo: 0" : "Tramo: 1");
         EXPECT_EQ(datos.Edicion().JuntasD[1].Junta, 4);
