@@ -95,7 +95,8 @@ class Armado {
 
     /// The lines that join both edges of a flight without steps.
     void Superficie() {
-        for (double desde = 0; desde < c_.Grados(); desde += GradosEntreLineas) {
+        for (int linea = 0; linea * GradosEntreLineas < c_.Grados(); ++linea) {
+            const double desde = linea * GradosEntreLineas;
             const double hasta = std::min<double>(desde + GradosEntreLineas, c_.Grados());
             PorQuiebres(desde, hasta, [&](double g1, double g2) {
                 const double re = c_.RadioExterior();
