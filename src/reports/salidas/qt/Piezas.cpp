@@ -47,9 +47,9 @@ class PiezaTexto : public Pieza {
     QStringList lineas_;
 };
 
-class CajaTitulo : public PiezaTexto {
+class PiezaTitulo : public PiezaTexto {
   public:
-    CajaTitulo(const documento::Titulo& titulo, const Letras& letras, double ancho)
+    PiezaTitulo(const documento::Titulo& titulo, const Letras& letras, double ancho)
         : PiezaTexto(Q(titulo.Texto), letras.Titulos[Lugar(titulo)], TinteDeTitulo, ancho),
           subrayado_(titulo.Nivel == 1 ? ancho : 0) {}
     double Antes() const override { return 0.7 * letra_.Alto(); }
@@ -272,7 +272,7 @@ Letras::Letras(double puntos)
 std::unique_ptr<Pieza> PiezaDe(const documento::Bloque& bloque, const documento::Documento& documento,
                                const Letras& letras, const QSizeF& util) {
     if (const auto* titulo = std::get_if<documento::Titulo>(&bloque))
-        return std::make_unique<CajaTitulo>(*titulo, letras, util.width());
+        return std::make_unique<PiezaTitulo>(*titulo, letras, util.width());
     if (const auto* parrafo = std::get_if<documento::Parrafo>(&bloque))
         return std::make_unique<PiezaTexto>(
             Q(parrafo->Texto), parrafo->Destacado ? letras.Negrita : letras.Normal, Tinte, util.width());
