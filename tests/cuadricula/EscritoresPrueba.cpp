@@ -103,6 +103,19 @@ TEST_F(Escritores, HtmlSegunTidyConYSinBordes) {
     EXPECT_THAT(LeerArchivo(archivo), HasSubstr("Ñandú &quot;a&quot;\tb<br>&lt;c&gt; &amp; 'd'"));
 }
 
+TEST_F(Escritores, UnRotuloAbarcaLasColumnasQueLeSiguen) {
+    Cuadricula grilla = CuadriculaDePrueba(1);
+    HojaDeCuadricula& hoja = grilla.Hojas[0];
+    hoja.Celdas.Filas[1] = {{std::string("CENTRO")}, true, true};
+    const std::vector<std::string> libro = VolcarXls(LibroDe(grilla));
+    EXPECT_THAT(libro, Contains("combinada 3:4 1:4"));  // after the column of row headings
+    EscribirHtml(grilla, true, archivo);
+    EXPECT_THAT(LeerArchivo(archivo), HasSubstr("<td class=\"i\" colspan=\"3\">CENTRO</td></tr>"));
+    hoja.Cabeceras.clear();
+    const documento::Documento pagina = DocumentoDe(grilla, {}, {});
+    EXPECT_EQ(std::get<documento::Tabla>(pagina.Secciones[0].Bloques[0]).Columnas.size(), 3U);
+}
+
 TEST(Pagina, CabezaMargenesYPieDeLaCuadricula) {
     MembreteDeCuadricula membrete{.Titulo = "Pesos", .Usuario = "ING. NÚÑEZ", .Proyecto = "Torre"};
     const documento::Documento hoja = DocumentoDe(CuadriculaDePrueba(2), membrete, {.Apaisada = true});

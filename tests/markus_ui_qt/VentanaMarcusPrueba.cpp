@@ -27,8 +27,12 @@ class VentanaDeMarkus : public testing::Test {
               "INSERT INTO MarcusDatos VALUES ('Piso 1', 3), ('Techo', 0);"
               "INSERT INTO Marcus VALUES ('Piso 1', 1, 900, 1, 4, 4), ('Piso 1', 2, 900, 5, 4, 4),"
               " ('Piso 1', 3, 900, 8, 4, 4);"),
-          Ventana(
-              Programa.aplicacion, Programa.servicios, [](QWidget&) {}, nullptr),
+          Ventana(Programa.aplicacion, Programa.servicios,
+                  {[](QWidget&) {},
+                   [this](const QTableView& panos, const std::string& nivel, QWidget&) {
+                       Impresa = nivel + ":" + std::to_string(panos.model()->rowCount());
+                   }},
+                  nullptr),
           Niveles(*Ventana.findChild<programa::qt::TablaDatos*>("Niveles")),
           Panos(*Ventana.findChild<programa::qt::TablaDatos*>("Panos")) {
         Ventana.show();
@@ -65,6 +69,7 @@ class VentanaDeMarkus : public testing::Test {
     }
 
     ProgramaGuiado Programa;
+    std::string Impresa;  // level and panels of the screen that was printed
     VentanaMarcus Ventana;
     programa::qt::TablaDatos& Niveles;
     programa::qt::TablaDatos& Panos;
@@ -125,6 +130,8 @@ TEST_F(VentanaDeMarkus, UnBloqueElegidoPreguntaPorSuNumero) {
     QTest::mouseRelease(Panos.viewport(), Qt::LeftButton, {}, lugar(2));
     Responder("750");
     EXPECT_EQ(Columna(1), "750,00 750,00 750,00");
+    Ventana.Accion("ID_Pantalla")->trigger();
+    EXPECT_EQ(Impresa, "Piso 1:3");
 }
 
 }  // namespace

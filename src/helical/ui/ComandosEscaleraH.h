@@ -7,7 +7,7 @@
 namespace trabex::helices::ui {
 
 /// The commands of the workspace of helical stairs, beside those that every drawing has.
-inline constexpr std::array<programa::ComandoEspacio, 16> ComandosEscaleraH{{
+inline constexpr std::array<programa::ComandoEspacio, 17> ComandosEscaleraH{{
     {"ID_Abrir", " Abrir Proyecto ", "Abrir Proyecto", "Abrir un proyecto existente. ", "abrir",
      programa::GrupoComandos::Proyecto, false},
     {"ID_Generales", " Datos Generales ", "Datos Generales",
@@ -32,6 +32,9 @@ inline constexpr std::array<programa::ComandoEspacio, 16> ComandosEscaleraH{{
      programa::GrupoComandos::Salida, true},
     {"ID_Exportar", " Exportar los Resultados ", "Exportar Resultados",
      "Exportar las tablas de resultados de la escalera seleccionada. ", "exportar",
+     programa::GrupoComandos::Salida, true},
+    {"ID_Pantalla", " Imprimir la Pantalla Actual ", "Imprimir la Pantalla Actual",
+     "Ver, imprimir y exportar las solicitaciones y el diseño de la escalera. ", "exportar",
      programa::GrupoComandos::Salida, true},
     {"ID_Imprimir", " Imprimir el Gráfico ", "Imprimir Gráfico",
      "Imprimir el gráfico de la escalera seleccionada. ", "imprimir", programa::GrupoComandos::Salida, true},

@@ -7,7 +7,7 @@
 namespace trabex::marcus::ui {
 
 /// The commands of the window `Marcus`.
-inline constexpr std::array<programa::ComandoEspacio, 6> ComandosMarcus{{
+inline constexpr std::array<programa::ComandoEspacio, 7> ComandosMarcus{{
     {"ID_Nueva", " Crear un Nuevo Nivel ", "Crear Nivel", "Crear un nuevo nivel en el proyecto. ", "nuevo",
      programa::GrupoComandos::Elemento, false},
     {"ID_Renombrar", " Renombrar el Nivel Seleccionado ", "Renombrar Nivel",
@@ -20,6 +20,9 @@ inline constexpr std::array<programa::ComandoEspacio, 6> ComandosMarcus{{
      programa::GrupoComandos::Vista, false},
     {"ID_Exportar", " Imprimir los Resultados ", "Exportar Resultados",
      "Imprimir o exportar los resultados del nivel. ", "exportar", programa::GrupoComandos::Salida, true},
+    {"ID_Pantalla", " Imprimir la Pantalla Actual ", "Imprimir la Pantalla Actual",
+     "Ver, imprimir y exportar los paños tal como están en la pantalla. ", "imprimir",
+     programa::GrupoComandos::Salida, true},
 }};
 
 }  // namespace trabex::marcus::ui

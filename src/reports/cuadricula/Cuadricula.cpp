@@ -16,6 +16,11 @@ const std::string& HojaDeCuadricula::Cabecera(std::size_t fila) const {
     return fila < Cabeceras.size() ? Cabeceras[fila] : ninguna;
 }
 
+bool HojaDeCuadricula::TieneCabeceras() const {
+    return std::any_of(Cabeceras.begin(), Cabeceras.end(),
+                       [](const std::string& cabecera) { return !cabecera.empty(); });
+}
+
 double AnchoDeColumnaDeCabeceras(const Cuadricula& cuadricula, const HojaDeCuadricula& hoja) {
     return cuadricula.Hojas.size() > 1 ? AnchoEntreVariasHojas : hoja.AnchoDeCabeceras;
 }

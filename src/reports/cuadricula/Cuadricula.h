@@ -16,6 +16,8 @@ struct HojaDeCuadricula {
     double AnchoDeCabeceras = 15;        ///< mm
 
     const std::string& Cabecera(std::size_t fila) const;
+    /// Without any, a page spares their column; what leaves the grid as data has it all the same.
+    bool TieneCabeceras() const;
 };
 
 /// A grid as its window shows it, free of the window: what is previewed, printed and exported. Exporters and

@@ -48,8 +48,7 @@ std::string Titulos(const documento::Tabla& tabla) {
 }
 
 std::string Tabla(const HojaDeCuadricula& hoja, const Separadores& separadores, bool conBorde) {
-    constexpr std::array<std::string_view, 3> celdas{"<td class=\"i\">", "<td class=\"c\">",
-                                                     "<td class=\"d\">"};
+    constexpr std::array<std::string_view, 3> lados{"<td class=\"i\"", "<td class=\"c\"", "<td class=\"d\""};
     const documento::Tabla& tabla = hoja.Celdas;
     std::string salida = "<table border=\"" + std::string(conBorde ? "1" : "0") + "\" summary=\"" +
                          TextoDeMarcado(hoja.Nombre) + "\">\n" + Titulos(tabla) + "<tbody>\n";
@@ -58,8 +57,11 @@ std::string Tabla(const HojaDeCuadricula& hoja, const Separadores& separadores, 
         salida += "<tr><td colspan=\"" + std::to_string(tabla.Columnas.size() + 1) + "\"></td></tr>\n";
     for (std::size_t f = 0; f < tabla.Filas.size(); ++f) {
         salida += "<tr><th scope=\"row\">" + Texto(hoja.Cabecera(f)) + "</th>";
-        for (std::size_t c = 0; c < tabla.Columnas.size(); ++c) {
-            salida += celdas[static_cast<std::size_t>(tabla.Columnas[c].Lado)];
+        const documento::FilaDeTabla& fila = tabla.Filas[f];
+        for (std::size_t c = 0; c < tabla.Columnas.size(); c += tabla.Abarca(fila, c)) {
+            const std::size_t abarca = tabla.Abarca(fila, c);
+            salida += lados[static_cast<std::size_t>(tabla.Lado(fila, c))];
+            salida += abarca > 1 ? " colspan=\"" + std::to_string(abarca) + "\">" : ">";
             salida += Texto(TextoDeCelda(tabla, f, c, separadores)) + "</td>";
         }
         salida += "</tr>\n";

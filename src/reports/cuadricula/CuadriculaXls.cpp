@@ -42,19 +42,22 @@ std::size_t PonerTitulos(xls::LibroXls& libro, xls::HojaXls& hoja, const documen
 void PonerFilas(xls::LibroXls& libro, xls::HojaXls& hoja, const documento::Tabla& tabla, std::size_t desde,
                 const Separadores& separadores) {
     for (std::size_t f = 0; f < tabla.Filas.size(); ++f) {
+        const documento::FilaDeTabla& fila = tabla.Filas[f];
         for (std::size_t c = 0; c < tabla.Columnas.size(); ++c) {
             const documento::ColumnaDeTabla& columna = tabla.Columnas[c];
-            const std::vector<almacen::Valor>& celdas = tabla.Filas[f].Celdas;
+            const std::vector<almacen::Valor>& celdas = fila.Celdas;
             salidas::ValorEnXls contenido = salidas::ValorDeCelda(
                 c < celdas.size() ? celdas[c] : almacen::Valor(), columna.Formato, "", separadores);
             xls::EstiloXls estilo;
             estilo.Formato = contenido.Formato;
-            estilo.Alineacion = salidas::LadoEnXls(columna.Lado);
+            estilo.Alineacion = salidas::LadoEnXls(tabla.Lado(fila, c));
             estilo.AjustarTexto = true;
             estilo.Bordes = Finos;
             xls::CeldaXls& celda = xls::CeldaEn(hoja, desde + f, c);
             celda.Valor = std::move(contenido.Valor);
             celda.Estilo = xls::EstiloDe(libro, estilo);
+            if (const std::size_t abarca = tabla.Abarca(fila, c); abarca > 1)
+                hoja.Combinadas.push_back({desde + f, c, desde + f, c + abarca - 1});
         }
     }
 }

@@ -23,9 +23,10 @@ documento::Pagina HojaDe(const MembreteDeCuadricula& membrete, const AjustesDeIm
 
 documento::Tabla TablaDe(const Cuadricula& cuadricula, const HojaDeCuadricula& hoja,
                          const AjustesDeImpresion& ajustes) {
-    documento::Tabla tabla = ajustes.CabecerasDeFilas ? ConCabeceras(cuadricula, hoja) : hoja.Celdas;
+    const bool conCabeceras = ajustes.CabecerasDeFilas && hoja.TieneCabeceras();
+    documento::Tabla tabla = conCabeceras ? ConCabeceras(cuadricula, hoja) : hoja.Celdas;
     tabla.Estilo = {.Titulos = ajustes.CabecerasDeColumnas,
-                    .PrimeraEsTitulo = ajustes.CabecerasDeFilas,
+                    .PrimeraEsTitulo = conCabeceras,
                     .Lineas = ajustes.LineasDeCuadricula,
                     .Color = ajustes.Color,
                     .Sombras = ajustes.Sombras};

@@ -96,6 +96,14 @@ bool Tabla::TieneGrupos() const {
                        [](const auto& columna) { return !columna.Grupo.empty(); });
 }
 
+std::size_t Tabla::Abarca(const FilaDeTabla& fila, std::size_t columna) const {
+    return fila.Rotulo && columna + 1 == fila.Celdas.size() ? Columnas.size() - columna : 1;
+}
+
+Alineacion Tabla::Lado(const FilaDeTabla& fila, std::size_t columna) const {
+    return Abarca(fila, columna) > 1 ? Alineacion::Izquierda : Columnas[columna].Lado;
+}
+
 std::vector<double> Tabla::Anchos(double ancho) const {
     double suma = 0;
     for (const ColumnaDeTabla& columna : Columnas) suma += columna.Ancho;

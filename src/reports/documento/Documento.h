@@ -108,7 +108,7 @@ struct FilaDeTabla {
     std::vector<almacen::Valor>
         Celdas;              ///< one a column; a number stays a number in outputs that know numbers
     bool Destacada = false;  ///< totals: bold, under a rule
-    bool Rotulo = false;     ///< its one cell is a text between rows: a window shows it over all columns
+    bool Rotulo = false;     ///< its last cell is a text that reaches over the columns after it
 };
 
 /// How a table looks on pages.
@@ -127,6 +127,10 @@ struct Tabla {
     EstiloDeTabla Estilo{};
 
     bool TieneGrupos() const;
+    /// How many columns the cell of a row reaches over, from its own on.
+    std::size_t Abarca(const FilaDeTabla& fila, std::size_t columna) const;
+    /// The side of a cell: that of its column, or the left where it reaches over several.
+    Alineacion Lado(const FilaDeTabla& fila, std::size_t columna) const;
     /// The columns' widths, made narrower in proportion when they do not fit in `ancho`.
     std::vector<double> Anchos(double ancho) const;
 };

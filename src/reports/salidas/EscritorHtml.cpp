@@ -152,13 +152,15 @@ std::string PaginaHtml::De(const documento::Ficha& ficha) const {
 }
 
 std::string PaginaHtml::Fila(const documento::Tabla& tabla, const documento::FilaDeTabla& fila) const {
-    constexpr std::array<std::string_view, 3> celdas{"<td class=\"i\">", "<td class=\"c\">", "<td>"};
+    constexpr std::array<std::string_view, 3> lados{"<td class=\"i\"", "<td class=\"c\"", "<td"};
     std::string salida = fila.Destacada ? "<tr class=\"total\">" : "<tr>";
-    for (std::size_t i = 0; i < tabla.Columnas.size(); ++i) {
-        const documento::ColumnaDeTabla& columna = tabla.Columnas[i];
-        salida += celdas[static_cast<std::size_t>(columna.Lado)];
+    for (std::size_t i = 0; i < tabla.Columnas.size(); i += tabla.Abarca(fila, i)) {
+        const std::size_t abarca = tabla.Abarca(fila, i);
+        salida += lados[static_cast<std::size_t>(tabla.Lado(fila, i))];
+        salida += abarca > 1 ? " colspan=\"" + std::to_string(abarca) + "\">" : ">";
         if (i < fila.Celdas.size())
-            salida += Escapado(documento::TextoDeValor(fila.Celdas[i], columna.Formato, documento_.Locales));
+            salida += Escapado(
+                documento::TextoDeValor(fila.Celdas[i], tabla.Columnas[i].Formato, documento_.Locales));
         salida += "</td>";
     }
     return salida + "</tr>\n";

@@ -212,14 +212,14 @@ std::string TextoRico::De(const documento::Tabla& tabla) const {
     for (const documento::FilaDeTabla& fila : tabla.Filas) {
         std::string celdas;
         salida += FilaNueva;
-        for (std::size_t i = 0; i < limites.size(); ++i) {
-            const documento::ColumnaDeTabla& columna = tabla.Columnas[i];
-            salida += std::string(fila.Destacada ? BordeDeTotal : BordeDeFila) + Orden("cellx", limites[i]);
+        for (std::size_t i = 0; i < limites.size(); i += tabla.Abarca(fila, i)) {
+            salida += std::string(fila.Destacada ? BordeDeTotal : BordeDeFila) +
+                      Orden("cellx", limites[i + tabla.Abarca(fila, i) - 1]);
             const std::string texto =
-                i < fila.Celdas.size()
-                    ? Escapado(documento::TextoDeValor(fila.Celdas[i], columna.Formato, documento_.Locales))
-                    : std::string();
-            celdas += std::string(Celda) + std::string(Lados[static_cast<std::size_t>(columna.Lado)]) +
+                i < fila.Celdas.size() ? Escapado(documento::TextoDeValor(
+                                             fila.Celdas[i], tabla.Columnas[i].Formato, documento_.Locales))
+                                       : std::string();
+            celdas += std::string(Celda) + std::string(Lados[static_cast<std::size_t>(tabla.Lado(fila, i))]) +
                       (fila.Destacada ? "{\\b " : "{") + texto + "}\\cell";
         }
         salida += celdas + "\\row\n";

@@ -249,15 +249,15 @@ class EscritorDeHoja {
         ++fila_;
     }
     void PonerFila(const documento::Tabla& tabla, const documento::FilaDeTabla& fila) {
-        for (std::size_t c = 0; c < tabla.Columnas.size(); ++c) {
+        for (std::size_t c = 0; c < tabla.Columnas.size(); c += tabla.Abarca(fila, c)) {
             xls::EstiloXls estilo = Estilo();
             estilo.Negrita = fila.Destacada;
-            estilo.Alineacion = LadoEnXls(tabla.Columnas[c].Lado);
+            estilo.Alineacion = LadoEnXls(tabla.Lado(fila, c));
             estilo.Bordes.Inferior = xls::BordeXls::Fino;
             estilo.Bordes.Superior = fila.Destacada ? xls::BordeXls::Fino : xls::BordeXls::Ninguno;
             estilo.Bordes.Color = fila.Destacada ? 0 : LineaDatos;
             const almacen::Valor valor = c < fila.Celdas.size() ? fila.Celdas[c] : almacen::Valor{};
-            PonerValor(c, 1, valor, tabla.Columnas[c].Formato, "", estilo);
+            PonerValor(c, tabla.Abarca(fila, c), valor, tabla.Columnas[c].Formato, "", estilo);
         }
         ++fila_;
     }

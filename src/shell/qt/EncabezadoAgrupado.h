@@ -18,12 +18,14 @@ class EncabezadoAgrupado : public QHeaderView {
     /// Takes the place of the table's heading.
     EncabezadoAgrupado(std::vector<GrupoDeColumnas> grupos, QWidget* padre);
 
+    /// The group that a column stands in; none: null.
+    const GrupoDeColumnas* GrupoDe(int columna) const;
+
   protected:
     QSize sectionSizeFromContents(int columna) const override;
     void paintSection(QPainter* pintor, const QRect& lugar, int columna) const override;
 
   private:
-    const GrupoDeColumnas* GrupoDe(int columna) const;
     int AltoDeGrupo() const { return fontMetrics().height() + 6; }
 
     std::vector<GrupoDeColumnas> grupos_;

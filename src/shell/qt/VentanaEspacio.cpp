@@ -139,7 +139,7 @@ void VentanaEspacio::PonerAtajos() {
         QKeySequence Tecla;
         bool SoloEnLaLista = false;
     };
-    const std::array<Atajo, 18> atajos{{{"ID_Abrir", QKeySequence::Open},
+    const std::array<Atajo, 19> atajos{{{"ID_Abrir", QKeySequence::Open},
                                         {"ID_Generales", QKeySequence("Ctrl+G")},
                                         {"ID_Nueva", QKeySequence::New},
                                         {"ID_Editar", QKeySequence("F4")},
@@ -151,6 +151,7 @@ void VentanaEspacio::PonerAtajos() {
                                         {"ID_Graficos", QKeySequence("Ctrl+Shift+G")},
                                         {"ID_Exportar", QKeySequence("Ctrl+E")},
                                         {"ID_Imprimir", QKeySequence::Print},
+                                        {"ID_Pantalla", QKeySequence("Ctrl+Shift+P")},
                                         {"ID_Planex", QKeySequence("Ctrl+L")},
                                         {"ID_ExportarG", QKeySequence("Ctrl+I")},
                                         {"ID_ZoomIN", QKeySequence::ZoomIn},

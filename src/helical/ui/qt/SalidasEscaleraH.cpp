@@ -4,10 +4,12 @@
 
 #include "drawing/helice/GraficoHelice.h"
 #include "helical/salida/GraficosEscalerasH.h"
+#include "helical/salida/PanelesEscaleraH.h"
 #include "reports/ui/qt/ImprimirDibujos.h"
 #include "reports/ui/qt/MontarConPanel.h"
 #include "reports/ui/qt/VentanaExportarGrafico.h"
 #include "reports/ui/qt/VentanaSalidaReporte.h"
+#include "reports/ui/qt/VistaDeTablas.h"
 
 namespace trabex::helices::ui::qt {
 
@@ -30,6 +32,7 @@ OperacionesDeHelices SalidasEscaleraH::Operaciones() {
     };
     return {{"ID_Graficos", propia(&SalidasEscaleraH::ExportarGrafico)},
             {"ID_Exportar", propia(&SalidasEscaleraH::ExportarTablas)},
+            {"ID_Pantalla", propia(&SalidasEscaleraH::ImprimirPaneles)},
             {"ID_Imprimir", propia(&SalidasEscaleraH::ImprimirGrafico)},
             {"ID_ExportarG", propia(&SalidasEscaleraH::ExportarImagen)}};
 }
@@ -54,6 +57,13 @@ void SalidasEscaleraH::ExportarTablas(EscaleraH& escaleras, VentanaEscaleraH& ve
     salida_.Estado.ReporteActual = ReporteEscaleraH;
     VentanaSalidaReporte(entorno_, VentanaSalidaReporte::Clase::Tabular, &ventana).exec();
     escaleras.Releer();
+}
+
+void SalidasEscaleraH::ImprimirPaneles(EscaleraH& escaleras, VentanaEscaleraH& ventana) {
+    const EscaleraHCalculada& escalera = escaleras.Calculada();
+    reportes::ui::qt::ImprimirPantallaActual(
+        entorno_, {salida::ColoqueSolicitaciones(escalera), salida::ColoqueDiseno(escalera)},
+        salida::TituloReporteH, &ventana);
 }
 
 void SalidasEscaleraH::ImprimirGrafico(EscaleraH& escaleras, VentanaEscaleraH& ventana) {

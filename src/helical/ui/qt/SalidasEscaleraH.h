@@ -19,6 +19,7 @@ class SalidasEscaleraH {
   private:
     void ExportarGrafico(EscaleraH& escaleras, VentanaEscaleraH& ventana);
     void ExportarTablas(EscaleraH& escaleras, VentanaEscaleraH& ventana);
+    void ImprimirPaneles(EscaleraH& escaleras, VentanaEscaleraH& ventana);
     void ImprimirGrafico(EscaleraH& escaleras, VentanaEscaleraH& ventana);
     void ExportarImagen(EscaleraH& escaleras, VentanaEscaleraH& ventana);
 

@@ -13,6 +13,7 @@
 #include "loads/ui/qt/VentanaAnalisisCargaBDCP.h"
 #include "loads/ui/qt/VentanasDeCreacion.h"
 #include "loads/ui/qt/VentanasDeEleccion.h"
+#include "reports/ui/qt/VistaDeTablas.h"
 #include "shell/qt/ComunVentanas.h"
 
 namespace trabex::cargas::ui::qt {
@@ -57,6 +58,11 @@ void VentanaAnalisisCargaModificar::Armar() {
                  {"ID_Variables", "carga", "Base de Datos de Cargas &Variables",
                   "Buscar en los pesos unitarios de cargas variables.", "Ctrl+Shift+B",
                   tras([this] { operaciones_.BuscarPesos(PesosVariables); })},
+                 {"ID_Imprimir", "imprimir", "&Imprimir la Pantalla Actual",
+                  "Ver, imprimir y exportar las cargas del análisis.", "Ctrl+P", tras([this] {
+                      reportes::ui::qt::ImprimirPantallaActual(entorno_, {{tabla_, "Cargas Permanentes"}},
+                                                               S(descripcion_->text()), this);
+                  })},
                  {"ID_Normas", "manual", "N&ormas", "Ver la norma de acciones mínimas.", "Ctrl+M",
                   tras([this] { operaciones_.VerNorma(); })}});
     columna->addWidget(Desplazador());

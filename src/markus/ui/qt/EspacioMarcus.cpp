@@ -1,7 +1,11 @@
 #include "markus/ui/qt/EspacioMarcus.h"
 
+#include <QTableView>
+
+#include "markus/salida/ReporteMarcus.h"
 #include "markus/ui/qt/VentanaMarcus.h"
 #include "reports/ui/qt/VentanaSalidaReporte.h"
+#include "reports/ui/qt/VistaDeTablas.h"
 
 namespace trabex::marcus::ui::qt {
 
@@ -21,7 +25,11 @@ programa::qt::Espacio EspacioMarcus(reportes::ui::qt::SalidaDelPrograma& salida)
                 salida.Estado.ReporteActual = ReporteMarcus;
                 VentanaSalidaReporte(entorno, VentanaSalidaReporte::Clase::Tabular, &ventana).exec();
             };
-            VentanaMarcus(aplicacion, servicios, reporte, padre).exec();
+            const auto pantalla = [&](const QTableView& panos, const std::string& nivel, QWidget& ventana) {
+                reportes::ui::qt::ImprimirPantallaActual(entorno, {{&panos, QString::fromStdString(nivel)}},
+                                                         salida::TituloReporteMarcus, &ventana);
+            };
+            VentanaMarcus(aplicacion, servicios, {reporte, pantalla}, padre).exec();
         },
         "05-markus"};
 }

@@ -41,10 +41,10 @@ QString Texto(std::string_view texto) {
 }  // namespace
 
 VentanaMarcus::VentanaMarcus(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
-                             std::function<void(QWidget&)> reporte, QWidget* padre)
+                             SalidasDeMarcus salidas, QWidget* padre)
     : QDialog(padre),
       aplicacion_(aplicacion),
-      reporte_(std::move(reporte)),
+      salidas_(std::move(salidas)),
       operaciones_(aplicacion, servicios, *this, *this) {
     setObjectName("Marcus");
     setWindowTitle("COEFICIENTES DE REPARTICIÓN DE LA CARGA POR EL MÉTODO DE MARKUS");
@@ -120,11 +120,13 @@ void VentanaMarcus::CrearAcciones() {
         {"ID_Salvar", [this] { operaciones_.Salvar(); }},
         {"ID_Deshacer", [this] { operaciones_.Deshacer(); }},
         {"ID_Exportar", [this] { operaciones_.Imprimir(); }},
+        {"ID_Pantalla", [this] { salidas_.Pantalla(*panos_, operaciones_.Nivel(), *this); }},
     };
     const std::map<std::string_view, QKeySequence> atajos{{"ID_Nueva", QKeySequence::New},
                                                           {"ID_Salvar", QKeySequence::Save},
                                                           {"ID_Deshacer", QKeySequence::Undo},
-                                                          {"ID_Exportar", QKeySequence::Print}};
+                                                          {"ID_Exportar", QKeySequence::Print},
+                                                          {"ID_Pantalla", QKeySequence("Ctrl+Shift+P")}};
     for (const programa::ComandoEspacio& comando : ComandosMarcus) {
         auto* accion =
             new QAction(programa::qt::Icono(Texto(comando.Icono)), Texto(comando.Nombre).trimmed(), this);

@@ -10,6 +10,7 @@
 
 class QLabel;
 class QMenuBar;
+class QTableView;
 
 namespace trabex::marcus::ui::qt {
 
@@ -17,13 +18,18 @@ class FiguraCasos;
 class TablaDeNiveles;
 class TablaDePanos;
 
+/// What sends the panels out of the window.
+struct SalidasDeMarcus {
+    std::function<void(QWidget& ventana)> Reporte;  ///< shows the window of report output
+    std::function<void(const QTableView& panos, const std::string& nivel, QWidget& ventana)> Pantalla;
+};
+
 /// The window `Marcus`: the levels of a project, the panels of the selected one with their shares, and the
 /// support cases.
 class VentanaMarcus : public QDialog, public programa::PantallaEspacio, public PantallaMarcus {
   public:
-    /// `reporte` shows the window of report output.
     VentanaMarcus(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
-                  std::function<void(QWidget& ventana)> reporte, QWidget* padre);
+                  SalidasDeMarcus salidas, QWidget* padre);
 
     QAction* Accion(std::string_view clave) const { return acciones_.at(clave); }
 
@@ -46,7 +52,7 @@ class VentanaMarcus : public QDialog, public programa::PantallaEspacio, public P
     void SoltarBloque() override;
     std::string Pedir(const std::string& texto, const std::string& encabezado) override;
     bool MostrarMarcusNuevo() override;
-    void MostrarReporte() override { reporte_(*this); }
+    void MostrarReporte() override { salidas_.Reporte(*this); }
 
     /// The window's cross.
     void reject() override;
@@ -67,7 +73,7 @@ class VentanaMarcus : public QDialog, public programa::PantallaEspacio, public P
     void MostrarCaso();
 
     programa::Aplicacion& aplicacion_;
-    std::function<void(QWidget&)> reporte_;
+    SalidasDeMarcus salidas_;
     Marcus operaciones_;
     std::map<std::string_view, QAction*> acciones_;
     TablaDeNiveles* niveles_ = nullptr;

@@ -62,6 +62,7 @@ std::vector<double> PiezaTabla::AnchosMinimos() const {
     for (std::size_t i = 0; i < tabla_.Columnas.size(); ++i) {
         double ancho = negrita_->AnchoDePalabra(QString::fromStdString(tabla_.Columnas[i].Titulo));
         for (std::size_t fila = 0; fila < tabla_.Filas.size(); ++fila) {
+            if (tabla_.Abarca(tabla_.Filas[fila], i) > 1) continue;
             const TipoDeLetra& letra = tabla_.Filas[fila].Destacada ? *negrita_ : *normal_;
             const QString texto = Celda(fila, i);
             // A long word gives way: it can be broken where a number can not.
@@ -71,6 +72,15 @@ std::vector<double> PiezaTabla::AnchosMinimos() const {
             ancho = std::max(ancho, preciso);
         }
         minimos.push_back(ancho + 2 * Margen);
+    }
+    for (const documento::GrupoDeColumnas& grupo : documento::GruposDe(tabla_)) {
+        const auto primera = minimos.begin() + static_cast<std::ptrdiff_t>(grupo.Desde);
+        const auto fin = primera + static_cast<std::ptrdiff_t>(grupo.Cuantas);
+        const double falta = negrita_->AnchoDePalabra(QString::fromStdString(grupo.Titulo)) + 2 * Margen -
+                             std::accumulate(primera, fin, 0.0);
+        if (falta <= 0) continue;
+        for (auto minimo = primera; minimo != fin; ++minimo)
+            *minimo += falta / static_cast<double>(grupo.Cuantas);
     }
     return minimos;
 }
@@ -86,9 +96,12 @@ void PiezaTabla::MedirColumnas(double puntos, double ancho) {
     anchos_ = Repartir(deseados, minimos, ancho);
 }
 
-QStringList PiezaTabla::LineasDeCelda(const QString& texto, std::size_t columna,
-                                      const TipoDeLetra& letra) const {
-    return SeParte(columna) ? letra.Lineas(texto, anchos_[columna] - 2 * Margen) : QStringList(texto);
+QStringList PiezaTabla::LineasDeCelda(std::size_t fila, std::size_t columna) const {
+    const QString texto = Celda(fila, columna);
+    const documento::FilaDeTabla& suya = tabla_.Filas[fila];
+    if (tabla_.Lado(suya, columna) != documento::Alineacion::Izquierda) return QStringList(texto);
+    const TipoDeLetra& letra = suya.Destacada ? *negrita_ : *normal_;
+    return letra.Lineas(texto, Ancho(columna, tabla_.Abarca(suya, columna)) - 2 * Margen);
 }
 
 QStringList PiezaTabla::LineasDeTitulo(const std::string& titulo, double ancho) const {
@@ -117,11 +130,10 @@ void PiezaTabla::MedirFilas() {
     };
     if (tabla_.Estilo.Titulos) MedirTitulos(alto);
     for (std::size_t fila = 0; fila < tabla_.Filas.size(); ++fila) {
-        const TipoDeLetra& letra = tabla_.Filas[fila].Destacada ? *negrita_ : *normal_;
         qsizetype lineas = 1;
-        for (std::size_t i = 0; i < anchos_.size(); ++i) {
-            if (SeParte(i)) lineas = std::max(lineas, LineasDeCelda(Celda(fila, i), i, letra).size());
-        }
+        for (std::size_t i = 0; i < anchos_.size(); ++i)
+            if (tabla_.Lado(tabla_.Filas[fila], i) == documento::Alineacion::Izquierda)
+                lineas = std::max(lineas, LineasDeCelda(fila, i).size());
         altos_.push_back(alto(lineas));
     }
 }
@@ -186,25 +198,27 @@ double PiezaTabla::PintarCabecera(Tinta& tinta, const QPointF& esquina) const {
 }
 
 void PiezaTabla::PintarFila(Tinta& tinta, const QPointF& esquina, std::size_t fila) const {
-    const bool destacada = tabla_.Filas[fila].Destacada;
+    const documento::FilaDeTabla& suya = tabla_.Filas[fila];
+    const bool destacada = suya.Destacada;
     const TipoDeLetra& letra = destacada ? *negrita_ : *normal_;
     const double pie = esquina.y() + altos_[fila];
     if (tabla_.Estilo.PrimeraEsTitulo)
         PintarFondo(tinta, {esquina.x(), esquina.y(), anchos_.front(), altos_[fila]});
     double x = esquina.x();
-    for (std::size_t i = 0; i < anchos_.size(); ++i) {
+    for (std::size_t i = 0; i < anchos_.size(); i += tabla_.Abarca(suya, i)) {
+        const double ancho = Ancho(i, tabla_.Abarca(suya, i));
         if (tabla_.Estilo.Lineas) tinta.Raya({x, esquina.y()}, {x, pie}, Grosor, Tono(RayaDeFila));
         double y = esquina.y() + EntreLineas / 2 * letra.Alto() + letra.Ascenso();
-        for (const QString& linea : LineasDeCelda(Celda(fila, i), i, letra)) {
-            const double hueco = anchos_[i] - letra.Ancho(linea);
-            const documento::Alineacion lado = tabla_.Columnas[i].Lado;
+        for (const QString& linea : LineasDeCelda(fila, i)) {
+            const double hueco = ancho - letra.Ancho(linea);
+            const documento::Alineacion lado = tabla_.Lado(suya, i);
             const double sangria = lado == documento::Alineacion::Izquierda ? Margen
                                    : lado == documento::Alineacion::Centro  ? hueco / 2
                                                                             : hueco - Margen;
             if (!linea.isEmpty()) tinta.Texto({x + sangria, y}, linea, letra, TinteDeCelda);
             y += letra.Alto();
         }
-        x += anchos_[i];
+        x += ancho;
     }
     if (tabla_.Estilo.Lineas) tinta.Raya({x, esquina.y()}, {x, pie}, Grosor, Tono(RayaDeFila));
     tinta.Raya({esquina.x(), pie}, {x, pie}, Grosor, Tono(RayaDeFila));

@@ -35,7 +35,7 @@ class PiezaTabla : public Pieza {
         return tabla_.Columnas[columna].Lado == documento::Alineacion::Izquierda;
     }
     QString Celda(std::size_t fila, std::size_t columna) const;
-    QStringList LineasDeCelda(const QString& texto, std::size_t columna, const TipoDeLetra& letra) const;
+    QStringList LineasDeCelda(std::size_t fila, std::size_t columna) const;
     QStringList LineasDeTitulo(const std::string& titulo, double ancho) const;
     double Ancho(std::size_t desde, std::size_t cuantas) const;
     QColor Tono(const QColor& color) const;

@@ -3,9 +3,11 @@
 #include <QHeaderView>
 #include <QTableView>
 #include <algorithm>
+#include <utility>
 
 #include "reports/ui/qt/VentanaVistaPreviaR.h"
 #include "shell/qt/ComunVentanas.h"
+#include "shell/qt/EncabezadoAgrupado.h"
 
 namespace trabex::reportes::ui::qt {
 
@@ -62,6 +64,9 @@ class LectorDeTabla {
     void LeerColumna(int columna, documento::Tabla& celdas) const {
         documento::ColumnaDeTabla leida;
         leida.Titulo = Rotulo(tabla_, columna, Qt::Horizontal);
+        if (const auto* encabezado =
+                dynamic_cast<const programa::qt::EncabezadoAgrupado*>(tabla_.horizontalHeader()))
+            if (const auto* grupo = encabezado->GrupoDe(columna)) leida.Grupo = S(grupo->Titulo);
         leida.Ancho = Milimetros(tabla_.columnWidth(columna));
         leida.Lado = documento::Alineacion::Izquierda;
         FormatoLeido formato;
@@ -107,8 +112,13 @@ cuadricula::Cuadricula CuadriculaDe(const std::vector<TablaEnPantalla>& tablas,
 
 void ImprimirPantallaActual(EntornoSalida& entorno, const std::vector<TablaEnPantalla>& tablas,
                             const std::string& titulo, QWidget* padre, bool apaisada) {
-    const cuadricula::Cuadricula GrillaPreview =
-        CuadriculaDe(tablas, entorno.LaAplicacion.SeparadoresLocales);
+    ImprimirPantallaActual(entorno, CuadriculaDe(tablas, entorno.LaAplicacion.SeparadoresLocales).Hojas,
+                           titulo, padre, apaisada);
+}
+
+void ImprimirPantallaActual(EntornoSalida& entorno, std::vector<cuadricula::HojaDeCuadricula> hojas,
+                            const std::string& titulo, QWidget* padre, bool apaisada) {
+    const cuadricula::Cuadricula GrillaPreview{std::move(hojas), entorno.LaAplicacion.SeparadoresLocales};
     VentanaVistaPreviaR ventana(entorno, GrillaPreview, titulo, documento::Alineacion::Centro, apaisada,
                                 padre);
     programa::qt::MostrarModal(ventana);

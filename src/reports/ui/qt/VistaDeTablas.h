@@ -29,4 +29,8 @@ cuadricula::Cuadricula CuadriculaDe(const std::vector<TablaEnPantalla>& tablas,
 void ImprimirPantallaActual(EntornoSalida& entorno, const std::vector<TablaEnPantalla>& tablas,
                             const std::string& titulo, QWidget* padre, bool apaisada = false);
 
+/// The same for a window whose tables are sheets of cells already.
+void ImprimirPantallaActual(EntornoSalida& entorno, std::vector<cuadricula::HojaDeCuadricula> hojas,
+                            const std::string& titulo, QWidget* padre, bool apaisada = false);
+
 }  // namespace trabex::reportes::ui::qt
