@@ -76,17 +76,16 @@ Seccion Resumen(const ProyectoCalculado& calculado) {
 
 /// An element: what its module tells, with its drawings behind the data.
 Seccion SeccionDe(const Lista& lista, const Elemento& elemento, const Separadores& numeros,
-                  const Pintar& pintar) {
+                  const Ilustrar& ilustrar) {
     Seccion seccion{elemento.Nombre, true, false, {documento::Titulo{2, elemento.Nombre}}};
     ParteDeMemoria parte = lista.De->Memoria->Contar(lista, elemento, numeros);
     std::move(parte.Datos.begin(), parte.Datos.end(), std::back_inserter(seccion.Bloques));
     if (!elemento.Error.empty())
         seccion.Bloques.emplace_back(documento::Parrafo{"El cálculo no terminó: " + elemento.Error, true});
-    if (lista.De->Dibujos != nullptr && pintar)
-        for (Dibujo& dibujo : lista.De->Dibujos(lista, elemento)) {
-            const std::string pie = dibujo.Titulo;
-            seccion.Bloques.emplace_back(documento::Imagen{
-                [dibujo = std::move(dibujo), pintar] { return pintar(dibujo); }, 0, AltoDeDibujo, pie});
+    if (ilustrar)
+        for (documento::Imagen& imagen : ilustrar(elemento)) {
+            imagen.Alto = AltoDeDibujo;
+            seccion.Bloques.emplace_back(std::move(imagen));
         }
     std::move(parte.Resultados.begin(), parte.Resultados.end(), std::back_inserter(seccion.Bloques));
     return seccion;
@@ -106,7 +105,7 @@ documento::Documento Vacio(const ProyectoCalculado& calculado, const std::string
 }
 
 void Agregar(documento::Documento& memoria, const ProyectoCalculado& calculado, const std::string& fecha,
-             const Pintar& pintar) {
+             const Ilustrar& ilustrar) {
     memoria.Secciones.push_back(Portada(calculado.Datos, fecha));
     memoria.Secciones.push_back(
         {"Índice", true, false, {documento::Titulo{1, "ÍNDICE"}, documento::Indice{}}});
@@ -118,7 +117,7 @@ void Agregar(documento::Documento& memoria, const ProyectoCalculado& calculado, 
             capitulo.Bloques.emplace_back(documento::Parrafo{parrafo});
         memoria.Secciones.push_back(std::move(capitulo));
         for (const Elemento& elemento : lista.Elementos) {
-            memoria.Secciones.push_back(SeccionDe(lista, elemento, memoria.Locales, pintar));
+            memoria.Secciones.push_back(SeccionDe(lista, elemento, memoria.Locales, ilustrar));
             memoria.Secciones.back().PaginaNueva = &elemento != lista.Elementos.data();
         }
     }
@@ -127,20 +126,20 @@ void Agregar(documento::Documento& memoria, const ProyectoCalculado& calculado, 
 }  // namespace
 
 documento::Documento ComponerMemoria(const ProyectoCalculado& calculado, const std::string& fecha,
-                                     const Separadores& numeros, const Pintar& pintar) {
+                                     const Separadores& numeros, const Ilustrar& ilustrar) {
     documento::Documento memoria = Vacio(calculado, fecha, numeros);
-    Agregar(memoria, calculado, fecha, pintar);
+    Agregar(memoria, calculado, fecha, ilustrar);
     return memoria;
 }
 
 documento::Documento ComponerMemoriaEnHojas(const ProyectoCalculado& calculado, const std::string& fecha,
-                                            const Separadores& numeros, const Pintar& pintar) {
+                                            const Separadores& numeros, const Ilustrar& ilustrar) {
     documento::Documento memoria = Vacio(calculado, fecha, numeros);
     for (const Lista& lista : calculado.Listas)
         if (TieneCapitulo(lista) && lista.De->Memoria->Tablas != nullptr)
             for (auto& [nombre, tabla] : lista.De->Memoria->Tablas(lista))
                 memoria.Secciones.push_back({nombre, false, false, {std::move(tabla)}});
-    Agregar(memoria, calculado, fecha, pintar);
+    Agregar(memoria, calculado, fecha, ilustrar);
     return memoria;
 }
 

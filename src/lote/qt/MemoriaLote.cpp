@@ -23,34 +23,50 @@ namespace trabex::lote::qt {
 
 namespace {
 
-/// Each drawing as a picture, made once for all formats.
+/// The drawings of a project, each drawn once for all formats: as strokes, and where a format takes no
+/// strokes, as a picture.
 class Pinturas {
   public:
-    Pinturas(const ProyectoCalculado& calculado, const Marcha& marcha) {
-        std::vector<Dibujo> dibujos;
+    Pinturas(const ProyectoCalculado& calculado, bool conPixeles, const Marcha& marcha) {
+        std::vector<std::pair<Pintura*, Dibujo>> dibujos;
         for (const Lista& lista : calculado.Listas) {
             if (lista.De->Memoria == nullptr || lista.De->Dibujos == nullptr) continue;
-            for (const Elemento& elemento : lista.Elementos)
-                for (Dibujo& dibujo : lista.De->Dibujos(lista, elemento))
-                    dibujos.push_back(std::move(dibujo));
+            for (const Elemento& elemento : lista.Elementos) {
+                std::vector<Dibujo> suyos = lista.De->Dibujos(lista, elemento);
+                std::vector<Pintura>& pinturas = de_[&elemento];
+                pinturas.resize(suyos.size());
+                for (std::size_t i = 0; i < suyos.size(); ++i) {
+                    pinturas[i].Titulo = suyos[i].Titulo;
+                    dibujos.emplace_back(&pinturas[i], std::move(suyos[i]));
+                }
+            }
         }
-        std::vector<almacen::Bytes> hechas(dibujos.size());
         Repartir(marcha, "Dibujando la memoria", dibujos.size(), [&](std::size_t i, unsigned) {
             montaje::qt::SuperficieQt superficie;
-            superficie.Dibujar(dibujo::AnchoGraficoTwips, dibujo::AltoGraficoTwips, dibujos[i].Dibujar);
-            hechas[i] = superficie.Imagen().Png;
+            superficie.Dibujar(dibujo::AnchoGraficoTwips, dibujo::AltoGraficoTwips,
+                               dibujos[i].second.Dibujar);
+            dibujos[i].first->Trazos = superficie.Trazos();
+            if (conPixeles) dibujos[i].first->Png = superficie.Png();
         });
-        for (std::size_t i = 0; i < dibujos.size(); ++i)
-            de_[dibujos[i].Clave + '\n' + dibujos[i].Titulo] = std::move(hechas[i]);
     }
 
-    almacen::Bytes operator()(const Dibujo& dibujo) const {
-        const auto cual = de_.find(dibujo.Clave + '\n' + dibujo.Titulo);
-        return cual == de_.end() ? almacen::Bytes{} : cual->second;
+    std::vector<documento::Imagen> De(const Elemento& elemento) const {
+        std::vector<documento::Imagen> imagenes;
+        const auto suyas = de_.find(&elemento);
+        if (suyas == de_.end()) return imagenes;
+        for (const Pintura& pintura : suyas->second)
+            imagenes.push_back({[&pintura] { return pintura.Png; }, 0, 0, pintura.Titulo,
+                                [&pintura] { return pintura.Trazos; }});
+        return imagenes;
     }
 
   private:
-    std::map<std::string, almacen::Bytes> de_;
+    struct Pintura {
+        std::string Titulo;
+        almacen::Bytes Trazos;
+        almacen::Bytes Png;
+    };
+    std::map<const Elemento*, std::vector<Pintura>> de_;
 };
 
 constexpr std::array<std::pair<std::string_view, int>, 4> Formatos{{{".pdf", salidas::FormatoPdf},
@@ -71,18 +87,21 @@ void EscribirMemoria(const ProyectoCalculado& calculado, bool dibujos, const Sep
     salidas::MotorReportes motor;
     motor.Registrar(salidas::FormatoPdf, salidas::qt::EscribirPdf);
     std::optional<Pinturas> pinturas;
-    Pintar pintar;
+    Ilustrar ilustrar;
     if (dibujos) {
-        pinturas.emplace(calculado, marcha);
-        pintar = [&pinturas](const Dibujo& dibujo) { return (*pinturas)(dibujo); };
+        const bool conPixeles = std::any_of(archivos.begin(), archivos.end(), [](const auto& archivo) {
+            return FormatoDe(archivo.Extension) != salidas::FormatoPdf;
+        });
+        pinturas.emplace(calculado, conPixeles, marcha);
+        ilustrar = [&pinturas](const Elemento& elemento) { return pinturas->De(elemento); };
     }
     const std::string fecha = FormatoFecha(Hoy());
     Repartir(marcha, "Escribiendo la memoria", archivos.size(), [&](std::size_t i, unsigned) {
         const int formato = FormatoDe(archivos[i].Extension);
         try {
             motor.Exportar(formato == salidas::FormatoXls
-                               ? ComponerMemoriaEnHojas(calculado, fecha, numeros, pintar)
-                               : ComponerMemoria(calculado, fecha, numeros, pintar),
+                               ? ComponerMemoriaEnHojas(calculado, fecha, numeros, ilustrar)
+                               : ComponerMemoria(calculado, fecha, numeros, ilustrar),
                            formato, archivos[i].Camino);
         } catch (const ErrorEjecucion& error) {
             faltas.Anotar(TextoDeCamino(archivos[i].Camino.filename()), error.Texto());

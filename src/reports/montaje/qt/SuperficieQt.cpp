@@ -35,8 +35,12 @@ salidas::ImagenDePaleta SuperficieQt::Reducida() const {
 
 ImagenMontada SuperficieQt::Imagen() const {
     const salidas::ImagenDePaleta reducida = Reducida();
+    return {salidas::MapaDeBitsDe(reducida), salidas::PngDe(reducida), Trazos()};
+}
+
+almacen::Bytes SuperficieQt::Trazos() const {
     const auto* trazos = reinterpret_cast<const std::byte*>(trazos_.data());
-    return {salidas::MapaDeBitsDe(reducida), salidas::PngDe(reducida), {trazos, trazos + trazos_.size()}};
+    return {trazos, trazos + trazos_.size()};
 }
 
 almacen::Bytes SuperficieQt::Png() const {

@@ -20,6 +20,8 @@ class SuperficieQt : public SuperficieOculta {
     almacen::Bytes Foto() const override;
     /// The picture as a PNG file's bytes, of at most 256 colours.
     almacen::Bytes Png() const;
+    /// The strokes that it was drawn with.
+    almacen::Bytes Trazos() const;
 
     /// 1880 by 1160 pixels: some 270 to the inch where two drawings share an upright page.
     static constexpr double FinuraDePapel = 2;
