@@ -44,8 +44,8 @@ documento::Bloque BloqueDeAvisos(const Avisos& avisos) {
     if (avisos.empty()) return documento::Parrafo{"Sin avisos."};
     documento::Tabla tabla;
     tabla.Columnas = {{"Aviso", "", "", 22, Alineacion::Izquierda},
-                      {"Lugar", "", "", 40, Alineacion::Izquierda},
-                      {"Qué", "", "", 115, Alineacion::Izquierda}};
+                      {"Lugar", "", "", 52, Alineacion::Izquierda},
+                      {"Qué", "", "", 103, Alineacion::Izquierda}};
     for (const Aviso& aviso : avisos)
         tabla.Filas.push_back({{Pesos[static_cast<std::size_t>(aviso.Peso)], aviso.Lugar, aviso.Texto}});
     return tabla;

@@ -26,22 +26,27 @@ Seccion Portada(const DatosDelProyecto& datos, const std::string& fecha) {
                    {"Fecha del proyecto", datos.Fecha, "", ""}, {"Fecha de impresión", fecha, "", ""},
                    {"Comentario", datos.Comentario, "", ""}};
     documento::Tabla firmas;
-    firmas.Columnas = {{"Elaboró", "", "", 60, Alineacion::Centro},
-                       {"Revisó", "", "", 60, Alineacion::Centro},
-                       {"Aprobó", "", "", 60, Alineacion::Centro}};
+    // Texts to the left keep their line feeds: room to sign.
+    for (const char* quien : {"Elaboró", "Revisó", "Aprobó"})
+        firmas.Columnas.push_back({quien, "", "", 60, Alineacion::Izquierda});
     firmas.Estilo.Lineas = true;
-    firmas.Filas = {{{datos.Calculista + "\n\n\n\n", "", ""}},
-                    {{"Firma y fecha", "Firma y fecha", "Firma y fecha"}}};
+    firmas.Filas = {{{datos.Calculista + "\n\n\n\n\nFirma y fecha:", "\n\n\n\n\nFirma y fecha:",
+                      "\n\n\n\n\nFirma y fecha:"}}};
+    const documento::Parrafo blanco{"\n\n\n\n"};
     return {
-        "Portada", false, false, {documento::Titulo{1, TituloMemoria}, std::move(ficha), std::move(firmas)}};
+        "Portada",
+        false,
+        false,
+        {blanco, documento::Titulo{1, TituloMemoria}, blanco, std::move(ficha), blanco, std::move(firmas)}};
 }
 
 documento::Tabla TablaResumida(const Lista& lista) {
     documento::Tabla tabla;
-    for (const ColumnaResumen& columna : lista.De->Columnas)
-        tabla.Columnas.push_back({columna.Encabezado, "", columna.Formato ? columna.Formato : "",
-                                  columna.Formato ? 20.0 : 45.0,
+    for (const ColumnaResumen& columna : lista.De->Columnas) {
+        const double ancho = tabla.Columnas.empty() ? 60 : columna.Formato ? 20 : 30;
+        tabla.Columnas.push_back({columna.Encabezado, "", columna.Formato ? columna.Formato : "", ancho,
                                   columna.Formato ? Alineacion::Derecha : Alineacion::Izquierda});
+    }
     for (const Elemento& elemento : lista.Elementos) {
         documento::FilaDeTabla fila{{elemento.Nombre}};
         if (elemento.Error.empty()) {
@@ -118,7 +123,10 @@ void Agregar(documento::Documento& memoria, const ProyectoCalculado& calculado, 
         memoria.Secciones.push_back(std::move(capitulo));
         for (const Elemento& elemento : lista.Elementos) {
             memoria.Secciones.push_back(SeccionDe(lista, elemento, memoria.Locales, ilustrar));
-            memoria.Secciones.back().PaginaNueva = &elemento != lista.Elementos.data();
+            // Without drawings an element is a few rows: several share a page.
+            const bool corta = lista.De->Dibujos == nullptr;
+            memoria.Secciones.back().PaginaNueva = !corta && &elemento != lista.Elementos.data();
+            memoria.Secciones.back().Junta = corta;
         }
     }
 }
@@ -137,8 +145,10 @@ documento::Documento ComponerMemoriaEnHojas(const ProyectoCalculado& calculado, 
     documento::Documento memoria = Vacio(calculado, fecha, numeros);
     for (const Lista& lista : calculado.Listas)
         if (TieneCapitulo(lista) && lista.De->Memoria->Tablas != nullptr)
-            for (auto& [nombre, tabla] : lista.De->Memoria->Tablas(lista))
+            for (auto& [nombre, tabla] : lista.De->Memoria->Tablas(lista)) {
+                tabla.Estilo.Filtros = true;
                 memoria.Secciones.push_back({nombre, false, false, {std::move(tabla)}});
+            }
     Agregar(memoria, calculado, fecha, ilustrar);
     return memoria;
 }

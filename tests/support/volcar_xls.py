@@ -33,6 +33,9 @@ def volcar_hoja(libro, hoja, salida):
             salida(f"alto {fila} {datos.height}")
     for inicio, fin, izquierda, derecha in hoja.merged_cells:
         salida(f"combinada {inicio}:{fin} {izquierda}:{derecha}")
+    for nombre in libro.name_obj_list:
+        if nombre.hidden and nombre.scope == hoja.number:
+            salida(f"{nombre.name} {nombre.area2d()[1:]}")
     salida("saltos " + " ".join(str(s[0]) for s in hoja.horizontal_page_breaks))
     for fila in range(hoja.nrows):
         for columna in range(hoja.ncols):

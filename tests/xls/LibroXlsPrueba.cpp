@@ -91,6 +91,7 @@ TEST(LibroXls, MasFilasDeLasQueCabenSiguenEnOtraHojaConSuEncabezado) {
     HojaXls& hoja = libro.Hojas.emplace_back();
     hoja.Nombre = "Hoja1";
     hoja.FilasFijas = 1;
+    hoja.Filtro = true;
     const std::size_t filas = FilasPorHojaXls + 5;
     for (std::size_t f = 0; f < filas; ++f) CeldaEn(hoja, f, 0).Valor = static_cast<double>(f);
     hoja.Filas[0].Celdas[0].Valor = "No";
@@ -102,11 +103,12 @@ TEST(LibroXls, MasFilasDeLasQueCabenSiguenEnOtraHojaConSuEncabezado) {
     EXPECT_EQ(lineas[0], "hoja Hoja1 65536x2 fijas 1");
     const auto segunda =
         std::find_if(lineas.begin() + 1, lineas.end(), [](auto& l) { return l.starts_with("hoja "); });
-    EXPECT_THAT(std::vector<std::string>(segunda, lineas.end()),
-                testing::ElementsAre("hoja Hoja1 (2) 6x2 fijas 1", "combinada 0:1 0:2", "combinada 5:6 0:2",
-                                     "saltos ", StartsWith("0,0 'No'"), StartsWith("1,0 65536.0"),
-                                     StartsWith("2,0 65537.0"), StartsWith("3,0 65538.0"),
-                                     StartsWith("4,0 65539.0"), StartsWith("5,0 65540.0")));
+    EXPECT_THAT(
+        std::vector<std::string>(segunda, lineas.end()),
+        testing::ElementsAre("hoja Hoja1 (2) 6x2 fijas 1", "combinada 0:1 0:2", "combinada 5:6 0:2",
+                             "_FilterDatabase (0, 6, 0, 1)", "saltos ", StartsWith("0,0 'No'"),
+                             StartsWith("1,0 65536.0"), StartsWith("2,0 65537.0"), StartsWith("3,0 65538.0"),
+                             StartsWith("4,0 65539.0"), StartsWith("5,0 65540.0")));
 }
 
 TEST(LibroXls, NombresDeHojaSeAdmitenYNoSeRepiten) {

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "lote/BloquesDeMemoria.h"
+#include "markus/Avisos.h"
 #include "markus/salida/MarcusJson.h"
 #include "markus/salida/ReporteMarcus.h"
 #include "store/tablas/TablasMarcus.h"
@@ -77,7 +78,7 @@ lote::ParteDeMemoria Contar(const lote::Lista&, const lote::Elemento& elemento, 
         tabla.Filas.push_back({{static_cast<double>(i + 1), pano.Carga, pano.Caso, pano.LX, pano.LY,
                                 pano.Reparto.CX, pano.Reparto.CY, pano.Reparto.WX, pano.Reparto.WY}});
     }
-    return {{}, {std::move(tabla)}};
+    return {{}, {std::move(tabla), lote::BloqueDeAvisos(AvisosDe(nivel.Filas))}};
 }
 
 constexpr lote::MemoriaDeModulo Memoria{Metodo, Contar, nullptr};

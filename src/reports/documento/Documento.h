@@ -118,6 +118,7 @@ struct EstiloDeTabla {
     bool Lineas = false;           ///< upright lines between cells as well
     bool Color = true;             ///< or else greys
     bool Sombras = true;           ///< grounds under titles
+    bool Filtros = false;  ///< a workbook offers to choose among its rows, if it is alone on its sheet
 };
 
 /// A table. Where it breaks over pages its header is repeated; a row is never broken.

@@ -218,6 +218,7 @@ class EscritorDeHoja {
         if (tabla.TieneGrupos()) PonerGrupos(tabla);
         PonerTitulos(tabla);
         if (fijarTitulos_ && fila_ <= MayorEncabezadoFijo) hoja_.FilasFijas = fila_;
+        hoja_.Filtro = tabla.Estilo.Filtros && hoja_.FilasFijas == fila_;
         for (const documento::FilaDeTabla& fila : tabla.Filas) PonerFila(tabla, fila);
     }
 

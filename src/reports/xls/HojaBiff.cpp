@@ -24,6 +24,7 @@ enum Registro : std::uint16_t {
     TOPMARGIN = 0x0028,
     BOTTOMMARGIN = 0x0029,
     SETUP = 0x00A1,
+    AUTOFILTERINFO = 0x009D,
     DEFCOLWIDTH = 0x0055,
     COLINFO = 0x007D,
     DIMENSIONS = 0x0200,
@@ -76,6 +77,14 @@ std::vector<const ImagenXls*> HojaBiff::Imagenes() const {
     return suyas;
 }
 
+std::optional<RangoXls> HojaBiff::Filtro() const {
+    if (!hoja_.Filtro || FilasFijas() == 0) return std::nullopt;
+    const std::size_t fila = FilasFijas() - 1;
+    const std::size_t columnas = std::min(Fila(fila).Celdas.size(), ColumnasXls);
+    if (columnas == 0) return std::nullopt;
+    return RangoXls{fila, 0, Filas() - 1, columnas - 1};
+}
+
 const FilaXls& HojaBiff::Fila(std::size_t fila) const {
     return hoja_.Filas[fila < repetidas_ ? fila : fila - repetidas_ + desde_];
 }
@@ -107,9 +116,14 @@ void HojaBiff::Escribir(std::string& flujo, const EstilosBiff& estilos, CadenasB
                     Octetos().U16(0x0600).U16(0x0010).U16(0x0DBB).U16(0x07CC).U32(0xC1).U32(0x0306));
     EscribirPagina(flujo);
     EscribirColumnas(flujo);
+    const auto filtro = Filtro();
+    const std::size_t filtros = filtro ? filtro->ColumnaFinal + 1 : 0;
+    if (filtro) AgregarRegistro(flujo, AUTOFILTERINFO, Octetos().U16(filtros));
     EscribirFilas(flujo, estilos, cadenas);
     std::vector<AnclaXls> anclas;
     for (const ImagenXls* imagen : Imagenes()) anclas.push_back(Ancla(*imagen, estilos));
+    for (std::size_t c = 0; c < filtros; ++c)
+        anclas.push_back({c, 0, filtro->Fila, 0, c + 1, 0, filtro->Fila + 1, 0});
     imagenes.EscribirHoja(flujo, numero, anclas);
     EscribirVista(flujo, numero == 0);
     EscribirCombinadas(flujo);

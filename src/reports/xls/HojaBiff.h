@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,6 +29,8 @@ class HojaBiff {
 
     const std::string& Nombre() const { return nombre_; }
     std::size_t FilasFijas() const { return FilasFijasDe(hoja_); }
+    /// The row whose cells open filters, and those below it; nothing when they do not.
+    std::optional<RangoXls> Filtro() const;
     /// Its pictures of a known kind.
     std::vector<const ImagenXls*> Imagenes() const;
 

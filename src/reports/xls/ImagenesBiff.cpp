@@ -105,10 +105,11 @@ std::string FormaRaiz(std::size_t numero) {
                     Elemento(Spgr, 1, 0, std::string(16, '\0')) + Forma(0, numero, 5));
 }
 
-std::string FormaDeImagen(std::size_t numero, std::size_t imagen, const AnclaXls& a) {
-    constexpr std::size_t MarcoDeImagen = 75, ConAnclaYTipo = 0x0A00;
+std::string FormaConAncla(std::size_t tipo, std::size_t numero, const std::string& propiedades,
+                          std::size_t conCeldas, const AnclaXls& a) {
+    constexpr std::size_t ConAnclaYTipo = 0x0A00;
     const std::string ancla = Octetos()
-                                  .U16(2)  // moves with the cells, keeps its size
+                                  .U16(conCeldas)
                                   .U16(a.ColumnaIzquierda)
                                   .U16(a.DentroIzquierda)
                                   .U16(a.FilaSuperior)
@@ -119,9 +120,23 @@ std::string FormaDeImagen(std::size_t numero, std::size_t imagen, const AnclaXls
                                   .U16(a.DentroInferior)
                                   .Bytes();
     return Elemento(SpContainer, Contenedor, 0,
-                    Forma(MarcoDeImagen, numero, ConAnclaYTipo) +
-                        Propiedades({{0x4104, imagen}, {0x01BF, 0x00100000}, {0x01FF, 0x00080000}}) +
-                        Elemento(ClientAnchor, 0, 0, ancla) + Elemento(ClientData, 0, 0, ""));
+                    Forma(tipo, numero, ConAnclaYTipo) + propiedades + Elemento(ClientAnchor, 0, 0, ancla) +
+                        Elemento(ClientData, 0, 0, ""));
+}
+
+std::string FormaDeImagen(std::size_t numero, std::size_t imagen, const AnclaXls& ancla) {
+    constexpr std::size_t MarcoDeImagen = 75, SeMueve = 2;  // with the cells, and keeps its size
+    return FormaConAncla(MarcoDeImagen, numero,
+                         Propiedades({{0x4104, imagen}, {0x01BF, 0x00100000}, {0x01FF, 0x00080000}}), SeMueve,
+                         ancla);
+}
+
+std::string FormaDeFiltro(std::size_t numero, const AnclaXls& ancla) {
+    constexpr std::size_t Control = 201, DeLaCelda = 1;
+    return FormaConAncla(
+        Control, numero,
+        Propiedades({{0x007F, 0x01040104}, {0x00BF, 0x00080008}, {0x01FF, 0x00080000}, {0x03BF, 0x00020000}}),
+        DeLaCelda, ancla);
 }
 
 Octetos ObjetoImagen(std::size_t numero) {
@@ -143,28 +158,39 @@ Octetos ObjetoImagen(std::size_t numero) {
         .U32(0);  // end
 }
 
+/// A list that drops down: of the program's own making, without a source of its lines.
+Octetos ObjetoFiltro(std::size_t numero) {
+    Octetos objeto;
+    objeto.U16(0x15).U16(18).U16(0x14).U16(numero).U16(0x2101).U32(0).U32(0).U32(0);
+    objeto.U16(0x0C).U16(20).U32(0).U32(0).U16(100).U16(1).U16(10).U16(0).U16(16).U16(1);  // its bar
+    objeto.U16(0x13).U16(0x1FEE).U16(0).U16(0).U16(0).U16(0x0301).U16(0);                  // its lines
+    return objeto.U16(2).U16(8).U16(0x57).U32(0);
+}
+
 }  // namespace
 
 bool ImagenesBiff::Conocida(const std::string& bytes) {
     return ClaseDe(bytes) != nullptr;
 }
 
-std::size_t ImagenesBiff::Agregar(const std::vector<const ImagenXls*>& deHoja) {
-    dibujos_.push_back({grupos_ + 1, imagenes_.size() + 1, deHoja.size()});
-    grupos_ += (deHoja.size() + FormasPorGrupo) / FormasPorGrupo;  // the root shape takes a number too
+std::size_t ImagenesBiff::Agregar(const std::vector<const ImagenXls*>& deHoja, std::size_t filtros) {
+    const std::size_t formas = deHoja.size() + filtros;
+    dibujos_.push_back({grupos_ + 1, imagenes_.size() + 1, deHoja.size(), filtros});
+    grupos_ += (formas + FormasPorGrupo) / FormasPorGrupo;  // the root shape takes a number too
+    formas_ += formas;
     imagenes_.insert(imagenes_.end(), deHoja.begin(), deHoja.end());
     return dibujos_.size() - 1;
 }
 
 void ImagenesBiff::EscribirGrupo(std::string& flujo) const {
-    if (imagenes_.empty()) return;
+    if (formas_ == 0) return;
     Octetos general;
     general.U32((grupos_ + 1) * FormasPorGrupo)
         .U32(grupos_ + 1)
-        .U32(imagenes_.size() + dibujos_.size())
+        .U32(formas_ + dibujos_.size())
         .U32(dibujos_.size());
     for (std::size_t d = 0; d < dibujos_.size(); ++d) {
-        std::size_t formas = dibujos_[d].Imagenes + 1;
+        std::size_t formas = dibujos_[d].Imagenes + dibujos_[d].Filtros + 1;
         for (; formas > FormasPorGrupo; formas -= FormasPorGrupo) general.U32(d + 1).U32(FormasPorGrupo);
         general.U32(d + 1).U32(formas);
     }
@@ -172,7 +198,7 @@ void ImagenesBiff::EscribirGrupo(std::string& flujo) const {
     for (const ImagenXls* imagen : imagenes_) almacen += Almacenada(*imagen);
     const std::string partes =
         Elemento(Dgg, 0, 0, general.Bytes()) +
-        Elemento(BStoreContainer, Contenedor, imagenes_.size(), almacen) +
+        (imagenes_.empty() ? "" : Elemento(BStoreContainer, Contenedor, imagenes_.size(), almacen)) +
         Propiedades({{0x00BF, 0x00080008}, {0x0181, 0x08000041}, {0x01C0, 0x08000040}}) +
         Elemento(SplitMenuColors, 0, 4,
                  Octetos().U32(0x0800000D).U32(0x0800000C).U32(0x08000017).U32(0x100000F7).Bytes());
@@ -182,17 +208,20 @@ void ImagenesBiff::EscribirGrupo(std::string& flujo) const {
 void ImagenesBiff::EscribirHoja(std::string& flujo, std::size_t hoja,
                                 const std::vector<AnclaXls>& anclas) const {
     const Dibujo& dibujo = dibujos_[hoja];
-    if (dibujo.Imagenes == 0) return;
+    const std::size_t cuantas = dibujo.Imagenes + dibujo.Filtros;
+    if (cuantas == 0) return;
     const std::size_t primera = dibujo.PrimerGrupo * FormasPorGrupo;
     std::vector<std::string> formas;
     std::size_t largo = 0;
-    for (std::size_t i = 0; i < dibujo.Imagenes; ++i) {
-        formas.push_back(FormaDeImagen(primera + 1 + i, dibujo.PrimerImagen + i, anclas[i]));
+    for (std::size_t i = 0; i < cuantas; ++i) {
+        formas.push_back(i < dibujo.Imagenes
+                             ? FormaDeImagen(primera + 1 + i, dibujo.PrimerImagen + i, anclas[i])
+                             : FormaDeFiltro(primera + 1 + i, anclas[i]));
         largo += formas.back().size();
     }
     const std::string raiz = FormaRaiz(primera);
     const std::string general =
-        Elemento(Dg, 0, hoja + 1, Octetos().U32(dibujo.Imagenes + 1).U32(primera + dibujo.Imagenes).Bytes());
+        Elemento(Dg, 0, hoja + 1, Octetos().U32(cuantas + 1).U32(primera + cuantas).Bytes());
     // The containers' lengths reach over the records that follow, one for each picture.
     const Octetos grupo = Marco(SpgrContainer, Contenedor, 0, raiz.size() + largo).Crudo(raiz);
     const Octetos cabeza = Marco(DgContainer, Contenedor, 0, general.size() + grupo.Bytes().size() + largo)
@@ -200,7 +229,7 @@ void ImagenesBiff::EscribirHoja(std::string& flujo, std::size_t hoja,
                                .Crudo(grupo.Bytes());
     for (std::size_t i = 0; i < formas.size(); ++i) {
         AgregarRegistro(flujo, MSODRAWING, Octetos().Crudo(i == 0 ? cabeza.Bytes() : "").Crudo(formas[i]));
-        AgregarRegistro(flujo, OBJ, ObjetoImagen(i + 1));
+        AgregarRegistro(flujo, OBJ, i < dibujo.Imagenes ? ObjetoImagen(i + 1) : ObjetoFiltro(i + 1));
     }
 }
 

@@ -17,16 +17,17 @@ struct AnclaXls {
     std::size_t FilaInferior, DentroInferior;
 };
 
-/// The pictures of a book: their bytes stand once for all sheets, each sheet shows its own by number.
+/// What lies over the cells of a book: pictures, whose bytes stand once for all sheets, and the buttons that
+/// open a column's filter.
 class ImagenesBiff {
   public:
     /// Takes in a sheet's pictures, in order, before anything is written. False for one of an unknown kind.
     static bool Conocida(const std::string& bytes);
-    std::size_t Agregar(const std::vector<const ImagenXls*>& deHoja);
+    std::size_t Agregar(const std::vector<const ImagenXls*>& deHoja, std::size_t filtros);
 
     /// The book's part.
     void EscribirGrupo(std::string& flujo) const;
-    /// The part of the sheet that `Agregar` numbered.
+    /// The part of the sheet that `Agregar` numbered: its pictures' places, then its buttons'.
     void EscribirHoja(std::string& flujo, std::size_t hoja, const std::vector<AnclaXls>& anclas) const;
 
   private:
@@ -34,10 +35,12 @@ class ImagenesBiff {
         std::size_t PrimerGrupo;   ///< its block of 1024 shape numbers
         std::size_t PrimerImagen;  ///< place of its first picture in the book, from 1
         std::size_t Imagenes;
+        std::size_t Filtros;
     };
     std::vector<const ImagenXls*> imagenes_;
     std::vector<Dibujo> dibujos_;
     std::size_t grupos_ = 0;
+    std::size_t formas_ = 0;
 };
 
 }  // namespace trabex::xls

@@ -69,8 +69,25 @@ std::vector<HojaBiff> Repartir(const std::vector<HojaXls>& hojas) {
     return repartidas;
 }
 
-/// The heading rows of each sheet as those that its printed pages repeat.
-void EscribirTitulosDeImpresion(std::string& flujo, const std::vector<HojaBiff>& hojas) {
+/// A built-in name of a sheet's rows.
+void EscribirNombre(std::string& flujo, std::size_t hoja, std::size_t marcas, std::size_t cual,
+                    const RangoXls& rango) {
+    const std::string area = Octetos()
+                                 .U8(0x3B)  // an area of a sheet
+                                 .U16(hoja)
+                                 .U16(rango.Fila)
+                                 .U16(rango.FilaFinal)
+                                 .U16(rango.Columna)
+                                 .U16(rango.ColumnaFinal)
+                                 .Bytes();
+    Octetos nombre;
+    nombre.U16(marcas).U8(0).U8(1).U16(area.size()).U16(0).U16(hoja + 1).U32(0);
+    nombre.U8(0).U8(cual);
+    AgregarRegistro(flujo, NAME, nombre.Crudo(area));
+}
+
+/// The heading rows of each sheet as those that its printed pages repeat, and the rows that it filters.
+void EscribirNombres(std::string& flujo, const std::vector<HojaBiff>& hojas) {
     const bool hay =
         std::any_of(hojas.begin(), hojas.end(), [](const auto& h) { return h.FilasFijas() > 0; });
     if (!hay) return;
@@ -81,18 +98,11 @@ void EscribirTitulosDeImpresion(std::string& flujo, const std::vector<HojaBiff>&
     AgregarRegistro(flujo, EXTERNSHEET, referencias);
     for (std::size_t i = 0; i < hojas.size(); ++i) {
         if (hojas[i].FilasFijas() == 0) continue;
-        const std::string area = Octetos()
-                                     .U8(0x3B)  // an area of a sheet
-                                     .U16(i)
-                                     .U16(0)
-                                     .U16(hojas[i].FilasFijas() - 1)
-                                     .U16(0)
-                                     .U16(ColumnasXls - 1)
-                                     .Bytes();
-        Octetos nombre;
-        nombre.U16(0x20).U8(0).U8(1).U16(area.size()).U16(0).U16(i + 1).U32(0);
-        nombre.U8(0).U8(7);  // the built-in name of the rows that pages repeat
-        AgregarRegistro(flujo, NAME, nombre.Crudo(area));
+        constexpr std::size_t DelPrograma = 0x20, Oculto = 1, TitulosDePagina = 7, RangoDeFiltro = 13;
+        EscribirNombre(flujo, i, DelPrograma, TitulosDePagina,
+                       {0, 0, hojas[i].FilasFijas() - 1, ColumnasXls - 1});
+        if (const auto filtro = hojas[i].Filtro())
+            EscribirNombre(flujo, i, DelPrograma | Oculto, RangoDeFiltro, *filtro);
     }
 }
 
@@ -124,7 +134,8 @@ std::string FlujoDeLibro(const std::vector<HojaXls>& hojasDelLibro,
     const EstilosBiff estilos(estilosDelLibro);
     CadenasBiff cadenas;
     ImagenesBiff imagenes;
-    for (const HojaBiff& hoja : hojas) imagenes.Agregar(hoja.Imagenes());
+    for (const HojaBiff& hoja : hojas)
+        imagenes.Agregar(hoja.Imagenes(), hoja.Filtro() ? hoja.Filtro()->ColumnaFinal + 1 : 0);
 
     // Sheets come first, since they make the table of texts that stands before them.
     std::string cuerpo;
@@ -135,7 +146,7 @@ std::string FlujoDeLibro(const std::vector<HojaXls>& hojasDelLibro,
     }
     std::string flujo = Comienzo(estilos);
     std::string resto;
-    EscribirTitulosDeImpresion(resto, hojas);
+    EscribirNombres(resto, hojas);
     imagenes.EscribirGrupo(resto);
     cadenas.Escribir(resto);
     AgregarRegistro(resto, FIN, {});

@@ -100,7 +100,8 @@ struct HojaXls {
     std::vector<ImagenXls> Imagenes;
     std::vector<std::size_t> SaltosDePagina;  ///< rows that begin a page
     std::size_t FilasFijas = 0;               ///< heading rows: stay when scrolling, repeat on each page
-    bool Cuadricula = true;                   ///< lines between cells on the screen
+    bool Filtro = false;     ///< each cell of the last heading row opens a filter of its column
+    bool Cuadricula = true;  ///< lines between cells on the screen
     PaginaXls Pagina;
 };
 

@@ -35,7 +35,7 @@ Tabla TablaDelTramo(const EscaleraCalculada& escalera) {
     tabla.Columnas = {ColumnaDeMemoria("X (m)", "0.00"),
                       ColumnaDeMemoria("M (kgf·m)", "#,##0", "Carga total"),
                       ColumnaDeMemoria("V (kgf)", "#,##0", "Carga total"),
-                      ColumnaDeMemoria("M (kgf·m)", "#,##0", "Permanente"),
+                      ColumnaDeMemoria("M perm. (kgf·m)", "#,##0"),
                       ColumnaDeMemoria("Axial (kgf)", "#,##0"),
                       ColumnaDeMemoria("My (kgf·m)", "#,##0"),
                       ColumnaDeMemoria("T (kgf·m)", "#,##0"),
@@ -69,6 +69,7 @@ Tabla TablaDelDescanso(const EscaleraCalculada& escalera) {
                       ColumnaDeMemoria("actuante", "0.00", "Corte (kgf/cm²)"),
                       ColumnaDeMemoria("admisible", "0.00", "Corte (kgf/cm²)"),
                       ColumnaDeMemoria("")};
+    tabla.Columnas.back().Ancho = 46;  // a failure is told on one line
     for (std::size_t i = 0; i < EstacionesDeDescanso; ++i) {
         const EscaleraDescansoPunto p = DescansoEnColumna(escalera, i);
         tabla.Filas.push_back(
