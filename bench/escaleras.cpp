@@ -5,8 +5,6 @@
 // landing of twelve, the helix at an interval of 1 degree over 360. The reference gives no steel and no
 // stirrups. Ten thousand Markus rows stand beside the bare formula on arrays of numbers.
 
-#include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <cstdlib>
 #include <string>
@@ -14,6 +12,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include "Razon.h"
 #include "helical/CalcularEscaleraH.h"
 #include "markus/CalculeMarcus.h"
 #include "stairs/CalcularEscaleraT.h"
@@ -27,26 +26,7 @@ using namespace trabex;
 using namespace trabex::escaleras;
 using namespace trabex::helices;
 using namespace trabex::marcus;
-
-/// Seconds that a call takes, over `veces` of them.
-template <class Llamada>
-double Segundos(benchmark::IterationCount veces, Llamada llamada) {
-    const auto inicio = std::chrono::steady_clock::now();
-    for (benchmark::IterationCount i = 0; i < veces; ++i) llamada();
-    const std::chrono::duration<double> total = std::chrono::steady_clock::now() - inicio;
-    return total.count() / static_cast<double>(veces);
-}
-
-/// Measures `propia`, then the reference as often (a thousand times at most), and tells their ratio.
-template <class Propia, class Referencia>
-void MedirConRazon(benchmark::State& estado, Propia propia, Referencia referencia) {
-    double suma = 0;
-    for (auto _ : estado) suma += Segundos(1, propia);
-    const double porVez = suma / static_cast<double>(estado.iterations());
-    const double otra = Segundos(std::min<benchmark::IterationCount>(estado.iterations(), 1000), referencia);
-    estado.counters["referencia_us"] = otra * 1e6;
-    estado.counters["razon"] = porVez / otra;
-}
+using medida::MedirConRazon;
 
 /// LAPACK on a band as wide as that of a chain of bars in space, six unknowns a joint, well conditioned.
 class CadenaDeBarras {

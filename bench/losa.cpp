@@ -1,10 +1,14 @@
-// A slab's calculation beside LAPACK's band Cholesky alone on the same matrix, in the same run.
+// A slab's calculation beside LAPACK's band Cholesky alone on the same matrix, and the steel of a section,
+// whose steps can be told to a listener, beside its bare formulas, in the same run.
 
+#include <array>
 #include <cmath>
 #include <vector>
 
 #include <benchmark/benchmark.h>
 
+#include "Razon.h"
+#include "base/RefuerzoFlexion.h"
 #include "slab/Analizar.h"
 #include "slab/CalcularLosa.h"
 #include "support/LosasDePrueba.h"
@@ -84,5 +88,49 @@ BENCHMARK(MedirCalcularLosa)
     ->Arg(10919)
     ->Unit(benchmark::kMicrosecond)
     ->Complexity();
+
+/// Moments of a section below its limit, none like another to the branch predictor.
+constexpr std::size_t Momentos = 1000;
+std::array<double, Momentos> MomentosDeSeccion() {
+    std::array<double, Momentos> momentos{};
+    double azar = 0.37;
+    for (double& momento : momentos) {
+        azar = std::fmod(azar * 997 + 0.123, 1);
+        momento = 150000 * azar;
+    }
+    return momentos;
+}
+
+/// RefuerzoFlexion below the limit moment as it would be if nothing could be told.
+[[gnu::noinline]] double AceroSinPasos(double Mu, const SeccionFlexion& seccion,
+                                       const Materiales& materiales) {
+    const double d = seccion.h - seccion.Recubrimiento;
+    const double fc = materiales.FC;
+    const double fy = materiales.FY;
+    if (Mu > d * d * (((fc * 0.2) * 0.882) * seccion.b)) return 0;
+    const double r = 1 - 2 * (Mu / (d * d * (fc * seccion.b))) / 0.85;
+    return r < 0 ? 0 : Mu / ((fy * (1 - (1 - std::sqrt(r)) * 0.85 * 0.59)) * d);
+}
+
+/// A thousand sections: nobody listens (0), or somebody does (1).
+void MedirOyente(benchmark::State& estado) {
+    const SeccionFlexion seccion{10, 25, 2.5};
+    const Materiales materiales{250, 4200};
+    const std::array<double, Momentos> momentos = MomentosDeSeccion();
+    Relato relato;
+    const bool escucha = estado.range(0) != 0;
+    medida::MedirConRazon(
+        estado,
+        [&] {
+            const Pasos pasos = escucha ? Pasos(relato) : Pasos();
+            for (const double Mu : momentos)
+                benchmark::DoNotOptimize(RefuerzoFlexion(Mu, seccion, materiales, pasos));
+            relato.clear();
+        },
+        [&] {
+            for (const double Mu : momentos) benchmark::DoNotOptimize(AceroSinPasos(Mu, seccion, materiales));
+        });
+}
+BENCHMARK(MedirOyente)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
 }  // namespace

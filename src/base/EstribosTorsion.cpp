@@ -33,25 +33,29 @@ std::optional<double> SeparacionPorArea(const SeccionTorsion& s, double Tu, doub
                                         const DatosGenerales& generales, const Pasos& pasos) {
     const double FC = generales.FC;
     const double Tn = pasos([&] { return Tu / FiCorteYTorsion; });
-    pasos.Contar("Tn", "{Tu}/0.85", {{"Tu", Tu}}, Tn, "kgf·m");
+    if (pasos.SeCuentan()) pasos.Contar("Tn", "{Tu}/0.85", {{"Tu", Tu}}, Tn, "kgf·m");
     const double Tlim = pasos([&] { return ((std::sqrt(FC) * 0.13) * s.Sum) / 100; });
-    pasos.Contar("Tlim", "0.13·√{F'c}·{Σx²y}/100", {{"F'c", FC}, {"Σx²y", s.Sum}}, Tlim, "kgf·m");
+    if (pasos.SeCuentan())
+        pasos.Contar("Tlim", "0.13·√{F'c}·{Σx²y}/100", {{"F'c", FC}, {"Σx²y", s.Sum}}, Tlim, "kgf·m");
     if (Tn < Tlim) return {};
     const double Tc = pasos([&] { return TorsionDelConcreto(s, Tu, V, FC); });
-    pasos.Contar("Tc", "0.21·√{F'c}·{Σx²y}/√(1 + (0.4·{V}/(100·{Tu}·{Ct}))²)/100",
-                 {{"F'c", FC}, {"Σx²y", s.Sum}, {"V", V}, {"Tu", Tu}, {"Ct", (s.d * s.b) / s.Sum}}, Tc,
-                 "kgf·m");
+    if (pasos.SeCuentan())
+        pasos.Contar("Tc", "0.21·√{F'c}·{Σx²y}/√(1 + (0.4·{V}/(100·{Tu}·{Ct}))²)/100",
+                     {{"F'c", FC}, {"Σx²y", s.Sum}, {"V", V}, {"Tu", Tu}, {"Ct", (s.d * s.b) / s.Sum}}, Tc,
+                     "kgf·m");
     const double Ts = pasos([&] { return Tn - Tc; });
-    pasos.Contar("Ts", "{Tn} − {Tc}", {{"Tn", Tn}, {"Tc", Tc}}, Ts, "kgf·m");
+    if (pasos.SeCuentan()) pasos.Contar("Ts", "{Tn} − {Tc}", {{"Tn", Tn}, {"Tc", Tc}}, Ts, "kgf·m");
     if (Ts < 0) return {};
     const double at = pasos([&] { return Alfat(s); });
-    pasos.Contar("αt", "0.66 + 0.33·{y1}/{x1} ≤ 1.5",
-                 {{"y1", s.b > s.h ? s.x1 : s.y1}, {"x1", s.b > s.h ? s.y1 : s.x1}}, at, "");
+    if (pasos.SeCuentan())
+        pasos.Contar("αt", "0.66 + 0.33·{y1}/{x1} ≤ 1.5",
+                     {{"y1", s.b > s.h ? s.x1 : s.y1}, {"x1", s.b > s.h ? s.y1 : s.x1}}, at, "");
     const double porArea = pasos([&] { return ((at * s.x1 * s.y1) * generales.FY) / (Ts * 100); });
-    pasos.Contar(
-        "s/A", "{αt}·{x1}·{y1}·{Fy}/(100·{Ts})",
-        {{"αt", at}, {"x1", s.x1}, {"y1", s.y1}, {"Fy", static_cast<double>(generales.FY)}, {"Ts", Ts}},
-        porArea, "cm/cm²");
+    if (pasos.SeCuentan())
+        pasos.Contar(
+            "s/A", "{αt}·{x1}·{y1}·{Fy}/(100·{Ts})",
+            {{"αt", at}, {"x1", s.x1}, {"y1", s.y1}, {"Fy", static_cast<double>(generales.FY)}, {"Ts", Ts}},
+            porArea, "cm/cm²");
     return porArea;
 }
 

@@ -10,15 +10,17 @@ namespace {
 /// Steel in tension alone, at or below the limit moment.
 double SoloTraccion(double Mu, double b, double d, double fc, double fy, const Pasos& pasos) {
     const double q = Mu / (d * d * (fc * b));
-    pasos.Contar("q", "{Mu}/({b}·{d}²·{F'c})", {{"Mu", Mu}, {"b", b}, {"d", d}, {"F'c", fc}}, q, "");
+    if (pasos.SeCuentan())
+        pasos.Contar("q", "{Mu}/({b}·{d}²·{F'c})", {{"Mu", Mu}, {"b", b}, {"d", d}, {"F'c", fc}}, q, "");
     const double r = 1 - (q + q) / 0.85;
     if (r < 0) return 0;
     const double w = (1 - std::sqrt(r)) * 0.85;
-    pasos.Contar("ω", "0.85·(1 − √(1 − 2·{q}/0.85))", {{"q", q}}, w, "");
+    if (pasos.SeCuentan()) pasos.Contar("ω", "0.85·(1 − √(1 − 2·{q}/0.85))", {{"q", q}}, w, "");
     const double j = 1 - w * 0.59;
-    pasos.Contar("j", "1 − 0.59·{ω}", {{"ω", w}}, j, "");
+    if (pasos.SeCuentan()) pasos.Contar("j", "1 − 0.59·{ω}", {{"ω", w}}, j, "");
     const double As = Mu / ((fy * j) * d);
-    pasos.Contar("As", "{Mu}/({Fy}·{j}·{d})", {{"Mu", Mu}, {"Fy", fy}, {"j", j}, {"d", d}}, As, "cm²");
+    if (pasos.SeCuentan())
+        pasos.Contar("As", "{Mu}/({Fy}·{j}·{d})", {{"Mu", Mu}, {"Fy", fy}, {"j", j}, {"d", d}}, As, "cm²");
     return As;
 }
 
@@ -39,27 +41,32 @@ AcerosFlexion RefuerzoFlexion(double Mu, const SeccionFlexion& seccion, const Ma
     const double rec = seccion.Recubrimiento;
     const double b = seccion.b;
     const double d = seccion.h - rec;
-    pasos.Contar("d", "{h} − {r}", {{"h", seccion.h}, {"r", rec}}, d, "cm");
+    if (pasos.SeCuentan()) pasos.Contar("d", "{h} − {r}", {{"h", seccion.h}, {"r", rec}}, d, "cm");
     const double Mlim = pasos([&] { return d * d * (((fc * 0.2) * 0.882) * b); });
-    pasos.Contar("Mlim", "0.2·0.882·{F'c}·{b}·{d}²", {{"F'c", fc}, {"b", b}, {"d", d}}, Mlim, "kgf·cm");
+    if (pasos.SeCuentan())
+        pasos.Contar("Mlim", "0.2·0.882·{F'c}·{b}·{d}²", {{"F'c", fc}, {"b", b}, {"d", d}}, Mlim, "kgf·cm");
     if (!(Mu > Mlim)) return {pasos([&] { return SoloTraccion(Mu, b, d, fc, fy, pasos); }), 0};
 
     const double As1 = pasos([&] { return Mlim / ((fy * 0.882) * d); });
-    pasos.Contar("As1", "{Mlim}/(0.882·{Fy}·{d})", {{"Mlim", Mlim}, {"Fy", fy}, {"d", d}}, As1, "cm²");
+    if (pasos.SeCuentan())
+        pasos.Contar("As1", "{Mlim}/(0.882·{Fy}·{d})", {{"Mlim", Mlim}, {"Fy", fy}, {"d", d}}, As1, "cm²");
     const double Mr = pasos([&] { return Mu - Mlim; });
-    pasos.Contar("Mr", "{Mu} − {Mlim}", {{"Mu", Mu}, {"Mlim", Mlim}}, Mr, "kgf·cm");
+    if (pasos.SeCuentan()) pasos.Contar("Mr", "{Mu} − {Mlim}", {{"Mu", Mu}, {"Mlim", Mlim}}, Mr, "kgf·cm");
     const double As2 = pasos([&] { return Mr / ((d - rec) * fy); });
-    pasos.Contar("As2", "{Mr}/({Fy}·({d} − {r}))", {{"Mr", Mr}, {"Fy", fy}, {"d", d}, {"r", rec}}, As2,
-                 "cm²");
+    if (pasos.SeCuentan())
+        pasos.Contar("As2", "{Mr}/({Fy}·({d} − {r}))", {{"Mr", Mr}, {"Fy", fy}, {"d", d}, {"r", rec}}, As2,
+                     "cm²");
     const double Ast = pasos([&] { return As1 + As2; });
-    pasos.Contar("As", "{As1} + {As2}", {{"As1", As1}, {"As2", As2}}, Ast, "cm²");
+    if (pasos.SeCuentan()) pasos.Contar("As", "{As1} + {As2}", {{"As1", As1}, {"As2", As2}}, Ast, "cm²");
     const double c = pasos([&] { return EjeNeutroLimite(d, materiales.FC); });
-    pasos.Contar("c", "0.2·{d}/(0.85·β1)", {{"d", d}}, c, "cm");
+    if (pasos.SeCuentan()) pasos.Contar("c", "0.2·{d}/(0.85·β1)", {{"d", d}}, c, "cm");
     const double fs = pasos([&] { return std::min(((c - rec) * 6300) / c, fy); });
-    pasos.Contar("f's", "6300·({c} − {r})/{c} ≤ {Fy}", {{"c", c}, {"r", rec}, {"Fy", fy}}, fs, "kgf/cm²");
+    if (pasos.SeCuentan())
+        pasos.Contar("f's", "6300·({c} − {r})/{c} ≤ {Fy}", {{"c", c}, {"r", rec}, {"Fy", fy}}, fs, "kgf/cm²");
     const double Asc = pasos([&] { return Mr / ((d - rec) * fs); });
-    pasos.Contar("A's", "{Mr}/({f's}·({d} − {r}))", {{"Mr", Mr}, {"f's", fs}, {"d", d}, {"r", rec}}, Asc,
-                 "cm²");
+    if (pasos.SeCuentan())
+        pasos.Contar("A's", "{Mr}/({f's}·({d} − {r}))", {{"Mr", Mr}, {"f's", fs}, {"d", d}, {"r", rec}}, Asc,
+                     "cm²");
     return {Ast, Asc};
 }
 

@@ -28,8 +28,10 @@ EstribosHelice EstribosEscalera(double Cortante, double Torsion, double Ancho, d
     const auto seccion = pasos([&] { return SeccionTorsion(Ancho, Alto, generales.D8); });
     const double V = pasos([&] { return std::fabs(Cortante) * generales.FS; });
     const double Tq = pasos([&] { return std::fabs(Torsion) * generales.FS; });
-    pasos.Contar("V", "{FS}·{Q}", {{"FS", generales.FS}, {"Q", std::fabs(Cortante)}}, V, "kgf");
-    pasos.Contar("Tu", "{FS}·{T}", {{"FS", generales.FS}, {"T", std::fabs(Torsion)}}, Tq, "kgf·m");
+    if (pasos.SeCuentan())
+        pasos.Contar("V", "{FS}·{Q}", {{"FS", generales.FS}, {"Q", std::fabs(Cortante)}}, V, "kgf");
+    if (pasos.SeCuentan())
+        pasos.Contar("Tu", "{FS}·{T}", {{"FS", generales.FS}, {"T", std::fabs(Torsion)}}, Tq, "kgf·m");
     const std::optional<double> porArea = SeparacionPorArea(seccion, Tq, V, generales, pasos);
     double barra = Barra3_8;
     double s = SeparacionEntera(porArea, barra, seccion, pasos);
@@ -37,11 +39,13 @@ EstribosHelice EstribosEscalera(double Cortante, double Torsion, double Ancho, d
         barra = Barra1_2;
         s = SeparacionEntera(porArea, barra, seccion, pasos);
     }
-    pasos.Contar("s", "menor de s/A·{A}, (x1 + y1)/4 = {s2}, 30 (entero)",
-                 {{"A", barra}, {"s2", SeparacionPorTamano(seccion)}}, s, "cm");
+    if (pasos.SeCuentan())
+        pasos.Contar("s", "menor de s/A·{A}, (x1 + y1)/4 = {s2}, 30 (entero)",
+                     {{"A", barra}, {"s2", SeparacionPorTamano(seccion)}}, s, "cm");
     const double longitudinal = pasos([&] { return ((seccion.y1 + seccion.x1) * (2 * barra)) / s; });
-    pasos.Contar("Al", "2·{A}·({x1} + {y1})/{s}",
-                 {{"A", barra}, {"x1", seccion.x1}, {"y1", seccion.y1}, {"s", s}}, longitudinal, "cm²");
+    if (pasos.SeCuentan())
+        pasos.Contar("Al", "2·{A}·({x1} + {y1})/{s}",
+                     {{"A", barra}, {"x1", seccion.x1}, {"y1", seccion.y1}, {"s", s}}, longitudinal, "cm²");
     return {barra, Redondear16(s), longitudinal};
 }
 

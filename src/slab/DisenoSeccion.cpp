@@ -20,7 +20,8 @@ DisenoSeccion::DisenoSeccion(const Losa& losa, const DatosGenerales& generales)
 
 AceroCaras DisenoSeccion::CalcularAcero(double M, const Pasos& pasos) const {
     const double Mu = std::fabs(M) / generales_.FiMomento * 100;
-    pasos.Contar("Mu", "100·{M}/{φ}", {{"M", std::fabs(M)}, {"φ", generales_.FiMomento}}, Mu, "kgf·cm");
+    if (pasos.SeCuentan())
+        pasos.Contar("Mu", "100·{M}/{φ}", {{"M", std::fabs(M)}, {"φ", generales_.FiMomento}}, Mu, "kgf·cm");
     const AcerosFlexion As = RefuerzoFlexion(Mu, seccion_, {generales_.FC, generales_.FY}, pasos);
     return RepartirEnCaras(M, As);
 }
@@ -36,19 +37,23 @@ double DisenoSeccion::CalcularMacizado(std::size_t junta, double V, double M, do
     const double t = w != 0 ? 2 * (Ma - Mlim_ / 100) / w : 0;
     const double x2 = x0 * x0 < t ? losa_.Tramos[junta].LT : x0 - std::sqrt(x0 * x0 - t);
     const double mayor = std::max({x1, x2, 0.0});
-    pasos.Contar("w", "({WV}·{FCV} + {Wp}·{FCP})·{cos α}",
-                 {{"WV", static_cast<double>(izquierdo.WV)},
-                  {"FCV", generales_.FCV},
-                  {"Wp", static_cast<double>(izquierdo.Wp)},
-                  {"FCP", generales_.FCP},
-                  {"cos α", C}},
-                 w, "kgf/m");
-    pasos.Contar("Vc", "0.53·1.1·√F'c·b·d·φ", {}, Vc_, "kgf");
-    pasos.Contar("x1", "({V} − {Vc})/{w}", {{"V", Va}, {"Vc", Vc_}, {"w", w}}, x1, "m");
-    pasos.Contar("x0", "{V}/{w}", {{"V", Va}, {"w", w}}, x0, "m");
-    pasos.Contar("x2", "{x0} − √({x0}² − 2·({M} − {Mlim})/{w})",
-                 {{"x0", x0}, {"M", Ma}, {"Mlim", Mlim_ / 100}, {"w", w}}, x2, "m");
-    pasos.Contar("Macizado", "mayor de {x1}, {x2}, 0", {{"x1", x1}, {"x2", x2}}, mayor, "m");
+    if (pasos.SeCuentan())
+        pasos.Contar("w", "({WV}·{FCV} + {Wp}·{FCP})·{cos α}",
+                     {{"WV", static_cast<double>(izquierdo.WV)},
+                      {"FCV", generales_.FCV},
+                      {"Wp", static_cast<double>(izquierdo.Wp)},
+                      {"FCP", generales_.FCP},
+                      {"cos α", C}},
+                     w, "kgf/m");
+    if (pasos.SeCuentan()) pasos.Contar("Vc", "0.53·1.1·√F'c·b·d·φ", {}, Vc_, "kgf");
+    if (pasos.SeCuentan())
+        pasos.Contar("x1", "({V} − {Vc})/{w}", {{"V", Va}, {"Vc", Vc_}, {"w", w}}, x1, "m");
+    if (pasos.SeCuentan()) pasos.Contar("x0", "{V}/{w}", {{"V", Va}, {"w", w}}, x0, "m");
+    if (pasos.SeCuentan())
+        pasos.Contar("x2", "{x0} − √({x0}² − 2·({M} − {Mlim})/{w})",
+                     {{"x0", x0}, {"M", Ma}, {"Mlim", Mlim_ / 100}, {"w", w}}, x2, "m");
+    if (pasos.SeCuentan())
+        pasos.Contar("Macizado", "mayor de {x1}, {x2}, 0", {{"x1", x1}, {"x2", x2}}, mayor, "m");
     return mayor;
 }
 

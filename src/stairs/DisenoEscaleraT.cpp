@@ -35,21 +35,25 @@ EstribosTramo CalculeEstribos(double Corte, double Torsor, const EstaticaEscaler
                               const Pasos& pasos) {
     const auto seccion = pasos([&] { return SeccionTorsion(escalera.B, escalera.HT, generales.D8); });
     const double Tu = pasos([&] { return TorsionAcumulada(Torsor, estatica, X, escalera, generales.FS); });
-    pasos.Contar("Tu", "|(L − X)/cos α·{FS}·{T}| − |{Mh}/2·(B/2)·π/2|",
-                 {{"FS", generales.FS}, {"T", Torsor}, {"Mh", estatica.MomentoHorizontal}}, Tu, "kgf·m");
+    if (pasos.SeCuentan())
+        pasos.Contar("Tu", "|(L − X)/cos α·{FS}·{T}| − |{Mh}/2·(B/2)·π/2|",
+                     {{"FS", generales.FS}, {"T", Torsor}, {"Mh", estatica.MomentoHorizontal}}, Tu, "kgf·m");
     const double V = pasos([&] { return generales.FS * Corte; });
-    pasos.Contar("V", "{FS}·{Corte}", {{"FS", generales.FS}, {"Corte", Corte}}, V, "kgf");
+    if (pasos.SeCuentan())
+        pasos.Contar("V", "{FS}·{Corte}", {{"FS", generales.FS}, {"Corte", Corte}}, V, "kgf");
     double s = SeparacionMaxima;
     if (const auto r = SeparacionPorArea(seccion, Tu, V, generales, pasos)) {
         Area = *r * Barra3_8 < PasoABarraMayor ? Barra1_2 : Barra3_8;
         s = pasos([&] { return *r * Area; });
     }
     s = std::min({s, SeparacionPorTamano(seccion), SeparacionMaxima});
-    pasos.Contar("s", "menor de s/A·{A}, (x1 + y1)/4 = {s2}, 30",
-                 {{"A", Area}, {"s2", SeparacionPorTamano(seccion)}}, s, "cm");
+    if (pasos.SeCuentan())
+        pasos.Contar("s", "menor de s/A·{A}, (x1 + y1)/4 = {s2}, 30",
+                     {{"A", Area}, {"s2", SeparacionPorTamano(seccion)}}, s, "cm");
     const double longitudinal = pasos([&] { return (((seccion.y1 + seccion.x1) * (2 * Barra3_8)) / s) / 2; });
-    pasos.Contar("Al", "2·0.71·({x1} + {y1})/{s}/2", {{"x1", seccion.x1}, {"y1", seccion.y1}, {"s", s}},
-                 longitudinal, "cm²");
+    if (pasos.SeCuentan())
+        pasos.Contar("Al", "2·0.71·({x1} + {y1})/{s}/2", {{"x1", seccion.x1}, {"y1", seccion.y1}, {"s", s}},
+                     longitudinal, "cm²");
     return {s, longitudinal};
 }
 
@@ -81,15 +85,17 @@ void DisenarDescanso(const DatosEscaleraT& escalera, const DatosGenerales& gener
         return (std::fabs(punto.CorteY) * generales.FS) / ((t * FiCorteYTorsion) * dl);
     });
     punto.TensionAdmisible = pasos([&] { return std::sqrt(static_cast<double>(generales.FC)) * 0.53; });
-    pasos.Contar("vu", "{FS}·{VY}/(0.85·{Hd}·({B} − {D8}))",
-                 {{"FS", generales.FS},
-                  {"VY", std::fabs(punto.CorteY)},
-                  {"Hd", escalera.Hd * 100},
-                  {"B", escalera.B * 100},
-                  {"D8", generales.D8 * 100}},
-                 punto.TensionCorte, "kgf/cm²");
-    pasos.Contar("vadm", "0.53·√{F'c}", {{"F'c", static_cast<double>(generales.FC)}}, punto.TensionAdmisible,
-                 "kgf/cm²");
+    if (pasos.SeCuentan())
+        pasos.Contar("vu", "{FS}·{VY}/(0.85·{Hd}·({B} − {D8}))",
+                     {{"FS", generales.FS},
+                      {"VY", std::fabs(punto.CorteY)},
+                      {"Hd", escalera.Hd * 100},
+                      {"B", escalera.B * 100},
+                      {"D8", generales.D8 * 100}},
+                     punto.TensionCorte, "kgf/cm²");
+    if (pasos.SeCuentan())
+        pasos.Contar("vadm", "0.53·√{F'c}", {{"F'c", static_cast<double>(generales.FC)}},
+                     punto.TensionAdmisible, "kgf/cm²");
     if (punto.TensionAdmisible < punto.TensionCorte) punto.FallaCorte = TextoFallaCorte;
 }
 
