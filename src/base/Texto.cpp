@@ -35,7 +35,14 @@ char32_t TomarCaracter(std::string_view& resto) {
     return caracter;
 }
 
+bool EsLlano(std::string_view texto, std::string_view salvo) {
+    return std::all_of(texto.begin(), texto.end(), [&](char c) {
+        return c >= 0x20 && c < 0x7F && salvo.find(c) == std::string_view::npos;
+    });
+}
+
 std::string TextoValido(std::string_view texto) {
+    if (EsLlano(texto, {})) return std::string(texto);
     std::string salida;
     salida.reserve(texto.size());
     while (!texto.empty()) {

@@ -9,6 +9,7 @@
 
 #include "base/Archivos.h"
 #include "base/Marcado.h"
+#include "base/Texto.h"
 #include "reports/salidas/ImagenPng.h"
 
 namespace trabex::salidas {
@@ -48,6 +49,7 @@ p.banda { color: #555555; font-size: 90%; border-bottom: 1px solid #d9dfe5; padd
 
 /// A line feed of a text stays one.
 std::string Escapado(std::string_view texto) {
+    if (EsLlano(texto, "&<>\"")) return std::string(texto);
     std::string salida;
     salida.reserve(texto.size());
     for (const char c : TextoDeMarcado(texto)) {
@@ -95,7 +97,7 @@ class PaginaHtml {
     std::string De(const documento::Ficha& ficha) const;
     std::string De(const documento::Tabla& tabla) const;
     std::string De(const documento::Imagen& imagen) const;
-    std::string Fila(const documento::Tabla& tabla, const documento::FilaDeTabla& fila) const;
+    void Fila(std::string& salida, const documento::Tabla& tabla, const documento::FilaDeTabla& fila) const;
     std::string Banda() const;
     std::string Indice() const;
 
@@ -151,19 +153,21 @@ std::string PaginaHtml::De(const documento::Ficha& ficha) const {
     return salida + "</tr>\n</table>\n";
 }
 
-std::string PaginaHtml::Fila(const documento::Tabla& tabla, const documento::FilaDeTabla& fila) const {
+void PaginaHtml::Fila(std::string& salida, const documento::Tabla& tabla,
+                      const documento::FilaDeTabla& fila) const {
     constexpr std::array<std::string_view, 3> lados{"<td class=\"i\"", "<td class=\"c\"", "<td"};
-    std::string salida = fila.Destacada ? "<tr class=\"total\">" : "<tr>";
+    salida += fila.Destacada ? "<tr class=\"total\">" : "<tr>";
     for (std::size_t i = 0; i < tabla.Columnas.size(); i += tabla.Abarca(fila, i)) {
         const std::size_t abarca = tabla.Abarca(fila, i);
         salida += lados[static_cast<std::size_t>(tabla.Lado(fila, i))];
-        salida += abarca > 1 ? " colspan=\"" + std::to_string(abarca) + "\">" : ">";
+        if (abarca > 1) salida += " colspan=\"" + std::to_string(abarca) + "\"";
+        salida += '>';
         if (i < fila.Celdas.size())
             salida += Escapado(
                 documento::TextoDeValor(fila.Celdas[i], tabla.Columnas[i].Formato, documento_.Locales));
         salida += "</td>";
     }
-    return salida + "</tr>\n";
+    salida += "</tr>\n";
 }
 
 std::string PaginaHtml::De(const documento::Tabla& tabla) const {
@@ -179,7 +183,7 @@ std::string PaginaHtml::De(const documento::Tabla& tabla) const {
     for (const documento::ColumnaDeTabla& columna : tabla.Columnas)
         salida += "<th scope=\"col\">" + Escapado(columna.Titulo) + "</th>";
     salida += "</tr>\n</thead>\n<tbody>\n";
-    for (const documento::FilaDeTabla& fila : tabla.Filas) salida += Fila(tabla, fila);
+    for (const documento::FilaDeTabla& fila : tabla.Filas) Fila(salida, tabla, fila);
     return salida + "</tbody>\n</table>\n";
 }
 

@@ -46,6 +46,7 @@ std::string Caracter(char32_t c) {
 }
 
 std::string Escapado(std::string_view texto) {
+    if (EsLlano(texto, "\\{}")) return std::string(texto);
     std::string salida;
     while (!texto.empty()) salida += Caracter(TomarCaracter(texto));
     return salida;
@@ -92,6 +93,8 @@ class TextoRico {
     }
     std::string Banda(std::string_view destino, const documento::BandaDePagina& banda) const;
     std::string Cabecera(const documento::Tabla& tabla, const std::vector<int>& limites) const;
+    static std::string Bordes(const documento::Tabla& tabla, const documento::FilaDeTabla& fila,
+                              const std::vector<int>& limites);
     double AnchoDeRotulos(const documento::Ficha& ficha, std::size_t columna, double paso) const;
 
     const documento::Documento& documento_;
@@ -204,25 +207,35 @@ std::string TextoRico::Cabecera(const documento::Tabla& tabla, const std::vector
     return salida + celdas + "\\row\n";
 }
 
+/// How a row begins: where its cells end, and their rules.
+std::string TextoRico::Bordes(const documento::Tabla& tabla, const documento::FilaDeTabla& fila,
+                              const std::vector<int>& limites) {
+    std::string salida{FilaNueva};
+    for (std::size_t i = 0; i < limites.size(); i += tabla.Abarca(fila, i)) {
+        salida += fila.Destacada ? BordeDeTotal : BordeDeFila;
+        salida += Orden("cellx", limites[i + tabla.Abarca(fila, i) - 1]);
+    }
+    return salida;
+}
+
 std::string TextoRico::De(const documento::Tabla& tabla) const {
     std::vector<int> limites;
     double derecha = 0;
     for (const double ancho : tabla.Anchos(util_.Ancho)) limites.push_back(Twips(derecha += ancho));
     std::string salida = "{" + Letra(0.95) + "\n" + Cabecera(tabla, limites);
+    const std::string usuales = Bordes(tabla, {}, limites);
     for (const documento::FilaDeTabla& fila : tabla.Filas) {
-        std::string celdas;
-        salida += FilaNueva;
+        salida += fila.Destacada || fila.Rotulo ? Bordes(tabla, fila, limites) : usuales;
         for (std::size_t i = 0; i < limites.size(); i += tabla.Abarca(fila, i)) {
-            salida += std::string(fila.Destacada ? BordeDeTotal : BordeDeFila) +
-                      Orden("cellx", limites[i + tabla.Abarca(fila, i) - 1]);
-            const std::string texto =
-                i < fila.Celdas.size() ? Escapado(documento::TextoDeValor(
-                                             fila.Celdas[i], tabla.Columnas[i].Formato, documento_.Locales))
-                                       : std::string();
-            celdas += std::string(Celda) + std::string(Lados[static_cast<std::size_t>(tabla.Lado(fila, i))]) +
-                      (fila.Destacada ? "{\\b " : "{") + texto + "}\\cell";
+            salida += Celda;
+            salida += Lados[static_cast<std::size_t>(tabla.Lado(fila, i))];
+            salida += fila.Destacada ? "{\\b " : "{";
+            if (i < fila.Celdas.size())
+                salida += Escapado(
+                    documento::TextoDeValor(fila.Celdas[i], tabla.Columnas[i].Formato, documento_.Locales));
+            salida += "}\\cell";
         }
-        salida += celdas + "\\row\n";
+        salida += "\\row\n";
     }
     return salida + std::string(FinDeTabla);
 }

@@ -154,12 +154,15 @@ class EscritorDeHoja {
         estilo.Puntos = documento_.Letra;
         return estilo;
     }
+    void Celda(std::size_t columna, xls::ValorXls valor, std::uint16_t estilo) {
+        xls::CeldaEn(hoja_, fila_, columna) = {std::move(valor), estilo};
+    }
     void Celda(std::size_t columna, xls::ValorXls valor, const xls::EstiloXls& estilo) {
-        xls::CeldaEn(hoja_, fila_, columna) = {std::move(valor), xls::EstiloDe(libro_, estilo)};
+        Celda(columna, std::move(valor), xls::EstiloDe(libro_, estilo));
     }
     /// A cell over several columns.
-    void Celda(std::size_t columna, std::size_t cuantas, const xls::ValorXls& valor,
-               const xls::EstiloXls& estilo) {
+    template <class Estilo>
+    void Celda(std::size_t columna, std::size_t cuantas, const xls::ValorXls& valor, const Estilo& estilo) {
         for (std::size_t c = columna; c < columna + cuantas; ++c) Celda(c, {}, estilo);
         Celda(columna, valor, estilo);
         if (cuantas > 1) hoja_.Combinadas.push_back({fila_, columna, fila_, columna + cuantas - 1});
@@ -250,17 +253,34 @@ class EscritorDeHoja {
         ++fila_;
     }
     void PonerFila(const documento::Tabla& tabla, const documento::FilaDeTabla& fila) {
+        if (hoja_.Filas.size() <= fila_) hoja_.Filas.resize(fila_ + 1);
+        hoja_.Filas[fila_].Celdas.reserve(tabla.Columnas.size());
         for (std::size_t c = 0; c < tabla.Columnas.size(); c += tabla.Abarca(fila, c)) {
-            xls::EstiloXls estilo = Estilo();
-            estilo.Negrita = fila.Destacada;
-            estilo.Alineacion = LadoEnXls(tabla.Lado(fila, c));
-            estilo.Bordes.Inferior = xls::BordeXls::Fino;
-            estilo.Bordes.Superior = fila.Destacada ? xls::BordeXls::Fino : xls::BordeXls::Ninguno;
-            estilo.Bordes.Color = fila.Destacada ? 0 : LineaDatos;
-            const almacen::Valor valor = c < fila.Celdas.size() ? fila.Celdas[c] : almacen::Valor{};
-            PonerValor(c, tabla.Abarca(fila, c), valor, tabla.Columnas[c].Formato, "", estilo);
+            ValorEnXls celda = ValorDeCelda(c < fila.Celdas.size() ? fila.Celdas[c] : almacen::Valor{},
+                                            tabla.Columnas[c].Formato, "", documento_.Locales);
+            const std::uint16_t estilo =
+                EstiloDeCelda(fila.Destacada, tabla.Lado(fila, c), std::move(celda.Formato));
+            Celda(c, tabla.Abarca(fila, c), celda.Valor, estilo);
         }
         ++fila_;
+    }
+
+    /// The book's number of the style of a table's cell; there are few, and many cells.
+    std::uint16_t EstiloDeCelda(bool destacada, documento::Alineacion lado, std::string formato) {
+        const auto igual = [&](const EstiloUsado& usado) {
+            return usado.Destacada == destacada && usado.Lado == lado && usado.Formato == formato;
+        };
+        const auto usado = std::find_if(usados_.begin(), usados_.end(), igual);
+        if (usado != usados_.end()) return usado->Numero;
+        xls::EstiloXls estilo = Estilo();
+        estilo.Negrita = destacada;
+        estilo.Alineacion = LadoEnXls(lado);
+        estilo.Bordes.Inferior = xls::BordeXls::Fino;
+        estilo.Bordes.Superior = destacada ? xls::BordeXls::Fino : xls::BordeXls::Ninguno;
+        estilo.Bordes.Color = destacada ? 0 : LineaDatos;
+        estilo.Formato = formato;
+        usados_.push_back({destacada, lado, std::move(formato), xls::EstiloDe(libro_, estilo)});
+        return usados_.back().Numero;
     }
 
     void PonerValor(std::size_t columna, std::size_t cuantas, const almacen::Valor& valor,
@@ -292,8 +312,16 @@ class EscritorDeHoja {
     void Poner(const documento::Indice& /*indice*/) {}
     void Poner(const documento::SaltoDePagina& /*salto*/) { hoja_.SaltosDePagina.push_back(fila_); }
 
+    struct EstiloUsado {
+        bool Destacada;
+        documento::Alineacion Lado;
+        std::string Formato;
+        std::uint16_t Numero;
+    };
+
     xls::LibroXls& libro_;
     xls::HojaXls& hoja_;
+    std::vector<EstiloUsado> usados_;
     const documento::Documento& documento_;
     std::size_t fila_ = 0;
     bool fijarTitulos_ = false;
