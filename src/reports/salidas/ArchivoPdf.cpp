@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 
 #include <zlib.h>
 
@@ -49,21 +50,18 @@ void AgregarNumeroPdf(std::string& salida, double valor) {
     constexpr double limite = 1e12;
     constexpr std::int64_t milesimas = 1000;
     const double acotado = std::isfinite(valor) ? std::fmin(std::fmax(valor, -limite), limite) : 0;
-    std::int64_t entero = std::llround(acotado * milesimas);
-    if (entero < 0) {
-        salida += '-';
-        entero = -entero;
-    }
-    std::array<char, 24> cifras{};
-    const auto fin = std::to_chars(cifras.data(), cifras.data() + cifras.size(), entero / milesimas);
-    salida.append(cifras.data(), fin.ptr);
+    const std::int64_t redondeado = std::llround(acotado * milesimas);
+    const std::int64_t entero = std::abs(redondeado);
+    std::array<char, 24> cifras{'-'};
+    char* const primera = cifras.data() + (redondeado < 0 ? 1 : 0);
+    char* fin = std::to_chars(primera, cifras.data() + cifras.size(), entero / milesimas).ptr;
     std::int64_t resto = entero % milesimas;
-    if (resto == 0) return;
-    salida += '.';
+    if (resto > 0) *fin++ = '.';
     for (std::int64_t peso = milesimas / 10; resto > 0; peso /= 10) {
-        salida += static_cast<char>('0' + resto / peso);
+        *fin++ = static_cast<char>('0' + resto / peso);
         resto %= peso;
     }
+    salida.append(cifras.data(), fin);
 }
 
 ArchivoPdf::ArchivoPdf(ArchivoNuevo& destino) : destino_(destino) {

@@ -216,12 +216,16 @@ void OrdenesPdf::Texto(const std::vector<LetrasPdf::Tramo>& tramos, double cuerp
         if (tramo.Glifos.empty()) continue;
         const double x = cuerpo * tramo.x;
         const double y = cuerpo * tramo.y;
-        bytes_ += "BT " + LetrasPdf::Nombre(tramo.Letra) + " ";
+        bytes_ += "BT ";
+        bytes_ += LetrasPdf::Nombre(tramo.Letra);
+        bytes_ += ' ';
         Numero(cuerpo);
         bytes_ += "Tf ";
         for (const double valor : {C, -S, -S, -C, base.x() + C * x + S * y, base.y() - S * x + C * y})
             Numero(valor);
-        bytes_ += "Tm <" + tramo.Glifos + "> Tj ET\n";
+        bytes_ += "Tm <";
+        bytes_ += tramo.Glifos;
+        bytes_ += "> Tj ET\n";
     }
 }
 

@@ -11,10 +11,17 @@ namespace trabex::salidas::qt {
 namespace {
 
 constexpr int CuerpoDeMedida = 1000;  // pixels, at which stretches are set
+constexpr std::size_t FuentesAMano = 4;
+
+std::array<char, 4> CifrasDe(std::uint32_t glifo) {
+    constexpr std::string_view cifras = "0123456789ABCDEF";
+    return {cifras[glifo >> 12U & 0xFU], cifras[glifo >> 8U & 0xFU], cifras[glifo >> 4U & 0xFU],
+            cifras[glifo & 0xFU]};
+}
 
 void AgregarGlifo(std::string& glifos, std::uint32_t glifo) {
-    constexpr std::string_view cifras = "0123456789ABCDEF";
-    for (const unsigned corrimiento : {12U, 8U, 4U, 0U}) glifos += cifras[glifo >> corrimiento & 0xFU];
+    const std::array<char, 4> cifras = CifrasDe(glifo);
+    glifos.append(cifras.data(), cifras.size());
 }
 
 TablaDeFuente TablasDe(const QRawFont& fuente) {
@@ -67,7 +74,7 @@ std::size_t LetrasPdf::Numero(const QRawFont& fuente) {
     letra->Fuente = fuente;
     for (std::size_t c = 0x20; c < letra->Latinos.size(); ++c) {
         const QList<quint32> glifos = fuente.glyphIndexesForString(QString(QChar(static_cast<char16_t>(c))));
-        if (!glifos.isEmpty()) letra->Latinos[c] = glifos.front();
+        if (!glifos.isEmpty()) letra->Latinos[c] = {glifos.front(), false, CifrasDe(glifos.front())};
     }
     letras_.push_back(std::move(letra));
     porNombre_.insert(nombre, letras_.size() - 1);
@@ -75,7 +82,8 @@ std::size_t LetrasPdf::Numero(const QRawFont& fuente) {
 }
 
 std::size_t LetrasPdf::Numero(const QFont& fuente) {
-    if (hayUltima_ && fuente == ultima_.Fuente) return ultima_.Numero;
+    for (const Elegida& ultima : ultimas_)
+        if (fuente == ultima.Fuente) return ultima.Numero;
     const QString llave =
         fuente.families().join('\n') + (fuente.bold() ? "|n" : "|") + (fuente.italic() ? "i" : "");
     auto hallada = porFuente_.find(llave);
@@ -84,8 +92,8 @@ std::size_t LetrasPdf::Numero(const QFont& fuente) {
         grande.setPixelSize(CuerpoDeMedida);
         hallada = porFuente_.insert(llave, Numero(QRawFont::fromFont(grande)));
     }
-    ultima_ = {fuente, *hallada};
-    hayUltima_ = true;
+    if (ultimas_.size() == FuentesAMano) ultimas_.pop_back();
+    ultimas_.insert(ultimas_.begin(), {fuente, *hallada});
     return *hallada;
 }
 
@@ -96,13 +104,17 @@ double LetrasPdf::Ascenso(const QFont& fuente) {
 
 bool LetrasPdf::ComponerSencillo(Letra& letra, const QString& texto, std::string& glifos) {
     for (const QChar c : texto) {
-        const char16_t codigo = c.unicode();
-        quint32 glifo = codigo < letra.Latinos.size() ? letra.Latinos[codigo] : 0;
-        if (glifo == 0 && codigo >= letra.Latinos.size() && !c.isSurrogate() &&
-            c.script() <= QChar::Script_Cyrillic) {
-            const QList<quint32> hallados = letra.Fuente.glyphIndexesForString(QString(c));
-            glifo = hallados.isEmpty() ? 0 : hallados.front();
+        if (c.unicode() < letra.Latinos.size()) {
+            Latino& latino = letra.Latinos[c.unicode()];
+            if (latino.Glifo == 0) return false;
+            if (!latino.Usado) letra.Usados.try_emplace(latino.Glifo, c);
+            latino.Usado = true;
+            glifos.append(latino.Cifras.data(), latino.Cifras.size());
+            continue;
         }
+        if (c.isSurrogate() || c.script() > QChar::Script_Cyrillic) return false;
+        const QList<quint32> hallados = letra.Fuente.glyphIndexesForString(QString(c));
+        const quint32 glifo = hallados.isEmpty() ? 0 : hallados.front();
         if (glifo == 0) return false;
         if (const auto [usado, nuevo] = letra.Usados.try_emplace(glifo); nuevo) usado->second = c;
         AgregarGlifo(glifos, glifo);
@@ -137,11 +149,15 @@ std::vector<LetrasPdf::Tramo> LetrasPdf::ComponerPorPartes(const QFont& fuente, 
     return tramos;
 }
 
-std::vector<LetrasPdf::Tramo> LetrasPdf::Componer(const QFont& fuente, const QString& texto) {
-    Tramo tramo{Numero(fuente), {}};
-    tramo.Glifos.reserve(static_cast<std::size_t>(texto.size()) * 4);
-    if (ComponerSencillo(*letras_[tramo.Letra], texto, tramo.Glifos)) return {tramo};
-    return ComponerPorPartes(fuente, texto);
+const std::vector<LetrasPdf::Tramo>& LetrasPdf::Componer(const QFont& fuente, const QString& texto) {
+    compuesto_.resize(1);
+    Tramo& tramo = compuesto_.front();
+    tramo.Letra = Numero(fuente);
+    tramo.x = tramo.y = 0;
+    tramo.Glifos.clear();
+    if (!ComponerSencillo(*letras_[tramo.Letra], texto, tramo.Glifos))
+        compuesto_ = ComponerPorPartes(fuente, texto);
+    return compuesto_;
 }
 
 void LetrasPdf::EscribirLetra(ArchivoPdf& archivo, std::size_t numero, std::size_t orden,

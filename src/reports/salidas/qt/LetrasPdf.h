@@ -27,8 +27,8 @@ class LetrasPdf {
         double x = 0;
         double y = 0;
     };
-    /// A text in a font of the toolkit, in others where that one has not its characters.
-    std::vector<Tramo> Componer(const QFont& fuente, const QString& texto);
+    /// A text in a font of the toolkit, in others where that one has not its characters. Valid until the next.
+    const std::vector<Tramo>& Componer(const QFont& fuente, const QString& texto);
     /// How high a font stands over its foot line, in sizes of it.
     double Ascenso(const QFont& fuente);
 
@@ -38,9 +38,14 @@ class LetrasPdf {
     std::string Escribir(ArchivoPdf& archivo) const;
 
   private:
+    struct Latino {
+        quint32 Glifo = 0;  // 0 where the font has none
+        bool Usado = false;
+        std::array<char, 4> Cifras{};
+    };
     struct Letra {
         QRawFont Fuente;
-        std::array<quint32, 256> Latinos{};       // glyphs of the first characters; 0 where it has none
+        std::array<Latino, 256> Latinos{};        // the first characters
         std::map<std::uint32_t, QString> Usados;  // glyphs, with what they stand for
     };
     struct Elegida {
@@ -56,8 +61,8 @@ class LetrasPdf {
     std::vector<std::unique_ptr<Letra>> letras_;
     QHash<QString, std::size_t> porFuente_;
     QHash<QString, std::size_t> porNombre_;
-    Elegida ultima_;
-    bool hayUltima_ = false;
+    std::vector<Elegida> ultimas_;  // a page goes to and fro between a few
+    std::vector<Tramo> compuesto_;
 };
 
 }  // namespace trabex::salidas::qt

@@ -208,16 +208,20 @@ void PiezaTabla::PintarFila(Tinta& tinta, const QPointF& esquina, std::size_t fi
     for (std::size_t i = 0; i < anchos_.size(); i += tabla_.Abarca(suya, i)) {
         const double ancho = Ancho(i, tabla_.Abarca(suya, i));
         if (tabla_.Estilo.Lineas) tinta.Raya({x, esquina.y()}, {x, pie}, Grosor, Tono(RayaDeFila));
+        const documento::Alineacion lado = tabla_.Lado(suya, i);
         double y = esquina.y() + EntreLineas / 2 * letra.Alto() + letra.Ascenso();
-        for (const QString& linea : LineasDeCelda(fila, i)) {
+        const auto pintar = [&](const QString& linea) {
             const double hueco = ancho - letra.Ancho(linea);
-            const documento::Alineacion lado = tabla_.Lado(suya, i);
             const double sangria = lado == documento::Alineacion::Izquierda ? Margen
                                    : lado == documento::Alineacion::Centro  ? hueco / 2
                                                                             : hueco - Margen;
             if (!linea.isEmpty()) tinta.Texto({x + sangria, y}, linea, letra, TinteDeCelda);
             y += letra.Alto();
-        }
+        };
+        if (lado != documento::Alineacion::Izquierda)
+            pintar(Celda(fila, i));
+        else
+            for (const QString& linea : LineasDeCelda(fila, i)) pintar(linea);
         x += ancho;
     }
     if (tabla_.Estilo.Lineas) tinta.Raya({x, esquina.y()}, {x, pie}, Grosor, Tono(RayaDeFila));
