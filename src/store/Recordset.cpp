@@ -437,6 +437,16 @@ void Recordset::Cerrar() {
     interna_.reset();
 }
 
+std::vector<std::vector<Valor>> Recordset::Entregar() {
+    std::vector<std::vector<Valor>> valores;
+    if (interna_) {
+        valores.reserve(interna_->filas.size());
+        for (Fila& fila : interna_->filas) valores.push_back(std::move(fila.Valores));
+    }
+    Cerrar();
+    return valores;
+}
+
 bool Recordset::Encontrado() const {
     return encontrado_;
 }

@@ -78,6 +78,9 @@ class Recordset {
 
     void Cerrar();
 
+    /// Gives up what all its records hold, in the order of `Columnas`, and is closed then.
+    std::vector<std::vector<Valor>> Entregar();
+
     /// The answer of the last BuscarRegistro.
     bool Encontrado() const;
 

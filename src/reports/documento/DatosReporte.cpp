@@ -23,9 +23,9 @@ bool MismoNombre(std::string_view a, std::string_view b) {
     });
 }
 
-almacen::Valor Imprimible(almacen::Valor valor) {
-    if (auto* texto = std::get_if<std::string>(&valor)) *texto = TextoImprimible(*texto);
-    return valor;
+void HacerImprimible(almacen::Valor& valor) {
+    auto* texto = std::get_if<std::string>(&valor);
+    if (texto != nullptr && !EsLlano(*texto, {})) *texto = TextoImprimible(*texto);
 }
 
 /// A value as a key: equal values, equal keys.
@@ -48,14 +48,9 @@ std::unique_ptr<TablaDeDatos> TablaDeDatos::Leer(almacen::Conexion& conexion, co
     if (!orden.empty() && !tabla->Columna(orden)) return nullptr;
     almacen::Recordset registros;
     almacen::AbrirConIdentidad(conexion, registros, nombre, tabla->columnas_, orden);
-    for (int i = 1; i <= registros.NumeroRegistros(); ++i) {
-        registros.MoverA(i);
-        tabla->identidades_.push_back(TextoDeValor(registros.Leer(almacen::ColumnaIdentidad), {}, {}));
-        std::vector<almacen::Valor>& fila = tabla->filas_.emplace_back();
-        fila.reserve(tabla->columnas_.size());
-        for (const std::string& columna : tabla->columnas_)
-            fila.push_back(Imprimible(registros.Leer(columna)));
-    }
+    tabla->filas_ = registros.Entregar();
+    for (std::vector<almacen::Valor>& fila : tabla->filas_)
+        for (almacen::Valor& valor : fila) HacerImprimible(valor);
     tabla->todas_.resize(tabla->filas_.size());
     std::iota(tabla->todas_.begin(), tabla->todas_.end(), std::size_t{0});
     return tabla;
@@ -73,7 +68,7 @@ const std::vector<std::size_t>& TablaDeDatos::Donde(std::size_t columna, const a
     const auto [indice, nuevo] = indices_.try_emplace(columna);
     if (nuevo) {
         for (std::size_t i = 0; i < filas_.size(); ++i)
-            indice->second[Clave(filas_[i][columna])].push_back(i);
+            indice->second[Clave(Leer(i, columna))].push_back(i);
     }
     const auto hallada = indice->second.find(Clave(valor));
     return hallada == indice->second.end() ? ninguna : hallada->second;
@@ -87,7 +82,7 @@ bool TablaDeDatos::EsImagen(std::string_view columna) const {
 almacen::Bytes TablaDeDatos::LeerJunto(std::size_t fila, const std::string& columna) const {
     if (!EsImagen(columna)) return {};
     const std::scoped_lock espera(turno_);
-    return almacen::LeerBytes(*conexion_, nombre_, columna, identidades_[fila]);
+    return almacen::LeerBytes(*conexion_, nombre_, columna, TextoDeValor(filas_[fila].front(), {}, {}));
 }
 
 almacen::Bytes TablaDeDatos::LeerImagen(std::size_t fila, std::string_view columna) const {

@@ -27,7 +27,9 @@ class TablaDeDatos {
     const std::string& Nombre() const { return nombre_; }
     std::size_t NumeroFilas() const { return filas_.size(); }
     std::optional<std::size_t> Columna(std::string_view nombre) const;
-    const almacen::Valor& Leer(std::size_t fila, std::size_t columna) const { return filas_[fila][columna]; }
+    const almacen::Valor& Leer(std::size_t fila, std::size_t columna) const {
+        return filas_[fila][columna + 1];
+    }
     /// Numbers of the rows whose column equals a value, in order.
     const std::vector<std::size_t>& Donde(std::size_t columna, const almacen::Valor& valor) const;
     /// Numbers of all rows, in order.
@@ -50,8 +52,7 @@ class TablaDeDatos {
     std::string nombre_;
     std::vector<std::string> columnas_;
     std::vector<std::string> imagenes_;
-    std::vector<std::vector<almacen::Valor>> filas_;
-    std::vector<std::string> identidades_;
+    std::vector<std::vector<almacen::Valor>> filas_;  // behind what tells each from the others
     std::vector<std::size_t> todas_;
     mutable std::mutex turno_;                       // of reading pictures
     mutable std::map<std::size_t, Indice> indices_;  // by column, made when first asked for

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,6 +20,9 @@ void AgregarNumeroPdf(std::string& salida, double valor);
 class ArchivoPdf {
   public:
     explicit ArchivoPdf(ArchivoNuevo& destino);
+    ~ArchivoPdf();
+    ArchivoPdf(const ArchivoPdf&) = delete;
+    ArchivoPdf& operator=(const ArchivoPdf&) = delete;
 
     /// The number of an object to come.
     std::size_t Reservar();
@@ -33,10 +37,12 @@ class ArchivoPdf {
     static std::string Enlace(std::size_t numero) { return std::to_string(numero) + " 0 R"; }
 
   private:
+    class Compresor;
     void Empezar(std::size_t numero);
     void Escribir(std::string_view bytes);
 
     ArchivoNuevo& destino_;
+    std::unique_ptr<Compresor> compresor_;
     std::size_t largo_ = 0;
     std::vector<std::size_t> lugares_{0};  // of the objects, from 1
 };
