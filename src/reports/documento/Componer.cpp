@@ -119,11 +119,12 @@ Hallada Nombres::BuscarImagen(const Referencia& referencia, const FilaActual* al
 std::vector<std::size_t> Nombres::Filas(const FuenteDeFilas& fuente, const FilaActual* alrededor) {
     const TablaDeDatos* tabla = Tabla(fuente);
     if (tabla == nullptr) return {};
-    std::vector<std::size_t> filas = tabla->Todas();
-    if (!fuente.Enlace.empty()) {
+    std::vector<std::size_t> filas;
+    if (fuente.Enlace.empty()) {
+        filas = tabla->Todas();
+    } else {
         const std::size_t columna = Exigir(*tabla, fuente.Enlace, fuente.Linea);
         const Hallada fuera = Buscar({"", fuente.Enlace, fuente.Linea}, alrededor);
-        filas.clear();
         if (fuera.Tabla != nullptr && fuera.Fila)
             filas = tabla->Donde(columna, fuera.Tabla->Leer(*fuera.Fila, fuera.Columna));
     }

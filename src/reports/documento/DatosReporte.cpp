@@ -18,6 +18,7 @@ constexpr const char* SufijoPng = "Png";
 constexpr const char* SufijoTrazos = "Trazos";
 
 bool MismoNombre(std::string_view a, std::string_view b) {
+    if (a == b) return true;
     return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
         return std::tolower(static_cast<unsigned char>(x)) == std::tolower(static_cast<unsigned char>(y));
     });

@@ -210,8 +210,8 @@ void OrdenesPdf::Circulo(double x, double y, double radio, bool relleno, bool co
 void OrdenesPdf::Texto(const std::vector<LetrasPdf::Tramo>& tramos, double cuerpo, QPointF base,
                        double grados) {
     const double radianes = grados * std::numbers::pi / 180;
-    const double C = std::cos(radianes);
-    const double S = std::sin(radianes);
+    const double C = grados == 0 ? 1 : std::cos(radianes);  // most texts stand upright
+    const double S = grados == 0 ? 0 : std::sin(radianes);
     for (const LetrasPdf::Tramo& tramo : tramos) {
         if (tramo.Glifos.empty()) continue;
         const double x = cuerpo * tramo.x;
