@@ -27,7 +27,7 @@ std::filesystem::path CarpetaDelPrograma() {
     return CaminoDeTexto(QCoreApplication::applicationDirPath().toStdString());
 }
 
-/// The outputs of a run, one after another; each that is written adds a closing line.
+/// The outputs of a run; each that is written adds a closing line.
 class Salidas {
   public:
     Salidas(const ProyectoCalculado& calculado, const Opciones& opciones, const Marcha& marcha)
@@ -35,9 +35,25 @@ class Salidas {
 
     void Escribir() {
         EscribirResultados();
+        // Files of exchange need one thread and report no progress: the rest goes on beside them.
+        EnParalelo(std::min(marcha_.Hilos, 2U), 2, [this](std::size_t i, unsigned) {
+            i == 0 ? EscribirHojasYReportes() : EscribirIntercambios();
+        });
+    }
+
+    std::string Cierre() const { return cierreDeResultados_ + cierreDeIntercambios_ + cierre_; }
+    std::vector<Falta> LasFaltas() const { return faltas_.Todas(); }
+
+  private:
+    static std::string Linea(const std::string& rotulo, const std::filesystem::path& camino) {
+        return rotulo + ": " + camino.string() + '\n';
+    }
+    void Cerrar(const std::string& rotulo, const std::filesystem::path& camino) {
+        cierre_ += Linea(rotulo, camino);
+    }
+
+    void EscribirHojasYReportes() {
         for (const Lista& lista : calculado_.Listas) {
-            for (const Intercambio& intercambio : lista.De->Intercambios)
-                EscribirIntercambio(lista, intercambio);
             if (lista.De->Dibujos && !opciones_.SinDibujos && opciones_.Pide(SalidaHojas)) {
                 EscribirHojas(lista, calculado_.Datos, opciones_.Carpeta / lista.De->Clave, marcha_, faltas_);
                 Cerrar("Hojas de las " + std::string(lista.De->Plural), opciones_.Carpeta / lista.De->Clave);
@@ -53,21 +69,20 @@ class Salidas {
         }
     }
 
-    const std::string& Cierre() const { return cierre_; }
-    std::vector<Falta> LasFaltas() const { return faltas_.Todas(); }
-
-  private:
-    void Cerrar(const std::string& rotulo, const std::filesystem::path& camino) {
-        cierre_ += rotulo + ": " + camino.string() + '\n';
-    }
-
     void EscribirResultados() {
         const std::filesystem::path archivo = opciones_.Carpeta / "resultados.json";
         try {
             EscribirArchivo(archivo, DocumentoJson(calculado_, marcha_));
-            Cerrar("Resultados", archivo);
+            cierreDeResultados_ = Linea("Resultados", archivo);
         } catch (const ErrorEjecucion& error) {
             faltas_.Anotar("resultados.json", error.Texto());
+        }
+    }
+
+    void EscribirIntercambios() {
+        for (const Lista& lista : calculado_.Listas) {
+            for (const Intercambio& intercambio : lista.De->Intercambios)
+                EscribirIntercambio(lista, intercambio);
         }
     }
 
@@ -81,7 +96,7 @@ class Salidas {
         std::string enCurso;
         try {
             intercambio.Escribir(CarpetaDelPrograma(), archivo, calculado_.Datos, lista, enCurso);
-            Cerrar(intercambio.Rotulo, archivo);
+            cierreDeIntercambios_ += Linea(intercambio.Rotulo, archivo);
         } catch (const ErrorEjecucion& error) {
             const std::string salida = TextoDeCamino(archivo.filename());
             faltas_.Anotar(enCurso.empty() ? salida : SalidaDe(salida, lista.De->Nombre, enCurso),
@@ -104,7 +119,7 @@ class Salidas {
     const Opciones& opciones_;
     const Marcha& marcha_;
     Faltas faltas_;
-    std::string cierre_;
+    std::string cierreDeResultados_, cierreDeIntercambios_, cierre_;
 };
 
 std::string Resumen(const ProyectoCalculado& calculado) {

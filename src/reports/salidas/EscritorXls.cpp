@@ -123,12 +123,21 @@ class EscritorDeHoja {
 
     /// A number wider than its column would show as a row of signs.
     double AnchoDeNumeros(const documento::Tabla& tabla, std::size_t columna) const {
+        const std::string& formato = tabla.Columnas[columna].Formato;
+        // Of as many decimals, the longest is the largest or the smallest.
+        const bool todos = formato.empty() || formato.find('|') != std::string::npos;
         std::size_t letras = 0;
+        double mayor = 0, menor = 0;
         for (const documento::FilaDeTabla& fila : tabla.Filas) {
-            if (columna < fila.Celdas.size() && documento::NumeroDe(fila.Celdas[columna]))
-                letras = std::max(letras, Letras(fila.Celdas[columna], tabla.Columnas[columna].Formato));
+            const auto numero =
+                columna < fila.Celdas.size() ? documento::NumeroDe(fila.Celdas[columna]) : std::nullopt;
+            if (!numero || !std::isfinite(*numero)) continue;
+            letras = std::max(letras, todos ? Letras(*numero, formato) : 1);
+            mayor = std::max(mayor, *numero);
+            menor = std::min(menor, *numero);
         }
-        return letras == 0 ? 0 : AnchoDe(letras);
+        if (letras == 0) return 0;
+        return AnchoDe(todos ? letras : std::max(Letras(mayor, formato), Letras(menor, formato)));
     }
     std::size_t Letras(const almacen::Valor& valor, const std::string& formato) const {
         return NumeroDeCaracteres(documento::TextoDeValor(valor, formato, documento_.Locales));

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <numeric>
 
+#include "base/Texto.h"
+
 namespace trabex::salidas::qt {
 
 namespace {
@@ -50,11 +52,14 @@ void PiezaTabla::Achicar(double puntos) {
     negrita_ = chicaNegrita_.get();
 }
 
-QString PiezaTabla::Celda(std::size_t fila, std::size_t columna) const {
+std::string PiezaTabla::TextoDeCelda(std::size_t fila, std::size_t columna) const {
     const std::vector<almacen::Valor>& celdas = tabla_.Filas[fila].Celdas;
     if (columna >= celdas.size()) return {};
-    return QString::fromStdString(
-        documento::TextoDeValor(celdas[columna], tabla_.Columnas[columna].Formato, separadores_));
+    return documento::TextoDeValor(celdas[columna], tabla_.Columnas[columna].Formato, separadores_);
+}
+
+QString PiezaTabla::Celda(std::size_t fila, std::size_t columna) const {
+    return QString::fromStdString(TextoDeCelda(fila, columna));
 }
 
 std::vector<double> PiezaTabla::AnchosMinimos() const {
@@ -64,7 +69,12 @@ std::vector<double> PiezaTabla::AnchosMinimos() const {
         for (std::size_t fila = 0; fila < tabla_.Filas.size(); ++fila) {
             if (tabla_.Abarca(tabla_.Filas[fila], i) > 1) continue;
             const TipoDeLetra& letra = tabla_.Filas[fila].Destacada ? *negrita_ : *normal_;
-            const QString texto = Celda(fila, i);
+            const std::string llano = TextoDeCelda(fila, i);
+            if (!SeParte(i) && EsLlano(llano, {})) {
+                ancho = std::max(ancho, letra.AnchoLlano(llano));
+                continue;
+            }
+            const QString texto = QString::fromStdString(llano);
             // A long word gives way: it can be broken where a number can not.
             const double entero = letra.Ancho(texto);
             const double preciso =

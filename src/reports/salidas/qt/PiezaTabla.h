@@ -3,6 +3,7 @@
 #include <QStringList>
 #include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "reports/salidas/qt/Piezas.h"
@@ -34,6 +35,7 @@ class PiezaTabla : public Pieza {
     bool SeParte(std::size_t columna) const {
         return tabla_.Columnas[columna].Lado == documento::Alineacion::Izquierda;
     }
+    std::string TextoDeCelda(std::size_t fila, std::size_t columna) const;
     QString Celda(std::size_t fila, std::size_t columna) const;
     QStringList LineasDeCelda(std::size_t fila, std::size_t columna) const;
     QStringList LineasDeTitulo(const std::string& titulo, double ancho) const;

@@ -61,6 +61,12 @@ double TipoDeLetra::Ancho(const QString& texto) const {
     return ancho;
 }
 
+double TipoDeLetra::AnchoLlano(std::string_view texto) const {
+    double ancho = 0;
+    for (const char c : texto) ancho += avances_[static_cast<unsigned char>(c)];
+    return ancho;
+}
+
 QStringList TipoDeLetra::Lineas(const QString& texto, double ancho) const {
     QStringList lineas;
     for (const QString& parrafo : texto.split('\n')) {

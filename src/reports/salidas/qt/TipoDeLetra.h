@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 #include <array>
+#include <string_view>
 
 namespace trabex::salidas::qt {
 
@@ -20,6 +21,8 @@ class TipoDeLetra {
 
     const QFont& Fuente() const { return fuente_; }
     double Ancho(const QString& texto) const;
+    /// The same of a text of printable ASCII alone.
+    double AnchoLlano(std::string_view texto) const;
     /// From one line to the next, and from a line's top to its foot line.
     double Alto() const { return alto_; }
     double Ascenso() const { return ascenso_; }
