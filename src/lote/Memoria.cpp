@@ -131,6 +131,29 @@ void Agregar(documento::Documento& memoria, const ProyectoCalculado& calculado, 
     }
 }
 
+/// The flat tables of a kind: its elements' rows behind their names.
+std::vector<std::pair<std::string, documento::Tabla>> TablasPlanas(const Lista& lista) {
+    std::vector<std::pair<std::string, documento::Tabla>> planas;
+    for (const Elemento& elemento : lista.Elementos) {
+        for (auto& [nombre, suya] : lista.De->Memoria->Tablas(lista, elemento)) {
+            const auto igual = [&nombre = nombre](const auto& plana) { return plana.first == nombre; };
+            auto plana = std::find_if(planas.begin(), planas.end(), igual);
+            if (plana == planas.end()) {
+                suya.Columnas.insert(suya.Columnas.begin(), {lista.De->Columnas.front().Encabezado, "", "",
+                                                             45, Alineacion::Izquierda});
+                plana = planas.insert(planas.end(), {nombre, {std::move(suya.Columnas), {}}});
+                plana->second.Estilo.Filtros = true;
+            }
+            for (documento::FilaDeTabla& fila : suya.Filas) {
+                fila.Celdas.insert(fila.Celdas.begin(), elemento.Nombre);
+                fila.Celdas.resize(plana->second.Columnas.size());
+                plana->second.Filas.push_back(std::move(fila));
+            }
+        }
+    }
+    return planas;
+}
+
 }  // namespace
 
 documento::Documento ComponerMemoria(const ProyectoCalculado& calculado, const std::string& fecha,
@@ -144,11 +167,9 @@ documento::Documento ComponerMemoriaEnHojas(const ProyectoCalculado& calculado, 
                                             const Separadores& numeros, const Ilustrar& ilustrar) {
     documento::Documento memoria = Vacio(calculado, fecha, numeros);
     for (const Lista& lista : calculado.Listas)
-        if (TieneCapitulo(lista) && lista.De->Memoria->Tablas != nullptr)
-            for (auto& [nombre, tabla] : lista.De->Memoria->Tablas(lista)) {
-                tabla.Estilo.Filtros = true;
+        if (TieneCapitulo(lista))
+            for (auto& [nombre, tabla] : TablasPlanas(lista))
                 memoria.Secciones.push_back({nombre, false, false, {std::move(tabla)}});
-            }
     Agregar(memoria, calculado, fecha, ilustrar);
     return memoria;
 }

@@ -105,8 +105,10 @@ struct ParteDeMemoria {
 struct MemoriaDeModulo {
     std::span<const char* const> (*Metodo)();  ///< assumptions of the method, a paragraph each
     ParteDeMemoria (*Contar)(const Lista& lista, const Elemento& elemento, const Separadores& numeros);
-    /// Flat tables over all elements, with the name of each one's sheet; null: none.
-    std::vector<std::pair<std::string, documento::Tabla>> (*Tablas)(const Lista& lista);
+    /// An element's rows of the flat tables over all of its kind, by the name of each table; none where it
+    /// has no results.
+    std::vector<std::pair<std::string, documento::Tabla>> (*Tablas)(const Lista& lista,
+                                                                    const Elemento& elemento);
 };
 
 /// An element's module. Functions that are null stand for what the element does not have.

@@ -88,6 +88,10 @@ void PasosQueRigen(const DatosEscaleraH& escalera, const DatosGenerales& general
     bloques.emplace_back(lote::TablaDePasos(deTorsion, numeros));
 }
 
+bool TieneEstaciones(const ResultadosEscaleraH& r) {
+    return r.NEst > 0 && r.TramoSuperior.size() > r.NEst && r.TramoInferior.size() > r.NEst;
+}
+
 }  // namespace
 
 std::span<const char* const> MetodoDeHelices() {
@@ -107,7 +111,7 @@ lote::ParteDeMemoria MemoriaDeHelice(const DatosEscaleraH& escalera, const Datos
         {"Carga total", escalera.W, "#,##0", "kgf/m"}, {"Intervalo", escalera.Inter, "0", "º"}};
     parte.Datos = {Titulo{3, "Datos"}, std::move(ficha), lote::FichaDeMateriales(generales, false)};
     auto& bloques = parte.Resultados;
-    if (r.NEst > 0 && r.TramoSuperior.size() > r.NEst && r.TramoInferior.size() > r.NEst) {
+    if (TieneEstaciones(r)) {
         bloques.emplace_back(Titulo{3, "Estaciones"});
         bloques.emplace_back(TablaDeEstaciones(r));
         PasosQueRigen(escalera, generales, r, numeros, bloques);
@@ -117,6 +121,20 @@ lote::ParteDeMemoria MemoriaDeHelice(const DatosEscaleraH& escalera, const Datos
     }
     bloques.emplace_back(lote::BloqueDeAvisos(avisos));
     return parte;
+}
+
+std::vector<std::pair<std::string, documento::Tabla>> TablasDeHelice(const ResultadosEscaleraH& r) {
+    if (!TieneEstaciones(r)) return {};
+    Tabla tabla = TablaDeEstaciones(r);
+    // The labels between its rows become a column.
+    tabla.Columnas.insert(tabla.Columnas.begin(), ColumnaDeMemoria("Tramo"));
+    almacen::Valor tramo;
+    for (documento::FilaDeTabla& fila : tabla.Filas) {
+        if (fila.Rotulo) tramo = fila.Celdas.front();
+        fila.Celdas.insert(fila.Celdas.begin(), tramo);
+    }
+    std::erase_if(tabla.Filas, [](const documento::FilaDeTabla& fila) { return fila.Rotulo; });
+    return {{"Helicoidales, estaciones", std::move(tabla)}};
 }
 
 }  // namespace trabex::helices::salida

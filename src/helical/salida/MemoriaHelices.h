@@ -16,4 +16,7 @@ lote::ParteDeMemoria MemoriaDeHelice(const DatosEscaleraH& escalera, const Datos
                                      const ResultadosEscaleraH& resultados, const Avisos& avisos,
                                      const Separadores& numeros);
 
+/// A helical stair's rows of the flat table over many: its stations.
+std::vector<std::pair<std::string, documento::Tabla>> TablasDeHelice(const ResultadosEscaleraH& resultados);
+
 }  // namespace trabex::helices::salida

@@ -134,7 +134,12 @@ lote::ParteDeMemoria Contar(const lote::Lista& lista, const lote::Elemento& elem
     return MemoriaDeHelice(datos, lote::Leer<DatosGenerales>(lista.Generales), resultados, notas, numeros);
 }
 
-constexpr lote::MemoriaDeModulo Memoria{MetodoDeHelices, Contar, nullptr};
+std::vector<std::pair<std::string, documento::Tabla>> Tablas(const lote::Lista&,
+                                                             const lote::Elemento& elemento) {
+    return TablasDeHelice(lote::Leer<Calculada>(elemento.Calculado).Resultados);
+}
+
+constexpr lote::MemoriaDeModulo Memoria{MetodoDeHelices, Contar, Tablas};
 
 }  // namespace
 

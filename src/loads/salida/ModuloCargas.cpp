@@ -44,13 +44,18 @@ std::span<const char* const> Metodo() {
     return parrafos;
 }
 
-lote::ParteDeMemoria Contar(const lote::Lista&, const lote::Elemento& elemento, const Separadores&) {
-    const auto& analisis = lote::Leer<AnalisisCarga>(elemento.Calculado);
+documento::Tabla TablaDePartidas(const AnalisisCarga& analisis) {
     documento::Tabla tabla;
     tabla.Columnas = {lote::ColumnaDeMemoria("Partida"), lote::ColumnaDeMemoria("Peso (kgf/m²)", "#,##0.00")};
     tabla.Columnas.front().Ancho = 100;
     for (const PesoUnitario& partida : analisis.Permanentes)
         tabla.Filas.push_back({{partida.Descripcion, partida.Peso}});
+    return tabla;
+}
+
+lote::ParteDeMemoria Contar(const lote::Lista&, const lote::Elemento& elemento, const Separadores&) {
+    const auto& analisis = lote::Leer<AnalisisCarga>(elemento.Calculado);
+    documento::Tabla tabla = TablaDePartidas(analisis);
     const auto total = [&](const std::string& que, const almacen::Valor& valor) {
         documento::FilaDeTabla fila{{que, valor}};
         fila.Destacada = true;
@@ -64,7 +69,15 @@ lote::ParteDeMemoria Contar(const lote::Lista&, const lote::Elemento& elemento, 
              documento::Ficha{1, {{"Relación variable / permanente", analisis.REL, "0.000", ""}}}}};
 }
 
-constexpr lote::MemoriaDeModulo Memoria{Metodo, Contar, nullptr};
+std::vector<std::pair<std::string, documento::Tabla>> Tablas(const lote::Lista&,
+                                                             const lote::Elemento& elemento) {
+    const auto& analisis = lote::Leer<AnalisisCarga>(elemento.Calculado);
+    documento::Tabla tabla = TablaDePartidas(analisis);
+    tabla.Filas.push_back({{"Variable: " + analisis.Variable.Descripcion, analisis.CV}});
+    return {{"Cargas, partidas", std::move(tabla)}};
+}
+
+constexpr lote::MemoriaDeModulo Memoria{Metodo, Contar, Tablas};
 
 /// A row that can't be written spoils the save.
 void Montar(almacen::Conexion& temporal, const lote::Lista& lista) {

@@ -65,23 +65,32 @@ std::span<const char* const> Metodo() {
     return parrafos;
 }
 
-lote::ParteDeMemoria Contar(const lote::Lista&, const lote::Elemento& elemento, const Separadores&) {
+documento::Tabla TablaDePanos(const NivelMarcus& nivel) {
     documento::Tabla tabla;
     tabla.Columnas = {lote::ColumnaDeMemoria("Paño", "0"),      lote::ColumnaDeMemoria("Carga", "#,##0.00"),
                       lote::ColumnaDeMemoria("Caso", "0"),      lote::ColumnaDeMemoria("LX (m)", "0.00"),
                       lote::ColumnaDeMemoria("LY (m)", "0.00"), lote::ColumnaDeMemoria("CX", "0.0000"),
                       lote::ColumnaDeMemoria("CY", "0.0000"),   lote::ColumnaDeMemoria("WX", "#,##0.00"),
                       lote::ColumnaDeMemoria("WY", "#,##0.00")};
-    const NivelMarcus& nivel = lote::Leer<Calculado>(elemento.Calculado).Nivel;
     for (std::size_t i = 0; i < nivel.Filas.size(); ++i) {
         const PanoMarcus& pano = nivel.Filas[i];
         tabla.Filas.push_back({{static_cast<double>(i + 1), pano.Carga, pano.Caso, pano.LX, pano.LY,
                                 pano.Reparto.CX, pano.Reparto.CY, pano.Reparto.WX, pano.Reparto.WY}});
     }
-    return {{}, {std::move(tabla), lote::BloqueDeAvisos(AvisosDe(nivel.Filas))}};
+    return tabla;
 }
 
-constexpr lote::MemoriaDeModulo Memoria{Metodo, Contar, nullptr};
+lote::ParteDeMemoria Contar(const lote::Lista&, const lote::Elemento& elemento, const Separadores&) {
+    const NivelMarcus& nivel = lote::Leer<Calculado>(elemento.Calculado).Nivel;
+    return {{}, {TablaDePanos(nivel), lote::BloqueDeAvisos(AvisosDe(nivel.Filas))}};
+}
+
+std::vector<std::pair<std::string, documento::Tabla>> Tablas(const lote::Lista&,
+                                                             const lote::Elemento& elemento) {
+    return {{"Markus, paños", TablaDePanos(lote::Leer<Calculado>(elemento.Calculado).Nivel)}};
+}
+
+constexpr lote::MemoriaDeModulo Memoria{Metodo, Contar, Tablas};
 void Montar(almacen::Conexion& temporal, const lote::Lista& lista) {
     MontarPanos(temporal, lote::Leer<Calculado>(lista.Elementos.front().Calculado).Nivel.Filas);
 }

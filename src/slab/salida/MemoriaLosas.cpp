@@ -204,18 +204,6 @@ void LineaDeEquilibrio(const LosaCalculada& losa, std::vector<documento::Bloque>
     bloques.emplace_back(std::move(tabla));
 }
 
-/// A table over many slabs: the slab's name before each row.
-Tabla ConNombre(Tabla tabla) {
-    tabla.Columnas.insert(tabla.Columnas.begin(), ColumnaDeMemoria("Losa"));
-    return tabla;
-}
-
-void Agregar(Tabla& tabla, const std::string& nombre, FilaDeTabla fila) {
-    fila.Celdas.insert(fila.Celdas.begin(), nombre);
-    fila.Celdas.resize(tabla.Columnas.size());
-    tabla.Filas.push_back(std::move(fila));
-}
-
 }  // namespace
 
 std::span<const char* const> MetodoDeLosas() {
@@ -255,20 +243,17 @@ lote::ParteDeMemoria MemoriaDeLosa(const LosaCalculada& losa, const Avisos& avis
     return parte;
 }
 
-std::vector<std::pair<std::string, documento::Tabla>> TablasDeLosas(const std::vector<LosaCalculada>& losas) {
-    Tabla datos = ConNombre(TablaDeTramos()), tramos = ConNombre(FuerzasDeTramos()),
-          ejes = ConNombre(DisenoDeEjes(false)), reacciones = ConNombre(Reacciones());
-    for (const LosaCalculada& losa : losas) {
-        const std::size_t N = NumeroTramos(losa.Datos);
-        const std::string& nombre = losa.Datos.Nombre;
-        for (std::size_t i = 1; i <= N; ++i) {
-            Agregar(datos, nombre, FilaDeTramo(losa.Datos, i));
-            Agregar(tramos, nombre, FuerzasDe(losa, i));
-        }
-        for (std::size_t i = 1; i <= N + 1 && N > 0; ++i) {
-            Agregar(ejes, nombre, DisenoDe(losa, i, losa.Datos.OpcionMaciza));
-            Agregar(reacciones, nombre, ReaccionDe(losa, i));
-        }
+std::vector<std::pair<std::string, documento::Tabla>> TablasDeLosa(const LosaCalculada& losa) {
+    Tabla datos = TablaDeTramos(), tramos = FuerzasDeTramos(), ejes = DisenoDeEjes(false),
+          reacciones = Reacciones();
+    const std::size_t N = NumeroTramos(losa.Datos);
+    for (std::size_t i = 1; i <= N; ++i) {
+        datos.Filas.push_back(FilaDeTramo(losa.Datos, i));
+        tramos.Filas.push_back(FuerzasDe(losa, i));
+    }
+    for (std::size_t i = 1; i <= N + 1 && N > 0; ++i) {
+        ejes.Filas.push_back(DisenoDe(losa, i, losa.Datos.OpcionMaciza));
+        reacciones.Filas.push_back(ReaccionDe(losa, i));
     }
     return {{"Losas, cargas", std::move(datos)},
             {"Losas, tramos", std::move(tramos)},

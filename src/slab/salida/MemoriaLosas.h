@@ -14,7 +14,7 @@ std::span<const char* const> MetodoDeLosas();
 lote::ParteDeMemoria MemoriaDeLosa(const LosaCalculada& losa, const Avisos& avisos,
                                    const Separadores& numeros);
 
-/// Flat tables over many slabs: spans, axes, reactions.
-std::vector<std::pair<std::string, documento::Tabla>> TablasDeLosas(const std::vector<LosaCalculada>& losas);
+/// A slab's rows of the flat tables over many: loads, spans, axes, reactions.
+std::vector<std::pair<std::string, documento::Tabla>> TablasDeLosa(const LosaCalculada& losa);
 
 }  // namespace trabex::losas::salida

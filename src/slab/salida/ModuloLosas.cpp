@@ -140,10 +140,9 @@ lote::ParteDeMemoria Contar(const lote::Lista& lista, const lote::Elemento& elem
     return MemoriaDeLosa(De(lista, elemento), lote::Leer<Calculada>(elemento.Calculado).Notas, numeros);
 }
 
-std::vector<std::pair<std::string, documento::Tabla>> Tablas(const lote::Lista& lista) {
-    std::vector<LosaCalculada> losas;
-    for (const lote::Elemento& elemento : lista.Elementos) losas.push_back(De(lista, elemento));
-    return TablasDeLosas(losas);
+std::vector<std::pair<std::string, documento::Tabla>> Tablas(const lote::Lista& lista,
+                                                             const lote::Elemento& elemento) {
+    return TablasDeLosa(De(lista, elemento));
 }
 
 constexpr lote::MemoriaDeModulo Memoria{MetodoDeLosas, Contar, Tablas};

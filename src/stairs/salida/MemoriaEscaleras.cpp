@@ -124,6 +124,10 @@ void PasosQueRigen(const EscaleraCalculada& escalera, const Separadores& numeros
     bloques.emplace_back(lote::TablaDePasos(deCorte, numeros));
 }
 
+bool TieneEstaciones(const EscaleraCalculada& escalera) {
+    return escalera.Resultados.TramoT.size() == EstacionesDeTramo && !escalera.Resultados.DescansoT.empty();
+}
+
 }  // namespace
 
 std::span<const char* const> MetodoDeEscaleras() {
@@ -146,7 +150,7 @@ lote::ParteDeMemoria MemoriaDeEscalera(const EscaleraCalculada& escalera, const 
                    {"Permanente del descanso", datos.WpD, "#,##0", "kgf/m"}};
     parte.Datos = {Titulo{3, "Datos"}, std::move(ficha), lote::FichaDeMateriales(escalera.Generales, false)};
     auto& bloques = parte.Resultados;
-    if (escalera.Resultados.TramoT.size() == EstacionesDeTramo && !escalera.Resultados.DescansoT.empty()) {
+    if (TieneEstaciones(escalera)) {
         bloques.emplace_back(Titulo{3, "Estaciones del tramo, desde el apoyo"});
         bloques.emplace_back(TablaDelTramo(escalera));
         bloques.emplace_back(Titulo{3, "Estaciones del descanso"});
@@ -163,6 +167,12 @@ lote::ParteDeMemoria MemoriaDeEscalera(const EscaleraCalculada& escalera, const 
     }
     bloques.emplace_back(lote::BloqueDeAvisos(avisos));
     return parte;
+}
+
+std::vector<std::pair<std::string, documento::Tabla>> TablasDeEscalera(const EscaleraCalculada& escalera) {
+    if (!TieneEstaciones(escalera)) return {};
+    return {{"Escaleras, tramos", TablaDelTramo(escalera)},
+            {"Escaleras, descansos", TablaDelDescanso(escalera)}};
 }
 
 }  // namespace trabex::escaleras::salida

@@ -13,4 +13,7 @@ std::span<const char* const> MetodoDeEscaleras();
 lote::ParteDeMemoria MemoriaDeEscalera(const EscaleraCalculada& escalera, const Avisos& avisos,
                                        const Separadores& numeros);
 
+/// A stair's rows of the flat tables over many: stations of flights and of landings.
+std::vector<std::pair<std::string, documento::Tabla>> TablasDeEscalera(const EscaleraCalculada& escalera);
+
 }  // namespace trabex::escaleras::salida

@@ -120,7 +120,12 @@ lote::ParteDeMemoria Contar(const lote::Lista& lista, const lote::Elemento& elem
     return MemoriaDeEscalera(De(lista, elemento), lote::Leer<Calculada>(elemento.Calculado).Notas, numeros);
 }
 
-constexpr lote::MemoriaDeModulo Memoria{MetodoDeEscaleras, Contar, nullptr};
+std::vector<std::pair<std::string, documento::Tabla>> Tablas(const lote::Lista& lista,
+                                                             const lote::Elemento& elemento) {
+    return TablasDeEscalera(De(lista, elemento));
+}
+
+constexpr lote::MemoriaDeModulo Memoria{MetodoDeEscaleras, Contar, Tablas};
 
 constexpr lote::ReportesDeModulo Reportes{TituloReporteEscaleras, nullptr, "GraficoAutoportantes.rpt",
                                           nullptr};
