@@ -125,4 +125,15 @@ std::vector<GrupoDeColumnas> GruposDe(const Tabla& tabla) {
     return grupos;
 }
 
+std::vector<std::string> Documento::SeccionesTras(const Indice& indice) const {
+    const auto es = [&](const Bloque& bloque) { return std::get_if<Indice>(&bloque) == &indice; };
+    const auto suya = std::find_if(Secciones.begin(), Secciones.end(), [&](const Seccion& seccion) {
+        return std::any_of(seccion.Bloques.begin(), seccion.Bloques.end(), es);
+    });
+    std::vector<std::string> nombres;
+    for (auto seccion = suya; seccion != Secciones.end(); ++seccion)
+        if (seccion != suya && !seccion->Nombre.empty()) nombres.push_back(seccion->Nombre);
+    return nombres;
+}
+
 }  // namespace trabex::documento

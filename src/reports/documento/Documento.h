@@ -165,7 +165,7 @@ inline constexpr const char* ImagenIlegible = "(El gráfico no se pudo leer)";
 
 struct SaltoDePagina {};
 
-/// The sections behind its own, with their pages. Outputs without pages leave it out.
+/// The sections behind its own, with their pages where the output has any.
 struct Indice {};
 
 using Bloque = std::variant<Titulo, Parrafo, Ficha, Tabla, Imagen, SaltoDePagina, Indice>;
@@ -185,6 +185,9 @@ struct Documento {
     double Letra = 9;  ///< size of the running text; everything else is in proportion to it
     Separadores Locales;
     std::vector<Seccion> Secciones;
+
+    /// The names of the sections behind that of an index, those without name left out.
+    std::vector<std::string> SeccionesTras(const Indice& indice) const;
 };
 
 }  // namespace trabex::documento

@@ -39,8 +39,7 @@ class ArchivoPdf::Compresor {
         estado_.avail_in = static_cast<uInt>(bytes.size());
         estado_.next_out = reinterpret_cast<Bytef*>(salida_.data());
         estado_.avail_out = static_cast<uInt>(salida_.size());
-        if (deflate(&estado_, Z_FINISH) != Z_STREAM_END)
-            throw ErrorEjecucion(CodigoError::ErrorDispositivo);
+        if (deflate(&estado_, Z_FINISH) != Z_STREAM_END) throw ErrorEjecucion(CodigoError::ErrorDispositivo);
         return std::string_view(salida_).substr(0, estado_.total_out);
     }
 
@@ -84,8 +83,7 @@ void AgregarNumeroPdf(std::string& salida, double valor) {
 
 ArchivoPdf::~ArchivoPdf() = default;
 
-ArchivoPdf::ArchivoPdf(ArchivoNuevo& destino)
-    : destino_(destino), compresor_(std::make_unique<Compresor>()) {
+ArchivoPdf::ArchivoPdf(ArchivoNuevo& destino) : destino_(destino), compresor_(std::make_unique<Compresor>()) {
     Escribir("%PDF-1.4\n%\xE2\xE3\xCF\xD3\n");
 }
 

@@ -1,5 +1,6 @@
 #include "reports/salidas/EscritorHtml.h"
 
+#include <algorithm>
 #include <array>
 #include <memory>
 #include <string>
@@ -92,7 +93,7 @@ class PaginaHtml {
         const std::string texto = Escapado(parrafo.Texto);
         return parrafo.Destacado ? "<p><strong>" + texto + "</strong></p>\n" : "<p>" + texto + "</p>\n";
     }
-    std::string De(const documento::Indice&) const { return {}; }
+    std::string De(const documento::Indice&) const { return Indice(); }
     std::string De(const documento::SaltoDePagina&) const { return "<div class=\"pagina\"></div>\n"; }
     std::string De(const documento::Ficha& ficha) const;
     std::string De(const documento::Tabla& tabla) const;
@@ -100,6 +101,7 @@ class PaginaHtml {
     void Fila(std::string& salida, const documento::Tabla& tabla, const documento::FilaDeTabla& fila) const;
     std::string Banda() const;
     std::string Indice() const;
+    bool TieneIndice() const;
 
     const documento::Documento& documento_;
 };
@@ -112,7 +114,15 @@ std::string PaginaHtml::Principio() const {
            "<meta name=\"author\" content=\"" +
            Atributo(documento_.Autor) + "\">\n<title>" + Atributo(titulo) +
            "</title>\n<style type=\"text/css\">" + std::string(Estilo) + "</style>\n</head>\n<body>\n" +
-           Banda() + Indice();
+           Banda() + (TieneIndice() ? "" : Indice());
+}
+
+bool PaginaHtml::TieneIndice() const {
+    return std::any_of(documento_.Secciones.begin(), documento_.Secciones.end(), [](const auto& seccion) {
+        return std::any_of(seccion.Bloques.begin(), seccion.Bloques.end(), [](const auto& bloque) {
+            return std::holds_alternative<documento::Indice>(bloque);
+        });
+    });
 }
 
 /// The header's texts, once; those that count pages have no meaning here.

@@ -75,7 +75,7 @@ class TextoRico {
     std::string Bloque(const trabex::documento::Bloque& bloque) const {
         return std::visit([this](const auto& b) { return De(b); }, bloque);
     }
-    std::string De(const documento::Indice&) const { return {}; }
+    std::string De(const documento::Indice& indice) const;
     std::string De(const documento::SaltoDePagina&) const { return "{\\pard\\fs2\\page\\par}\n"; }
 
   private:
@@ -139,6 +139,13 @@ std::string TextoRico::Banda(std::string_view destino, const documento::BandaDeP
     return "{\\" + std::string(destino) + "\\pard" + Orden("tqc\\tx", Twips(util_.Ancho / 2)) +
            Orden("tqr\\tx", Twips(util_.Ancho)) + Letra(0.85) + " " + Escapado(banda.Izquierda) + "\\tab " +
            Escapado(banda.Centro) + "\\tab " + Escapado(banda.Derecha) + "\\par}\n";
+}
+
+/// A table of contents that word processors bring up to date, page numbers included; until then, the names.
+std::string TextoRico::De(const documento::Indice& indice) const {
+    std::string salida = "{\\pard" + Letra(1) + "{\\field{\\*\\fldinst TOC \\\\o \"1-2\"}{\\fldrslt ";
+    for (const std::string& nombre : documento_.SeccionesTras(indice)) salida += Escapado(nombre) + "\\par\n";
+    return salida + "}}\\par}\n";
 }
 
 std::string TextoRico::De(const documento::Titulo& titulo) const {

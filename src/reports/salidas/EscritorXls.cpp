@@ -81,7 +81,7 @@ class EscritorDeHoja {
         const auto tablas = std::count_if(
             seccion.Bloques.begin(), seccion.Bloques.end(),
             [](const documento::Bloque& b) { return std::holds_alternative<documento::Tabla>(b); });
-        fijarTitulos_ = tablas == 1;
+        fijarTitulos_ = tablas == 1;  // alone on its sheet
         for (const documento::Bloque& bloque : seccion.Bloques)
             std::visit([this](const auto& b) { Poner(b); }, bloque);
     }
@@ -229,7 +229,7 @@ class EscritorDeHoja {
         if (fila_ > 0 && hoja_.Filas.size() == fila_) ++fila_;
         if (tabla.TieneGrupos()) PonerGrupos(tabla);
         PonerTitulos(tabla);
-        if (fijarTitulos_ && fila_ <= MayorEncabezadoFijo) hoja_.FilasFijas = fila_;
+        if (fijarTitulos_ && tabla.Filas.size() > 1 && fila_ <= MayorEncabezadoFijo) hoja_.FilasFijas = fila_;
         hoja_.Filtro = tabla.Estilo.Filtros && hoja_.FilasFijas == fila_;
         for (const documento::FilaDeTabla& fila : tabla.Filas) PonerFila(tabla, fila);
     }
@@ -318,7 +318,12 @@ class EscritorDeHoja {
         if (!imagen.Pie.empty()) Poner(documento::Parrafo{imagen.Pie, false});
     }
 
-    void Poner(const documento::Indice& /*indice*/) {}
+    void Poner(const documento::Indice& indice) {
+        for (const std::string& nombre : documento_.SeccionesTras(indice)) {
+            Celda(0, nombre, Estilo());
+            ++fila_;
+        }
+    }
     void Poner(const documento::SaltoDePagina& /*salto*/) { hoja_.SaltosDePagina.push_back(fila_); }
 
     struct EstiloUsado {

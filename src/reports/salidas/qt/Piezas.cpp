@@ -209,17 +209,7 @@ class PiezaIndice : public Pieza {
   public:
     PiezaIndice(const documento::Indice& indice, const documento::Documento& documento, const Letras& letras,
                 double ancho)
-        : letras_(letras), ancho_(ancho) {
-        const auto tiene = [&](const documento::Seccion& seccion) {
-            return std::any_of(seccion.Bloques.begin(), seccion.Bloques.end(),
-                               [&](const documento::Bloque& bloque) {
-                                   return std::get_if<documento::Indice>(&bloque) == &indice;
-                               });
-        };
-        const auto suya = std::find_if(documento.Secciones.begin(), documento.Secciones.end(), tiene);
-        for (auto seccion = suya; seccion != documento.Secciones.end(); ++seccion)
-            if (seccion != suya && !seccion->Nombre.empty()) secciones_.push_back(seccion->Nombre);
-    }
+        : letras_(letras), ancho_(ancho), secciones_(documento.SeccionesTras(indice)) {}
 
     double Despues() const override { return letras_.Normal.Alto(); }
     std::size_t Filas() const override { return std::max<std::size_t>(secciones_.size(), 1); }
