@@ -55,7 +55,8 @@ std::string DigitosRedondeados(double valor, int decimales) {
 std::optional<std::uint64_t> EnteroSeguro(double valor, int decimales) {
     constexpr std::array<double, 7> potencias{1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6};
     constexpr double mayor = 1e9;
-    constexpr double cercaDeMitad = 1e-4;  // a hundred times what the product and 15 digits may err below `mayor`
+    constexpr double cercaDeMitad =
+        1e-4;  // a hundred times what the product and 15 digits may err below `mayor`
     if (decimales >= static_cast<int>(potencias.size())) return std::nullopt;
     const double producto = std::fabs(valor) * potencias[static_cast<std::size_t>(decimales)];
     if (!(producto < mayor)) return std::nullopt;

@@ -9,8 +9,8 @@ namespace trabex {
 /// Characters (code points) of a UTF-8 text.
 std::size_t NumeroDeCaracteres(std::string_view texto);
 
-/// Whether a text is of printable ASCII alone, and of no character of `salvo`: most of what is written is, and
-/// stands as it is in any format.
+/// Whether a text is of printable ASCII alone, and of no character of `salvo`: most of what is written is,
+/// and stands as it is in any format.
 bool EsLlano(std::string_view texto, std::string_view salvo);
 
 /// `texto` as valid UTF-8, for files that programs read: what is not becomes U+FFFD.

@@ -68,8 +68,7 @@ const std::vector<std::size_t>& TablaDeDatos::Donde(std::size_t columna, const a
     static const std::vector<std::size_t> ninguna;
     const auto [indice, nuevo] = indices_.try_emplace(columna);
     if (nuevo) {
-        for (std::size_t i = 0; i < filas_.size(); ++i)
-            indice->second[Clave(Leer(i, columna))].push_back(i);
+        for (std::size_t i = 0; i < filas_.size(); ++i) indice->second[Clave(Leer(i, columna))].push_back(i);
     }
     const auto hallada = indice->second.find(Clave(valor));
     return hallada == indice->second.end() ? ninguna : hallada->second;

@@ -27,7 +27,8 @@ class LetrasPdf {
         double x = 0;
         double y = 0;
     };
-    /// A text in a font of the toolkit, in others where that one has not its characters. Valid until the next.
+    /// A text in a font of the toolkit, in others where that one has not its characters. Valid until the
+    /// next.
     const std::vector<Tramo>& Componer(const QFont& fuente, const QString& texto);
     /// How high a font stands over its foot line, in sizes of it.
     double Ascenso(const QFont& fuente);
