@@ -55,6 +55,11 @@ function(trabex_biblioteca nombre)
         target_link_libraries(trabex_${nombre} PUBLIC trabex_${otra})
     endforeach()
     trabex_sin_qt(${nombre} trabex_${nombre})
+    if(nombre MATCHES "_qt$")
+        trabex_compilar_antes(trabex_${nombre} VENTANAS)
+    else()
+        trabex_compilar_antes(trabex_${nombre})
+    endif()
 endfunction()
 
 # trabex_sin_optimizar(<target>): a test's own sources, compiled once and run for a moment, are not worth optimising.
@@ -78,6 +83,11 @@ function(trabex_prueba nombre)
     add_test(NAME prueba_${nombre} COMMAND prueba_${nombre})
     set_tests_properties(prueba_${nombre} PROPERTIES TIMEOUT 600)
     trabex_sin_qt(${nombre} prueba_${nombre} prueba_${nombre})
+    if(nombre MATCHES "_qt$")
+        trabex_compilar_antes(prueba_${nombre} PRUEBA VENTANAS)
+    else()
+        trabex_compilar_antes(prueba_${nombre} PRUEBA)
+    endif()
 endfunction()
 
 # trabex_biblioteca_qt(<name> [<library below> ...]): the same for a folder named qt/, the only ones that know Qt.

@@ -74,14 +74,23 @@ class Fuente:
         return str(self.camino.relative_to(RAIZ))
 
 
+def sin_lo_de_casa(palabras):
+    """The compiler's options without what only speeds it up: a cache, headers compiled before."""
+    palabras = [p for p in palabras if not p.endswith("/ccache") and p != "-Winvalid-pch"]
+    opciones = palabras[1:palabras.index("-o")]
+    while "-include" in opciones:
+        lugar = opciones.index("-include")
+        del opciones[lugar:lugar + 2]
+    return opciones
+
+
 def fuentes():
     """All sources, by what is compiled in the release preset; one that isn't would go unread."""
     halladas = {}
     for orden in json.loads((CONSTRUIDO / "compile_commands.json").read_text()):
         camino = pathlib.Path(orden["file"]).resolve()
         if camino.parts[:len(RAIZ.parts) + 1] in [(RAIZ / c).parts for c in CARPETAS]:
-            palabras = [p for p in shlex.split(orden["command"]) if not p.endswith("/ccache")]
-            opciones = palabras[1:palabras.index("-o")]
+            opciones = sin_lo_de_casa(shlex.split(orden["command"]))
             halladas.setdefault(camino, Fuente(camino, tuple(opciones)))
     perdidas = [c for carpeta in CARPETAS for c in (RAIZ / carpeta).rglob("*.cpp") if c not in halladas]
     if perdidas:
