@@ -382,6 +382,20 @@ std::string EsquemaHostil(Azar& azar) {
     }
 }
 
+/// Makes the hostile file; what has no end of its own stops at a size that the program refuses, or in a
+/// while.
+void Ensuciar(const std::filesystem::path& camino, const std::string& esquema) {
+    constexpr double segundosDeHacerlo = 1;
+    sqlite3* base = nullptr;
+    sqlite3_open(camino.c_str(), &base);
+    double hasta = Procesador() + segundosDeHacerlo;
+    sqlite3_progress_handler(
+        base, 10, [](void* plazo) { return Procesador() > *static_cast<double*>(plazo) ? 1 : 0; }, &hasta);
+    const std::string tope = "PRAGMA max_page_count = 33000; PRAGMA synchronous = OFF;";
+    sqlite3_exec(base, (tope + esquema).c_str(), nullptr, nullptr, nullptr);
+    sqlite3_close(base);
+}
+
 void Esquemas(int veces, Azar& azar, const std::filesystem::path& camino) {
     const auto entero = std::filesystem::path(camino) += ".entero";
     CrearProyecto(entero, 20);
@@ -389,12 +403,9 @@ void Esquemas(int veces, Azar& azar, const std::filesystem::path& camino) {
     double peor = 0;
     for (int vez = 0; vez < veces; ++vez) {
         std::filesystem::copy_file(entero, camino, std::filesystem::copy_options::overwrite_existing);
-        sqlite3* base = nullptr;
-        sqlite3_open(camino.c_str(), &base);
         std::string esquema;
         for (auto n = 1 + azar() % 3; n > 0; --n) esquema += EsquemaHostil(azar);
-        sqlite3_exec(base, esquema.c_str(), nullptr, nullptr, nullptr);
-        sqlite3_close(base);
+        Ensuciar(camino, esquema);
         const std::string antes = LeerArchivo(camino);
         double inicio = Procesador();
         abiertos += LeerLosas(camino) > 0 ? 1 : 0;
