@@ -136,7 +136,7 @@ std::optional<double> LeerNumero(std::string_view texto, const Separadores& sepa
 NumeroJuzgado JuzgarNumero(std::string_view texto, const ClaseNumero& clase, const Separadores& separadores) {
     if (SinBlancosAlrededor(texto).empty()) return {clase.Vacio, clase.Vacio ? "" : "Falta el número."};
     std::vector<double> valores = LeerTodas(texto, separadores);
-    if (valores.empty()) return {std::nullopt, "No es un número."};
+    if (valores.empty()) return {std::nullopt, MotivoNoEsNumero};
     if (clase.Entero) {
         std::erase_if(valores, [](double valor) { return valor != std::trunc(valor); });
         if (valores.empty()) return {std::nullopt, "Debe ser un número entero."};

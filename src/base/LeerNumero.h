@@ -32,6 +32,8 @@ struct NumeroJuzgado {
     std::string Motivo;
 };
 
+inline constexpr const char* MotivoNoEsNumero = "No es un número.";
+
 /// The one judgement of typing, paste and files. A whole number takes its thousands
 /// where no other reading is whole: "1.250" is then 1250.
 NumeroJuzgado JuzgarNumero(std::string_view texto, const ClaseNumero& clase, const Separadores& separadores);

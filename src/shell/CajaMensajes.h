@@ -69,7 +69,7 @@ int AnchoCaja(BotonesCaja botones, int anchoEncabezado, int anchoTexto);
 Mensaje MensajeDeError(const ErrorEjecucion& error, const std::string& encabezado);
 
 /// The same for a project that could not be written; `causa` is what its connection tells.
-Mensaje MensajeSinGuardar(CodigoError causa = CodigoError::ErrorAccesoRuta);
+Mensaje MensajeSinGuardar(CodigoError causa);
 
 /// A notice with one button.
 Mensaje Aviso(const std::string& texto, const std::string& encabezado);

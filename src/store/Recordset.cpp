@@ -421,6 +421,11 @@ bool Recordset::Borrar() {
     return motor->TerminarGuardado(hecho);
 }
 
+CodigoError Recordset::Causa() const {
+    const auto motor = interna_ ? interna_->motor.lock() : nullptr;
+    return motor ? motor->Causa() : CodigoError::ErrorAccesoRuta;
+}
+
 std::uint64_t Recordset::Huella() const {
     std::uint64_t suma = 0;
     if (!interna_) return suma;

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/ErrorEjecucion.h"
 #include "store/Columna.h"
 #include "store/Valor.h"
 
@@ -72,6 +73,9 @@ class Recordset {
     /// Deletes the current record, under the same condition. The set then stands on the one that follows it,
     /// or on the last.
     bool Borrar();
+
+    /// Why the last write that failed did.
+    CodigoError Causa() const;
 
     /// A number that tells its rows from others, whatever their order.
     std::uint64_t Huella() const;

@@ -321,7 +321,7 @@ TEST_F(Menu_, LosDatosDelProyectoQuedanEnSuUnicaFila) {
     EXPECT_EQ(filas.Texto("Proyecto"), "EDIFICIO");
 
     DatosGenerales generales;
-    LosaGeneral general(proyecto.ConexionProyecto, generales);
+    LosaGeneral general(proyecto.ConexionProyecto, generales, caja);
     DatosGenerales entrados;
     entrados.FCV = 0;
     entrados.FiCorte = 0;

@@ -17,7 +17,7 @@ bool AnalisisCargaNewCP::Aceptar(const std::string& descripcion, const std::stri
     programa::Mensaje mensaje;
     mensaje.Texto = variante_.TextoCreada;
     mensaje.Encabezado = EncabezadoCrear;
-    caja_.Mostrar(creada_ ? mensaje : programa::MensajeSinGuardar());
+    caja_.Mostrar(creada_ ? mensaje : programa::MensajeSinGuardar(lista_.Causa()));
     return creada_;
 }
 

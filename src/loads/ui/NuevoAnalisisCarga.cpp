@@ -13,7 +13,7 @@ bool NuevoAnalisisCarga::Aceptar(const std::string& descripcion, PantallaDeCreac
     }
     if (!VerifiqueDescripcion(lista_, nombre, variante_.YaExiste, caja_)) return false;
     creado_ = almacen::tablas::AgregarAnalisis(lista_, variante_.Donde, nombre, azar_);
-    if (!creado_) caja_.Mostrar(programa::MensajeSinGuardar());
+    if (!creado_) caja_.Mostrar(programa::MensajeSinGuardar(lista_.Causa()));
     return creado_;
 }
 

@@ -16,8 +16,12 @@ std::optional<CampoLosaGeneral> LosaGeneral::PrimerCero(const DatosGenerales& e)
 }
 
 bool LosaGeneral::Aceptar(const DatosGenerales& entrados) {
+    if (!almacen::tablas::GuardarGeneralesLosa(conexion_, entrados)) {
+        caja_.Mostrar(programa::MensajeSinGuardar(conexion_.Causa()));
+        return false;
+    }
     generales_ = entrados;
-    return almacen::tablas::GuardarGeneralesLosa(conexion_, entrados);
+    return true;
 }
 
 }  // namespace trabex::losas::ui

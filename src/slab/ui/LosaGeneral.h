@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <optional>
 
+#include "shell/CajaMensajes.h"
 #include "slab/Losa.h"
 #include "store/Conexion.h"
 
@@ -15,21 +16,22 @@ enum class CampoLosaGeneral : std::size_t { FC, FY, D8, FCP, FCV, FiMomento, FiC
 class LosaGeneral {
   public:
     /// `conexion` is the workspace's; `generales` its working values.
-    LosaGeneral(almacen::Conexion& conexion, DatosGenerales& generales)
-        : conexion_(conexion), generales_(generales) {}
+    LosaGeneral(almacen::Conexion& conexion, DatosGenerales& generales, programa::CajaMensajes& caja)
+        : conexion_(conexion), generales_(generales), caja_(caja) {}
 
     const DatosGenerales& Valores() const { return generales_; }
 
     /// The first field that is 0: it takes the focus and nothing is saved.
     static std::optional<CampoLosaGeneral> PrimerCero(const DatosGenerales& entrados);
 
-    /// " Aceptar " on entries without a zero: they become the working values and the table's one row. False
-    /// when they could not be stored; the working values hold all the same.
+    /// " Aceptar " on entries without a zero: they become the working values and the table's one row. False,
+    /// with a message, when they could not be stored: the window then keeps them, and nothing else changes.
     bool Aceptar(const DatosGenerales& entrados);
 
   private:
     almacen::Conexion& conexion_;
     DatosGenerales& generales_;
+    programa::CajaMensajes& caja_;
 };
 
 }  // namespace trabex::losas::ui

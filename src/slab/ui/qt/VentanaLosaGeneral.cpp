@@ -25,8 +25,7 @@ VentanaLosaGeneral::VentanaLosaGeneral(programa::Aplicacion& aplicacion, program
                                        QWidget* padre)
     : QDialog(padre),
       aplicacion_(aplicacion),
-      caja_(caja),
-      operaciones_(aplicacion.Proyecto.ConexionProyecto, aplicacion.Generales) {
+      operaciones_(aplicacion.Proyecto.ConexionProyecto, aplicacion.Generales, caja) {
     setObjectName("LosaGeneral");
     setWindowTitle("DATOS GENERALES");
     Armar();
@@ -93,8 +92,7 @@ void VentanaLosaGeneral::Aceptar() {
         campo->selectAll();
         return;
     }
-    if (!operaciones_.Aceptar(entrados)) caja_.Mostrar(programa::MensajeSinGuardar());
-    accept();
+    if (operaciones_.Aceptar(entrados)) accept();
 }
 
 }  // namespace trabex::losas::ui::qt

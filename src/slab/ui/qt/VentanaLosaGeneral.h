@@ -26,7 +26,6 @@ class VentanaLosaGeneral : public QDialog {
     void Aceptar();
 
     programa::Aplicacion& aplicacion_;
-    programa::CajaMensajes& caja_;
     LosaGeneral operaciones_;
     std::array<programa::qt::CampoNumero*, 7> campos_{};
 };
