@@ -300,7 +300,7 @@ TEST_F(Formatos, LoQueSeCancelaDejaLoQueHabia) {
         double ultima = -1;
         const auto seguir = [&](double parte) { return std::exchange(ultima, parte) < 0; };
         EXPECT_THROW(motor.Exportar(reporte.Contenido(), codigo, carpeta / "viejo", seguir),
-                     EscrituraCancelada);
+                     TrabajoCancelado);
         EXPECT_GT(ultima, 0);
         EXPECT_EQ(prueba::LeerArchivo(carpeta / "viejo"), "viejo");
         EXPECT_EQ(ArchivosDe(carpeta.Camino()).size(), 2U) << codigo;  // no half file, and the database
@@ -357,7 +357,7 @@ TEST_F(Formatos, SinDiscoOSinPermisoQuedaElReporteAnterior) {
     Preparar({prueba::LosaUniforme(8, 5, 300, 100)});
     Reporte reporte = Abrir("ResultadosLosa.rpt");
     reporte.Contenido();
-    for (const int codigo : {FormatoPdf, FormatoHtml, FormatoRtf}) {
+    for (const int codigo : {FormatoPdf, FormatoHtml, FormatoRtf, FormatoXls}) {
         const std::filesystem::path destino = carpeta / "anterior";
         prueba::EscribirArchivo(destino, "anterior");
         int error = 0;

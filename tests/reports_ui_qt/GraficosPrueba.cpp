@@ -195,6 +195,7 @@ TEST(PanelProgreso, SeVeMientrasDuraYNadaLoCierra) {
         panel.Ventana()->close();
         EXPECT_TRUE(panel.Ventana()->isVisible());
         EXPECT_TRUE(panel.Ventana()->isModal());
+        EXPECT_TRUE(panel.Cancelado());
     }
     EXPECT_FALSE(panel.Ventana()->isVisible());
 }

@@ -231,6 +231,9 @@ TEST_F(SalidasDeReporte, LoImpresoEsLoMismoQueElPdf) {
     EXPECT_EQ(impreso(), esperado);
     impresora.setFromTo(2, 2);
     EXPECT_EQ(impreso(), (QStringList{esperado[1], ""}));
+    EXPECT_THROW(ImprimirPaginas(reporte.Contenido(), impresora, [](double) { return false; }),
+                 TrabajoCancelado);
+    EXPECT_FALSE(std::filesystem::exists(carpeta / "impreso.pdf"));
 }
 
 TEST(ImprimirGraficos, CadaDibujoVaEnSuPaginaConSusDatos) {
@@ -254,7 +257,7 @@ TEST(ImprimirGraficos, CadaDibujoVaEnSuPaginaConSusDatos) {
         QPrinter impresora(QPrinter::HighResolution);
         impresora.setOutputFormat(QPrinter::PdfFormat);
         impresora.setOutputFileName(prueba::Ruta(carpeta / "dibujos.pdf"));
-        ImprimirDibujos(impresora, [&](dibujo::qt::PapelQt& papel) {
+        ImprimirDibujos(impresora, [&](dibujo::qt::PapelQt& papel, const Avance&) {
             DibujarGraficosLosas(papel, {proyecto, datos, generales, 2}, pantalla, "MARÍA", estado);
         });
         const QString texto =

@@ -60,7 +60,7 @@ TEST(EscritorXls, LosGraficosSeGuardanComoImagenesYDejanSuSitio) {
     const LibroXls libro = LibroDe(documento);
     ASSERT_EQ(libro.Hojas[0].Imagenes.size(), 1U);
     const ImagenXls& imagen = libro.Hojas[0].Imagenes[0];
-    EXPECT_THAT(imagen.Bytes, StartsWith("\x89PNG"));
+    EXPECT_THAT(imagen.Leer(), StartsWith("\x89PNG"));
     EXPECT_NEAR(imagen.Ancho, 2 * imagen.Alto, 0.01);
     EXPECT_NEAR(imagen.Ancho, 100 * 72 / 25.4, 0.01);
     const auto lineas = prueba::VolcarXls(libro);

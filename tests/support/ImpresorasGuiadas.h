@@ -17,7 +17,7 @@ struct ImpresorasGuiadas : reportes::ui::Impresoras {
     std::vector<std::string> Disponibles() const override { return Nombres; }
     std::string PorDefecto() const override { return "EPSON ñ"; }
     bool Imprimir(const documento::Documento& documento, const std::string& impresora,
-                  const reportes::ui::PedidoDeImpresion& pedido) override {
+                  const reportes::ui::PedidoDeImpresion& pedido, const Avance& /*avance*/) override {
         Ultimo = pedido;
         Papel = documento.Papel;
         if (Acepta) Impresos.push_back(impresora);

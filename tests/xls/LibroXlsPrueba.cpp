@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "base/Archivos.h"
 #include "reports/xls/LibroXls.h"
 #include "support/VolcadoXls.h"
 
@@ -129,12 +130,30 @@ TEST(LibroXls, UnLibroVacioYUnoConImagenesSeAbren) {
     LibroXls libro{.Titulo = "Título", .Autor = "ING. NÚÑEZ"};
     HojaXls& hoja = libro.Hojas.emplace_back();
     CeldaEn(hoja, 0, 0).Valor = "antes";
-    hoja.Imagenes = {{std::string("\x89PNG") + std::string(20000, '\1'), 1, 0, 300, 200},
-                     {"no es imagen", 0, 0, 10, 10}};
+    const auto agregar = [&hoja](const std::string& bytes) {
+        hoja.Imagenes.push_back({FichaDe(bytes), [bytes] { return bytes; }, 1, 0, 300, 200});
+    };
+    agregar(std::string("\x89PNG") + std::string(20000, '\1'));
+    agregar("no es imagen");
+    agregar("BM" + std::string(9000, '\2'));
     EXPECT_THAT(prueba::VolcarXls(libro), Contains(StartsWith("0,0 'antes'")));
-    const std::string bytes = BytesXls(libro);
+    const prueba::CarpetaTemporal carpeta;
+    const auto archivo = carpeta / "libro.xls";
+    GuardarXls(libro, archivo);
+    const std::string bytes = prueba::LeerArchivo(archivo);
     EXPECT_NE(bytes.find("ING. N"), std::string::npos);
     EXPECT_EQ(bytes.find("no es imagen"), std::string::npos);
+
+    // Given up between two pictures, or with one that is no longer the same: nothing new stands there.
+    EXPECT_THROW(GuardarXls(libro, archivo,
+                            [](std::size_t hechas, std::size_t) {
+                                if (hechas == 1) throw 1;
+                            }),
+                 int);
+    hoja.Imagenes[2].Leer = [] { return std::string("BM otra"); };
+    EXPECT_THROW(GuardarXls(libro, archivo), ErrorEjecucion);
+    EXPECT_EQ(ArchivosDe(carpeta.Camino()).size(), 1U);
+    EXPECT_EQ(prueba::LeerArchivo(archivo), bytes);
 }
 
 }  // namespace

@@ -19,6 +19,7 @@ class PapelQt {
     void Pagina(const std::function<void(Lienzo&)>& dibujar);
     /// The end of the document.
     void Terminar();
+    QPainter& Pintor() { return pintor_; }
 
   private:
     QPagedPaintDevice& papel_;

@@ -1,5 +1,7 @@
 #include "reports/montaje/AlbumGraficos.h"
 
+#include "base/Avance.h"
+
 namespace trabex::montaje {
 
 AlbumGraficos::AlbumGraficos(almacen::Conexion& temporal, const EntornoReportes& entorno,
@@ -24,6 +26,7 @@ void AlbumGraficos::Agregar(const std::string& nombre, const std::string& titulo
         panel_.Avanzar(100.0 * static_cast<double>(hechos) / static_cast<double>(total_), avance);
     };
     avanzar();
+    if (panel_.Cancelado()) throw TrabajoCancelado();
     superficie_.Dibujar(tamano_.Ancho, tamano_.Alto, dibujar);
     tabla_.Agregar(nombre, titulo, superficie_.Imagen());
     avanzar();

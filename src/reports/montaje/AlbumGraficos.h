@@ -24,7 +24,7 @@ class AlbumGraficos {
     /// Sets a further column of the picture to come.
     void Poner(std::string_view campo, const almacen::Valor& valor) { tabla_.Poner(campo, valor); }
     /// Draws a picture and adds it: `nombre` is the element's, `titulo` the caption. `avance` is what the
-    /// panel tells.
+    /// panel tells. Throws TrabajoCancelado once the panel is.
     void Agregar(const std::string& nombre, const std::string& titulo, const std::string& avance,
                  const std::function<void(dibujo::Lienzo&)>& dibujar);
 

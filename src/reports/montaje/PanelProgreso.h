@@ -14,7 +14,7 @@ class PanelProgreso {
     /// `porcentaje` of the work is done; `rotulo` tells what is in hand.
     virtual void Avanzar(double porcentaje, const std::string& rotulo) = 0;
     virtual void Ocultar() = 0;
-    /// The engineer wants no more of it; only a panel of work that can be left half done offers that.
+    /// The engineer wants no more of it.
     virtual bool Cancelado() const { return false; }
 };
 

@@ -70,20 +70,32 @@ std::size_t Lineas(const std::string& texto, double ancho, double puntos) {
     return lineas;
 }
 
+std::string_view TextoDe(const almacen::Bytes& bytes) {
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
+
+/// A picture's file as a book takes it.
+std::string Archivo(const almacen::Bytes& bytes) {
+    const auto foto = Comprimida(bytes);
+    return foto ? std::string(TextoDe(foto->Archivo)) : std::string();
+}
+
 /// Writes the blocks of a section one below the other.
 class EscritorDeHoja {
   public:
     EscritorDeHoja(xls::LibroXls& libro, xls::HojaXls& hoja, const documento::Documento& documento)
         : libro_(libro), hoja_(hoja), documento_(documento) {}
 
-    void Escribir(const documento::Seccion& seccion) {
+    void Escribir(const documento::Seccion& seccion, const std::function<void()>& antesDeCada) {
         PonerAnchos(seccion);
         const auto tablas = std::count_if(
             seccion.Bloques.begin(), seccion.Bloques.end(),
             [](const documento::Bloque& b) { return std::holds_alternative<documento::Tabla>(b); });
         fijarTitulos_ = tablas == 1;  // alone on its sheet
-        for (const documento::Bloque& bloque : seccion.Bloques)
+        for (const documento::Bloque& bloque : seccion.Bloques) {
+            antesDeCada();
             std::visit([this](const auto& b) { Poner(b); }, bloque);
+        }
     }
 
   private:
@@ -308,10 +320,10 @@ class EscritorDeHoja {
             const documento::MedidaPagina medida = documento::MedidaDe(
                 imagen, foto->Ancho, foto->Alto,
                 {sitio.Ancho / PuntosPorMilimetro, (sitio.Alto - 2 * AltoDeFila) / PuntosPorMilimetro});
-            const auto* bytes = reinterpret_cast<const char*>(foto->Archivo.data());
             const double alto = medida.Alto * PuntosPorMilimetro;
             SaltarSiNoCabe(alto + 2 * AltoDeFila);  // with its caption
-            hoja_.Imagenes.push_back({std::string(bytes, foto->Archivo.size()), fila_, 0,
+            hoja_.Imagenes.push_back({xls::FichaDe(TextoDe(foto->Archivo)),
+                                      [leer = imagen.Leer] { return Archivo(leer()); }, fila_, 0,
                                       medida.Ancho * PuntosPorMilimetro, alto});
             fila_ += static_cast<std::size_t>(std::ceil(alto / AltoDeFila)) + 1;
         }
@@ -344,23 +356,31 @@ class EscritorDeHoja {
 }  // namespace
 
 xls::LibroXls LibroDe(const documento::Documento& documento, const Avance& avance) {
+    std::size_t total = 0;
+    for (const documento::Seccion& seccion : documento.Secciones) total += seccion.Bloques.size();
+    std::size_t hechos = 0;
     xls::LibroXls libro;
     libro.Titulo = documento.Titulo;
     libro.Autor = documento.Autor;
     for (const documento::Seccion& seccion : documento.Secciones) {
-        Avisar(avance, libro.Hojas.size(), documento.Secciones.size());
         xls::HojaXls& hoja = libro.Hojas.emplace_back();
         hoja.Nombre = seccion.Nombre;
         hoja.Cuadricula = false;
         hoja.Pagina = PaginaDe(documento.Papel);
-        EscritorDeHoja(libro, hoja, documento).Escribir(seccion);
+        EscritorDeHoja(libro, hoja, documento).Escribir(seccion, [&] { Avisar(avance, hechos++, total); });
     }
     return libro;
 }
 
 void EscribirXls(const documento::Documento& documento, const std::filesystem::path& destino,
                  const Avance& avance) {
-    xls::GuardarXls(LibroDe(documento, avance), destino);
+    const auto mitad = [&avance](double desde) -> Avance {
+        if (!avance) return {};
+        return [&avance, desde](double parte) { return avance(desde + parte / 2); };
+    };
+    const Avance alEscribir = mitad(0.5);
+    xls::GuardarXls(LibroDe(documento, mitad(0)), destino,
+                    [&](std::size_t hechas, std::size_t total) { Avisar(alEscribir, hechas, total); });
 }
 
 }  // namespace trabex::salidas

@@ -5,9 +5,9 @@
 #include <map>
 #include <optional>
 
+#include "base/Avance.h"
 #include "reports/documento/Documento.h"
 #include "reports/documento/MaquetaReporte.h"
-#include "reports/salidas/Avance.h"
 
 namespace trabex::salidas {
 
@@ -39,7 +39,7 @@ class Reporte {
     std::optional<documento::Documento> compuesto_;
 };
 
-/// Writes a document to a file. Throws ErrorEjecucion, or EscrituraCancelada; an older file then stays.
+/// Writes a document to a file. Throws ErrorEjecucion, or TrabajoCancelado; an older file then stays.
 using EscritorReporte =
     std::function<void(const documento::Documento&, const std::filesystem::path&, const Avance&)>;
 

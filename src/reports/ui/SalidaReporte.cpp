@@ -2,6 +2,7 @@
 
 #include <chrono>
 
+#include "base/AlSalir.h"
 #include "base/Archivos.h"
 
 namespace trabex::reportes::ui {
@@ -37,36 +38,42 @@ std::optional<std::filesystem::path> ExportadorReportes::PedirArchivo(std::uint8
     return elegido;
 }
 
-/// With a panel, which repaints the windows below it now and then. False when it was cancelled.
-bool ExportadorReportes::Escribir(const documento::Documento& documento, std::uint8_t salida) {
-    const std::filesystem::path& archivo = entorno_.Estado.ArchivoExportado;
-    const int codigo = Salidas[salida].Codigo;
+bool ExportadorReportes::ConPanel(const std::string& rotulo,
+                                  const std::function<void(const Avance&)>& trabajo) {
     if (!entorno_.CrearPanel) {
-        entorno_.Motor.Exportar(documento, codigo, archivo);
+        trabajo({});
         return true;
     }
     using Reloj = std::chrono::steady_clock;
     constexpr auto paso = std::chrono::milliseconds(50);
-    const std::unique_ptr<montaje::PanelProgreso> panel = entorno_.CrearPanel();
-    const auto aLaVista = montaje::PanelALaVista(*panel);
-    const std::string rotulo = "Exportando el Reporte: " + TextoDeCamino(archivo.filename());
+    std::unique_ptr<montaje::PanelProgreso> panel;
+    const AlSalir ocultar([&panel] {
+        if (panel) panel->Ocultar();
+    });
     Reloj::time_point ultimo{};
     try {
-        entorno_.Motor.Exportar(documento, codigo, archivo, [&](double parte) {
+        trabajo([&](double parte) {
             if (Reloj::now() - ultimo < paso) return true;
+            if (!panel) {
+                panel = entorno_.CrearPanel();
+                panel->Mostrar();
+            }
             panel->Avanzar(100 * parte, rotulo);
             ultimo = Reloj::now();
             return !panel->Cancelado();
         });
-    } catch (const salidas::EscrituraCancelada&) {
+    } catch (const TrabajoCancelado&) {
         return false;
     }
     return true;
 }
 
 bool ExportadorReportes::Exportar(const documento::Documento& documento, std::uint8_t salida) {
-    if (!Escribir(documento, salida)) return false;
     const std::filesystem::path& archivo = entorno_.Estado.ArchivoExportado;
+    const auto escribir = [&](const Avance& avance) {
+        entorno_.Motor.Exportar(documento, Salidas[salida].Codigo, archivo, avance);
+    };
+    if (!ConPanel("Exportando el Reporte: " + TextoDeCamino(archivo.filename()), escribir)) return false;
     const std::string texto = "¿Desea Abrir el Archivo " + TextoDeCamino(archivo) + "?";
     if (entorno_.Servicios.Caja.Mostrar(programa::Pregunta(texto, "Abrir el Archivo Exportado...")) !=
         programa::RespuestaSi)
@@ -86,7 +93,12 @@ bool ExportadorReportes::HayImpresoras() {
 }
 
 bool ExportadorReportes::Imprimir(const documento::Documento& documento, const PedidoDeImpresion& pedido) {
-    return HayImpresoras() && entorno_.LasImpresoras.Imprimir(documento, entorno_.Estado.Impresora, pedido);
+    if (!HayImpresoras()) return false;
+    bool impreso = false;
+    const bool entero = ConPanel("Imprimiendo: " + documento.Titulo, [&](const Avance& avance) {
+        impreso = entorno_.LasImpresoras.Imprimir(documento, entorno_.Estado.Impresora, pedido, avance);
+    });
+    return entero && impreso;
 }
 
 void ExportadorReportes::Avisar(const ErrorEjecucion& error) {

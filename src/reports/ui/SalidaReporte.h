@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "base/Avance.h"
 #include "reports/montaje/BaseTemporal.h"
 #include "reports/montaje/PanelProgreso.h"
 #include "reports/montaje/PapelDeGraficos.h"
@@ -72,9 +73,9 @@ class Impresoras {
     /// The system's default printer; empty when there is none.
     virtual std::string PorDefecto() const = 0;
     /// Prints on `impresora` (empty: the default one). False when the engineer cancels the prompt. Throws
-    /// ErrorEjecucion 482 when the printer refuses.
+    /// TrabajoCancelado, or ErrorEjecucion 482 when the printer refuses.
     virtual bool Imprimir(const documento::Documento& documento, const std::string& impresora,
-                          const PedidoDeImpresion& pedido) = 0;
+                          const PedidoDeImpresion& pedido, const Avance& avance) = 0;
 };
 
 /// What the windows of report output work with.
@@ -84,7 +85,7 @@ struct EntornoSalida {
     salidas::MotorReportes& Motor;
     Impresoras& LasImpresoras;
     programa::Servicios Servicios;
-    /// Makes the panel of a file that is written, which can be cancelled; empty: none is shown.
+    /// Makes the panel of what is written or printed, which can be cancelled; empty: none is shown.
     std::function<std::unique_ptr<montaje::PanelProgreso>()> CrearPanel{};
 
     /// Where reports are staged.
@@ -107,10 +108,11 @@ class ExportadorReportes {
     /// On the program's printer. False when nothing was printed. Throws ErrorEjecucion.
     bool Imprimir(const documento::Documento& documento, const PedidoDeImpresion& pedido = {});
     void Avisar(const ErrorEjecucion& error);
+    /// Runs a long work with a panel from its first word on, which repaints the windows below it now and
+    /// then. False when it was cancelled.
+    bool ConPanel(const std::string& rotulo, const std::function<void(const Avance&)>& trabajo);
 
   private:
-    bool Escribir(const documento::Documento& documento, std::uint8_t salida);
-
     EntornoSalida& entorno_;
 };
 

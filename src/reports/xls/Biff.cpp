@@ -63,14 +63,32 @@ std::string TextoBiff::Trozo(std::size_t desde, std::size_t cuantos) const {
 }
 
 void AgregarRegistro(std::string& flujo, std::uint16_t tipo, const Octetos& datos) {
-    const std::string_view bytes = datos.Bytes();
-    std::size_t escritos = 0;
-    do {
-        const std::string_view parte = bytes.substr(escritos, DatosPorRegistro);
-        flujo += Octetos().U16(escritos == 0 ? tipo : Continuacion).U16(parte.size()).Bytes();
-        flujo += parte;
-        escritos += parte.size();
-    } while (escritos < bytes.size());
+    const Salida alFlujo = [&flujo](std::string_view bytes) { flujo += bytes; };
+    RegistroPorPartes registro(alFlujo, tipo);
+    registro.Agregar(datos.Bytes());
+    registro.Terminar();
+}
+
+void RegistroPorPartes::Agregar(std::string_view bytes) {
+    while (!bytes.empty()) {
+        if (parte_.size() == DatosPorRegistro) Terminar();
+        const std::string_view cabe = bytes.substr(0, DatosPorRegistro - parte_.size());
+        parte_ += cabe;
+        bytes.remove_prefix(cabe.size());
+    }
+}
+
+void RegistroPorPartes::Terminar() {
+    salida_(Octetos().U16(tipo_).U16(parte_.size()).Bytes());
+    salida_(parte_);
+    parte_.clear();
+    tipo_ = Continuacion;
+}
+
+std::size_t RegistroPorPartes::Largo(std::size_t datos) {
+    constexpr std::size_t cabecera = 4;
+    const std::size_t registros = datos == 0 ? 1 : (datos + DatosPorRegistro - 1) / DatosPorRegistro;
+    return datos + cabecera * registros;
 }
 
 }  // namespace trabex::xls

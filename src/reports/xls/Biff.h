@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -47,7 +48,26 @@ class TextoBiff {
 inline constexpr std::size_t DatosPorRegistro = 8224;  ///< bytes that a record holds
 inline constexpr std::uint16_t Continuacion = 0x003C;
 
+/// Takes the bytes of the book's stream, in order.
+using Salida = std::function<void(std::string_view)>;
+
 /// Appends a record; data past its limit go into continuation records.
 void AgregarRegistro(std::string& flujo, std::uint16_t tipo, const Octetos& datos);
+
+/// A record whose data come bit by bit, so that those of many pictures are never together in memory.
+class RegistroPorPartes {
+  public:
+    RegistroPorPartes(const Salida& salida, std::uint16_t tipo) : salida_(salida), tipo_(tipo) {}
+    void Agregar(std::string_view bytes);
+    /// Writes what is left.
+    void Terminar();
+    /// What one of so many bytes of data takes in the stream.
+    static std::size_t Largo(std::size_t datos);
+
+  private:
+    const Salida& salida_;
+    std::uint16_t tipo_;
+    std::string parte_;
+};
 
 }  // namespace trabex::xls

@@ -1,9 +1,14 @@
 #include "reports/xls/ContenedorOle.h"
 
+#include <cerrno>
+#include <cstdio>
 #include <memory>
+#include <system_error>
 
+#include <gsf/gsf-output-stdio.h>
 #include <gsf/gsf.h>
 
+#include "base/Archivos.h"
 #include "base/ErrorEjecucion.h"
 
 namespace trabex::xls {
@@ -16,8 +21,19 @@ struct Soltar {
 template <class Objeto>
 using Dueno = std::unique_ptr<Objeto, Soltar>;
 
+/// Told by what the system answered last.
 void Exigir(bool bien) {
-    if (!bien) throw ErrorEjecucion(CodigoError::ErrorDispositivo);
+    if (bien) return;
+    const std::error_code causa(errno, std::generic_category());
+    throw ErrorEjecucion(causa ? ErrorDeSistema(causa) : CodigoError::ErrorDispositivo);
+}
+
+std::FILE* AbrirParaEscribir(const std::filesystem::path& archivo) {
+#ifdef _WIN32
+    return _wfopen(archivo.c_str(), L"wb");
+#else
+    return std::fopen(archivo.c_str(), "wb");
+#endif
 }
 
 void PonerPropiedad(GsfDocMetaData* propiedades, const char* nombre, const std::string& texto) {
@@ -28,10 +44,13 @@ void PonerPropiedad(GsfDocMetaData* propiedades, const char* nombre, const std::
     gsf_doc_meta_data_insert(propiedades, g_strdup(nombre), valor);
 }  // NOLINT(clang-analyzer-unix.Malloc): the properties take name and value over
 
-void EscribirFlujo(GsfOutfile* contenedor, const char* nombre, std::string_view bytes) {
+void EscribirFlujo(GsfOutfile* contenedor, const char* nombre,
+                   const std::function<void(const Salida&)>& escribir) {
     const Dueno<GsfOutput> hijo(gsf_outfile_new_child(contenedor, nombre, FALSE));
     Exigir(hijo != nullptr);
-    Exigir(gsf_output_write(hijo.get(), bytes.size(), reinterpret_cast<const guint8*>(bytes.data())));
+    escribir([&hijo](std::string_view bytes) {
+        Exigir(gsf_output_write(hijo.get(), bytes.size(), reinterpret_cast<const guint8*>(bytes.data())));
+    });
     Exigir(gsf_output_close(hijo.get()));
 }
 
@@ -47,19 +66,22 @@ void EscribirPropiedades(GsfOutfile* contenedor, const PropiedadesOle& propiedad
 
 }  // namespace
 
-std::string ContenedorOle(const char* nombreDelFlujo, std::string_view flujo,
-                          const PropiedadesOle& propiedades) {
+void EscribirContenedorOle(const std::filesystem::path& archivo, const char* nombreDelFlujo,
+                           const std::function<void(const Salida&)>& escribir,
+                           const PropiedadesOle& propiedades) {
     gsf_init();
-    const Dueno<GsfOutput> memoria(gsf_output_memory_new());
+    errno = 0;
+    std::FILE* abierto = AbrirParaEscribir(archivo);
+    Exigir(abierto != nullptr);
+    const Dueno<GsfOutput> salida(gsf_output_stdio_new_FILE("", abierto, FALSE));
     {
-        const Dueno<GsfOutfile> contenedor(gsf_outfile_msole_new(memoria.get()));
+        const Dueno<GsfOutfile> contenedor(gsf_outfile_msole_new(salida.get()));
         Exigir(contenedor != nullptr);
-        EscribirFlujo(contenedor.get(), nombreDelFlujo, flujo);
+        EscribirFlujo(contenedor.get(), nombreDelFlujo, escribir);
         EscribirPropiedades(contenedor.get(), propiedades);
         Exigir(gsf_output_close(GSF_OUTPUT(contenedor.get())));
     }
-    const auto* bytes = gsf_output_memory_get_bytes(GSF_OUTPUT_MEMORY(memoria.get()));
-    return {reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(gsf_output_size(memoria.get()))};
+    Exigir(gsf_output_close(salida.get()));
 }
 
 }  // namespace trabex::xls

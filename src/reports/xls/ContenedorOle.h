@@ -1,7 +1,10 @@
 #pragma once
 
+#include <filesystem>
+#include <functional>
 #include <string>
-#include <string_view>
+
+#include "reports/xls/Biff.h"
 
 namespace trabex::xls {
 
@@ -11,9 +14,10 @@ struct PropiedadesOle {
     std::string Autor;
 };
 
-/// A compound file (the container of the Office 97 formats) with one stream and the document's properties.
-/// Throws ErrorEjecucion 57 when the container can't be built.
-std::string ContenedorOle(const char* nombreDelFlujo, std::string_view flujo,
-                          const PropiedadesOle& propiedades);
+/// Writes a compound file (the container of the Office 97 formats) with one stream, which `escribir` writes
+/// as it comes, and the document's properties. Throws ErrorEjecucion: what the disk answers, or 57.
+void EscribirContenedorOle(const std::filesystem::path& archivo, const char* nombreDelFlujo,
+                           const std::function<void(const Salida&)>& escribir,
+                           const PropiedadesOle& propiedades);
 
 }  // namespace trabex::xls

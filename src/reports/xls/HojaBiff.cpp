@@ -72,7 +72,7 @@ std::vector<const ImagenXls*> HojaBiff::Imagenes() const {
     for (const ImagenXls& imagen : hoja_.Imagenes) {
         // One that stands past the last row belongs to the last sheet of the run.
         const bool alFinal = imagen.Fila >= hoja_.Filas.size() && hasta_ == hoja_.Filas.size();
-        if (ImagenesBiff::Conocida(imagen.Bytes) && (Lugar(imagen.Fila) || alFinal)) suyas.push_back(&imagen);
+        if (imagen.Ficha.Clase && (Lugar(imagen.Fila) || alFinal)) suyas.push_back(&imagen);
     }
     return suyas;
 }

@@ -4,7 +4,7 @@
 #include <array>
 #include <string_view>
 
-#include "reports/xls/Biff.h"
+#include "base/ErrorEjecucion.h"
 
 namespace trabex::xls {
 
@@ -45,12 +45,9 @@ constexpr std::array<Clase, 3> Clases{{
     {"BM", 7, 0x7A8, 14},
 }};
 
-const Clase* ClaseDe(const std::string& bytes) {
-    const auto clase = std::find_if(Clases.begin(), Clases.end(), [&](const Clase& c) {
-        return bytes.size() > c.Cabecera && bytes.starts_with(c.Firma);
-    });
-    return clase == Clases.end() ? nullptr : &*clase;
-}
+constexpr std::size_t AntesDeLosDatos = 17;  // of a stored picture: its fingerprint and a mark
+constexpr std::size_t LargoDeMarco = 8;
+constexpr std::size_t LargoDeEntrada = 36;  // what the book says of a picture before it
 
 Octetos Marco(Tipo tipo, std::size_t version, std::size_t instancia, std::size_t largo) {
     return Octetos().U16(version | instancia << 4).U16(tipo).U32(largo);
@@ -60,34 +57,33 @@ std::string Elemento(Tipo tipo, std::size_t version, std::size_t instancia, std:
     return Marco(tipo, version, instancia, datos.size()).Crudo(datos).Bytes();
 }
 
-/// 16 bytes that tell one picture from another: a fingerprint (FNV-1a, run twice) of its bytes.
-std::string Huella(std::string_view bytes) {
-    Octetos huella;
-    for (std::uint64_t valor : {0xCBF29CE484222325ULL, 0x84222325CBF29CE4ULL}) {
-        for (const char byte : bytes) valor = (valor ^ static_cast<unsigned char>(byte)) * 0x100000001B3ULL;
-        huella.U32(valor & 0xFFFFFFFF).U32(valor >> 32);
-    }
-    return huella.Bytes();
+std::size_t DatosDe(const ImagenXls& imagen) {
+    return imagen.Ficha.Largo - Clases[*imagen.Ficha.Clase].Cabecera;
 }
 
-std::string Almacenada(const ImagenXls& imagen) {
-    const Clase& clase = *ClaseDe(imagen.Bytes);
-    const std::string_view datos = std::string_view(imagen.Bytes).substr(clase.Cabecera);
-    const std::string huella = Huella(datos);
-    const std::string blip = Elemento(static_cast<Tipo>(0xF018 + clase.Numero), 0, clase.Instancia,
-                                      Octetos().Crudo(huella).U8(0xFF).Crudo(datos).Bytes());
-    return Elemento(Bse, 2, clase.Numero,
-                    Octetos()
-                        .U8(clase.Numero)
-                        .U8(clase.Numero)
-                        .Crudo(huella)
-                        .U16(0xFF)
-                        .U32(blip.size())
-                        .U32(1)
-                        .U32(0)
-                        .U32(0)
-                        .Crudo(blip)
-                        .Bytes());
+std::size_t LargoAlmacenado(const ImagenXls& imagen) {
+    return 2 * LargoDeMarco + LargoDeEntrada + AntesDeLosDatos + DatosDe(imagen);
+}
+
+/// All of a stored picture but its bytes, which follow.
+std::string Entrada(const ImagenXls& imagen) {
+    const Clase& clase = Clases[*imagen.Ficha.Clase];
+    Octetos huella;
+    for (const std::uint64_t valor : imagen.Ficha.Huella) huella.U32(valor & 0xFFFFFFFF).U32(valor >> 32);
+    const std::size_t blip = AntesDeLosDatos + DatosDe(imagen);
+    return Marco(Bse, 2, clase.Numero, LargoDeEntrada + LargoDeMarco + blip)
+        .U8(clase.Numero)
+        .U8(clase.Numero)
+        .Crudo(huella.Bytes())
+        .U16(0xFF)
+        .U32(LargoDeMarco + blip)
+        .U32(1)
+        .U32(0)
+        .U32(0)
+        .Crudo(Marco(static_cast<Tipo>(0xF018 + clase.Numero), 0, clase.Instancia, blip).Bytes())
+        .Crudo(huella.Bytes())
+        .U8(0xFF)
+        .Bytes();
 }
 
 std::string Propiedades(const std::vector<std::pair<std::size_t, std::size_t>>& propiedades) {
@@ -169,8 +165,18 @@ Octetos ObjetoFiltro(std::size_t numero) {
 
 }  // namespace
 
-bool ImagenesBiff::Conocida(const std::string& bytes) {
-    return ClaseDe(bytes) != nullptr;
+FichaDeImagen FichaDe(std::string_view bytes) {
+    const auto clase = std::find_if(Clases.begin(), Clases.end(), [&](const Clase& c) {
+        return bytes.size() > c.Cabecera && bytes.starts_with(c.Firma);
+    });
+    if (clase == Clases.end()) return {};
+    FichaDeImagen ficha{static_cast<std::size_t>(clase - Clases.begin()),
+                        bytes.size(),
+                        {0xCBF29CE484222325ULL, 0x84222325CBF29CE4ULL}};
+    for (std::uint64_t& valor : ficha.Huella) {  // FNV-1a from two beginnings
+        for (const char byte : bytes) valor = (valor ^ static_cast<unsigned char>(byte)) * 0x100000001B3ULL;
+    }
+    return ficha;
 }
 
 std::size_t ImagenesBiff::Agregar(const std::vector<const ImagenXls*>& deHoja, std::size_t filtros) {
@@ -182,8 +188,19 @@ std::size_t ImagenesBiff::Agregar(const std::vector<const ImagenXls*>& deHoja, s
     return dibujos_.size() - 1;
 }
 
-void ImagenesBiff::EscribirGrupo(std::string& flujo) const {
-    if (formas_ == 0) return;
+namespace {
+
+/// What follows the pictures in the book's part.
+std::string FinDelGrupo() {
+    return Propiedades({{0x00BF, 0x00080008}, {0x0181, 0x08000041}, {0x01C0, 0x08000040}}) +
+           Elemento(SplitMenuColors, 0, 4,
+                    Octetos().U32(0x0800000D).U32(0x0800000C).U32(0x08000017).U32(0x100000F7).Bytes());
+}
+
+}  // namespace
+
+/// What stands before them.
+std::string ImagenesBiff::PrincipioDelGrupo() const {
     Octetos general;
     general.U32((grupos_ + 1) * FormasPorGrupo)
         .U32(grupos_ + 1)
@@ -194,15 +211,37 @@ void ImagenesBiff::EscribirGrupo(std::string& flujo) const {
         for (; formas > FormasPorGrupo; formas -= FormasPorGrupo) general.U32(d + 1).U32(FormasPorGrupo);
         general.U32(d + 1).U32(formas);
     }
-    std::string almacen;
-    for (const ImagenXls* imagen : imagenes_) almacen += Almacenada(*imagen);
-    const std::string partes =
-        Elemento(Dgg, 0, 0, general.Bytes()) +
-        (imagenes_.empty() ? "" : Elemento(BStoreContainer, Contenedor, imagenes_.size(), almacen)) +
-        Propiedades({{0x00BF, 0x00080008}, {0x0181, 0x08000041}, {0x01C0, 0x08000040}}) +
-        Elemento(SplitMenuColors, 0, 4,
-                 Octetos().U32(0x0800000D).U32(0x0800000C).U32(0x08000017).U32(0x100000F7).Bytes());
-    AgregarRegistro(flujo, MSODRAWINGGROUP, Octetos().Crudo(Elemento(DggContainer, Contenedor, 0, partes)));
+    std::size_t almacenadas = 0;
+    for (const ImagenXls* imagen : imagenes_) almacenadas += LargoAlmacenado(*imagen);
+    const std::string antes = Elemento(Dgg, 0, 0, general.Bytes()) +
+                              Marco(BStoreContainer, Contenedor, imagenes_.size(), almacenadas).Bytes();
+    return Marco(DggContainer, Contenedor, 0, antes.size() + almacenadas + FinDelGrupo().size())
+        .Crudo(antes)
+        .Bytes();
+}
+
+std::size_t ImagenesBiff::LargoDelGrupo() const {
+    if (formas_ == 0) return 0;
+    std::size_t datos = PrincipioDelGrupo().size() + FinDelGrupo().size();
+    for (const ImagenXls* imagen : imagenes_) datos += LargoAlmacenado(*imagen);
+    return RegistroPorPartes::Largo(datos);
+}
+
+void ImagenesBiff::EscribirGrupo(const Salida& salida,
+                                 const std::function<void(std::size_t hechas)>& antesDeCada) const {
+    if (formas_ == 0) return;
+    RegistroPorPartes registro(salida, MSODRAWINGGROUP);
+    registro.Agregar(PrincipioDelGrupo());
+    for (std::size_t i = 0; i < imagenes_.size(); ++i) {
+        const ImagenXls& imagen = *imagenes_[i];
+        if (antesDeCada) antesDeCada(i);
+        const std::string bytes = imagen.Leer();
+        if (FichaDe(bytes) != imagen.Ficha) throw ErrorEjecucion(CodigoError::ErrorDispositivo);
+        registro.Agregar(Entrada(imagen));
+        registro.Agregar(std::string_view(bytes).substr(Clases[*imagen.Ficha.Clase].Cabecera));
+    }
+    registro.Agregar(FinDelGrupo());
+    registro.Terminar();
 }
 
 void ImagenesBiff::EscribirHoja(std::string& flujo, std::size_t hoja,

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
+#include "reports/xls/Biff.h"
 #include "reports/xls/LibroXls.h"
 
 namespace trabex::xls {
@@ -21,12 +23,14 @@ struct AnclaXls {
 /// open a column's filter.
 class ImagenesBiff {
   public:
-    /// Takes in a sheet's pictures, in order, before anything is written. False for one of an unknown kind.
-    static bool Conocida(const std::string& bytes);
+    /// Takes in a sheet's pictures, in order, before anything is written.
     std::size_t Agregar(const std::vector<const ImagenXls*>& deHoja, std::size_t filtros);
 
-    /// The book's part.
-    void EscribirGrupo(std::string& flujo) const;
+    std::size_t Cuantas() const { return imagenes_.size(); }
+    /// The book's part: how long it is, and itself.
+    std::size_t LargoDelGrupo() const;
+    void EscribirGrupo(const Salida& salida,
+                       const std::function<void(std::size_t hechas)>& antesDeCada) const;
     /// The part of the sheet that `Agregar` numbered: its pictures' places, then its buttons'.
     void EscribirHoja(std::string& flujo, std::size_t hoja, const std::vector<AnclaXls>& anclas) const;
 
@@ -37,6 +41,8 @@ class ImagenesBiff {
         std::size_t Imagenes;
         std::size_t Filtros;
     };
+    std::string PrincipioDelGrupo() const;
+
     std::vector<const ImagenXls*> imagenes_;
     std::vector<Dibujo> dibujos_;
     std::size_t grupos_ = 0;

@@ -128,10 +128,13 @@ std::string Directorio(const std::vector<HojaBiff>& hojas, const std::vector<std
     return flujo;
 }
 
-std::string FlujoDeLibro(const std::vector<HojaXls>& hojasDelLibro,
-                         const std::vector<EstiloXls>& estilosDelLibro) {
-    const std::vector<HojaBiff> hojas = Repartir(hojasDelLibro);
-    const EstilosBiff estilos(estilosDelLibro);
+using AntesDeCada = std::function<void(std::size_t hechas, std::size_t total)>;
+
+/// The book's stream, whose directory tells where its sheets begin: all lengths are known before the pictures
+/// are read.
+void EscribirLibro(const LibroXls& libro, const Salida& salida, const AntesDeCada& antesDeCada) {
+    const std::vector<HojaBiff> hojas = Repartir(libro.Hojas);
+    const EstilosBiff estilos(libro.Estilos);
     CadenasBiff cadenas;
     ImagenesBiff imagenes;
     for (const HojaBiff& hoja : hojas)
@@ -140,20 +143,26 @@ std::string FlujoDeLibro(const std::vector<HojaXls>& hojasDelLibro,
     // Sheets come first, since they make the table of texts that stands before them.
     std::string cuerpo;
     std::vector<std::size_t> lugares;
+    lugares.reserve(hojas.size());
     for (std::size_t i = 0; i < hojas.size(); ++i) {
         lugares.push_back(cuerpo.size());
         hojas[i].Escribir(cuerpo, estilos, cadenas, imagenes, i);
     }
-    std::string flujo = Comienzo(estilos);
+    const std::string comienzo = Comienzo(estilos);
+    std::string nombres;
+    EscribirNombres(nombres, hojas);
     std::string resto;
-    EscribirNombres(resto, hojas);
-    imagenes.EscribirGrupo(resto);
     cadenas.Escribir(resto);
     AgregarRegistro(resto, FIN, {});
-    const std::size_t corrimiento = flujo.size() + Directorio(hojas, lugares, 0).size() + resto.size();
-    flujo += Directorio(hojas, lugares, corrimiento) + resto + cuerpo;
-    if (flujo.size() < MenorFlujo) flujo.resize(MenorFlujo);
-    return flujo;
+    const std::size_t antes = comienzo.size() + Directorio(hojas, lugares, 0).size() + nombres.size() +
+                              imagenes.LargoDelGrupo() + resto.size();
+    salida(comienzo + Directorio(hojas, lugares, antes) + nombres);
+    imagenes.EscribirGrupo(salida, [&](std::size_t hechas) {
+        if (antesDeCada) antesDeCada(hechas, imagenes.Cuantas());
+    });
+    salida(resto + cuerpo);
+    const std::size_t largo = antes + cuerpo.size();
+    if (largo < MenorFlujo) salida(std::string(MenorFlujo - largo, '\0'));
 }
 
 }  // namespace
@@ -172,20 +181,21 @@ CeldaXls& CeldaEn(HojaXls& hoja, std::size_t fila, std::size_t columna) {
     return celdas[columna];
 }
 
-std::string BytesXls(const LibroXls& libro) {
+void GuardarXls(const LibroXls& libro, const std::filesystem::path& camino, const AntesDeCada& antesDeCada) {
     if (libro.Estilos.size() > MaximoDeEstilos) throw ErrorEjecucion(CodigoError::Desbordamiento);
     if (libro.Hojas.empty() || libro.Estilos.empty()) {
         LibroXls completo = libro;
         if (completo.Hojas.empty()) completo.Hojas.emplace_back();
         if (completo.Estilos.empty()) completo.Estilos.emplace_back();
-        return BytesXls(completo);
+        GuardarXls(completo, camino, antesDeCada);
+        return;
     }
-    const std::string flujo = FlujoDeLibro(libro.Hojas, libro.Estilos);
-    return ContenedorOle("Workbook", flujo, {libro.Titulo, libro.Autor});
-}
-
-void GuardarXls(const LibroXls& libro, const std::filesystem::path& camino) {
-    EscribirArchivo(camino, BytesXls(libro));
+    ArchivoNuevo archivo(camino);
+    archivo.Escribir("");
+    EscribirContenedorOle(archivo.Provisional(), "Workbook",
+                          [&](const Salida& salida) { EscribirLibro(libro, salida, antesDeCada); },
+                          {libro.Titulo, libro.Autor});
+    archivo.Colocar();
 }
 
 }  // namespace trabex::xls

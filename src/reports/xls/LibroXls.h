@@ -1,10 +1,13 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -12,7 +15,7 @@
 
 namespace trabex::xls {
 
-/// A workbook of the Excel 97-2003 format (.xls), as plain data: fill it, then ask for its bytes or save it.
+/// A workbook of the Excel 97-2003 format (.xls), as plain data: fill it, then save it.
 ///
 /// Rows and columns count from 0. Lengths are points (1/72 inch), colours 0xRRGGBB, texts UTF-8.
 
@@ -71,9 +74,21 @@ struct RangoXls {
     std::size_t ColumnaFinal = 0;
 };
 
-/// A picture over the cells, its corner on that of a cell.
+/// What a book must know of a picture's file beforehand, to write it bit by bit.
+struct FichaDeImagen {
+    std::optional<std::size_t> Clase;  ///< of the file: PNG, JPEG or BMP; one of another kind is left out
+    std::size_t Largo = 0;
+    std::array<std::uint64_t, 2> Huella{};  ///< tells one picture from another
+
+    bool operator==(const FichaDeImagen&) const = default;
+};
+FichaDeImagen FichaDe(std::string_view bytes);
+
+/// A picture over the cells, its corner on that of a cell. Its bytes are read where they are written and not
+/// kept: a book of many pictures takes the memory of one.
 struct ImagenXls {
-    std::string Bytes;  ///< of a PNG, JPEG or BMP file; of another kind it is left out
+    FichaDeImagen Ficha;
+    std::function<std::string()> Leer;  ///< the file of which the card was made
     std::size_t Fila = 0;
     std::size_t Columna = 0;
     double Ancho = 0;
@@ -121,12 +136,13 @@ std::uint16_t EstiloDe(LibroXls& libro, const EstiloXls& estilo);
 /// The cell at a place of the sheet, which grows to hold it.
 CeldaXls& CeldaEn(HojaXls& hoja, std::size_t fila, std::size_t columna);
 
-/// The book as a file's bytes. A sheet of more than 65536 rows goes on in further sheets, "Nombre (2)"…, with
-/// its heading rows again; columns past the 256th are left out; a text keeps its first 32767 characters. A
-/// book without sheets gets an empty one. Throws ErrorEjecucion 6 past 2000 styles.
-std::string BytesXls(const LibroXls& libro);
-
-/// The same into a file, replacing it whole. Throws ErrorEjecucion as EscribirArchivo does.
-void GuardarXls(const LibroXls& libro, const std::filesystem::path& camino);
+/// Writes the book, replacing a file whole. A sheet of more than 65536 rows goes on in further sheets,
+/// "Nombre (2)"…, with its heading rows again; columns past the 256th are left out; a text keeps its first
+/// 32767 characters. A book without sheets gets an empty one. `antesDeCada` is told how many pictures of how
+/// many are written; what it throws ends the writing, and the file that stood there stays. Throws
+/// ErrorEjecucion 6 past 2000 styles, 57 when a picture is no longer what it was, and as EscribirArchivo
+/// does.
+void GuardarXls(const LibroXls& libro, const std::filesystem::path& camino,
+                const std::function<void(std::size_t hechas, std::size_t total)>& antesDeCada = {});
 
 }  // namespace trabex::xls

@@ -1,5 +1,6 @@
 #include "slab/salida/ReporteLosas.h"
 
+#include <algorithm>
 #include <array>
 
 #include "slab/DisenoSeccion.h"
@@ -159,7 +160,7 @@ void MontajeDeLosas::Agregar(const LosaCalculada& losa) {
 }
 
 bool LLeneResultados(const montaje::EntornoReportes& entorno, const ProyectoParaReporte& origen,
-                     const montaje::EstadoReportes& estado) {
+                     const montaje::EstadoReportes& estado, const Avance& avance) {
     almacen::Recordset& lista = origen.Proyecto.RegistrosProyecto;
     const bool todas = estado.OpcionExportarLosas == 1;
     std::string nombre;
@@ -174,7 +175,9 @@ bool LLeneResultados(const montaje::EntornoReportes& entorno, const ProyectoPara
     if (!temporal.Abierta()) return false;
     almacen::Transaccion guardado(temporal);
     MontajeDeLosas montaje(temporal, origen.Generales);
+    const auto losas = static_cast<std::size_t>(std::max(1, lista.NumeroRegistros()));
     RecorrerLosas(origen, todas, [&](const LosaDelProyecto& losa) {
+        Avisar(avance, todas ? losa.Numero - 1 : 0, losas);
         montaje.Agregar({losa.Datos, losa.Generales, losa.Resultados});
     });
     return guardado.Confirmar();

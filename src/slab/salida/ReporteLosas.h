@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Avance.h"
 #include "reports/montaje/BaseTemporal.h"
 #include "reports/montaje/EstadoReportes.h"
 #include "slab/ValoresLosa.h"
@@ -24,8 +25,8 @@ class MontajeDeLosas {
 
 /// Fills the scratch database with the results of the selected slab or of all (`OpcionExportarLosas`):
 /// `Generales`, `LosaG`, `LosaDatos`, `LosaEjes`, `LosaTramos`. False
-/// when they could not be stored; the report is then empty.
+/// when they could not be stored; the report is then empty, as after a TrabajoCancelado.
 bool LLeneResultados(const montaje::EntornoReportes& entorno, const ProyectoParaReporte& origen,
-                     const montaje::EstadoReportes& estado);
+                     const montaje::EstadoReportes& estado, const Avance& avance = {});
 
 }  // namespace trabex::losas::salida

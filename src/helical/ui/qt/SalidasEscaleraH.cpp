@@ -42,10 +42,11 @@ void SalidasEscaleraH::ExportarGrafico(EscaleraH& escaleras, VentanaEscaleraH& v
     const dibujo::helice::HojaHelice& hoja = escaleras.Estado().Hoja;
     if (hoja.Vista.Zoom != 1 || hoja.Vista.PanX != 0 || hoja.Vista.PanY != 0)
         ventana.Accion("ID_ZoomExtents")->trigger();
-    reportes::ui::qt::MontarConPanel(ventana, [&](auto& superficie, auto& panel) {
+    const auto montar = [&](auto& superficie, auto& panel) {
         salida::GuardeGraficos(entorno_.Montaje(), aplicacion_.Datos, escaleras.Calculada(), hoja, superficie,
                                panel);
-    });
+    };
+    if (!reportes::ui::qt::MontarConPanel(ventana, montar)) return;
     salida_.Estado.GraficoHelicoidal = true;
     salida_.Estado.GraficoAutoportante = false;
     VentanaSalidaReporte(entorno_, VentanaSalidaReporte::Clase::Grafico, &ventana).exec();
@@ -67,13 +68,14 @@ void SalidasEscaleraH::ImprimirPaneles(EscaleraH& escaleras, VentanaEscaleraH& v
 }
 
 void SalidasEscaleraH::ImprimirGrafico(EscaleraH& escaleras, VentanaEscaleraH& ventana) {
-    reportes::ui::qt::PedirEImprimirDibujos(entorno_, ventana, [&](dibujo::qt::PapelQt& papel) {
-        papel.Pagina([&](dibujo::Lienzo& pagina) {
-            dibujo::helice::DibujeEnPapel(
-                pagina, escaleras.Estado().Hoja, escaleras.Calculada(),
-                {aplicacion_.Usuario, aplicacion_.Datos.Proyecto, aplicacion_.Datos.Calculista});
+    reportes::ui::qt::PedirEImprimirDibujos(
+        entorno_, ventana, [&](dibujo::qt::PapelQt& papel, const Avance&) {
+            papel.Pagina([&](dibujo::Lienzo& pagina) {
+                dibujo::helice::DibujeEnPapel(
+                    pagina, escaleras.Estado().Hoja, escaleras.Calculada(),
+                    {aplicacion_.Usuario, aplicacion_.Datos.Proyecto, aplicacion_.Datos.Calculista});
+            });
         });
-    });
 }
 
 void SalidasEscaleraH::ExportarImagen(EscaleraH& escaleras, VentanaEscaleraH& ventana) {

@@ -2,8 +2,8 @@
 
 #include <filesystem>
 
+#include "base/Avance.h"
 #include "reports/documento/Documento.h"
-#include "reports/salidas/Avance.h"
 
 namespace trabex::salidas::qt {
 

@@ -1,6 +1,7 @@
 #include "reports/ui/qt/ImpresorasQt.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -22,7 +23,13 @@ QPageLayout HojaDe(const documento::Pagina& pagina) {
 
 }  // namespace
 
-void ImprimirPaginas(const documento::Documento& documento, QPrinter& impresora) {
+void Desechar(QPrinter& impresora, QPainter& pintor) {
+    impresora.abort();
+    pintor.end();
+    if (!impresora.outputFileName().isEmpty()) QFile::remove(impresora.outputFileName());
+}
+
+void ImprimirPaginas(const documento::Documento& documento, QPrinter& impresora, const Avance& avance) {
     const QRectF papel = impresora.paperRect(QPrinter::Millimeter);
     const salidas::qt::Paginador paginas(documento, {papel.width(), papel.height()});
     const int primera = impresora.fromPage() > 0 ? impresora.fromPage() - 1 : 0;
@@ -34,14 +41,17 @@ void ImprimirPaginas(const documento::Documento& documento, QPrinter& impresora)
     if (!pintor.begin(&impresora)) throw ErrorEjecucion(CodigoError::ErrorImpresora);
     const double escala = impresora.resolution() / (25.4 * salidas::qt::Milimetro);
     pintor.scale(escala, escala);
-    bool primeraHoja = true;
-    for (int copia = 0; copia < copias; ++copia) {
-        for (int i = primera; i < ultima; ++i) {
-            if (!primeraHoja && !impresora.newPage()) throw ErrorEjecucion(CodigoError::ErrorImpresora);
-            primeraHoja = false;
+    const int hojas = copias * std::max(0, ultima - primera);
+    try {
+        for (int hoja = 0; hoja < hojas; ++hoja) {
+            trabex::Avisar(avance, static_cast<std::size_t>(hoja), static_cast<std::size_t>(hojas));
+            if (hoja > 0 && !impresora.newPage()) throw ErrorEjecucion(CodigoError::ErrorImpresora);
             salidas::qt::TintaDePintor tinta(pintor);
-            paginas.Pintar(i, tinta);
+            paginas.Pintar(primera + hoja % (ultima - primera), tinta);
         }
+    } catch (const TrabajoCancelado&) {
+        Desechar(impresora, pintor);
+        throw;
     }
 }
 
@@ -57,7 +67,7 @@ std::string ImpresorasQt::PorDefecto() const {
 }
 
 bool ImpresorasQt::Imprimir(const documento::Documento& documento, const std::string& impresora,
-                            const PedidoDeImpresion& pedido) {
+                            const PedidoDeImpresion& pedido, const Avance& avance) {
     QPrinter salida(QPrinter::HighResolution);
     if (!impresora.empty()) salida.setPrinterName(programa::qt::Q(impresora));
     salida.setDocName(programa::qt::Q(documento.Titulo));
@@ -71,7 +81,7 @@ bool ImpresorasQt::Imprimir(const documento::Documento& documento, const std::st
         if (dialogo.exec() != QDialog::Accepted) return false;
         salida.setFullPage(true);
     }
-    ImprimirPaginas(documento, salida);
+    ImprimirPaginas(documento, salida, avance);
     return true;
 }
 

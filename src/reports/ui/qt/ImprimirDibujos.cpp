@@ -4,19 +4,24 @@
 #include <QPrinter>
 
 #include "base/Edicion.h"
+#include "reports/ui/qt/ImpresorasQt.h"
 #include "shell/qt/ComunVentanas.h"
 
 namespace trabex::reportes::ui::qt {
 
-void ImprimirDibujos(QPrinter& impresora, const std::function<void(dibujo::qt::PapelQt&)>& dibujar) {
+void ImprimirDibujos(QPrinter& impresora, const DibujarPaginas& dibujar, const Avance& avance) {
     impresora.setResolution(dibujo::qt::UnidadesPorPulgadaDePapel);
     dibujo::qt::PapelQt papel(impresora);
-    dibujar(papel);
+    try {
+        dibujar(papel, avance);
+    } catch (const TrabajoCancelado&) {
+        Desechar(impresora, papel.Pintor());
+        throw;
+    }
     papel.Terminar();
 }
 
-void PedirEImprimirDibujos(EntornoSalida& entorno, QWidget& ventana,
-                           const std::function<void(dibujo::qt::PapelQt&)>& dibujar) {
+void PedirEImprimirDibujos(EntornoSalida& entorno, QWidget& ventana, const DibujarPaginas& dibujar) {
     ExportadorReportes exportador(entorno);
     if (!exportador.HayImpresoras()) return;
     QPrinter impresora(QPrinter::HighResolution);
@@ -28,7 +33,8 @@ void PedirEImprimirDibujos(EntornoSalida& entorno, QWidget& ventana,
     programa::qt::PunteroDeTrabajo puntero;
     puntero.Poner(true);
     try {
-        ImprimirDibujos(impresora, dibujar);
+        exportador.ConPanel("Imprimiendo los Gráficos",
+                            [&](const Avance& avance) { ImprimirDibujos(impresora, dibujar, avance); });
         puntero.Poner(false);
     } catch (const ErrorEjecucion& error) {
         puntero.Poner(false);

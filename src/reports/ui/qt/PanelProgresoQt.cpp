@@ -10,7 +10,7 @@
 
 namespace trabex::reportes::ui::qt {
 
-PanelProgresoQt::PanelProgresoQt(QWidget* ventana, bool cancelable)
+PanelProgresoQt::PanelProgresoQt(QWidget* ventana)
     : panel_(ventana, Qt::Dialog | Qt::FramelessWindowHint),
       rotulo_(new QLabel(&panel_)),
       barra_(new QProgressBar(&panel_)) {
@@ -22,12 +22,9 @@ PanelProgresoQt::PanelProgresoQt(QWidget* ventana, bool cancelable)
     columna->setSpacing(10);
     columna->addWidget(rotulo_);
     columna->addWidget(barra_);
-    panel_.Cancelable = cancelable;
-    if (cancelable) {
-        auto* cancelar = programa::qt::Boton(" Cancelar ", "", &panel_);
-        QObject::connect(cancelar, &QPushButton::clicked, &panel_, &QDialog::reject);
-        columna->addWidget(cancelar, 0, Qt::AlignRight);
-    }
+    auto* cancelar = programa::qt::Boton(" Cancelar ", "", &panel_);
+    QObject::connect(cancelar, &QPushButton::clicked, &panel_, &QDialog::reject);
+    columna->addWidget(cancelar, 0, Qt::AlignRight);
     // A frameless window needs an edge of its own, in the colours of the theme.
     panel_.setStyleSheet("QDialog#PanelProgreso { border: 1px solid palette(mid); }");
 }

@@ -10,10 +10,10 @@ class QProgressBar;
 namespace trabex::reportes::ui::qt {
 
 /// The progress panel: over its window, which takes no command meanwhile. Nothing closes it but the end of
-/// the work, or " Cancelar " and Escape where the work can be left half done.
+/// the work; " Cancelar " and Escape ask for it.
 class PanelProgresoQt : public montaje::PanelProgreso {
   public:
-    explicit PanelProgresoQt(QWidget* ventana, bool cancelable = false);
+    explicit PanelProgresoQt(QWidget* ventana);
 
     void Mostrar() override;
     void Avanzar(double porcentaje, const std::string& rotulo) override;
@@ -26,8 +26,7 @@ class PanelProgresoQt : public montaje::PanelProgreso {
     class Panel : public QDialog {
       public:
         using QDialog::QDialog;
-        void reject() override { Cancelado = Cancelable; }
-        bool Cancelable = false;
+        void reject() override { Cancelado = true; }
         bool Cancelado = false;
     };
     Panel panel_;

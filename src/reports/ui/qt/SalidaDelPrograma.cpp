@@ -15,7 +15,7 @@ EntornoSalida SalidaDelPrograma::Entorno(programa::Aplicacion& aplicacion,
                                          const programa::Servicios& servicios) {
     return {aplicacion, Estado,
             Motor,      Impresoras,
-            servicios,  [] { return std::make_unique<PanelProgresoQt>(QApplication::activeWindow(), true); }};
+            servicios,  [] { return std::make_unique<PanelProgresoQt>(QApplication::activeWindow()); }};
 }
 
 }  // namespace trabex::reportes::ui::qt

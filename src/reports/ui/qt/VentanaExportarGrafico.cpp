@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "base/Archivos.h"
@@ -36,6 +37,8 @@ VentanaExportarGrafico::VentanaExportarGrafico(EntornoGrafico entorno, DibujoDeE
     auto* columna = new QVBoxLayout(this);
     columna->addWidget(lienzo_, 1);
     columna->addLayout(Controles());
+    // Before the drawing takes the key.
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QDialog::reject);
     programa::qt::TamanoInicial(this, {980, 700});
     programa::qt::PrepararVentana(this, entorno_.LaAplicacion.Preferencias);
 }

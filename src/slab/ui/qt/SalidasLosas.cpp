@@ -52,7 +52,10 @@ void SalidasLosas::ExportarResultados(Losas& losas, QWidget& ventana) {
     reportes::ui::qt::VentanaOpcionImpreLosas opciones(salida_.Opciones, aplicacion_.Preferencias, &ventana);
     opciones.exec();
     if (!opciones.Aceptado()) return;
-    salida::LLeneResultados(entorno_.Montaje(), OrigenDe(aplicacion_, losas), salida_.Opciones);
+    const auto montar = [&](const Avance& avance) {
+        salida::LLeneResultados(entorno_.Montaje(), OrigenDe(aplicacion_, losas), salida_.Opciones, avance);
+    };
+    if (!reportes::ui::ExportadorReportes(entorno_).ConPanel("Calculando las Losas", montar)) return;
     salida_.Estado.ReporteActual = ReporteResultadosLosa;
     reportes::ui::qt::VentanaSalidaReporte(entorno_, reportes::ui::qt::VentanaSalidaReporte::Clase::Tabular,
                                            &ventana)
@@ -63,10 +66,11 @@ void SalidasLosas::ExportarGraficos(Losas& losas, QWidget& ventana) {
     reportes::ui::qt::VentanaOpcionGrafico opciones(reportes::ui::OpcionGraficoE, salida_.Opciones,
                                                     aplicacion_.Preferencias, &ventana);
     if (opciones.exec() != QDialog::Accepted) return;
-    reportes::ui::qt::MontarConPanel(ventana, [&](auto& superficie, auto& panel) {
+    const auto montar = [&](auto& superficie, auto& panel) {
         salida::GuardeGraficos(entorno_.Montaje(), OrigenDe(aplicacion_, losas), losas.Estado().Hoja,
                                superficie, panel, salida_.Opciones);
-    });
+    };
+    if (!reportes::ui::qt::MontarConPanel(ventana, montar)) return;
     salida_.Estado.GraficoHelicoidal = false;
     salida_.Estado.GraficoAutoportante = false;
     reportes::ui::qt::VentanaSalidaReporte(entorno_, reportes::ui::qt::VentanaSalidaReporte::Clase::Grafico,
@@ -78,10 +82,11 @@ void SalidasLosas::ImprimirGraficos(Losas& losas, QWidget& ventana) {
     reportes::ui::qt::VentanaOpcionGrafico opciones(reportes::ui::OpcionGraficoE1, salida_.Opciones,
                                                     aplicacion_.Preferencias, &ventana);
     if (opciones.exec() != QDialog::Accepted) return;
-    reportes::ui::qt::PedirEImprimirDibujos(entorno_, ventana, [&](dibujo::qt::PapelQt& papel) {
+    const auto dibujar = [&](dibujo::qt::PapelQt& papel, const Avance& avance) {
         DibujarGraficosLosas(papel, OrigenDe(aplicacion_, losas), losas.Estado().Hoja, aplicacion_.Usuario,
-                             salida_.Opciones);
-    });
+                             salida_.Opciones, avance);
+    };
+    reportes::ui::qt::PedirEImprimirDibujos(entorno_, ventana, dibujar);
 }
 
 /// The window's zoom is its own: the workspace's comes back by itself.

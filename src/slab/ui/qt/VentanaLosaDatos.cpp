@@ -12,6 +12,8 @@
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QToolButton>
@@ -73,6 +75,31 @@ QToolButton* BotonDeBarra(const QString& icono, const QString& texto, const QStr
     return boton;
 }
 
+/// A list of names that takes the place it gets: a longer name shows its beginning and its end.
+class SelectorElidido : public QComboBox {
+  public:
+    explicit SelectorElidido(QWidget* padre) : QComboBox(padre) {
+        constexpr int letras = 24;
+        setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+        setMinimumContentsLength(letras);
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    }
+
+  protected:
+    void paintEvent(QPaintEvent* /*evento*/) override {
+        QStylePainter pintor(this);
+        QStyleOptionComboBox opcion;
+        initStyleOption(&opcion);
+        pintor.drawComplexControl(QStyle::CC_ComboBox, opcion);
+        constexpr int margen = 4;
+        const QRect campo =
+            style()->subControlRect(QStyle::CC_ComboBox, &opcion, QStyle::SC_ComboBoxEditField, this);
+        opcion.currentText =
+            fontMetrics().elidedText(opcion.currentText, Qt::ElideMiddle, campo.width() - margen);
+        pintor.drawControl(QStyle::CE_ComboBoxLabel, opcion);
+    }
+};
+
 }  // namespace
 
 VentanaLosaDatos::VentanaLosaDatos(Losas& losas, programa::CajaMensajes& caja, QWidget* padre)
@@ -127,8 +154,7 @@ QLayout* VentanaLosaDatos::FilaDeComandos() {
     unir(anterior, QKeySequence("Ctrl+PgUp"), [this] { operaciones_.PaginaAnterior(); });
     unir(siguiente, QKeySequence("Ctrl+PgDown"), [this] { operaciones_.PaginaSiguiente(); });
     unir(retorno, {}, [this] { reject(); });
-    selector_ = new QComboBox(this);
-    selector_->setMinimumWidth(240);
+    selector_ = new SelectorElidido(this);
     selector_->setFocusPolicy(Qt::TabFocus);
     programa::qt::PonerAyuda(selector_, "Losas", "Elegir otra losa del proyecto. ");
     connect(selector_, &QComboBox::activated, this, [this](int lugar) { ElegirLosa(lugar); });

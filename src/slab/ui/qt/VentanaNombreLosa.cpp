@@ -5,9 +5,9 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QScrollBar>
 
+#include "shell/qt/CampoTexto.h"
 #include "shell/qt/ComunVentanas.h"
 #include "shell/qt/VentanaRenombrar.h"
 
@@ -20,9 +20,8 @@ VentanaNombreLosa::VentanaNombreLosa(const QString& titulo, Losas& losas,
     setWindowTitle(titulo);
     auto* marco = new QGroupBox("Entre el Nombre de la Losa", this);
     auto* formulario = new QFormLayout(marco);
-    nombre_ = new QLineEdit(marco);
+    nombre_ = new programa::qt::CampoTexto(programa::qt::LargoDeNombre, marco);
     nombre_->setObjectName("Nombre");
-    nombre_->setMaxLength(programa::qt::LargoDeNombre);
     nombre_->setMinimumWidth(320);
     nombre_->installEventFilter(this);
     formulario->addRow("Nombre:", nombre_);

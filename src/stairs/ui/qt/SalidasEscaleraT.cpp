@@ -27,11 +27,12 @@ void SalidasEscaleraT::ExportarGraficos(EscaleraT& escaleras, VentanaEscaleraT& 
     reportes::ui::qt::VentanaOpcionGrafico opciones(reportes::ui::OpcionGraficoET, salida_.Opciones,
                                                     aplicacion_.Preferencias, &ventana);
     if (opciones.exec() != QDialog::Accepted) return;
-    reportes::ui::qt::MontarConPanel(ventana, [&](auto& superficie, auto& panel) {
+    const auto montar = [&](auto& superficie, auto& panel) {
         salida::GuardeGraficos(entorno_.Montaje(),
                                {aplicacion_.Proyecto, aplicacion_.Datos, escaleras.Calculada()},
                                aplicacion_.SeparadoresLocales, superficie, panel, salida_.Opciones);
-    });
+    };
+    if (!reportes::ui::qt::MontarConPanel(ventana, montar)) return;
     salida_.Estado.GraficoHelicoidal = false;
     salida_.Estado.GraficoAutoportante = true;
     salida_.Estado.Papel = salida_.Opciones.Papel;
