@@ -3,11 +3,15 @@
 #include <cctype>
 #include <vector>
 
+#include "base/Archivos.h"
 #include "base/Edicion.h"
 
 namespace trabex::programa {
 
 namespace {
+
+constexpr const char* SoloLectura = "   (sólo lectura: lo que se cambie no se podrá salvar)";
+constexpr const char* Releido = "   (otro programa lo cambió: se leyó de nuevo)";
 
 /// The characters of a UTF-8 text, one by one.
 std::vector<std::string> Caracteres(const std::string& texto) {
@@ -24,6 +28,13 @@ bool EsCifra(const std::string& caracter) {
 }
 
 }  // namespace
+
+std::string EstadoDeArchivo(const almacen::Conexion& conexion, bool leido,
+                            const std::filesystem::path& archivo, bool releido) {
+    const std::string camino = TextoDeCamino(archivo);
+    if (!leido) return "No se pudo leer: " + camino;
+    return camino + (conexion.SoloLectura() ? SoloLectura : "") + (releido ? Releido : "");
+}
 
 std::string TituloConProyecto(const std::string& nombre) {
     return std::string(ProgramaYEdicion) + "   Proyecto:[" + nombre + "]";

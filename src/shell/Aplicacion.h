@@ -32,6 +32,11 @@ inline constexpr const char* VersionPrograma = TRABEX_VERSION;
 /// The title bar, "Trabex 2024   Proyecto:[" and the project's name in brackets.
 std::string TituloConProyecto(const std::string& nombre);
 
+/// What a workspace's foot tells of the file from which its list was read: where it stands, that it could not
+/// be, that it can't be written, and `releido`, that another program changed it and it was read again.
+std::string EstadoDeArchivo(const almacen::Conexion& conexion, bool leido,
+                            const std::filesystem::path& archivo, bool releido);
+
 /// Separators of the locale, from 1234.56 as it writes it: its second and its sixth character.
 Separadores LeerSeparadores(const std::string& muestra);
 

@@ -10,9 +10,6 @@ namespace trabex::programa {
 
 namespace {
 
-constexpr const char* SoloLectura = "   (sólo lectura: lo que se cambie no se podrá salvar)";
-constexpr const char* Releido = "   (otro programa lo cambió: se leyó de nuevo)";
-
 std::string Con(const TextoDeElemento& texto, const std::string& nombre) {
     return std::string(texto.Antes) + nombre + "\n" + std::string(texto.Despues);
 }
@@ -56,17 +53,15 @@ void ListaElementos::Conectar() {
     AbrirLista();
     pantalla_.RestablecerVista();
     MostrarPrimera();
-    MostrarEstado("");
+    MostrarEstado(false);
     pantalla_.PonerTitulo(clase_.TituloVentana.empty()
                               ? TituloConProyecto(Mayusculas(aplicacion_.NombreProyecto))
                               : std::string(clase_.TituloVentana));
 }
 
-void ListaElementos::MostrarEstado(const std::string& nota) {
-    const almacen::Conexion& conexion = aplicacion_.Proyecto.ConexionProyecto;
-    const std::string camino = TextoDeCamino(aplicacion_.ArchivoProyecto);
-    if (!Lista().Abierto()) return pantalla_.PonerEstado("No se pudo leer el proyecto: " + camino);
-    pantalla_.PonerEstado(camino + (conexion.SoloLectura() ? SoloLectura : "") + nota);
+void ListaElementos::MostrarEstado(bool releido) {
+    pantalla_.PonerEstado(EstadoDeArchivo(aplicacion_.Proyecto.ConexionProyecto, Lista().Abierto(),
+                                          aplicacion_.ArchivoProyecto, releido));
 }
 
 void ListaElementos::AbrirLista() {
@@ -143,7 +138,7 @@ void ListaElementos::Releer() {
     Conectar();
     almacen::BuscarRegistro(Lista(), almacen::Criterio(almacen::PorNombre(nombre)));
     if (Lista().Encontrado()) Seleccionar(Fila());
-    MostrarEstado(Releido);
+    MostrarEstado(true);
 }
 
 void ListaElementos::NotarCambios() {

@@ -111,7 +111,7 @@ class ListaElementos {
     void AbrirLista();
     void Llenar();
     void MostrarPrimera();
-    void MostrarEstado(const std::string& nota);
+    void MostrarEstado(bool releido);
 
     Aplicacion& aplicacion_;
     Servicios servicios_;

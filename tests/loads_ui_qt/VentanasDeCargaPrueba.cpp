@@ -66,6 +66,31 @@ TEST_F(VentanasConWidgets, LasCeldasSoloSeModificanConSuOpcion) {
     EXPECT_EQ(operaciones.Fila(), 3);
 }
 
+TEST_F(VentanasConWidgets, LoQueOtroProgramaCambiaSeLeeAlVenirAlFrente) {
+    ListaAnalisis operaciones(aplicacion_, Servicios(), AnalisisCompartido, Azar());
+    VentanaListaAnalisis ventana(entorno_, operaciones, nullptr);
+    ventana.setModal(true);
+    Mostrar(ventana);
+    auto* tabla = ventana.findChild<TablaDatos*>();
+    ventana.findChild<QCheckBox*>("ModificarCeldas")->click();
+    const auto cargas = [&](const char* carga) {
+        AbrirConexion(otra_, Compartido());
+        otra_.Ejecutar(std::string("UPDATE Generales SET Carga = ") + carga);
+        QEvent venir(QEvent::WindowActivate);
+        QApplication::sendEvent(&ventana, &venir);
+        QTest::qWait(1);
+        return tabla->model()->index(2, 1).data().toString();
+    };
+    tabla->setFocus();
+    tabla->IrA(3, 1);
+    EXPECT_EQ(cargas("777"), "777");
+    EXPECT_EQ(operaciones.Fila(), 3);
+    EXPECT_TRUE(ventana.findChild<QLabel*>("Pie")->text().endsWith("se leyó de nuevo)"));
+    QTest::keyClicks(tabla, "55");
+    EXPECT_EQ(cargas("888"), "777");  // not over what is being typed
+    EXPECT_EQ(tabla->findChild<QLineEdit*>()->text(), "55");
+}
+
 TEST_F(VentanasConWidgets, NadaDeLoEscritoSePierdeAlDesplazarNiAlCerrar) {
     ListaAnalisis operaciones(aplicacion_, Servicios(), AnalisisDeProyecto, Azar());
     VentanaListaAnalisis lista(entorno_, operaciones, nullptr);

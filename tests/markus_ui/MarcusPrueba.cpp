@@ -101,10 +101,17 @@ TEST_F(NivelesDeMarkus, OtroNivelPierdeLoQueNoSeSalvoYAlCerrarSePregunta) {
                                 programa::RespuestaSi};
     EXPECT_FALSE(Ventana.PuedeCerrar());
     EXPECT_EQ(Mensaje(), "¿Desea Salvar las Modificaciones?|Método de Markus...");
+    Conexion otra;
+    AbrirConexion(otra, Programa.aplicacion.ArchivoProyecto);
+    otra.Ejecutar("INSERT INTO MarcusDatos VALUES ('Sótano', 1)");
+    Ventana.NotarCambios();
+    EXPECT_EQ(Niveles().size(), 2U);  // not over what was entered
     EXPECT_TRUE(Ventana.PuedeCerrar());
     EXPECT_TRUE(Ventana.Modificado());
     EXPECT_TRUE(Ventana.PuedeCerrar());
     EXPECT_FALSE(Ventana.Modificado());
+    Ventana.NotarCambios();
+    EXPECT_EQ(Niveles().size(), 3U);
 }
 
 TEST_F(NivelesDeMarkus, UnBloqueEnUnaColumnaPideSuNumero) {
@@ -119,6 +126,7 @@ TEST_F(NivelesDeMarkus, UnBloqueEnUnaColumnaPideSuNumero) {
         {{1, 2, 1, 1}, "1.250,5", "Entre la Carga de la Losa (tf/m2):|Carga de la Losa", 1250.5, true},
         {{2, 3, 3, 3}, " 4,5 ", "Entre la Longitud en Dirección X (m):|Método de Markus", 4.5, true},
         {{1, 3, 4, 4}, "-6", "Entre la Longitud en Dirección Y (m):|Método de Markus", -6, true},
+        {{1, 3, 3, 3}, "1.250", "Entre la Longitud en Dirección X (m):|Método de Markus", {}, true},
         {{1, 3, 3, 3}, "abc", "Entre la Longitud en Dirección X (m):|Método de Markus", {}, true},
         {{1, 3, 1, 1}, "  ", "Entre la Carga de la Losa (tf/m2):|Carga de la Losa", {}, false},
         {{1, 3, 2, 2}, "4", nullptr, {}, false},
@@ -144,7 +152,8 @@ TEST_F(NivelesDeMarkus, UnBloqueEnUnaColumnaPideSuNumero) {
         }
     }
     EXPECT_EQ(Mensaje(), "Debe Introducir un Número...|Error en Cargas...");
-    EXPECT_EQ(Programa.caja.Mensajes.size(), 1U);
+    ASSERT_EQ(Programa.caja.Mensajes.size(), 2U);  // 1250 where the point parts thousands, or 1.25
+    EXPECT_EQ(Programa.caja.Mensajes[0].Texto, "Puede leerse 1250 o 1,25: escríbalo sin separador de miles.");
 }
 
 TEST_F(NivelesDeMarkus, SeCreanRenombranYEliminan) {

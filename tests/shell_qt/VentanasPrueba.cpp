@@ -164,11 +164,21 @@ TEST_F(Ventanas, LosProyectosRecientesYLosSoltadosSeAbren) {
 TEST_F(Ventanas, LosDatosTecleadosLleganAlArchivo) {
     VentanaDatosProyecto ventana(aplicacion, caja, nullptr);
     ventana.show();
-    QTest::keyClicks(ventana.findChild<QLineEdit*>("Proyecto"), "EDIFICIO 1");
     auto* comentario = ventana.findChild<QPlainTextEdit*>("Comentario");
     comentario->setPlainText(QString(250, 'a'));
     comentario->moveCursor(QTextCursor::End);
     QTest::keyClicks(comentario, "bcdefghij");  // past the column's 255
+    auto* proyecto = ventana.findChild<QLineEdit*>("Proyecto");
+    const QString largo(121, 'P');
+    for (const bool cabe : {false, true}) {
+        proyecto->setText(cabe ? "EDIFICIO 1" : largo);
+        BotonDe(ventana, "Salvar")->click();
+        EXPECT_TRUE(ventana.isVisible());  // nothing is cut: the first that does not fit stays and is told
+        EXPECT_EQ(ventana.focusWidget(), cabe ? static_cast<QWidget*>(comentario) : proyecto);
+        EXPECT_EQ(proyecto->text(), cabe ? "EDIFICIO 1" : largo);
+        EXPECT_EQ(comentario->toPlainText().size(), 259);
+    }
+    comentario->setPlainText(QString(250, 'a') + "bcdef");
     auto* fecha = ventana.findChild<QLineEdit*>("Fecha");
     fecha->setText("31/02/2024");
     BotonDe(ventana, "Salvar")->click();

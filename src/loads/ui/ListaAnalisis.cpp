@@ -30,6 +30,22 @@ almacen::Conexion& ListaAnalisis::Conexion() {
 
 void ListaAnalisis::Abrir(PantallaListaAnalisis& pantalla) {
     pantalla_ = &pantalla;
+    Conectar();
+    pantalla_->MarcarFila(Fila());
+    MostrarEstado(false);
+}
+
+void ListaAnalisis::NotarCambios() {
+    if (!Conexion().CambioPorFuera()) return;
+    const std::string criterio = almacen::Criterio(almacen::PorID(Lista().Entero32("ID")));
+    Conectar();
+    almacen::BuscarRegistro(Lista(), criterio);
+    if (!Lista().Encontrado()) Lista().MoverAlPrimero();
+    pantalla_->MarcarFila(Fila());
+    MostrarEstado(true);
+}
+
+void ListaAnalisis::Conectar() {
     almacen::AbrirConexion(compartida_, servicios_.Carpetas.AnalisisCarga());
     if (DelProyecto()) {
         programa::ConectarProyecto(aplicacion_, Conexion());
@@ -41,20 +57,14 @@ void ListaAnalisis::Abrir(PantallaListaAnalisis& pantalla) {
         almacen::proyecto::LeerProyecto(copia, aplicacion_.Usuario, aplicacion_.Datos);
     }
     Reabrir();
-    pantalla_->MarcarFila(Fila());
-    MostrarEstado();
 }
 
-void ListaAnalisis::MostrarEstado() {
-    const std::string compartido = TextoDeCamino(servicios_.Carpetas.AnalisisCarga());
-    const std::string propio = DelProyecto() ? TextoDeCamino(aplicacion_.ArchivoProyecto) : compartido;
-    if (Conexion().ConexionFallida())
-        pantalla_->PonerEstado((DelProyecto() ? "No se pudo leer el proyecto: " : "No se pudo leer: ") +
-                               propio);
-    else if (compartida_.ConexionFallida())
-        pantalla_->PonerEstado("No se pudo leer: " + compartido);
-    else
-        pantalla_->PonerEstado(propio);
+void ListaAnalisis::MostrarEstado(bool releido) {
+    const std::filesystem::path compartido = servicios_.Carpetas.AnalisisCarga();
+    const bool sinPesos = Lista().Abierto() && compartida_.ConexionFallida();
+    pantalla_->PonerEstado(programa::EstadoDeArchivo(
+        Conexion(), Lista().Abierto() && !sinPesos,
+        DelProyecto() && !sinPesos ? aplicacion_.ArchivoProyecto : compartido, releido));
 }
 
 void ListaAnalisis::Cerrar() {

@@ -61,6 +61,9 @@ class ListaAnalisis {
     /// as empty.
     void Abrir(PantallaListaAnalisis& pantalla);
     void Cerrar();
+    /// Reads everything again where another program changed the list, and selects the analysis that was
+    /// selected where it is still there.
+    void NotarCambios();
 
     const VarianteAnalisis& Variante() const { return variante_; }
     int NumeroDeAnalisis() const { return Lista().NumeroRegistros(); }
@@ -95,7 +98,8 @@ class ListaAnalisis {
     bool EnUnaLinea() const { return Fila() >= 1 && Fila() <= NumeroDeAnalisis(); }
     void Rellenar();
     void Reabrir();
-    void MostrarEstado();
+    void Conectar();
+    void MostrarEstado(bool releido);
 
     programa::Aplicacion& aplicacion_;
     programa::Servicios servicios_;

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <utility>
 
+#include "base/LeerNumero.h"
 #include "base/Texto.h"
 #include "markus/salida/ReporteMarcus.h"
 #include "store/Posicion.h"
@@ -129,13 +130,17 @@ void Marcus::EntrarBloque(const Bloque& bloque) {
     if (pregunta == PreguntasDeBloque.end()) return;
     const std::string respuesta = Recortar(pantalla_.Pedir(pregunta->Texto, pregunta->Encabezado));
     if (respuesta.empty()) return;
-    if (const auto numero = LeerNumero(respuesta)) {
+    const NumeroJuzgado juzgado = JuzgarNumero(respuesta, Distancia, aplicacion_.SeparadoresLocales);
+    if (juzgado.Valor) {
         for (int fila = bloque.PrimeraFila; fila <= bloque.UltimaFila; ++fila)
-            panos_.Poner(static_cast<std::size_t>(fila), pregunta->Columna, *numero);
+            panos_.Poner(static_cast<std::size_t>(fila), pregunta->Columna, *juzgado.Valor);
         panos_.CerrarCambio();
         Cambiado();
     } else {
-        servicios_.Caja.Mostrar(programa::Aviso("Debe Introducir un Número...", "Error en Cargas..."));
+        // A number that could be two, or is past the range, says which.
+        const bool alguno = juzgado.Motivo != MotivoNoEsNumero;
+        servicios_.Caja.Mostrar(
+            programa::Aviso(alguno ? juzgado.Motivo : "Debe Introducir un Número...", "Error en Cargas..."));
     }
     pantalla_.SoltarBloque();
 }
@@ -158,7 +163,7 @@ bool Marcus::Salvar() {
         return false;
     }
     if (!almacen::tablas::GuardarMarcus(aplicacion_.Proyecto, guardado)) {
-        servicios_.Caja.Mostrar(programa::MensajeSinGuardar());
+        servicios_.Caja.Mostrar(programa::MensajeSinGuardar(aplicacion_.Proyecto.ConexionProyecto.Causa()));
         return false;
     }
     niveles_[static_cast<std::size_t>(lista_.Fila()) - 1].Panos = static_cast<int>(panos.size());
@@ -176,6 +181,10 @@ void Marcus::Imprimir() {
     salida::LLeneDatos({carpetas.CaminoPrograma, carpetas.Trabajo(), aplicacion_.Usuario}, aplicacion_.Datos,
                        nivel_, panos_.Panos());
     pantalla_.MostrarReporte();
+}
+
+void Marcus::NotarCambios() {
+    if (!modificado_) lista_.NotarCambios();
 }
 
 bool Marcus::PuedeCerrar() {

@@ -69,6 +69,8 @@ class Marcus : private programa::ElementoDeLista {
     bool Salvar();
     void Crear();
     void Imprimir();
+    /// Reads the levels again where another program changed them, unless that would lose what was entered.
+    void NotarCambios();
     /// Asks what becomes of changes. False when the window stays.
     bool PuedeCerrar();
 

@@ -8,9 +8,11 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QSettings>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QWidget>
 #include <algorithm>
+#include <utility>
 
 #include "shell/qt/EntradaJuzgada.h"
 #include "shell/qt/Iconos.h"
@@ -44,6 +46,27 @@ class Guardian : public QObject {
 
   private:
     QWidget* ventana_;
+};
+
+class Vigia : public QObject {
+  public:
+    Vigia(QWidget* ventana, std::function<void()> hacer)
+        : QObject(ventana), ventana_(ventana), hacer_(std::move(hacer)) {
+        ventana->installEventFilter(this);
+    }
+
+  protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override {
+        if (objeto == ventana_ && evento->type() == QEvent::WindowActivate)
+            QTimer::singleShot(0, this, [this] {
+                if (QApplication::activeModalWidget() == ventana_ && !SeEscribeEn(ventana_)) hacer_();
+            });
+        return QObject::eventFilter(objeto, evento);
+    }
+
+  private:
+    QWidget* ventana_;
+    std::function<void()> hacer_;
 };
 
 void PonerAyudas(QWidget* ventana, const Tapiz& preferencias) {
@@ -114,6 +137,10 @@ void TamanoInicial(QWidget* ventana, const QSize& tamano) {
 void MostrarModal(QDialog& ventana) {
     ventana.exec();
     if (ventana.parentWidget() != nullptr) ventana.parentWidget()->activateWindow();
+}
+
+void AlVenirAlFrente(QWidget* ventana, std::function<void()> hacer) {
+    new Vigia(ventana, std::move(hacer));
 }
 
 QPushButton* Boton(const QString& texto, const QString& icono, QWidget* padre) {

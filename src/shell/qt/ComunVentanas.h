@@ -45,6 +45,10 @@ void TamanoInicial(QWidget* ventana, const QSize& tamano);
 /// window that asked it close at once, the desktop may leave neither with it.
 void MostrarModal(QDialog& ventana);
 
+/// Runs `hacer` whenever a window comes to the front with the keyboard, once what was going on under one that
+/// has just closed is over; not while something is being typed into it or stands refused in it.
+void AlVenirAlFrente(QWidget* ventana, std::function<void()> hacer);
+
 /// A button with a line icon.
 QPushButton* Boton(const QString& texto, const QString& icono, QWidget* padre);
 

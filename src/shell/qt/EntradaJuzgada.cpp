@@ -5,6 +5,7 @@
 #include <QTabWidget>
 #include <QTimer>
 #include <QToolTip>
+#include <algorithm>
 
 namespace trabex::programa::qt {
 
@@ -52,6 +53,15 @@ bool EntradasEnOrden(QWidget* ventana) {
     MostrarSuPagina(primera);
     Juzgada(primera)->Reclamar();
     return false;
+}
+
+bool SeEscribeEn(QWidget* ventana) {
+    const QWidget* foco = ventana->focusWidget();
+    const QList<QWidget*> controles = ventana->findChildren<QWidget*>();
+    return std::any_of(controles.begin(), controles.end(), [foco](QWidget* control) {
+        const EntradaJuzgada* entrada = Juzgada(control);
+        return entrada != nullptr && (!entrada->Motivo().isEmpty() || control->isAncestorOf(foco));
+    });
 }
 
 void RetenerFoco(QWidget* control, const QFocusEvent& evento) {

@@ -27,6 +27,9 @@ class EntradaJuzgada {
 /// control comes up, on whatever page, with its reason. Whoever saves or accepts asks this first.
 bool EntradasEnOrden(QWidget* ventana);
 
+/// A cell of such a control is being edited, or what one holds stands refused.
+bool SeEscribeEn(QWidget* ventana);
+
 /// Called as such a control loses the focus: it takes it back when what stands there is refused. A press of
 /// the mouse does its work first, so that a window can always be left.
 void RetenerFoco(QWidget* control, const QFocusEvent& evento);

@@ -1,6 +1,8 @@
 #include "shell/qt/LineaElidida.h"
 
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 
 namespace trabex::programa::qt {
 
@@ -8,6 +10,12 @@ LineaElidida::LineaElidida(const char* nombre, QWidget* padre) : QLabel(padre) {
     setObjectName(nombre);
     setTextFormat(Qt::PlainText);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+}
+
+bool LineaElidida::event(QEvent* evento) {
+    if (evento->type() != QEvent::ToolTip || !toolTip().isEmpty()) return QLabel::event(evento);
+    QToolTip::showText(static_cast<QHelpEvent*>(evento)->globalPos(), text().toHtmlEscaped(), this);
+    return true;
 }
 
 void LineaElidida::paintEvent(QPaintEvent* /*evento*/) {

@@ -11,6 +11,7 @@
 #include <QTimer>
 #include <algorithm>
 
+#include "shell/qt/CampoTexto.h"
 #include "shell/qt/ComunVentanas.h"
 
 namespace trabex::programa::qt {
@@ -136,8 +137,7 @@ std::pair<QVariant, QString> ModeloTabla::Juzgar(int columna, const QString& tex
         const NumeroJuzgado juzgado = JuzgarNumero(S(texto), *como.Numero, separadores_);
         return {juzgado.Valor.value_or(0), Q(juzgado.Motivo)};
     }
-    if (texto.size() <= como.Largo) return {texto, {}};
-    return {texto, QString("No caben más de %1 letras.").arg(como.Largo)};
+    return {texto, MotivoDeLargo(texto, como.Largo)};
 }
 
 bool ModeloTabla::setData(const QModelIndex& celda, const QVariant& valor, int papel) {

@@ -3,12 +3,10 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTextCursor>
 
 #include "shell/qt/CampoFecha.h"
+#include "shell/qt/CampoTexto.h"
 #include "shell/qt/ComunVentanas.h"
 #include "shell/qt/VentanaCalendario.h"
 
@@ -20,21 +18,9 @@ constexpr int AnchoTexto = 120;  // characters that the project's columns hold
 constexpr int AnchoComentario = 255;
 
 QLineEdit* Campo(QWidget* padre, const char* nombre) {
-    auto* campo = new QLineEdit(padre);
+    auto* campo = new CampoTexto(AnchoTexto, padre);
     campo->setObjectName(nombre);
-    campo->setMaxLength(AnchoTexto);
     return campo;
-}
-
-/// Takes back what is typed or pasted past the width of a column, in sight, so that nothing is cut on saving.
-void Limitar(QPlainTextEdit* campo, int ancho) {
-    QObject::connect(campo, &QPlainTextEdit::textChanged, campo, [campo, ancho] {
-        if (campo->toPlainText().size() <= ancho) return;
-        QTextCursor sobra = campo->textCursor();
-        sobra.setPosition(ancho);
-        sobra.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
-        sobra.removeSelectedText();
-    });
 }
 
 }  // namespace
@@ -55,11 +41,10 @@ void VentanaDatosProyecto::Armar() {
     fecha_ = new CampoFecha(this);
     fecha_->setObjectName("Fecha");
     cliente_ = Campo(this, "Cliente");
-    comentario_ = new QPlainTextEdit(this);
+    comentario_ = new CampoParrafo(AnchoComentario, this);
     comentario_->setObjectName("Comentario");
     comentario_->setTabChangesFocus(true);
     comentario_->setMinimumHeight(72);
-    Limitar(comentario_, AnchoComentario);
     auto* calendario = Boton("", "calendario", this);
     calendario->setObjectName("Calendario");
     calendario->setAutoDefault(false);

@@ -1,7 +1,6 @@
 #include "shell/qt/VentanaEspacio.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QFont>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -16,7 +15,6 @@
 #include <QStackedWidget>
 #include <QStyle>
 #include <QTabBar>
-#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -71,6 +69,7 @@ void VentanaEspacio::Armar(const DatosDeEspacio& datos) {
     datos.Lista.Abrir();
     hojas_->setCurrentIndex(QSettings().value("hoja/" + objectName()).toInt());
     PrepararVentana(this, preferencias_);
+    AlVenirAlFrente(this, [this] { operaciones_->NotarCambios(); });
     lista_->setFocus();
 }
 
@@ -321,7 +320,6 @@ void VentanaEspacio::PonerTitulo(const std::string& titulo) {
 
 void VentanaEspacio::PonerEstado(const std::string& texto) {
     pie_->setText(Q(texto));
-    pie_->setToolTip(Q(texto));
 }
 
 void VentanaEspacio::PonerEncabezado(const std::string& texto) {
@@ -385,15 +383,6 @@ void VentanaEspacio::keyPressEvent(QKeyEvent* evento) {
         return;
     }
     QDialog::keyPressEvent(evento);
-}
-
-bool VentanaEspacio::event(QEvent* evento) {
-    if (evento->type() == QEvent::WindowActivate && operaciones_ != nullptr)
-        // Once what was going on under a window that has just closed is over.
-        QTimer::singleShot(0, this, [this] {
-            if (QApplication::activeModalWidget() == this) operaciones_->NotarCambios();
-        });
-    return QDialog::event(evento);
 }
 
 void VentanaEspacio::hideEvent(QHideEvent* evento) {

@@ -81,7 +81,6 @@ class VentanaEspacio : public QDialog, public PantallaEspacio {
     void Armar(const DatosDeEspacio& datos);
     /// Escape belongs to the drawing; the window closes by " Retorno " or its cross.
     void keyPressEvent(QKeyEvent* evento) override;
-    bool event(QEvent* evento) override;
     void hideEvent(QHideEvent* evento) override;
 
   private:

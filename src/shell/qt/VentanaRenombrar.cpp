@@ -3,9 +3,9 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QVBoxLayout>
 
+#include "shell/qt/CampoTexto.h"
 #include "shell/qt/ComunVentanas.h"
 
 namespace trabex::programa::qt {
@@ -18,9 +18,9 @@ VentanaRenombrar::VentanaRenombrar(Renombrar& operaciones, const Tapiz& preferen
     auto* formulario = new QFormLayout(marco);
     auto* actual = new QLabel(Q(operaciones.NombreActual()), marco);
     actual->setTextFormat(Qt::PlainText);
-    auto* nombre = new QLineEdit(Q(operaciones.NombreActual()), marco);
+    auto* nombre = new CampoTexto(LargoDeNombre, marco);
+    nombre->setText(Q(operaciones.NombreActual()));
     nombre->setObjectName("Nombre");
-    nombre->setMaxLength(LargoDeNombre);
     nombre->setMinimumWidth(320);
     nombre->selectAll();
     formulario->addRow("Nombre Actual:", actual);

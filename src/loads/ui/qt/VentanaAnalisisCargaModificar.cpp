@@ -14,6 +14,7 @@
 #include "loads/ui/qt/VentanasDeCreacion.h"
 #include "loads/ui/qt/VentanasDeEleccion.h"
 #include "reports/ui/qt/VistaDeTablas.h"
+#include "shell/qt/CampoTexto.h"
 #include "shell/qt/ComunVentanas.h"
 
 namespace trabex::cargas::ui::qt {
@@ -114,9 +115,8 @@ QWidget* VentanaAnalisisCargaModificar::Permanentes() {
 
 QWidget* VentanaAnalisisCargaModificar::Variable() {
     auto* marco = new QGroupBox("Carga Variable", this);
-    texto1_ = new QLineEdit(marco);
+    texto1_ = new programa::qt::CampoTexto(LargoDeDescripcion, marco);
     texto1_->setObjectName("Text1");
-    texto1_->setMaxLength(LargoDeDescripcion);
     long1_ = new programa::qt::CampoNumero(PesoEntrado, entorno_.LaAplicacion.SeparadoresLocales, marco);
     long1_->setObjectName("Long1");
     long1_->setMaximumWidth(120);

@@ -36,6 +36,7 @@ VentanaListaAnalisis::VentanaListaAnalisis(reportes::ui::EntornoSalida& entorno,
     programa::qt::TamanoInicial(this, {760, 560});
     operaciones_.Abrir(*this);
     programa::qt::PrepararVentana(this, entorno.LaAplicacion.Preferencias);
+    programa::qt::AlVenirAlFrente(this, [this] { operaciones_.NotarCambios(); });
     tabla_->setFocus();
 }
 

@@ -8,6 +8,7 @@
 #include "loads/ui/qt/ClaseDePeso.h"
 #include "loads/ui/qt/Mandos.h"
 #include "shell/qt/CampoNumero.h"
+#include "shell/qt/CampoTexto.h"
 #include "shell/qt/ComunVentanas.h"
 
 namespace trabex::cargas::ui::qt {
@@ -16,13 +17,12 @@ using programa::qt::S;
 
 VentanaDeCreacion::VentanaDeCreacion(const char* nombre, const QString& titulo, const char* marco,
                                      QWidget* padre)
-    : QDialog(padre), descripcion_(new QLineEdit(this)) {
+    : QDialog(padre), descripcion_(new programa::qt::CampoTexto(LargoDeDescripcion, this)) {
     setObjectName(nombre);
     setWindowTitle(titulo);
     auto* caja = new QGroupBox(marco, this);
     Formulario = new QFormLayout(caja);
     descripcion_->setObjectName("Descripcion");
-    descripcion_->setMaxLength(LargoDeDescripcion);
     descripcion_->setMinimumWidth(380);
     Formulario->addRow("&Descripción:", descripcion_);
     auto* columna = new QVBoxLayout(this);

@@ -68,6 +68,7 @@ VentanaMarcus::VentanaMarcus(programa::Aplicacion& aplicacion, const programa::S
     programa::qt::TamanoInicial(this, {1060, 620});
     operaciones_.Lista().Abrir();
     programa::qt::PrepararVentana(this, aplicacion.Preferencias);
+    programa::qt::AlVenirAlFrente(this, [this] { operaciones_.NotarCambios(); });
     niveles_->setFocus();
 }
 

@@ -2,9 +2,9 @@
 
 #include <QFormLayout>
 #include <QGroupBox>
-#include <QLineEdit>
 #include <QVBoxLayout>
 
+#include "shell/qt/CampoTexto.h"
 #include "shell/qt/ComunVentanas.h"
 #include "shell/qt/VentanaRenombrar.h"
 
@@ -17,9 +17,8 @@ VentanaMarcusNuevo::VentanaMarcusNuevo(MarcusNuevo& operaciones, const programa:
     setWindowTitle("CREAR UN NUEVO NIVEL");
     auto* marco = new QGroupBox("Entre el Nombre", this);
     auto* formulario = new QFormLayout(marco);
-    auto* nombre = new QLineEdit(marco);
+    auto* nombre = new programa::qt::CampoTexto(programa::qt::LargoDeNombre, marco);
     nombre->setObjectName("Nombre");
-    nombre->setMaxLength(programa::qt::LargoDeNombre);
     nombre->setMinimumWidth(320);
     formulario->addRow("&Nombre:", nombre);
     auto* columna = new QVBoxLayout(this);

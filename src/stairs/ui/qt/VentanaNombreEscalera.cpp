@@ -3,10 +3,10 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QVBoxLayout>
 #include <functional>
 
+#include "shell/qt/CampoTexto.h"
 #include "shell/qt/ComunVentanas.h"
 #include "shell/qt/VentanaRenombrar.h"
 
@@ -20,9 +20,8 @@ using programa::qt::S;
 constexpr int LargoDeTitulo = 120;  // characters that the tables' columns of titles hold
 
 QLineEdit* Linea(const char* nombre, int largo, QWidget* padre) {
-    auto* linea = new QLineEdit(padre);
+    auto* linea = new programa::qt::CampoTexto(largo, padre);
     linea->setObjectName(nombre);
-    linea->setMaxLength(largo);
     linea->setMinimumWidth(320);
     return linea;
 }
