@@ -12,35 +12,19 @@ namespace trabex::dibujo {
 
 namespace {
 constexpr double PuntosMinimosDeTitulo = 8;
-constexpr double AnchoDeCelda = 96;
+constexpr double AnchoDeCelda = 96;  // pixels at zoom 1, as a label
 constexpr double AltoDeCelda = 24;
-// More labels than a cell could show legibly: from here on one more makes it no fuller, and a sheet of
-// thousands of spans is drawn in a time that grows with them and not with their square.
-constexpr std::size_t CabenEnCelda = 16;
-
-std::int64_t Celda(std::int64_t columna, std::int64_t fila) {
-    return columna * (std::int64_t{1} << 32) + fila;
-}
-
-/// Runs `accion` on the cells that a box touches, on the canvas and as far again around it: at any zoom they
-/// are no more than these.
-template <class Accion>
-void PorCelda(const Lienzo& lienzo, const PiezaTexto& caja, Accion accion) {
-    const auto celda = [](double lugar, double lado, double tamano) {
-        const double acotado = lugar > -tamano ? std::min(lugar, 2 * tamano) : -tamano;
-        return static_cast<std::int64_t>(std::floor(acotado / lado));
-    };
-    const double W = lienzo.ScaleWidth();
-    const double H = lienzo.ScaleHeight();
-    if (!(caja.x < 2 * W && caja.y < 2 * H && caja.x + caja.Ancho > -W && caja.y + caja.Alto > -H)) return;
-    const std::int64_t ultimaColumna = celda(caja.x + caja.Ancho, AnchoDeCelda, W);
-    const std::int64_t ultimaFila = celda(caja.y + caja.Alto, AltoDeCelda, H);
-    for (std::int64_t fila = celda(caja.y, AltoDeCelda, H); fila <= ultimaFila; ++fila) {
-        for (std::int64_t columna = celda(caja.x, AnchoDeCelda, W); columna <= ultimaColumna; ++columna)
-            accion(columna, fila);
-    }
-}
 }  // namespace
+
+Plano::Plano(Lienzo& lienzo, const EstadoVista& vista, std::string_view fuente)
+    : lienzo_(lienzo), vista_(vista), fuente_(fuente), ocupadas_(SinOcupar()) {}
+
+/// Figures in metres are taken too: a cell is no smaller than they.
+Ocupacion Plano::SinOcupar() const {
+    const double unidad = lienzo_.LadoDePixel() * std::max(1.0, Aumento());
+    return {std::max(AnchoDeCelda * unidad, vista_.Escala / 2),
+            std::max(AltoDeCelda * unidad, vista_.Escala / 8)};
+}
 
 std::int32_t Plano::X(double x) const {
     return Pixeles(vista_.Escala * x + vista_.OrigenX);
@@ -74,30 +58,7 @@ void Plano::EscribirCentrado(std::string_view texto, double x, double y, double 
 }
 
 void Plano::Reservar(const PiezaTexto& caja) {
-    PorCelda(lienzo_, caja, [&](std::int64_t columna, std::int64_t fila) {
-        std::vector<PiezaTexto>& suyas = ocupadas_[Celda(columna, fila)];
-        if (suyas.size() < CabenEnCelda) suyas.push_back(caja);
-    });
-}
-
-double Plano::Solape(const PiezaTexto& caja) const {
-    double total = 0;
-    PorCelda(lienzo_, caja, [&](std::int64_t columna, std::int64_t fila) {
-        const auto hallada = ocupadas_.find(Celda(columna, fila));
-        if (hallada == ocupadas_.end()) return;
-        const double x = static_cast<double>(columna) * AnchoDeCelda;
-        const double y = static_cast<double>(fila) * AltoDeCelda;
-        const double izquierda = std::max(caja.x, x);
-        const double arriba = std::max(caja.y, y);
-        const double derecha = std::min(caja.x + caja.Ancho, x + AnchoDeCelda);
-        const double abajo = std::min(caja.y + caja.Alto, y + AltoDeCelda);
-        for (const PiezaTexto& otra : hallada->second) {
-            const double ancho = std::min(derecha, otra.x + otra.Ancho) - std::max(izquierda, otra.x);
-            const double alto = std::min(abajo, otra.y + otra.Alto) - std::max(arriba, otra.y);
-            if (ancho > 0 && alto > 0) total += ancho * alto;
-        }
-    });
-    return total;
+    ocupadas_.Reservar({caja.x - vista_.OrigenX, caja.y - vista_.OrigenY, caja.Ancho, caja.Alto});
 }
 
 PiezaTexto Plano::Colocar(double ancho, double alto, const std::vector<Centro>& centros) {
@@ -105,7 +66,8 @@ PiezaTexto Plano::Colocar(double ancho, double alto, const std::vector<Centro>& 
     double menor = std::numeric_limits<double>::infinity();
     for (const Centro& centro : centros) {
         const PiezaTexto caja{centro.x - ancho / 2, centro.y - alto / 2, ancho, alto};
-        const double solape = Solape(caja);
+        const double solape =
+            ocupadas_.Solape({caja.x - vista_.OrigenX, caja.y - vista_.OrigenY, ancho, alto});
         if (solape < menor) {
             menor = solape;
             mejor = caja;

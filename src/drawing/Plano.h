@@ -2,23 +2,15 @@
 
 #include <cstdint>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "drawing/Lienzo.h"
+#include "drawing/Ocupacion.h"
 #include "drawing/Visor.h"
 
 namespace trabex::dibujo {
 
 enum class Ancla { Izquierda, Centro, Derecha };
-
-/// A place taken on the canvas, in its units: top left corner and size.
-struct PiezaTexto {
-    double x = 0;
-    double y = 0;
-    double Ancho = 0;
-    double Alto = 0;
-};
 
 /// The centre of a possible place.
 struct Centro {
@@ -30,11 +22,14 @@ struct Centro {
 /// written, so that labels do not overprint one another.
 class Plano {
   public:
-    Plano(Lienzo& lienzo, const EstadoVista& vista, std::string_view fuente)
-        : lienzo_(lienzo), vista_(vista), fuente_(fuente) {}
+    Plano(Lienzo& lienzo, const EstadoVista& vista, std::string_view fuente);
 
     Lienzo& ElLienzo() const { return lienzo_; }
     double Escala() const { return vista_.Escala; }
+    /// Canvas units by which lengths that do not follow the world have grown since zoom 1.
+    double Aumento() const { return vista_.EscalaBase * vista_.Escala; }
+    /// An empty record of places, its cells sized for this plane's labels.
+    Ocupacion SinOcupar() const;
 
     /// A length in pixels as canvas units: the same number on a screen.
     std::int32_t Unidades(std::int32_t pixeles) const { return pixeles * lienzo_.LadoDePixel(); }
@@ -62,12 +57,10 @@ class Plano {
     void Rotular(std::string_view texto, const std::vector<Centro>& centros, double grados = 0);
 
   private:
-    double Solape(const PiezaTexto& caja) const;
-
     Lienzo& lienzo_;
     const EstadoVista& vista_;
     std::string_view fuente_;
-    std::unordered_map<std::int64_t, std::vector<PiezaTexto>> ocupadas_;  // by cell of the canvas
+    Ocupacion ocupadas_;  // from the world's origin: a pan moves all places alike
 };
 
 }  // namespace trabex::dibujo

@@ -5,13 +5,15 @@
 
 namespace trabex::dibujo::losa {
 
-EjesDeHoja UbicarEjes(const losas::Losa& losa) {
+EjesDeHoja UbicarEjes(const losas::Losa& losa, const GrupoDeTramos& tramos) {
     const std::size_t N = losas::NumeroTramos(losa);
     EjesDeHoja ejes;
-    for (std::size_t i = 1; i <= N; ++i) ejes.Longitud += losa.Tramos[i].LT;
+    double antes = 0;
+    for (std::size_t i = 1; i < tramos.Primero; ++i) antes += losa.Tramos[i].LT;
+    for (std::size_t i = tramos.Primero; i <= tramos.Ultimo; ++i) ejes.Longitud += losa.Tramos[i].LT;
     ejes.EjesX.assign(N + 2, 0);
     ejes.EjesY.assign(N + 2, 0);
-    ejes.EjesX[1] = -ejes.Longitud / 2;
+    ejes.EjesX[1] = -ejes.Longitud / 2 - antes;
     for (std::size_t i = 1; i <= N; ++i) ejes.EjesX[i + 1] = ejes.EjesX[i] + losa.Tramos[i].LT;
     for (std::size_t k = 1; k < losa.JuntasD.size(); ++k) {
         const losas::JuntaD& junta = losa.JuntasD[k];
@@ -19,10 +21,16 @@ EjesDeHoja UbicarEjes(const losas::Losa& losa) {
         ejes.EjesX[static_cast<std::size_t>(junta.Junta)] += junta.x;
         ejes.EjesY[static_cast<std::size_t>(junta.Junta)] += junta.y;
     }
-    const auto [menor, mayor] = std::minmax_element(ejes.EjesY.begin() + 1, ejes.EjesY.end());
+    const auto primero = ejes.EjesY.begin() + static_cast<std::ptrdiff_t>(tramos.Primero);
+    const auto [menor, mayor] =
+        std::minmax_element(primero, ejes.EjesY.begin() + static_cast<std::ptrdiff_t>(tramos.Ultimo + 2));
     ejes.YMinimo = *menor;
     ejes.YMaximo = *mayor;
     return ejes;
+}
+
+EjesDeHoja UbicarEjes(const losas::Losa& losa) {
+    return UbicarEjes(losa, {1, losas::NumeroTramos(losa)});
 }
 
 double PendienteDeTramo(const EjesDeHoja& ejes, std::size_t i) {

@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdlib>
+#include <limits>
+#include <utility>
 
 #include "drawing/Primitivas.h"
 #include "drawing/losa/BaseLosa.h"
@@ -18,14 +19,16 @@ constexpr double PrimeraBanda = 2.97;  // axis of the shear diagram, below the s
 constexpr double MediaFranja = 1.39;   // from a diagram's axis to the edge of its band
 constexpr double Amplitud = 0.8;       // of the largest value
 constexpr double LargoDeFlecha = 0.5;
-constexpr double FilaDeTitulos = 7.62;
+constexpr PieDeHoja Titulos{7.6, 4};
 constexpr double FlechaDeReaccion = 0.8;  // part of a block arrow's size
+constexpr double Apartado = 0.5;          // of the labels at the left, from the first axis
+constexpr double Rectitud = 0.5;          // canvas units by which a point may lie beside a straight line
 
 /// A diagram: its values are drawn along the span, `Sentido` telling which way a positive one goes on the
 /// canvas. Shears are drawn upward, moments on the side in tension.
 struct Diagrama {
-    std::int32_t Desfase;  ///< of its axis from the slab's, canvas units
-    double Unidades;       ///< canvas units per kgf or kgf·m
+    BandaDe De;
+    double Unidades;  ///< canvas units per kgf or kgf·m
     double Sentido;
     Color Fondo;
     double losas::PuntoDiagrama::*Valor;
@@ -33,182 +36,304 @@ struct Diagrama {
     double Subida(double valor) const { return Sentido * Unidades * valor; }
 };
 
-std::int32_t EjeDelDiagrama(const Trazado& t, const Diagrama& diagrama, std::size_t i, double d,
-                            double tangente) {
-    return t.EnMetros.Y(t.EjeY(i) + tangente * d) + diagrama.Desfase;
-}
-
-/// A station on the canvas.
+/// A station on the canvas, from the world's origin.
 struct PuntoDeFranja {
-    std::int32_t x;
-    std::int32_t Eje;      ///< row of the diagram's axis
-    std::int32_t Extremo;  ///< row of its value
+    double x;
+    double Eje;      ///< row of the slab's line there
+    double Extremo;  ///< row of its value over it
 };
 
+/// The stations of a span. The last one stands on the second axis, wherever a shift of it along X has put it:
+/// a diagram is closed at its supports.
 std::vector<PuntoDeFranja> EnLienzo(const Trazado& t, const Diagrama& diagrama, std::size_t i,
                                     double tangente, const std::vector<losas::PuntoDiagrama>& puntos) {
+    const double E = t.EnMetros.Escala();
     std::vector<PuntoDeFranja> enLienzo;
     enLienzo.reserve(puntos.size());
     for (const losas::PuntoDiagrama& punto : puntos) {
-        const std::int32_t eje = EjeDelDiagrama(t, diagrama, i, punto.d, tangente);
-        enLienzo.push_back(
-            {t.EnMetros.X(t.EjeX(i) + punto.d), eje, eje + Pixeles(diagrama.Subida(punto.*diagrama.Valor))});
+        const double eje = -E * (t.EjeY(i) + tangente * punto.d);
+        enLienzo.push_back({E * (t.EjeX(i) + punto.d), eje, eje + diagrama.Subida(punto.*diagrama.Valor)});
     }
+    const double cierre = -E * t.EjeY(i + 1);
+    enLienzo.back() = {t.Columna(i + 1), cierre, cierre + diagrama.Subida(puntos.back().*diagrama.Valor)};
     return enLienzo;
 }
 
-/// Of the stations in one column of the canvas only the first, the lowest, the highest and the last can be
-/// told apart: a slab of thousands of spans has no more strips than the canvas has columns for them.
-std::vector<PuntoDeFranja> Distinguibles(const std::vector<PuntoDeFranja>& puntos) {
-    const auto masBajo = [](const PuntoDeFranja& a, const PuntoDeFranja& b) { return a.Extremo < b.Extremo; };
-    std::vector<PuntoDeFranja> visibles;
-    for (auto desde = puntos.begin(); desde != puntos.end();) {
-        const auto hasta =
-            std::find_if(desde, puntos.end(), [&](const PuntoDeFranja& p) { return p.x != desde->x; });
-        auto [menor, mayor] = std::minmax_element(desde, hasta, masBajo);
-        if (mayor < menor) std::swap(menor, mayor);
-        auto ultimo = puntos.end();
-        for (const auto punto : {desde, menor, mayor, hasta - 1}) {
-            if (punto != ultimo) visibles.push_back(*punto);
-            ultimo = punto;
-        }
-        desde = hasta;
+/// The straight lines from a point that pass near all that came after it.
+class Abanico {
+  public:
+    explicit Abanico(const PuntoDeFranja& desde) : desde_(desde) {}
+    bool Admite(const PuntoDeFranja& punto) const {
+        const double dx = punto.x - desde_.x;
+        const double dy = punto.Extremo - desde_.Extremo;
+        return dx > 0 ? menor_ * dx <= dy && dy <= mayor_ * dx : !estrecho_;
     }
-    return visibles;
-}
+    void Estrechar(const PuntoDeFranja& punto) {
+        const double dx = punto.x - desde_.x;
+        const double dy = punto.Extremo - desde_.Extremo;
+        menor_ = dx > 0 ? std::max(menor_, (dy - Rectitud) / dx) : Infinito;
+        mayor_ = dx > 0 ? std::min(mayor_, (dy + Rectitud) / dx) : -Infinito;
+        estrecho_ = true;
+    }
 
-/// The strips between stations as one figure, closed along its axis and at the span's ends.
-void DibujeFranjas(const Trazado& t, const Diagrama& diagrama, const std::vector<PuntoDeFranja>& puntos) {
-    std::vector<PuntoLienzo> figura{{puntos.front().x, puntos.front().Eje}};
-    for (const PuntoDeFranja& punto : puntos) figura.push_back({punto.x, punto.Extremo});
-    figura.push_back({puntos.back().x, puntos.back().Eje});
-    t.EnMetros.ElLienzo().Poligono(figura, PlumaContorno, diagrama.Fondo);
+  private:
+    static constexpr double Infinito = std::numeric_limits<double>::infinity();
+    PuntoDeFranja desde_;
+    double menor_ = -Infinito;
+    double mayor_ = Infinito;
+    bool estrecho_ = false;
+};
+
+/// Leaves out the stations that lie on the straight line between those kept, as near as can be seen: each
+/// rounded to pixels by itself, they would make steps of it.
+std::vector<PuntoDeFranja> Visibles(const std::vector<PuntoDeFranja>& puntos) {
+    std::vector<PuntoDeFranja> visibles{puntos.front()};
+    Abanico abanico(puntos.front());
+    for (std::size_t k = 1; k < puntos.size(); ++k) {
+        if (!abanico.Admite(puntos[k])) {
+            visibles.push_back(puntos[k - 1]);
+            abanico = Abanico(puntos[k - 1]);
+        }
+        abanico.Estrechar(puntos[k]);
+    }
+    visibles.push_back(puntos.back());
+    return visibles;
 }
 
 /// A value that is written at the diagram's ordinate. The shear at a span's end is written as the support's
 /// push on it, upward like the one at its start; the diagram ends with the opposite sign.
 struct ValorDeTramo {
-    double d;  ///< from the first axis along the horizontal, m
+    double x;    ///< column from the origin
+    double Eje;  ///< row of the slab's line there
     double Ordenada;
     double Valor;
-    double Lado;
+    double Lado;  ///< of the arrow that its text prefers
 };
 
+/// A diagram in its band, whose rows are counted from the line through the axes until it is known how far
+/// below it the band lies. No text leaves the band: it grows by the lines that find no room in it.
+class Franja {
+  public:
+    Franja(const Trazado& t, const Diagrama& diagrama)
+        : t_(t),
+          diagrama_(diagrama),
+          media_(std::max<double>(Pixeles(t.EnMetros.Escala() * MediaFranja), t.Renglon())),
+          arriba_(media_),
+          abajo_(media_),
+          ocupadas_(t.EnMetros.SinOcupar()) {}
+
+    /// How far the band reaches from its axis.
+    double Arriba() const { return arriba_; }
+    double Abajo() const { return abajo_; }
+
+    void Titular(std::string_view texto);
+    void Rotular(std::size_t i, const ValorDeTramo& v);
+    /// Draws it, with its axis `desfase` below the slab's.
+    void Dibujar(double desfase) const;
+
+  private:
+    void DibujarTramo(std::size_t i, std::int32_t desfase) const;
+    void Guardar(std::string texto, const PiezaTexto& caja, std::size_t tramo);
+
+    struct Flecha {
+        double x;
+        double y;
+        Sentidos Hacia;
+    };
+
+    const Trazado& t_;
+    const Diagrama& diagrama_;
+    double media_;
+    double arriba_;
+    double abajo_;
+    Ocupacion ocupadas_;
+    std::vector<RotuloDeHoja> rotulos_;
+    std::vector<Flecha> flechas_;
+};
+
+void Franja::Guardar(std::string texto, const PiezaTexto& caja, std::size_t tramo) {
+    const auto niveles = t_.Perfil.Entre(caja.x, caja.Derecha());
+    arriba_ = std::max(arriba_, niveles.MasBajo - caja.y);
+    abajo_ = std::max(abajo_, caja.Pie() - niveles.MasAlto);
+    rotulos_.push_back({diagrama_.De, std::move(texto), caja, 0, tramo});
+}
+
+/// At the left of the first axis and its values; where there is no room for it, in the corner that the
+/// diagram leaves free.
+void Franja::Titular(std::string_view texto) {
+    const MedidaTexto medida = t_.Medir(texto);
+    const double margen = Apartado * t_.EnMetros.Escala() + t_.Medir("00000").Ancho;
+    const double primero = t_.Columna(t_.PrimerEje());
+    const double x = std::max(primero - margen - medida.Ancho, t_.BordeIzquierdo());
+    const double nivel = t_.Perfil.Nivel(primero);
+    double y = nivel - medida.Alto / 2.0;
+    if (x + medida.Ancho > primero) y = diagrama_.Sentido < 0 ? nivel + media_ - medida.Alto : nivel - media_;
+    const PiezaTexto caja = ocupadas_.Apilar(
+        {x, y, static_cast<double>(medida.Ancho), static_cast<double>(medida.Alto)}, medida.Alto);
+    Guardar(std::string(texto), caja, 0);
+}
+
 /// A value at the end of a diagram's ordinate: the block arrow that points to it from outside, and its text
-/// beside the arrow, or as near as there is room. A text stays in its diagram's band; `Lado` is the side of
-/// the arrow that it prefers.
-void RotularExtremo(Trazado& t, const Diagrama& diagrama, double x, double eje, const ValorDeTramo& v) {
-    const std::string texto = t.Numero(v.Valor, "0");
+/// beside the arrow, or as near as there is room.
+void Franja::Rotular(std::size_t i, const ValorDeTramo& v) {
+    const std::string texto = t_.Numero(v.Valor, "0");
     if (texto == "0" || texto.empty()) return;
-    Plano& p = t.EnMetros;
-    const double subida = diagrama.Subida(v.Ordenada);
+    const double E = t_.EnMetros.Escala();
+    const double subida = diagrama_.Subida(v.Ordenada);
     const double fuera = subida < 0 ? -1 : 1;
-    DibujeFlecha(p.ElLienzo(), Pixeles(x), Pixeles(eje + subida), subida < 0 ? HaciaAbajo : HaciaArriba,
-                 FlechaBloque, p.Escala());
-    const MedidaTexto medida = p.ElLienzo().Medir(texto);
+    flechas_.push_back({v.x, v.Eje + subida, subida < 0 ? HaciaAbajo : HaciaArriba});
+    const MedidaTexto medida = t_.Medir(texto);
     const double medio = medida.Alto / 2.0;
-    const double limite = std::max(p.Escala() * MediaFranja - medio, medio);
-    const double junto = 0.06 * p.Escala() + p.Unidades(2) + medida.Ancho / 2.0;
+    const double junto = 0.06 * E + t_.EnMetros.Unidades(2) + medida.Ancho / 2.0;
     const double alto = std::fabs(subida);
-    std::vector<Centro> centros;
-    for (const double distancia : {std::min(alto + 0.6 * LargoDeFlecha * p.Escala(), limite),
-                                   std::min(alto + medio, limite), medio, limite, -medio, -limite}) {
-        for (const double corrimiento : {1.0, -1.0, 0.0, 2.0, -2.0, 3.0})
-            centros.push_back({x + corrimiento * v.Lado * junto, eje + fuera * distancia});
+    const auto caja = [&](double corrimiento, double distancia) {
+        PiezaTexto hecha{v.x + corrimiento * v.Lado * junto - medida.Ancho / 2.0,
+                         v.Eje + fuera * distancia - medio, static_cast<double>(medida.Ancho),
+                         static_cast<double>(medida.Alto)};
+        const auto niveles = t_.Perfil.Entre(hecha.x, hecha.Derecha());
+        hecha.y = std::min(hecha.y, niveles.MasAlto + media_ - medida.Alto);
+        hecha.y = std::max(hecha.y, niveles.MasBajo - media_);
+        return hecha;
+    };
+    for (const double distancia :
+         {alto + 0.6 * LargoDeFlecha * E, alto + medio, medio, media_, -medio, -media_}) {
+        for (const double corrimiento : {1.0, -1.0, 0.0, 2.0, -2.0, 3.0}) {
+            const PiezaTexto posible = caja(corrimiento, distancia);
+            if (!ocupadas_.Libre(posible)) continue;
+            ocupadas_.Reservar(posible);
+            return Guardar(texto, posible, i);
+        }
     }
-    p.Rotular(texto, centros);
+    Guardar(texto, ocupadas_.Apilar(caja(1, media_), fuera * medida.Alto), i);
 }
 
 /// A span that lies beside the canvas shows nothing of its diagram.
-bool ALaVista(const Trazado& t, std::size_t i) {
-    const auto [izquierda, derecha] =
-        std::minmax({t.EnMetros.X(t.EjeX(i)), t.EnMetros.X(t.EjeX(i) + t.Losa.Tramos[i].LT)});
-    return derecha >= 0 && izquierda <= t.EnMetros.ElLienzo().ScaleWidth();
+void Franja::DibujarTramo(std::size_t i, std::int32_t desfase) const {
+    const Plano& p = t_.EnMetros;
+    const auto [izquierda, derecha] = std::minmax({p.X(t_.EjeX(i)), p.X(t_.EjeX(i + 1))});
+    if (derecha < 0 || izquierda > p.ElLienzo().ScaleWidth()) return;
+    const double pendiente = PendienteDeTramo(t_.Hoja.Ejes, i);
+    const std::vector<losas::PuntoDiagrama> puntos = losas::EstacionesDeTramo(t_.Calculada, i, pendiente);
+    if (puntos.empty()) return;
+    const auto enLienzo = [&](double x, double y) {
+        return PuntoLienzo{Pixeles(t_.Hoja.Vista.OrigenX + x), Pixeles(t_.Hoja.Vista.OrigenY + y + desfase)};
+    };
+    const auto visibles = Visibles(EnLienzo(t_, diagrama_, i, std::tan(pendiente), puntos));
+    std::vector<PuntoLienzo> figura{enLienzo(visibles.front().x, visibles.front().Eje)};
+    figura.reserve(visibles.size() + 2);
+    for (const PuntoDeFranja& punto : visibles) figura.push_back(enLienzo(punto.x, punto.Extremo));
+    figura.push_back(enLienzo(visibles.back().x, visibles.back().Eje));
+    p.ElLienzo().Poligono(figura, PlumaContorno, diagrama_.Fondo);
 }
 
-void DibujeDiagrama(Trazado& t, const Diagrama& diagrama) {
-    for (std::size_t i = 1; i <= t.N; ++i) {
-        if (!ALaVista(t, i)) continue;
-        const double pendiente = PendienteDeTramo(t.Hoja.Ejes, i);
-        const std::vector<losas::PuntoDiagrama> puntos = losas::EstacionesDeTramo(t.Calculada, i, pendiente);
-        if (!puntos.empty())
-            DibujeFranjas(t, diagrama, Distinguibles(EnLienzo(t, diagrama, i, std::tan(pendiente), puntos)));
+void Franja::Dibujar(double desfase) const {
+    for (std::size_t i = t_.PrimerTramo(); i <= t_.UltimoTramo(); ++i) DibujarTramo(i, Pixeles(desfase));
+    const EstadoVista& vista = t_.Hoja.Vista;
+    for (const Flecha& flecha : flechas_)
+        DibujeFlecha(t_.EnMetros.ElLienzo(), Pixeles(vista.OrigenX + flecha.x),
+                     Pixeles(vista.OrigenY + flecha.y + desfase), flecha.Hacia, FlechaBloque, vista.Escala);
+    for (RotuloDeHoja rotulo : rotulos_) {
+        rotulo.Caja.y += desfase;
+        t_.Escribir(std::move(rotulo));
     }
+    t_.Anotar({diagrama_.De, desfase - arriba_, desfase + abajo_, true});
 }
 
-void RotularDiagrama(Trazado& t, const Diagrama& diagrama, std::size_t i,
-                     const std::vector<ValorDeTramo>& valores) {
-    const double tangente = std::tan(PendienteDeTramo(t.Hoja.Ejes, i));
-    for (const ValorDeTramo& v : valores)
-        RotularExtremo(t, diagrama, t.EnMetros.X(t.EjeX(i) + v.d),
-                       EjeDelDiagrama(t, diagrama, i, v.d, tangente), v);
-}
-
-/// Factored reaction under each axis.
-void DibujeReacciones(Trazado& t, std::int32_t fila) {
-    Plano& p = t.EnMetros;
-    const double tamano = FlechaDeReaccion * p.Escala();
-    for (std::size_t eje = 1; eje <= t.N + 1; ++eje) {
-        const std::string texto = t.Numero(losas::ReaccionMayorada(t.Calculada, eje), "0");
+/// Factored reaction under each axis, from a row under the origin on: an arrow that pushes up, or one that
+/// pulls down where the slab would lift off. Returns the row below them.
+double DibujeReacciones(const Trazado& t, double fila) {
+    const Plano& p = t.EnMetros;
+    const double E = p.Escala();
+    const double tamano = FlechaDeReaccion * E;
+    const std::string_view rotulo = t.Losa.OpcionMaciza ? "(kgf/metro):" : "(kgf/Nervio):";
+    const MedidaTexto titulo = t.Medir(rotulo);
+    const double margen = Apartado * E + t.Medir("00000").Ancho;
+    const double izquierda = std::max(t.Columna(t.PrimerEje()) - margen - titulo.Ancho, t.BordeIzquierdo());
+    Ocupacion ocupadas = p.SinOcupar();
+    const PiezaTexto cajaTitulo{izquierda, fila, static_cast<double>(titulo.Ancho),
+                                static_cast<double>(titulo.Alto)};
+    ocupadas.Reservar(cajaTitulo);
+    t.Escribir({BandaDe::Reacciones, std::string(rotulo), cajaTitulo});
+    double pie = cajaTitulo.Pie();
+    for (std::size_t eje = t.PrimerEje(); eje <= t.UltimoEje(); ++eje) {
+        const double reaccion = losas::ReaccionMayorada(t.Calculada, eje);
+        const std::string texto = t.Numero(reaccion, "0");
         if (texto == "0" || texto.empty()) continue;
-        const std::int32_t x = p.X(t.EjeX(eje));
-        DibujeFlecha(p.ElLienzo(), x, fila, HaciaArriba, FlechaBloque, tamano);
-        const MedidaTexto medida = p.ElLienzo().Medir(texto);
-        const double lado = 0.06 * p.Escala() + p.Unidades(2) + medida.Ancho / 2.0;
-        const double y = fila + std::max(0.32 * tamano, medida.Alto / 2.0);
-        p.Rotular(texto,
-                  {{x + lado, y}, {x - lado, y}, {x + lado, y + medida.Alto}, {x - lado, y + medida.Alto}});
+        const std::int32_t punta = Pixeles(t.Hoja.Vista.OrigenY + fila);
+        DibujeFlecha(p.ElLienzo(), p.X(t.EjeX(eje)),
+                     reaccion < 0 ? punta + Pixeles(LargoDeFlecha * tamano) : punta,
+                     reaccion < 0 ? HaciaAbajo : HaciaArriba, FlechaBloque, tamano);
+        const MedidaTexto medida = t.Medir(texto);
+        const double lado = 0.06 * E + p.Unidades(2) + medida.Ancho / 2.0;
+        const double y = fila + std::max(0.32 * tamano, medida.Alto / 2.0) - medida.Alto / 2.0;
+        PiezaTexto caja{t.Columna(eje) + lado - medida.Ancho / 2.0, y, static_cast<double>(medida.Ancho),
+                        static_cast<double>(medida.Alto)};
+        PiezaTexto otra = caja;
+        otra.x -= 2 * lado;
+        if (!ocupadas.Libre(caja) && ocupadas.Libre(otra)) caja = otra;
+        caja = ocupadas.Apilar(caja, medida.Alto);
+        pie = std::max(pie, caja.Pie());
+        t.Escribir({BandaDe::Reacciones, texto, caja, 0, eje});
     }
-}
-
-/// A text at the left of the first axis and its values, centred on a row.
-void RotularFila(const Trazado& t, std::string_view texto, std::int32_t fila) {
-    const double margen = 0.5 * t.EnMetros.Escala() + t.EnMetros.ElLienzo().Medir("00000").Ancho;
-    t.EnMetros.Escribir(texto, Ancla::Derecha, t.EnMetros.X(t.EjeX(1)) - Pixeles(margen),
-                        fila - t.EnMetros.ElLienzo().Medir("WW").Alto / 2);
+    t.Anotar({BandaDe::Reacciones, fila, pie, false});
+    return pie;
 }
 
 double Unidades(double escala, double maximo) {
     return maximo != 0 ? escala * Amplitud / maximo : 0;
 }
 
+void RotularTramo(const Trazado& t, std::size_t i, Franja& cortes, Franja& momentos) {
+    const losas::ExtremosDeTramo e = losas::ExtremosDe(t.Calculada, i);
+    const double E = t.EnMetros.Escala();
+    const double pendiente = PendienteDeTramo(t.Hoja.Ejes, i);
+    const double y1 = -E * t.EjeY(i);
+    const double y2 = -E * t.EjeY(i + 1);
+    cortes.Rotular(i, {t.Columna(i), y1, e.VA, e.VA, 1});
+    cortes.Rotular(i, {t.Columna(i + 1), y2, -e.VB, e.VB, -1});
+    momentos.Rotular(i, {t.Columna(i), y1, e.MA, e.MA, 1});
+    momentos.Rotular(i, {t.Columna(i + 1), y2, e.MB, e.MB, -1});
+    const Lugar campo = EnTramo(t.Hoja.Ejes, i, e.x * std::cos(pendiente));
+    momentos.Rotular(i, {E * campo.x, -E * campo.y, e.MT, e.MT, 1});
+}
+
+/// A told distance, or as much as is needed where that is more.
+double AlMenos(double dicha, double necesaria) {
+    return necesaria <= dicha + 1 ? dicha : std::ceil(necesaria);
+}
+
 }  // namespace
 
 void DibujeFuerzas(Lienzo& lienzo, HojaLosa& hoja, const losas::LosaCalculada& losa,
                    const EstiloHoja& estilo) {
-    Trazado t = DibujeBaseLosa(lienzo, hoja, losa, estilo);
-    if (t.N == 0) return;
-    Plano& p = t.EnMetros;
+    const auto trazado = DibujeBaseLosa(lienzo, hoja, losa, estilo, Titulos);
+    if (!trazado) return;
+    const Trazado& t = *trazado;
+    const double E = t.EnMetros.Escala();
     const losas::ResultadosLosa& r = losa.Resultados;
-    const std::int32_t primera = Pixeles(p.Escala() * PrimeraBanda);
-    const std::int32_t franja = 2 * Pixeles(p.Escala() * MediaFranja);
-    const Diagrama cortes{primera, Unidades(p.Escala(), r.MaxCorte), -1, FondoCorte,
-                          &losas::PuntoDiagrama::V};
-    const Diagrama momentos{primera + franja,
-                            Unidades(p.Escala(), std::max(r.MaxMomentoApoyo, r.MaxMomentoTramo)), 1,
-                            FondoMomento, &losas::PuntoDiagrama::M};
-    p.Letra(LetraNormal);
-    RotularFila(t, estilo.Textos.VU, p.Fila(0, t.EjeY(1)) + cortes.Desfase);
-    RotularFila(t, estilo.Textos.MU, p.Fila(0, t.EjeY(1)) + momentos.Desfase);
-    DibujeDiagrama(t, cortes);
-    DibujeDiagrama(t, momentos);
-    for (std::size_t i = 1; i <= t.N; ++i) {
-        const losas::ExtremosDeTramo e = losas::ExtremosDe(losa, i);
-        const double LT = losa.Datos.Tramos[i].LT;
-        RotularDiagrama(t, cortes, i, {{0, e.VA, e.VA, 1}, {LT, -e.VB, e.VB, -1}});
-        const double C = std::cos(PendienteDeTramo(hoja.Ejes, i));
-        RotularDiagrama(t, momentos, i, {{0, e.MA, e.MA, 1}, {LT, e.MB, e.MB, -1}, {e.x * C, e.MT, e.MT, 1}});
-    }
-    const std::int32_t filaReacciones = hoja.Vista.OrigenY + momentos.Desfase + franja / 2;
-    RotularFila(t, losa.Datos.OpcionMaciza ? "(kgf/metro):" : "(kgf/Nervio):",
-                filaReacciones + lienzo.Medir("WW").Alto / 2);
-    DibujeReacciones(t, filaReacciones);
+    const Diagrama deCortes{BandaDe::Cortes, Unidades(E, r.MaxCorte), -1, FondoCorte,
+                            &losas::PuntoDiagrama::V};
+    const Diagrama deMomentos{BandaDe::Momentos, Unidades(E, std::max(r.MaxMomentoApoyo, r.MaxMomentoTramo)),
+                              1, FondoMomento, &losas::PuntoDiagrama::M};
+    t.EnMetros.Letra(LetraNormal);
+    Franja cortes(t, deCortes);
+    Franja momentos(t, deMomentos);
+    cortes.Titular(estilo.Textos.VU);
+    momentos.Titular(estilo.Textos.MU);
+    for (std::size_t i = t.PrimerTramo(); i <= t.UltimoTramo(); ++i) RotularTramo(t, i, cortes, momentos);
+
+    const double franja = Pixeles(E * MediaFranja);
+    const double primera = AlMenos(Pixeles(E * PrimeraBanda), t.Pie + cortes.Arriba());
+    const double segunda = primera + AlMenos(2 * franja, cortes.Abajo() + momentos.Arriba());
+    cortes.Dibujar(primera);
+    momentos.Dibujar(segunda);
+    const double bajo = t.Perfil.Todos().MasBajo;
+    const double reacciones = bajo + segunda + AlMenos(franja, momentos.Abajo());
+    const double pie = DibujeReacciones(t, reacciones);
 
     const DatosGenerales& g = losa.Generales;
-    const std::int32_t titulos =
-        std::max(p.Fila(FilaDeTitulos), filaReacciones + 2 * lienzo.Medir("WW").Alto + p.Unidades(4));
-    DibujeTitulos(t, titulos,
-                  {RotuloDeLosa(losa.Datos) + "E = " + t.Espesor() + " m", losa.Datos.Nombre,
+    DibujeTitulos(t, std::max(bajo + E * Titulos.Metros, pie),
+                  {RotuloDeLosa(losa.Datos) + "E = " + t.Espesor() + " m", t.Nombre(),
                    "(DIAGRAMAS DE CORTES Y MOMENTOS MAYORADOS)",
                    "COMBINACIONES DE CARGA (U = " + t.Numero(g.FCP, "0.00") + " CP + " +
                        t.Numero(g.FCV, "0.00") + " CV)"});
