@@ -60,7 +60,7 @@ struct ColumnaResumen {
     const char* Formato;  ///< of numbers, as in base/Formatos.h; null in a column of texts
 };
 
-/// A drawing of an element, whole, on a surface of any size.
+/// A drawing of an element, whole or as much of it as a sheet takes, on a surface of any size.
 struct Dibujo {
     std::string Clave;   ///< "geometria": what tells its file from the element's others
     std::string Titulo;  ///< caption in reports

@@ -81,6 +81,7 @@ struct Caja {
     int x1 = 1 << 30, x2 = -(1 << 30), y1 = 1 << 30, y2 = -(1 << 30);
 };
 
+/// Of a whole slab of many spans the foot may lie below the canvas: `cabe` tells that it may not.
 void Revisar(const HojaLosa& hoja, const LienzoGrabador& lienzo, bool cabe) {
     const int roce = 2 * lienzo.LadoDePixel();
     const PerfilDeHoja perfil(hoja.Ejes, hoja.Tramos, hoja.Vista.Escala);
@@ -88,13 +89,12 @@ void Revisar(const HojaLosa& hoja, const LienzoGrabador& lienzo, bool cabe) {
     std::vector<Caja> cajas;
     for (std::size_t k = 0; k < hoja.Rotulos.size(); ++k) {
         const RotuloDeHoja& r = hoja.Rotulos[k];
-        SCOPED_TRACE(r.Texto);
         const auto& escrito = lienzo.Textos[k];
         ASSERT_EQ(escrito.Texto, r.Texto);
-        ASSERT_NEAR(escrito.Lugar.x, Esquina(r, 0, 0).x, roce);
-        ASSERT_NEAR(escrito.Lugar.y, Esquina(r, 0, 0).y, roce);
-        ASSERT_NEAR(escrito.Medida.Ancho, r.Caja.Ancho, 1e-9);
-        ASSERT_NEAR(escrito.Medida.Alto, r.Caja.Alto, 1e-9);
+        ASSERT_NEAR(escrito.Lugar.x, Esquina(r, 0, 0).x, roce) << r.Texto;
+        ASSERT_NEAR(escrito.Lugar.y, Esquina(r, 0, 0).y, roce) << r.Texto;
+        ASSERT_EQ(escrito.Medida.Ancho, r.Caja.Ancho) << r.Texto;
+        ASSERT_EQ(escrito.Medida.Alto, r.Caja.Alto) << r.Texto;
         const auto banda = std::find_if(hoja.Bandas.begin(), hoja.Bandas.end(),
                                         [&](const BandaDeHoja& b) { return b.De == r.De; });
         ASSERT_NE(banda, hoja.Bandas.end());
@@ -102,20 +102,18 @@ void Revisar(const HojaLosa& hoja, const LienzoGrabador& lienzo, bool cabe) {
             const PuntoLienzo p = Esquina(r, x, y);
             const double fila =
                 p.y - hoja.Vista.OrigenY - (banda->SigueALaLosa ? perfil.Nivel(p.x - hoja.Vista.OrigenX) : 0);
-            ASSERT_GE(fila, banda->Desde - roce);
-            ASSERT_LE(fila, banda->Hasta + roce);
+            ASSERT_GE(fila, banda->Desde - roce) << r.Texto;
+            ASSERT_LE(fila, banda->Hasta + roce) << r.Texto;
         }
-        cajas.emplace_back(r);
-        ASSERT_GE(cajas.back().x1, 0);
-        ASSERT_LE(cajas.back().x2, lienzo.ScaleWidth());
-        if (!cabe) continue;
-        ASSERT_GE(cajas.back().y1, 0);
-        ASSERT_LE(cajas.back().y2, lienzo.ScaleHeight());
+        const Caja caja(r);
+        ASSERT_TRUE(caja.x1 >= 0 && caja.x2 <= lienzo.ScaleWidth()) << r.Texto;
+        ASSERT_TRUE(!cabe || (caja.y1 >= 0 && caja.y2 <= lienzo.ScaleHeight())) << r.Texto;
+        cajas.push_back(caja);
     }
-    for (std::size_t a = 0; a < cajas.size(); ++a) {
-        for (std::size_t b = a + 1; b < cajas.size(); ++b)
-            ASSERT_FALSE(cajas[a].Pisa(cajas[b], roce))
-                << hoja.Rotulos[a].Texto << " / " << hoja.Rotulos[b].Texto;
+    std::sort(cajas.begin(), cajas.end(), [](const Caja& a, const Caja& b) { return a.x1 < b.x1; });
+    for (auto a = cajas.begin(); a != cajas.end(); ++a) {
+        for (auto b = a + 1; b != cajas.end() && b->x1 < a->x2; ++b)
+            ASSERT_FALSE(a->Pisa(*b, roce)) << a->x1 << ", " << a->y1 << " / " << b->x1 << ", " << b->y1;
     }
     // Bands that do not follow the slab lie below those that do.
     for (std::size_t k = 1; k < hoja.Bandas.size(); ++k) {

@@ -242,8 +242,9 @@ TEST(ImprimirGraficos, CadaDibujoVaEnSuPaginaConSusDatos) {
     ASSERT_TRUE(CrearBaseDatos(archivo, prueba::EsquemaDeProyecto()));
     ProyectoAbierto proyecto;
     ASSERT_TRUE(prueba::Abrir(proyecto, archivo));
-    for (const char* nombre : {"LOSA A", "LOSA B"}) {
-        Losa losa = prueba::LosaContinua({4, 5}, 300, 100);
+    for (const auto& [nombre, tramos] :
+         {std::pair{"LOSA A", 2U}, {"LOSA B", 12U}}) {  // the second on two pages
+        Losa losa = prueba::LosaUniforme(tramos, 5, 300, 100);
         losa.Nombre = nombre;
         ASSERT_TRUE(prueba::AgregarLosa(proyecto, losa));
     }
@@ -266,13 +267,16 @@ TEST(ImprimirGraficos, CadaDibujoVaEnSuPaginaConSusDatos) {
         return texto.split('\f', Qt::SkipEmptyParts);
     };
     const QStringList seleccionada = impreso(0);
-    ASSERT_EQ(seleccionada.size(), 3);
+    ASSERT_EQ(seleccionada.size(), 6);
     for (const QString& pagina : seleccionada) EXPECT_TRUE(pagina.contains("LOSA B"));
-    EXPECT_TRUE(seleccionada[2].contains("(ANALISIS Y DISEÑO)"));
-    EXPECT_EQ(impreso(1).size(), 6);
+    EXPECT_TRUE(seleccionada[4].contains("(ANALISIS Y DISEÑO)") && seleccionada[4].contains("(Ejes 1 a 7)"));
+    EXPECT_TRUE(seleccionada[5].contains("(Ejes 7 a 13)"));
+    EXPECT_EQ(impreso(1).size(), 9);
     const QStringList reacciones = impreso(5);
-    ASSERT_EQ(reacciones.size(), 2);
+    ASSERT_EQ(reacciones.size(), 3);
     EXPECT_TRUE(reacciones[0].contains("REACCIONES SOBRE LAS VIGAS") && !reacciones[0].contains("As Sup"));
+    pantalla.Vista.Zoom = 2;  // what the screen shows
+    EXPECT_EQ(impreso(0).size(), 3);
 }
 
 TEST_F(SalidasDeReporte, LaImpresoraSeMarcaYCambiaHastaElFinal) {

@@ -214,6 +214,24 @@ TEST_F(ReporteLosas, LosGraficosSiguenLaOpcionConSusTitulos) {
     EXPECT_THAT(LeerArchivo(Entorno.Trabajo / "Foto"), testing::StartsWith("foto de "));
 }
 
+TEST_F(ReporteLosas, UnaLosaLargaSigueEnOtrasHojasConElEjeQueLasUne) {
+    Losa losa = LosaUniforme(12, 5, 300, 200);
+    losa.Nombre = "Larga";
+    AgregarLosa(Proyecto, losa);
+    SuperficieDeTextos superficie;
+    PanelAnotado panel;
+    Estado.OpcionGrafico = 0;
+    ASSERT_TRUE(GuardeGraficos(Entorno, Origen(Proyecto.RegistrosProyecto.Posicion()), {}, superficie, panel,
+                               Estado));
+    const auto hojas = Consultar("SELECT Losa, CAST(Grafico AS TEXT) AS T FROM Grafico ORDER BY rowid");
+    ASSERT_EQ(hojas.size(), 6U);
+    EXPECT_EQ(hojas[2].at("Losa"), "Larga: CORTES Y MOMENTOS (HOJA 1 DE 2)");
+    EXPECT_EQ(hojas[5].at("Losa"), "Larga: ANÁLISIS Y DISEÑO (HOJA 2 DE 2)");
+    EXPECT_THAT(hojas[4].at("T"), HasSubstr("Larga   (Ejes 1 a 7)"));
+    EXPECT_THAT(hojas[5].at("T"), HasSubstr("Larga   (Ejes 7 a 13)"));
+    EXPECT_EQ(panel.Pasos.back(), 100);
+}
+
 TEST_F(ReporteLosas, UnFalloALaMitadBajaLasBanderasYDevuelveLaLista) {
     SuperficieDeTextos superficie;
     superficie.FallaEn = 5;

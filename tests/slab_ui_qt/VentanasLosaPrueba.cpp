@@ -226,6 +226,29 @@ TEST_F(Espacio, SeleccionaHojaYCargasYDibujaAlMomento) {
               "Estructural 2023. <br>(no disponible en esta edición)");
 }
 
+TEST_F(Espacio, UnaLosaLargaSeVePorGruposQueCompartenUnEje) {
+    VentanaLosas ventana(e.aplicacion, e.servicios, e.memoria, {}, nullptr);
+    ventana.show();
+    EstadoLosas& estado = ventana.Operaciones().Estado();
+    estado.Abierta = prueba::LosaUniforme(25, 5, 300, 100);
+    ventana.Operaciones().Calcular();
+    const auto mostrar = [&](const char* clave) {
+        ventana.Accion(clave)->trigger();
+        return estado.Hoja.Tramos;
+    };
+    EXPECT_EQ(estado.Hoja.Tramos, (GrupoDeTramos{1, 25}));
+    EXPECT_EQ(mostrar("ID_GrupoSiguiente"), (GrupoDeTramos{1, 9}));
+    EXPECT_TRUE(ventana.Accion("ID_PorGrupos")->isChecked());
+    ventana.Accion("ID_ZoomIN")->trigger();
+    EXPECT_EQ(mostrar("ID_GrupoSiguiente"), (GrupoDeTramos{10, 18}));
+    EXPECT_EQ(estado.Hoja.Vista.Zoom, 1);
+    mostrar("ID_GrupoSiguiente");
+    EXPECT_EQ(mostrar("ID_GrupoSiguiente"), (GrupoDeTramos{19, 25}));
+    EXPECT_EQ(mostrar("ID_GrupoAnterior"), (GrupoDeTramos{10, 18}));
+    EXPECT_EQ(mostrar("ID_PorGrupos"), (GrupoDeTramos{1, 25}));
+    EXPECT_FALSE(ventana.Accion("ID_PorGrupos")->isChecked());
+}
+
 TEST_F(Espacio, UnaLosaQueNoSeSostieneSeMarcaYSeDice) {
     VentanaLosas ventana(e.aplicacion, e.servicios, e.memoria, {}, nullptr);
     ventana.resize(800, 600);
@@ -319,6 +342,7 @@ TEST_F(Espacio, RecuerdaComoSeRepartioLaVentana) {
         ventana.findChild<QSplitter*>()->setSizes({400, 500});
         ventana.findChild<QTabBar*>()->setCurrentIndex(2);
         BotonDe(ventana, "Permanente + Variable")->click();
+        ventana.Accion("ID_PorGrupos")->trigger();
         repartida = ventana.findChild<QSplitter*>()->sizes();
         ventana.accept();
     }
@@ -328,6 +352,8 @@ TEST_F(Espacio, RecuerdaComoSeRepartioLaVentana) {
     EXPECT_EQ(ventana.findChild<QTabBar*>()->currentIndex(), 2);
     EXPECT_EQ(ventana.Operaciones().Estado().Hoja.VistaActual, VistaLosa(2));
     EXPECT_EQ(ventana.Operaciones().Estado().Hoja.OpcionCarga, CargaPorCasos);
+    EXPECT_TRUE(ventana.Operaciones().Estado().Hoja.PorGrupos);
+    EXPECT_TRUE(ventana.Accion("ID_PorGrupos")->isChecked());
     QCoreApplication::setOrganizationName({});
 }
 

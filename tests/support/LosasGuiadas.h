@@ -21,12 +21,14 @@ using namespace programa;
 /// Modal windows are functions of the test.
 struct PantallaLosasGuiada : PantallaEspacioGuiada, PantallaLosas {
     void MarcarOpcionCarga(dibujo::losa::OpcionDeCarga opcion) override { OpcionCarga = opcion; }
+    void MarcarPorGrupos(bool porGrupos) override { PorGrupos = porGrupos; }
     bool MostrarLosaNueva() override { return LosaNueva && LosaNueva(); }
     bool MostrarLosaSalvarComo() override { return SalvarComo && SalvarComo(); }
     bool MostrarLosaDatos() override { return Datos && Datos(); }
     bool MostrarLosaGeneral() override { return General && General(); }
 
     dibujo::losa::OpcionDeCarga OpcionCarga = dibujo::losa::CargaPorCasos;
+    bool PorGrupos = false;
     std::function<bool()> LosaNueva, SalvarComo, Datos, General;
 };
 

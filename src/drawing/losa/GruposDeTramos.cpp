@@ -46,4 +46,12 @@ std::vector<GrupoDeTramos> GruposDeTramos(const losas::Losa& losa) {
     return grupos;
 }
 
+std::size_t HojasDe(const losas::Losa& losa) {
+    return std::max<std::size_t>(1, GruposDeTramos(losa).size());
+}
+
+std::string NumeroDeHoja(std::size_t hoja, std::size_t hojas) {
+    return hojas > 1 ? "HOJA " + std::to_string(hoja) + " DE " + std::to_string(hojas) : "";
+}
+
 }  // namespace trabex::dibujo::losa

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <vector>
 
 #include "slab/Losa.h"
@@ -12,7 +13,6 @@ struct GrupoDeTramos {
     std::size_t Primero = 1;
     std::size_t Ultimo = 0;
 
-    bool Tiene(std::size_t tramo) const { return Primero <= tramo && tramo <= Ultimo; }
     friend bool operator==(const GrupoDeTramos&, const GrupoDeTramos&) = default;
 };
 
@@ -20,5 +20,10 @@ struct GrupoDeTramos {
 /// ones lie among long ones. Neighbouring groups share the axis between them. One group when all find room;
 /// none of a slab without spans.
 std::vector<GrupoDeTramos> GruposDeTramos(const losas::Losa& losa);
+
+/// On how many sheets a drawing of the slab goes: one at least.
+std::size_t HojasDe(const losas::Losa& losa);
+/// What tells one of several sheets from the others: "HOJA 2 DE 4"; nothing where there is but one.
+std::string NumeroDeHoja(std::size_t hoja, std::size_t hojas);
 
 }  // namespace trabex::dibujo::losa

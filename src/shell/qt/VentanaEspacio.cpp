@@ -138,7 +138,7 @@ void VentanaEspacio::PonerAtajos() {
         QKeySequence Tecla;
         bool SoloEnLaLista = false;
     };
-    const std::array<Atajo, 19> atajos{{{"ID_Abrir", QKeySequence::Open},
+    const std::array<Atajo, 22> atajos{{{"ID_Abrir", QKeySequence::Open},
                                         {"ID_Generales", QKeySequence("Ctrl+G")},
                                         {"ID_Nueva", QKeySequence::New},
                                         {"ID_Editar", QKeySequence("F4")},
@@ -156,7 +156,10 @@ void VentanaEspacio::PonerAtajos() {
                                         {"ID_ZoomIN", QKeySequence::ZoomIn},
                                         {"ID_ZoomOut", QKeySequence::ZoomOut},
                                         {"ID_ZoomExtents", QKeySequence("Ctrl+0")},
-                                        {"ID_Plotear", QKeySequence("F5")}}};
+                                        {"ID_Plotear", QKeySequence("F5")},
+                                        {"ID_PorGrupos", QKeySequence("Ctrl+T")},
+                                        {"ID_GrupoAnterior", Qt::CTRL | Qt::Key_Left},
+                                        {"ID_GrupoSiguiente", Qt::CTRL | Qt::Key_Right}}};
     for (const Atajo& atajo : atajos) {
         const auto hallada = acciones_.find(atajo.Clave);
         if (hallada == acciones_.end()) continue;

@@ -28,14 +28,16 @@ constexpr std::array<Opcion, 6> Opciones{
 void AgregarDibujos(montaje::AlbumGraficos& album, const LosaDelProyecto& losa, dibujo::losa::HojaLosa& hoja,
                     std::span<const DibujoDeLosa> dibujos) {
     const std::string& nombre = losa.Datos.Nombre;
+    const std::size_t hojas = dibujo::losa::HojasDe(losa.Datos);
     for (const DibujoDeLosa& dibujo : dibujos) {
         hoja.VistaActual = dibujo.Vista;
         hoja.SoloReacciones = dibujo.SoloReacciones;
-        album.Agregar(
-            nombre, nombre + dibujo.Titulo, "Exportando la Losa: " + Mayusculas(nombre),
-            [&](dibujo::Lienzo& lienzo) {
-                dibujo::losa::RedibujeVista(lienzo, hoja, {losa.Datos, losa.Generales, losa.Resultados});
-            });
+        for (hoja.Grupo = 1; hoja.Grupo <= hojas; ++hoja.Grupo)
+            album.Agregar(
+                nombre, TituloDe(nombre, dibujo, hoja.Grupo, hojas),
+                "Exportando la Losa: " + Mayusculas(nombre), [&](dibujo::Lienzo& lienzo) {
+                    dibujo::losa::RedibujeVista(lienzo, hoja, {losa.Datos, losa.Generales, losa.Resultados});
+                });
     }
 }
 
@@ -47,24 +49,31 @@ PedidoDeGraficos PedidoDe(std::uint8_t OpcionGrafico) {
     return {opcion.Todas, std::span(Dibujos).subspan(opcion.Primero, opcion.Cuantos)};
 }
 
+std::string TituloDe(const std::string& nombre, const DibujoDeLosa& dibujo, std::size_t hoja,
+                     std::size_t hojas) {
+    const std::string rotulo = dibujo::losa::NumeroDeHoja(hoja, hojas);
+    return nombre + dibujo.Titulo + (rotulo.empty() ? "" : " (" + rotulo + ")");
+}
+
 bool GuardeGraficos(const montaje::EntornoReportes& entorno, const ProyectoParaReporte& origen,
                     const dibujo::losa::HojaLosa& hoja, montaje::SuperficieOculta& superficie,
                     montaje::PanelProgreso& panel, const montaje::EstadoReportes& estado) {
     almacen::Conexion temporal;
     montaje::AbrirTemporal(entorno, origen.Datos, {TituloReporteLosas}, temporal);
-    const int losas = origen.Proyecto.RegistrosProyecto.NumeroRegistros();
     const auto [todas, dibujos] = PedidoDe(estado.OpcionGrafico);
-    if (!temporal.Abierta() || losas == 0 || dibujos.empty()) return temporal.Abierta();
+    if (!temporal.Abierta() || origen.Proyecto.RegistrosProyecto.NumeroRegistros() == 0 || dibujos.empty())
+        return temporal.Abierta();
 
     dibujo::losa::HojaLosa propia;
     propia.OpcionCarga = hoja.OpcionCarga;
     propia.Numeros = hoja.Numeros;
     propia.Vista.ExportandoGrafico = true;
+    propia.PorGrupos = true;
     const auto visible = montaje::PanelALaVista(panel);
     almacen::Transaccion guardado(temporal);
     {
         montaje::AlbumGraficos album(temporal, entorno, superficie, panel,
-                                     dibujos.size() * (todas ? static_cast<std::size_t>(losas) : 1));
+                                     dibujos.size() * ContarEnLosas(origen, todas, dibujo::losa::HojasDe));
         const auto dibujar = [&, &suyos = dibujos](const LosaDelProyecto& losa) {
             AgregarDibujos(album, losa, propia, suyos);
         };

@@ -85,17 +85,25 @@ constexpr std::array<std::pair<dibujo::losa::VistaLosa, const char*>, 3> Vistas{
      {dibujo::losa::VistaFuerzas, "fuerzas"},
      {dibujo::losa::VistaDiseno, "diseno"}}};
 
-/// The drawings of all slabs, whole, as a report shows them.
+/// The drawings of all slabs, whole, as a report shows them: of a long slab on further sheets.
 std::vector<lote::Dibujo> Dibujos(const lote::Lista& lista, const lote::Elemento& elemento) {
+    const LosaCalculada losa = De(lista, elemento);
+    const std::size_t hojas = dibujo::losa::HojasDe(losa.Datos);
     std::vector<lote::Dibujo> dibujos;
     for (const DibujoDeLosa& dibujo : PedidoDe(1).Dibujos) {
-        dibujos.push_back({Vistas[dibujo.Vista].second, elemento.Nombre + dibujo.Titulo,
-                           [losa = De(lista, elemento), vista = dibujo.Vista](dibujo::Lienzo& lienzo) {
-                               dibujo::losa::HojaLosa hoja;
-                               hoja.VistaActual = vista;
-                               hoja.Vista.ExportandoGrafico = true;
-                               dibujo::losa::RedibujeVista(lienzo, hoja, losa);
-                           }});
+        for (std::size_t k = 1; k <= hojas; ++k) {
+            const std::string numero = hojas > 1 ? "-" + std::to_string(k) : "";
+            dibujos.push_back({Vistas[dibujo.Vista].second + numero,
+                               TituloDe(elemento.Nombre, dibujo, k, hojas),
+                               [losa, vista = dibujo.Vista, k](dibujo::Lienzo& lienzo) {
+                                   dibujo::losa::HojaLosa hoja;
+                                   hoja.VistaActual = vista;
+                                   hoja.Vista.ExportandoGrafico = true;
+                                   hoja.PorGrupos = true;
+                                   hoja.Grupo = k;
+                                   dibujo::losa::RedibujeVista(lienzo, hoja, losa);
+                               }});
+        }
     }
     return dibujos;
 }
@@ -103,14 +111,19 @@ std::vector<lote::Dibujo> Dibujos(const lote::Lista& lista, const lote::Elemento
 std::vector<std::function<void(dibujo::Lienzo&)>> Papel(const lote::Lista& lista,
                                                         const lote::Elemento& elemento,
                                                         const DatosDelProyecto& datos) {
+    const LosaCalculada losa = De(lista, elemento);
+    const std::size_t hojas = dibujo::losa::HojasDe(losa.Datos);
     std::vector<std::function<void(dibujo::Lienzo&)>> paginas;
-    paginas.reserve(Vistas.size());
+    paginas.reserve(Vistas.size() * hojas);
     for (const auto& [vista, clave] : Vistas) {
-        paginas.emplace_back([losa = De(lista, elemento), vista = vista, &datos](dibujo::Lienzo& lienzo) {
-            dibujo::losa::HojaLosa hoja;
-            hoja.VistaActual = vista;
-            dibujo::losa::GuardeGraficos1(lienzo, hoja, losa, {"", datos.Proyecto, datos.Calculista});
-        });
+        for (std::size_t k = 1; k <= hojas; ++k)
+            paginas.emplace_back([losa, vista = vista, k, &datos](dibujo::Lienzo& lienzo) {
+                dibujo::losa::HojaLosa hoja;
+                hoja.VistaActual = vista;
+                hoja.PorGrupos = true;
+                hoja.Grupo = k;
+                dibujo::losa::GuardeGraficos1(lienzo, hoja, losa, {"", datos.Proyecto, datos.Calculista});
+            });
     }
     return paginas;
 }

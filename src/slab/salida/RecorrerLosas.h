@@ -33,4 +33,8 @@ struct ProyectoParaReporte {
 void RecorrerLosas(const ProyectoParaReporte& origen, bool todas,
                    const std::function<void(const LosaDelProyecto&)>& accion);
 
+/// Sum of what `cuenta` tells of the same slabs, read and not calculated.
+std::size_t ContarEnLosas(const ProyectoParaReporte& origen, bool todas,
+                          const std::function<std::size_t(const Losa&)>& cuenta);
+
 }  // namespace trabex::losas::salida

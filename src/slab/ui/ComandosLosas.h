@@ -6,8 +6,8 @@
 
 namespace trabex::losas::ui {
 
-/// The commands of the slab workspace, beside those of the drawing.
-inline constexpr std::array<programa::ComandoEspacio, 13> ComandosLosas{{
+/// The commands of the slab workspace, beside those of the drawing that every workspace has.
+inline constexpr std::array<programa::ComandoEspacio, 16> ComandosLosas{{
     {"ID_Abrir", " Abrir Proyecto ", "Abrir Proyecto", "Abrir un proyecto existente. ", "abrir",
      programa::GrupoComandos::Proyecto, false},
     {"ID_Generales", " Datos Generales ", "Datos Proyecto", "Datos generales del proyecto. ", "generales",
@@ -36,6 +36,13 @@ inline constexpr std::array<programa::ComandoEspacio, 13> ComandosLosas{{
     {"ID_ExportarG", " Exportar la Imagen ", "Exportar Imagen Seleccionada",
      "Exportar la imagen de loa losa seleccionada \na formato BMP o JPG. ", "imagen",
      programa::GrupoComandos::Salida, true},
+    {"ID_PorGrupos", " Ver por Grupos de Tramos ", "Ver por Grupos",
+     "Ver un grupo de tramos a la vez, como en las hojas de papel. ", "grupos",
+     programa::GrupoComandos::Vista, true},
+    {"ID_GrupoAnterior", " Tramos Anteriores ", "Tramos Anteriores", "Ver el grupo de tramos anterior. ",
+     "anterior", programa::GrupoComandos::Vista, true},
+    {"ID_GrupoSiguiente", " Tramos Siguientes ", "Tramos Siguientes", "Ver el grupo de tramos siguiente. ",
+     "siguiente", programa::GrupoComandos::Vista, true},
 }};
 
 }  // namespace trabex::losas::ui

@@ -1,5 +1,7 @@
 #include "slab/ui/Losas.h"
 
+#include <algorithm>
+
 #include "slab/Avisos.h"
 #include "slab/CalcularLosa.h"
 #include "slab/salida/RecorrerLosas.h"
@@ -41,6 +43,7 @@ void Losas::AlSeleccionar() {
     estado_.Resultados = {};  // those of another slab: one that can't be calculated must not show them
     PonerEncabezado();
     espacio_.RestablecerVista();
+    estado_.Hoja.Grupo = 1;
     Calcular();
 }
 
@@ -87,6 +90,26 @@ void Losas::ElegirHoja(dibujo::losa::VistaLosa vista) {
 
 void Losas::ElegirOpcionCarga(dibujo::losa::OpcionDeCarga opcion) {
     estado_.Hoja.OpcionCarga = opcion;
+    lista_.Redibujar();
+}
+
+void Losas::VerPorGrupos(bool porGrupos) {
+    MostrarGrupo(porGrupos, 1);
+}
+
+void Losas::CambiarGrupo(int pasos) {
+    if (!estado_.Hoja.PorGrupos) return MostrarGrupo(true, 1);
+    const int ultimo = static_cast<int>(dibujo::losa::HojasDe(estado_.Abierta));
+    const int grupo = std::clamp(static_cast<int>(estado_.Hoja.Grupo) + pasos, 1, ultimo);
+    MostrarGrupo(true, static_cast<std::size_t>(grupo));
+}
+
+/// Each group comes into sight whole, wherever the one before had been panned to.
+void Losas::MostrarGrupo(bool porGrupos, std::size_t grupo) {
+    estado_.Hoja.PorGrupos = porGrupos;
+    estado_.Hoja.Grupo = grupo;
+    pantalla_.MarcarPorGrupos(porGrupos);
+    espacio_.RestablecerVista();
     lista_.Redibujar();
 }
 

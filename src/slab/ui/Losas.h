@@ -12,6 +12,7 @@ class PantallaLosas {
   public:
     virtual ~PantallaLosas() = default;
     virtual void MarcarOpcionCarga(dibujo::losa::OpcionDeCarga opcion) = 0;
+    virtual void MarcarPorGrupos(bool porGrupos) = 0;
 
     // Windows, each modal: the call returns when it closes.
     /// True when a slab was added.
@@ -53,6 +54,10 @@ class Losas : private programa::ElementoDeLista {
     void Calcular();
     void ElegirHoja(dibujo::losa::VistaLosa vista);
     void ElegirOpcionCarga(dibujo::losa::OpcionDeCarga opcion);
+    /// Shows one group of spans at a time, or the whole slab.
+    void VerPorGrupos(bool porGrupos);
+    /// Goes on to the group `pasos` away, as far as there are groups; from the whole slab to its first one.
+    void CambiarGrupo(int pasos);
 
     EstadoLosas& Estado() { return estado_; }
     LosaCalculada Calculada() const { return {estado_.Abierta, aplicacion_.Generales, estado_.Resultados}; }
@@ -66,6 +71,7 @@ class Losas : private programa::ElementoDeLista {
     void AlVaciar() override;
     void AlLlenar() override;
     void PonerEncabezado();
+    void MostrarGrupo(bool porGrupos, std::size_t grupo);
 
     programa::Aplicacion& aplicacion_;
     programa::PantallaEspacio& espacio_;

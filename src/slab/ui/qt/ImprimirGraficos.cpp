@@ -12,18 +12,24 @@ void DibujarGraficosLosas(dibujo::qt::PapelQt& papel, const losas::salida::Proye
     const dibujo::DatosDePagina pagina{usuario, origen.Datos.Proyecto, origen.Datos.Calculista};
     dibujo::losa::HojaLosa hoja = pantalla;
     if (pedido.Todas) hoja.Vista = {};
+    const bool entera = hoja.Vista.Zoom == 1 && hoja.Vista.PanX == 0 && hoja.Vista.PanY == 0;
+    if (entera) hoja.PorGrupos = true;
     const int losas = pedido.Todas ? origen.Proyecto.RegistrosProyecto.NumeroRegistros() : 1;
     const std::size_t total = pedido.Dibujos.size() * static_cast<std::size_t>(losas);
     std::size_t hechos = 0;
     losas::salida::RecorrerLosas(origen, pedido.Todas, [&](const losas::salida::LosaDelProyecto& losa) {
+        const std::size_t hojas = dibujo::losa::HojasDe(losa.Datos);
         for (const losas::salida::DibujoDeLosa& dibujo : pedido.Dibujos) {
             Avisar(avance, hechos++, total);
             hoja.VistaActual = dibujo.Vista;
             hoja.SoloReacciones = dibujo.SoloReacciones;
-            papel.Pagina([&](dibujo::Lienzo& lienzo) {
-                dibujo::losa::GuardeGraficos1(lienzo, hoja, {losa.Datos, losa.Generales, losa.Resultados},
-                                              pagina);
-            });
+            for (std::size_t k = 1; k <= (entera ? hojas : 1); ++k) {
+                if (entera) hoja.Grupo = k;
+                papel.Pagina([&](dibujo::Lienzo& lienzo) {
+                    dibujo::losa::GuardeGraficos1(lienzo, hoja, {losa.Datos, losa.Generales, losa.Resultados},
+                                                  pagina);
+                });
+            }
         }
     });
 }

@@ -1,5 +1,6 @@
 #include "slab/ui/qt/VentanaLosas.h"
 
+#include <QAction>
 #include <QButtonGroup>
 #include <QGroupBox>
 #include <QRadioButton>
@@ -23,6 +24,7 @@ constexpr std::array<const char*, 3> TitulosDeHoja{"&Geometría de la Losa", "&C
                                                    "&Diseño y Reacciones"};
 
 constexpr const char* ClaveOpcionCarga = "cargas/Losas";
+constexpr const char* ClavePorGrupos = "grupos/Losas";
 
 }  // namespace
 
@@ -38,6 +40,9 @@ VentanaLosas::VentanaLosas(programa::Aplicacion& aplicacion, const programa::Ser
         {"ID_Nueva", [this] { operaciones_.CrearNueva(); }},
         {"ID_Editar", [this] { operaciones_.Modificar(); }},
         {"ID_Copiar", [this] { operaciones_.CrearDesdeSeleccionada(); }},
+        {"ID_PorGrupos", [this] { operaciones_.VerPorGrupos(!operaciones_.Estado().Hoja.PorGrupos); }},
+        {"ID_GrupoAnterior", [this] { operaciones_.CambiarGrupo(-1); }},
+        {"ID_GrupoSiguiente", [this] { operaciones_.CambiarGrupo(1); }},
     };
     for (const auto& [clave, operacion] : otras)
         propias[clave] = [this, operacion = operacion] { operacion(operaciones_, *this); };
@@ -48,6 +53,8 @@ VentanaLosas::VentanaLosas(programa::Aplicacion& aplicacion, const programa::Ser
            },
            [this](int hoja) { operaciones_.ElegirHoja(static_cast<dibujo::losa::VistaLosa>(hoja)); },
            std::move(propias), OpcionesDeCarga()});
+    Accion("ID_PorGrupos")->setCheckable(true);
+    if (QSettings().value(ClavePorGrupos).toBool()) operaciones_.VerPorGrupos(true);
     const int recordada = QSettings().value(ClaveOpcionCarga).toInt();
     if (QAbstractButton* opcion = opcionCarga_->button(recordada)) opcion->click();
 }
@@ -70,6 +77,11 @@ QWidget* VentanaLosas::OpcionesDeCarga() {
 
 void VentanaLosas::MarcarOpcionCarga(dibujo::losa::OpcionDeCarga opcion) {
     opcionCarga_->button(opcion)->setChecked(true);
+}
+
+void VentanaLosas::MarcarPorGrupos(bool porGrupos) {
+    Accion("ID_PorGrupos")->setChecked(porGrupos);
+    QSettings().setValue(ClavePorGrupos, porGrupos);
 }
 
 bool VentanaLosas::MostrarLosaNueva() {

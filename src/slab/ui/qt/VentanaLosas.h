@@ -21,6 +21,7 @@ class VentanaLosas : public programa::qt::VentanaEspacio, private PantallaLosas 
 
   private:
     void MarcarOpcionCarga(dibujo::losa::OpcionDeCarga opcion) override;
+    void MarcarPorGrupos(bool porGrupos) override;
     bool MostrarLosaNueva() override;
     bool MostrarLosaSalvarComo() override;
     bool MostrarLosaDatos() override;
