@@ -42,6 +42,13 @@ struct MedidaTexto {
     std::int32_t Alto = 0;  ///< of a line: the same for every text of a font
 };
 
+/// Where the metres of a drawing lie on its canvas: canvas units per metre, and the point of the world's (0,
+/// 0).
+struct MetrosEnLienzo {
+    double PorMetro = 0;  ///< 0: none were told
+    PuntoLienzo Origen;
+};
+
 /// The surface that drawings are made on: a raster with a persistent picture on a screen, a page on a
 /// printer. It has a current font and text colour; pens and fills are given with each figure.
 class Lienzo {
@@ -70,6 +77,11 @@ class Lienzo {
     virtual void Circulo(PuntoLienzo centro, std::int32_t radio, const std::optional<Pluma>& pluma,
                          const std::optional<Color>& relleno) = 0;
     virtual void Pixel(PuntoLienzo lugar, Color color) = 0;
+
+    // What a picture has no use for, and a file for other programs has.
+    /// The figures from here on belong to a layer, by its name; texts have one of their own.
+    virtual void PonerCapa(std::string_view /*capa*/) {}
+    virtual void PonerMetros(const MetrosEnLienzo& /*metros*/) {}
 };
 
 }  // namespace trabex::dibujo

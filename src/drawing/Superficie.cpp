@@ -37,6 +37,7 @@ Plano Encuadrar(Lienzo& lienzo, EstadoVista& vista, const Superficie& superficie
     vista.OrigenX = Pixeles(lienzo.ScaleWidth() / 2.0 + pan * vista.PanX);
     vista.OrigenY = Pixeles(encuadre.Metros * vista.Escala + lienzo.ScaleHeight() * encuadre.ParteDelAlto +
                             pan * vista.PanY);
+    lienzo.PonerMetros({vista.Escala, {vista.OrigenX, vista.OrigenY}});
     lienzo.PonerColorTexto(lienzo.ColorTextoDeBotones());
     return Plano(lienzo, vista, superficie.FuenteNombre);
 }

@@ -1,15 +1,19 @@
 #include "drawing/Trazos.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <utility>
+
+#include "drawing/LienzoMudo.h"
 
 namespace trabex::dibujo {
 
 namespace {
 
-// A drawing: the mark, width and height, then its strokes, each a letter and what it needs. Whole numbers
-// take seven bits a byte, the small ones of either sign first.
+// A drawing: the mark, width, height and side of a pixel, then its strokes, each a letter and what it needs.
+// Whole numbers take seven bits a byte, the small ones of either sign first.
 constexpr std::string_view Marca = "TRAZOS1\n";
 enum Trazo : char {
     Letra = 'F',
@@ -18,7 +22,9 @@ enum Trazo : char {
     Recta = 'L',
     Figura = 'P',
     Rueda = 'O',
-    Punto = 'X'
+    Punto = 'X',
+    Capa = 'K',
+    Metros = 'M'
 };
 constexpr std::int32_t LadoMayor = 1 << 24;
 
@@ -39,6 +45,11 @@ class Escritor {
         Entero(static_cast<std::int64_t>(texto.size()));
         bytes_ += texto;
         return *this;
+    }
+    Escritor& Real(double valor) {
+        std::array<char, 32> cifras{};
+        const auto fin = std::to_chars(cifras.data(), cifras.data() + cifras.size(), valor).ptr;
+        return Texto({cifras.data(), static_cast<std::size_t>(fin - cifras.data())});
     }
     Escritor& Lugar(PuntoLienzo punto) { return Entero(punto.x).Entero(punto.y); }
     Escritor& Tinta(Color color) {
@@ -93,6 +104,13 @@ class Lector {
         std::string texto(bytes_.substr(0, static_cast<std::size_t>(largo)));
         bytes_.remove_prefix(texto.size());
         return texto;
+    }
+    double Real() {
+        const std::string cifras = Texto();
+        double valor = 0;
+        const auto leido = std::from_chars(cifras.data(), cifras.data() + cifras.size(), valor);
+        if (leido.ec != std::errc() || !std::isfinite(valor)) return Mal(), 0;
+        return valor;
     }
     PuntoLienzo Lugar() {
         const std::int32_t x = Entero();
@@ -196,34 +214,28 @@ void RepetirUno(Lector& lector, Lienzo& destino, AlEscribir alEscribir) {
             if (lector.Bien()) destino.Pixel(lugar, color);
             return;
         }
+        case Capa: {
+            const std::string capa = lector.Texto();
+            if (lector.Bien()) destino.PonerCapa(capa);
+            return;
+        }
+        case Metros: {
+            const double porMetro = lector.Real();
+            const MetrosEnLienzo metros{porMetro, lector.Lugar()};
+            if (lector.Bien()) destino.PonerMetros(metros);
+            return;
+        }
         default:
             lector.Mal();
     }
 }
 
-/// A canvas that only reads along.
-class LienzoMudo : public Lienzo {
-  public:
-    std::int32_t ScaleWidth() const override { return 0; }
-    std::int32_t ScaleHeight() const override { return 0; }
-    void Limpiar() override {}
-    void PonerFuente(const Fuente&) override {}
-    void PonerColorTexto(Color) override {}
-    Color ColorTextoDeBotones() const override { return {}; }
-    MedidaTexto Medir(std::string_view) override { return {}; }
-    void Texto(std::string_view, PuntoLienzo, std::int32_t) override {}
-    void Linea(PuntoLienzo, PuntoLienzo, const Pluma&) override {}
-    void Poligono(std::span<const PuntoLienzo>, const std::optional<Pluma>&,
-                  const std::optional<Color>&) override {}
-    void Circulo(PuntoLienzo, std::int32_t, const std::optional<Pluma>&,
-                 const std::optional<Color>&) override {}
-    void Pixel(PuntoLienzo, Color) override {}
-};
-
 std::optional<MedidaDeTrazos> LeerMedida(Lector& lector) {
-    const MedidaDeTrazos medida{lector.Entero(), lector.Entero()};
+    const MedidaDeTrazos medida{lector.Entero(), lector.Entero(), lector.Entero()};
     const auto vale = [](std::int32_t lado) { return lado > 0 && lado <= LadoMayor; };
-    return lector.Bien() && vale(medida.Ancho) && vale(medida.Alto) ? std::optional(medida) : std::nullopt;
+    return lector.Bien() && vale(medida.Ancho) && vale(medida.Alto) && vale(medida.LadoDePixel)
+               ? std::optional(medida)
+               : std::nullopt;
 }
 
 /// Draws what the bytes hold on a canvas, save its texts, which are handed over.
@@ -243,7 +255,7 @@ LienzoConTrazos::LienzoConTrazos(Lienzo& destino) : destino_(destino) {
 
 void LienzoConTrazos::Empezar() {
     trazos_ = Marca;
-    Escritor(trazos_).Entero(ScaleWidth()).Entero(ScaleHeight());
+    Escritor(trazos_).Entero(ScaleWidth()).Entero(ScaleHeight()).Entero(LadoDePixel());
 }
 
 void LienzoConTrazos::Limpiar() {
@@ -309,10 +321,25 @@ void LienzoConTrazos::Pixel(PuntoLienzo lugar, Color color) {
     Escritor(trazos_).Octeto(Punto).Lugar(lugar).Tinta(color);
 }
 
+void LienzoConTrazos::PonerCapa(std::string_view capa) {
+    destino_.PonerCapa(capa);
+    Escritor(trazos_).Octeto(Capa).Texto(capa);
+}
+
+void LienzoConTrazos::PonerMetros(const MetrosEnLienzo& metros) {
+    destino_.PonerMetros(metros);
+    Escritor(trazos_).Octeto(Metros).Real(metros.PorMetro).Lugar(metros.Origen);
+}
+
 std::optional<MedidaDeTrazos> MedidaDe(std::string_view trazos) {
     if (!trazos.starts_with(Marca)) return std::nullopt;
     Lector lector(trazos.substr(Marca.size()));
     return LeerMedida(lector);
+}
+
+void Repetir(std::string_view trazos, Lienzo& destino,
+             const std::function<void(const TextoTrazado&)>& alEscribir) {
+    Recorrer(trazos, destino, alEscribir);
 }
 
 void Repetir(std::string_view trazos, Lienzo& destino) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -33,6 +34,8 @@ class LienzoConTrazos : public Lienzo {
     void Circulo(PuntoLienzo centro, std::int32_t radio, const std::optional<Pluma>& pluma,
                  const std::optional<Color>& relleno) override;
     void Pixel(PuntoLienzo lugar, Color color) override;
+    void PonerCapa(std::string_view capa) override;
+    void PonerMetros(const MetrosEnLienzo& metros) override;
 
   private:
     void Empezar();
@@ -43,15 +46,14 @@ class LienzoConTrazos : public Lienzo {
     std::string trazos_;
 };
 
-/// The size of the canvas that was drawn on, in its units. Nothing when the bytes are not those of a drawing.
+/// The size of the canvas that was drawn on and of a plotted pixel, in its units. Nothing when the bytes are
+/// not those of a drawing.
 struct MedidaDeTrazos {
     std::int32_t Ancho = 0;
     std::int32_t Alto = 0;
+    std::int32_t LadoDePixel = 1;
 };
 std::optional<MedidaDeTrazos> MedidaDe(std::string_view trazos);
-
-/// Draws them again; bytes that are damaged end the drawing.
-void Repetir(std::string_view trazos, Lienzo& destino);
 
 /// A text of a drawing: where its top left corner stands, its size before it turns about that corner, and by
 /// how much.
@@ -62,5 +64,11 @@ struct TextoTrazado {
     std::int32_t DecimasDeGrado = 0;
 };
 std::vector<TextoTrazado> TextosDe(std::string_view trazos);
+
+/// Draws them again; bytes that are damaged end the drawing. With `alEscribir` texts go there, with their
+/// size at the first drawing.
+void Repetir(std::string_view trazos, Lienzo& destino);
+void Repetir(std::string_view trazos, Lienzo& destino,
+             const std::function<void(const TextoTrazado&)>& alEscribir);
 
 }  // namespace trabex::dibujo

@@ -13,7 +13,8 @@ constexpr const char* SalidaResultados = "resultados";
 
 /// Every output by its name, once.
 std::vector<std::string> Salidas(Modulos modulos) {
-    std::vector<std::string> nombres{SalidaResultados, SalidaHojas, SalidaReportes, SalidaMemoria};
+    std::vector<std::string> nombres{SalidaResultados, SalidaHojas, SalidaReportes, SalidaMemoria,
+                                     SalidaVectores};
     for (const Modulo* modulo : modulos) {
         for (const Intercambio& intercambio : modulo->Intercambios) {
             if (std::find(nombres.begin(), nombres.end(), intercambio.Clave) == nombres.end())

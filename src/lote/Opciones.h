@@ -23,7 +23,9 @@ struct Opciones {
 
 inline constexpr const char* SalidaHojas = "hojas";
 inline constexpr const char* SalidaReportes = "reportes";
-inline constexpr const char* SalidaMemoria = "memoria";  ///< only where it is asked for by name
+// Only where they are asked for by name.
+inline constexpr const char* SalidaMemoria = "memoria";
+inline constexpr const char* SalidaVectores = "vectores";
 
 /// The arguments after the program's name. Nothing when they are not
 /// `[--sin-dibujos] [--solo=SALIDA,…] PROYECTO CARPETA`, or name an output that neither the program nor a

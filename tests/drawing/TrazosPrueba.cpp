@@ -17,6 +17,8 @@ std::string DibujoDePrueba(LienzoGrabador& original) {
     lienzo.PonerColorTexto({1, 2, 255});
     DibujeTexto(lienzo, "se borra", 0, 0, 0);
     lienzo.Limpiar();
+    lienzo.PonerMetros({55.123456789, {-3, 7}});
+    lienzo.PonerCapa("EJES");
     DibujeTexto(lienzo, "Ñandú", -7, 2000000, 90);
     DibujeLinea(lienzo, -1, 2, 300, -40000, 3, EstiloLinea::Punteada, {9, 8, 7});
     DibujeFlecha(lienzo, 5, 6, HaciaArriba, {200, 100, 0}, 100);

@@ -141,7 +141,7 @@ TEST(ExportarGrafico, SalvaLaImagenConSuZoomYRecuerdaLaCarpeta) {
     DialogosGuiados dialogos;
     PlataformaGuiada plataforma(carpeta.Camino());
     dialogos.Elegidos = {carpeta / "otra" / "g.bmp", carpeta / "otra" / "g.jpg",
-                         carpeta / "no hay" / "g.bmp"};
+                         carpeta / "no hay" / "g.bmp", carpeta / "g.svg", carpeta / "g.dxf"};
     LosaDibujada losa;
     double zoom = 0;
     {
@@ -163,14 +163,21 @@ TEST(ExportarGrafico, SalvaLaImagenConSuZoomYRecuerdaLaCarpeta) {
         Pulsar(ventana, " Exportar ");
         Pulsar(ventana, " Exportar ");
         ventana.findChild<QPushButton*>("Carpeta")->click();
+        for (const char* formato : {"Dibujo Vectorial (SVG)", "Dibujo para Programas de CAD (DXF)"}) {
+            Pulsar(ventana, formato);
+            Pulsar(ventana, " Exportar ");
+        }
     }
-    ASSERT_EQ(dialogos.Peticiones.size(), 3U);
+    ASSERT_EQ(dialogos.Peticiones.size(), 5U);
     EXPECT_EQ(dialogos.Peticiones[0].Titulo, "Salvar el Gráfico Seleccionado");
     EXPECT_EQ(dialogos.Peticiones[0].Filtro, "Image (*.bmp)|*.bmp");
     EXPECT_EQ(dialogos.Peticiones[0].Carpeta, carpeta / "ReportesExportados");
     EXPECT_EQ(dialogos.Peticiones[1].Filtro, "Image (*.jpg)|*.jpg");
     EXPECT_EQ(dialogos.Peticiones[1].Carpeta, carpeta / "otra");
-    ASSERT_EQ(caja.Mensajes.size(), 3U);
+    // With the window's zoom; in metres there is none.
+    EXPECT_NE(LeerArchivo(carpeta / "g.svg").find("font-size=\"1360\""), std::string::npos);
+    EXPECT_NE(LeerArchivo(carpeta / "g.dxf").find("\n0.26\n"), std::string::npos);
+    ASSERT_EQ(caja.Mensajes.size(), 5U);
     EXPECT_EQ(caja.Mensajes[0].Texto, "¡El Reporte se Exportó con Exito!");
     EXPECT_EQ(caja.Mensajes[0].Encabezado, "Exportar Gráficos...");
     EXPECT_EQ(caja.Mensajes[2].Texto.substr(0, 17), "Error Número: 76");

@@ -54,10 +54,7 @@ class Salidas {
 
     void EscribirHojasYReportes() {
         for (const Lista& lista : calculado_.Listas) {
-            if (lista.De->Dibujos && !opciones_.SinDibujos && opciones_.Pide(SalidaHojas)) {
-                EscribirHojas(lista, calculado_.Datos, opciones_.Carpeta / lista.De->Clave, marcha_, faltas_);
-                Cerrar("Hojas de las " + std::string(lista.De->Plural), opciones_.Carpeta / lista.De->Clave);
-            }
+            if (lista.De->Dibujos && !opciones_.SinDibujos) EscribirLosDibujos(lista);
         }
         if (opciones_.Pide(SalidaReportes)) EscribirLosReportes();
         if (opciones_.Solo.contains(SalidaMemoria)) {
@@ -83,6 +80,18 @@ class Salidas {
         for (const Lista& lista : calculado_.Listas) {
             for (const Intercambio& intercambio : lista.De->Intercambios)
                 EscribirIntercambio(lista, intercambio);
+        }
+    }
+
+    void EscribirLosDibujos(const Lista& lista) {
+        const std::filesystem::path carpeta = opciones_.Carpeta / lista.De->Clave;
+        if (opciones_.Pide(SalidaHojas)) {
+            EscribirHojas(lista, calculado_.Datos, carpeta, marcha_, faltas_);
+            Cerrar("Hojas de las " + std::string(lista.De->Plural), carpeta);
+        }
+        if (opciones_.Solo.contains(SalidaVectores)) {
+            EscribirVectores(lista, carpeta, marcha_, faltas_);
+            Cerrar("Dibujos SVG y DXF de las " + std::string(lista.De->Plural), carpeta);
         }
     }
 

@@ -15,4 +15,8 @@ namespace trabex::lote::qt {
 void EscribirHojas(const Lista& lista, const DatosDelProyecto& datos, const std::filesystem::path& carpeta,
                    const Marcha& marcha, Faltas& faltas);
 
+/// The same drawings as `<number>-<name>-<drawing>.svg` and `.dxf`.
+void EscribirVectores(const Lista& lista, const std::filesystem::path& carpeta, const Marcha& marcha,
+                      Faltas& faltas);
+
 }  // namespace trabex::lote::qt

@@ -14,18 +14,20 @@ namespace trabex::reportes::ui {
 struct FormatoGrafico {
     const char* Opcion;
     const char* Filtro;
-    const char* Clase;  ///< as image libraries name it
+    const char* Clase;  ///< of a picture, as image libraries name it
 };
-inline constexpr std::array<FormatoGrafico, 2> FormatosGrafico{{
+inline constexpr std::array<FormatoGrafico, 4> FormatosGrafico{{
     {"Imagen en Formato de Mapa de Bits (BMP)", "Image (*.bmp)|*.bmp", "BMP"},
     {"Imagen en Formato (JPG)", "Image (*.jpg)|*.jpg", "JPG"},
+    {"Dibujo Vectorial (SVG)", "Dibujo (*.svg)|*.svg", "SVG"},
+    {"Dibujo para Programas de CAD (DXF)", "Dibujo (*.dxf)|*.dxf", "DXF"},
 }};
 
 /// What the operations ask of the window that shows the drawing.
 class PantallaExportarGrafico {
   public:
     virtual ~PantallaExportarGrafico() = default;
-    /// Saves the window's picture, a JPEG in quality 100. Throws ErrorEjecucion.
+    /// Saves the window's picture, a JPEG in quality 100, or its drawing. Throws ErrorEjecucion.
     virtual void Guardar(const std::filesystem::path& archivo, const FormatoGrafico& formato) = 0;
 };
 

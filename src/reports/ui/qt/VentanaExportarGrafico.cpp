@@ -10,7 +10,10 @@
 #include <QVBoxLayout>
 
 #include "base/Archivos.h"
+#include "drawing/archivos/DibujoDxf.h"
+#include "drawing/archivos/DibujoSvg.h"
 #include "drawing/qt/ImagenDeHoja.h"
+#include "drawing/qt/TrazosFinos.h"
 #include "drawing/qt/WidgetLienzo.h"
 #include "shell/qt/ComunVentanas.h"
 
@@ -93,6 +96,15 @@ QLayout* VentanaExportarGrafico::Controles() {
 void VentanaExportarGrafico::Guardar(const std::filesystem::path& archivo, const FormatoGrafico& formato) {
     // On a copy of the viewport, since a drawing leaves its scale in it.
     dibujo::EstadoVista visor = operaciones_.Viewport();
+    const std::string_view clase = formato.Clase;
+    if (clase == "SVG" || clase == "DXF") {
+        visor = dibujo::qt::EnTrazosFinos(visor);
+        const std::string trazos = dibujo::qt::TrazosFinos(
+            lienzo_->width(), lienzo_->height(), [&](dibujo::Lienzo& lienzo) { dibujar_(lienzo, visor); });
+        EscribirArchivo(archivo, clase == "DXF" ? dibujo::archivos::DibujoDxf(trazos)
+                                                : dibujo::archivos::DibujoSvg(trazos, "Trabex 2024"));
+        return;
+    }
     const QImage imagen = dibujo::qt::DibujarImagen(lienzo_->width(), lienzo_->height(), Finura,
                                                     [&](dibujo::Lienzo& lienzo) { dibujar_(lienzo, visor); });
     QBuffer bytes;
