@@ -9,6 +9,7 @@
 #include <glib.h>
 
 #include "base/Archivos.h"
+#include "base/Formatos.h"
 #include "base/Marcado.h"
 #include "base/Texto.h"
 #include "reports/salidas/ImagenPng.h"
@@ -40,7 +41,11 @@ div.imagen img { max-width: 100%; height: auto }
 p.pie { font-style: italic; margin: .3em 0 }
 p.banda { color: #555555; font-size: 90%; border-bottom: 1px solid #d9dfe5; padding-bottom: .3em }
 @media print {
-  body { max-width: none; margin: 0; padding: 0 }
+  body { max-width: none; margin: 0; padding: 0; font-size: 9pt }
+  p.banda { break-after: avoid }
+  h3 { margin-top: .8em }
+  table { margin-bottom: .6em }
+  table.datos td { padding: .05em .5em }
   div.pagina { page-break-before: always }
   div.junta { page-break-inside: avoid; break-inside: avoid }
   h1, h2, h3 { page-break-after: avoid; break-after: avoid }
@@ -60,6 +65,15 @@ std::string Escapado(std::string_view texto) {
             salida += c;
     }
     return salida;
+}
+
+/// The sheet and its margins, for printing.
+std::string HojaImpresa(const documento::Pagina& papel) {
+    const documento::MedidaPagina hoja = documento::MedidaDe(papel);
+    const auto milimetros = [](double medida) { return " " + Formato(medida, "0.0", {"", "."}) + "mm"; };
+    return "@page { size:" + milimetros(hoja.Ancho) + milimetros(hoja.Alto) +
+           "; margin:" + milimetros(papel.MargenSuperior) + milimetros(papel.MargenDerecho) +
+           milimetros(papel.MargenInferior) + milimetros(papel.MargenIzquierdo) + " }\n";
 }
 
 /// For an attribute: without markup of line breaks.
@@ -113,8 +127,8 @@ std::string PaginaHtml::Principio() const {
            "<meta http-equiv=\"Content-Type\" content=\"text/html; charset=utf-8\">\n"
            "<meta name=\"author\" content=\"" +
            Atributo(documento_.Autor) + "\">\n<title>" + Atributo(titulo) +
-           "</title>\n<style type=\"text/css\">" + std::string(Estilo) + "</style>\n</head>\n<body>\n" +
-           Banda() + (TieneIndice() ? "" : Indice());
+           "</title>\n<style type=\"text/css\">" + std::string(Estilo) + HojaImpresa(documento_.Papel) +
+           "</style>\n</head>\n<body>\n" + Banda() + (TieneIndice() ? "" : Indice());
 }
 
 bool PaginaHtml::TieneIndice() const {

@@ -1,0 +1,102 @@
+"""HTML reports printed by a real browser: where their pages break."""
+
+import concurrent.futures
+import html.parser
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+
+LOTE, IMAGEN = sys.argv[1], pathlib.Path(sys.argv[2])
+NAVEGADOR = shutil.which("chromium")
+
+
+def junto(texto):
+    return " ".join(texto.split())
+
+
+class Seccion(html.parser.HTMLParser):
+    """Headings of a report, and of each section that must stay together its texts in order."""
+
+    def __init__(self, texto):
+        super().__init__()
+        self.titulos, self.juntas, self.abierto, self.dentro = set(), [], None, False
+        self.feed(texto)
+
+    def handle_starttag(self, etiqueta, atributos):
+        if etiqueta == "div" and "id" in dict(atributos):
+            self.dentro = "junta" in dict(atributos).get("class", "").split()
+            if self.dentro:
+                self.juntas.append([])
+        elif etiqueta in ("h1", "h2", "h3", "p", "tr"):
+            self.abierto = (etiqueta, [])
+
+    def handle_data(self, dato):
+        if self.abierto:
+            self.abierto[1].append(dato)
+
+    def handle_endtag(self, etiqueta):
+        if not self.abierto or etiqueta != self.abierto[0]:
+            return
+        texto = junto(" ".join(self.abierto[1]))
+        if etiqueta.startswith("h"):
+            self.titulos.add(texto)
+        if self.dentro and texto:
+            self.juntas[-1].append(texto)
+        self.abierto = None
+
+
+class Impresion(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        carpeta = tempfile.TemporaryDirectory(prefix="impresion ")
+        cls.addClassCleanup(carpeta.cleanup)
+        raiz = pathlib.Path(carpeta.name)
+        shutil.copy(IMAGEN / "Ejemplo Demostrativo.tbx", raiz / "Obra.los")
+        subprocess.run([LOTE, "--solo=reportes", raiz / "Obra.los", raiz], check=True, capture_output=True)
+        subprocess.run([LOTE, "--sin-dibujos", "--solo=memoria", raiz / "Obra.los", raiz], check=True, capture_output=True)
+        archivos = [raiz / "reportes" / "losas-resultados.htm", raiz / "reportes" / "losas-graficos.htm",
+                    raiz / "memoria.htm"]
+        with concurrent.futures.ThreadPoolExecutor(2) as manos:
+            cls.paginas = dict(zip(("resultados", "graficos", "memoria"), manos.map(cls.imprimir, archivos)))
+        cls.textos = dict(zip(cls.paginas, (Seccion(archivo.read_text()) for archivo in archivos)))
+
+    @staticmethod
+    def imprimir(archivo):
+        """The lines of each page."""
+        pdf = archivo.with_suffix(".impreso.pdf")
+        subprocess.run([NAVEGADOR, "--headless", "--no-sandbox", "--disable-gpu", "--no-pdf-header-footer",
+                        f"--user-data-dir={archivo.with_suffix('.perfil')}", f"--print-to-pdf={pdf}", archivo.as_uri()],
+                       check=True, capture_output=True)
+        texto = subprocess.run(["pdftotext", "-layout", pdf, "-"], check=True, capture_output=True, text=True).stdout
+        return [[junto(linea) for linea in pagina.splitlines() if linea.strip()] for pagina in texto.split("\f")[:-1]]
+
+    def test_ningun_titulo_queda_al_pie_ni_hay_hojas_vacias(self):
+        for nombre, paginas in self.paginas.items():
+            for numero, lineas in enumerate(paginas, 1):
+                with self.subTest(nombre, pagina=numero):
+                    self.assertTrue(lineas)
+                    self.assertNotIn(lineas[-1], self.textos[nombre].titulos)
+
+    def test_cada_losa_queda_en_su_hoja(self):
+        hojas = [junto(" ".join(lineas)) for lineas in self.paginas["resultados"]]
+        for losa in self.textos["resultados"].juntas:
+            with self.subTest(losa[0]):
+                hoja = next(hoja for hoja in hojas if losa[0] in hoja)
+                desde = hoja.index(losa[0])
+                for texto in losa[1:]:
+                    self.assertIn(texto, hoja[desde:])
+
+    def test_los_dibujos_de_una_losa_no_se_mezclan_con_los_de_otra(self):
+        pies = [{linea.split(":")[0] for linea in lineas if ": " in linea and linea.split(":")[0].startswith("L-")}
+                for lineas in self.paginas["graficos"]]
+        self.assertTrue(all(len(losas) == 1 for losas in pies), pies)
+
+
+if __name__ == "__main__":
+    if not NAVEGADOR:
+        print("chromium is not installed")
+        sys.exit(77)
+    unittest.main(argv=sys.argv[:1])
