@@ -20,11 +20,13 @@ namespace {
 using prueba::LienzoGrabador;
 using Puntos = std::vector<PuntoLienzo>;
 
-/// What is drawn, as texts: "5,00 @338,90", and a figure's colour with its first and third corners.
+/// What is drawn, as texts: "5,00 @338,90", a line's two ends, and a figure's colour with its first and third
+/// corners.
 std::multiset<std::string> Dibujado(const LienzoGrabador& lienzo) {
     std::multiset<std::string> dicho;
     const auto en = [](PuntoLienzo p) { return " @" + std::to_string(p.x) + "," + std::to_string(p.y); };
     for (const auto& t : lienzo.Textos) dicho.insert(t.Texto + en(t.Lugar));
+    for (const auto& l : lienzo.Lineas) dicho.insert("linea" + en(l.Puntos[0]) + en(l.Puntos[1]));
     for (const auto& f : lienzo.Poligonos)
         dicho.insert(std::to_string(f.Relleno->R) + "#" + std::to_string(f.Puntos.size()) + en(f.Puntos[0]) +
                      en(f.Puntos[2]));
@@ -49,7 +51,9 @@ TEST_F(BocetoPrueba, LosDatosConSuSeccion) {
     Esta(Lienzo,
          {"5,00 @338,90", "3,00 @738,90", "(0,00 ; 0,00) @562,136", "1 @97,243", "2 @597,243", "3 @897,243",
           // width of a rib, spacing, topping and depth of the section
-          "0,10 @420,523", "0,50 @614,545", "0,05 @646,406", "0,25 @330,449",
+          "0,10 @420,523", "0,50 @614,545", "0,05 @646,406", "0,25 @330,449", "linea @370,530 @414,530",
+          "linea @392,552 @608,552", "linea @640,402 @640,424", "linea @360,402 @360,510",
+          "linea @100,105 @600,105",
           // the marked span is yellow
           "205#4 @100,195 @600,165", "255#4 @600,195 @900,165", "222#8 @370,402 @630,510"});
     EXPECT_EQ(Lienzo.Textos.size(), 10U);

@@ -33,7 +33,7 @@ struct Escenario {
 const std::vector<Escenario> Escenarios{
     {"level", {4.2, 5.6, 3.4}, {1, 2, 4, 2}, {}, false},
     {"stepped up", {4.2, 5.6, 3.4}, {1, 2, 2, 2}, {{2, 0.1, 0.6}, {3, 0, 0.9}}, true},
-    {"stepped down", {4.2, 5.6}, {1, 2, 3}, {{1, 0.3, 0}, {2, 0, -0.4}, {3, -0.2, -0.4}}, false, 1.3},
+    {"stepped down", {4.2, 5.6}, {1, 2, 3}, {{1, 0, -0.15}, {2, 0, -0.4}, {3, -0.2, -0.4}}, false, 1.3},
     {"cantilever at the left", {2.1, 5.6, 4.4}, {5, 1, 2, 2}, {}, true},
     {"cantilever at the right", {5.2, 4.4, 2.2}, {1, 2, 2, 5}, {}, false, 0.6},
     {"cantilevers at both ends", {2.1, 6.6, 2.3}, {5, 1, 2, 5}, {}, false},
@@ -177,7 +177,7 @@ void Hoja::Base() {
         EXPECT_NEAR(carga.Decimas, std::atan(Tangente(i)) * 1800 / 3.14159265358979, 5);
         for (const auto& [color, desde, hasta] :
              {std::tuple{Color{156, 177, 182}, -0.15, 0.15}, {Color{248, 199, 199}, 0.15, 0.55}}) {
-            const auto& banda = L.DeColor(color).at(i - 1).Puntos;
+            const auto banda = L.DeColor(color).at(i - 1).Puntos;
             EXPECT_TRUE(Cerca(banda[0].x, X(ex[i])) && Cerca(banda[0].y, Y(ey[i] + desde)) &&
                         Cerca(banda[2].x, X(ex[i + 1])) && Cerca(banda[2].y, Y(ey[i + 1] + hasta)));
         }
@@ -216,11 +216,21 @@ void Hoja::Base() {
                   1U);
         EXPECT_TRUE(Dice(D.Ejes[j].Eje, x, Centrado, 2, circulo - 2, circulo + 2).Letra.Negrita);
     }
+    EXPECT_EQ(Cuenta(L.Lineas,
+                     [&](const auto& l) {
+                         return l.Borde->Estilo == EstiloLinea::Punteada && l.Borde->Ancho == 1 &&
+                                Cerca(l.Puntos[0].x, X(ex[1])) && Cerca(l.Puntos[1].x, X(ex[N + 1])) &&
+                                l.Puntos[0].y == H.Vista.OrigenY;
+                     }),
+              1U);
     for (std::size_t k = 1; k < D.JuntasD.size(); ++k) {
         const JuntaD& j = D.JuntasD[k];
         const auto eje = static_cast<std::size_t>(j.Junta);
-        Dice(j.x == 0 ? Numero(j.y, 2) : Numero(j.x, 2) + " ; " + Numero(j.y, 2), X(ex[eje]), Centrado, 2,
-             Y(ey[eje] + 1.5), Y(ey[eje] + 0.5));
+        const std::string ambas = Numero(j.x, 2) + " ; " + Numero(j.y, 2);
+        Dice(j.x == 0   ? Numero(j.y, 2)
+             : j.y == 0 ? Numero(j.x, 2)
+                        : ambas,
+             X(ex[eje]), Centrado, 2, Y(ey[eje] + 1.5), Y(ey[eje] + 0.5));
     }
 }
 
