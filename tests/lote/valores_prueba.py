@@ -88,7 +88,7 @@ M_AVISOS = "Aviso=a.gravedad.capitalize(); Lugar=a.lugar; Qué=a.texto"
 M_ESCALERA = ("Longitud del tramo L=L:2 m; Ancho B=B:2 m; Altura H=H:2 m; Espesor del tramo=HT:2 m; Espesor del descanso=Hd:2 m; "
               "Carga total del tramo=WT:,0 kgf/m; Carga total del descanso=Wd:,0 kgf/m; Permanente del descanso=WpD:,0 kgf/m")
 M_FLIGHT = ("X (m)=L-s.X:2; Carga total M (kgf·m)=s.MomentoTotal:,0; Carga total V (kgf)=s.CorteTotal:,0; "
-            "Permanente M (kgf·m)=s.MomentoPermanente:,0; Axial (kgf)=s.Axial:,0; My (kgf·m)=s.MomentoY:,0; T (kgf·m)=s.Torsor:,0; "
+            "M perm. (kgf·m)=s.MomentoPermanente:,0; Axial (kgf)=s.Axial:,0; My (kgf·m)=s.MomentoY:,0; T (kgf·m)=s.Torsor:,0; "
             "As (cm²) sup.=s.AsSuperior:2; As (cm²) inf.=s.AsInferior:2; As (cm²) tors.=s.AsTorsion:2; As (cm²) lat.=s.AsY:2; "
             "Estribos A (cm²)=s.AreaEstribo:2; Estribos s (cm)=s.SeparacionEstribo:1")
 M_DESCANSO = ("θ (º)=s.Angulo:0; Mx (kgf·m)=s.MomentoTotal:,0; Vx (kgf)=s.CorteTotal:,0; Vy (kgf)=s.CorteY:,0; Axial (kgf)=s.Axial:,0; "
@@ -356,8 +356,8 @@ class Valores(unittest.TestCase):
             tabla((None, "NIVELES DE MARKUS"), R_MARKUS, [De(n) for n in d.marcus]),
             tabla((None, "ANÁLISIS DE CARGA"), R_CARGAS, [De(a) for a in d.analisisCarga])]
 
-        def avisos(elemento):
-            return [tabla((elemento.Nombre, "Verificaciones"), M_AVISOS, [De(elemento, a=a) for a in elemento.avisos])] * bool(elemento.avisos)
+        def avisos(elemento, titulo="Verificaciones"):
+            return [tabla((elemento.Nombre, titulo), M_AVISOS, [De(elemento, a=a) for a in elemento.avisos])] * bool(elemento.avisos)
 
         for losa in d.losas:
             tramos, ejes = de_losa(losa, g)
@@ -411,7 +411,7 @@ class Valores(unittest.TestCase):
                 ficha((e.Nombre, "Verificaciones"), "Reacción vertical=FV:,0 kgf; Reacción horizontal=Fh:,0 kgf", De(e))] + avisos(e)
         for nivel in d.marcus:
             columnas = MARKUS.format("Paño", "", "", "", 2, "", "", "")
-            esperados += [tabla((nivel.Nombre, None), columnas, [De(nivel, i=i, f=f) for i, f in enumerate(nivel.Filas, 1)])]
+            esperados += [tabla((nivel.Nombre, None), columnas, [De(nivel, i=i, f=f) for i, f in enumerate(nivel.Filas, 1)])] + avisos(nivel, None)
         for a in d.analisisCarga:
             otras = [["Carga permanente", numero(a.CP, ",2")], ["Carga variable: " + a.Variable.Descripcion, numero(a.CV, ",2")], ["Carga total", numero(a.Carga, ",2")]]
             esperados += [tabla((a.Descripcion, None), "Partida=f.Descripcion; Peso (kgf/m²)=f.Peso:,2", [De(a, f=f) for f in a.Permanentes] + otras),
