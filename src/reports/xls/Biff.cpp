@@ -62,7 +62,20 @@ std::string TextoBiff::Trozo(std::size_t desde, std::size_t cuantos) const {
     return octetos.Bytes();
 }
 
+namespace {
+
+std::string Cabecera(std::uint16_t tipo, std::size_t largo) {
+    return Octetos().U16(tipo).U16(largo).Bytes();
+}
+
+}  // namespace
+
 void AgregarRegistro(std::string& flujo, std::uint16_t tipo, const Octetos& datos) {
+    if (datos.Bytes().size() <= DatosPorRegistro) {  // as nearly all are
+        flujo += Cabecera(tipo, datos.Bytes().size());
+        flujo += datos.Bytes();
+        return;
+    }
     const Salida alFlujo = [&flujo](std::string_view bytes) { flujo += bytes; };
     RegistroPorPartes registro(alFlujo, tipo);
     registro.Agregar(datos.Bytes());
@@ -79,7 +92,7 @@ void RegistroPorPartes::Agregar(std::string_view bytes) {
 }
 
 void RegistroPorPartes::Terminar() {
-    salida_(Octetos().U16(tipo_).U16(parte_.size()).Bytes());
+    salida_(Cabecera(tipo_, parte_.size()));
     salida_(parte_);
     parte_.clear();
     tipo_ = Continuacion;
