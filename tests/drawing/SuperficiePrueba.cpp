@@ -14,33 +14,6 @@ namespace {
 
 using prueba::LienzoGrabador;
 
-struct Regla {
-    std::int32_t Ancho, Alto;  ///< of the surface
-    ReglaDeEscala LaRegla;
-    double MetrosDeAncho, MetrosDeAlto;
-    double Escala;
-};
-
-class ReglaPrueba : public testing::TestWithParam<Regla> {};
-
-TEST_P(ReglaPrueba, MandaElMenorDeSusLimites) {
-    const auto& [ancho, alto, regla, metrosDeAncho, metrosDeAlto, escala] = GetParam();
-    EXPECT_DOUBLE_EQ(EscalaDeRegla(LienzoGrabador(ancho, alto), regla, metrosDeAncho, metrosDeAlto), escala);
-}
-
-constexpr double Siempre = 0;  // no limit by the height
-INSTANTIATE_TEST_SUITE_P(Reglas, ReglaPrueba,
-                         testing::Values(Regla{1000, 600, {0.8, 0.8}, 5, 8, 60},
-                                         Regla{1000, 600, {0.8, 0.8}, 5, 2, 160},
-                                         Regla{1000, 600, {1, 1}, 5, 2, 200},
-                                         Regla{1000, 100, {0.7}, 5, 100, 140},
-                                         Regla{4393, 6449, {0.6, Siempre, 350}, 3, 7.5, 350},
-                                         Regla{4200, 6449, {0.6, Siempre, 350}, 9, 7.5, 280},
-                                         Regla{6449, 4393, {0.4, Siempre, 600, true}, 4, 9, 600},
-                                         Regla{6400, 4393, {0.4, Siempre, 600, true}, 8, 9, 320},
-                                         Regla{4400, 6449, {0.4, Siempre, 600, true}, 2, 9, 880},
-                                         Regla{5000, 5000, {0.4, Siempre, 600, true}, 2, 9, 1000}));
-
 TEST(Superficie, ElOrigenSumaAltoMetrosYPanYRedondeaALaMitadPar) {
     LienzoGrabador lienzo(1001, 700);
     EstadoVista vista;

@@ -313,17 +313,10 @@ void Hoja::Diagrama(Color fondo, double unidades, bool momentos) {
 
 void Hoja::Fuerzas() {
     Base();
-    double corte = 0;
-    double momento = 0;
-    for (std::size_t i = 1; i <= N; ++i) {
-        corte = std::max({corte, std::fabs(Mayorado(i, &T::CorteA)), std::fabs(Mayorado(i, &T::CorteB))});
-        momento = std::max({momento, std::fabs(Mayorado(i, &T::MomentoA)),
-                            std::fabs(Mayorado(i, &T::MomentoB)), std::fabs(R.DisenoTramo[i].MT)});
-    }
     const Color deCorte{165, 191, 235};
     const Color deMomento{247, 194, 187};
-    Diagrama(deCorte, 0.8 * E / corte, false);
-    Diagrama(deMomento, 0.8 * E / momento, true);
+    Diagrama(deCorte, 0.8 * E / R.MaxCorte, false);
+    Diagrama(deMomento, 0.8 * E / std::max(R.MaxMomentoApoyo, R.MaxMomentoTramo), true);
     EXPECT_NEAR(Rotulado(Papel ? "Vu (kgf):" : "VU (kgf):"), L.DeColor(deCorte)[0].Puntos[0].y, 2 * px);
     EXPECT_NEAR(Rotulado(Papel ? "Mu (kgf-m):" : "MU (kgf-m):"), L.DeColor(deMomento)[0].Puntos[0].y, 2 * px);
     const double y = Rotulado(D.OpcionMaciza ? "(kgf/metro):" : "(kgf/Nervio):");

@@ -87,7 +87,7 @@ M_EQUILIBRIO = ("Equilibrio=nombre; Cargas (kgf)=cargas:,2; Reacciones verticale
 M_AVISOS = "Aviso=a.gravedad.capitalize(); Lugar=a.lugar; Qué=a.texto"
 M_ESCALERA = ("Longitud del tramo L=L:2 m; Ancho B=B:2 m; Altura H=H:2 m; Espesor del tramo=HT:2 m; Espesor del descanso=Hd:2 m; "
               "Carga total del tramo=WT:,0 kgf/m; Carga total del descanso=Wd:,0 kgf/m; Permanente del descanso=WpD:,0 kgf/m")
-M_FLIGHT = ("X (m)=L-s.X:2; Carga total M (kgf·m)=s.MomentoTotal:,0; Carga total V (kgf)=s.CorteTotal:,0; "
+M_TRAMO_T = ("X (m)=L-s.X:2; Carga total M (kgf·m)=s.MomentoTotal:,0; Carga total V (kgf)=s.CorteTotal:,0; "
             "M perm. (kgf·m)=s.MomentoPermanente:,0; Axial (kgf)=s.Axial:,0; My (kgf·m)=s.MomentoY:,0; T (kgf·m)=s.Torsor:,0; "
             "As (cm²) sup.=s.AsSuperior:2; As (cm²) inf.=s.AsInferior:2; As (cm²) tors.=s.AsTorsion:2; As (cm²) lat.=s.AsY:2; "
             "Estribos A (cm²)=s.AreaEstribo:2; Estribos s (cm)=s.SeparacionEstribo:1")
@@ -389,7 +389,7 @@ class Valores(unittest.TestCase):
             esperados += [
                 ficha((e.Nombre, "Datos"), M_ESCALERA, De(e)),
                 ficha((e.Nombre, "Datos"), M_MATERIALES + "Factor de seguridad FS=g.FS:2", De(e, g=d.EscaleraTG)),
-                tabla((e.Nombre, "Estaciones del tramo, desde el apoyo"), M_FLIGHT, [De(e, s=s) for s in reversed(e.TramoT)]),
+                tabla((e.Nombre, "Estaciones del tramo, desde el apoyo"), M_TRAMO_T, [De(e, s=s) for s in reversed(e.TramoT)]),
                 tabla((e.Nombre, "Estaciones del descanso"), M_DESCANSO, [De(e, s=s) for s in reversed(e.DescansoT)]),
                 self.pasos((e.Nombre, "Estación del tramo que rige por flexión" + equis[0]), {"mayor": max(rige.AsSuperior, rige.AsInferior)}),
                 self.pasos((e.Nombre, "Estación del tramo que rige por torsión" + equis[1]), {"s": cerca.SeparacionEstribo, "Al": cerca.AsTorsion}),

@@ -51,38 +51,15 @@ TEST(DisenoEscaleraT, EscaleraTrabajada) {
     ResultadosEscaleraT r;
     CalcularEscaleraT(prueba::EscaleraTTrabajada(), prueba::GeneralesTrabajados, r);
     ASSERT_FALSE(r.Error);
-    for (std::size_t i = 0; i <= 10; ++i) {
-        const EscaleraTramoPunto& p = r.TramoT[i];
-        const prueba::TramoTrabajado& e = prueba::TramosTrabajados[i];
-        Igual(p.MomentoTotal, e.MomentoTotal, "MomentoTotal", i);
-        Igual(p.MomentoPermanente, e.MomentoPermanente, "MomentoPermanente", i);
-        Igual(p.CorteTotal, e.CorteTotal, "CorteTotal", i);
-        Igual(p.CortePermanente, e.CortePermanente, "CortePermanente", i);
-        Igual(p.Axial, e.Axial, "Axial", i);
-        Igual(p.MomentoY, e.MomentoY, "MomentoY", i);
-        Igual(p.Torsor, e.Torsor, "Torsor", i);
-        Igual(p.AsSuperior, e.AsSuperior, "AsSuperior", i);
-        Igual(p.AsInferior, e.AsInferior, "AsInferior", i);
-        Igual(p.AsTorsion, e.AsTorsion, "AsTorsion", i);
-        Igual(p.AsY, e.AsY, "AsY", i);
-        Igual(p.SeparacionEstribo, e.SeparacionEstribo, "SeparacionEstribo", i);
-        EXPECT_EQ(p.AreaEstribo, e.AreaEstribo) << i;
-    }
+    for (std::size_t i = 0; i <= 10; ++i)
+        for (std::size_t k = 0; k < std::size(prueba::ColumnasDeTramo); ++k)
+            Igual(r.TramoT[i].*prueba::ColumnasDeTramo[k], prueba::TramosTrabajados[i][k], "tramo",
+                  100 * i + k);
     for (std::size_t j = 1; j <= 7; ++j) {
         const EscaleraDescansoPunto& p = r.DescansoT[j];
-        const prueba::DescansoTrabajado& e = prueba::DescansosTrabajados[j - 1];
-        Igual(p.MomentoTotal, e.MomentoTotal, "MomentoTotal del descanso", j);
-        Igual(p.MomentoPermanente, e.MomentoPermanente, "MomentoPermanente del descanso", j);
-        Igual(p.CorteTotal, e.CorteTotal, "CorteTotal del descanso", j);
-        Igual(p.CortePermanente, e.CortePermanente, "CortePermanente del descanso", j);
-        Igual(p.CorteY, e.CorteY, "CorteY", j);
-        Igual(p.Axial, e.Axial, "Axial del descanso", j);
-        Igual(p.MomentoY, e.MomentoY, "MomentoY del descanso", j);
-        Igual(p.Torsor, e.Torsor, "Torsor del descanso", j);
-        Igual(p.AsSuperior, e.AsSuperior, "AsSuperior del descanso", j);
-        Igual(p.AsInferior, e.AsInferior, "AsInferior del descanso", j);
-        Igual(p.AsY, e.AsY, "AsY del descanso", j);
-        Igual(p.TensionCorte, e.TensionCorte, "TensionCorte", j);
+        for (std::size_t k = 0; k < std::size(prueba::ColumnasDeDescanso); ++k)
+            Igual(p.*prueba::ColumnasDeDescanso[k], prueba::DescansosTrabajados[j - 1][k], "descanso",
+                  100 * j + k);
         Igual(p.TensionAdmisible, std::sqrt(210) * 0.53, "TensionAdmisible", j);
         EXPECT_EQ(p.FallaCorte, j <= 2 ? "Falla por Corte" : "") << j;
     }

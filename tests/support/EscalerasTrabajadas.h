@@ -1,9 +1,11 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 
 #include "helical/DatosEscaleraH.h"
 #include "stairs/DatosEscaleraT.h"
+#include "stairs/ResultadosEscaleraT.h"
 #include "support/SeccionesDeReferencia.h"
 
 /// A stair and a helix worked apart from the program, in 30 digits: forces by least work, steel from the
@@ -16,11 +18,18 @@ inline escaleras::DatosEscaleraT EscaleraTTrabajada() {
     return {"", "", 2.8, 1.3, 3.4, 0.16, 0.21, 2300, 2600, 900};
 }
 /// Its flight from the landing to the support: both load cases rule somewhere, both bars are carried over.
-struct TramoTrabajado {
-    double MomentoTotal, MomentoPermanente, CorteTotal, CortePermanente, Axial, MomentoY, Torsor;
-    double AsSuperior, AsInferior, AsTorsion, AsY, SeparacionEstribo, AreaEstribo;
-};
-inline constexpr TramoTrabajado TramosTrabajados[]{
+/// The columns: moments and shears of both loads, axial force, lateral moment, torsion, steel above, below,
+/// of torsion and of the side, spacing and leg of the stirrups.
+using EscaleraTramo = escaleras::EscaleraTramoPunto;
+inline constexpr double EscaleraTramo::*ColumnasDeTramo[]{
+    &EscaleraTramo::MomentoTotal, &EscaleraTramo::MomentoPermanente,
+    &EscaleraTramo::CorteTotal,   &EscaleraTramo::CortePermanente,
+    &EscaleraTramo::Axial,        &EscaleraTramo::MomentoY,
+    &EscaleraTramo::Torsor,       &EscaleraTramo::AsSuperior,
+    &EscaleraTramo::AsInferior,   &EscaleraTramo::AsTorsion,
+    &EscaleraTramo::AsY,          &EscaleraTramo::SeparacionEstribo,
+    &EscaleraTramo::AreaEstribo};
+inline constexpr std::array<double, 13> TramosTrabajados[]{
     {-2197, -760.5, -2936.111839, -2335.6822961, 11348.747384, 7638.3558392, 1477.4867476, 12.838528624, 0,
      3.1713333333, 4.3699647244, 30, 0.71},
     {-1325.3872784, -85.568054626, -2385.6286792, -1785.1991363, 11682.969302, 7638.3558392, 1477.4867476,
@@ -45,11 +54,15 @@ inline constexpr TramoTrabajado TramosTrabajados[]{
      12.393906913, 0, 10.135658524, 4.3699647244, 9.38666193, 1.27},
 };
 /// Its half landing from the crown to the joint; TensionCorte in kgf/cm² against √210·0.53 = 7.680.
-struct DescansoTrabajado {
-    double MomentoTotal, MomentoPermanente, CorteTotal, CortePermanente, CorteY, Axial, MomentoY, Torsor;
-    double AsSuperior, AsInferior, AsY, TensionCorte;
-};
-inline constexpr DescansoTrabajado DescansosTrabajados[]{
+using EscaleraDescanso = escaleras::EscaleraDescansoPunto;
+inline constexpr double EscaleraDescanso::*ColumnasDeDescanso[]{
+    &EscaleraDescanso::MomentoTotal, &EscaleraDescanso::MomentoPermanente,
+    &EscaleraDescanso::CorteTotal,   &EscaleraDescanso::CortePermanente,
+    &EscaleraDescanso::CorteY,       &EscaleraDescanso::Axial,
+    &EscaleraDescanso::MomentoY,     &EscaleraDescanso::Torsor,
+    &EscaleraDescanso::AsSuperior,   &EscaleraDescanso::AsInferior,
+    &EscaleraDescanso::AsY,          &EscaleraDescanso::TensionCorte};
+inline constexpr std::array<double, 12> DescansosTrabajados[]{
     {-2701.2024363, -2701.2024363, 0, 0, -11224.545421, 0, 0, 0, 11.135902915, 0, 0, 8.4173568963},
     {-3177.7866374, -2805.9930791, 874.80837245, 302.81828277, -10842.078311, 2905.1261276, 1888.331983,
      -699.1226352, 13.195552638, 0, 1.0654020239, 8.1305424152},

@@ -54,20 +54,15 @@ struct PantallaLosaDatosGuiada : PantallaLosaDatos {
 };
 
 /// A project on disk with the given slabs, and the workspace open on it.
-class EspacioDePrueba {
+class EspacioDePrueba : public ProgramaGuiado {
   public:
-    explicit EspacioDePrueba(const std::vector<Losa>& losas) {
-        carpetas.CaminoUsuario = carpeta.Camino();
-        aplicacion.ArchivoProyecto = CrearProyecto("obra.los", losas);
-        aplicacion.NombreProyecto = "obra.los";
+    explicit EspacioDePrueba(const std::vector<Losa>& losas) : ProgramaGuiado("") {
+        for (const Losa& losa : losas) Agregar(aplicacion.ArchivoProyecto, losa);
         espacio.Lista().Abrir();
     }
     std::filesystem::path CrearProyecto(const std::string& nombre, const std::vector<Losa>& losas) const {
-        auto archivo = carpeta / nombre;
-        CrearBaseDatos(archivo, EsquemaDeProyecto());
-        ProyectoAbierto proyecto;
-        prueba::Abrir(proyecto, archivo);
-        for (const Losa& losa : losas) AgregarLosa(proyecto, losa);
+        auto archivo = Proyecto(nombre, "");
+        for (const Losa& losa : losas) Agregar(archivo, losa);
         return archivo;
     }
     /// The slab of that name as the file holds it.
@@ -89,16 +84,16 @@ class EspacioDePrueba {
         return registros.NumeroRegistros();
     }
 
-    CarpetaTemporal carpeta;
-    Aplicacion aplicacion;
-    CajaGuiada caja;
-    DialogosGuiados dialogos;
-    PlataformaGuiada plataforma{carpeta.Camino()};
-    Carpetas carpetas;
-    Servicios servicios{caja, dialogos, plataforma, carpetas};
     MemoriaLosas memoria;
     PantallaLosasGuiada pantalla;
     Losas espacio{aplicacion, servicios, pantalla, pantalla, memoria};
+
+  private:
+    static void Agregar(const std::filesystem::path& archivo, const Losa& losa) {
+        ProyectoAbierto proyecto;
+        prueba::Abrir(proyecto, archivo);
+        AgregarLosa(proyecto, losa);
+    }
 };
 
 inline Losa Nombrada(Losa losa, const std::string& nombre) {
