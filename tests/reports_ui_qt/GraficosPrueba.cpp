@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/Archivos.h"
 #include "drawing/losa/GraficoLosa.h"
 #include "drawing/qt/ImagenDeHoja.h"
 #include "reports/montaje/qt/SuperficieQt.h"
@@ -140,8 +141,8 @@ TEST(ExportarGrafico, SalvaLaImagenConSuZoomYRecuerdaLaCarpeta) {
     CajaGuiada caja;
     DialogosGuiados dialogos;
     PlataformaGuiada plataforma(carpeta.Camino());
-    dialogos.Elegidos = {carpeta / "otra" / "g.bmp", carpeta / "otra" / "g.jpg",
-                         carpeta / "no hay" / "g.bmp", carpeta / "g.svg", carpeta / "g.dxf"};
+    dialogos.Elegidos = {carpeta / "otra" / "g.bmp", carpeta / "otra" / "g.jpg", carpeta / "no hay" / "g.bmp",
+                         carpeta / "g.svg", carpeta / "g.dxf"};
     LosaDibujada losa;
     double zoom = 0;
     {

@@ -6,6 +6,7 @@
 
 #include "loads/Creacion.h"
 #include "shell/Aplicacion.h"
+#include "shell/Servicios.h"
 #include "store/tablas/TablasCargas.h"
 #include "support/CarpetaTemporal.h"
 #include "support/Lugares.h"
