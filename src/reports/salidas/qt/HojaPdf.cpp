@@ -210,8 +210,9 @@ void OrdenesPdf::Circulo(double x, double y, double radio, bool relleno, bool co
 void OrdenesPdf::Texto(const std::vector<LetrasPdf::Tramo>& tramos, double cuerpo, QPointF base,
                        double grados) {
     const double radianes = grados * std::numbers::pi / 180;
-    const double C = grados == 0 ? 1 : std::cos(radianes);  // most texts stand upright
-    const double S = grados == 0 ? 0 : std::sin(radianes);
+    const bool derecho = grados == 0;  // as most texts
+    const double C = derecho ? 1 : std::cos(radianes);
+    const double S = derecho ? 0 : std::sin(radianes);
     for (const LetrasPdf::Tramo& tramo : tramos) {
         if (tramo.Glifos.empty()) continue;
         const double x = cuerpo * tramo.x;
@@ -221,8 +222,11 @@ void OrdenesPdf::Texto(const std::vector<LetrasPdf::Tramo>& tramos, double cuerp
         bytes_ += ' ';
         Numero(cuerpo);
         bytes_ += "Tf ";
-        for (const double valor : {C, -S, -S, -C, base.x() + C * x + S * y, base.y() - S * x + C * y})
-            Numero(valor);
+        if (derecho)
+            bytes_ += "1 0 0 -1 ";
+        else
+            Numero(C).Numero(-S).Numero(-S).Numero(-C);
+        Numero(base.x() + C * x + S * y).Numero(base.y() - S * x + C * y);
         bytes_ += "Tm <";
         bytes_ += tramo.Glifos;
         bytes_ += "> Tj ET\n";
