@@ -7,6 +7,8 @@ namespace trabex::salidas::qt {
 
 namespace {
 
+constexpr double SinMedir = -1;
+
 QFont FuenteDe(double puntos, bool negrita, bool cursiva) {
     QFont fuente;
     fuente.setFamilies({"Arial", "Liberation Sans", "Helvetica", "DejaVu Sans"});
@@ -48,15 +50,19 @@ TipoDeLetra::TipoDeLetra(double puntos, bool negrita, bool cursiva)
       avances_(),
       alto_(metrica_.ascent() + metrica_.descent()),
       ascenso_(metrica_.ascent()) {
-    for (std::size_t c = 0; c < avances_.size(); ++c)
-        avances_[c] = metrica_.horizontalAdvance(QChar(static_cast<char16_t>(c)));
+    for (std::size_t c = 0; c < avances_.size(); ++c) {
+        const QChar letra(static_cast<char16_t>(c));
+        // For one that no font shows the toolkit would load them all.
+        avances_[c] = letra.category() == QChar::Other_Control ? SinMedir : metrica_.horizontalAdvance(letra);
+    }
 }
 
 double TipoDeLetra::Ancho(const QString& texto) const {
     double ancho = 0;
     for (const QChar c : texto) {
         if (c.unicode() >= avances_.size()) return metrica_.horizontalAdvance(texto);
-        ancho += avances_[c.unicode()];
+        const double avance = avances_[c.unicode()];
+        ancho += avance == SinMedir ? metrica_.horizontalAdvance(c) : avance;
     }
     return ancho;
 }
