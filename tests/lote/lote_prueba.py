@@ -209,6 +209,9 @@ class Lote(unittest.TestCase):
         self.resultados("--solo=memoria")
         self.assertEqual(sorted(a.name for a in (self.carpeta / "salida").iterdir()),
                          ["memoria.htm", "memoria.pdf", "memoria.rtf", "memoria.xls", "resultados.json"])
+        imagenes = subprocess.run(["pdfimages", "-list", self.carpeta / "salida" / "memoria.pdf"], capture_output=True,
+                                  text=True).stdout
+        self.assertEqual(len(imagenes.splitlines()), 2, "its sheets are strokes, not pictures")
 
     def planex(self):
         """The exchange file's rows by table, as mdbtools reads them."""

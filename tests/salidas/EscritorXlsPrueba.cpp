@@ -34,6 +34,7 @@ Documento DocumentoDePrueba() {
                       {"V", "Apoyo A", "0.00", 20, Alineacion::Derecha}};
     tabla.Filas = {{{Valor{std::string("A")}, Valor{-1234567.5}, Valor{12.345}}, false},
                    {{Valor{}, Valor{std::int32_t{7}}, Valor{}}, true}};
+    tabla.Estilo.Filtros = true;
     seccion.Bloques.emplace_back(tabla);
     return documento;
 }
@@ -48,6 +49,7 @@ TEST(EscritorXls, NumerosYFechasSiguenSiendoloConSusFormatos) {
     EXPECT_THAT(lineas, Contains(StartsWith("7,2 12.345 [0.00")));
     EXPECT_THAT(lineas, Contains(StartsWith("8,1 7.0 [#,##0,Arial,9,b")));
     EXPECT_THAT(lineas, Contains("hoja LOSA  N+3.00 9x3 fijas 7"));
+    EXPECT_THAT(lineas, Contains("_FilterDatabase (6, 9, 0, 3)"));  // of the columns' titles
 }
 
 TEST(EscritorXls, LosGraficosSeGuardanComoImagenesYDejanSuSitio) {
