@@ -72,11 +72,12 @@ void AgregarNumeroPdf(std::string& salida, double valor) {
     std::array<char, 24> cifras{'-'};
     char* const primera = cifras.data() + (redondeado < 0 ? 1 : 0);
     char* fin = std::to_chars(primera, cifras.data() + cifras.size(), entero / milesimas).ptr;
-    std::int64_t resto = entero % milesimas;
-    if (resto > 0) *fin++ = '.';
-    for (std::int64_t peso = milesimas / 10; resto > 0; peso /= 10) {
-        *fin++ = static_cast<char>('0' + resto / peso);
-        resto %= peso;
+    const auto resto = static_cast<int>(entero % milesimas);
+    if (resto > 0) {
+        *fin++ = '.';
+        *fin++ = static_cast<char>('0' + resto / 100);
+        if (resto % 100 > 0) *fin++ = static_cast<char>('0' + resto / 10 % 10);
+        if (resto % 10 > 0) *fin++ = static_cast<char>('0' + resto % 10);
     }
     salida.append(cifras.data(), fin);
 }

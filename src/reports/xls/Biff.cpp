@@ -26,13 +26,8 @@ bool MitadDePar(char16_t unidad) {
 
 }  // namespace
 
-Octetos& Octetos::Entero(std::size_t valor, int octetos) {
-    for (int i = 0; i < octetos; ++i) bytes_ += static_cast<char>((valor >> (8 * i)) & 0xFF);
-    return *this;
-}
-
 Octetos& Octetos::F64(double valor) {
-    return Entero(std::bit_cast<std::uint64_t>(valor), 8);
+    return Entero<8>(std::bit_cast<std::uint64_t>(valor));
 }
 
 Octetos& Octetos::TextoCorto(std::string_view utf8, std::size_t maximo) {

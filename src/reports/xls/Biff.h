@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -11,9 +12,9 @@ namespace trabex::xls {
 /// Little-endian bytes, as every part of the format is made of.
 class Octetos {
   public:
-    Octetos& U8(std::size_t valor) { return Entero(valor, 1); }
-    Octetos& U16(std::size_t valor) { return Entero(valor, 2); }
-    Octetos& U32(std::size_t valor) { return Entero(valor, 4); }
+    Octetos& U8(std::size_t valor) { return Entero<1>(valor); }
+    Octetos& U16(std::size_t valor) { return Entero<2>(valor); }
+    Octetos& U32(std::size_t valor) { return Entero<4>(valor); }
     Octetos& F64(double valor);
     Octetos& Crudo(std::string_view bytes) {
         bytes_ += bytes;
@@ -26,7 +27,16 @@ class Octetos {
     const std::string& Bytes() const { return bytes_; }
 
   private:
-    Octetos& Entero(std::size_t valor, int octetos);
+    template <std::size_t octetos>
+    Octetos& Entero(std::uint64_t valor) {
+        std::array<char, octetos> propios;
+        for (char& octeto : propios) {
+            octeto = static_cast<char>(valor & 0xFF);
+            valor >>= 8;
+        }
+        bytes_.append(propios.data(), octetos);
+        return *this;
+    }
     std::string bytes_;
 };
 
