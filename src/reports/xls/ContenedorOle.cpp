@@ -81,7 +81,8 @@ void EscribirContenedorOle(const std::filesystem::path& archivo, const char* nom
         EscribirPropiedades(contenedor.get(), propiedades);
         Exigir(gsf_output_close(GSF_OUTPUT(contenedor.get())));
     }
-    Exigir(gsf_output_close(salida.get()));
+    if (!gsf_output_is_closed(salida.get()))
+        Exigir(gsf_output_close(salida.get()));  // the container closes it
 }
 
 }  // namespace trabex::xls
