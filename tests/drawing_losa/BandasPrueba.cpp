@@ -105,6 +105,24 @@ void Revisar(const HojaLosa& hoja, const LienzoGrabador& lienzo, bool cabe) {
             ASSERT_GE(fila, banda->Desde - roce) << r.Texto;
             ASSERT_LE(fila, banda->Hasta + roce) << r.Texto;
         }
+        // Whoever points at a value of an axis or a span is told that axis or span, and the value's row.
+        const double x = r.Caja.x + r.Caja.Ancho / 2;
+        const auto de = [&](std::initializer_list<BandaDe> bandas) {
+            return r.Lugar != 0 && std::find(bandas.begin(), bandas.end(), r.De) != bandas.end();
+        };
+        if (de({BandaDe::Nombres, BandaDe::CP, BandaDe::CV, BandaDe::Total, BandaDe::MuSup,
+                BandaDe::AsSup})) {
+            ASSERT_NEAR(x, XDeEje(hoja, r.Lugar), roce) << r.Texto;
+        }
+        if (de({BandaDe::Longitudes, BandaDe::Cotas, BandaDe::MuInf, BandaDe::AsInf})) {
+            const auto tramo = TramoEn(hoja, x);
+            ASSERT_TRUE(tramo && tramo->Tramo == r.Lugar) << r.Texto;
+            ASSERT_NEAR(tramo->d, (hoja.Ejes.EjesX[r.Lugar + 1] - hoja.Ejes.EjesX[r.Lugar]) / 2,
+                        roce / hoja.Vista.Escala);
+        }
+        if (r.Grados == 0) {
+            ASSERT_EQ(BandaEn(hoja, x, r.Caja.y + r.Caja.Alto / 2), r.De) << r.Texto;
+        }
         const Caja caja(r);
         ASSERT_TRUE(caja.x1 >= 0 && caja.x2 <= lienzo.ScaleWidth()) << r.Texto;
         ASSERT_TRUE(!cabe || (caja.y1 >= 0 && caja.y2 <= lienzo.ScaleHeight())) << r.Texto;

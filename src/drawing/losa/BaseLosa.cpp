@@ -123,7 +123,10 @@ class SobreLaLosa {
             nivel - std::max(E * (MediaBanda + BordeCarga) / 2, E * MediaBanda + medida.Alto / coseno / 2);
         const double luz = t_.Columna(i + 1) - t_.Columna(i);
         std::vector<double> columnas{x};
-        if (pendiente == 0 && ancho < luz / 2) columnas = {x, x - luz / 4, x + luz / 4};
+        if (pendiente == 0 && ancho < luz / 2) {
+            const double extremo = (luz - ancho) / 2;
+            columnas = {x, x - luz / 4, x + luz / 4, x - extremo, x + extremo};
+        }
         const auto caja = [&](double centro, double pie) {
             return PiezaTexto{centro - ancho / 2, pie - alto, ancho, alto};
         };
