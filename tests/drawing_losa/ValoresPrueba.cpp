@@ -310,16 +310,16 @@ void Hoja::Diagrama(Color fondo, double unidades, bool momentos) {
         const double MT = R.DisenoTramo[i].MT;
         const double B = Mayorado(i, momentos ? &T::MomentoB : &T::CorteB);
         struct Extremo {
-            double d, Valor, Alto;
+            double x, Valor, Alto;
             Lado Donde;
         };
-        for (const auto& [d, valor, alto, lado] :
-             {Extremo{0, momentos ? M : V, momentos ? -M : V, ALaDerecha}, Extremo{t.LT, B, -B, ALaIzquierda},
-              Extremo{R.DisenoTramo[i].x * C, momentos ? MT : 0, -MT, ALaDerecha}}) {
+        for (const auto& [x, valor, ordenada, lado] :
+             {Extremo{X(ex[i]), momentos ? M : V, momentos ? -M : V, ALaDerecha},
+              Extremo{X(ex[i + 1]), B, -B, ALaIzquierda},
+              Extremo{X(ex[i] + R.DisenoTramo[i].x * C), momentos ? MT : 0, -MT, ALaDerecha}}) {
             if (Numero(valor, 0) == "0") continue;
-            const double x = X(ex[i] + d);
-            Flecha(x, eje(x) - unidades * alto, alto > 0 ? -1 : 1);
-            const double fuera = eje(x) - (alto > 0 ? 1.39 : -1.39) * E;
+            Flecha(x, eje(x) - unidades * ordenada, ordenada > 0 ? -1 : 1);
+            const double fuera = eje(x) - (ordenada > 0 ? 1.39 : -1.39) * E;
             Dice(Numero(valor, 0), x, lado, 0.1 * E + 4 * px, std::min(eje(x), fuera),
                  std::max(eje(x), fuera));
         }
@@ -335,12 +335,12 @@ void Hoja::Fuerzas() {
     EXPECT_NEAR(Rotulado(Papel ? "Vu (kgf):" : "VU (kgf):"), L.DeColor(deCorte)[0].Puntos[0].y, 2 * px);
     EXPECT_NEAR(Rotulado(Papel ? "Mu (kgf-m):" : "MU (kgf-m):"), L.DeColor(deMomento)[0].Puntos[0].y, 2 * px);
     const double y = Rotulado(D.OpcionMaciza ? "(kgf/metro):" : "(kgf/Nervio):");
+    const Texto& rotulo = *L.Hallar(D.OpcionMaciza ? "(kgf/metro):" : "(kgf/Nervio):");
     for (std::size_t j = 1; j <= N + 1; ++j) {
-        const std::string valor =
-            Numero(1.2 * R.ResultadoJunta[1][j].RV + 1.6 * R.ResultadoJunta[2][j].RV, 0);
-        if (valor == "0") continue;
-        ++Flechas;
-        Dice(valor, X(ex[j]), ALaDerecha, 0.1 * E + 4 * px, y - 0.5 * E, y + 0.5 * E);
+        const double RV = 1.2 * R.ResultadoJunta[1][j].RV + 1.6 * R.ResultadoJunta[2][j].RV;
+        if (Numero(RV, 0) == "0") continue;
+        Flecha(X(ex[j]), rotulo.Lugar.y + (RV < 0 ? 0.4 * E : 0), RV < 0 ? -1 : 1);  // uplift pulls down
+        Dice(Numero(RV, 0), X(ex[j]), ALaDerecha, 0.1 * E + 4 * px, y - 0.5 * E, y + 0.5 * E);
     }
     EXPECT_EQ(L.DeColor({189, 207, 240}).size(), Flechas);
     Titulos({"", "N+3.00", "(DIAGRAMAS DE CORTES Y MOMENTOS MAYORADOS)",

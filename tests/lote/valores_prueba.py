@@ -177,7 +177,7 @@ class Pagina(html.parser.HTMLParser):
         if marca in ("h1", "h2", "h3"):
             self.titulos = {m: t for m, t in self.titulos.items() if m < marca} | {marca: self.texto}
         elif marca in ("th", "td"):
-            self.filas[-1] += [(marca, self.texto)] * self.ancho
+            self.filas[-1] += [(marca, self.texto)] * (self.ancho if marca == "th" else 1)
         elif marca == "table":
             titulos = tuple(self.titulos.get(m) for m in ("h2", "h3"))
             if self.clase == "ficha":
@@ -405,7 +405,7 @@ class Valores(unittest.TestCase):
             esperados += [
                 ficha((e.Nombre, "Datos"), M_HELICE, De(e)),
                 ficha((e.Nombre, "Datos"), M_MATERIALES + "Factor de seguridad FS=g.FS:2", De(e, g=d.EscaleraHG)),
-                tabla((e.Nombre, "Estaciones"), M_ESTACIONES, [["Tramo superior"] + [""] * 13, *filas[:partida], ["Tramo inferior"] + [""] * 13, *filas[partida:]]),
+                tabla((e.Nombre, "Estaciones"), M_ESTACIONES, [["Tramo superior"], *filas[:partida], ["Tramo inferior"], *filas[partida:]]),
                 self.pasos((e.Nombre, "Estación que rige por flexión" + lugares[0]), {"mayor": max(todas[cual[0]].ASXS, todas[cual[0]].ASXI)}),
                 self.pasos((e.Nombre, "Estación que rige por torsión" + lugares[1]), {"s": todas[cual[1]].SEP, "Al": todas[cual[1]].LON}),
                 ficha((e.Nombre, "Verificaciones"), "Reacción vertical=FV:,0 kgf; Reacción horizontal=Fh:,0 kgf", De(e))] + avisos(e)
