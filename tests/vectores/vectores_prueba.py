@@ -17,6 +17,7 @@ from ezdxf.lldxf.encoding import decode_dxf_unicode
 
 LOTE, IMAGEN = sys.argv[1], pathlib.Path(sys.argv[2])
 NOMBRE = 'A 1 Ñandú Ω ^J %%c \\U+0041 <b>&"'  # with what each format writes in its own way
+CAPAS = {"geometria": "COTAS", "fuerzas": "DIAGRAMAS", "diseno": "TABLA"}
 SVG = "{http://www.w3.org/2000/svg}"
 
 
@@ -73,6 +74,10 @@ class Vectores(unittest.TestCase):
             for circulo, eje in zip(sorted(circulos), sorted(ejes)):
                 self.assertAlmostEqual(circulo, eje, delta=0.001)
             self.assertIn(losa["Nombre"], textos_de(dxf))
+            propia = next(capa for vista, capa in CAPAS.items() if f"-{vista}" in camino.stem)
+            self.assertEqual({figura.dxf.layer for figura in dxf.modelspace()},
+                             {"LOSA", "EJES", "APOYOS", "CARGAS", "TEXTOS", propia})
+            self.assertTrue(all(eje.dxf.layer == "EJES" for eje in dxf.query("CIRCLE") if abs(eje.dxf.radius - 0.26) < 1e-3))
 
 
 if __name__ == "__main__":

@@ -30,6 +30,7 @@ constexpr double MetrosBajoLosa = 7.5;  // that bands and tables need below the 
 void DibujeBandas(const Trazado& t) {
     for (std::size_t i = t.PrimerTramo(); i <= t.UltimoTramo(); ++i)
         DibujeBanda(t.EnMetros, t.Hoja.Ejes, i, -MediaBanda, MediaBanda, PlumaContorno, FondoBanda);
+    t.EnMetros.ElLienzo().PonerCapa(CapaCargas);
     for (std::size_t i = t.PrimerTramo(); i <= t.UltimoTramo(); ++i)
         DibujeBanda(t.EnMetros, t.Hoja.Ejes, i, MediaBanda, BordeCarga, std::nullopt,
                     FondoCarga[t.Hoja.OpcionCarga]);
@@ -50,8 +51,10 @@ void DibujeCorte(const Trazado& t, std::size_t tramo, std::size_t eje) {
                                                 {p.X(t.EjeX(eje)), p.Y(t.EjeY(eje) + hasta)}}};
         p.ElLienzo().Poligono(banda, std::nullopt, relleno);
     };
-    cerrar(-MediaBanda, MediaBanda, FondoBanda);
+    p.ElLienzo().PonerCapa(CapaCargas);
     cerrar(MediaBanda, BordeCarga, FondoCarga[t.Hoja.OpcionCarga]);
+    p.ElLienzo().PonerCapa(CapaLosa);
+    cerrar(-MediaBanda, MediaBanda, FondoBanda);
     DibujeLinea(p.ElLienzo(), p.X(x), p.Y(y - PieDeCorte), p.X(x), p.Y(y + BordeCarga + PieDeCorte), 1,
                 EstiloLinea::Punteada, Contorno);
 }
@@ -230,13 +233,17 @@ double DibujeEjes(const Trazado& t, double desde) {
 void DibujeLosa(Trazado& t) {
     const Plano& p = t.EnMetros;
     p.Letra(LetraNormal);
+    p.ElLienzo().PonerCapa(CapaLosa);
     DibujeLinea(p.ElLienzo(), p.X(t.EjeX(t.PrimerEje())), t.Hoja.Vista.OrigenY, p.X(t.EjeX(t.UltimoEje())),
                 t.Hoja.Vista.OrigenY, 1, EstiloLinea::Punteada, {});
     DibujeBandas(t);
     if (t.PrimerTramo() > 1) DibujeCorte(t, t.PrimerTramo() - 1, t.PrimerEje());
     if (t.UltimoEje() < t.Losa.Tramos.size()) DibujeCorte(t, t.UltimoTramo() + 1, t.UltimoEje());
+    p.ElLienzo().PonerCapa(CapaCargas);
     SobreLaLosa(t).Dibujar();
+    p.ElLienzo().PonerCapa(CapaEjes);
     t.Pie = DibujeEjes(t, DibujeLongitudes(t));
+    p.ElLienzo().PonerCapa(CapaApoyos);
     for (std::size_t eje = t.PrimerEje(); eje <= t.UltimoEje() && eje < t.Losa.Ejes.size(); ++eje)
         DibujeApoyo(p, t.EjeX(eje), t.EjeY(eje), t.Losa.Ejes[eje].Tipo);
 }

@@ -11,6 +11,15 @@ namespace trabex::dibujo::losa {
 /// Figures, pens and sizes that the sheets of a slab and the sketches of its entry share. Lengths in metres
 /// of the drawing, which do not follow the slab's depth.
 
+/// Layers of a sheet in files for other programs.
+inline constexpr const char* CapaLosa = "LOSA";
+inline constexpr const char* CapaEjes = "EJES";
+inline constexpr const char* CapaApoyos = "APOYOS";
+inline constexpr const char* CapaCargas = "CARGAS";
+inline constexpr const char* CapaCotas = "COTAS";
+inline constexpr const char* CapaDiagramas = "DIAGRAMAS";
+inline constexpr const char* CapaTabla = "TABLA";
+
 inline constexpr Color Contorno{26, 33, 34};
 inline constexpr Pluma PlumaContorno{1, EstiloLinea::Solida, Contorno};
 inline constexpr Color FondoNombreDeEje{255, 244, 214};

@@ -261,6 +261,7 @@ void DibujeDiseno(Lienzo& lienzo, HojaLosa& hoja, const losas::LosaCalculada& lo
     const auto trazado = DibujeBaseLosa(lienzo, hoja, losa, estilo, pie);
     if (!trazado) return;
     const Trazado& t = *trazado;
+    lienzo.PonerCapa(CapaTabla);
     t.EnMetros.Letra(LetraNormal);
     std::vector<Fila> filas = hoja.SoloReacciones ? FilasDeReacciones(t) : FilasDeDiseno(t);
     const double fin =

@@ -309,6 +309,7 @@ void DibujeFuerzas(Lienzo& lienzo, HojaLosa& hoja, const losas::LosaCalculada& l
     const auto trazado = DibujeBaseLosa(lienzo, hoja, losa, estilo, Titulos);
     if (!trazado) return;
     const Trazado& t = *trazado;
+    lienzo.PonerCapa(CapaDiagramas);
     const double E = t.EnMetros.Escala();
     const losas::ResultadosLosa& r = losa.Resultados;
     const Diagrama deCortes{BandaDe::Cortes, Unidades(E, r.MaxCorte), -1, FondoCorte,

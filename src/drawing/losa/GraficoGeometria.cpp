@@ -77,6 +77,7 @@ void DibujeGeometria(Lienzo& lienzo, HojaLosa& hoja, const losas::LosaCalculada&
     const auto trazado = DibujeBaseLosa(lienzo, hoja, losa, estilo, {});
     if (!trazado) return;
     const Trazado& t = *trazado;
+    lienzo.PonerCapa(CapaCotas);
     const double E = t.EnMetros.Escala();
     t.EnMetros.Letra(LetraDeCotas);
     Cotas cotas = Disponer(t);
