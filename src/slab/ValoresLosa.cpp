@@ -5,6 +5,7 @@
 
 #include "base/AceroMinimo.h"
 #include "base/Round.h"
+#include "slab/DisenoSeccion.h"
 #include "slab/EsfuerzosTramo.h"
 
 namespace trabex::losas {
@@ -25,6 +26,32 @@ Reaccion ReaccionDe(const LosaCalculada& losa, CasoCarga caso, std::size_t eje) 
     return {juntas[eje].RV, juntas[eje].RH};
 }
 
+/// The stations of a span from its first axis on.
+class Recorrido {
+  public:
+    Recorrido(const LosaCalculada& losa, std::size_t i, double pendiente)
+        : losa_(losa),
+          tramo_(losa.Datos.Tramos[i]),
+          C_(std::cos(pendiente)),
+          extremos_(ExtremosDe(losa, i)) {}
+
+    PuntoDiagrama En(double d) {
+        PuntoDiagrama punto{d, 0, 0};
+        EsfuerzosEnSeccion(tramo_, losa_.Generales, d, C_, extremos_.MA, extremos_.VA, puntual_, punto.M,
+                           punto.V);
+        return punto;
+    }
+    /// The station is to be asked for once more: it has a point load.
+    bool Repite() const { return puntual_.RepitaEstacion; }
+
+  private:
+    const LosaCalculada& losa_;
+    const Tramo& tramo_;
+    double C_;
+    ExtremosDeTramo extremos_;
+    EstacionPuntual puntual_;
+};
+
 }  // namespace
 
 ExtremosDeTramo ExtremosDe(const LosaCalculada& losa, std::size_t i) {
@@ -40,21 +67,29 @@ std::vector<PuntoDiagrama> EstacionesDeTramo(const LosaCalculada& losa, std::siz
     constexpr double demasiadas = 100000;  // a span of 25 km
     if (!TieneEsfuerzos(losa) || !(estaciones >= 1 && estaciones < demasiadas)) return {};
 
-    const ExtremosDeTramo extremos = ExtremosDe(losa, i);
     const double paso = tramo.LT / estaciones;
-    EstacionPuntual puntual;
+    Recorrido recorrido(losa, i, pendiente);
     std::vector<PuntoDiagrama> puntos;
     double d = 0;
     for (int k = 0; k <= static_cast<int>(estaciones); ++k) {
         do {
-            PuntoDiagrama punto{d, 0, 0};
-            EsfuerzosEnSeccion(tramo, losa.Generales, d, std::cos(pendiente), extremos.MA, extremos.VA,
-                               puntual, punto.M, punto.V);
-            puntos.push_back(punto);
-        } while (puntual.RepitaEstacion);
+            puntos.push_back(recorrido.En(d));
+        } while (recorrido.Repite());
         d += paso;
     }
     return puntos;
+}
+
+std::optional<PuntoDiagrama> PuntoDeTramo(const LosaCalculada& losa, std::size_t i, double pendiente,
+                                          double d) {
+    if (!TieneEsfuerzos(losa)) return std::nullopt;
+    Recorrido recorrido(losa, i, pendiente);
+    const PuntoDiagrama punto = recorrido.En(d);
+    return recorrido.Repite() ? recorrido.En(d) : punto;
+}
+
+AceroCaras AceroPara(const LosaCalculada& losa, double M) {
+    return DisenoSeccion(losa.Datos, losa.Generales).CalcularAcero(M);
 }
 
 ReaccionesPorMetro ReaccionesEnEje(const LosaCalculada& losa, std::size_t eje) {

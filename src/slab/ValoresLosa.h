@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 #include "base/DatosGenerales.h"
+#include "base/RefuerzoFlexion.h"
 #include "slab/Losa.h"
 #include "slab/ResultadosLosa.h"
 
@@ -34,6 +36,14 @@ struct PuntoDiagrama {
 /// Stations of a span that is drawn at a slope of `pendiente` radians: round(4·LT) strips, with the station
 /// under a point load twice. Empty when the span is too short for a strip or has no results.
 std::vector<PuntoDiagrama> EstacionesDeTramo(const LosaCalculada& losa, std::size_t tramo, double pendiente);
+
+/// Any other point of them, `d` m from the span's first axis along the horizontal; under a point load, after
+/// it. Nothing where the span has no results.
+std::optional<PuntoDiagrama> PuntoDeTramo(const LosaCalculada& losa, std::size_t tramo, double pendiente,
+                                          double d);
+
+/// Theoretical steel of the slab's section for a factored moment, kgf·m: no minimum applies.
+AceroCaras AceroPara(const LosaCalculada& losa, double M);
 
 /// What an axis takes, upward and along X.
 struct Reaccion {

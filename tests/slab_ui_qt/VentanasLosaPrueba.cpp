@@ -23,6 +23,7 @@
 
 #include <gtest/gtest.h>
 
+#include "drawing/qt/WidgetLienzo.h"
 #include "shell/qt/ComunVentanas.h"
 #include "shell/qt/TablaDatos.h"
 #include "slab/ui/ComandosLosas.h"
@@ -224,6 +225,53 @@ TEST_F(Espacio, SeleccionaHojaYCargasYDibujaAlMomento) {
     EXPECT_EQ(ventana.Accion("ID_Planex")->toolTip(),
               "<b>Exportar a Planex Estructural</b><br>Exportar las losas la programa de dibujo <br>Planex "
               "Estructural 2023. <br>(no disponible en esta edición)");
+}
+
+TEST_F(Espacio, ElPunteroLeeLosDiagramasYElDobleClicAbreLosDatos) {
+    VentanaLosas ventana(e.aplicacion, e.servicios, e.memoria, {}, nullptr);
+    ventana.show();
+    auto* lienzo = ventana.findChild<dibujo::qt::WidgetLienzo*>("Lienzo");
+    const auto* pie = ventana.findChild<QLabel*>("Pie");
+    const QString estado = pie->text();
+    ventana.findChild<QTabBar*>()->setCurrentIndex(1);
+    const HojaLosa& hoja = ventana.Operaciones().Estado().Hoja;
+    const auto en = [&](double metros, double bajo) {
+        return QPoint(
+            hoja.Vista.OrigenX + static_cast<int>(hoja.Vista.Escala * (hoja.Ejes.EjesX[1] + metros)),
+            hoja.Vista.OrigenY + static_cast<int>(hoja.Vista.Escala * bajo));
+    };
+    const QRgb rojo = QColor(200, 30, 30).rgb();
+    const QPoint lugar = en(1, 2.97);
+    QTest::mouseMove(lienzo, lugar);
+    EXPECT_TRUE(pie->text().contains("x = 1,00 m   Mu = ") || pie->text().contains("x = 0,99 m   Mu = "));
+    EXPECT_EQ(lienzo->grab().toImage().pixel(lugar), rojo);
+    QTest::keyClick(lienzo, Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_TRUE(pie->text().contains("x = 1,")) << S(pie->text());
+    EXPECT_NE(lienzo->grab().toImage().pixel(lugar), rojo);
+    QTest::mouseMove(lienzo, en(1, 0));
+    EXPECT_EQ(pie->text(), estado);
+
+    const auto abierto = [&](const QPoint& donde, const char* tabla) {
+        std::pair<int, int> celda;
+        QTimer vigia;
+        vigia.callOnTimeout([&] {
+            auto* datos = qobject_cast<VentanaLosaDatos*>(QApplication::activeModalWidget());
+            if (datos == nullptr) return;
+            vigia.stop();
+            const auto* filas = datos->findChild<TablaDatos*>(tabla);
+            EXPECT_TRUE(filas->hasFocus()) << tabla;
+            celda = {filas->FilaActual(), filas->currentIndex().column()};
+            datos->reject();
+        });
+        vigia.start(10);
+        QTest::mouseDClick(lienzo, Qt::LeftButton, {}, donde);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !vigia.isActive() && celda.first != 0; }));
+        return celda;
+    };
+    const double LT = ventana.Operaciones().Estado().Abierta.Tramos[1].LT;
+    EXPECT_EQ(abierto(en(LT + 0.6, 0), "Luces"), std::pair(2, 0));
+    EXPECT_EQ(abierto(en(LT + 0.6, -0.35), "Cargas"), std::pair(2, 0));
+    EXPECT_EQ(abierto(en(LT, 0.3), "Apoyos"), std::pair(2, 1));
 }
 
 TEST_F(Espacio, UnaLosaLargaSeVePorGruposQueCompartenUnEje) {

@@ -24,11 +24,15 @@ struct PantallaLosasGuiada : PantallaEspacioGuiada, PantallaLosas {
     void MarcarPorGrupos(bool porGrupos) override { PorGrupos = porGrupos; }
     bool MostrarLosaNueva() override { return LosaNueva && LosaNueva(); }
     bool MostrarLosaSalvarComo() override { return SalvarComo && SalvarComo(); }
-    bool MostrarLosaDatos() override { return Datos && Datos(); }
+    bool MostrarLosaDatos(const std::optional<dibujo::losa::Toque>& lugar) override {
+        Lugar = lugar;
+        return Datos && Datos();
+    }
     bool MostrarLosaGeneral() override { return General && General(); }
 
     dibujo::losa::OpcionDeCarga OpcionCarga = dibujo::losa::CargaPorCasos;
     bool PorGrupos = false;
+    std::optional<dibujo::losa::Toque> Lugar;
     std::function<bool()> LosaNueva, SalvarComo, Datos, General;
 };
 

@@ -6,6 +6,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTimer>
 #include <QWheelEvent>
 #include <cstdlib>
 #include <optional>
@@ -15,6 +16,8 @@
 namespace trabex::dibujo::qt {
 
 namespace {
+
+constexpr QColor ColorDeMira(200, 30, 30);
 
 BotonRaton BotonDe(Qt::MouseButton boton) {
     switch (boton) {
@@ -84,12 +87,32 @@ void WidgetLienzo::RedibujeVista() {
     lienzo.PonerColores(Qt::white, texto.lightness() < 128 ? texto : QColor(Qt::black));
     dibujar_(lienzo);
     pintor.end();
+    if (lector_ != nullptr) mira_ = lector_->Releer();
     update();
 }
 
-void WidgetLienzo::paintEvent(QPaintEvent*) {
+void WidgetLienzo::paintEvent(QPaintEvent* evento) {
     if (imagen_.isNull()) RedibujeVista();
-    QPainter(this).drawImage(0, 0, imagen_);
+    QPainter pintor(this);
+    pintor.setClipRegion(evento->region());
+    const QRectF parte = evento->rect();
+    const qreal finura = imagen_.devicePixelRatio();
+    pintor.drawImage(parte, imagen_, {parte.topLeft() * finura, parte.size() * finura});
+    if (!mira_) return;
+    pintor.setPen(ColorDeMira);
+    pintor.drawLine(mira_->Desde.x, mira_->Desde.y, mira_->Hasta.x, mira_->Hasta.y);
+}
+
+void WidgetLienzo::PonerMira(const std::optional<LineaDeMira>& mira) {
+    if (mira == mira_) return;
+    const auto repintar = [this](const LineaDeMira& linea) {
+        update(QRect(QPoint(linea.Desde.x, linea.Desde.y), QPoint(linea.Hasta.x, linea.Hasta.y))
+                   .normalized()
+                   .adjusted(-2, -2, 2, 2));
+    };
+    if (mira_) repintar(*mira_);
+    mira_ = mira;
+    if (mira_) repintar(*mira_);
 }
 
 void WidgetLienzo::resizeEvent(QResizeEvent*) {
@@ -111,6 +134,24 @@ void WidgetLienzo::mouseReleaseEvent(QMouseEvent* evento) {
 
 void WidgetLienzo::mouseMoveEvent(QMouseEvent* evento) {
     visor_.Mover(BotonDe(evento->buttons()), evento->pos().x(), evento->pos().y());
+    if (lector_ != nullptr && evento->buttons() == Qt::NoButton)
+        PonerMira(lector_->Apuntar(PuntoLienzo{evento->pos().x(), evento->pos().y()}));
+}
+
+/// Once the click is over: what it opens waits for its end.
+void WidgetLienzo::mouseDoubleClickEvent(QMouseEvent* evento) {
+    if (lector_ == nullptr || evento->button() != Qt::LeftButton) return mousePressEvent(evento);
+    QTimer::singleShot(0, this, [this, lugar = evento->pos()] { lector_->Abrir({lugar.x(), lugar.y()}); });
+}
+
+void WidgetLienzo::leaveEvent(QEvent* evento) {
+    QWidget::leaveEvent(evento);
+    if (lector_ != nullptr) PonerMira(lector_->Apuntar(std::nullopt));
+}
+
+void WidgetLienzo::focusOutEvent(QFocusEvent* evento) {
+    QWidget::focusOutEvent(evento);
+    if (lector_ != nullptr) PonerMira(lector_->Apuntar(std::nullopt));
 }
 
 void WidgetLienzo::wheelEvent(QWheelEvent* evento) {
@@ -125,6 +166,9 @@ void WidgetLienzo::wheelEvent(QWheelEvent* evento) {
 }
 
 void WidgetLienzo::keyPressEvent(QKeyEvent* evento) {
+    const bool aLosLados = evento->key() == Qt::Key_Left || evento->key() == Qt::Key_Right;
+    if (lector_ != nullptr && aLosLados && (evento->modifiers() & Qt::ShiftModifier) != 0)
+        return PonerMira(lector_->Avanzar(evento->key() == Qt::Key_Right ? 1 : -1));
     if (const auto tecla = TeclaDe(*evento))
         visor_.Teclear(*tecla);
     else

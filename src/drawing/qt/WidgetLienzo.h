@@ -3,8 +3,9 @@
 #include <QImage>
 #include <QWidget>
 #include <functional>
+#include <optional>
 
-#include "drawing/Lienzo.h"
+#include "drawing/LectorDeVista.h"
 #include "drawing/Visor.h"
 #include "drawing/qt/LienzoQt.h"
 
@@ -28,6 +29,10 @@ class WidgetLienzo : public QWidget, private AnfitrionVista {
     /// What to do when the pan mode ends by itself: the tool button comes up.
     void AlSoltarPan(std::function<void()> accion) { alSoltarPan_ = std::move(accion); }
 
+    /// Who reads the drawing at the pointer, and at Shift with the arrow keys; double clicks are theirs. Not
+    /// owned.
+    void PonerLector(LectorDeVista* lector) { lector_ = lector; }
+
     /// The picture as it stands.
     const QImage& Imagen() const { return imagen_; }
 
@@ -41,6 +46,9 @@ class WidgetLienzo : public QWidget, private AnfitrionVista {
     void mousePressEvent(QMouseEvent* evento) override;
     void mouseReleaseEvent(QMouseEvent* evento) override;
     void mouseMoveEvent(QMouseEvent* evento) override;
+    void mouseDoubleClickEvent(QMouseEvent* evento) override;
+    void leaveEvent(QEvent* evento) override;
+    void focusOutEvent(QFocusEvent* evento) override;
     void wheelEvent(QWheelEvent* evento) override;
     void keyPressEvent(QKeyEvent* evento) override;
 
@@ -49,7 +57,12 @@ class WidgetLienzo : public QWidget, private AnfitrionVista {
     void SoltarPanRealtime() override;
     void AbrirMenuPantalla(std::int32_t x, std::int32_t y) override;
 
+    /// Only what the line leaves and what it takes is painted again.
+    void PonerMira(const std::optional<LineaDeMira>& mira);
+
     Visor visor_;
+    LectorDeVista* lector_ = nullptr;
+    std::optional<LineaDeMira> mira_;
     std::function<void(Lienzo&)> dibujar_;
     std::function<void()> alSoltarPan_;
     QMenu* menu_ = nullptr;

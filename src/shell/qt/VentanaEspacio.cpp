@@ -269,6 +269,7 @@ QWidget* VentanaEspacio::PanelDeHojas(const DatosDeEspacio& datos) {
     frente_ = new QStackedWidget(panel);
     lienzo_ = new dibujo::qt::WidgetLienzo(datos.Vista, datos.Dibujar, frente_, datos.Teclas);
     lienzo_->setObjectName("Lienzo");
+    lienzo_->PonerLector(datos.Lector);
     frente_->addWidget(lienzo_);
     for (const char* titulo : datos.Hojas) hojas_->addTab(titulo);
     for (const PaginaDeEspacio& pagina : datos.Paginas) {
@@ -322,7 +323,16 @@ void VentanaEspacio::PonerTitulo(const std::string& titulo) {
 }
 
 void VentanaEspacio::PonerEstado(const std::string& texto) {
+    estado_ = texto;
+    if (leyendo_) return;
     pie_->setText(Q(texto));
+}
+
+void VentanaEspacio::PonerLectura(const std::string& texto) {
+    leyendo_ = !texto.empty();
+    pie_->setText(Q(leyendo_ ? texto : estado_));
+    pie_->setToolTip(Q(leyendo_ ? texto : estado_));
+    avisos_->setVisible(!leyendo_ && !avisos_->text().isEmpty());
 }
 
 void VentanaEspacio::PonerEncabezado(const std::string& texto) {
@@ -334,7 +344,7 @@ void VentanaEspacio::PonerAvisos(const Avisos& avisos) {
     for (const trabex::Aviso& aviso : avisos) lineas += Q(EnUnaLinea(aviso));
     avisos_->setText(Q(Resumen(avisos)));
     avisos_->setToolTip(lineas.join('\n'));
-    avisos_->setVisible(!avisos.empty());
+    avisos_->setVisible(!leyendo_ && !avisos.empty());
 }
 
 void VentanaEspacio::LlenarLista(const std::vector<std::string>& nombres) {

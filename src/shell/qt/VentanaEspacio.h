@@ -22,7 +22,8 @@ class QTabBar;
 
 namespace trabex::dibujo {
 class Lienzo;
-}
+class LectorDeVista;
+}  // namespace trabex::dibujo
 namespace trabex::dibujo::qt {
 class WidgetLienzo;
 }
@@ -54,6 +55,7 @@ struct DatosDeEspacio {
     dibujo::TeclasDeVista Teclas = {};
     std::vector<PaginaDeEspacio> Paginas = {};  ///< the tabs behind those of the sheets
     bool ListaNumerada = false;                 ///< under the heading "No"
+    dibujo::LectorDeVista* Lector = nullptr;    ///< of the drawing, where one reads it; outlives the window
 };
 
 /// The workspace of an element: its list and the sheets and pages of the selected one, with tool bar, menu
@@ -65,6 +67,8 @@ class VentanaEspacio : public QDialog, public PantallaEspacio {
 
     void PonerTitulo(const std::string& titulo) override;
     void PonerEstado(const std::string& texto) override;
+    /// What is read in the drawing takes the foot's line, as long as it is not empty.
+    void PonerLectura(const std::string& texto);
     void PonerEncabezado(const std::string& texto) override;
     void PonerAvisos(const Avisos& avisos) override;
     void LlenarLista(const std::vector<std::string>& nombres) override;
@@ -108,6 +112,8 @@ class VentanaEspacio : public QDialog, public PantallaEspacio {
     QLabel* encabezado_ = nullptr;
     QLabel* pie_ = nullptr;
     QLabel* avisos_ = nullptr;
+    std::string estado_;
+    bool leyendo_ = false;
     QSplitter* partes_ = nullptr;
     QTabBar* hojas_ = nullptr;
     QStackedWidget* frente_ = nullptr;  // the canvas, then the pages

@@ -49,7 +49,7 @@ void Losas::AlSeleccionar() {
 
 void Losas::AlAgregar() {
     AlSeleccionar();
-    pantalla_.MostrarLosaDatos();
+    pantalla_.MostrarLosaDatos({});
     PonerEncabezado();
     Calcular();
 }
@@ -121,10 +121,10 @@ void Losas::CrearDesdeSeleccionada() {
     lista_.Copiar([this] { return pantalla_.MostrarLosaSalvarComo(); });
 }
 
-void Losas::Modificar() {
+void Losas::Modificar(const std::optional<dibujo::losa::Toque>& lugar) {
     if (lista_.Vacia()) return;
     almacen::tablas::LeerLosa(aplicacion_.Proyecto, estado_.Abierta);
-    if (!pantalla_.MostrarLosaDatos()) return;
+    if (!pantalla_.MostrarLosaDatos(lugar)) return;
     PonerEncabezado();
     Calcular();
 }

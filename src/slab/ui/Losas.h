@@ -1,6 +1,9 @@
 #pragma once
 
+#include <optional>
+
 #include "drawing/losa/GraficoLosa.h"
+#include "drawing/losa/ToqueDeHoja.h"
 #include "shell/ListaElementos.h"
 #include "slab/Losa.h"
 #include "slab/ResultadosLosa.h"
@@ -18,8 +21,9 @@ class PantallaLosas {
     /// True when a slab was added.
     virtual bool MostrarLosaNueva() = 0;
     virtual bool MostrarLosaSalvarComo() = 0;
-    /// True when something was saved: the slab is calculated again.
-    virtual bool MostrarLosaDatos() = 0;
+    /// At a place of the slab, or at its beginning. True when something was saved: the slab is calculated
+    /// again.
+    virtual bool MostrarLosaDatos(const std::optional<dibujo::losa::Toque>& lugar) = 0;
     virtual bool MostrarLosaGeneral() = 0;
 };
 
@@ -47,7 +51,8 @@ class Losas : private programa::ElementoDeLista {
 
     void CrearNueva();
     void CrearDesdeSeleccionada();
-    void Modificar();
+    /// Opens the entry window, at a place of the slab if one is told.
+    void Modificar(const std::optional<dibujo::losa::Toque>& lugar = {});
     void DatosGenerales();
 
     /// Calculates the open slab and draws the sheet on show.

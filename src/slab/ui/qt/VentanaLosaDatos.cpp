@@ -569,6 +569,25 @@ void VentanaLosaDatos::EnfocarCampo(CampoSeccion campo) {
     cual->selectAll();
 }
 
+void VentanaLosaDatos::IrA(const dibujo::losa::Toque& lugar) {
+    struct Destino {
+        PaginaLosa Pagina;
+        programa::qt::TablaDatos* Tabla;
+        int Columna;
+    };
+    const std::array<Destino, 5> destinos{{{PaginaLosa::Tramos, luces_, 0},
+                                           {PaginaLosa::Tramos, ejes_, 0},
+                                           {PaginaLosa::Apoyos, apoyos_, 1},
+                                           {PaginaLosa::Cargas, cargas_, 0},
+                                           {PaginaLosa::Cargas, cargas_, 2}}};
+    const Destino& destino = destinos[static_cast<std::size_t>(lugar.Que)];
+    const int fila = static_cast<int>(lugar.Lugar);
+    if (fila > destino.Tabla->Filas()) return;
+    MostrarPagina(destino.Pagina);
+    destino.Tabla->setFocus();
+    destino.Tabla->IrA(fila, destino.Columna);
+}
+
 std::size_t VentanaLosaDatos::FilaDeApoyo() const {
     return Indice(apoyos_->FilaActual());
 }

@@ -40,6 +40,9 @@ class VentanaLosaDatos : public QDialog, public PantallaLosaDatos {
     bool MostrarCarga02(const EntradaDeCarga& entrada) override;
     void Cerrar() override;
 
+    /// Goes to the page and row where a thing of the slab is entered.
+    void IrA(const dibujo::losa::Toque& lugar);
+
     /// Something was saved while the window was up.
     bool LosaModificada() const { return operaciones_.LosaModificada(); }
 

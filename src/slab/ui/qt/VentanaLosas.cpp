@@ -34,6 +34,7 @@ VentanaLosas::VentanaLosas(programa::Aplicacion& aplicacion, const programa::Ser
       aplicacion_(aplicacion),
       caja_(servicios.Caja),
       operaciones_(aplicacion, servicios, *this, *this, memoria),
+      lector_(operaciones_, [this](const std::string& lectura) { PonerLectura(lectura); }),
       opcionCarga_(new QButtonGroup(this)) {
     std::map<std::string_view, std::function<void()>> propias{
         {"ID_Generales", [this] { operaciones_.DatosGenerales(); }},
@@ -46,17 +47,32 @@ VentanaLosas::VentanaLosas(programa::Aplicacion& aplicacion, const programa::Ser
     };
     for (const auto& [clave, operacion] : otras)
         propias[clave] = [this, operacion = operacion] { operacion(operaciones_, *this); };
-    Armar({"Losas", "&Losas del Proyecto", "L&osa", ComandosLosas, TitulosDeHoja, operaciones_.Lista(),
+    Armar({"Losas",
+           "&Losas del Proyecto",
+           "L&osa",
+           ComandosLosas,
+           TitulosDeHoja,
+           operaciones_.Lista(),
            operaciones_.Estado().Hoja.Vista,
            [this](dibujo::Lienzo& lienzo) {
                dibujo::losa::RedibujeVista(lienzo, operaciones_.Estado().Hoja, operaciones_.Calculada());
            },
            [this](int hoja) { operaciones_.ElegirHoja(static_cast<dibujo::losa::VistaLosa>(hoja)); },
-           std::move(propias), OpcionesDeCarga()});
+           std::move(propias),
+           OpcionesDeCarga(),
+           {},
+           {},
+           false,
+           &lector_});
     Accion("ID_PorGrupos")->setCheckable(true);
     if (QSettings().value(ClavePorGrupos).toBool()) operaciones_.VerPorGrupos(true);
     const int recordada = QSettings().value(ClaveOpcionCarga).toInt();
     if (QAbstractButton* opcion = opcionCarga_->button(recordada)) opcion->click();
+}
+
+/// While its operations stand: the canvas tells what reads it that it goes.
+VentanaLosas::~VentanaLosas() {
+    hide();
 }
 
 QWidget* VentanaLosas::OpcionesDeCarga() {
@@ -102,8 +118,9 @@ bool VentanaLosas::MostrarLosaSalvarComo() {
     return ventana.result() == QDialog::Accepted;
 }
 
-bool VentanaLosas::MostrarLosaDatos() {
+bool VentanaLosas::MostrarLosaDatos(const std::optional<dibujo::losa::Toque>& lugar) {
     VentanaLosaDatos ventana(operaciones_, caja_, this);
+    if (lugar) ventana.IrA(*lugar);
     programa::qt::MostrarModal(ventana);
     return ventana.LosaModificada();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/qt/VentanaEspacio.h"
-#include "slab/ui/Losas.h"
+#include "slab/ui/LectorDeLosa.h"
 
 class QButtonGroup;
 
@@ -17,6 +17,10 @@ class VentanaLosas : public programa::qt::VentanaEspacio, private PantallaLosas 
     VentanaLosas(programa::Aplicacion& aplicacion, const programa::Servicios& servicios,
                  MemoriaLosas& memoria, const OperacionesDeLosas& otras, QWidget* padre);
 
+    ~VentanaLosas() override;
+    VentanaLosas(const VentanaLosas&) = delete;
+    VentanaLosas& operator=(const VentanaLosas&) = delete;
+
     Losas& Operaciones() { return operaciones_; }
 
   private:
@@ -24,13 +28,14 @@ class VentanaLosas : public programa::qt::VentanaEspacio, private PantallaLosas 
     void MarcarPorGrupos(bool porGrupos) override;
     bool MostrarLosaNueva() override;
     bool MostrarLosaSalvarComo() override;
-    bool MostrarLosaDatos() override;
+    bool MostrarLosaDatos(const std::optional<dibujo::losa::Toque>& lugar) override;
     bool MostrarLosaGeneral() override;
     QWidget* OpcionesDeCarga();
 
     programa::Aplicacion& aplicacion_;
     programa::CajaMensajes& caja_;
     Losas operaciones_;
+    LectorDeLosa lector_;
     QButtonGroup* opcionCarga_;
 };
 
