@@ -11,6 +11,7 @@
 #include "base/Archivos.h"
 #include "base/ErrorEjecucion.h"
 #include "jet/EscritorJet.h"
+#include "store/Conexion.h"
 #include "store/Mantenimiento.h"
 #include "store/antiguo/Convertir.h"
 #include "store/antiguo/EscribirJet.h"
@@ -53,26 +54,65 @@ std::vector<FilaSqlite> Filas(const std::filesystem::path& base, const std::stri
     return ConsultarSqlite(base, "SELECT * FROM \"" + tabla + "\"");
 }
 
+/// A project as the older database: of format 4 by the program's own writer, of format 3 by the tests'.
+void EscribirAntigua(int formato, const std::filesystem::path& base, const std::filesystem::path& destino,
+                     const std::string& clave = "") {
+    if (formato == 4) return EscribirJet(base, destino);
+    ASSERT_EQ(Mdb("python3 '" + prueba::Install() + "/../tests/antiguo/escribir_jet3.py' '" + base.string() +
+                  "' '" + destino.string() + "' " + clave),
+              "");
+}
+
+class JetDe : public testing::TestWithParam<int> {};
+INSTANTIATE_TEST_SUITE_P(, JetDe, testing::Values(3, 4));
+
 /// A project goes out as a Jet database and comes back the same, table by table and value by value.
-TEST(Jet, UnProyectoVaYVuelve) {
+TEST_P(JetDe, UnProyectoVaYVuelve) {
     const CarpetaTemporal carpeta;
-    const std::filesystem::path ejemplo = Programa / "Imagen" / "Ejemplo Demostrativo.tbx";
-    EscribirJet(ejemplo, carpeta / "viejo.los");
-    EXPECT_TRUE(EsBaseAntigua(carpeta / "viejo.los"));
-    EXPECT_FALSE(EsBaseAntigua(ejemplo));
-    const std::optional<Perdidas> perdidas = ConvertirBaseAntigua(
-        Programa, carpeta / "viejo.los", Programa / "Imagen" / "LosaImagen.tbx", carpeta / "nuevo.los");
-    ASSERT_TRUE(perdidas);
-    EXPECT_EQ(perdidas->Tablas + perdidas->Valores, 0U);
-    std::size_t filas = 0;
-    for (const std::string& tabla : Tablas(ejemplo)) {
-        EXPECT_EQ(Filas(carpeta / "nuevo.los", tabla), Filas(ejemplo, tabla)) << tabla;
-        filas += Filas(ejemplo, tabla).size();
+    const std::filesystem::path ejemplo = carpeta / "ejemplo.los", viejo = carpeta / "viejo.los";
+    CopiarArchivo(Programa / "Imagen" / "Ejemplo Demostrativo.tbx", ejemplo);
+    {
+        almacen::Conexion propia;
+        almacen::AbrirConexion(propia, ejemplo);
+        // Every character of the code page, rows of several hundred bytes, nulls, ends of ranges, and pages.
+        std::string letras;
+        for (char32_t c = 0xA0; c <= 0xFF; ++c)
+            (letras += static_cast<char>(0xC0 | c >> 6)) += static_cast<char>(0x80 | (c & 0x3F));
+        letras += "€‚ƒ„…†‡ˆ‰Š‹ŒŽ‘’“”•–—˜™š›œžŸ";
+        for (const std::string& sentencia :
+             {"UPDATE Proyecto SET Proyecto='" + letras.substr(0, 200) + "', Comentario='" + letras + letras +
+                  "'",
+              "INSERT INTO Proyecto (Propietario, Fecha, Cliente) VALUES ('" + std::string(120, 'x') +
+                  "', '1899-12-30', ''), (NULL, '0100-01-01', NULL), ('Ñ', '9999-12-31', '')",
+              std::string(
+                  "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 1500) "
+                  "INSERT INTO LosaTramos SELECT 'Peña Nº ' || i, i - 700, 1.0 / i, i * 1000000, "
+                  "-2147483648 + i, CASE WHEN i % 3 THEN i END, CASE WHEN i % 7 THEN -1e300 / i END FROM n")})
+            ASSERT_TRUE(propia.Ejecutar(sentencia)) << sentencia;
     }
-    EXPECT_GT(filas, 50U);
-    const std::string schema = Mdb("mdb-schema -T LosaTramos '" + (carpeta / "viejo.los").string() + "'");
-    EXPECT_NE(schema.find("[Nombre]\t\t\tText (60)"), std::string::npos) << schema;
-    EXPECT_FALSE(Existe(carpeta / "nuevo.los.copia"));
+    for (const char* clave : {"", "0x1F2E3D4C"}) {
+        if (GetParam() == 4 && *clave != 0) break;
+        EscribirAntigua(GetParam(), ejemplo, viejo, clave);
+        const std::string archivo = " '" + viejo.string() + "'";
+        EXPECT_EQ(Mdb("mdb-ver" + archivo), "JET" + std::to_string(GetParam()) + "\n");
+        EXPECT_EQ(Mdb("mdb-count" + archivo + " LosaTramos"),
+                  std::to_string(Filas(ejemplo, "LosaTramos").size()) + "\n");
+        EXPECT_NE(Mdb("mdb-export" + archivo + " LosaTramos")
+                      .find("\n\"Peña Nº 1\",-699,1,1000000,-2147483647,1,-1e+300"),
+                  std::string::npos);
+        EXPECT_NE(Mdb("mdb-schema -T LosaTramos" + archivo).find("[Nombre]\t\t\tText (60)"),
+                  std::string::npos);
+        EXPECT_TRUE(EsBaseAntigua(viejo));
+        EXPECT_FALSE(EsBaseAntigua(ejemplo));
+        const std::optional<Perdidas> perdidas = ConvertirBaseAntigua(
+            Programa, viejo, Programa / "Imagen" / "LosaImagen.tbx", carpeta / "nuevo.los");
+        ASSERT_TRUE(perdidas);
+        EXPECT_EQ(perdidas->Tablas + perdidas->Valores, 0U);
+        for (const std::string& tabla : Tablas(ejemplo))
+            EXPECT_EQ(Filas(carpeta / "nuevo.los", tabla), Filas(ejemplo, tabla)) << tabla;
+        EXPECT_FALSE(Existe(carpeta / "nuevo.los.copia"));
+        std::filesystem::remove(carpeta / "nuevo.los");
+    }
 }
 
 /// Every type at its ends, nulls, texts of any script, long values over many pages, more columns than a
@@ -168,9 +208,9 @@ TEST(Jet, LoQueNoCabeSeCuenta) {
 
 /// Files cut short and with bytes changed: each ends in time, as a project or not at all, and is itself
 /// untouched. TRABEX_VUELTAS says how many.
-TEST(Jet, ArchivosDanadosNoPasanDeSuProceso) {
+TEST_P(JetDe, ArchivosDanadosNoPasanDeSuProceso) {
     const CarpetaTemporal carpeta;
-    EscribirJet(Programa / "Imagen" / "Ejemplo Demostrativo.tbx", carpeta / "sano.los");
+    EscribirAntigua(GetParam(), Programa / "Imagen" / "Ejemplo Demostrativo.tbx", carpeta / "sano.los");
     const std::string sano = prueba::LeerArchivo(carpeta / "sano.los");
     const char* pedidas = std::getenv("TRABEX_VUELTAS");
     std::mt19937 azar(7);

@@ -195,15 +195,18 @@ class Lote(unittest.TestCase):
         self.assertGreaterEqual(len(documento["losas"]), 8)
 
     def test_un_proyecto_del_formato_anterior(self):
-        subprocess.run([PLANTILLA, "--jet", self.proyecto, ESQUEMAS / "LosaImagen.sql", ESQUEMAS / "Ejemplo Demostrativo.sql"],
-                       check=True)
-        antes = self.proyecto.read_bytes()
-        documento, resumen = self.resultados()
-        self.assertEqual((documento, resumen.split("Resultados:")[0]),
-                         (self.del_ejemplo()[0], self.del_ejemplo()[1].split("Resultados:")[0]))
-        self.assertEqual(self.proyecto.read_bytes(), antes)
-        self.proyecto.write_bytes(antes[:30000])
-        self.assertEqual(correr("--solo=resultados", self.proyecto, self.carpeta / "otra").returncode, 3)
+        esquemas = [ESQUEMAS / "LosaImagen.sql", ESQUEMAS / "Ejemplo Demostrativo.sql"]
+        jet3 = pathlib.Path(__file__).parent.parent / "antiguo" / "escribir_jet3.py"
+        for escritor in ([PLANTILLA, "--jet", self.proyecto, *esquemas],
+                         [sys.executable, jet3, IMAGEN / "Ejemplo Demostrativo.tbx", self.proyecto]):
+            subprocess.run(escritor, check=True)
+            antes = self.proyecto.read_bytes()
+            documento, resumen = self.resultados()
+            self.assertEqual((documento, resumen.split("Resultados:")[0]),
+                             (self.del_ejemplo()[0], self.del_ejemplo()[1].split("Resultados:")[0]))
+            self.assertEqual(self.proyecto.read_bytes(), antes)
+            self.proyecto.write_bytes(antes[:30000])
+            self.assertEqual(correr("--solo=resultados", self.proyecto, self.carpeta / "otra").returncode, 3)
 
     def test_la_memoria_sola(self):
         self.resultados("--solo=memoria")
