@@ -7,7 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include "base/Archivos.h"
 #include "drawing/losa/GraficoLosa.h"
 #include "drawing/qt/ImagenDeHoja.h"
 #include "reports/montaje/qt/SuperficieQt.h"
@@ -17,6 +16,7 @@
 #include "slab/CalcularLosa.h"
 #include "support/CarpetaTemporal.h"
 #include "support/LosasDePrueba.h"
+#include "support/ProyectoDePrueba.h"
 #include "support/ShellGuiado.h"
 
 namespace trabex {

@@ -255,7 +255,7 @@ TEST_F(Espacio, ElPunteroLeeLosDiagramasYElDobleClicAbreLosDatos) {
         std::pair<int, int> celda;
         QTimer vigia;
         vigia.callOnTimeout([&] {
-            auto* datos = qobject_cast<VentanaLosaDatos*>(QApplication::activeModalWidget());
+            auto* datos = dynamic_cast<VentanaLosaDatos*>(QApplication::activeModalWidget());
             if (datos == nullptr) return;
             vigia.stop();
             const auto* filas = datos->findChild<TablaDatos*>(tabla);
