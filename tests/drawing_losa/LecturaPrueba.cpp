@@ -112,7 +112,7 @@ TEST(Lectura, DiceLosEsfuerzosDeSuEstacionYElAceroQuePiden) {
             const DisenoDeTramo diseno = DisenoEnTramo(caso.Calculada(), i);
             const auto campo = Releida(caso.Hoja, caso.Calculada(), {i, {diseno.x, 0, 0}});
             if (diseno.MT <= 0) continue;
-            EXPECT_NEAR(AceroPara(caso.Calculada(), campo->Punto.M).AsInf, diseno.AS2, 1e-3);
+            EXPECT_NEAR(AceroPara(caso.Calculada(), campo->Punto.M).AsInf, diseno.AS2, 0.02);
         }
     }
     EnHoja maciza(prueba::LosaContinua({4, 4}, 300), VistaFuerzas);

@@ -281,14 +281,15 @@ void Hoja::Diagrama(Color fondo, double unidades, bool momentos) {
         const double M = Mayorado(i, &T::MomentoA);
         const double V = Mayorado(i, &T::CorteA);
         const auto eje = [&](double x) { return puntos[0].y - (x - puntos[0].x) * Tangente(i); };
-        EXPECT_TRUE(Cerca(puntos[0].x, X(ex[i])) && Cerca(puntos.back().x, X(ex[i] + t.LT)));
+        EXPECT_TRUE(Cerca(puntos[0].x, X(ex[i])) && Cerca(puntos.back().x, X(ex[i + 1])));
         const auto altoEn = [&](double d, bool antes) {
             const double s = d / C;
             const double P = antes ? 0 : 1.2 * t.p1 * C;
             return momentos ? w * s * s / 2 + P * (d - t.L1) / C - V * s - M : V - w * s - P;
         };
         for (std::size_t k = 1; k + 1 < puntos.size(); ++k) {
-            const double d = (puntos[k].x - X(ex[i])) / E;
+            // The last one stands on the axis, wherever a shift has put it.
+            const double d = k + 2 == puntos.size() ? t.LT : (puntos[k].x - X(ex[i])) / E;
             const bool antes = d < t.L1 || (puntos[k + 1].x == puntos[k].x && k + 2 < puntos.size());
             EXPECT_NEAR(eje(puntos[k].x) - puntos[k].y, unidades * altoEn(d, antes), 3 * px)
                 << "span " << i << ", " << d << " m";

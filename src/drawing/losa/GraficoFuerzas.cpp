@@ -43,7 +43,8 @@ struct PuntoDeFranja {
     double Extremo;  ///< row of its value over it
 };
 
-/// The stations of a span. The last one stands where the span ends: a diagram is closed at its supports.
+/// The stations of a span. The last one stands on the second axis, wherever a shift of it along X has put it:
+/// a diagram is closed at its supports.
 std::vector<PuntoDeFranja> EnLienzo(const Trazado& t, const Diagrama& diagrama, std::size_t i,
                                     double tangente, const std::vector<losas::PuntoDiagrama>& puntos) {
     const double E = t.EnMetros.Escala();
@@ -53,9 +54,8 @@ std::vector<PuntoDeFranja> EnLienzo(const Trazado& t, const Diagrama& diagrama, 
         const double eje = -E * (t.EjeY(i) + tangente * punto.d);
         enLienzo.push_back({E * (t.EjeX(i) + punto.d), eje, eje + diagrama.Subida(punto.*diagrama.Valor)});
     }
-    const double LT = t.Losa.Tramos[i].LT;
-    const double cierre = -E * (t.EjeY(i) + tangente * LT);
-    enLienzo.back() = {E * (t.EjeX(i) + LT), cierre, cierre + diagrama.Subida(puntos.back().*diagrama.Valor)};
+    const double cierre = -E * t.EjeY(i + 1);
+    enLienzo.back() = {t.Columna(i + 1), cierre, cierre + diagrama.Subida(puntos.back().*diagrama.Valor)};
     return enLienzo;
 }
 
@@ -210,7 +210,7 @@ void Franja::Rotular(std::size_t i, const ValorDeTramo& v) {
 /// A span that lies beside the canvas shows nothing of its diagram.
 void Franja::DibujarTramo(std::size_t i, std::int32_t desfase) const {
     const Plano& p = t_.EnMetros;
-    const auto [izquierda, derecha] = std::minmax({p.X(t_.EjeX(i)), p.X(t_.EjeX(i) + t_.Losa.Tramos[i].LT)});
+    const auto [izquierda, derecha] = std::minmax({p.X(t_.EjeX(i)), p.X(t_.EjeX(i + 1))});
     if (derecha < 0 || izquierda > p.ElLienzo().ScaleWidth()) return;
     const double pendiente = PendienteDeTramo(t_.Hoja.Ejes, i);
     const std::vector<losas::PuntoDiagrama> puntos = losas::EstacionesDeTramo(t_.Calculada, i, pendiente);
@@ -287,13 +287,13 @@ void RotularTramo(const Trazado& t, std::size_t i, Franja& cortes, Franja& momen
     const losas::ExtremosDeTramo e = losas::ExtremosDe(t.Calculada, i);
     const double E = t.EnMetros.Escala();
     const double pendiente = PendienteDeTramo(t.Hoja.Ejes, i);
-    const Lugar inicio = EnTramo(t.Hoja.Ejes, i, 0);
-    const Lugar fin = EnTramo(t.Hoja.Ejes, i, t.Losa.Tramos[i].LT);
+    const double y1 = -E * t.EjeY(i);
+    const double y2 = -E * t.EjeY(i + 1);
+    cortes.Rotular(i, {t.Columna(i), y1, e.VA, e.VA, 1});
+    cortes.Rotular(i, {t.Columna(i + 1), y2, -e.VB, e.VB, -1});
+    momentos.Rotular(i, {t.Columna(i), y1, e.MA, e.MA, 1});
+    momentos.Rotular(i, {t.Columna(i + 1), y2, e.MB, e.MB, -1});
     const Lugar campo = EnTramo(t.Hoja.Ejes, i, e.x * std::cos(pendiente));
-    cortes.Rotular(i, {E * inicio.x, -E * inicio.y, e.VA, e.VA, 1});
-    cortes.Rotular(i, {E * fin.x, -E * fin.y, -e.VB, e.VB, -1});
-    momentos.Rotular(i, {E * inicio.x, -E * inicio.y, e.MA, e.MA, 1});
-    momentos.Rotular(i, {E * fin.x, -E * fin.y, e.MB, e.MB, -1});
     momentos.Rotular(i, {E * campo.x, -E * campo.y, e.MT, e.MT, 1});
 }
 
