@@ -18,11 +18,12 @@ def junto(texto):
 
 
 class Seccion(html.parser.HTMLParser):
-    """Headings of a report, and of each section that must stay together its texts in order."""
+    """Headings of a report, and of each section that must stay together its texts in order; not those over columns,
+    whose lines stand side by side on paper."""
 
     def __init__(self, texto):
         super().__init__()
-        self.titulos, self.juntas, self.abierto, self.dentro = set(), [], None, False
+        self.titulos, self.juntas, self.abierto, self.dentro, self.cabecera = set(), [], None, False, False
         self.feed(texto)
 
     def handle_starttag(self, etiqueta, atributos):
@@ -30,7 +31,9 @@ class Seccion(html.parser.HTMLParser):
             self.dentro = "junta" in dict(atributos).get("class", "").split()
             if self.dentro:
                 self.juntas.append([])
-        elif etiqueta in ("h1", "h2", "h3", "p", "tr"):
+        elif etiqueta == "thead":
+            self.cabecera = True
+        elif etiqueta in ("h1", "h2", "h3", "p", "tr") and not self.cabecera:
             self.abierto = (etiqueta, [])
 
     def handle_data(self, dato):
@@ -38,6 +41,8 @@ class Seccion(html.parser.HTMLParser):
             self.abierto[1].append(dato)
 
     def handle_endtag(self, etiqueta):
+        if etiqueta == "thead":
+            self.cabecera = False
         if not self.abierto or etiqueta != self.abierto[0]:
             return
         texto = junto(" ".join(self.abierto[1]))

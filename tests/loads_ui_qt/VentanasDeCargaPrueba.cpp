@@ -78,7 +78,7 @@ TEST_F(VentanasConWidgets, LoQueOtroProgramaCambiaSeLeeAlVenirAlFrente) {
         otra_.Ejecutar(std::string("UPDATE Generales SET Carga = ") + carga);
         QEvent venir(QEvent::WindowActivate);
         QApplication::sendEvent(&ventana, &venir);
-        QTest::qWait(1);
+        QTest::qWait(50);
         return tabla->model()->index(2, 1).data().toString();
     };
     tabla->setFocus();

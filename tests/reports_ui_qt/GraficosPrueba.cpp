@@ -176,8 +176,8 @@ TEST(ExportarGrafico, SalvaLaImagenConSuZoomYRecuerdaLaCarpeta) {
     EXPECT_EQ(dialogos.Peticiones[1].Filtro, "Image (*.jpg)|*.jpg");
     EXPECT_EQ(dialogos.Peticiones[1].Carpeta, carpeta / "otra");
     // With the window's zoom; in metres there is none.
-    EXPECT_NE(LeerArchivo(carpeta / "g.svg").find("font-size=\"1360\""), std::string::npos);
-    EXPECT_NE(LeerArchivo(carpeta / "g.dxf").find("\n0.26\n"), std::string::npos);
+    EXPECT_NE(LeerArchivo(carpeta / "g.svg").find("font-size=\"1360."), std::string::npos);
+    EXPECT_NE(LeerArchivo(carpeta / "g.dxf").find("\n0.271006\n"), std::string::npos);
     ASSERT_EQ(caja.Mensajes.size(), 5U);
     EXPECT_EQ(caja.Mensajes[0].Texto, "¡El Reporte se Exportó con Exito!");
     EXPECT_EQ(caja.Mensajes[0].Encabezado, "Exportar Gráficos...");

@@ -49,7 +49,7 @@ p.banda { color: #555555; font-size: 90%; border-bottom: 1px solid #d9dfe5; padd
   div.pagina { page-break-before: always }
   div.junta { page-break-inside: avoid; break-inside: avoid }
   h1, h2, h3 { page-break-after: avoid; break-after: avoid }
-  ul.indice { display: none }
+  body > ul.indice { display: none }
 }
 )";
 

@@ -1,5 +1,6 @@
 #include "shell/qt/EntradaJuzgada.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QFocusEvent>
 #include <QTabWidget>
@@ -60,7 +61,11 @@ bool SeEscribeEn(QWidget* ventana) {
     const QList<QWidget*> controles = ventana->findChildren<QWidget*>();
     return std::any_of(controles.begin(), controles.end(), [foco](QWidget* control) {
         const EntradaJuzgada* entrada = Juzgada(control);
-        return entrada != nullptr && (!entrada->Motivo().isEmpty() || control->isAncestorOf(foco));
+        if (entrada == nullptr) return false;
+        // A table that has the keyboard is written in only while a cell of it is edited.
+        const bool dentro = control == foco ? qobject_cast<QAbstractItemView*>(control) == nullptr
+                                            : control->isAncestorOf(foco);
+        return dentro || !entrada->Motivo().isEmpty();
     });
 }
 
