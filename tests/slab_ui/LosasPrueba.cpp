@@ -220,6 +220,30 @@ TEST_F(Espacio, UnNombreConComillaRompeSoloSusSentencias) {
     EXPECT_EQ(e.Guardada("BALCON").Tramos.size(), 2U);
 }
 
+TEST_F(Espacio, UnProyectoQueNoSePuedeEscribirQuedaComoEstaba) {
+    espacio.Lista().Seleccionar(2);
+    const prueba::ProyectoOcupado ocupado(e.aplicacion.ArchivoProyecto);
+    e.pantalla.LosaNueva = [&] { return Nueva("Azotea"); };
+    e.pantalla.SalvarComo = [&] { return Copia("Azotea"); };
+    e.pantalla.Renombrar = [&](Renombrar& ventana) {
+        e.caja.Respuestas = {RespuestaSi};
+        EXPECT_TRUE(ventana.Aceptar("Azotea"));
+    };
+    espacio.CrearNueva();
+    e.caja.Respuestas = {RespuestaSi};
+    espacio.CrearDesdeSeleccionada();
+    espacio.Lista().Renombrar();
+    e.caja.Respuestas = {RespuestaSi};
+    espacio.Lista().Eliminar();
+    int errores = 0;
+    for (const Mensaje& mensaje : e.caja.Mensajes)
+        errores += mensaje.Texto.rfind("Error Número: 70", 0) == 0 ? 1 : 0;
+    EXPECT_EQ(errores, 4);
+    EXPECT_THAT(e.pantalla.Filas, ElementsAre("BALCON", "Nivel 1"));
+    EXPECT_EQ(espacio.Lista().NumeroDeElementos(), 2);
+    EXPECT_EQ(e.Filas("LosaTramos", "Nivel 1"), 3);
+}
+
 TEST_F(Espacio, LosDatosGeneralesRecalculanSoloSiCambiaron) {
     e.pantalla.General = [&] {
         e.aplicacion.Generales.FCP = 2;
