@@ -130,7 +130,7 @@ TEST_F(VentanaDeMarkus, UnBloqueElegidoPreguntaPorSuNumero) {
     QTest::mouseRelease(Panos.viewport(), Qt::LeftButton, {}, lugar(2));
     Responder("750");
     EXPECT_EQ(Columna(1), "750,00 750,00 750,00");
-    Ventana.Accion("ID_Pantalla")->trigger();
+    Ventana.Accion("ID_ImprimirP")->trigger();
     EXPECT_EQ(Impresa, "Piso 1:3");
 }
 

@@ -33,7 +33,7 @@ inline constexpr std::array<programa::ComandoEspacio, 17> ComandosEscaleraH{{
     {"ID_Exportar", " Exportar los Resultados ", "Exportar Resultados",
      "Exportar las tablas de resultados de la escalera seleccionada. ", "exportar",
      programa::GrupoComandos::Salida, true},
-    {"ID_Pantalla", " Imprimir la Pantalla Actual ", "Imprimir la Pantalla Actual",
+    {"ID_ImprimirP", " Imprimir la Pantalla Actual ", "Imprimir la Pantalla Actual",
      "Ver, imprimir y exportar las solicitaciones y el diseño de la escalera. ", "exportar",
      programa::GrupoComandos::Salida, true},
     {"ID_Imprimir", " Imprimir el Gráfico ", "Imprimir Gráfico",

@@ -20,7 +20,7 @@ inline constexpr std::array<programa::ComandoEspacio, 7> ComandosMarcus{{
      programa::GrupoComandos::Vista, false},
     {"ID_Exportar", " Imprimir los Resultados ", "Exportar Resultados",
      "Imprimir o exportar los resultados del nivel. ", "exportar", programa::GrupoComandos::Salida, true},
-    {"ID_Pantalla", " Imprimir la Pantalla Actual ", "Imprimir la Pantalla Actual",
+    {"ID_ImprimirP", " Imprimir la Pantalla Actual ", "Imprimir la Pantalla Actual",
      "Ver, imprimir y exportar los paños tal como están en la pantalla. ", "imprimir",
      programa::GrupoComandos::Salida, true},
 }};

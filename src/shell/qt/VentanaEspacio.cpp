@@ -1,5 +1,6 @@
 #include "shell/qt/VentanaEspacio.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QFont>
 #include <QHBoxLayout>
@@ -70,7 +71,18 @@ void VentanaEspacio::Armar(const DatosDeEspacio& datos) {
     hojas_->setCurrentIndex(QSettings().value("hoja/" + objectName()).toInt());
     PrepararVentana(this, preferencias_);
     AlVenirAlFrente(this, [this] { operaciones_->NotarCambios(); });
+    PonerOrdenDeTab(datos);
     lista_->setFocus();
+}
+
+/// What stands below the list is made before it.
+void VentanaEspacio::PonerOrdenDeTab(const DatosDeEspacio& datos) {
+    if (datos.BajoLaLista == nullptr) return;
+    QWidget* antes = lista_;
+    for (auto* opcion : datos.BajoLaLista->findChildren<QAbstractButton*>()) {
+        setTabOrder(antes, opcion);
+        antes = opcion;
+    }
 }
 
 QSplitter* VentanaEspacio::Partes(const DatosDeEspacio& datos) {
@@ -150,7 +162,7 @@ void VentanaEspacio::PonerAtajos() {
                                         {"ID_Graficos", QKeySequence("Ctrl+Shift+G")},
                                         {"ID_Exportar", QKeySequence("Ctrl+E")},
                                         {"ID_Imprimir", QKeySequence::Print},
-                                        {"ID_Pantalla", QKeySequence("Ctrl+Shift+P")},
+                                        {"ID_ImprimirP", QKeySequence("Ctrl+Shift+P")},
                                         {"ID_Planex", QKeySequence("Ctrl+L")},
                                         {"ID_ExportarG", QKeySequence("Ctrl+I")},
                                         {"ID_ZoomIN", QKeySequence::ZoomIn},

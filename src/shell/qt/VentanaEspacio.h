@@ -88,6 +88,7 @@ class VentanaEspacio : public QDialog, public PantallaEspacio {
     void hideEvent(QHideEvent* evento) override;
 
   private:
+    void PonerOrdenDeTab(const DatosDeEspacio& datos);
     void CrearAcciones(const DatosDeEspacio& datos);
     void CrearAccion(const ComandoEspacio& comando, const DatosDeEspacio& datos);
     void ConectarVista();

@@ -32,7 +32,7 @@ OperacionesDeHelices SalidasEscaleraH::Operaciones() {
     };
     return {{"ID_Graficos", propia(&SalidasEscaleraH::ExportarGrafico)},
             {"ID_Exportar", propia(&SalidasEscaleraH::ExportarTablas)},
-            {"ID_Pantalla", propia(&SalidasEscaleraH::ImprimirPaneles)},
+            {"ID_ImprimirP", propia(&SalidasEscaleraH::ImprimirPaneles)},
             {"ID_Imprimir", propia(&SalidasEscaleraH::ImprimirGrafico)},
             {"ID_ExportarG", propia(&SalidasEscaleraH::ExportarImagen)}};
 }

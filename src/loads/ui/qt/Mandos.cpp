@@ -56,6 +56,7 @@ void PonerModificarCeldas(programa::qt::TablaDatos& tabla, QVBoxLayout& columna,
         elegir->setEnabled(!editable);
         elegirTambien->setEnabled(!editable);
     };
+    QWidget::setTabOrder(&tabla, modificar);
     QObject::connect(modificar, &QCheckBox::toggled, &tabla, poner);
     QObject::connect(&tabla, &QTableView::doubleClicked, &tabla, [modificar, alElegir] {
         if (!modificar->isChecked()) alElegir();

@@ -121,13 +121,13 @@ void VentanaMarcus::CrearAcciones() {
         {"ID_Salvar", [this] { operaciones_.Salvar(); }},
         {"ID_Deshacer", [this] { operaciones_.Deshacer(); }},
         {"ID_Exportar", [this] { operaciones_.Imprimir(); }},
-        {"ID_Pantalla", [this] { salidas_.Pantalla(*panos_, operaciones_.Nivel(), *this); }},
+        {"ID_ImprimirP", [this] { salidas_.Pantalla(*panos_, operaciones_.Nivel(), *this); }},
     };
     const std::map<std::string_view, QKeySequence> atajos{{"ID_Nueva", QKeySequence::New},
                                                           {"ID_Salvar", QKeySequence::Save},
                                                           {"ID_Deshacer", QKeySequence::Undo},
                                                           {"ID_Exportar", QKeySequence::Print},
-                                                          {"ID_Pantalla", QKeySequence("Ctrl+Shift+P")}};
+                                                          {"ID_ImprimirP", QKeySequence("Ctrl+Shift+P")}};
     for (const programa::ComandoEspacio& comando : ComandosMarcus) {
         auto* accion =
             new QAction(programa::qt::Icono(Texto(comando.Icono)), Texto(comando.Nombre).trimmed(), this);

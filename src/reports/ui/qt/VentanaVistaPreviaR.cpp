@@ -78,6 +78,7 @@ void VentanaVistaPreviaR::Armar() {
     columna->addWidget(barra);
     columna->addLayout(fila);
     columna->addWidget(vista_, 1);
+    setTabOrder(titulo_, vista_);
 }
 
 QComboBox* VentanaVistaPreviaR::ListaDePaginas(QToolBar& barra, const char* nombre) {

@@ -165,6 +165,7 @@ QLayout* VentanaLosaDatos::FilaDeComandos() {
         fila->addWidget(control);
     fila->addStretch(1);
     fila->addWidget(retorno);
+    setTabOrder(siguiente, selector_);
     return fila;
 }
 
