@@ -166,12 +166,19 @@ void CopiarArchivo(const std::filesystem::path& origen, const std::filesystem::p
         throw ErrorEjecucion(CodigoError::ArchivoNoEncontrado);
     ArchivoNuevo nuevo(destino);
     nuevo.Escribir("");
-    std::filesystem::copy_file(origen, nuevo.Provisional(), std::filesystem::copy_options::overwrite_existing,
-                               error);
-    if (error) throw ErrorEjecucion(ErrorDeSistema(error));
+    // Piece by piece: the library's own copy tells a full disk as any other fault.
+    errno = 0;
+    std::ifstream leido(origen, std::ios::binary);
+    if (!leido) throw ErrorEjecucion(ErrorDeSistema(UltimoError()));
+    constexpr std::size_t Trozo = 1 << 20;
+    std::string bytes(Trozo, '\0');
+    while (leido.read(bytes.data(), static_cast<std::streamsize>(Trozo)) || leido.gcount() > 0)
+        nuevo.Escribir(std::string_view(bytes).substr(0, static_cast<std::size_t>(leido.gcount())));
+    if (leido.bad()) throw ErrorEjecucion(CodigoError::ErrorDispositivo);
     // A delivered file may be read-only where the program is installed; its copy is the engineer's.
-    std::filesystem::permissions(nuevo.Provisional(), std::filesystem::perms::owner_write,
-                                 std::filesystem::perm_options::add, error);
+    std::filesystem::permissions(
+        nuevo.Provisional(),
+        std::filesystem::status(origen, error).permissions() | std::filesystem::perms::owner_write, error);
     nuevo.Colocar();
 }
 

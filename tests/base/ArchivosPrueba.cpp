@@ -45,6 +45,9 @@ TEST(Archivos, LosFallosTienenSuCodigoYDejanElArchivo) {
         setrlimit(RLIMIT_FSIZE, &limite);
     };
     EXPECT_EQ(EnOtroProceso(sinSitio, grande), 61);
+    const prueba::CarpetaTemporal otra;
+    EscribirArchivo(otra / "grande", std::string(1 << 20, 'x'));
+    EXPECT_EQ(EnOtroProceso(sinSitio, [&] { CopiarArchivo(otra / "grande", archivo); }), 61);
     std::filesystem::permissions(carpeta.Camino(), std::filesystem::perms(0555));
     EXPECT_EQ(EnOtroProceso([] { EXPECT_EQ(geteuid() == 0 ? setuid(65534) : 0, 0); }, grande), 70);
     std::filesystem::permissions(carpeta.Camino(), std::filesystem::perms::owner_all);
