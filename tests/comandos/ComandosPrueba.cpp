@@ -89,8 +89,9 @@ class ConDiscoQueFalla : public CargasDePrueba {
             c.Con<Espacio, Pantalla>([&](Espacio& e, Pantalla& p) { hacer(c, e, p); }, armar);
         };
     }
-    static Comando EnLista(Ambito donde,
-                           std::function<void(ConDiscoQueFalla&, ListaAnalisis&, VistaListaGuiada&)> hacer) {
+    static Comando EnLista(
+        Ambito donde,
+        const std::function<void(ConDiscoQueFalla&, ListaAnalisis&, VistaListaGuiada&)>& hacer) {
         return [donde, hacer](ConDiscoQueFalla& c, const Armar& armar) {
             VistaListaGuiada vista;
             ListaAnalisis lista(c.aplicacion_, c.Servicios(), VarianteDe(donde), Azar());
