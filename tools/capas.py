@@ -94,8 +94,13 @@ FUNCION = re.compile(r"^(?!return|else|using|namespace|class|struct|enum|friend|
                      r"(?:template <[^;{]*>\s*)?(?:[\w:<>,&*\s]+?[\s&*])(\w+)\([^;{}]*\)(?: const| noexcept)*\s*\{", re.M)
 
 
+def sin_anonimo(codigo):
+    """Without unnamed namespaces: a comment, blanks by now, stands behind the brace that closes one."""
+    return re.sub(r"^namespace \{$.*?^\}  *$", lambda m: re.sub(r"[^\n]", " ", m[0]), codigo, flags=re.S | re.M)
+
+
 def alias_o_tipos(archivo):
-    codigo = re.sub(r"namespace \{.*?^\}  *$", "", archivo.codigo, flags=re.S | re.M)
+    codigo = sin_anonimo(archivo.codigo)
     yield from TIPO.finditer(codigo)
     yield from re.finditer(r"^using (\w+) =", codigo, re.M)
 
@@ -116,8 +121,7 @@ def nombres(archivos):
             yield f"{archivo.donde}: namespace {propio} is that of {duenos[propio].relative_to(RAIZ)}"
         for tipo in alias_o_tipos(archivo):
             tipos[(propio, tipo.group(1))].add((archivo.donde, archivo.linea(tipo.start())))
-        anonimo = re.sub(r"^namespace \{.*?^\}", "", archivo.codigo, flags=re.S | re.M)
-        for funcion in FUNCION.finditer(anonimo):
+        for funcion in FUNCION.finditer(sin_anonimo(archivo.codigo)):
             funciones[(propio, funcion.group(1))].add(archivo.donde.with_suffix(""))
     for (espacio, nombre), lugares in sorted(tipos.items()):
         if len(lugares) > 1:

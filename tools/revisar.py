@@ -6,7 +6,8 @@
     tools/revisar.py analizador --todo       over everything
     tools/revisar.py analizador --anotar     over what changed, and notes in tools/analizado.txt that it was read
 
-Sources are read a dozen as one: most of the work is the headers, which they share. Needs the release preset configured. What was found clean is remembered in build/revisado/ by the content of sources and headers.
+Sources are read some as one: most of the work is the headers, which they share. Needs the release preset configured.
+What was found clean is remembered in build/revisado/ by the content of sources and headers.
 """
 
 import argparse
@@ -27,7 +28,7 @@ CONSTRUIDO = RAIZ / "build" / "release"
 RECORDADO = RAIZ / "build" / "revisado"
 ANOTADO = RAIZ / "tools" / "analizado.txt"
 CARPETAS = ("src", "apps", "tests", "tools")
-JUNTAS = 12   # sources in one text
+JUNTAS = 40   # sources in one text
 # Leaks that it sees in the toolkit's parents and children are none; members stand in the order of their meaning.
 ANALIZADOR = ("-*,clang-analyzer-*,-clang-analyzer-cplusplus.NewDeleteLeaks,"
               "-clang-analyzer-optin.performance.Padding")
@@ -65,23 +66,32 @@ class Fuente:
     def __init__(self, camino, opciones):
         self.camino = camino
         self.opciones = opciones
-        propias = " ".join(opciones).replace(str(RAIZ), ".")
+        propias = " ".join(p for par in opciones for p in par).replace(str(RAIZ), ".")
         self.huella = resumen(propias, *(f"{c.relative_to(RAIZ)} {contenido(c)}"
                                          for c in sorted({camino} | incluidos(camino))))
+
+    @property
+    def de_ventanas(self):
+        return ("-DQT_CORE_LIB",) in self.opciones
 
     @property
     def donde(self):
         return str(self.camino.relative_to(RAIZ))
 
 
-def sin_lo_de_casa(palabras):
-    """The compiler's options without what only speeds it up: a cache, headers compiled before."""
-    palabras = [p for p in palabras if not p.endswith("/ccache") and p != "-Winvalid-pch"]
-    opciones = palabras[1:palabras.index("-o")]
-    while "-include" in opciones:
-        lugar = opciones.index("-include")
-        del opciones[lugar:lugar + 2]
-    return opciones
+def opciones_de(orden):
+    """The compiler's options, each with its argument, without what checks don't see: what makes a build or a test
+    quicker, where a test was built."""
+    palabras = [p for p in orden if not p.endswith("/ccache")]
+    palabras = palabras[1:palabras.index("-o")]
+    con_argumento = ("-isystem", "-include")
+    pares, lugar = [], 0
+    while lugar < len(palabras):
+        tantas = 2 if palabras[lugar] in con_argumento else 1
+        pares.append(tuple(palabras[lugar:lugar + tantas]))
+        lugar += tantas
+    de_mas = re.compile("-include|-Winvalid-pch|-Wno-|-O|-DQT_TESTCASE_")
+    return tuple(p for p in pares if not de_mas.match(p[0]))
 
 
 def fuentes():
@@ -90,8 +100,7 @@ def fuentes():
     for orden in json.loads((CONSTRUIDO / "compile_commands.json").read_text()):
         camino = pathlib.Path(orden["file"]).resolve()
         if camino.parts[:len(RAIZ.parts) + 1] in [(RAIZ / c).parts for c in CARPETAS]:
-            opciones = sin_lo_de_casa(shlex.split(orden["command"]))
-            halladas.setdefault(camino, Fuente(camino, tuple(opciones)))
+            halladas.setdefault(camino, Fuente(camino, opciones_de(shlex.split(orden["command"]))))
     perdidas = [c for carpeta in CARPETAS for c in (RAIZ / carpeta).rglob("*.cpp") if c not in halladas]
     if perdidas:
         sys.exit("not in the build, so unread: " + " ".join(str(c.relative_to(RAIZ)) for c in perdidas))
@@ -108,38 +117,46 @@ def con(programa, grupo, *argumentos):
         junta = pathlib.Path(carpeta) / "junta.cpp"
         junta.write_text(texto_de(grupo))
         entrada = str(grupo[0].camino if len(grupo) == 1 else junta)
-        comunes = [*grupo[0].opciones, "-Wno-unknown-warning-option"]
+        comunes = [p for par in dict.fromkeys(par for f in grupo for par in f.opciones) for p in par]
         orden = ([programa, entrada, *argumentos, *comunes] if programa == "clang++" else
                  [programa, *argumentos, entrada, "--", *comunes])
         return subprocess.run(orden, capture_output=True, text=True)
 
 
-def aparte(grupo):
-    """The sources that can't stand in one text with those before them: names that no other file sees may be the same."""
-    if len(grupo) == 1:
-        return set()
-    errores = con("clang++", grupo, "-fsyntax-only", "-w", "-ferror-limit=0", "-fno-caret-diagnostics").stderr
-    culpables = {pathlib.Path(c) for c in re.findall(r"^(/[^:\n]+):\d+:\d+: (?:fatal )?error:", errores, re.M)}
-    fuera = {f for f in grupo if f.camino in culpables}
-    return fuera - {grupo[0]} if fuera or not errores else set(grupo[1:])
+def con_otras(fuentes):
+    """The sources that can stand in one text, and those that can't stand with them: names that no other file sees may be
+    the same. An error counts for the source through which it was come to."""
+    if len(fuentes) == 1:
+        return fuentes, []
+    dicho = con("clang++", fuentes, "-fsyntax-only", "-w", "-ferror-limit=0", "-fno-caret-diagnostics").stderr
+    culpables, lugar = set(), 0
+    for linea in dicho.splitlines():
+        if hallada := re.match(r"In file included from \S*junta\.cpp:(\d+)", linea):
+            lugar = int(hallada[1]) - 1
+        elif re.match(r"\S+: (fatal )?error:", linea):
+            culpables.add(lugar)
+    if culpables == {0}:
+        culpables = set(range(1, len(fuentes)))
+    fuera = [f for i, f in enumerate(fuentes) if i and i in culpables]
+    return [f for f in fuentes if f not in fuera], fuera
+
+
+def grupos_de(fuentes):
+    """Sources that can be read as one, neighbours together."""
+    while fuentes:
+        juntas, fuentes = con_otras(fuentes)
+        tantos = -(-len(juntas) // JUNTAS)
+        yield from (juntas[len(juntas) * i // tantos:len(juntas) * (i + 1) // tantos] for i in range(tantos))
 
 
 def revisar(grupo, argumentos):
-    """What clang-tidy says of sources, in as few texts as they can stand in."""
-    fuera = aparte(grupo)
-    junto = [f for f in grupo if f not in fuera]
-    if fuera:
-        return "".join(revisar(parte, argumentos) for parte in (junto, [f for f in grupo if f in fuera]))
-    corrida = con("clang-tidy", junto, "--quiet", f"--config-file={RAIZ}/.clang-tidy", *argumentos)
+    """What clang-tidy says of sources; where they turn out not to stand together, of fewer at a time."""
+    corrida = con("clang-tidy", grupo, "--quiet", f"--config-file={RAIZ}/.clang-tidy", *argumentos)
+    if corrida.returncode and len(grupo) > 1 and "[clang-diagnostic-error]" in corrida.stdout:
+        juntas, fuera = con_otras(grupo)
+        partes = (juntas, fuera) if fuera else (grupo[:1], grupo[1:])
+        return "".join(revisar(parte, argumentos) for parte in partes)
     return "" if corrida.returncode == 0 else corrida.stdout or corrida.stderr
-
-
-def grupos_de(pendientes):
-    """Sources that are compiled alike, neighbours together."""
-    iguales = {}
-    for fuente in sorted(pendientes, key=lambda f: f.camino):
-        iguales.setdefault(fuente.opciones, []).append(fuente)
-    return [g[i:i + JUNTAS] for g in iguales.values() for i in range(0, len(g), JUNTAS)]
 
 
 def recorrer(pedidas, clase, argumentos):
@@ -151,10 +168,13 @@ def recorrer(pedidas, clase, argumentos):
     print(f"{clase}: {len(pendientes)} sources to read; {len(pedidas) - len(pendientes)} unchanged since they were "
           "found clean", flush=True)
     (RECORDADO / clase).mkdir(parents=True, exist_ok=True)
+    clases = {}
+    for fuente in sorted(pendientes, key=lambda f: f.camino):
+        clases.setdefault(fuente.de_ventanas, []).append(fuente)
     limpio = True
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as obreros:
-        tareas = {obreros.submit(revisar, grupo, argumentos): grupo
-                  for grupo in sorted(grupos_de(pendientes), key=len, reverse=True)}
+        grupos = [g for de_clase in obreros.map(lambda c: list(grupos_de(c)), clases.values()) for g in de_clase]
+        tareas = {obreros.submit(revisar, grupo, argumentos): grupo for grupo in sorted(grupos, key=len, reverse=True)}
         for tarea in concurrent.futures.as_completed(tareas):
             if tarea.result():
                 print(tarea.result(), flush=True)
