@@ -160,11 +160,12 @@ void EscribirArchivo(const std::filesystem::path& camino, std::string_view bytes
     nuevo.Colocar();
 }
 
-void CopiarArchivo(const std::filesystem::path& origen, const std::filesystem::path& destino) {
+namespace {
+
+void Copiar(const std::filesystem::path& origen, ArchivoNuevo& nuevo) {
     std::error_code error;
     if (!std::filesystem::is_regular_file(origen, error))
         throw ErrorEjecucion(CodigoError::ArchivoNoEncontrado);
-    ArchivoNuevo nuevo(destino);
     nuevo.Escribir("");
     // Piece by piece: the library's own copy tells a full disk as any other fault.
     errno = 0;
@@ -179,7 +180,20 @@ void CopiarArchivo(const std::filesystem::path& origen, const std::filesystem::p
     std::filesystem::permissions(
         nuevo.Provisional(),
         std::filesystem::status(origen, error).permissions() | std::filesystem::perms::owner_write, error);
+}
+
+}  // namespace
+
+void CopiarArchivo(const std::filesystem::path& origen, const std::filesystem::path& destino) {
+    ArchivoNuevo nuevo(destino);
+    Copiar(origen, nuevo);
     nuevo.Colocar();
+}
+
+void CopiarSinPisar(const std::filesystem::path& origen, const std::filesystem::path& destino) {
+    ArchivoNuevo nuevo(destino);
+    Copiar(origen, nuevo);
+    nuevo.ColocarSinPisar();
 }
 
 void ExigirBorrable(const std::filesystem::path& camino) {

@@ -50,6 +50,8 @@ void EscribirArchivo(const std::filesystem::path& camino, std::string_view bytes
 
 /// Copies a whole file in the same way. Throws ErrorEjecucion 53 when `origen` is no file, and as above.
 void CopiarArchivo(const std::filesystem::path& origen, const std::filesystem::path& destino);
+/// The same, and with 58 when something stands at `destino`.
+void CopiarSinPisar(const std::filesystem::path& origen, const std::filesystem::path& destino);
 
 /// Throws ErrorEjecucion when a file may not be deleted: 53 when there is none, 75 when it is read-only or a
 /// folder.

@@ -24,6 +24,7 @@ constexpr std::int64_t RaizDeTodo = 0x0F000000, Tablas = 0x0F000001, Bases = 0x0
 constexpr std::int64_t Base = 0x10000000;
 constexpr std::int64_t ClaseTabla = 1, ClaseBase = 2, ClaseContenedor = 3;
 constexpr std::int64_t DelSistema = -0x7FFFFFFF - 1;
+constexpr std::size_t ColumnaPropiedades = 14;
 constexpr std::int64_t TodoPermiso = 0xFFFFF;
 const std::string Dueno = "\xA6\x33";
 
@@ -85,11 +86,13 @@ class Rc4 {
     std::uint8_t i_ = 0, j_ = 0;
 };
 
+/// Where the header lies under the keystream, how much of it, and its date.
+constexpr std::size_t Oculto = 0x18, Cuanto = 128, LugarFecha = 0x72;
+
 /// The file's first page: its format, and under the keystream the first pages of the system's own tables, the
 /// code page, the order of texts, an empty password under its mask, and the date.
 void Encabezar(Pagina& pagina, double ahora) {
-    constexpr std::size_t Oculto = 0x18, Cuanto = 128;
-    constexpr std::size_t LugarClave = 0x42, LugarOrden = 0x6E, LugarFecha = 0x72;
+    constexpr std::size_t LugarClave = 0x42, LugarOrden = 0x6E;
     Pagina clara;
     const std::array<std::uint32_t, 6> primeras{0x100,          0x101,           PaginaCatalogo,
                                                 PaginaPermisos, PaginaConsultas, PaginaRelaciones};
@@ -119,17 +122,31 @@ double DiasDe(int ano, unsigned mes, unsigned dia) {
         (sys_days(year(ano) / month(mes) / day(dia)) - sys_days(1899y / December / 30d)).count());
 }
 
+double FechaDeEscritura(std::string_view archivo) {
+    constexpr double Pasada = 2958466;  // 1 January 10000
+    if (archivo.size() < Oculto + Cuanto) return 0;
+    Rc4 flujo;
+    std::uint64_t bits = 0;
+    for (std::size_t i = Oculto; i < LugarFecha + sizeof(bits); ++i) {
+        const std::uint64_t claro = static_cast<unsigned char>(archivo[i]) ^ flujo.Siguiente();
+        if (i >= LugarFecha) bits |= claro << 8 * (i - LugarFecha);
+    }
+    const auto fecha = std::bit_cast<double>(bits);
+    return fecha > 0 && fecha < Pasada ? fecha : 0;
+}
+
 EscritorJet::EscritorJet(double ahora) : ahora_(ahora) {
     for (std::uint32_t i = 0; i <= PaginaRelaciones; ++i) paginas_.Nueva();
     Encabezar(paginas_[0], ahora);
 }
 
-void EscritorJet::AgregarTabla(const std::string& nombre, std::vector<Columna> columnas) {
-    if (columnas.empty() || columnas.size() > MaximoDeColumnas)
+void EscritorJet::AgregarTabla(const Tabla& tabla) {
+    if (tabla.Columnas.empty() || tabla.Columnas.size() > MaximoDeColumnas)
         throw ErrorEjecucion(CodigoError::ArgumentoInvalido);
     const std::uint32_t pagina = paginas_.Nueva();
-    tablas_.emplace_back(paginas_, pagina, std::move(columnas), TablaEnObra::Clase::Usuario);
-    objetos_.push_back({nombre, pagina});
+    tablas_.emplace_back(paginas_, pagina, tabla.Columnas, TablaEnObra::Clase::Usuario);
+    tablas_.back().Numerar(tabla.UltimoNumero);
+    objetos_.push_back({tabla.Nombre, pagina, tabla.Propiedades});
 }
 
 void EscritorJet::AgregarFila(const Fila& fila) {
@@ -149,7 +166,7 @@ std::string EscritorJet::Terminar() {
     TablaEnObra consultas(paginas_, PaginaConsultas, ColumnasConsultas, Clase::Sistema);
     TablaEnObra relaciones(paginas_, PaginaRelaciones, ColumnasRelaciones, Clase::Sistema);
     const auto objeto = [&](std::int64_t id, std::int64_t padre, const std::string& nombre,
-                            std::int64_t clase, std::int64_t marcas) {
+                            std::int64_t clase, std::int64_t marcas, const std::string& propiedades = {}) {
         Fila fila(ColumnasCatalogo.size());
         fila[0] = id;
         fila[1] = padre;
@@ -158,6 +175,7 @@ std::string EscritorJet::Terminar() {
         fila[4] = fila[5] = ahora_;
         fila[6] = Dueno;
         fila[7] = marcas;
+        if (!propiedades.empty()) fila[ColumnaPropiedades] = propiedades;
         catalogo.Agregar(fila);
         permisos.Agregar({TodoPermiso, std::int64_t{0}, id, Dueno});
     };
@@ -169,7 +187,8 @@ std::string EscritorJet::Terminar() {
     objeto(PaginaPermisos, Tablas, "MSysACEs", ClaseTabla, DelSistema);
     objeto(PaginaConsultas, Tablas, "MSysQueries", ClaseTabla, DelSistema);
     objeto(PaginaRelaciones, Tablas, "MSysRelationships", ClaseTabla, DelSistema);
-    for (const Objeto& tabla : objetos_) objeto(tabla.Id, Tablas, tabla.Nombre, ClaseTabla, 0);
+    for (const Objeto& tabla : objetos_)
+        objeto(tabla.Id, Tablas, tabla.Nombre, ClaseTabla, 0, tabla.Propiedades);
     for (TablaEnObra* tabla : {&catalogo, &permisos, &consultas, &relaciones}) tabla->Cerrar();
 
     PaginasDeFilas globales(paginas_, 0, PaginaMapas);

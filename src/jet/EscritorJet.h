@@ -2,6 +2,7 @@
 
 #include <list>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "jet/Paginas.h"
@@ -21,7 +22,7 @@ class EscritorJet {
     explicit EscritorJet(double ahora);
 
     /// A table of up to 255 columns; the rows that come then are its own.
-    void AgregarTabla(const std::string& nombre, std::vector<Columna> columnas);
+    void AgregarTabla(const Tabla& tabla);
     /// Throws ErrorEjecucion as CodificarFila does, and 6 past two gigabytes.
     void AgregarFila(const Fila& fila);
 
@@ -32,6 +33,7 @@ class EscritorJet {
     struct Objeto {
         std::string Nombre;
         std::uint32_t Id;
+        std::string Propiedades;
     };
 
     double ahora_;
@@ -39,5 +41,8 @@ class EscritorJet {
     std::list<TablaEnObra> tablas_;
     std::vector<Objeto> objetos_;
 };
+
+/// The date that the writer of a file was given; 0 where the file tells none.
+double FechaDeEscritura(std::string_view archivo);
 
 }  // namespace trabex::jet

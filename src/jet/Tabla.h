@@ -31,6 +31,14 @@ struct Columna {
     std::uint16_t Ancho = 0;  ///< characters of a text, bytes of a binary
     std::uint8_t Precision = 0;
     std::uint8_t Escala = 0;
+    bool Automatica = false;  ///< a Largo or Guid that the engine fills in a new row
+};
+
+struct Tabla {
+    std::string Nombre;
+    std::vector<Columna> Columnas;
+    std::string Propiedades{};      ///< the engine's own record of them: defaults, rules, captions
+    std::int32_t UltimoNumero = 0;  ///< given by its automatic column
 };
 
 /// Null; whole numbers, logicals and ten-thousandths; doubles, singles and dates; texts in UTF-8, and bytes.

@@ -13,6 +13,8 @@ namespace {
 /// They stand in every definition that the original engine writes, and no reader asks for them.
 constexpr std::uint32_t SelloTabla = 1625, SelloIndice = 1923;
 constexpr std::uint16_t OrdenGeneral = 0x0409;
+/// Marks of a column.
+constexpr std::uint32_t Automatica = 0x04, AutomaticaGuid = 0x40;
 constexpr std::size_t ColumnasDeIndice = 10;
 constexpr std::size_t Cabecera = 8;
 constexpr std::size_t LugarLargo = 8;
@@ -56,7 +58,11 @@ void Columnas(Texto& texto, const std::vector<Columna>& columnas) {
         else
             texto.Corto(OrdenGeneral).Ceros(2);
         const bool comprime = columna.De == Tipo::Texto || columna.De == Tipo::Memo;
-        texto.Byte(fija ? 3 : 2).Byte(comprime ? 1 : 0).Ceros(4).Corto(fija ? lugar : 0);
+        const std::uint32_t automatica = columna.De == Tipo::Guid ? AutomaticaGuid : Automatica;
+        texto.Byte((fija ? 3U : 2U) | (columna.Automatica ? automatica : 0))
+            .Byte(comprime ? 1 : 0)
+            .Ceros(4)
+            .Corto(fija ? lugar : 0);
         if (columna.De == Tipo::Logico)
             texto.Corto(1);
         else if (fija)
@@ -80,7 +86,16 @@ TablaEnObra::TablaEnObra(Paginas& paginas, std::uint32_t definicion, std::vector
       filas_(paginas, definicion),
       largos_(paginas) {}
 
-void TablaEnObra::Agregar(const Fila& fila) {
+void TablaEnObra::Numerar(Fila& fila) {
+    for (std::size_t i = 0; i < columnas_.size() && i < fila.size(); ++i) {
+        if (!columnas_[i].Automatica || columnas_[i].De != Tipo::Largo) continue;
+        if (std::holds_alternative<std::monostate>(fila[i])) fila[i] = ultimo_ + 1;
+        if (const auto* numero = std::get_if<std::int64_t>(&fila[i])) ultimo_ = std::max(ultimo_, *numero);
+    }
+}
+
+void TablaEnObra::Agregar(Fila fila) {
+    Numerar(fila);
     const Puntero donde = filas_.Agregar(CodificarFila(columnas_, fila, largos_));
     for (Indice& indice : indices_) indice.Entradas.emplace_back(ClaveDe(indice, fila), donde);
     ++cuantas_;
@@ -105,7 +120,7 @@ void TablaEnObra::Cerrar() {
         .Largo(0)
         .Largo(SelloTabla)
         .Largo(cuantas_)
-        .Largo(0)
+        .Largo(static_cast<std::uint32_t>(ultimo_))
         .Byte(1)
         .Ceros(15);
     texto.Byte(static_cast<std::uint32_t>(clase_)).Corto(columnas_.size());

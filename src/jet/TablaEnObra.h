@@ -20,13 +20,17 @@ class TablaEnObra {
     TablaEnObra(Paginas& paginas, std::uint32_t definicion, std::vector<Columna> columnas, Clase clase,
                 std::vector<Indice> indices = {});
 
-    void Agregar(const Fila& fila);
+    void Agregar(Fila fila);
     /// Writes maps, trees and the definition; no row comes after it.
     void Cerrar();
+    /// The last number that its automatic column gave: a row without one takes the next.
+    void Numerar(std::int64_t ultimo) { ultimo_ = ultimo; }
 
     std::uint32_t Definicion() const { return definicion_; }
 
   private:
+    void Numerar(Fila& fila);
+
     Paginas& paginas_;
     std::uint32_t definicion_;
     std::vector<Columna> columnas_;
@@ -35,6 +39,7 @@ class TablaEnObra {
     PaginasDeFilas filas_;
     ValoresLargos largos_;
     std::uint32_t cuantas_ = 0;
+    std::int64_t ultimo_ = 0;
 };
 
 }  // namespace trabex::jet

@@ -4,6 +4,7 @@
 #include <chrono>
 #include <cstdlib>
 #include <fstream>
+#include <limits>
 #include <random>
 
 #include <gtest/gtest.h>
@@ -11,8 +12,10 @@
 #include "base/Archivos.h"
 #include "base/ErrorEjecucion.h"
 #include "jet/EscritorJet.h"
+#include "jet/Texto.h"
 #include "store/Conexion.h"
 #include "store/Mantenimiento.h"
+#include "store/antiguo/BaseEnJet.h"
 #include "store/antiguo/Convertir.h"
 #include "store/antiguo/EscribirJet.h"
 #include "support/BaseSqlite.h"
@@ -121,16 +124,24 @@ TEST(Jet, TodoTipoDeValorSeLeeComoSeEscribio) {
     const CarpetaTemporal carpeta;
     constexpr int Cuantas = 400;
     jet::EscritorJet escritor(jet::DiasDe(2026, 11, 26));
-    std::vector<jet::Columna> columnas{{"L", Tipo::Logico},      {"T", Tipo::Texto, 255}, {"By", Tipo::Byte},
-                                       {"E", Tipo::Entero},      {"La", Tipo::Largo},     {"M", Tipo::Moneda},
-                                       {"D", Tipo::Doble},       {"F", Tipo::Fecha},      {"Me", Tipo::Memo},
-                                       {"Bi", Tipo::Binario, 20}};
+    std::vector<jet::Columna> columnas{
+        {"L", Tipo::Logico}, {"T", Tipo::Texto, 255},   {"By", Tipo::Byte},  {"E", Tipo::Entero},
+        {"La", Tipo::Largo}, {"M", Tipo::Moneda},       {"D", Tipo::Doble},  {"F", Tipo::Fecha},
+        {"Me", Tipo::Memo},  {"Bi", Tipo::Binario, 20}, {"S", Tipo::Simple}, {"O", Tipo::Ole}};
+    columnas.insert(columnas.end(), {{"Id", Tipo::Largo, 0, 0, 0, true},
+                                     {"G", Tipo::Guid, 0, 0, 0, true},
+                                     {"N", Tipo::Numerico, 0, 28, 6}});
     const std::size_t propias = columnas.size();
     for (int i = 0; i < 100; ++i)
         columnas.push_back({"Una columna de nombre largo " + std::to_string(i), Tipo::Entero});
-    escritor.AgregarTabla("Todo", columnas);
+    escritor.AgregarTabla({"sqliteVacia", columnas});
+    using namespace std::string_literals;
+    const std::string propiedades = "MR2\0\x20\0\0\0\x80\0\x18\0"s + jet::ComoUtf16("DefaultValue") +
+                                    "\x6E\2\0\0\1\0\x08\0\0\0\2\0E\0\x60\2\0\x0A\0\0\x58\2"s +
+                                    jet::ComoUtf16(std::string(300, '7'));
+    escritor.AgregarTabla({"Todo", columnas, propiedades, 70});
     const auto memo = [](int i) { return std::string(static_cast<std::size_t>(i * 97 % 14000), 'x') + "ñ€"; };
-    const std::array<std::string, 4> textos{"", "ñandú ¿1/2?", "Ω漢字", std::string(255, 'z')};
+    const std::array<std::string, 4> textos{"", "ñandú ¿1/2?", "Ω漢字😀", std::string(255, 'z')};
     for (int i = 0; i < Cuantas; ++i) {
         jet::Fila fila(columnas.size());
         fila[0] = std::int64_t{i % 2};
@@ -139,11 +150,15 @@ TEST(Jet, TodoTipoDeValorSeLeeComoSeEscribio) {
             fila[2] = std::int64_t{i % 2 == 0 ? 255 : 0};
             fila[3] = std::int64_t{i % 2 == 0 ? -32768 : 32767};
             fila[4] = std::int64_t{i % 2 == 0 ? -2147483648LL : 2147483647LL};
-            fila[5] = std::int64_t{12345} * i;
-            fila[6] = 1.0 / 3 * i;
+            fila[5] = i == 399 ? std::numeric_limits<std::int64_t>::max() : std::int64_t{12345} * i;
+            fila[6] = i == 398 ? std::numeric_limits<double>::quiet_NaN() : 1.0 / 3 * i;
             fila[7] = jet::DiasDe(1900, 1, 1) + i;
             fila[8] = memo(i);
             fila[9] = std::string(static_cast<std::size_t>(i % 20), '\x7f');
+            fila[10] = 0.1F;
+            fila[11] = std::string(static_cast<std::size_t>(i), '\0');
+            fila[13] = std::string(16, '\x9c');
+            fila[14] = '\x80' + std::string(16, '\x11');
             fila[propias + 99] = std::int64_t{i};
         }
         escritor.AgregarFila(fila);
@@ -170,17 +185,47 @@ TEST(Jet, TodoTipoDeValorSeLeeComoSeEscribio) {
             return std::string(texto.data());
         };
         es("T", textos[static_cast<std::size_t>(i) % textos.size()]);
-        es("By", i % 2 == 0 ? "255" : "0");
-        es("E", i % 2 == 0 ? "-32768" : "32767");
-        es("La", i % 2 == 0 ? "-2147483648" : "2147483647");
+        EXPECT_EQ(fila.at("Id"), std::to_string(71 + i));
+        if (i >= 398) continue;  // as bytes there
         es("M", numero(12345.0 * i / 10000));
         es("D", numero(1.0 / 3 * i));
         es("F", numero(2 + i));
         es("Me", memo(i));
         es("Una columna de nombre largo 99", std::to_string(i));
     }
-    const std::string contadas = Mdb("mdb-count '" + (carpeta / "todo.mdb").string() + "' Todo");
-    EXPECT_EQ(contadas, std::to_string(Cuantas) + "\n");
+    for (const auto& [orden, dicho] : {std::pair{"mdb-count", "400\n"},
+                                       {"mdb-export -b hex", ",-22685491128062564230891640495451.214097"},
+                                       {"mdb-export", ",255,-32768,-2147483648,"},
+                                       {"mdb-export", ",0,32767,2147483647,"},
+                                       {"mdb-prop", "DefaultValue: 777"}})
+        EXPECT_NE(Mdb(std::string(orden) + " '" + (carpeta / "todo.mdb").string() + "' Todo").find(dicho),
+                  std::string::npos);
+    EXPECT_TRUE(BaseEnJet(Programa, carpeta / "todo.mdb", carpeta / "trabajo.db").EsDelPrograma());
+}
+
+/// What a file has that its rewriting does not keep is told, and the rest of it stays.
+TEST(Jet, LoQueNoSeConservaSeDice) {
+    using jet::Falta;
+    const CarpetaTemporal carpeta;
+    const std::filesystem::path base = carpeta / "ajena.db", uno = carpeta / "uno.cad";
+    const auto faltas = [&] { return BaseEnJet(Programa, uno, carpeta / "trabajo.db").Faltas(); };
+    ASSERT_TRUE(almacen::CrearBaseDatos(
+        base,
+        "CREATE TABLE Ajena (Id INTEGER PRIMARY KEY, M MONEY, Me TEXT, De INTEGER REFERENCES Ajena (Id));"
+        "INSERT INTO Ajena VALUES (7, 12345, 'original', 7), (8, NULL, NULL, NULL);"
+        "CREATE VIEW Consulta AS SELECT Id FROM Ajena"));
+    EscribirAntigua(3, base, uno, "0x1F2E3D4C");
+    EXPECT_EQ(faltas(), (std::map<Falta, std::size_t>{
+                            {Falta::Indice, 1}, {Falta::Objeto, 2}, {Falta::Clave, 1}, {Falta::Formato, 1}}));
+    const std::string filas = Mdb("mdb-export '" + uno.string() + "' Ajena");
+    BaseEnJet(Programa, uno, carpeta / "trabajo.db").Guardar(uno, carpeta / "original.cad");
+    EXPECT_EQ(Mdb("mdb-export '" + uno.string() + "' Ajena"), filas);
+    EXPECT_TRUE(faltas().empty());
+    std::string roto = prueba::LeerArchivo(uno);
+    roto[0x44] ^= 1;  // its password
+    roto[roto.find("original") / 4096 * 4096] = 9;
+    prueba::EscribirArchivo(uno, roto);
+    EXPECT_EQ(faltas(), (std::map<Falta, std::size_t>{{Falta::Clave, 1}, {Falta::Ilegible, 1}}));
 }
 
 /// What the old file has that the program's columns refuse is null and counted; a table that it has not is
@@ -188,11 +233,11 @@ TEST(Jet, TodoTipoDeValorSeLeeComoSeEscribio) {
 TEST(Jet, LoQueNoCabeSeCuenta) {
     const CarpetaTemporal carpeta;
     jet::EscritorJet escritor(40000);
-    escritor.AgregarTabla("losadatos",
-                          {{"NOMBRE", Tipo::Memo}, {"Bo", Tipo::Texto, 20}, {"Otra", Tipo::Entero}});
+    escritor.AgregarTabla(
+        {"losadatos", {{"NOMBRE", Tipo::Memo}, {"Bo", Tipo::Texto, 20}, {"Otra", Tipo::Entero}}});
     escritor.AgregarFila({std::string("L-1"), std::string("ancha"), std::int64_t{1}});
     escritor.AgregarFila({std::string(300, 'n'), {}, std::int64_t{1}});
-    escritor.AgregarTabla("Proyecto", {{"Proyecto", Tipo::Texto, 50}, {"Fecha", Tipo::Fecha}});
+    escritor.AgregarTabla({"Proyecto", {{"Proyecto", Tipo::Texto, 50}, {"Fecha", Tipo::Fecha}}});
     escritor.AgregarFila({std::string("Torre"), jet::DiasDe(2003, 2, 28) + 0.75});
     prueba::EscribirArchivo(carpeta / "viejo.los", escritor.Terminar());
     const auto perdidas = ConvertirBaseAntigua(Programa, carpeta / "viejo.los",

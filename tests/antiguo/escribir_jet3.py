@@ -3,8 +3,9 @@
 
     escribir_jet3.py ORIGIN TARGET [KEY]
 
-Every table with its rows, and after each tenth row one that is erased. KEY is the number that the pages lie
-under, 0 where they lie open. Source: the format as mdbtools' authors document it.
+Every table with its rows and primary key, and after each tenth row one that is erased; views and foreign keys
+as queries and relations that the catalogue alone knows. KEY is the number that the pages lie under, 0 where
+they lie open. Source: the format as mdbtools' authors document it.
 """
 import datetime
 import sqlite3
@@ -98,7 +99,8 @@ class Base:
             datos += bytes([lugar % 256 for lugar in reversed(lugares)] + tabla[::-1] + [len(lugares) - 1])
         return datos + mascara
 
-    def tabla(self, definicion, columnas, filas, clase=b"N"):
+    def tabla(self, definicion, columnas, filas, clase=b"N", clave=()):
+        """`clave` are the places of the columns of its primary key."""
         antes = len(self.paginas)
         for i, fila in enumerate(filas):
             codificada = self.fila(columnas, fila)
@@ -108,7 +110,8 @@ class Base:
         suyas = [p for p in range(antes, len(self.paginas)) if self.paginas[p][4:8] == struct.pack("<I", definicion)]
         texto = struct.pack("<IIIBHHH", 0, len(filas), 0, clase[0], len(columnas),
                             sum(c[1] not in FIJAS for c in columnas), len(columnas))
-        texto += struct.pack("<IIII", 0, 0, self.mapa(suyas), self.mapa(suyas[-1:]))
+        indices = 1 if clave else 0
+        texto += struct.pack("<IIII", indices, indices, self.mapa(suyas), self.mapa(suyas[-1:])) + bytes(8 * indices)
         lugar = variable = 0
         for i, (_, tipo, ancho) in enumerate(columnas):
             fija = tipo in FIJAS
@@ -117,6 +120,10 @@ class Base:
             lugar, variable = lugar + (ancho if fija and tipo != LOGICO else 0), variable + (not fija)
         for nombre, _, _ in columnas:
             texto += bytes([len(nombre.encode("cp1252"))]) + nombre.encode("cp1252")
+        if clave:
+            hoja = self.nueva(struct.pack("<BBHI", 4, 1, 1800, definicion))
+            texto += b"".join(struct.pack("<HB", clave[i] if i < len(clave) else 0xFFFF, i < len(clave)) for i in range(10))
+            texto += struct.pack("<IIBIIBiIHB", self.mapa([hoja]), hoja, 9, 0, 0, 0, -1, 0, 0, 1) + b"\x0aPrimaryKey"
         texto = bytearray(texto + b"\xff\xff")
         struct.pack_into("<I", texto, 0, len(texto) + 8)
         trozos = [texto[i:i + PAGINA - 8] for i in range(0, len(texto), PAGINA - 8)]
@@ -144,15 +151,20 @@ def valor(tipo, dato):
 
 
 def escribir(origen, destino, clave=0):
-    base, objetos = Base(), [(2, "MSysObjects", -0x80000000)]
+    base, objetos = Base(), [(2, "MSysObjects", 1, -0x80000000)]
     with sqlite3.connect(origen) as propia:
         for nombre, in propia.execute("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY rowid").fetchall():
-            columnas = [columna(c[1], c[2]) for c in propia.execute(f'PRAGMA table_info("{nombre}")')]
+            leidas = propia.execute(f'PRAGMA table_info("{nombre}")').fetchall()
+            columnas = [columna(c[1], c[2]) for c in leidas]
             filas = [[valor(c[1], dato) for c, dato in zip(columnas, fila)]
                      for fila in propia.execute(f'SELECT * FROM "{nombre}" ORDER BY rowid')]
-            objetos.append((base.nueva(), nombre, 0))
-            base.tabla(objetos[-1][0], columnas, filas)
-    base.tabla(2, CATALOGO, [[id_, 0x0F000001, nombre, 1, 36000, marcas, None] for id_, nombre, marcas in objetos], b"S")
+            objetos.append((base.nueva(), nombre, 1, -0x80000000 * nombre.startswith("MSys")))
+            base.tabla(objetos[-1][0], columnas, filas, clave=[c[0] for c in leidas if c[5]])
+            objetos += [(-len(objetos), f"{nombre}{c[2]}", 8, 0) for c in propia.execute(f'PRAGMA foreign_key_list("{nombre}")')]
+        objetos += [(-len(objetos) - i, nombre, 5, 0)
+                    for i, (nombre,) in enumerate(propia.execute("SELECT name FROM sqlite_master WHERE type = 'view'"))]
+    base.tabla(2, CATALOGO, [[id_, 0x0F000001, nombre, clase, 36000, marcas, None]
+                             for id_, nombre, clase, marcas in objetos], b"S")
     with open(destino, "wb") as archivo:
         archivo.write(base.archivo(clave))
 

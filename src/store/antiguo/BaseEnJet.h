@@ -1,7 +1,9 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 
+#include "jet/Receptor.h"
 #include "store/Conexion.h"
 
 namespace trabex::almacen::antiguo {
@@ -21,13 +23,23 @@ class BaseEnJet {
 
     almacen::Conexion& Conexion() { return conexion_; }
 
-    /// Writes it whole in the place of what `destino` held, or not at all, and closes it. Throws
-    /// ErrorEjecucion when it can't: 75 where `destino` is read-only.
-    void Guardar(const std::filesystem::path& destino);
+    /// What the file has and `Guardar` will not write: how many of each.
+    const std::map<jet::Falta, std::size_t>& Faltas() const { return faltas_; }
+
+    /// Whether the file is, to the byte, what the program writes of it: nobody else has written there. Closes
+    /// the connection.
+    bool EsDelPrograma();
+
+    /// Writes it whole in the place of what `destino` held, or not at all, and closes it. What it held stays
+    /// under the name `original`, where one is given. Throws ErrorEjecucion when it can't: 75 where `destino`
+    /// is read-only, 58 where something stands under that name.
+    void Guardar(const std::filesystem::path& destino, const std::filesystem::path& original = {});
 
   private:
+    std::filesystem::path archivo_;
     std::filesystem::path trabajo_;
     almacen::Conexion conexion_;
+    std::map<jet::Falta, std::size_t> faltas_;
 };
 
 }  // namespace trabex::almacen::antiguo

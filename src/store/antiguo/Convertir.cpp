@@ -64,21 +64,24 @@ std::vector<Pareja> Comunes(Motor& origen, const std::string& suya, Motor& desti
     return parejas;
 }
 
-Valor Leer(sqlite3_stmt* lectura, int i, jet::Tipo tipo) {
+/// Nothing where the value is of no kind that the program has.
+std::optional<Valor> Leer(sqlite3_stmt* lectura, int i, jet::Tipo tipo) {
     switch (sqlite3_column_type(lectura, i)) {
+        case SQLITE_NULL:
+            return Valor{};
         case SQLITE_INTEGER:
             return static_cast<double>(sqlite3_column_int64(lectura, i));
         case SQLITE_FLOAT:
             if (tipo == jet::Tipo::Fecha) {
                 const std::optional<Fecha> fecha = FechaDeDias(sqlite3_column_double(lectura, i));
-                return fecha ? Valor{*fecha} : Valor{};
+                return fecha ? std::optional<Valor>(*fecha) : std::nullopt;
             }
             return sqlite3_column_double(lectura, i);
         case SQLITE_TEXT:
             return std::string(reinterpret_cast<const char*>(sqlite3_column_text(lectura, i)),
                                static_cast<std::size_t>(sqlite3_column_bytes(lectura, i)));
         default:
-            return {};
+            return std::nullopt;
     }
 }
 
@@ -116,8 +119,8 @@ bool CopiarTabla(Motor& origen, const std::string& suya, Motor& destino, const s
         if (!hayFila) return true;
         std::vector<Valor> fila;
         for (std::size_t i = 0; i < parejas.size(); ++i) {
-            const std::optional<Valor> valor =
-                Tomar(parejas[i].Propia, Leer(lectura.get(), static_cast<int>(i), parejas[i].Tipo));
+            const std::optional<Valor> leido = Leer(lectura.get(), static_cast<int>(i), parejas[i].Tipo);
+            const std::optional<Valor> valor = leido ? Tomar(parejas[i].Propia, *leido) : std::nullopt;
             if (!valor) ++perdidas.Valores;
             fila.push_back(valor.value_or(Valor{}));
         }
@@ -144,6 +147,7 @@ bool Llenar(const std::filesystem::path& copia, const std::filesystem::path& nue
         else
             escrita = escrita && CopiarTabla(origen, *suya, destino, propia, perdidas);
     }
+    perdidas.Valores += FaltasDe(origen)[jet::Falta::Ilegible];
     return destino.TerminarGuardado(escrita) && escrita;
 }
 
@@ -183,11 +187,11 @@ std::optional<Perdidas> ConvertirBaseAntigua(const std::filesystem::path& progra
     return std::nullopt;
 }
 
-std::filesystem::path NombreDeAntigua(const std::filesystem::path& antigua) {
+std::filesystem::path NombreDeAntigua(const std::filesystem::path& antigua, std::string_view cual) {
     for (int i = 1;; ++i) {
         const std::string numero = i == 1 ? "" : " " + std::to_string(i);
         std::filesystem::path nombre = antigua.parent_path() / antigua.stem();
-        nombre += " (formato anterior" + numero + ")";
+        nombre += " (" + std::string(cual) + numero + ")";
         nombre += antigua.extension();
         if (!Existe(nombre)) return nombre;
     }

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <optional>
+#include <string_view>
 
 namespace trabex::almacen::antiguo {
 
@@ -18,7 +19,8 @@ bool CopiarBaseAntigua(const std::filesystem::path& programa, const std::filesys
 /// What a conversion could not take.
 struct Perdidas {
     std::size_t Tablas = 0;   ///< of the template, that the old file has not or that can't be read
-    std::size_t Valores = 0;  ///< past their column's range or width, or of another kind: null now
+    std::size_t Valores = 0;  ///< past their column's range or width, or of another kind: null now; and
+                              ///< the tables that could not be read whole
 };
 
 /// Makes `nueva` of the template, with the rows of an old project in the place of its own: each value by the
@@ -29,8 +31,10 @@ std::optional<Perdidas> ConvertirBaseAntigua(const std::filesystem::path& progra
                                              const std::filesystem::path& plantilla,
                                              const std::filesystem::path& nueva);
 
-/// Where an old file goes that is converted in its place: beside it, under a name that nothing has.
-std::filesystem::path NombreDeAntigua(const std::filesystem::path& antigua);
+/// Where a file stays whose place another takes: beside it, under a name that nothing has and that tells
+/// `cual` it is.
+std::filesystem::path NombreDeAntigua(const std::filesystem::path& antigua,
+                                      std::string_view cual = "formato anterior");
 
 /// The same in the old file's place, which first takes the name `NombreDeAntigua` gave. Nothing, and all as
 /// it was, when it can't be read or put there.

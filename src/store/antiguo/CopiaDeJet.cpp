@@ -4,6 +4,7 @@
 #include <string>
 
 #include "store/Dialecto.h"
+#include "store/antiguo/Tipos.h"
 
 namespace trabex::almacen::antiguo {
 
@@ -38,16 +39,23 @@ bool EsDeBytes(Tipo tipo) {
     return tipo != Tipo::Texto && tipo != Tipo::Memo;
 }
 
-constexpr double DiezMilesimas = 10000;
+/// A number as its column of doubles takes it, or its eight bytes where that would change it.
+template <class Numero>
+void LigarExacto(sqlite3_stmt* sentencia, int i, double doble, Numero numero, Numero vuelta) {
+    if (vuelta == numero)
+        sqlite3_bind_double(sentencia, i, doble);
+    else
+        sqlite3_bind_blob(sentencia, i, &numero, sizeof(numero), SQLITE_TRANSIENT);
+}
 
 void LigarDeJet(sqlite3_stmt* sentencia, int i, Tipo tipo, const jet::Valor& valor) {
     if (const auto* entero = std::get_if<std::int64_t>(&valor)) {
         if (tipo == Tipo::Moneda)
-            sqlite3_bind_double(sentencia, i, static_cast<double>(*entero) / DiezMilesimas);
+            LigarExacto(sentencia, i, UnidadesDe(*entero), *entero, DiezMilesimasDe(UnidadesDe(*entero)));
         else
             sqlite3_bind_int64(sentencia, i, *entero);
     } else if (const auto* doble = std::get_if<double>(&valor)) {
-        sqlite3_bind_double(sentencia, i, *doble);
+        LigarExacto(sentencia, i, *doble, *doble, *doble);  // what is no number is not itself
     } else if (const auto* texto = std::get_if<std::string>(&valor)) {
         if (EsDeBytes(tipo))
             sqlite3_bind_blob64(sentencia, i, texto->data(), texto->size(), SQLITE_STATIC);
@@ -67,30 +75,56 @@ CopiaDeJet::CopiaDeJet(const std::filesystem::path& destino)
     const std::string tipos = Identificador(TablaDeTipos);
     entera_ = motor_.Correr("CREATE TABLE " + tipos +
                             " (Tabla TEXT, Orden INTEGER, Tipo INTEGER, Ancho INTEGER, Precision INTEGER, "
-                            "Escala INTEGER)");
-    anotacion_ = motor_.Preparar("INSERT INTO " + tipos + " VALUES (?, ?, ?, ?, ?, ?)");
+                            "Escala INTEGER, Automatica INTEGER)") &&
+              motor_.Correr("CREATE TABLE " + Identificador(TablaDeTablas) +
+                            " (Tabla TEXT, Propiedades BLOB, UltimoNumero INTEGER)") &&
+              motor_.Correr("CREATE TABLE " + Identificador(TablaDeFaltas) + " (Falta INTEGER)");
+    anotacion_ = motor_.Preparar("INSERT INTO " + tipos + " VALUES (?, ?, ?, ?, ?, ?, ?)");
+    anotacionDeTabla_ = motor_.Preparar("INSERT INTO " + Identificador(TablaDeTablas) + " VALUES (?, ?, ?)");
 }
 
-void CopiaDeJet::RecibirTabla(const std::string& nombre, const std::vector<jet::Columna>& columnas) {
+void CopiaDeJet::RecibirTabla(const jet::Tabla& tabla) {
     insercion_.reset();
-    columnas_ = columnas;
-    if (!motor_.Abierto() || columnas.empty()) return;
+    columnas_ = tabla.Columnas;
+    if (!motor_.Abierto() || columnas_.empty()) return;
     std::string esquema, marcas;
-    for (std::size_t i = 0; i < columnas.size(); ++i) {
-        esquema += (i == 0 ? "" : ", ") + Identificador(columnas[i].Nombre) + " " + Declaracion(columnas[i]);
+    for (std::size_t i = 0; i < columnas_.size(); ++i) {
+        esquema +=
+            (i == 0 ? "" : ", ") + Identificador(columnas_[i].Nombre) + " " + Declaracion(columnas_[i]);
         marcas += i == 0 ? "?" : ", ?";
-        Anotar(nombre, i, columnas[i]);
+        Anotar(tabla.Nombre, i, columnas_[i]);
     }
-    entera_ = motor_.Correr("CREATE TABLE " + Identificador(nombre) + " (" + esquema + ")") && entera_;
-    insercion_ = motor_.Preparar("INSERT INTO " + Identificador(nombre) + " VALUES (" + marcas + ")");
+    Anotar(tabla);
+    entera_ = motor_.Correr("CREATE TABLE " + Identificador(tabla.Nombre) + " (" + esquema + ")") && entera_;
+    insercion_ = motor_.Preparar("INSERT INTO " + Identificador(tabla.Nombre) + " VALUES (" + marcas + ")");
+}
+
+void CopiaDeJet::RecibirFalta(jet::Falta falta) {
+    if (motor_.Abierto())
+        entera_ = motor_.Correr("INSERT INTO " + Identificador(TablaDeFaltas) + " VALUES (" +
+                                std::to_string(static_cast<int>(falta)) + ")") &&
+                  entera_;
+}
+
+void CopiaDeJet::Anotar(const jet::Tabla& tabla) {
+    if (!anotacionDeTabla_) return;
+    sqlite3_reset(anotacionDeTabla_.get());
+    sqlite3_bind_text(anotacionDeTabla_.get(), 1, tabla.Nombre.data(), static_cast<int>(tabla.Nombre.size()),
+                      SQLITE_STATIC);
+    sqlite3_bind_blob64(anotacionDeTabla_.get(), 2, tabla.Propiedades.data(), tabla.Propiedades.size(),
+                        SQLITE_STATIC);
+    sqlite3_bind_int(anotacionDeTabla_.get(), 3, tabla.UltimoNumero);
+    bool hayFila = false;
+    entera_ = motor_.Avanzar(anotacionDeTabla_.get(), hayFila) && entera_;
 }
 
 void CopiaDeJet::Anotar(const std::string& tabla, std::size_t orden, const jet::Columna& columna) {
     if (!anotacion_) return;
     sqlite3_reset(anotacion_.get());
     sqlite3_bind_text(anotacion_.get(), 1, tabla.data(), static_cast<int>(tabla.size()), SQLITE_STATIC);
-    const std::array<int, 5> numeros{static_cast<int>(orden), static_cast<int>(columna.De), columna.Ancho,
-                                     columna.Precision, columna.Escala};
+    const std::array<int, 6> numeros{static_cast<int>(orden), static_cast<int>(columna.De),
+                                     columna.Ancho,           columna.Precision,
+                                     columna.Escala,          columna.Automatica};
     for (std::size_t i = 0; i < numeros.size(); ++i)
         sqlite3_bind_int(anotacion_.get(), static_cast<int>(i) + 2, numeros[i]);
     bool hayFila = false;
@@ -108,6 +142,7 @@ void CopiaDeJet::RecibirFila(const jet::Fila& fila) {
 
 bool CopiaDeJet::Terminar() {
     anotacion_.reset();
+    anotacionDeTabla_.reset();
     insercion_.reset();
     return motor_.Abierto() && motor_.TerminarGuardado(entera_) && entera_;
 }

@@ -1,6 +1,8 @@
 #include "store/antiguo/EscribirJet.h"
 
-#include <cmath>
+#include <cstring>
+#include <fstream>
+#include <iterator>
 
 #include "base/Archivos.h"
 #include "base/ErrorEjecucion.h"
@@ -15,8 +17,6 @@ namespace trabex::almacen::antiguo {
 namespace {
 
 using jet::Tipo;
-
-constexpr double DiezMilesimas = 10000;
 
 double DiasDe(const Fecha& fecha) {
     return jet::DiasDe(static_cast<int>(fecha.year()), static_cast<unsigned>(fecha.month()),
@@ -33,6 +33,13 @@ jet::Valor ValorDe(sqlite3_stmt* lectura, int i, Tipo tipo) {
         const auto largo = static_cast<std::size_t>(sqlite3_column_bytes(lectura, i));
         return largo == 0 ? std::string() : std::string(static_cast<const char*>(datos), largo);
     };
+    // A number that its column would have changed is here as its own bytes.
+    const auto copiado = [&](auto numero) -> jet::Valor {
+        const std::string suyos = bytes();
+        if (suyos.size() != sizeof(numero)) return {};
+        std::memcpy(&numero, suyos.data(), sizeof(numero));
+        return numero;
+    };
     switch (tipo) {
         case Tipo::Logico:
         case Tipo::Byte:
@@ -41,26 +48,27 @@ jet::Valor ValorDe(sqlite3_stmt* lectura, int i, Tipo tipo) {
             return clase == SQLITE_INTEGER ? jet::Valor{std::int64_t{sqlite3_column_int64(lectura, i)}}
                                            : jet::Valor{};
         case Tipo::Moneda:
-            return std::int64_t{std::llround(sqlite3_column_double(lectura, i) * DiezMilesimas)};
+            return clase == SQLITE_BLOB ? copiado(std::int64_t{})
+                                        : jet::Valor{DiezMilesimasDe(sqlite3_column_double(lectura, i))};
         case Tipo::Fecha:
             if (clase == SQLITE_TEXT) {
                 const std::optional<Fecha> fecha = FechaDeTexto(bytes());
                 return fecha ? jet::Valor{DiasDe(*fecha)} : jet::Valor{};
             }
-            return sqlite3_column_double(lectura, i);
+            [[fallthrough]];
         case Tipo::Simple:
         case Tipo::Doble:
-            return clase == SQLITE_TEXT || clase == SQLITE_BLOB
-                       ? jet::Valor{}
-                       : jet::Valor{sqlite3_column_double(lectura, i)};
+            if (clase == SQLITE_BLOB) return copiado(0.0);
+            return clase == SQLITE_TEXT ? jet::Valor{} : jet::Valor{sqlite3_column_double(lectura, i)};
         default:
             return bytes();
     }
 }
 
 void EscribirTabla(Motor& base, const std::string& tabla, jet::EscritorJet& escritor) {
-    const std::vector<jet::Columna> columnas = ColumnasDe(base, tabla);
-    escritor.AgregarTabla(tabla, columnas);
+    const jet::Tabla suya = TablaDe(base, tabla);
+    const std::vector<jet::Columna>& columnas = suya.Columnas;
+    escritor.AgregarTabla(suya);
     const SentenciaSqlite lectura =
         base.Preparar("SELECT * FROM " + Identificador(tabla) + " ORDER BY rowid");
     bool hayFila = false, leida = lectura != nullptr;
@@ -73,14 +81,28 @@ void EscribirTabla(Motor& base, const std::string& tabla, jet::EscritorJet& escr
     if (!leida) throw ErrorEjecucion(CodigoError::ErrorAccesoRuta);
 }
 
+std::string EnJet(const std::filesystem::path& base, double fecha) {
+    Motor motor(base, SQLITE_OPEN_READWRITE);
+    if (!motor.Abierto()) throw ErrorEjecucion(CodigoError::ErrorAccesoRuta);
+    jet::EscritorJet escritor(fecha);
+    for (const std::string& tabla : TablasDe(motor)) EscribirTabla(motor, tabla, escritor);
+    return escritor.Terminar();
+}
+
 }  // namespace
 
 void EscribirJet(const std::filesystem::path& base, const std::filesystem::path& destino) {
-    Motor motor(base, SQLITE_OPEN_READWRITE);
-    if (!motor.Abierto()) throw ErrorEjecucion(CodigoError::ErrorAccesoRuta);
-    jet::EscritorJet escritor(DiasDe(Hoy()));
-    for (const std::string& tabla : TablasDe(motor)) EscribirTabla(motor, tabla, escritor);
-    EscribirArchivo(destino, escritor.Terminar());
+    EscribirArchivo(destino, EnJet(base, DiasDe(Hoy())));
+}
+
+bool EsEscrituraDe(const std::filesystem::path& base, const std::filesystem::path& archivo) {
+    std::ifstream leido(archivo, std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(leido), {}};
+    try {
+        return EnJet(base, jet::FechaDeEscritura(bytes)) == bytes;
+    } catch (const ErrorEjecucion&) {
+        return false;
+    }
 }
 
 }  // namespace trabex::almacen::antiguo

@@ -9,4 +9,7 @@ namespace trabex::almacen::antiguo {
 /// can.
 void EscribirJet(const std::filesystem::path& base, const std::filesystem::path& destino);
 
+/// Whether a file is what the program writes of `base`, to the byte.
+bool EsEscrituraDe(const std::filesystem::path& base, const std::filesystem::path& archivo);
+
 }  // namespace trabex::almacen::antiguo

@@ -1,5 +1,7 @@
 #include "store/antiguo/Tipos.h"
 
+#include <cmath>
+
 #include "store/Columna.h"
 #include "store/Dialecto.h"
 #include "store/antiguo/CopiaDeJet.h"
@@ -11,6 +13,8 @@ namespace {
 using jet::Tipo;
 
 constexpr std::size_t MayorTexto = 255;
+/// Of money, in its own unit.
+constexpr double Unidad = 10000;
 
 std::string Texto(sqlite3_stmt* sentencia, int i) {
     const unsigned char* datos = sqlite3_column_text(sentencia, i);
@@ -42,15 +46,19 @@ jet::Columna PorDeclaracion(const Columna& columna) {
 std::map<int, jet::Columna> TiposAnotados(Motor& base, const std::string& tabla) {
     std::map<int, jet::Columna> tipos;
     const SentenciaSqlite lectura =
-        base.Preparar("SELECT Orden, Tipo, Ancho, Precision, Escala FROM " +
+        base.Preparar("SELECT Orden, Tipo, Ancho, Precision, Escala, Automatica FROM " +
                       Identificador(CopiaDeJet::TablaDeTipos) + " WHERE Tabla = ?");
     if (!lectura) return tipos;
     sqlite3_bind_text(lectura.get(), 1, tabla.data(), static_cast<int>(tabla.size()), SQLITE_STATIC);
     const auto numero = [&](int i) { return sqlite3_column_int(lectura.get(), i); };
     bool hayFila = false;
     while (base.Avanzar(lectura.get(), hayFila) && hayFila)
-        tipos[numero(0)] = {"", static_cast<Tipo>(numero(1)), static_cast<std::uint16_t>(numero(2)),
-                            static_cast<std::uint8_t>(numero(3)), static_cast<std::uint8_t>(numero(4))};
+        tipos[numero(0)] = {"",
+                            static_cast<Tipo>(numero(1)),
+                            static_cast<std::uint16_t>(numero(2)),
+                            static_cast<std::uint8_t>(numero(3)),
+                            static_cast<std::uint8_t>(numero(4)),
+                            numero(5) != 0};
     return tipos;
 }
 
@@ -59,11 +67,17 @@ std::map<int, jet::Columna> TiposAnotados(Motor& base, const std::string& tabla)
 std::vector<std::string> TablasDe(Motor& base) {
     std::vector<std::string> tablas;
     const SentenciaSqlite lectura = base.Preparar(
-        "SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite%' ORDER BY rowid");
+        "SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\' "
+        "ORDER BY rowid");
     bool hayFila = false;
     while (lectura && base.Avanzar(lectura.get(), hayFila) && hayFila) {
         tablas.push_back(Texto(lectura.get(), 0));
-        if (tablas.back() == CopiaDeJet::TablaDeTipos) tablas.pop_back();
+        for (const char* propia :
+             {CopiaDeJet::TablaDeTipos, CopiaDeJet::TablaDeTablas, CopiaDeJet::TablaDeFaltas})
+            if (tablas.back() == propia) {
+                tablas.pop_back();
+                break;
+            }
     }
     return tablas;
 }
@@ -84,6 +98,41 @@ std::vector<jet::Columna> ColumnasDe(Motor& base, const std::string& tabla) {
         }
     }
     return columnas;
+}
+
+jet::Tabla TablaDe(Motor& base, const std::string& tabla) {
+    jet::Tabla hecha{tabla, ColumnasDe(base, tabla)};
+    const SentenciaSqlite lectura =
+        base.Preparar("SELECT Propiedades, UltimoNumero FROM " + Identificador(CopiaDeJet::TablaDeTablas) +
+                      " WHERE Tabla = ?");
+    bool hayFila = false;
+    if (!lectura) return hecha;
+    sqlite3_bind_text(lectura.get(), 1, tabla.data(), static_cast<int>(tabla.size()), SQLITE_STATIC);
+    if (!base.Avanzar(lectura.get(), hayFila) || !hayFila) return hecha;
+    if (const void* bytes = sqlite3_column_blob(lectura.get(), 0))
+        hecha.Propiedades.assign(static_cast<const char*>(bytes),
+                                 static_cast<std::size_t>(sqlite3_column_bytes(lectura.get(), 0)));
+    hecha.UltimoNumero = sqlite3_column_int(lectura.get(), 1);
+    return hecha;
+}
+
+std::map<jet::Falta, std::size_t> FaltasDe(Motor& base) {
+    std::map<jet::Falta, std::size_t> faltas;
+    const SentenciaSqlite lectura = base.Preparar(
+        "SELECT Falta, count(*) FROM " + Identificador(CopiaDeJet::TablaDeFaltas) + " GROUP BY Falta");
+    bool hayFila = false;
+    while (lectura && base.Avanzar(lectura.get(), hayFila) && hayFila)
+        faltas[static_cast<jet::Falta>(sqlite3_column_int(lectura.get(), 0))] =
+            static_cast<std::size_t>(sqlite3_column_int64(lectura.get(), 1));
+    return faltas;
+}
+
+double UnidadesDe(std::int64_t diezMilesimas) {
+    return static_cast<double>(diezMilesimas) / Unidad;
+}
+
+std::int64_t DiezMilesimasDe(double unidades) {
+    return std::llround(unidades * Unidad);
 }
 
 }  // namespace trabex::almacen::antiguo
