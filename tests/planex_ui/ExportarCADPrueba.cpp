@@ -29,15 +29,15 @@ struct PantallaGuiada : PantallaExportarCAD {
 
 class ExportarCAD_ : public prueba::Exportacion {
   protected:
-    /// Runs the export of the rows to a file and answers yes to its question.
+    /// Runs the export of the rows to a file and answers yes to its question, and `otra` to a second one.
     void Exportar(std::set<int> filas, ArchivoCAD opcion, const std::filesystem::path& archivo,
-                  std::uint8_t version = Planex2023) {
+                  std::uint8_t version = Planex2023, std::int16_t otra = RespuestaSi) {
         pantalla = {};
         pantalla.Marcas = std::move(filas);
         pantalla.Archivo = opcion;
         dialogos.Elegidos = {archivo};
         caja.Mensajes.clear();
-        caja.Respuestas = {RespuestaSi};
+        caja.Respuestas = {RespuestaSi, otra};
         ExportarCAD(aplicacion, servicios, version, pantalla).ExportarCAD80();
         EXPECT_FALSE(pantalla.Espera);
     }
@@ -204,6 +204,29 @@ TEST_F(ExportarCAD_, LoQueNoEsDePlanexQuedaComoEstaba) {
     const std::string antes = prueba::LeerArchivo(aplicacion.ArchivoProyecto);
     Exportar({1, 2}, ArchivoCAD::AnexarAExistente, aplicacion.ArchivoProyecto);
     EXPECT_EQ(prueba::LeerArchivo(aplicacion.ArchivoProyecto), antes);
+}
+
+TEST_F(ExportarCAD_, LoQueNoSeConservaSePreguntaYQuedaAlLado) {
+    const auto archivo = carpeta / "obra.cad", ocupado = carpeta / "obra (original).cad",
+               original = carpeta / "obra (original 2).cad";
+    Exportar({1}, ArchivoCAD::CrearNuevo, archivo);
+    prueba::EscribirArchivo(ocupado, "de nadie");
+    std::string antes = prueba::LeerArchivo(archivo);
+    antes[0x44] ^= 1;  // a password
+    prueba::EscribirArchivo(archivo, antes);
+    for (const std::int16_t respuesta : {RespuestaAceptarONo, RespuestaCancelar, RespuestaSi}) {
+        const bool sigue = respuesta == RespuestaSi;
+        Exportar({2}, ArchivoCAD::AnexarAExistente, archivo, Planex2023, respuesta);
+        const Mensaje& pregunta = caja.Mensajes.at(1);
+        EXPECT_EQ(pregunta.Texto,
+                  "obra.cad\nAl Anexar no se Conservan:\n- Su Contraseña o Cifrado\n"
+                  "El Archivo Original quedará como: obra (original 2).cad\n¿Desea Usted Continuar?");
+        EXPECT_EQ(pregunta.PorDefecto, 1);
+        EXPECT_EQ(DisposicionDe(pregunta.Botones).Escape, RespuestaCancelar);
+        EXPECT_EQ(prueba::LeerArchivo(sigue ? original : archivo), antes);
+        EXPECT_EQ(Cuantas(archivo, "LosaDatos", "B NERVADA"), sigue ? 1 : 0);
+    }
+    EXPECT_EQ(prueba::LeerArchivo(ocupado), "de nadie");
 }
 
 TEST_F(ExportarCAD_, UnaComillaEnElNombreRompeSoloLoSuyo) {

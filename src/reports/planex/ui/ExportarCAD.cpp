@@ -9,6 +9,7 @@
 #include "shell/Espera.h"
 #include "slab/CalcularLosa.h"
 #include "store/Elementos.h"
+#include "store/antiguo/Convertir.h"
 #include "store/tablas/TablasLosa.h"
 
 namespace trabex::planex::ui {
@@ -30,6 +31,20 @@ constexpr std::array<EdicionPlanex, 2> Ediciones{{
      "Crear Nuevo Proyecto en Planex Estructural 8.0"},
     {"ImagenCAD23.tbx", "Planex23", "Abrir un Proyecto en Planex Estructural 2023",
      "Crear Nuevo Proyecto en Planex Estructural 2023"},
+}};
+
+/// How the question names what a file loses that is written anew.
+struct NoConservado {
+    jet::Falta Falta;
+    const char* Texto;
+    bool SeCuenta = true;
+};
+constexpr std::array<NoConservado, 5> NoConservados{{
+    {jet::Falta::Indice, "Índices y Claves de sus Tablas"},
+    {jet::Falta::Objeto, "Relaciones, Consultas, Formularios y otros Objetos"},
+    {jet::Falta::Clave, "Su Contraseña o Cifrado", false},
+    {jet::Falta::Formato, "Su Formato Anterior y los Valores por Defecto de sus Columnas", false},
+    {jet::Falta::Ilegible, "Tablas que no se pudieron Leer Completas"},
 }};
 
 std::string TituloDe(const std::filesystem::path& archivo) {
@@ -142,16 +157,45 @@ void ExportarCAD::Exportar(const std::vector<int>& filas) {
         TituloDe(*archivo) + "\n¿Anexar las Losas Seleccionadas a Planex Estructural 2023?",
         EncabezadoPlanex);
     if (servicios_.Caja.Mostrar(pregunta) != programa::RespuestaSi) return;
-    const int exportadas = EscribirLosas(filas, *archivo);
+    std::optional<almacen::antiguo::BaseEnJet> base;
+    const auto leer = [&] {
+        const auto espera = programa::Espera(pantalla_);
+        base.emplace(servicios_.Carpetas.CaminoPrograma, *archivo, ArchivoDeTrabajo(*archivo));
+    };
+    leer();
+    std::filesystem::path original;
+    if (const auto faltas = base->Faltas(); !faltas.empty()) {
+        base.reset();
+        original = almacen::antiguo::NombreDeAntigua(*archivo, "original");
+        if (!Preguntar(*archivo, original, faltas)) return;
+        leer();  // the other program may have written it while the question stood
+    }
+    const int exportadas = EscribirLosas(filas, *archivo, original, *base);
     servicios_.Caja.Mostrar(
         Aviso("¡Se Exportaron ( " + std::to_string(exportadas) + " ) Losa(s) con Exito a Planex Estructural!",
               EncabezadoPlanex, programa::IconoCaja::Informacion));
     pantalla_.Cerrar();
 }
 
-int ExportarCAD::EscribirLosas(const std::vector<int>& filas, const std::filesystem::path& archivo) {
+bool ExportarCAD::Preguntar(const std::filesystem::path& archivo, const std::filesystem::path& original,
+                            const std::map<jet::Falta, std::size_t>& faltas) {
+    std::string texto = TituloDe(archivo) + "\nAl Anexar no se Conservan:";
+    for (const NoConservado& cosa : NoConservados) {
+        const auto suyas = faltas.find(cosa.Falta);
+        if (suyas == faltas.end()) continue;
+        texto += std::string("\n- ") + cosa.Texto;
+        if (cosa.SeCuenta) texto += ": " + std::to_string(suyas->second);
+    }
+    programa::Mensaje pregunta = programa::PreguntaDeEliminar(
+        texto + "\nEl Archivo Original quedará como: " + TituloDe(original) + "\n¿Desea Usted Continuar?",
+        EncabezadoPlanex);
+    pregunta.Botones = programa::BotonesCaja::SiNoCancelar;  // Escape answers it
+    return servicios_.Caja.Mostrar(pregunta) == programa::RespuestaSi;
+}
+
+int ExportarCAD::EscribirLosas(const std::vector<int>& filas, const std::filesystem::path& archivo,
+                               const std::filesystem::path& original, almacen::antiguo::BaseEnJet& base) {
     const auto espera = programa::Espera(pantalla_);
-    almacen::antiguo::BaseEnJet base(servicios_.Carpetas.CaminoPrograma, archivo, ArchivoDeTrabajo(archivo));
     almacen::Conexion& destino = base.Conexion();
     int exportadas = 0;
     try {
@@ -171,10 +215,10 @@ int ExportarCAD::EscribirLosas(const std::vector<int>& filas, const std::filesys
             ++exportadas;
         }
     } catch (const ErrorEjecucion&) {
-        base.Guardar(archivo);  // what was written before the fault stays
+        base.Guardar(archivo, original);  // what was written before the fault stays
         throw;
     }
-    if (!destino.ConexionFallida()) base.Guardar(archivo);
+    if (!destino.ConexionFallida()) base.Guardar(archivo, original);
     return exportadas;
 }
 

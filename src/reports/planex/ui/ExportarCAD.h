@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -9,6 +10,7 @@
 #include "shell/Aplicacion.h"
 #include "shell/Servicios.h"
 #include "slab/Losa.h"
+#include "store/antiguo/BaseEnJet.h"
 
 namespace trabex::planex::ui {
 
@@ -54,7 +56,12 @@ class ExportarCAD {
     std::optional<std::filesystem::path> ElegirExistente();
     std::optional<std::filesystem::path> ElegirNuevo();
     void Exportar(const std::vector<int>& filas);
-    int EscribirLosas(const std::vector<int>& filas, const std::filesystem::path& archivo);
+    /// Whether a file may be rewritten that has what the rewriting does not keep; it will stay as `original`.
+    bool Preguntar(const std::filesystem::path& archivo, const std::filesystem::path& original,
+                   const std::map<jet::Falta, std::size_t>& faltas);
+    /// `original` is empty where nothing of the file gets lost.
+    int EscribirLosas(const std::vector<int>& filas, const std::filesystem::path& archivo,
+                      const std::filesystem::path& original, almacen::antiguo::BaseEnJet& base);
 
     programa::Aplicacion& aplicacion_;
     programa::Servicios servicios_;
