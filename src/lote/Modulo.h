@@ -89,10 +89,12 @@ struct Intercambio {
     const char* Clave;      ///< name of its folder, and of the output in the command line
     const char* Rotulo;     ///< how the closing lines name it
     const char* Extension;  ///< the file has the project's name
-    /// Writes the file whole or not at all; `programa` holds templates. Throws ErrorEjecucion; `enCurso` then
-    /// names the element at which it stopped, where it was one.
-    void (*Escribir)(const std::filesystem::path& programa, const std::filesystem::path& destino,
-                     const DatosDelProyecto& datos, const Lista& lista, std::string& enCurso);
+    /// Writes the file whole or not at all; `programa` holds templates. The path under which the file stays
+    /// that stood there, where another program had written it; else empty. Throws ErrorEjecucion; `enCurso`
+    /// then names the element at which it stopped, where it was one.
+    std::filesystem::path (*Escribir)(const std::filesystem::path& programa,
+                                      const std::filesystem::path& destino, const DatosDelProyecto& datos,
+                                      const Lista& lista, std::string& enCurso);
 };
 
 /// What the calculation memo tells of an element, before its drawings and after them.

@@ -104,8 +104,11 @@ class Salidas {
         std::filesystem::create_directories(archivo.parent_path(), ignorado);
         std::string enCurso;
         try {
-            intercambio.Escribir(CarpetaDelPrograma(), archivo, calculado_.Datos, lista, enCurso);
+            const std::filesystem::path original =
+                intercambio.Escribir(CarpetaDelPrograma(), archivo, calculado_.Datos, lista, enCurso);
             cierreDeIntercambios_ += Linea(intercambio.Rotulo, archivo);
+            if (!original.empty())
+                cierreDeIntercambios_ += Linea("El que había, de otro programa, queda como", original);
         } catch (const ErrorEjecucion& error) {
             const std::string salida = TextoDeCamino(archivo.filename());
             faltas_.Anotar(enCurso.empty() ? salida : SalidaDe(salida, lista.De->Nombre, enCurso),

@@ -1,14 +1,18 @@
 #include "reports/planex/ArchivoPlanex.h"
 
+#include <algorithm>
 #include <array>
 #include <initializer_list>
 #include <string>
 #include <utility>
 
+#include "base/Archivos.h"
 #include "base/Formatos.h"
 #include "base/Texto.h"
 #include "store/Filas.h"
+#include "store/Recordset.h"
 #include "store/Vaciado.h"
+#include "store/antiguo/Convertir.h"
 
 namespace trabex::planex {
 
@@ -32,6 +36,10 @@ constexpr std::array<const char*, 14> TablasQueSeVacian{"LosaComputos",
                                                         "LosaRefuerzoTramoSuperior",
                                                         "LosaReparticion",
                                                         "LosaTramos"};
+
+/// Of those, what a slab is written into; the rest is Planex's own.
+constexpr std::array<const char*, 5> TablasQueSeLlenan{"LosaDatos", "LosaTramos", "LosaNervios", "LosaEjes",
+                                                       "LosaRefTeorico"};
 
 using Campo = std::pair<const char*, almacen::Valor>;
 
@@ -184,11 +192,11 @@ bool EscribirProyectoPlanex(almacen::Conexion& destino, const DatosDelProyecto& 
 }
 
 TablasPlanex::TablasPlanex(almacen::Conexion& destino)
-    : datos_(destino, "LosaDatos"),
-      tramos_(destino, "LosaTramos"),
-      nervios_(destino, "LosaNervios"),
-      ejes_(destino, "LosaEjes"),
-      teorico_(destino, "LosaRefTeorico") {}
+    : datos_(destino, TablasQueSeLlenan[0]),
+      tramos_(destino, TablasQueSeLlenan[1]),
+      nervios_(destino, TablasQueSeLlenan[2]),
+      ejes_(destino, TablasQueSeLlenan[3]),
+      teorico_(destino, TablasQueSeLlenan[4]) {}
 
 bool TablasPlanex::Agregar(const losas::Losa& losa, const losas::ResultadosLosa& resultados) {
     const std::string nombre = Recortar(losa.Nombre);
@@ -217,12 +225,28 @@ void Exigir(bool escrito) {
     if (!escrito) throw ErrorEjecucion(CodigoError::ErrorAccesoRuta);
 }
 
+/// Whether nothing stands in a file but what this program writes there.
+bool EsSoloDelPrograma(const std::filesystem::path& programa, const std::filesystem::path& archivo,
+                       const std::filesystem::path& trabajo) {
+    almacen::antiguo::BaseEnJet base(programa, archivo, trabajo);
+    for (const char* tabla : TablasQueSeVacian) {
+        almacen::Recordset filas;
+        if (std::find(TablasQueSeLlenan.begin(), TablasQueSeLlenan.end(), std::string_view(tabla)) ==
+            TablasQueSeLlenan.end())
+            almacen::AbrirRecordset(base.Conexion(), filas, tabla);
+        if (filas.NumeroRegistros() > 0) return false;
+    }
+    return base.EsDelPrograma();
+}
+
 }  // namespace
 
 ArchivoNuevoPlanex::ArchivoNuevoPlanex(const std::filesystem::path& programa, const char* plantilla,
                                        const std::filesystem::path& destino, const DatosDelProyecto& datos,
                                        const DatosGenerales& generales)
-    : destino_(destino), base_(programa, programa / "Imagen" / plantilla, ArchivoDeTrabajo(destino)) {
+    : programa_(programa),
+      destino_(destino),
+      base_(programa, programa / "Imagen" / plantilla, ArchivoDeTrabajo(destino)) {
     Exigir(base_.Conexion().Abierta());
     guardado_.emplace(base_.Conexion());
     tablas_.emplace(base_.Conexion());
@@ -233,11 +257,17 @@ void ArchivoNuevoPlanex::Agregar(const losas::Losa& losa, const losas::Resultado
     Exigir(tablas_->Agregar(losa, resultados));
 }
 
-void ArchivoNuevoPlanex::Colocar() {
+std::filesystem::path ArchivoNuevoPlanex::Colocar() {
     Exigir(guardado_->Confirmar());
     tablas_.reset();
     guardado_.reset();
-    base_.Guardar(destino_);
+    std::filesystem::path original;
+    if (Existe(destino_)) {
+        original = almacen::antiguo::NombreDeAntigua(destino_, "original");
+        if (EsSoloDelPrograma(programa_, destino_, ArchivoDeTrabajo(original))) original.clear();
+    }
+    base_.Guardar(destino_, original);
+    return original;
 }
 
 }  // namespace trabex::planex

@@ -62,16 +62,19 @@ bool ReemplazarLosaPlanex(almacen::Conexion& destino, const losas::Losa& losa,
 
 /// A new file with slabs of a project, made from a template of the program folder: whole in the place of what
 /// `destino` held, or not at all. Every operation throws ErrorEjecucion when it can't; `destino` then stands
-/// as it stood.
+/// as it stood. Nobody is asked: a file that another program has written, or that holds what Planex adds to
+/// slabs, stays beside the new one.
 class ArchivoNuevoPlanex {
   public:
     ArchivoNuevoPlanex(const std::filesystem::path& programa, const char* plantilla,
                        const std::filesystem::path& destino, const DatosDelProyecto& datos,
                        const DatosGenerales& generales);
     void Agregar(const losas::Losa& losa, const losas::ResultadosLosa& resultados);
-    void Colocar();
+    /// Where the file stays whose place it takes; empty where that was the program's own.
+    std::filesystem::path Colocar();
 
   private:
+    std::filesystem::path programa_;
     std::filesystem::path destino_;
     almacen::antiguo::BaseEnJet base_;
     std::optional<almacen::Transaccion> guardado_;

@@ -135,8 +135,9 @@ void Montar(almacen::Conexion& temporal, const lote::Lista& lista) {
 
 constexpr lote::ReportesDeModulo Reportes{TituloReporteLosas, "ResultadosLosa.rpt", "Grafico.rpt", Montar};
 
-void EscribirPlanex(const std::filesystem::path& programa, const std::filesystem::path& destino,
-                    const DatosDelProyecto& datos, const lote::Lista& lista, std::string& enCurso) {
+std::filesystem::path EscribirPlanex(const std::filesystem::path& programa,
+                                     const std::filesystem::path& destino, const DatosDelProyecto& datos,
+                                     const lote::Lista& lista, std::string& enCurso) {
     planex::ArchivoNuevoPlanex archivo(programa, "ImagenCAD23.tbx", destino, datos,
                                        lote::Leer<DatosGenerales>(lista.Generales));
     for (const lote::Elemento& elemento : lista.Elementos) {
@@ -145,7 +146,7 @@ void EscribirPlanex(const std::filesystem::path& programa, const std::filesystem
         archivo.Agregar(losa.Datos, losa.Resultados);
     }
     enCurso.clear();
-    archivo.Colocar();
+    return archivo.Colocar();
 }
 
 lote::ParteDeMemoria Contar(const lote::Lista& lista, const lote::Elemento& elemento,
