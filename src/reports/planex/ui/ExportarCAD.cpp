@@ -171,6 +171,7 @@ void ExportarCAD::Exportar(const std::vector<int>& filas) {
         leer();  // the other program may have written it while the question stood
     }
     const int exportadas = EscribirLosas(filas, *archivo, original, *base);
+    base.reset();
     servicios_.Caja.Mostrar(
         Aviso("¡Se Exportaron ( " + std::to_string(exportadas) + " ) Losa(s) con Exito a Planex Estructural!",
               EncabezadoPlanex, programa::IconoCaja::Informacion));
@@ -215,7 +216,8 @@ int ExportarCAD::EscribirLosas(const std::vector<int>& filas, const std::filesys
             ++exportadas;
         }
     } catch (const ErrorEjecucion&) {
-        base.Guardar(archivo, original);  // what was written before the fault stays
+        // What was written before the fault stays; where that is nothing so does the file.
+        if (exportadas > 0 || pantalla_.Opcion() == ArchivoCAD::CrearNuevo) base.Guardar(archivo, original);
         throw;
     }
     if (!destino.ConexionFallida()) base.Guardar(archivo, original);
