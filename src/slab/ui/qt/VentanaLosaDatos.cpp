@@ -7,9 +7,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScrollBar>
 #include <QShortcut>
-#include <QSignalBlocker>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStyleOptionComboBox>
@@ -25,6 +23,9 @@
 #include "shell/qt/Iconos.h"
 #include "slab/Analizar.h"
 #include "slab/ui/SerieDeEjes.h"
+#include "slab/ui/qt/ComunLosaDatos.h"
+#include "slab/ui/qt/PaginaDeApoyos.h"
+#include "slab/ui/qt/PaginaDeCargas.h"
 #include "slab/ui/qt/VentanaCarga.h"
 #include "slab/ui/qt/VentanaCopiarTramo.h"
 
@@ -46,34 +47,6 @@ constexpr std::array<RotuloDeCampo, 5> CamposDeSeccion{{
     {CampoSeccion::Loseta, "Loseta", "Altura de la Loseta (m) ="},
     {CampoSeccion::Hm, "Hm", "Altura de la Losa (m)  Hm ="},
 }};
-
-/// The five support types as their buttons tell them.
-constexpr std::array<const char*, 5> TextosDeApoyo{
-    "Junta con apoyo fijo en X y en Y. ", "Junta con rodillo en dirección X. ",
-    "Junta con rodillo en dirección Y. ", "Junta totalmente restringida. ",
-    "Junta sin nigún tipo de apoyo. "};
-
-std::size_t Indice(int fila) {
-    return static_cast<std::size_t>(fila);
-}
-
-/// A whole number, however large, for an operation that tells its own limit.
-std::int64_t Entero64(double valor) {
-    constexpr double cabe = 9e18;
-    return static_cast<std::int64_t>(std::clamp(valor, -cabe, cabe));
-}
-
-QToolButton* BotonDeBarra(const QString& icono, const QString& texto, const QString& ayuda, QWidget* padre) {
-    auto* boton = new QToolButton(padre);
-    boton->setIcon(programa::qt::Icono(icono));
-    boton->setIconSize({24, 24});
-    boton->setText(texto);
-    boton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    boton->setAutoRaise(true);
-    boton->setFocusPolicy(Qt::TabFocus);
-    programa::qt::PonerAyuda(boton, texto.trimmed().remove('&'), ayuda);
-    return boton;
-}
 
 /// A list of names that takes the place it gets: a longer name shows its beginning and its end.
 class SelectorElidido : public QComboBox {
@@ -119,8 +92,16 @@ VentanaLosaDatos::VentanaLosaDatos(Losas& losas, programa::CajaMensajes& caja, Q
     paginas_->addTab(PaginaDeSeccion(), "Sección");
     paginas_->addTab(PaginaDeTramos(), "Tramos y Ejes");
     paginas_->addTab(PaginaDeJuntasD(), "Juntas Desplazadas");
-    paginas_->addTab(PaginaDeApoyos(), "Apoyos");
-    paginas_->addTab(PaginaDeCargas(), "Cargas");
+    auto* apoyos = new PaginaDeApoyos(operaciones_, numeros_, this);
+    apoyos_ = apoyos->Tabla();
+    apoyos_->AlCambiarFila([this](int) { Redibujar(); });
+    primeros_[3] = apoyos_;
+    paginas_->addTab(apoyos, "Apoyos");
+    paginaDeCargas_ = new PaginaDeCargas(
+        operaciones_, numeros_, [this] { CopiarTramo(); }, this);
+    cargas_ = paginaDeCargas_->Tabla();
+    primeros_[4] = cargas_;
+    paginas_->addTab(paginaDeCargas_, "Cargas");
     paginas_->setMinimumWidth(paginas_->tabBar()->sizeHint().width());  // no tab out of sight
     auto* partes = new QSplitter(Qt::Horizontal, this);
     partes->addWidget(paginas_);
@@ -316,130 +297,6 @@ QWidget* VentanaLosaDatos::PaginaDeJuntasD() {
     return pagina;
 }
 
-QLayout* VentanaLosaDatos::FilaDeBotonesDeApoyo() {
-    auto* fila = new QHBoxLayout;
-    for (std::int16_t tipo = ApoyoFijo; tipo <= SinApoyo; ++tipo) {
-        auto* boton = new QToolButton(this);
-        boton->setIcon(programa::qt::Icono("apoyo-" + QString::number(tipo)));
-        boton->setIconSize({32, 32});
-        boton->setText(QString::number(tipo));
-        boton->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-        boton->setFocusPolicy(Qt::TabFocus);
-        programa::qt::PonerAyuda(boton, "Tipo " + QString::number(tipo), TextosDeApoyo[Indice(tipo - 1)]);
-        connect(boton, &QToolButton::clicked, this, [this, tipo] { operaciones_.PulsarTipo(tipo); });
-        fila->addWidget(boton);
-    }
-    fila->addStretch(1);
-    return fila;
-}
-
-QWidget* VentanaLosaDatos::PaginaDeApoyos() {
-    auto* pagina = new QWidget(this);
-    const auto eje = [this](int j) -> const EjeLosa& { return operaciones_.Edicion().Ejes[Indice(j)]; };
-    apoyos_ = Tabla({{.Titulo = "Eje",
-                      .Numero = std::nullopt,
-                      .Leer = [eje](int j) { return programa::qt::Q(eje(j).Eje); },
-                      .Ancho = 70},
-                     {.Titulo = "Tipo",
-                      .Numero = EnteroSinLimite,
-                      .Leer = [eje](int j) { return static_cast<double>(eje(j).Tipo); },
-                      .Poner =
-                          [this](int j, const QVariant& tipo) {
-                              return operaciones_.PonerTipo(Indice(j), Entero64(tipo.toDouble()));
-                          },
-                      .Ancho = 60},
-                     {.Titulo = "Apoyo",
-                      .Numero = std::nullopt,
-                      .Leer =
-                          [eje](int j) {
-                              const int tipo = eje(j).Tipo;
-                              return tipo < ApoyoFijo || tipo > SinApoyo
-                                         ? QString()
-                                         : QString(TextosDeApoyo[Indice(tipo - 1)]).trimmed();
-                          }}},
-                    "Apoyos");
-    auto* columna = new QVBoxLayout(pagina);
-    columna->addLayout(FilaDeBotonesDeApoyo());
-    columna->addWidget(apoyos_, 1);
-    primeros_[3] = apoyos_;
-    return pagina;
-}
-
-programa::qt::ColumnaDatos VentanaLosaDatos::ColumnaDeCarga(
-    const QString& titulo, const ClaseNumero& clase, const std::function<double(const Tramo&)>& leer,
-    const std::function<void(Tramo&, double)>& poner) {
-    return {.Titulo = titulo,
-            .Numero = clase,
-            .Leer = [this, leer](int i) { return leer(operaciones_.Edicion().Tramos[Indice(i)]); },
-            .Poner =
-                [this, poner](int i, const QVariant& valor) {
-                    Tramo tramo = operaciones_.Edicion().Tramos[Indice(i)];
-                    poner(tramo, valor.toDouble());
-                    operaciones_.PonerCargas(Indice(i), tramo);
-                    return true;
-                }};
-}
-
-QLayout* VentanaLosaDatos::FilaDeBotonesDeCarga() {
-    auto* uniforme = BotonDeBarra("carga-uniforme", "Carga &Uniforme", "Entrar la carga uniforme. ", this);
-    auto* puntual = BotonDeBarra("carga-puntual", "Carga &Puntual", "Entrar la carga Puntual.  ", this);
-    auto* copiar = BotonDeBarra("copiar", "&Copiar a...", "Copiar el tramo actual a otros tramos. ", this);
-    connect(copiar, &QToolButton::clicked, this, [this] { CopiarTramo(); });
-    connect(uniforme, &QToolButton::clicked, this, [this] { operaciones_.CargaUniforme(); });
-    connect(puntual, &QToolButton::clicked, this, [this] { operaciones_.CargaPuntual(); });
-    leyendaTramo_ = new QLabel(this);
-    leyendaTramo_->setMinimumWidth(fontMetrics().horizontalAdvance("Tramo: 10000"));
-    deslizador_ = new QScrollBar(Qt::Horizontal, this);
-    deslizador_->setPageStep(1);
-    deslizador_->setMinimumWidth(90);
-    connect(deslizador_, &QScrollBar::valueChanged, this, [this](int tramo) {
-        if (rellenando_) return;
-        operaciones_.MoverATramo(Indice(tramo));
-        MostrarTramo();
-    });
-    auto* botones = new QHBoxLayout;
-    for (QWidget* control : std::initializer_list<QWidget*>{uniforme, puntual, copiar})
-        botones->addWidget(control);
-    botones->addStretch(1);
-    auto* recorrido = new QHBoxLayout;
-    recorrido->addWidget(leyendaTramo_);
-    recorrido->addWidget(deslizador_, 1);
-    auto* fila = new QVBoxLayout;
-    fila->addLayout(botones);
-    fila->addLayout(recorrido);
-    return fila;
-}
-
-QWidget* VentanaLosaDatos::PaginaDeCargas() {
-    auto* pagina = new QWidget(this);
-    marcoCargas_ = new QGroupBox(pagina);
-    const auto entero = [](double valor) { return static_cast<std::int32_t>(valor); };
-    cargas_ = Tabla(
-        {ColumnaDeCarga(
-             "Wp (kgf/m)", EnteroDe32, [](const Tramo& t) { return t.Wp; },
-             [entero](Tramo& t, double v) { t.Wp = entero(v); }),
-         ColumnaDeCarga(
-             "WV (kgf/m)", EnteroDe32, [](const Tramo& t) { return t.WV; },
-             [entero](Tramo& t, double v) { t.WV = entero(v); }),
-         ColumnaDeCarga(
-             "P1 (kgf)", EnteroDe32, [](const Tramo& t) { return t.p1; },
-             [entero](Tramo& t, double v) { t.p1 = entero(v); }),
-         ColumnaDeCarga(
-             "L1 (m)", Longitud, [](const Tramo& t) { return t.L1; }, [](Tramo& t, double v) { t.L1 = v; })},
-        "Cargas");
-    cargas_->AlCambiarFila([this](int tramo) {
-        operaciones_.MoverATramo(Indice(tramo));
-        MostrarTramo();
-    });
-    auto* columna = new QVBoxLayout(marcoCargas_);
-    columna->addLayout(FilaDeBotonesDeCarga());
-    columna->addWidget(cargas_, 1);
-    auto* exterior = new QVBoxLayout(pagina);
-    exterior->addWidget(marcoCargas_);
-    primeros_[4] = cargas_;
-    return pagina;
-}
-
 QWidget* VentanaLosaDatos::Bocetos() {
     bocetos_ = new QStackedWidget(this);
     lienzos_[0] = new dibujo::qt::WidgetLienzo(
@@ -510,7 +367,7 @@ void VentanaLosaDatos::MostrarClase() {
         campo->setVisible(visible);
         formulario_->labelForField(campo)->setVisible(visible);
     }
-    marcoCargas_->setTitle(programa::qt::Q(operaciones_.LeyendaDeCargas()));
+    paginaDeCargas_->MostrarClase();
     Redibujar();
 }
 
@@ -521,23 +378,12 @@ void VentanaLosaDatos::Refrescar() {
     numeroTramos_->PonerValor(tramos);
     numeroJuntasD_->PonerValor(juntas);
     luces_->PonerFilas(tramos);
-    cargas_->PonerFilas(tramos);
+    paginaDeCargas_->PonerTramos(tramos);
     ejes_->PonerFilas(tramos + 1);
     apoyos_->PonerFilas(tramos + 1);
     juntasD_->PonerFilas(juntas);
-    deslizador_->setRange(tramos == 0 ? 0 : 1, tramos);
-    deslizador_->setEnabled(tramos > 1);
     rellenando_ = false;
-    MostrarTramo();
-}
-
-void VentanaLosaDatos::MostrarTramo() {
-    const int tramo = static_cast<int>(operaciones_.TramoActual());
-    leyendaTramo_->setText(programa::qt::Q(operaciones_.LeyendaDeTramo()));
-    const QSignalBlocker quieto(deslizador_);
-    deslizador_->setValue(tramo);
-    if (tramo > 0 && cargas_->FilaActual() != tramo)
-        cargas_->IrA(tramo, std::max(0, cargas_->currentIndex().column()));
+    paginaDeCargas_->MostrarTramo();
     Redibujar();
 }
 

@@ -10,10 +10,8 @@
 
 class QComboBox;
 class QFormLayout;
-class QGroupBox;
 class QLabel;
 class QRadioButton;
-class QScrollBar;
 class QStackedWidget;
 class QTabWidget;
 
@@ -22,6 +20,8 @@ class WidgetLienzo;
 }
 
 namespace trabex::losas::ui::qt {
+
+class PaginaDeCargas;
 
 /// Edits one slab: five pages of fields and tables beside a sketch that follows what is typed.
 class VentanaLosaDatos : public QDialog, public PantallaLosaDatos {
@@ -54,24 +54,16 @@ class VentanaLosaDatos : public QDialog, public PantallaLosaDatos {
     QWidget* PaginaDeSeccion();
     QWidget* PaginaDeTramos();
     QWidget* PaginaDeJuntasD();
-    QWidget* PaginaDeApoyos();
-    QWidget* PaginaDeCargas();
     QWidget* Bocetos();
-    QLayout* FilaDeBotonesDeApoyo();
-    QLayout* FilaDeBotonesDeCarga();
     programa::qt::CampoNumero* Contador(const ClaseNumero& clase, const char* nombre,
                                         const std::function<void(double)>& alEntrar);
     void SeguirEn(programa::qt::CampoNumero* contador, programa::qt::TablaDatos* tabla);
     programa::qt::TablaDatos* Tabla(std::vector<programa::qt::ColumnaDatos> columnas, const char* nombre);
-    programa::qt::ColumnaDatos ColumnaDeCarga(const QString& titulo, const ClaseNumero& clase,
-                                              const std::function<double(const Tramo&)>& leer,
-                                              const std::function<void(Tramo&, double)>& poner);
     programa::qt::ColumnaDatos ColumnaDeCorrimiento(const QString& titulo, double JuntaD::*campo);
 
     void PonerNumeroTramos(int tramos);
     void PonerNumeroJuntasD(double juntas);
     void MostrarClase();
-    void MostrarTramo();
     void CopiarTramo();
     void CambiarPagina();
     void Salvar();
@@ -98,9 +90,7 @@ class VentanaLosaDatos : public QDialog, public PantallaLosaDatos {
     programa::qt::TablaDatos* juntasD_;
     programa::qt::TablaDatos* apoyos_;
     programa::qt::TablaDatos* cargas_;
-    QGroupBox* marcoCargas_;
-    QLabel* leyendaTramo_;
-    QScrollBar* deslizador_;
+    PaginaDeCargas* paginaDeCargas_;
     std::array<QWidget*, PaginasDeLosa> primeros_{};  // what takes the focus on each page
 
     QStackedWidget* bocetos_;
