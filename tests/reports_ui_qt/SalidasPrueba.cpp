@@ -16,6 +16,7 @@
 #include "reports/salidas/qt/VistaPaginas.h"
 #include "reports/ui/qt/ImpresorasQt.h"
 #include "reports/ui/qt/ImprimirDibujos.h"
+#include "reports/ui/qt/PanelProgresoQt.h"
 #include "reports/ui/qt/VentanaSalidaReporte.h"
 #include "reports/ui/qt/VentanaSeleccionarImpresora.h"
 #include "reports/ui/qt/VentanaVerReportes.h"
@@ -234,6 +235,19 @@ TEST_F(SalidasDeReporte, LoImpresoEsLoMismoQueElPdf) {
     EXPECT_THROW(ImprimirPaginas(reporte.Contenido(), impresora, [](double) { return false; }),
                  TrabajoCancelado);
     EXPECT_FALSE(std::filesystem::exists(carpeta / "impreso.pdf"));
+}
+
+TEST_F(SalidasDeReporte, EscapeCancelaElMontaje) {
+    entorno.CrearPanel = [] { return std::make_unique<PanelProgresoQt>(nullptr); };
+    std::size_t paso = 0;
+    EXPECT_FALSE(ExportadorReportes(entorno).ConPanel("Calculando", [&](const Avance& avance) {
+        for (; paso < 200; ++paso) {
+            Avisar(avance, paso, 200);
+            QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape, Qt::NoModifier, 20);
+        }
+    }));
+    EXPECT_LT(paso, 200U);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 TEST(ImprimirGraficos, CadaDibujoVaEnSuPaginaConSusDatos) {

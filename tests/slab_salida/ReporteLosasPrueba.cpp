@@ -171,16 +171,22 @@ TEST_F(ReporteLosas, UnaLosaLargaSigueEnOtrasHojasConElEjeQueLasUne) {
     EXPECT_EQ(panel.Pasos.back(), 100);
 }
 
-TEST_F(ReporteLosas, UnFalloALaMitadBajaLasBanderasYDevuelveLaLista) {
+TEST_F(ReporteLosas, UnFalloOQuienCancelaALaMitadNoDejanNadaYDevuelvenLaLista) {
     SuperficieDeTextos superficie;
     superficie.FallaEn = 5;
     PanelAnotado panel;
-    Estado.OpcionGrafico = 1;
+    Estado.OpcionGrafico = Estado.OpcionExportarLosas = 1;
     Proyecto.RegistrosProyecto.MoverA(6);
     EXPECT_THROW(GuardeGraficos(Entorno, Origen(6), {}, superficie, panel, Estado), ErrorEjecucion);
+    panel.CancelaEn = panel.Pasos.size() + 2;
+    superficie = {};
+    EXPECT_THROW(GuardeGraficos(Entorno, Origen(6), {}, superficie, panel, Estado), TrabajoCancelado);
     EXPECT_FALSE(panel.Visible);
+    const auto hastaLaMitad = [](double parte) { return parte < 0.5; };
+    EXPECT_THROW(LLeneResultados(Entorno, Origen(6), Estado, hastaLaMitad), TrabajoCancelado);
     EXPECT_EQ(Proyecto.RegistrosProyecto.Posicion(), 6);
     EXPECT_TRUE(Consultar("SELECT Numero FROM Grafico").empty());
+    EXPECT_TRUE(Consultar("SELECT Nombre FROM LosaDatos").empty());
 }
 
 }  // namespace

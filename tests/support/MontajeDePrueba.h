@@ -39,6 +39,8 @@ class SuperficieDeTextos : public montaje::SuperficieOculta {
 };
 
 struct PanelAnotado : montaje::PanelProgreso {
+    std::size_t CancelaEn = 1000;  // steps
+    bool Cancelado() const override { return Pasos.size() >= CancelaEn; }
     void Mostrar() override { Visible = true; }
     void Avanzar(double porcentaje, const std::string& rotulo) override {
         if (Pasos.empty() || Pasos.back() != porcentaje) Pasos.push_back(porcentaje);
