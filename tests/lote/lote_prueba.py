@@ -315,6 +315,13 @@ class Lote(unittest.TestCase):
             self.assertEqual(papel.count(b"/Type /Page\n"), 3)
         self.assertEqual(len(os.listdir(hojas)), 4 * len(documento["losas"]))
 
+        def papeles():
+            return [re.sub(rb"/CreationDate.*", b"", papel.read_bytes()) for papel in sorted(hojas.glob("*papel.pdf"))]
+        primeros = papeles()
+        for _ in range(3):  # each run is another, but for its date, where the toolkit orders fonts by chance
+            self.resultados("--solo=hojas")
+            self.assertEqual(papeles(), primeros)
+
     def test_cada_elemento_tiene_sus_reportes(self):
         documento, _ = self.del_ejemplo()
         self.assertEqual(sorted(os.listdir(self.comun / "salida" / "reportes")),

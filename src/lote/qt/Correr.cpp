@@ -1,6 +1,7 @@
 #include "lote/qt/Correr.h"
 
 #include <QGuiApplication>
+#include <QHashSeed>
 #include <algorithm>
 #include <array>
 #include <iostream>
@@ -183,6 +184,8 @@ int Correr(int argc, char** argv, Modulos modulos) {
     // Pictures need the toolkit's fonts, not a display; what the toolkit remarks on the machine is no concern
     // of whoever reads standard error.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    // The toolkit orders a PDF's fonts by their hashes: without this, each run would give another file.
+    QHashSeed::setDeterministicGlobalSeed();
     std::string plataforma = "-platform";
     std::string ninguna = "offscreen";
     std::array<char*, 4> propios{argv[0], plataforma.data(), ninguna.data(), nullptr};
