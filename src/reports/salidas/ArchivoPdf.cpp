@@ -1,13 +1,11 @@
 #include "reports/salidas/ArchivoPdf.h"
 
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
-#include <cstdlib>
 
-#include <zlib.h>
+#include <libdeflate.h>
 
 #include "base/Texto.h"
 
@@ -15,36 +13,34 @@ namespace trabex::salidas {
 
 namespace {
 
-/// Pages are mostly short numbers: the fastest way takes a tenth more room and a third of the time.
-constexpr int Rapidez = Z_BEST_SPEED;
+/// Pages are mostly short numbers: the fastest way takes a tenth more room and half the time.
+constexpr int Rapidez = 1;
+
+struct Soltar {
+    void operator()(libdeflate_compressor* compresor) const { libdeflate_free_compressor(compresor); }
+};
 
 }  // namespace
 
 /// Compresses one stream after another in the same memory.
 class ArchivoPdf::Compresor {
   public:
-    Compresor() {
-        if (deflateInit(&estado_, Rapidez) != Z_OK) throw ErrorEjecucion(CodigoError::MemoriaInsuficiente);
+    Compresor() : compresor_(libdeflate_alloc_compressor(Rapidez)) {
+        if (!compresor_) throw ErrorEjecucion(CodigoError::MemoriaInsuficiente);
     }
-    ~Compresor() { deflateEnd(&estado_); }
-    Compresor(const Compresor&) = delete;
-    Compresor& operator=(const Compresor&) = delete;
 
     /// Valid until the next.
     std::string_view Comprimir(std::string_view bytes) {
-        const uLong cota = deflateBound(&estado_, static_cast<uLong>(bytes.size()));
+        const std::size_t cota = libdeflate_zlib_compress_bound(compresor_.get(), bytes.size());
         if (salida_.size() < cota) salida_.resize(cota);
-        deflateReset(&estado_);
-        estado_.next_in = reinterpret_cast<z_const Bytef*>(const_cast<char*>(bytes.data()));
-        estado_.avail_in = static_cast<uInt>(bytes.size());
-        estado_.next_out = reinterpret_cast<Bytef*>(salida_.data());
-        estado_.avail_out = static_cast<uInt>(salida_.size());
-        if (deflate(&estado_, Z_FINISH) != Z_STREAM_END) throw ErrorEjecucion(CodigoError::ErrorDispositivo);
-        return std::string_view(salida_).substr(0, estado_.total_out);
+        const std::size_t largo = libdeflate_zlib_compress(compresor_.get(), bytes.data(), bytes.size(),
+                                                           salida_.data(), salida_.size());
+        if (largo == 0) throw ErrorEjecucion(CodigoError::ErrorDispositivo);
+        return std::string_view(salida_).substr(0, largo);
     }
 
   private:
-    z_stream estado_{};
+    std::unique_ptr<libdeflate_compressor, Soltar> compresor_;
     std::string salida_;
 };
 
@@ -63,23 +59,26 @@ std::string TextoPdf(std::string_view texto) {
     return salida + ">";
 }
 
-void AgregarNumeroPdf(std::string& salida, double valor) {
+void AgregarNumeroPdf(std::string& salida, double valor, unsigned decimales) {
+    constexpr std::array<std::int64_t, 7> potencias{1, 10, 100, 1000, 10000, 100000, 1000000};
     constexpr double limite = 1e12;
-    constexpr std::int64_t milesimas = 1000;
     const double acotado = std::isfinite(valor) ? std::fmin(std::fmax(valor, -limite), limite) : 0;
-    const std::int64_t redondeado = std::llround(acotado * milesimas);
-    const std::int64_t entero = std::abs(redondeado);
-    std::array<char, 24> cifras{'-'};
-    char* const primera = cifras.data() + (redondeado < 0 ? 1 : 0);
-    char* fin = std::to_chars(primera, cifras.data() + cifras.size(), entero / milesimas).ptr;
-    const auto resto = static_cast<int>(entero % milesimas);
-    if (resto > 0) {
-        *fin++ = '.';
-        *fin++ = static_cast<char>('0' + resto / 100);
-        if (resto % 100 > 0) *fin++ = static_cast<char>('0' + resto / 10 % 10);
-        if (resto % 10 > 0) *fin++ = static_cast<char>('0' + resto % 10);
+    auto resto =
+        static_cast<std::int64_t>(std::fabs(acotado) * static_cast<double>(potencias[decimales]) + 0.5);
+    std::array<char, 32> cifras{};
+    char* primera = cifras.data() + cifras.size();
+    char* fin = primera;
+    for (unsigned i = 0; i < decimales; ++i, resto /= 10) {
+        if (resto % 10 == 0 && primera == fin) continue;  // a last zero
+        *--primera = static_cast<char>('0' + resto % 10);
     }
-    salida.append(cifras.data(), fin);
+    if (primera != fin) *--primera = '.';
+    do {
+        *--primera = static_cast<char>('0' + resto % 10);
+        resto /= 10;
+    } while (resto > 0);
+    if (valor < 0 && (*primera != '0' || fin - primera > 1)) *--primera = '-';
+    salida.append(primera, fin);
 }
 
 ArchivoPdf::~ArchivoPdf() = default;

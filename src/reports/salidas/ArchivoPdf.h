@@ -12,8 +12,8 @@ namespace trabex::salidas {
 
 /// A text as PDF takes any: UTF-16 in hexadecimal, between its brackets.
 std::string TextoPdf(std::string_view texto);
-/// A number as PDF takes it, to 1/1000.
-void AgregarNumeroPdf(std::string& salida, double valor);
+/// A number as PDF takes it, to so many decimals, six at most.
+void AgregarNumeroPdf(std::string& salida, double valor, unsigned decimales);
 
 /// A PDF file on its way: numbered objects, written as they come, and their table at the end. Throws
 /// ErrorEjecucion when the disk refuses.

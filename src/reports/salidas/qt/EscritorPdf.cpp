@@ -29,6 +29,8 @@ std::string Metadatos(const documento::Documento& documento, const std::string& 
            "</xmp:CreateDate></rdf:Description></rdf:RDF></x:xmpmeta>\n<?xpacket end='w'?>";
 }
 
+constexpr unsigned DecimalesDeHoja = 3;
+
 /// A file of a document's pages while it is written.
 class Escritura {
   public:
@@ -63,16 +65,16 @@ class Escritura {
             TintaPdf tinta(letras_, imagenes_, alto);
             paginas_.Pintar(i, tinta);
             const std::size_t contenido = archivo_.Reservar();
-            archivo_.Flujo(contenido, "", tinta.Ordenes() + "Q\n");
+            archivo_.Flujo(contenido, "", tinta.Terminar());
             numeros_.push_back(archivo_.Reservar());
             archivo_.Objeto(numeros_.back(), "/Type/Page/Parent " + ArchivoPdf::Enlace(arbol_) +
                                                  "/Contents " + ArchivoPdf::Enlace(contenido));
             hijas += ArchivoPdf::Enlace(numeros_.back()) + "\n";
         }
         std::string medida = "/MediaBox[0 0 ";
-        AgregarNumeroPdf(medida, paginas_.Papel().Ancho * Milimetro / PuntoTipografico);
+        AgregarNumeroPdf(medida, paginas_.Papel().Ancho * Milimetro / PuntoTipografico, DecimalesDeHoja);
         medida += " ";
-        AgregarNumeroPdf(medida, alto / PuntoTipografico);
+        AgregarNumeroPdf(medida, alto / PuntoTipografico, DecimalesDeHoja);
         archivo_.Objeto(arbol_, "/Type/Pages/Count " + std::to_string(numeros_.size()) + medida +
                                     "]/Resources " + ArchivoPdf::Enlace(recursos) + "/Kids[" + hijas + "]");
         archivo_.Objeto(recursos,

@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -15,11 +16,23 @@ namespace trabex::salidas::qt {
 namespace {
 
 constexpr double PuntosPorPulgada = 72;
+constexpr unsigned DecimalesDeEscala = 6;
+constexpr unsigned DecimalesDeColor = 3;
 constexpr double PulgadaDePantalla = 96;  // units of a drawing to an inch, by which its fonts are told
 
 dibujo::Color Tono(const QColor& color) {
     return {static_cast<std::uint8_t>(color.red()), static_cast<std::uint8_t>(color.green()),
             static_cast<std::uint8_t>(color.blue())};
+}
+
+/// How many decimals tell a place to a thousandth of a millimetre.
+unsigned DecimalesPara(double puntosPorUnidad) {
+    constexpr double milesima = 72 / 25.4 / 1000;
+    unsigned decimales = 0;
+    for (double error = puntosPorUnidad; error > 1.01 * milesima && decimales < DecimalesDeEscala;
+         error /= 10)
+        ++decimales;
+    return decimales;
 }
 
 /// Strokes on a page.
@@ -123,8 +136,8 @@ std::string ImagenesPdf::Agregar(const almacen::Bytes& bytes) {
     return nombre;
 }
 
-OrdenesPdf& OrdenesPdf::Numero(double valor) {
-    AgregarNumeroPdf(bytes_, valor);
+OrdenesPdf& OrdenesPdf::Numero(double valor, unsigned decimales) {
+    AgregarNumeroPdf(bytes_, valor, decimales);
     bytes_ += ' ';
     return *this;
 }
@@ -136,8 +149,12 @@ OrdenesPdf& OrdenesPdf::Orden(const char* orden) {
 }
 
 void OrdenesPdf::Entrar(double escalaX, double escalaY, double x0, double y0) {
+    SalirDeTexto();
     guardados_.push_back(estado_);
-    Orden("q").Numero(escalaX).Numero(0).Numero(0).Numero(escalaY).Numero(x0).Numero(y0).Orden("cm");
+    Orden("q").Numero(escalaX, DecimalesDeEscala).Numero(0).Numero(0).Numero(escalaY, DecimalesDeEscala);
+    Numero(x0).Numero(y0).Orden("cm");
+    estado_.Escala *= std::fabs(escalaX);
+    estado_.Decimales = DecimalesPara(estado_.Escala);
 }
 
 void OrdenesPdf::Recortar(double ancho, double alto) {
@@ -145,6 +162,7 @@ void OrdenesPdf::Recortar(double ancho, double alto) {
 }
 
 void OrdenesPdf::Salir() {
+    SalirDeTexto();
     estado_ = guardados_.back();
     guardados_.pop_back();
     Orden("Q");
@@ -152,7 +170,9 @@ void OrdenesPdf::Salir() {
 
 void OrdenesPdf::Color(dibujo::Color color, const char* orden) {
     constexpr double lleno = 255;
-    Numero(color.R / lleno).Numero(color.G / lleno).Numero(color.B / lleno).Orden(orden);
+    for (const double parte : {color.R / lleno, color.G / lleno, color.B / lleno})
+        Numero(parte, DecimalesDeColor);
+    Orden(orden);
 }
 
 void OrdenesPdf::Tintar(dibujo::Color color) {
@@ -175,10 +195,12 @@ void OrdenesPdf::Trazar(double grosor, bool punteada, dibujo::Color color) {
 }
 
 void OrdenesPdf::Linea(QPointF desde, QPointF hasta) {
+    SalirDeTexto();
     Numero(desde.x()).Numero(desde.y()).Orden("m").Numero(hasta.x()).Numero(hasta.y()).Orden("l S");
 }
 
 void OrdenesPdf::Rectangulo(const QRectF& donde) {
+    SalirDeTexto();
     Numero(donde.x()).Numero(donde.y()).Numero(donde.width()).Numero(donde.height()).Orden("re f");
 }
 
@@ -187,12 +209,14 @@ void OrdenesPdf::Pintar(bool relleno, bool contorno) {
 }
 
 void OrdenesPdf::Poligono(std::span<const dibujo::PuntoLienzo> puntos, bool relleno, bool contorno) {
+    SalirDeTexto();
     for (std::size_t i = 0; i < puntos.size(); ++i)
         Numero(puntos[i].x).Numero(puntos[i].y).Orden(i == 0 ? "m" : "l");
     Pintar(relleno, contorno);
 }
 
 void OrdenesPdf::Circulo(double x, double y, double radio, bool relleno, bool contorno) {
+    SalirDeTexto();
     constexpr double tirante = 0.5522847498;  // of the curve that is a quarter of a circle but for 1/3000
     const double t = tirante * radio;
     const auto curva = [&](double ax, double ay, double bx, double by, double cx, double cy) {
@@ -217,20 +241,56 @@ void OrdenesPdf::Texto(const std::vector<LetrasPdf::Tramo>& tramos, double cuerp
         if (tramo.Glifos.empty()) continue;
         const double x = cuerpo * tramo.x;
         const double y = cuerpo * tramo.y;
-        bytes_ += "BT ";
-        bytes_ += LetrasPdf::Nombre(tramo.Letra);
-        bytes_ += ' ';
-        Numero(cuerpo);
-        bytes_ += "Tf ";
-        if (derecho)
-            bytes_ += "1 0 0 -1 ";
-        else
-            Numero(C).Numero(-S).Numero(-S).Numero(-C);
-        Numero(base.x() + C * x + S * y).Numero(base.y() - S * x + C * y);
-        bytes_ += "Tm <";
+        EntrarEnTexto(tramo.Letra, cuerpo);
+        if (derecho) {
+            Lugar(base.x() + x, base.y() + y);
+        } else {
+            for (const double parte : {C, -S, -S, -C}) Numero(parte, DecimalesDeEscala);
+            Numero(base.x() + C * x + S * y).Numero(base.y() - S * x + C * y);
+            bytes_ += "Tm";
+            renglon_.reset();
+        }
+        bytes_ += '(';
         bytes_ += tramo.Glifos;
-        bytes_ += "> Tj ET\n";
+        bytes_ += ")Tj\n";
     }
+}
+
+/// Texts that follow one another stand together, and the font stays until there is another.
+void OrdenesPdf::EntrarEnTexto(std::size_t letra, double cuerpo) {
+    if (!enTexto_) Orden("BT");
+    enTexto_ = true;
+    if (estado_.Letra == letra && estado_.Cuerpo == cuerpo) return;
+    estado_.Letra = letra;
+    estado_.Cuerpo = cuerpo;
+    bytes_ += LetrasPdf::Nombre(letra) + ' ';
+    Numero(cuerpo, DecimalesDeEscala).Orden("Tf");
+}
+
+void OrdenesPdf::SalirDeTexto() {
+    if (enTexto_) Orden("ET");
+    enTexto_ = false;
+    renglon_.reset();
+}
+
+/// The first text's place is told whole, turned as the unit's y is; that of the others from the one before,
+/// as it was rounded.
+void OrdenesPdf::Lugar(double x, double y) {
+    const Renglon nuevo{Redondeado(x), Redondeado(y)};
+    if (renglon_) {
+        Numero(nuevo.x - renglon_->x).Numero(renglon_->y - nuevo.y);
+        bytes_ += "Td";
+    } else {
+        bytes_ += "1 0 0 -1 ";
+        Numero(nuevo.x).Numero(nuevo.y);
+        bytes_ += "Tm";
+    }
+    renglon_ = nuevo;
+}
+
+double OrdenesPdf::Redondeado(double valor) const {
+    constexpr std::array<double, DecimalesDeEscala + 1> partes{1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6};
+    return std::nearbyint(valor * partes[estado_.Decimales]) / partes[estado_.Decimales];
 }
 
 void OrdenesPdf::Imagen(const std::string& nombre, const QRectF& donde) {
@@ -245,6 +305,11 @@ TintaPdf::TintaPdf(LetrasPdf& letras, ImagenesPdf& imagenes, double altoDeHoja)
     : letras_(letras), imagenes_(imagenes) {
     constexpr double puntos = 1 / PuntoTipografico;
     ordenes_.Entrar(puntos, -puntos, 0, altoDeHoja * puntos);
+}
+
+std::string TintaPdf::Terminar() {
+    ordenes_.Salir();
+    return ordenes_.Bytes();
 }
 
 void TintaPdf::Texto(const QPointF& base, const QString& texto, const TipoDeLetra& letra,

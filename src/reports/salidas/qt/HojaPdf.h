@@ -30,7 +30,8 @@ class ImagenesPdf {
 /// down.
 class OrdenesPdf {
   public:
-    const std::string& Bytes() const { return bytes_; }
+    /// All of them; what was entered must have been left.
+    std::string Bytes() { return std::move(bytes_); }
 
     /// The unit and the place of what is drawn until `Salir`: x' = x · escalaX + x0, and likewise for y.
     void Entrar(double escalaX, double escalaY, double x0, double y0);
@@ -54,22 +55,39 @@ class OrdenesPdf {
         std::optional<dibujo::Color> Trazo;
         double Grosor = -1;
         bool Punteada = false;
+        std::optional<std::size_t> Letra;
+        double Cuerpo = 0;
+        double Escala = 1;       // points to the unit
+        unsigned Decimales = 2;  // of a place
     };
-    OrdenesPdf& Numero(double valor);
+    /// Where the last text of those that stand together begins.
+    struct Renglon {
+        double x;
+        double y;
+    };
+    OrdenesPdf& Numero(double valor) { return Numero(valor, estado_.Decimales); }
+    OrdenesPdf& Numero(double valor, unsigned decimales);
+    double Redondeado(double valor) const;
     OrdenesPdf& Orden(const char* orden);
+    void EntrarEnTexto(std::size_t letra, double cuerpo);
+    void SalirDeTexto();
+    void Lugar(double x, double y);
     void Color(dibujo::Color color, const char* orden);
     void Pintar(bool relleno, bool contorno);
 
     std::string bytes_;
     Estado estado_;
     std::vector<Estado> guardados_;
+    bool enTexto_ = false;
+    std::optional<Renglon> renglon_;  // of upright text
 };
 
 /// Ink on a page of a PDF.
 class TintaPdf : public Tinta {
   public:
     TintaPdf(LetrasPdf& letras, ImagenesPdf& imagenes, double altoDeHoja);
-    const std::string& Ordenes() const { return ordenes_.Bytes(); }
+    /// All that was painted.
+    std::string Terminar();
 
     void Texto(const QPointF& base, const QString& texto, const TipoDeLetra& letra,
                const QColor& color) override;

@@ -13,15 +13,20 @@ namespace {
 constexpr int CuerpoDeMedida = 1000;  // pixels, at which stretches are set
 constexpr std::size_t FuentesAMano = 4;
 
-std::array<char, 4> CifrasDe(std::uint32_t glifo) {
+void AgregarCifras(std::string& salida, std::uint32_t numero) {
     constexpr std::string_view cifras = "0123456789ABCDEF";
-    return {cifras[glifo >> 12U & 0xFU], cifras[glifo >> 8U & 0xFU], cifras[glifo >> 4U & 0xFU],
-            cifras[glifo & 0xFU]};
+    for (const unsigned lugar : {12U, 8U, 4U, 0U}) salida += cifras[numero >> lugar & 0xFU];
 }
 
-void AgregarGlifo(std::string& glifos, std::uint32_t glifo) {
-    const std::array<char, 4> cifras = CifrasDe(glifo);
-    glifos.append(cifras.data(), cifras.size());
+/// Two bytes; those that would end the text, or be taken for a line's end, stand behind a bar.
+std::string Escrito(std::uint32_t glifo) {
+    std::string salida;
+    for (const unsigned lugar : {8U, 0U}) {
+        const char byte = static_cast<char>(glifo >> lugar & 0xFFU);
+        if (std::string_view("()\\\r").find(byte) != std::string_view::npos) salida += '\\';
+        salida += byte == '\r' ? 'r' : byte;
+    }
+    return salida;
 }
 
 TablaDeFuente TablasDe(const QRawFont& fuente) {
@@ -39,9 +44,9 @@ std::string TablaDeCaracteres(const std::map<std::uint32_t, QString>& usados) {
     for (const auto& [glifo, texto] : usados) {
         if (texto.isEmpty()) continue;
         std::string linea = "<";
-        AgregarGlifo(linea, glifo);
+        AgregarCifras(linea, glifo);
         linea += "><";
-        for (const QChar c : texto) AgregarGlifo(linea, c.unicode());
+        for (const QChar c : texto) AgregarCifras(linea, c.unicode());
         lineas.push_back(linea + ">\n");
     }
     for (std::size_t desde = 0; desde < lineas.size(); desde += porBloque) {
@@ -74,7 +79,7 @@ std::size_t LetrasPdf::Numero(const QRawFont& fuente) {
     letra->Fuente = fuente;
     for (std::size_t c = 0x20; c < letra->Latinos.size(); ++c) {
         const QList<quint32> glifos = fuente.glyphIndexesForString(QString(QChar(static_cast<char16_t>(c))));
-        if (!glifos.isEmpty()) letra->Latinos[c] = {glifos.front(), false, CifrasDe(glifos.front())};
+        if (!glifos.isEmpty()) letra->Latinos[c] = {glifos.front(), false, Escrito(glifos.front())};
     }
     letras_.push_back(std::move(letra));
     porNombre_.insert(nombre, letras_.size() - 1);
@@ -109,7 +114,7 @@ bool LetrasPdf::ComponerSencillo(Letra& letra, const QString& texto, std::string
             if (latino.Glifo == 0) return false;
             if (!latino.Usado) letra.Usados.try_emplace(latino.Glifo, c);
             latino.Usado = true;
-            glifos.append(latino.Cifras.data(), latino.Cifras.size());
+            glifos += latino.Escrito;
             continue;
         }
         if (c.isSurrogate() || c.script() > QChar::Script_Cyrillic) return false;
@@ -117,7 +122,7 @@ bool LetrasPdf::ComponerSencillo(Letra& letra, const QString& texto, std::string
         const quint32 glifo = hallados.isEmpty() ? 0 : hallados.front();
         if (glifo == 0) return false;
         if (const auto [usado, nuevo] = letra.Usados.try_emplace(glifo); nuevo) usado->second = c;
-        AgregarGlifo(glifos, glifo);
+        glifos += Escrito(glifo);
     }
     return true;
 }
@@ -139,7 +144,7 @@ std::vector<LetrasPdf::Tramo> LetrasPdf::ComponerPorPartes(const QFont& fuente, 
                         {},
                         lugares[i].x() / CuerpoDeMedida,
                         (lugares[i].y() - linea.ascent()) / CuerpoDeMedida};
-            AgregarGlifo(tramo.Glifos, glifos[i]);
+            tramo.Glifos = Escrito(glifos[i]);
             tramos.push_back(tramo);
             // One glyph a character, as in most scripts, tells what each stands for.
             auto& usado = letras_[numero]->Usados[glifos[i]];

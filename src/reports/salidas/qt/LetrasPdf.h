@@ -19,8 +19,8 @@ namespace trabex::salidas::qt {
 /// the characters that they stand for.
 class LetrasPdf {
   public:
-    /// A stretch of a text in one font: its glyphs in hexadecimal, and how far it stands from the text's
-    /// beginning, in sizes of the font.
+    /// A stretch of a text in one font: its glyphs, as they stand between the brackets of a PDF's text, and
+    /// how far it stands from the text's beginning, in sizes of the font.
     struct Tramo {
         std::size_t Letra = 0;
         std::string Glifos;
@@ -42,7 +42,7 @@ class LetrasPdf {
     struct Latino {
         quint32 Glifo = 0;  // 0 where the font has none
         bool Usado = false;
-        std::array<char, 4> Cifras{};
+        std::string Escrito{};  // as in a stretch
     };
     struct Letra {
         QRawFont Fuente;
