@@ -233,16 +233,22 @@ std::string TextoRico::De(const documento::Tabla& tabla) const {
     const std::string usuales = Bordes(tabla, {}, limites);
     for (const documento::FilaDeTabla& fila : tabla.Filas) {
         salida += fila.Destacada || fila.Rotulo ? Bordes(tabla, fila, limites) : usuales;
+        // A cell is like the one before it, but for what is told: of many rows, most would be told again.
+        salida += Celda;
+        if (fila.Destacada) salida += "\\b";
+        const std::string_view* lado = nullptr;
         for (std::size_t i = 0; i < limites.size(); i += tabla.Abarca(fila, i)) {
-            salida += Celda;
-            salida += Lados[static_cast<std::size_t>(tabla.Lado(fila, i))];
-            salida += fila.Destacada ? "{\\b " : "{";
-            if (i < fila.Celdas.size())
+            const std::string_view* suyo = &Lados[static_cast<std::size_t>(tabla.Lado(fila, i))];
+            if (suyo != lado) salida += *suyo;
+            lado = suyo;
+            if (i < fila.Celdas.size()) {
+                salida += ' ';
                 salida += Escapado(
                     documento::TextoDeValor(fila.Celdas[i], tabla.Columnas[i].Formato, documento_.Locales));
-            salida += "}\\cell";
+            }
+            salida += "\\cell";
         }
-        salida += "\\row\n";
+        salida += fila.Destacada ? "\\b0\\row\n" : "\\row\n";
     }
     return salida + std::string(FinDeTabla);
 }
