@@ -52,7 +52,7 @@ std::string DigitosRedondeados(double valor, int decimales) {
 /// |valor| with `decimales` decimals as a whole number of its last digit, where a product and a comparison
 /// tell it for sure: not near a half, nor of more digits than a double has to spare. Most numbers are such,
 /// and it takes a tenth of the time.
-std::optional<std::uint64_t> EnteroSeguro(double valor, int decimales) {
+std::optional<std::uint32_t> EnteroSeguro(double valor, int decimales) {
     constexpr std::array<double, 7> potencias{1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6};
     constexpr double mayor = 1e9;
     constexpr double cercaDeMitad =
@@ -60,20 +60,46 @@ std::optional<std::uint64_t> EnteroSeguro(double valor, int decimales) {
     if (decimales >= static_cast<int>(potencias.size())) return std::nullopt;
     const double producto = std::fabs(valor) * potencias[static_cast<std::size_t>(decimales)];
     if (!(producto < mayor)) return std::nullopt;
-    const auto entero = static_cast<std::uint64_t>(producto);
+    const auto entero = static_cast<std::uint32_t>(producto);
     const double resto = producto - static_cast<double>(entero);
     if (std::fabs(resto - 0.5) < cercaDeMitad) return std::nullopt;
     return resto > 0.5 ? entero + 1 : entero;
 }
 
-std::string Digitos(double valor, int decimales) {
-    const auto entero = EnteroSeguro(valor, decimales);
-    if (!entero) return DigitosRedondeados(valor, decimales);
-    std::array<char, 24> cifras{};
-    const auto fin = std::to_chars(cifras.data(), cifras.data() + cifras.size(), *entero);
-    const auto largo = static_cast<std::size_t>(fin.ptr - cifras.data());
-    std::string digitos(std::max(largo, static_cast<std::size_t>(decimales) + 1) - largo, '0');
-    return digitos.append(cifras.data(), largo);
+/// Digits with their marks: decimals behind the one, thousands between the other.
+std::string ConMarcas(const std::string& digitos, int decimales, std::string_view miles,
+                      std::string_view decimal) {
+    const std::size_t enteros = digitos.size() - static_cast<std::size_t>(decimales);
+    std::string salida;
+    for (std::size_t i = 0; i < enteros; ++i) {
+        if (i != 0 && (enteros - i) % 3 == 0) salida += miles;
+        salida += digitos[i];
+    }
+    if (decimales > 0) {
+        salida += decimal;
+        salida.append(digitos, enteros);
+    }
+    return salida;
+}
+
+/// The same of a number of up to ten digits, from the last to the first, between marks of one character.
+std::string ConMarcas(std::uint32_t numero, bool negativo, int decimales, char miles, char decimal) {
+    std::array<char, 24> texto{};
+    char* primera = texto.data() + texto.size();
+    const char* const fin = primera;
+    const auto ponerDigito = [&] {
+        *--primera = static_cast<char>('0' + numero % 10);
+        numero /= 10;
+    };
+    for (int i = 0; i < decimales; ++i) ponerDigito();
+    if (decimales > 0) *--primera = decimal;
+    ponerDigito();
+    for (int i = 1; numero > 0; ++i) {
+        if (i % 3 == 0 && miles != '\0') *--primera = miles;
+        ponerDigito();
+    }
+    if (negativo) *--primera = '-';
+    return std::string(primera, static_cast<std::size_t>(fin - primera));
 }
 
 }  // namespace
@@ -84,19 +110,15 @@ std::string Formato(double valor, std::string_view formato, const Separadores& s
     const int decimales = punto == std::string_view::npos ? 0 : static_cast<int>(formato.size() - punto - 1);
     const bool conMiles = formato.find(',') != std::string_view::npos;
 
-    const std::string digitos = Digitos(valor, decimales);
-    const std::size_t enteros = digitos.size() - static_cast<std::size_t>(decimales);
-    std::string salida;
-    if (valor < 0 && digitos.find_first_not_of('0') != std::string::npos) salida = "-";
-    for (std::size_t i = 0; i < enteros; ++i) {
-        if (conMiles && i != 0 && (enteros - i) % 3 == 0) salida += separadores.Miles;
-        salida += digitos[i];
-    }
-    if (decimales > 0) {
-        salida += separadores.Decimal;
-        salida.append(digitos, enteros);
-    }
-    return salida;
+    const std::string_view miles = conMiles ? std::string_view(separadores.Miles) : std::string_view();
+
+    const auto entero = EnteroSeguro(valor, decimales);
+    if (entero && miles.size() <= 1 && separadores.Decimal.size() == 1)
+        return ConMarcas(*entero, valor < 0 && *entero != 0, decimales, miles.empty() ? '\0' : miles[0],
+                         separadores.Decimal[0]);
+    const std::string digitos = DigitosRedondeados(valor, decimales);
+    const bool negativo = valor < 0 && digitos.find_first_not_of('0') != std::string::npos;
+    return (negativo ? "-" : "") + ConMarcas(digitos, decimales, miles, separadores.Decimal);
 }
 
 std::string FormatoFecha(const Fecha& fecha) {

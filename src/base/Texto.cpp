@@ -36,9 +36,12 @@ char32_t TomarCaracter(std::string_view& resto) {
 }
 
 bool EsLlano(std::string_view texto, std::string_view salvo) {
-    return std::all_of(texto.begin(), texto.end(), [&](char c) {
-        return c >= 0x20 && c < 0x7F && salvo.find(c) == std::string_view::npos;
-    });
+    for (const char c : texto) {
+        if (c < 0x20 || c >= 0x7F) return false;
+        for (const char otra : salvo)
+            if (c == otra) return false;
+    }
+    return true;
 }
 
 std::string TextoValido(std::string_view texto) {
