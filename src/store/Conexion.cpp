@@ -105,7 +105,10 @@ void AbrirDeTrabajo(Conexion& conexion, const std::filesystem::path& camino) {
     if (!conexion.Abierta()) return;
     conexion.motor()->Consultar("PRAGMA journal_mode = MEMORY");
     conexion.motor()->Consultar("PRAGMA synchronous = OFF");
-    IndexarNombres(*conexion.motor());
+}
+
+void IndexarNombres(Conexion& conexion) {
+    if (conexion.Abierta()) IndexarNombres(*conexion.motor());
 }
 
 void CopiarEnMemoria(Conexion& origen, Conexion& copia) {

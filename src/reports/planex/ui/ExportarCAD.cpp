@@ -8,6 +8,7 @@
 #include "shell/Arranque.h"
 #include "shell/Espera.h"
 #include "slab/CalcularLosa.h"
+#include "store/DeTrabajo.h"
 #include "store/Elementos.h"
 #include "store/antiguo/Convertir.h"
 #include "store/tablas/TablasLosa.h"
@@ -198,6 +199,7 @@ int ExportarCAD::EscribirLosas(const std::vector<int>& filas, const std::filesys
                                const std::filesystem::path& original, almacen::antiguo::BaseEnJet& base) {
     const auto espera = programa::Espera(pantalla_);
     almacen::Conexion& destino = base.Conexion();
+    almacen::IndexarNombres(destino);
     int exportadas = 0;
     try {
         if (pantalla_.Opcion() == ArchivoCAD::CrearNuevo)
