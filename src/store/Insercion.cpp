@@ -17,6 +17,7 @@ struct Insercion::Interna {
     std::shared_ptr<Motor> motor;
     std::vector<Columna> columnas;
     std::vector<Valor> fila;
+    std::size_t siguiente = 0;  // column, of those that are set in turn
     SentenciaSqlite sentencia{nullptr, sqlite3_finalize};
 };
 
@@ -54,8 +55,11 @@ Insercion::~Insercion() = default;
 
 bool Insercion::Poner(std::string_view campo, const Valor& valor) {
     if (!interna_) return false;
-    for (std::size_t i = 0; i < interna_->columnas.size(); ++i) {
+    const std::size_t columnas = interna_->columnas.size();
+    for (std::size_t k = 0; k < columnas; ++k) {
+        const std::size_t i = (interna_->siguiente + k) % columnas;
         if (interna_->columnas[i].Nombre != campo) continue;
+        interna_->siguiente = i + 1;
         std::optional<Valor> admitido = Admitir(interna_->columnas[i], valor);
         const bool puesto = admitido.has_value();
         interna_->fila[i] = puesto ? std::move(*admitido) : Valor{};

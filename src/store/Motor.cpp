@@ -68,7 +68,7 @@ void Plegar(sqlite3_context* contexto, int, sqlite3_value** valores) {
 }
 
 int PlazoVencido(void* plazo) {
-    return static_cast<const Plazo*>(plazo)->Vencido() ? 1 : 0;
+    return static_cast<Plazo*>(plazo)->Vencido() ? 1 : 0;
 }
 
 /// The engine's count of its memory takes a lock that all threads share, and nobody reads it.

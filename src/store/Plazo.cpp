@@ -27,11 +27,12 @@ std::chrono::nanoseconds ProcesadorDelHilo() {
 
 }  // namespace
 
-void Plazo::Dar(std::chrono::milliseconds tiempo) {
-    hasta_ = tiempo.count() == 0 ? std::chrono::nanoseconds(0) : ProcesadorDelHilo() + tiempo;
-}
-
-bool Plazo::Vencido() const {
+bool Plazo::Vencido() {
+    if (porDar_) {
+        hasta_ = porDar_->count() == 0 ? std::chrono::nanoseconds(0) : ProcesadorDelHilo() + *porDar_;
+        porDar_.reset();
+        return false;
+    }
     return hasta_.count() != 0 && ProcesadorDelHilo() > hasta_;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <optional>
 
 namespace trabex::almacen {
 
@@ -8,11 +9,13 @@ namespace trabex::almacen {
 /// short.
 class Plazo {
   public:
-    /// From now on there is so much; nothing ends it when 0.
-    void Dar(std::chrono::milliseconds tiempo);
-    bool Vencido() const;
+    /// From the next look on there is so much; nothing ends it when 0. Most statements end before anybody
+    /// looks, and asking the system for its clock costs as much as one of them.
+    void Dar(std::chrono::milliseconds tiempo) { porDar_ = tiempo; }
+    bool Vencido();
 
   private:
+    std::optional<std::chrono::milliseconds> porDar_;
     std::chrono::nanoseconds hasta_{0};
 };
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <functional>
 #include <new>
 #include <optional>
@@ -33,6 +34,10 @@ Valor LeerColumna(sqlite3_stmt* sentencia, int i, const Columna& columna) {
     switch (sqlite3_column_type(sentencia, i)) {
         case SQLITE_INTEGER:
         case SQLITE_FLOAT:
+            if (columna.Tipo == TipoColumna::Doble) {
+                const double numero = sqlite3_column_double(sentencia, i);
+                return std::isfinite(numero) ? Valor{numero} : Valor{};
+            }
             if (columna.Tipo != TipoColumna::Texto) return admitir(sqlite3_column_double(sentencia, i));
             [[fallthrough]];
         case SQLITE_TEXT: {

@@ -301,6 +301,18 @@ class Compositor {
         const auto* logico = std::get_if<bool>(&valor);
         return logico != nullptr && *logico;
     }
+    /// The columns of a table's own rows, for the cells that show one.
+    using Propias = std::vector<std::optional<std::size_t>>;
+    static Propias PropiasDe(const ElementoTabla::Fila& fila, const TablaDeDatos& tabla) {
+        Propias propias(fila.Celdas.size());
+        for (std::size_t i = 0; i < propias.size(); ++i) {
+            const CeldaDeMaqueta& celda = fila.Celdas[i];
+            const bool suya = celda.Campo.Tabla.empty() || celda.Campo.Tabla == tabla.Nombre();
+            if (celda.Que == CeldaDeMaqueta::Clase::Campo && suya)
+                propias[i] = tabla.Columna(celda.Campo.Columna);
+        }
+        return propias;
+    }
     almacen::Valor Celda(const CeldaDeMaqueta& celda, const FilaActual& fila) {
         if (celda.Que == CeldaDeMaqueta::Clase::Nada) return {};
         if (celda.Que == CeldaDeMaqueta::Clase::Texto) return Texto(celda.Texto, &fila);
@@ -345,15 +357,22 @@ void Compositor::Escribir(const ElementoTabla& e, const FilaActual* alrededor) {
     const std::vector<std::size_t> numeros = nombres_.Filas(e.Fuente, alrededor);
     if (numeros.empty()) return;
     Tabla tabla{e.Columnas, {}};
+    std::vector<Propias> propias;
+    propias.reserve(e.Filas.size());
+    for (const ElementoTabla::Fila& fila : e.Filas) propias.push_back(PropiasDe(fila, *origen));
+    tabla.Filas.reserve(numeros.size() + e.Filas.size());
     for (const std::size_t numero : numeros) {
         const FilaActual actual{origen, numero, alrededor};
-        for (const ElementoTabla::Fila& fila : e.Filas) {
+        for (std::size_t k = 0; k < e.Filas.size(); ++k) {
+            const ElementoTabla::Fila& fila = e.Filas[k];
             const bool sale = fila.Sale == ElementoTabla::Cuando::Siempre ||
                               (fila.Sale == ElementoTabla::Cuando::Ultima && numero == numeros.back());
             if (!sale) continue;
             FilaDeTabla& nueva = tabla.Filas.emplace_back();
             nueva.Celdas.reserve(fila.Celdas.size());
-            for (const CeldaDeMaqueta& celda : fila.Celdas) nueva.Celdas.push_back(Celda(celda, actual));
+            for (std::size_t i = 0; i < fila.Celdas.size(); ++i)
+                nueva.Celdas.push_back(propias[k][i] ? origen->Leer(numero, *propias[k][i])
+                                                     : Celda(fila.Celdas[i], actual));
         }
     }
     for (const ElementoTabla::Fila& fila : e.Filas) {
