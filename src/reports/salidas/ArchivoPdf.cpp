@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 
 #include <libdeflate.h>
 
@@ -59,15 +60,18 @@ std::string TextoPdf(std::string_view texto) {
     return salida + ">";
 }
 
-void AgregarNumeroPdf(std::string& salida, double valor, unsigned decimales) {
-    constexpr std::array<std::int64_t, 7> potencias{1, 10, 100, 1000, 10000, 100000, 1000000};
+std::int64_t UnidadesPdf(double valor, unsigned decimales) {
+    constexpr std::array<double, 7> potencias{1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6};
     constexpr double limite = 1e12;
-    const double acotado = std::isfinite(valor) ? std::fmin(std::fmax(valor, -limite), limite) : 0;
-    auto resto =
-        static_cast<std::int64_t>(std::fabs(acotado) * static_cast<double>(potencias[decimales]) + 0.5);
+    if (!(std::fabs(valor) < limite)) valor = std::isnan(valor) ? 0 : std::copysign(limite, valor);
+    return static_cast<std::int64_t>(valor * potencias[decimales] + std::copysign(0.5, valor));
+}
+
+void AgregarNumeroPdf(std::string& salida, std::int64_t unidades, unsigned decimales) {
     std::array<char, 32> cifras{};
     char* primera = cifras.data() + cifras.size();
-    char* fin = primera;
+    char* const fin = primera;
+    std::int64_t resto = std::abs(unidades);
     for (unsigned i = 0; i < decimales; ++i, resto /= 10) {
         if (resto % 10 == 0 && primera == fin) continue;  // a last zero
         *--primera = static_cast<char>('0' + resto % 10);
@@ -77,7 +81,7 @@ void AgregarNumeroPdf(std::string& salida, double valor, unsigned decimales) {
         *--primera = static_cast<char>('0' + resto % 10);
         resto /= 10;
     } while (resto > 0);
-    if (valor < 0 && (*primera != '0' || fin - primera > 1)) *--primera = '-';
+    if (unidades < 0) *--primera = '-';
     salida.append(primera, fin);
 }
 

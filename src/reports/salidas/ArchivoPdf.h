@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -12,8 +13,10 @@ namespace trabex::salidas {
 
 /// A text as PDF takes any: UTF-16 in hexadecimal, between its brackets.
 std::string TextoPdf(std::string_view texto);
-/// A number as PDF takes it, to so many decimals, six at most.
-void AgregarNumeroPdf(std::string& salida, double valor, unsigned decimales);
+/// A number in units of its last decimal, of six at most.
+std::int64_t UnidadesPdf(double valor, unsigned decimales);
+/// Such a number as PDF takes it: without zeros at its end.
+void AgregarNumeroPdf(std::string& salida, std::int64_t unidades, unsigned decimales);
 
 /// A PDF file on its way: numbered objects, written as they come, and their table at the end. Throws
 /// ErrorEjecucion when the disk refuses.

@@ -71,10 +71,11 @@ class Escritura {
                                                  "/Contents " + ArchivoPdf::Enlace(contenido));
             hijas += ArchivoPdf::Enlace(numeros_.back()) + "\n";
         }
-        std::string medida = "/MediaBox[0 0 ";
-        AgregarNumeroPdf(medida, paginas_.Papel().Ancho * Milimetro / PuntoTipografico, DecimalesDeHoja);
-        medida += " ";
-        AgregarNumeroPdf(medida, alto / PuntoTipografico, DecimalesDeHoja);
+        std::string medida = "/MediaBox[0 0";
+        for (const double lado : {paginas_.Papel().Ancho * Milimetro, alto}) {
+            medida += ' ';
+            AgregarNumeroPdf(medida, UnidadesPdf(lado / PuntoTipografico, DecimalesDeHoja), DecimalesDeHoja);
+        }
         archivo_.Objeto(arbol_, "/Type/Pages/Count " + std::to_string(numeros_.size()) + medida +
                                     "]/Resources " + ArchivoPdf::Enlace(recursos) + "/Kids[" + hijas + "]");
         archivo_.Objeto(recursos,

@@ -2,7 +2,6 @@
 
 #include <QImage>
 #include <QPainter>
-#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -136,7 +135,7 @@ std::string ImagenesPdf::Agregar(const almacen::Bytes& bytes) {
     return nombre;
 }
 
-OrdenesPdf& OrdenesPdf::Numero(double valor, unsigned decimales) {
+OrdenesPdf& OrdenesPdf::Unidades(std::int64_t valor, unsigned decimales) {
     AgregarNumeroPdf(bytes_, valor, decimales);
     bytes_ += ' ';
     return *this;
@@ -276,21 +275,17 @@ void OrdenesPdf::SalirDeTexto() {
 /// The first text's place is told whole, turned as the unit's y is; that of the others from the one before,
 /// as it was rounded.
 void OrdenesPdf::Lugar(double x, double y) {
-    const Renglon nuevo{Redondeado(x), Redondeado(y)};
+    const unsigned decimales = estado_.Decimales;
+    const Renglon nuevo{UnidadesPdf(x, decimales), UnidadesPdf(y, decimales)};
     if (renglon_) {
-        Numero(nuevo.x - renglon_->x).Numero(renglon_->y - nuevo.y);
+        Unidades(nuevo.x - renglon_->x, decimales).Unidades(renglon_->y - nuevo.y, decimales);
         bytes_ += "Td";
     } else {
         bytes_ += "1 0 0 -1 ";
-        Numero(nuevo.x).Numero(nuevo.y);
+        Unidades(nuevo.x, decimales).Unidades(nuevo.y, decimales);
         bytes_ += "Tm";
     }
     renglon_ = nuevo;
-}
-
-double OrdenesPdf::Redondeado(double valor) const {
-    constexpr std::array<double, DecimalesDeEscala + 1> partes{1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6};
-    return std::nearbyint(valor * partes[estado_.Decimales]) / partes[estado_.Decimales];
 }
 
 void OrdenesPdf::Imagen(const std::string& nombre, const QRectF& donde) {
@@ -316,6 +311,14 @@ void TintaPdf::Texto(const QPointF& base, const QString& texto, const TipoDeLetr
                      const QColor& color) {
     ordenes_.Tintar(Tono(color));
     ordenes_.Texto(letras_.Componer(letra.Fuente(), texto), letra.Fuente().pixelSize(), base, 0);
+}
+
+void TintaPdf::TextoLlano(const QPointF& base, std::string_view texto, const TipoDeLetra& letra,
+                          const QColor& color) {
+    const std::vector<LetrasPdf::Tramo>* tramos = letras_.ComponerLlano(letra.Fuente(), texto);
+    if (tramos == nullptr) return Tinta::TextoLlano(base, texto, letra, color);
+    ordenes_.Tintar(Tono(color));
+    ordenes_.Texto(*tramos, letra.Fuente().pixelSize(), base, 0);
 }
 
 void TintaPdf::Raya(const QPointF& desde, const QPointF& hasta, double grosor, const QColor& color) {

@@ -60,14 +60,16 @@ class OrdenesPdf {
         double Escala = 1;       // points to the unit
         unsigned Decimales = 2;  // of a place
     };
-    /// Where the last text of those that stand together begins.
+    /// Where the last text of those that stand together begins, in units of the places' last decimal.
     struct Renglon {
-        double x;
-        double y;
+        std::int64_t x;
+        std::int64_t y;
     };
     OrdenesPdf& Numero(double valor) { return Numero(valor, estado_.Decimales); }
-    OrdenesPdf& Numero(double valor, unsigned decimales);
-    double Redondeado(double valor) const;
+    OrdenesPdf& Numero(double valor, unsigned decimales) {
+        return Unidades(UnidadesPdf(valor, decimales), decimales);
+    }
+    OrdenesPdf& Unidades(std::int64_t valor, unsigned decimales);
     OrdenesPdf& Orden(const char* orden);
     void EntrarEnTexto(std::size_t letra, double cuerpo);
     void SalirDeTexto();
@@ -91,6 +93,8 @@ class TintaPdf : public Tinta {
 
     void Texto(const QPointF& base, const QString& texto, const TipoDeLetra& letra,
                const QColor& color) override;
+    void TextoLlano(const QPointF& base, std::string_view texto, const TipoDeLetra& letra,
+                    const QColor& color) override;
     void Raya(const QPointF& desde, const QPointF& hasta, double grosor, const QColor& color) override;
     void Fondo(const QRectF& donde, const QColor& color) override;
     void Mapa(const QRectF& donde, const documento::Imagen& imagen) override;

@@ -2,6 +2,7 @@
 
 #include <QGlyphRun>
 #include <QTextLayout>
+#include <algorithm>
 #include <set>
 
 #include "reports/salidas/FuenteTrueType.h"
@@ -107,14 +108,19 @@ double LetrasPdf::Ascenso(const QFont& fuente) {
     return cruda.ascent() / cruda.pixelSize();
 }
 
+bool LetrasPdf::AgregarLatino(Letra& letra, std::size_t c, std::string& glifos) {
+    Latino& latino = letra.Latinos[c];
+    if (latino.Glifo == 0) return false;
+    if (!latino.Usado) letra.Usados.try_emplace(latino.Glifo, QChar(static_cast<char16_t>(c)));
+    latino.Usado = true;
+    glifos += latino.Escrito;
+    return true;
+}
+
 bool LetrasPdf::ComponerSencillo(Letra& letra, const QString& texto, std::string& glifos) {
     for (const QChar c : texto) {
         if (c.unicode() < letra.Latinos.size()) {
-            Latino& latino = letra.Latinos[c.unicode()];
-            if (latino.Glifo == 0) return false;
-            if (!latino.Usado) letra.Usados.try_emplace(latino.Glifo, c);
-            latino.Usado = true;
-            glifos += latino.Escrito;
+            if (!AgregarLatino(letra, c.unicode(), glifos)) return false;
             continue;
         }
         if (c.isSurrogate() || c.script() > QChar::Script_Cyrillic) return false;
@@ -154,12 +160,26 @@ std::vector<LetrasPdf::Tramo> LetrasPdf::ComponerPorPartes(const QFont& fuente, 
     return tramos;
 }
 
-const std::vector<LetrasPdf::Tramo>& LetrasPdf::Componer(const QFont& fuente, const QString& texto) {
+LetrasPdf::Tramo& LetrasPdf::Empezar(const QFont& fuente) {
     compuesto_.resize(1);
     Tramo& tramo = compuesto_.front();
     tramo.Letra = Numero(fuente);
     tramo.x = tramo.y = 0;
     tramo.Glifos.clear();
+    return tramo;
+}
+
+const std::vector<LetrasPdf::Tramo>* LetrasPdf::ComponerLlano(const QFont& fuente, std::string_view texto) {
+    Tramo& tramo = Empezar(fuente);
+    Letra& letra = *letras_[tramo.Letra];
+    const bool hay = std::all_of(texto.begin(), texto.end(), [&](char c) {
+        return AgregarLatino(letra, static_cast<unsigned char>(c), tramo.Glifos);
+    });
+    return hay ? &compuesto_ : nullptr;
+}
+
+const std::vector<LetrasPdf::Tramo>& LetrasPdf::Componer(const QFont& fuente, const QString& texto) {
+    Tramo& tramo = Empezar(fuente);
     if (!ComponerSencillo(*letras_[tramo.Letra], texto, tramo.Glifos))
         compuesto_ = ComponerPorPartes(fuente, texto);
     return compuesto_;

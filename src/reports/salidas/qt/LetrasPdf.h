@@ -30,6 +30,8 @@ class LetrasPdf {
     /// A text in a font of the toolkit, in others where that one has not its characters. Valid until the
     /// next.
     const std::vector<Tramo>& Componer(const QFont& fuente, const QString& texto);
+    /// The same of a text of printable ASCII alone; null where the font has not all of it.
+    const std::vector<Tramo>* ComponerLlano(const QFont& fuente, std::string_view texto);
     /// How high a font stands over its foot line, in sizes of it.
     double Ascenso(const QFont& fuente);
 
@@ -55,6 +57,8 @@ class LetrasPdf {
     };
     std::size_t Numero(const QFont& fuente);
     std::size_t Numero(const QRawFont& fuente);
+    Tramo& Empezar(const QFont& fuente);
+    static bool AgregarLatino(Letra& letra, std::size_t c, std::string& glifos);
     bool ComponerSencillo(Letra& letra, const QString& texto, std::string& glifos);
     std::vector<Tramo> ComponerPorPartes(const QFont& fuente, const QString& texto);
     static void EscribirLetra(ArchivoPdf& archivo, std::size_t numero, std::size_t orden, const Letra& letra);

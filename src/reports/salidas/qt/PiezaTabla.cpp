@@ -220,18 +220,25 @@ void PiezaTabla::PintarFila(Tinta& tinta, const QPointF& esquina, std::size_t fi
         if (tabla_.Estilo.Lineas) tinta.Raya({x, esquina.y()}, {x, pie}, Grosor, Tono(RayaDeFila));
         const documento::Alineacion lado = tabla_.Lado(suya, i);
         double y = esquina.y() + EntreLineas / 2 * letra.Alto() + letra.Ascenso();
-        const auto pintar = [&](const QString& linea) {
-            const double hueco = ancho - letra.Ancho(linea);
-            const double sangria = lado == documento::Alineacion::Izquierda ? Margen
-                                   : lado == documento::Alineacion::Centro  ? hueco / 2
-                                                                            : hueco - Margen;
-            if (!linea.isEmpty()) tinta.Texto({x + sangria, y}, linea, letra, TinteDeCelda);
-            y += letra.Alto();
-        };
-        if (lado != documento::Alineacion::Izquierda)
-            pintar(Celda(fila, i));
-        else
-            for (const QString& linea : LineasDeCelda(fila, i)) pintar(linea);
+        if (lado == documento::Alineacion::Izquierda) {
+            for (const QString& linea : LineasDeCelda(fila, i)) {
+                if (!linea.isEmpty()) tinta.Texto({x + Margen, y}, linea, letra, TinteDeCelda);
+                y += letra.Alto();
+            }
+        } else {
+            const auto sangria = [&](double anchoDeTexto) {
+                const double hueco = ancho - anchoDeTexto;
+                return lado == documento::Alineacion::Centro ? hueco / 2 : hueco - Margen;
+            };
+            const std::string texto = TextoDeCelda(fila, i);
+            if (EsLlano(texto, {})) {
+                if (!texto.empty())
+                    tinta.TextoLlano({x + sangria(letra.AnchoLlano(texto)), y}, texto, letra, TinteDeCelda);
+            } else {
+                const QString linea = QString::fromStdString(texto);
+                tinta.Texto({x + sangria(letra.Ancho(linea)), y}, linea, letra, TinteDeCelda);
+            }
+        }
         x += ancho;
     }
     if (tabla_.Estilo.Lineas) tinta.Raya({x, esquina.y()}, {x, pie}, Grosor, Tono(RayaDeFila));

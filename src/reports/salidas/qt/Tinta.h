@@ -5,6 +5,7 @@
 #include <QRectF>
 #include <QString>
 #include <string>
+#include <string_view>
 
 #include "reports/salidas/qt/TipoDeLetra.h"
 
@@ -27,6 +28,11 @@ class Tinta {
     /// One line of text, from the left end of its foot line.
     virtual void Texto(const QPointF& base, const QString& texto, const TipoDeLetra& letra,
                        const QColor& color) = 0;
+    /// The same of a text of printable ASCII alone, as most are.
+    virtual void TextoLlano(const QPointF& base, std::string_view texto, const TipoDeLetra& letra,
+                            const QColor& color) {
+        Texto(base, QString::fromLatin1(texto.data(), static_cast<qsizetype>(texto.size())), letra, color);
+    }
     virtual void Raya(const QPointF& desde, const QPointF& hasta, double grosor, const QColor& color) = 0;
     virtual void Fondo(const QRectF& donde, const QColor& color) = 0;
     virtual void Mapa(const QRectF& donde, const documento::Imagen& imagen) = 0;

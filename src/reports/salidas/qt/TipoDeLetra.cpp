@@ -74,6 +74,7 @@ double TipoDeLetra::AnchoLlano(std::string_view texto) const {
 }
 
 QStringList TipoDeLetra::Lineas(const QString& texto, double ancho) const {
+    if (!texto.contains('\n') && Ancho(texto) <= ancho) return {texto};
     QStringList lineas;
     for (const QString& parrafo : texto.split('\n')) {
         if (Ancho(parrafo) <= ancho)
