@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "store/Comparacion.h"
 #include "store/Dialecto.h"
 #include "store/Motor.h"
 
@@ -54,6 +55,15 @@ std::string ConsultaDe(Conexion& conexion, const TablaDeFilas& tabla, const Clav
     return std::string("SELECT * FROM ") + tabla.Nombre + " WHERE " + Condicion(conexion, tabla, clave);
 }
 
+/// The same for whichever name is put into it.
+std::string ConsultaDe(Conexion& conexion, const TablaDeFilas& tabla, const char* columna) {
+    const std::string criterio = std::string(columna) + "=?1";
+    const auto indice =
+        conexion.Abierta() ? conexion.motor()->Nombres().Condicion(tabla.Nombre, criterio) : std::nullopt;
+    return std::string("SELECT * FROM ") + tabla.Nombre + " WHERE " + indice.value_or(criterio) +
+           " COLLATE " + OrdenDelAlmacen;
+}
+
 /// A set of a table that reads none of its rows: to add some.
 void AbrirVacio(Conexion& conexion, Recordset& registros, const char* tabla) {
     AbrirRecordset(conexion, registros, "SELECT * FROM " + std::string(tabla) + " WHERE 0");
@@ -63,9 +73,13 @@ void AbrirVacio(Conexion& conexion, Recordset& registros, const char* tabla) {
 
 void AbrirFilas(Conexion& conexion, Recordset& registros, const TablaDeFilas& tabla, const Clave& clave) {
     const Lectura lectura(conexion);
-    std::string consulta = ConsultaDe(conexion, tabla, clave);
-    if (tabla.Orden) consulta += std::string(" ORDER BY ") + tabla.Orden;
-    AbrirRecordset(conexion, registros, consulta);
+    const std::string orden = tabla.Orden ? std::string(" ORDER BY ") + tabla.Orden : "";
+    const auto* texto = std::get_if<std::string>(&clave.Dato);
+    // A text that would break its statement breaks this one too.
+    if (texto != nullptr && texto->find_first_of(std::string_view("'\0", 2)) == std::string::npos)
+        AbrirRecordset(conexion, registros, ConsultaDe(conexion, tabla, clave.Columna) + orden, *texto);
+    else
+        AbrirRecordset(conexion, registros, ConsultaDe(conexion, tabla, clave) + orden);
     Recordar(conexion, Cuales(tabla, clave), registros);
 }
 

@@ -118,6 +118,7 @@ Motor::Motor(const std::filesystem::path& camino, int banderas, Procedencia proc
 }
 
 Motor::~Motor() {
+    guardadas_.clear();
     sqlite3_close_v2(base_);
 }
 
@@ -146,6 +147,17 @@ SentenciaSqlite Motor::Preparar(std::string_view sql) {
     if (antesDeCambiar_ && niveles_ == 0 && sentencia != nullptr && sqlite3_stmt_readonly(sentencia) == 0)
         antesDeCambiar_();
     return preparada;
+}
+
+sqlite3_stmt* Motor::Guardada(const std::string& sql) {
+    auto guardada = guardadas_.find(sql);
+    if (guardada == guardadas_.end()) {
+        SentenciaSqlite nueva = Preparar(sql);
+        if (!nueva) return nullptr;
+        guardada = guardadas_.emplace(sql, std::move(nueva)).first;
+    }
+    sqlite3_stmt* sentencia = guardada->second.get();
+    return estropeado_ || sqlite3_stmt_busy(sentencia) != 0 ? nullptr : sentencia;
 }
 
 bool Motor::Avanzar(sqlite3_stmt* sentencia, bool& hayFila) {

@@ -47,6 +47,9 @@ class Motor {
 
     /// A statement in the engine's own dialect, or null. A text that is wrong in itself spoils no save.
     SentenciaSqlite Preparar(std::string_view sql);
+    /// The same, kept for the next who asks for it; null as well while somebody runs it. Whoever runs it
+    /// resets it at the end. Only for the few texts that many elements share.
+    sqlite3_stmt* Guardada(const std::string& sql);
     /// One step. False when it failed for a reason that spoils the save under way.
     bool Avanzar(sqlite3_stmt* sentencia, bool& hayFila);
     /// Prepares and runs to the end.
@@ -105,6 +108,7 @@ class Motor {
     std::string version_;             // of the file's content, as last seen
     std::map<std::string, std::uint64_t> recordadas_;
     IndiceDeNombres nombres_{*this};
+    std::map<std::string, SentenciaSqlite> guardadas_;
 };
 
 /// The run-time error that stands for what the engine answered.

@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/AlSalir.h"
 #include "base/Formatos.h"
 #include "store/Columna.h"
 #include "store/Compuerta.h"
@@ -98,7 +99,10 @@ struct Recordset::Interna : std::enable_shared_from_this<Recordset::Interna> {
     bool nueva = false;  // AgregarNuevo without its Actualizar
     std::vector<std::optional<Valor>> puestos;
 
-    bool Llenar(Motor& m, const Fuente& fuente);
+    static std::shared_ptr<Interna> Abrir(Conexion& conexion, std::string_view fuente,
+                                          const std::string* texto);
+    bool Llenar(Motor& m, const Fuente& fuente, const std::string* texto);
+    bool Llenar(Motor& m, const Fuente& fuente, sqlite3_stmt* sentencia);
     Fila LeerFila(sqlite3_stmt* sentencia) const;
     int NumeroDe(std::string_view campo) const;
     bool HayActual() const { return posicion >= 1 && posicion <= static_cast<int>(filas.size()); }
@@ -127,19 +131,36 @@ Fila Recordset::Interna::LeerFila(sqlite3_stmt* sentencia) const {
     return fila;
 }
 
-bool Recordset::Interna::Llenar(Motor& m, const Fuente& fuente) {
-    const SentenciaSqlite sentencia = m.Preparar(fuente.Sentencia);
-    if (!sentencia || sqlite3_stmt_readonly(sentencia.get()) == 0) return false;
-    tabla = fuente.Tabla;
-    for (int i = tabla.empty() ? 0 : 1; i < sqlite3_column_count(sentencia.get()); ++i) {
-        const char* tipo = sqlite3_column_decltype(sentencia.get(), i);
-        columnas.push_back(LeerDeclaracion(sqlite3_column_name(sentencia.get(), i), tipo ? tipo : ""));
+bool Recordset::Interna::Llenar(Motor& m, const Fuente& fuente, const std::string* texto) {
+    if (texto == nullptr) {
+        const SentenciaSqlite propia = m.Preparar(fuente.Sentencia);
+        return propia && Llenar(m, fuente, propia.get());
     }
+    sqlite3_stmt* guardada = m.Guardada(fuente.Sentencia);
+    if (guardada == nullptr) return false;
+    const AlSalir soltar([guardada] {
+        sqlite3_reset(guardada);
+        sqlite3_clear_bindings(guardada);
+    });
+    sqlite3_bind_text(guardada, 1, texto->data(), static_cast<int>(texto->size()), SQLITE_STATIC);
+    return Llenar(m, fuente, guardada);
+}
+
+bool Recordset::Interna::Llenar(Motor& m, const Fuente& fuente, sqlite3_stmt* sentencia) {
+    if (sqlite3_stmt_readonly(sentencia) == 0) return false;
     bool hayFila = true;
+    if (!m.Avanzar(sentencia, hayFila)) return false;
+    // What the columns are is known from the first step on: a statement that was kept may only then see that
+    // its table has changed.
+    tabla = fuente.Tabla;
+    for (int i = tabla.empty() ? 0 : 1; i < sqlite3_column_count(sentencia); ++i) {
+        const char* tipo = sqlite3_column_decltype(sentencia, i);
+        columnas.push_back(LeerDeclaracion(sqlite3_column_name(sentencia, i), tipo ? tipo : ""));
+    }
     while (hayFila) {
-        if (!m.Avanzar(sentencia.get(), hayFila)) return false;
-        if (hayFila) filas.push_back(LeerFila(sentencia.get()));
+        filas.push_back(LeerFila(sentencia));
         if (m.EsAjena() && filas.size() > FilasMaximas) return false;
+        if (!m.Avanzar(sentencia, hayFila)) return false;
     }
     posicion = filas.empty() ? 0 : 1;
     LimpiarPuestos();
@@ -461,18 +482,31 @@ bool Recordset::Encontrado() const {
     return encontrado_;
 }
 
+auto Recordset::Interna::Abrir(Conexion& conexion, std::string_view fuente, const std::string* texto)
+    -> std::shared_ptr<Interna> {
+    const auto traducida = TraducirFuente(fuente);
+    if (!conexion.Abierta() || !traducida) return nullptr;
+    auto interna = std::make_shared<Interna>();
+    interna->motor = conexion.motor();
+    try {
+        return interna->Llenar(*conexion.motor(), *traducida, texto) ? interna : nullptr;
+    } catch (const std::bad_alloc&) {
+        conexion.motor()->Estropear(CodigoError::MemoriaInsuficiente);
+        return nullptr;
+    }
+}
+
 void AbrirRecordset(Conexion& conexion, Recordset& registros, std::string_view fuente) {
     registros.interna_.reset();
     registros.encontrado_ = false;
-    const auto traducida = TraducirFuente(fuente);
-    if (!conexion.Abierta() || !traducida) return;
-    auto interna = std::make_shared<Recordset::Interna>();
-    interna->motor = conexion.motor();
-    try {
-        if (interna->Llenar(*conexion.motor(), *traducida)) registros.interna_ = std::move(interna);
-    } catch (const std::bad_alloc&) {
-        conexion.motor()->Estropear(CodigoError::MemoriaInsuficiente);
-    }
+    registros.interna_ = Recordset::Interna::Abrir(conexion, fuente, nullptr);
+}
+
+void AbrirRecordset(Conexion& conexion, Recordset& registros, std::string_view fuente,
+                    const std::string& texto) {
+    registros.interna_.reset();
+    registros.encontrado_ = false;
+    registros.interna_ = Recordset::Interna::Abrir(conexion, fuente, &texto);
 }
 
 void BuscarRegistro(Recordset& registros, std::string_view criterio) {

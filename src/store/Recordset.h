@@ -90,6 +90,7 @@ class Recordset {
 
   private:
     friend void AbrirRecordset(Conexion&, Recordset&, std::string_view);
+    friend void AbrirRecordset(Conexion&, Recordset&, std::string_view, const std::string&);
     friend void BuscarRegistro(Recordset&, std::string_view);
     struct Interna;
     std::shared_ptr<Interna> interna_;  // null when closed
@@ -99,6 +100,11 @@ class Recordset {
 /// Opens a table (a bare name) or an SQL text. When it fails the set stays closed; otherwise it stands on its
 /// first record, if it has any.
 void AbrirRecordset(Conexion& conexion, Recordset& registros, std::string_view fuente);
+
+/// The same of an SQL text in which `texto` stands wherever it says `?1`. It stays prepared: for one that
+/// many elements share.
+void AbrirRecordset(Conexion& conexion, Recordset& registros, std::string_view fuente,
+                    const std::string& texto);
 
 /// Looks for "column=value" from the current record forward and then backward, so that it finds the record
 /// wherever it stands. Encontrado is clear only when both ways ended past the records: a criterion that its
