@@ -55,7 +55,6 @@ p.banda { color: #555555; font-size: 90%; border-bottom: 1px solid #d9dfe5; padd
 
 /// A line feed of a text stays one.
 std::string Escapado(std::string_view texto) {
-    if (EsLlano(texto, "&<>\"")) return std::string(texto);
     std::string salida;
     salida.reserve(texto.size());
     for (const char c : TextoDeMarcado(texto)) {
@@ -65,6 +64,13 @@ std::string Escapado(std::string_view texto) {
             salida += c;
     }
     return salida;
+}
+
+void AgregarEscapado(std::string& salida, std::string_view texto) {
+    if (EsLlano(texto, "&<>\""))
+        salida += texto;
+    else
+        salida += Escapado(texto);
 }
 
 /// The sheet and its margins, for printing.
@@ -187,8 +193,8 @@ void PaginaHtml::Fila(std::string& salida, const documento::Tabla& tabla,
         if (abarca > 1) salida += " colspan=\"" + std::to_string(abarca) + "\"";
         salida += '>';
         if (i < fila.Celdas.size())
-            salida += Escapado(
-                documento::TextoDeValor(fila.Celdas[i], tabla.Columnas[i].Formato, documento_.Locales));
+            AgregarEscapado(salida, documento::TextoDeValor(fila.Celdas[i], tabla.Columnas[i].Formato,
+                                                            documento_.Locales));
         salida += "</td>";
     }
     salida += "</tr>\n";

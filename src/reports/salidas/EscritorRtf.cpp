@@ -46,10 +46,16 @@ std::string Caracter(char32_t c) {
 }
 
 std::string Escapado(std::string_view texto) {
-    if (EsLlano(texto, "\\{}")) return std::string(texto);
     std::string salida;
     while (!texto.empty()) salida += Caracter(TomarCaracter(texto));
     return salida;
+}
+
+void AgregarEscapado(std::string& salida, std::string_view texto) {
+    if (EsLlano(texto, "\\{}"))
+        salida += texto;
+    else
+        salida += Escapado(texto);
 }
 
 std::string Hexadecimal(const almacen::Bytes& bytes) {
@@ -243,8 +249,8 @@ std::string TextoRico::De(const documento::Tabla& tabla) const {
             lado = suyo;
             if (i < fila.Celdas.size()) {
                 salida += ' ';
-                salida += Escapado(
-                    documento::TextoDeValor(fila.Celdas[i], tabla.Columnas[i].Formato, documento_.Locales));
+                AgregarEscapado(salida, documento::TextoDeValor(fila.Celdas[i], tabla.Columnas[i].Formato,
+                                                                documento_.Locales));
             }
             salida += "\\cell";
         }

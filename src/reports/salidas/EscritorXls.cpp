@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
+#include <utility>
 
 #include "base/Texto.h"
 #include "reports/salidas/ImagenPng.h"
@@ -80,11 +82,24 @@ std::string Archivo(const almacen::Bytes& bytes) {
     return foto ? std::string(TextoDe(foto->Archivo)) : std::string();
 }
 
+/// The book's numbers of the styles of tables' cells; there are few, and many cells.
+struct EstilosDeTablas {
+    struct Usado {
+        bool Destacada;
+        documento::Alineacion Lado;
+        std::string Formato;
+        std::uint16_t Numero;
+    };
+    std::vector<Usado> Usados{};
+    std::optional<std::uint16_t> Titulos{};
+};
+
 /// Writes the blocks of a section one below the other.
 class EscritorDeHoja {
   public:
-    EscritorDeHoja(xls::LibroXls& libro, xls::HojaXls& hoja, const documento::Documento& documento)
-        : libro_(libro), hoja_(hoja), documento_(documento) {}
+    EscritorDeHoja(xls::LibroXls& libro, EstilosDeTablas& estilos, xls::HojaXls& hoja,
+                   const documento::Documento& documento)
+        : libro_(libro), estilos_(estilos), hoja_(hoja), documento_(documento) {}
 
     void Escribir(const documento::Seccion& seccion, const std::function<void()>& antesDeCada) {
         PonerAnchos(seccion);
@@ -183,9 +198,9 @@ class EscritorDeHoja {
     }
     /// A cell over several columns.
     template <class Estilo>
-    void Celda(std::size_t columna, std::size_t cuantas, const xls::ValorXls& valor, const Estilo& estilo) {
-        for (std::size_t c = columna; c < columna + cuantas; ++c) Celda(c, {}, estilo);
-        Celda(columna, valor, estilo);
+    void Celda(std::size_t columna, std::size_t cuantas, xls::ValorXls valor, const Estilo& estilo) {
+        Celda(columna, std::move(valor), estilo);
+        for (std::size_t c = columna + 1; c < columna + cuantas; ++c) Celda(c, {}, estilo);
         if (cuantas > 1) hoja_.Combinadas.push_back({fila_, columna, fila_, columna + cuantas - 1});
     }
     void PonerAlto(double alto) {
@@ -246,7 +261,11 @@ class EscritorDeHoja {
         for (const documento::FilaDeTabla& fila : tabla.Filas) PonerFila(tabla, fila);
     }
 
-    xls::EstiloXls EstiloDeTitulos() const {
+    std::uint16_t EstiloDeTitulos() {
+        if (!estilos_.Titulos) estilos_.Titulos = xls::EstiloDe(libro_, NuevoEstiloDeTitulos());
+        return *estilos_.Titulos;
+    }
+    xls::EstiloXls NuevoEstiloDeTitulos() const {
         xls::EstiloXls estilo = Estilo();
         estilo.Negrita = true;
         estilo.AjustarTexto = true;
@@ -281,18 +300,17 @@ class EscritorDeHoja {
                                             tabla.Columnas[c].Formato, "", documento_.Locales);
             const std::uint16_t estilo =
                 EstiloDeCelda(fila.Destacada, tabla.Lado(fila, c), std::move(celda.Formato));
-            Celda(c, tabla.Abarca(fila, c), celda.Valor, estilo);
+            Celda(c, tabla.Abarca(fila, c), std::move(celda.Valor), estilo);
         }
         ++fila_;
     }
 
-    /// The book's number of the style of a table's cell; there are few, and many cells.
     std::uint16_t EstiloDeCelda(bool destacada, documento::Alineacion lado, std::string formato) {
-        const auto igual = [&](const EstiloUsado& usado) {
-            return usado.Destacada == destacada && usado.Lado == lado && usado.Formato == formato;
-        };
-        const auto usado = std::find_if(usados_.begin(), usados_.end(), igual);
-        if (usado != usados_.end()) return usado->Numero;
+        std::vector<EstilosDeTablas::Usado>& usados = estilos_.Usados;
+        const auto usado = std::find_if(usados.begin(), usados.end(), [&](const auto& conocido) {
+            return conocido.Destacada == destacada && conocido.Lado == lado && conocido.Formato == formato;
+        });
+        if (usado != usados.end()) return usado->Numero;
         xls::EstiloXls estilo = Estilo();
         estilo.Negrita = destacada;
         estilo.Alineacion = LadoEnXls(lado);
@@ -300,8 +318,8 @@ class EscritorDeHoja {
         estilo.Bordes.Superior = destacada ? xls::BordeXls::Fino : xls::BordeXls::Ninguno;
         estilo.Bordes.Color = destacada ? 0 : LineaDatos;
         estilo.Formato = formato;
-        usados_.push_back({destacada, lado, std::move(formato), xls::EstiloDe(libro_, estilo)});
-        return usados_.back().Numero;
+        usados.push_back({destacada, lado, std::move(formato), xls::EstiloDe(libro_, estilo)});
+        return usados.back().Numero;
     }
 
     void PonerValor(std::size_t columna, std::size_t cuantas, const almacen::Valor& valor,
@@ -338,16 +356,9 @@ class EscritorDeHoja {
     }
     void Poner(const documento::SaltoDePagina& /*salto*/) { hoja_.SaltosDePagina.push_back(fila_); }
 
-    struct EstiloUsado {
-        bool Destacada;
-        documento::Alineacion Lado;
-        std::string Formato;
-        std::uint16_t Numero;
-    };
-
     xls::LibroXls& libro_;
+    EstilosDeTablas& estilos_;
     xls::HojaXls& hoja_;
-    std::vector<EstiloUsado> usados_;
     const documento::Documento& documento_;
     std::size_t fila_ = 0;
     bool fijarTitulos_ = false;
@@ -362,12 +373,15 @@ xls::LibroXls LibroDe(const documento::Documento& documento, const Avance& avanc
     xls::LibroXls libro;
     libro.Titulo = documento.Titulo;
     libro.Autor = documento.Autor;
+    EstilosDeTablas estilos;
     for (const documento::Seccion& seccion : documento.Secciones) {
         xls::HojaXls& hoja = libro.Hojas.emplace_back();
         hoja.Nombre = seccion.Nombre;
         hoja.Cuadricula = false;
         hoja.Pagina = PaginaDe(documento.Papel);
-        EscritorDeHoja(libro, hoja, documento).Escribir(seccion, [&] { Avisar(avance, hechos++, total); });
+        EscritorDeHoja(libro, estilos, hoja, documento).Escribir(seccion, [&] {
+            Avisar(avance, hechos++, total);
+        });
     }
     return libro;
 }

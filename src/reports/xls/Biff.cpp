@@ -66,8 +66,12 @@ std::string Cabecera(std::uint16_t tipo, std::size_t largo) {
 }  // namespace
 
 void AgregarRegistro(std::string& flujo, std::uint16_t tipo, const Octetos& datos) {
-    if (datos.Bytes().size() <= DatosPorRegistro) {  // as nearly all are
-        flujo += Cabecera(tipo, datos.Bytes().size());
+    const std::size_t largo = datos.Bytes().size();
+    if (largo <= DatosPorRegistro) {  // as nearly all are
+        const auto octeto = [](std::size_t valor) { return static_cast<char>(valor & 0xFF); };
+        const std::array<char, 4> cabecera{octeto(tipo), octeto(tipo >> 8U), octeto(largo),
+                                           octeto(largo >> 8U)};
+        flujo.append(cabecera.data(), cabecera.size());
         flujo += datos.Bytes();
         return;
     }

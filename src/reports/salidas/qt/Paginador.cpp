@@ -176,7 +176,6 @@ void Paginador::PintarMembrete(Tinta& tinta) const {
 /// The texts of a band beside one another; one that would run into its neighbour is cut short.
 void Paginador::PintarBanda(Tinta& tinta, const documento::BandaDePagina& banda, double base,
                             int pagina) const {
-    const QFontMetricsF metrica(letras_.Chica.Fuente());
     const std::array<std::pair<const std::string*, double>, 3> textos{
         {{&banda.Izquierda, 0.0}, {&banda.Centro, 0.5}, {&banda.Derecha, 1.0}}};
     const auto llenos =
@@ -185,8 +184,9 @@ void Paginador::PintarBanda(Tinta& tinta, const documento::BandaDePagina& banda,
         (util_.width() - 5 * Milimetro * static_cast<double>(llenos - 1)) / static_cast<double>(llenos);
     for (const auto& [texto, lugar] : textos) {
         if (texto->empty()) continue;
-        const QString linea = metrica.elidedText(
-            ConNumeros(*texto, pagina + 1, NumeroPaginas()).replace('\n', ' '), Qt::ElideRight, sitio);
+        QString linea = ConNumeros(*texto, pagina + 1, NumeroPaginas()).replace('\n', ' ');
+        if (letras_.Chica.Ancho(linea) > sitio)
+            linea = QFontMetricsF(letras_.Chica.Fuente()).elidedText(linea, Qt::ElideRight, sitio);
         const double hueco = util_.width() - letras_.Chica.Ancho(linea);
         tinta.Texto({documento_.Papel.MargenIzquierdo * Milimetro + lugar * hueco, base}, linea,
                     letras_.Chica, TinteDeBanda);

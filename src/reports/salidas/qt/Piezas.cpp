@@ -191,7 +191,7 @@ void PiezaImagen::Pintar(Tinta& tinta, const QPointF& esquina, std::size_t, std:
     if (legible_) {
         tinta.Mapa(QRectF(esquina + QPointF((ancho_ - medida_.width()) / 2, 0), medida_), imagen_);
     } else {
-        const double izquierda = (ancho_ - letras_.Normal.Ancho(documento::ImagenIlegible)) / 2;
+        const double izquierda = (ancho_ - letras_.Normal.Ancho(QString(documento::ImagenIlegible))) / 2;
         tinta.Texto(esquina + QPointF(izquierda, letras_.Normal.Ascenso()), documento::ImagenIlegible,
                     letras_.Normal, TinteSuave);
     }
@@ -230,7 +230,7 @@ class PiezaIndice : public Pieza {
             const QString nombre = metrica.elidedText(Q(secciones_[i]), Qt::ElideRight, 0.85 * ancho_);
             const double desdePuntos = letras_.Normal.Ancho(nombre) + 2 * Milimetro;
             const int puntos =
-                static_cast<int>((derecha - desdePuntos - 2 * Milimetro) / letras_.Normal.Ancho(" ."));
+                static_cast<int>((derecha - desdePuntos - 2 * Milimetro) / letras_.Normal.AnchoLlano(" ."));
             tinta.Texto({esquina.x(), base}, nombre, letras_.Normal, Tinte);
             if (puntos > 0) {
                 const QString linea = QString(" .").repeated(puntos);

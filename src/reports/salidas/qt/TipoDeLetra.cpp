@@ -57,10 +57,10 @@ TipoDeLetra::TipoDeLetra(double puntos, bool negrita, bool cursiva)
     }
 }
 
-double TipoDeLetra::Ancho(const QString& texto) const {
+double TipoDeLetra::Ancho(QStringView texto) const {
     double ancho = 0;
     for (const QChar c : texto) {
-        if (c.unicode() >= avances_.size()) return metrica_.horizontalAdvance(texto);
+        if (c.unicode() >= avances_.size()) return metrica_.horizontalAdvance(texto.toString());
         const double avance = avances_[c.unicode()];
         ancho += avance == SinMedir ? metrica_.horizontalAdvance(c) : avance;
     }
@@ -86,9 +86,12 @@ QStringList TipoDeLetra::Lineas(const QString& texto, double ancho) const {
 }
 
 double TipoDeLetra::AnchoDePalabra(const QString& texto) const {
+    const auto esBlanco = [](QChar c) { return c == ' ' || c == '\n'; };
     double ancho = 0;
-    for (const QString& linea : texto.split('\n')) {
-        for (const QString& palabra : linea.split(' ')) ancho = std::max(ancho, Ancho(palabra));
+    for (const auto* palabra = texto.begin(); palabra != texto.end();) {
+        const auto* fin = std::find_if(palabra, texto.end(), esBlanco);
+        ancho = std::max(ancho, Ancho(QStringView(palabra, fin)));
+        palabra = std::find_if_not(fin, texto.end(), esBlanco);
     }
     return ancho;
 }

@@ -4,6 +4,7 @@
 #include <QFontMetricsF>
 #include <QString>
 #include <QStringList>
+#include <QStringView>
 #include <array>
 #include <string_view>
 
@@ -20,7 +21,7 @@ class TipoDeLetra {
     TipoDeLetra(double puntos, bool negrita, bool cursiva = false);
 
     const QFont& Fuente() const { return fuente_; }
-    double Ancho(const QString& texto) const;
+    double Ancho(QStringView texto) const;
     /// The same of a text of printable ASCII alone.
     double AnchoLlano(std::string_view texto) const;
     /// From one line to the next, and from a line's top to its foot line.
