@@ -1,11 +1,10 @@
-// Helical stairs and beams: equilibrium, a chain of bars in space, the bow girder of the textbooks.
+// Helical stairs and beams: equilibrium, least work in space, the bow girder of the textbooks.
 
 #include <cmath>
 #include <random>
 
 #include "Verificacion.h"
 #include "helical/CalcularEscaleraH.h"
-#include "support/HelicePorBarras.h"
 #include "support/HelicePorTrabajo.h"
 
 namespace trabex::verificacion {
@@ -70,35 +69,6 @@ void Equilibrio(Problemas& problemas) {
     }
 }
 
-void Barras(Problemas& problemas) {
-    Problema& barras = problemas.emplace_back(
-        Nombre, "Las seis acciones de cada estación, con dos incógnitas en forma cerrada",
-        "Cadena de barras rectas en el espacio, dos por grado, por el método de las rigideces", 5e-4);
-    const DatosEscaleraH casos[]{EscaleraHNuevaDe("", ""),
-                                 {"", "", 1, 0.2, 3, 1.5, 180, 1200, 10},
-                                 {"", "", 0.3, 0.3, 2, 3, 90, 900, 5},
-                                 {"", "", 1.2, 0.25, 4, 2, 360, 1000, 20},
-                                 {"", "", 1.2, 0.4, 0, 2, 120, 1000, 10},
-                                 {"", "", 2, 0.12, 5, 1.4, 300, 1800, 15}};
-    for (const DatosEscaleraH& e : casos) {
-        const ResultadosEscaleraH r = Calcular(e);
-        const EjeHelice eje(e);
-        constexpr std::size_t porGrado = 2;
-        const auto total = static_cast<std::size_t>(e.Angulo) * porGrado;
-        const HelicePorBarras cadena(e, total);
-        barras.NuevoCaso();
-        for (std::size_t i = 1; i < r.NEst; ++i) {
-            const std::size_t grados = (i - 1) * static_cast<std::size_t>(e.Inter);
-            const Accion a = cadena.En(total / 2 + grados * porGrado);
-            const Accion b = AccionDe(r.TramoInferior[i], eje, Grados(static_cast<double>(grados)));
-            for (std::size_t k = 0; k < 3; ++k) {
-                barras.Comparar(b.F[k], a.F[k], e.W * e.R);
-                barras.Comparar(b.M[k], a.M[k], e.W * e.R * e.R);
-            }
-        }
-    }
-}
-
 void TrabajoMinimo(Problemas& problemas) {
     Problema& trabajo = problemas.emplace_back(
         Nombre, "Las seis acciones de cada estación",
@@ -157,7 +127,6 @@ void VigaBalcon(Problemas& problemas) {
 void VerificarHelices(Problemas& problemas) {
     Equilibrio(problemas);
     TrabajoMinimo(problemas);
-    Barras(problemas);
     VigaBalcon(problemas);
 }
 
