@@ -12,10 +12,9 @@
 #include "support/CuadriculaDePrueba.h"
 #include "support/VolcadoXls.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
 using namespace cuadricula;
-using namespace prueba;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -145,4 +144,4 @@ TEST(Pagina, CabezaMargenesYPieDeLaCuadricula) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

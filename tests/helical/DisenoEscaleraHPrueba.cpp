@@ -8,13 +8,13 @@
 #include "helical/EstacionesHelice.h"
 #include "support/EscalerasTrabajadas.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
 using namespace helices;
 namespace {
 
 TEST(DisenoEscaleraH, EstribosDeUnaSeccion) {
-    for (const auto& caso : prueba::EstribosDeHelices) {
+    for (const auto& caso : EstribosDeHelices) {
         const EstribosHelice estribos =
             EstribosEscalera(caso.Cortante, caso.Torsion, caso.Ancho, caso.Alto, caso.g);
         EXPECT_EQ(estribos.Barra, caso.Barra) << caso.Que;
@@ -24,7 +24,7 @@ TEST(DisenoEscaleraH, EstribosDeUnaSeccion) {
 }
 
 TEST(DisenoEscaleraH, AceroMinimoDeLosaODeViga) {
-    DatosEscaleraH e = prueba::EscaleraHTrabajada();
+    DatosEscaleraH e = EscaleraHTrabajada();
     EXPECT_NEAR(AceroMinimo(e, {}), 90 * 0.002 * 27.5, 1e-12);
     e.B = 0.27;  // deeper than wide: a beam
     EXPECT_NEAR(AceroMinimo(e, {}), 14.0 / 4200 * 27 * 27.5, 1e-12);
@@ -32,9 +32,9 @@ TEST(DisenoEscaleraH, AceroMinimoDeLosaODeViga) {
 
 /// A whole helix, worked apart: every field of every station of both halves.
 TEST(DisenoEscaleraH, HeliceTrabajada) {
-    const DatosEscaleraH d = prueba::EscaleraHTrabajada();
+    const DatosEscaleraH d = EscaleraHTrabajada();
     ResultadosEscaleraH r;
-    CalcularEscaleraH(d, prueba::GeneralesTrabajados, r);
+    CalcularEscaleraH(d, GeneralesTrabajados, r);
     ASSERT_FALSE(r.Error);
     ASSERT_EQ(r.NEst, 14U);
     EXPECT_NEAR(r.L, 9.4073246682, 1e-9);
@@ -44,11 +44,11 @@ TEST(DisenoEscaleraH, HeliceTrabajada) {
     const EstacionesHelice lugares = EstacionesDe(d);
     for (const bool superior : {true, false}) {
         const auto& tramo = superior ? r.TramoSuperior : r.TramoInferior;
-        const std::span<const prueba::EstacionTrabajada> esperadas =
-            superior ? std::span(prueba::EstacionesSuperiores) : std::span(prueba::EstacionesInferiores);
+        const std::span<const EstacionTrabajada> esperadas =
+            superior ? std::span(EstacionesSuperiores) : std::span(EstacionesInferiores);
         for (std::size_t i = 1; i <= r.NEst; ++i) {
             const EstacionEscaleraH& p = tramo[i];
-            const prueba::EstacionTrabajada& e = esperadas[i - 1];
+            const EstacionTrabajada& e = esperadas[i - 1];
             const auto igual = [&](double obtenido, double esperado, const char* campo) {
                 EXPECT_NEAR(obtenido, esperado, 1e-5 + 1e-9 * std::fabs(esperado))
                     << campo << " " << e.Grados << (superior ? " superior" : " inferior");
@@ -75,4 +75,4 @@ TEST(DisenoEscaleraH, HeliceTrabajada) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

@@ -1,26 +1,19 @@
 // The helix's windows through their real widgets.
 
-#include <QAction>
-#include <QClipboard>
-#include <QLabel>
-#include <QTabBar>
-#include <QTest>
-
-#include <gtest/gtest.h>
-
 #include "drawing/qt/WidgetLienzo.h"
 #include "helical/ui/qt/VentanaEscaleraH.h"
 #include "reports/ui/qt/VistaDeHoja.h"
 #include "support/EspacioGuiado.h"
+#include "support/qt/Ventanas.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
 using namespace helices::ui::qt;
 namespace {
 
 using dibujo::qt::WidgetLienzo;
 
-struct VentanasHelice : testing::Test, prueba::ProgramaGuiado {
+struct VentanasHelice : testing::Test, ProgramaGuiado {
     VentanasHelice()
         : ProgramaGuiado(
               "INSERT INTO EscaleraHDatos VALUES ('A', ''), ('B', '');"
@@ -60,7 +53,7 @@ TEST_F(VentanasHelice, LasPaginasSeCopianYNoSonHojasDelDibujo) {
     EXPECT_EQ(ventana.findChild<QLabel*>("Encabezado")->text(), "ESCALERA: B");
     EXPECT_EQ(fuerzas->model()->rowCount(), 0);
     EXPECT_TRUE(ventana.Accion("ID_Anterior")->isEnabled() && !ventana.Accion("ID_Siguiente")->isEnabled());
-    caja.Respuestas = {prueba::RespuestaSi, prueba::RespuestaSi};
+    caja.Respuestas = {RespuestaSi, RespuestaSi};
     ventana.Accion("ID_Eliminar")->trigger();
     ventana.Accion("ID_Eliminar")->trigger();
     for (const char* clave : {"ID_Anterior", "ID_Siguiente", "ID_Editar", "ID_Titulo"})
@@ -90,4 +83,4 @@ TEST_F(VentanasHelice, ElGiroTomaLasFlechasYAvanzaSolo) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

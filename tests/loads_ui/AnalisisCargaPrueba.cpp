@@ -1,19 +1,9 @@
 // The windows of load analyses, answered by a script down to both files.
 
-#include <filesystem>
-
-#include <gtest/gtest.h>
-
 #include "support/CargasDePrueba.h"
 #include "support/VistasDeCarga.h"
 
-namespace trabex {
-
-using namespace almacen;
-using namespace almacen::tablas;
-using namespace cargas;
-using namespace cargas::ui;
-using namespace prueba;
+namespace trabex::prueba {
 namespace {
 
 class CargasGuiadas : public CargasDePrueba {
@@ -236,7 +226,7 @@ TEST_P(VentanasDeCarga, ElReporteMontaElSeleccionadoOTodos) {
     std::filesystem::create_directories(carpetas_.CaminoUsuario / "Trabajo");
     std::filesystem::create_directories(carpetas_.CaminoPrograma / "Imagen");
     CrearBaseDatos(carpetas_.CaminoPrograma / "Imagen" / "Temporal.tbx",
-                   LeerArchivo(prueba::Install() + "/Imagen/Temporal.sql"));
+                   LeerArchivo(Install() + "/Imagen/Temporal.sql"));
     ListaAnalisis lista(aplicacion_, Servicios(), VarianteDe(GetParam()), Azar());
     lista.Abrir(vista_);
     lista.Seleccionar(2);
@@ -446,4 +436,4 @@ INSTANTIATE_TEST_SUITE_P(, VentanasDeCarga, testing::Values(Ambito::Proyecto, Am
                          });
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

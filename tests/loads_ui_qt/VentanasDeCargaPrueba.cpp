@@ -1,30 +1,21 @@
 // What wiring can break: the windows of load analyses with real widgets, down to the file.
 
-#include <QAction>
-#include <QCheckBox>
-#include <QLabel>
-#include <QScrollBar>
-#include <QTest>
-
-#include <gtest/gtest.h>
-
 #include "loads/ui/qt/VentanaAnalisisCargaModificar.h"
 #include "loads/ui/qt/VentanaListaAnalisis.h"
 #include "reports/ui/qt/SalidaDelPrograma.h"
 #include "shell/qt/TablaDatos.h"
 #include "support/CargasDePrueba.h"
+#include "support/qt/Ventanas.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
-using namespace almacen;
-using namespace almacen::tablas;
 using namespace cargas;
 using namespace cargas::ui;
 using namespace cargas::ui::qt;
 using programa::qt::TablaDatos;
 namespace {
 
-class VentanasConWidgets : public prueba::CargasDePrueba {
+class VentanasConWidgets : public CargasDePrueba {
   protected:
     VentanasConWidgets() : entorno_(salida_.Entorno(aplicacion_, Servicios())) {
         aplicacion_.SeparadoresLocales = {".", ","};
@@ -153,4 +144,4 @@ TEST_F(VentanasConWidgets, NadaDeLoEscritoSePierdeAlDesplazarNiAlCerrar) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

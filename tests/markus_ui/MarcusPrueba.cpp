@@ -8,13 +8,11 @@
 #include "markus/ui/Marcus.h"
 #include "support/BaseSqlite.h"
 #include "support/EspacioGuiado.h"
-#include "support/Lugares.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
 using namespace marcus;
 using namespace marcus::ui;
-using namespace prueba;
 namespace {
 
 class NivelesDeMarkus : public testing::Test, public PantallaMarcus {
@@ -233,7 +231,7 @@ TEST_F(NivelesDeMarkus, UnNumeroVacioSeAvisaNoSeSalvaYQuedaNuloEnElReporte) {
     Programa.carpetas.CaminoPrograma = Programa.carpeta.Camino();
     std::filesystem::create_directories(Programa.carpeta / "Imagen");
     CrearBaseDatos(Programa.carpeta / "Imagen" / "Temporal.tbx",
-                   LeerArchivo(prueba::Install() + "/Imagen/Temporal.sql"));
+                   LeerArchivo(Install() + "/Imagen/Temporal.sql"));
     Ventana.SeleccionarNivel(2);
     Ventana.SeleccionarNivel(1);
     EXPECT_NEAR(Pano(1).Reparto.CX, 5.0 / 7, 1e-12);
@@ -256,4 +254,4 @@ TEST_F(NivelesDeMarkus, UnNumeroVacioSeAvisaNoSeSalvaYQuedaNuloEnElReporte) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

@@ -1,23 +1,13 @@
 // The window of Markus levels, clicked and typed into.
 
-#include <QAction>
-#include <QApplication>
-#include <QClipboard>
-#include <QInputDialog>
-#include <QLineEdit>
-#include <QTest>
-#include <QTimer>
-
-#include <gtest/gtest.h>
-
 #include "markus/ui/qt/VentanaMarcus.h"
 #include "shell/qt/TablaDatos.h"
 #include "support/EspacioGuiado.h"
+#include "support/qt/Ventanas.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
 using namespace marcus::ui::qt;
-using namespace prueba;
 namespace {
 
 class VentanaDeMarkus : public testing::Test {
@@ -135,4 +125,4 @@ TEST_F(VentanaDeMarkus, UnBloqueElegidoPreguntaPorSuNumero) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

@@ -8,13 +8,9 @@
 #include "store/Filas.h"
 #include "support/ExportacionDePrueba.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
-using namespace almacen;
-using namespace almacen::tablas;
-using namespace losas;
 using namespace planex::ui;
-using namespace programa;
 namespace {
 
 struct PantallaGuiada : PantallaExportarCAD {
@@ -27,7 +23,7 @@ struct PantallaGuiada : PantallaExportarCAD {
     bool Espera = false, Cerrada = false;
 };
 
-class ExportarCAD_ : public prueba::Exportacion {
+class ExportarCAD_ : public Exportacion {
   protected:
     /// Runs the export of the rows to a file and answers yes to its question, and `otra` to a second one.
     void Exportar(std::set<int> filas, ArchivoCAD opcion, const std::filesystem::path& archivo,
@@ -61,7 +57,7 @@ TEST_F(ExportarCAD_, PreguntaEnSuOrdenYNuncaReemplaza) {
 
     const auto viejo = carpeta / "viejo.cad";
     const auto nuevo = carpeta / "nuevo.cad";
-    prueba::EscribirArchivo(viejo, "ajeno");
+    EscribirArchivo(viejo, "ajeno");
     pantalla.Marcas = {1};
     caja.Respuestas = {RespuestaSi, RespuestaAceptarONo};
     dialogos.Elegidos = {viejo, nuevo};
@@ -71,7 +67,7 @@ TEST_F(ExportarCAD_, PreguntaEnSuOrdenYNuncaReemplaza) {
     EXPECT_EQ(caja.Mensajes[1].Encabezado, "Planex Estructural...");
     EXPECT_EQ(caja.Mensajes[2].Texto,
               "nuevo.cad\n¿Anexar las Losas Seleccionadas a Planex Estructural 2023?");
-    EXPECT_EQ(prueba::LeerArchivo(viejo), "ajeno");
+    EXPECT_EQ(LeerArchivo(viejo), "ajeno");
     EXPECT_EQ(Filas(nuevo, "LosaDatos").NumeroRegistros(), 0);  // the template was copied before the question
     EXPECT_FALSE(pantalla.Cerrada);
     EXPECT_EQ(dialogos.Peticiones[0].Titulo, "Crear Nuevo Proyecto en Planex Estructural 8.0");
@@ -194,16 +190,16 @@ TEST_F(ExportarCAD_, UnFalloAMediasDejaLasFilasAnteriores) {
 
 TEST_F(ExportarCAD_, LoQueNoEsDePlanexQuedaComoEstaba) {
     const auto ajeno = carpeta / "carta.cad";
-    prueba::EscribirArchivo(ajeno, "no es una base de datos");
+    EscribirArchivo(ajeno, "no es una base de datos");
     Exportar({1, 2}, ArchivoCAD::AnexarAExistente, ajeno);
     EXPECT_EQ(caja.Mensajes.size(), 2U);
     EXPECT_EQ(Ultimo().Texto, "¡Se Exportaron ( 2 ) Losa(s) con Exito a Planex Estructural!");
-    EXPECT_EQ(prueba::LeerArchivo(ajeno), "no es una base de datos");
+    EXPECT_EQ(LeerArchivo(ajeno), "no es una base de datos");
 
     // The project itself has tables of the same names: they must not lose their rows.
-    const std::string antes = prueba::LeerArchivo(aplicacion.ArchivoProyecto);
+    const std::string antes = LeerArchivo(aplicacion.ArchivoProyecto);
     Exportar({1, 2}, ArchivoCAD::AnexarAExistente, aplicacion.ArchivoProyecto);
-    EXPECT_EQ(prueba::LeerArchivo(aplicacion.ArchivoProyecto), antes);
+    EXPECT_EQ(LeerArchivo(aplicacion.ArchivoProyecto), antes);
 }
 
 TEST_F(ExportarCAD_, LoQueNoSeConservaSePreguntaYQuedaAlLado) {
@@ -230,10 +226,10 @@ TEST_F(ExportarCAD_, LoQueNoSeConservaSePreguntaYQuedaAlLado) {
 }
 
 TEST_F(ExportarCAD_, UnaComillaEnElNombreRompeSoloLoSuyo) {
-    Losa losa = prueba::LosaContinua({4}, 300);
+    Losa losa = LosaContinua({4}, 300);
     losa.Nombre = "B O'HIGGINS";
     ProyectoAbierto& proyecto = aplicacion.Proyecto;
-    ASSERT_TRUE(prueba::AgregarLosa(proyecto, losa));
+    ASSERT_TRUE(AgregarLosa(proyecto, losa));
     AbrirRecordset(proyecto.ConexionProyecto, proyecto.RegistrosProyecto, ConsultaListaLosas);
     const auto archivo = carpeta / "obra.cad";
     for (const ArchivoCAD opcion : {ArchivoCAD::CrearNuevo, ArchivoCAD::AnexarAExistente}) {
@@ -253,4 +249,4 @@ TEST_F(ExportarCAD_, UnaComillaEnElNombreRompeSoloLoSuyo) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

@@ -1,24 +1,17 @@
 // What wiring can break: real widgets, pressed and typed into without a display.
 
-#include <QAbstractButton>
-#include <QLabel>
-#include <QRadioButton>
-#include <QTableWidget>
-#include <QTest>
-
 #include "reports/planex/ui/qt/VentanaCuadroCAD.h"
 #include "reports/planex/ui/qt/VentanaExportarCAD.h"
 #include "support/ExportacionDePrueba.h"
+#include "support/qt/Ventanas.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
-using namespace almacen;
 using namespace planex::ui;
 using namespace planex::ui::qt;
-using namespace programa;
 namespace {
 
-using VentanasCAD = prueba::Exportacion;
+using VentanasCAD = Exportacion;
 
 TEST_F(VentanasCAD, ElCuadroSoloEligeConSuPrimerBoton) {
     DestinoCAD destino;
@@ -67,4 +60,4 @@ TEST_F(VentanasCAD, LoMarcadoEnLaListaLlegaAlArchivo) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

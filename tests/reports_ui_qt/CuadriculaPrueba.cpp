@@ -1,28 +1,18 @@
 // The preview of a grid and its exports, answered by a script and by real widgets.
 
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QStandardItemModel>
-#include <QTableView>
-#include <QTest>
-
-#include <gtest/gtest.h>
-
 #include "base/Archivos.h"
 #include "reports/salidas/qt/VistaPaginas.h"
 #include "reports/ui/OpcionExportar2.h"
 #include "reports/ui/qt/VentanaVistaPreviaR.h"
 #include "reports/ui/qt/VistaDeTablas.h"
-#include "support/CarpetaTemporal.h"
 #include "support/CuadriculaDePrueba.h"
 #include "support/ImpresorasGuiadas.h"
 #include "support/ProyectoDePrueba.h"
 #include "support/ShellGuiado.h"
+#include "support/qt/Ventanas.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
-using namespace programa;
 using namespace reportes::ui;
 using namespace reportes::ui::qt;
 using namespace salidas::qt;
@@ -36,10 +26,9 @@ struct PantallaGuiada : PantallaOpcionExportar2 {
     void Cerrar() override { Cerrada = true; }
 };
 
-class PreviaDeCuadricula : public testing::Test {
+class PreviaDeCuadricula : public testing::Test, protected Maquina {
   protected:
-    PreviaDeCuadricula()
-        : plataforma(carpeta.Camino()), entorno{aplicacion, estado, motor, impresoras, servicios} {
+    PreviaDeCuadricula() {
         carpetas.CaminoUsuario = carpeta / "usuario";
         aplicacion.Usuario = "ING. NÚÑEZ";
     }
@@ -48,18 +37,11 @@ class PreviaDeCuadricula : public testing::Test {
         OpcionExportar2(entorno, vista, grilla).Aceptar(formato);
         return vista;
     }
-    prueba::CarpetaTemporal carpeta;
-    prueba::PlataformaGuiada plataforma;
-    prueba::CajaGuiada caja;
-    prueba::DialogosGuiados dialogos;
-    Carpetas carpetas;
-    Servicios servicios{caja, dialogos, plataforma, carpetas};
-    prueba::ImpresorasGuiadas impresoras;
-    Aplicacion aplicacion;
+    ImpresorasGuiadas impresoras;
     EstadoSalida estado;
     salidas::MotorReportes motor;
-    EntornoSalida entorno;
-    cuadricula::Cuadricula grilla = prueba::CuadriculaDePrueba(1);
+    EntornoSalida entorno{aplicacion, estado, motor, impresoras, servicios};
+    cuadricula::Cuadricula grilla = CuadriculaDePrueba(1);
 };
 
 TEST_F(PreviaDeCuadricula, CadaFormatoPideEscribeRegistraYPregunta) {
@@ -96,7 +78,7 @@ TEST_F(PreviaDeCuadricula, CadaFormatoPideEscribeRegistraYPregunta) {
         EXPECT_EQ(caja.Mensajes.back().Texto, caso.Pregunta);
         EXPECT_EQ(caja.Mensajes.back().Encabezado, caso.Encabezado);
         EXPECT_EQ(plataforma.Abiertos.back(), archivo);
-        EXPECT_NE(prueba::LeerArchivo(archivo).find(caso.Contiene), std::string::npos) << caso.Nombre;
+        EXPECT_NE(LeerArchivo(archivo).find(caso.Contiene), std::string::npos) << caso.Nombre;
         EXPECT_EQ(vista.Esperas, (std::vector<bool>{true, false}));
         EXPECT_TRUE(vista.Cerrada);
         const std::filesystem::path registro = carpeta / caso.Registro;
@@ -226,4 +208,4 @@ TEST_F(PreviaDeCuadricula, UnaTablaSaleComoEstaEnLaPantalla) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

@@ -1,8 +1,5 @@
 // Reports in every format, as programs of others read them.
 
-#include <QFileInfo>
-#include <QImage>
-#include <QRegularExpression>
 #include <csignal>
 
 #include <sys/resource.h>
@@ -13,19 +10,14 @@
 #include "reports/montaje/qt/SuperficieQt.h"
 #include "reports/salidas/ImagenPng.h"
 #include "store/Recordset.h"
+#include "support/qt/Ventanas.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
-using namespace almacen;
 using namespace documento;
-using namespace losas;
-using namespace salidas;
 namespace {
 
-using prueba::Correr;
-using prueba::Ruta;
-
-class Formatos : public prueba::ReportePreparado {
+class Formatos : public ReportePreparado {
   protected:
     static QString Corrido(QString texto) { return texto.replace(QRegularExpression("\\s+"), " "); }
 
@@ -35,7 +27,7 @@ class Formatos : public prueba::ReportePreparado {
     QString TextoHtml(Reporte& reporte) {
         const auto archivo = Exportar(reporte, FormatoHtml, "r.htm");
         EXPECT_EQ(Correr("tidy", {"-q", "-e", "-utf8", Ruta(archivo)}), "");
-        QString texto = QString::fromStdString(prueba::LeerArchivo(archivo));
+        QString texto = QString::fromStdString(LeerArchivo(archivo));
         texto.remove(QRegularExpression("<style.*</style>", QRegularExpression::DotMatchesEverythingOption));
         texto.replace(QRegularExpression("<[^>]*>"), " ");
         return texto.replace("&lt;", "<").replace("&gt;", ">").replace("&quot;", "\"").replace("&amp;", "&");
@@ -46,7 +38,7 @@ class Formatos : public prueba::ReportePreparado {
 };
 
 TEST_F(Formatos, LaCabeceraSeRepiteYLasPaginasSeCuentan) {
-    Losa larga = prueba::LosaUniforme(80, 4.85, 290, 90);
+    Losa larga = LosaUniforme(80, 4.85, 290, 90);
     larga.Nombre =
         "Losa larguísima del entrepiso nº 2, ala norte, entre los ejes A’ y Ñ, junto al patio de luces";
     Preparar({larga});
@@ -67,7 +59,7 @@ TEST_F(Formatos, LaCabeceraSeRepiteYLasPaginasSeCuentan) {
 }
 
 TEST_F(Formatos, ElPdfLlevaSusLetrasYSuTitulo) {
-    Preparar({prueba::LosaUniforme(3, 5, 300, 100)});
+    Preparar({LosaUniforme(3, 5, 300, 100)});
     for (const auto& [pagina, medida] :
          {std::pair("A4 apaisada", "841.89 x 595.276"), std::pair("A4", "595.276 x 841.89"),
           std::pair("Carta apaisada", "792 x 612"), std::pair("Carta", "612 x 792")}) {
@@ -137,7 +129,7 @@ TEST_F(Formatos, LosGraficosLleganPuntoPorPunto) {
         ASSERT_TRUE(graficos.Actualizar());
     }
     Reporte reporte = Abrir("Grafico.rpt");
-    const QString html = QString::fromStdString(prueba::LeerArchivo(Exportar(reporte, FormatoHtml, "g.htm")));
+    const QString html = QString::fromStdString(LeerArchivo(Exportar(reporte, FormatoHtml, "g.htm")));
     auto imagenes = QRegularExpression("base64,([^\"]*)\"").globalMatch(html);
     for (int i = 0; i < 2; ++i) {
         ASSERT_TRUE(imagenes.hasNext());
@@ -149,7 +141,7 @@ TEST_F(Formatos, LosGraficosLleganPuntoPorPunto) {
     ComprobarPixeles(QImage(Ruta(carpeta / "imagen-000.png")));
     ComprobarPixeles(QImage(Ruta(carpeta / "imagen-001.png")));
     EXPECT_EQ(Correr("pdftotext", {pdf, "-"}).count("L'1: GEOMETRÍA DE LA LOSA"), 3);
-    const QString rtf = QString::fromStdString(prueba::LeerArchivo(Exportar(reporte, FormatoRtf, "g.rtf")));
+    const QString rtf = QString::fromStdString(LeerArchivo(Exportar(reporte, FormatoRtf, "g.rtf")));
     QString cifras = rtf.mid(rtf.indexOf("89504e47"));
     ComprobarPixeles(QImage::fromData(QByteArray::fromHex(cifras.left(cifras.indexOf('}')).toLatin1())));
 }
@@ -198,23 +190,22 @@ TEST_F(Formatos, UnaFotoDeArchivoVaTalCual) {
     QImage foto(64, 48, QImage::Format_RGB32);
     foto.fill(QColor(10, 120, 200));
     ASSERT_TRUE(foto.save(Ruta(carpeta / "foto ñ.jpg"), "JPG", 90));
-    const std::string bytes = prueba::LeerArchivo(carpeta / "foto ñ.jpg");
+    const std::string bytes = LeerArchivo(carpeta / "foto ñ.jpg");
     Reporte reporte =
         Abrir("titulo \"t\"\nimagen \"foto ñ.jpg\" ancho 50 pie \"p\"\nimagen \"no está.png\"\n");
-    const QString html = QString::fromStdString(prueba::LeerArchivo(Exportar(reporte, FormatoHtml, "f.htm")));
+    const QString html = QString::fromStdString(LeerArchivo(Exportar(reporte, FormatoHtml, "f.htm")));
     EXPECT_TRUE(html.contains("data:image/jpeg;base64," + QByteArray::fromStdString(bytes).toBase64()));
     EXPECT_EQ(html.count(ImagenIlegible), 1);
-    EXPECT_TRUE(
-        prueba::LeerArchivo(Exportar(reporte, FormatoRtf, "f.rtf")).find("\\jpegblip\\picw64\\pich48") !=
-        std::string::npos);
+    EXPECT_TRUE(LeerArchivo(Exportar(reporte, FormatoRtf, "f.rtf")).find("\\jpegblip\\picw64\\pich48") !=
+                std::string::npos);
     for (const auto& [codigo, nombre] : {std::pair(FormatoXls, "f.xls"), std::pair(FormatoPdf, "f.pdf")})
-        EXPECT_NE(prueba::LeerArchivo(Exportar(reporte, codigo, nombre)).find(bytes.substr(2, 400)),
+        EXPECT_NE(LeerArchivo(Exportar(reporte, codigo, nombre)).find(bytes.substr(2, 400)),
                   std::string::npos);
     EXPECT_TRUE(Correr("pdfimages", {"-list", Ruta(carpeta / "f.pdf")}).contains("jpeg"));
 }
 
 TEST_F(Formatos, LoQueSeCancelaDejaLoQueHabia) {
-    Preparar({prueba::LosaUniforme(40, 5, 300, 100)});
+    Preparar({LosaUniforme(40, 5, 300, 100)});
     Reporte reporte = Abrir("ResultadosLosa.rpt");
     for (const int codigo : {FormatoPdf, FormatoHtml, FormatoRtf, FormatoXls}) {
         EscribirArchivo(carpeta / "viejo", "viejo");
@@ -223,7 +214,7 @@ TEST_F(Formatos, LoQueSeCancelaDejaLoQueHabia) {
         EXPECT_THROW(motor.Exportar(reporte.Contenido(), codigo, carpeta / "viejo", seguir),
                      TrabajoCancelado);
         EXPECT_GT(ultima, 0);
-        EXPECT_EQ(prueba::LeerArchivo(carpeta / "viejo"), "viejo");
+        EXPECT_EQ(LeerArchivo(carpeta / "viejo"), "viejo");
         EXPECT_EQ(ArchivosDe(carpeta.Camino()).size(), 2U) << codigo;  // no half file, and the database
     }
 }
@@ -245,7 +236,7 @@ TEST(ImagenPng, UnMapaRecortadoOAlteradoNoSeLee) {
 }
 
 TEST_F(Formatos, LosTextosHostilesSalenComoEstan) {
-    Losa losa = prueba::LosaUniforme(2, 5, 300, 100);
+    Losa losa = LosaUniforme(2, 5, 300, 100);
     losa.Nombre = "L'1 <b>&amp;\\par{}\" \tΩ≤ {{pagina}}";
     losa.Ejes[1].Eje = "b{\\";
     losa.Ejes[2].Eje = "<i>";
@@ -275,12 +266,12 @@ class DiscoLleno {
 };
 
 TEST_F(Formatos, SinDiscoOSinPermisoQuedaElReporteAnterior) {
-    Preparar({prueba::LosaUniforme(8, 5, 300, 100)});
+    Preparar({LosaUniforme(8, 5, 300, 100)});
     Reporte reporte = Abrir("ResultadosLosa.rpt");
     reporte.Contenido();
     for (const int codigo : {FormatoPdf, FormatoHtml, FormatoRtf, FormatoXls}) {
         const std::filesystem::path destino = carpeta / "anterior";
-        prueba::EscribirArchivo(destino, "anterior");
+        EscribirArchivo(destino, "anterior");
         int error = 0;
         try {
             const DiscoLleno lleno(6000);
@@ -289,7 +280,7 @@ TEST_F(Formatos, SinDiscoOSinPermisoQuedaElReporteAnterior) {
             error = e.Codigo();
         }
         EXPECT_EQ(error, 61) << codigo;
-        EXPECT_EQ(prueba::LeerArchivo(destino), "anterior");
+        EXPECT_EQ(LeerArchivo(destino), "anterior");
         std::filesystem::remove(destino);
         std::filesystem::create_directories(destino / "ocupada");
         EXPECT_THROW(Exportar(reporte, codigo, "anterior"), ErrorEjecucion);
@@ -301,4 +292,4 @@ TEST_F(Formatos, SinDiscoOSinPermisoQuedaElReporteAnterior) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

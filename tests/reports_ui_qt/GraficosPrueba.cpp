@@ -1,11 +1,4 @@
-#include <QAbstractButton>
-#include <QCheckBox>
-#include <QImage>
-#include <QPushButton>
-#include <QTest>
 #include <cmath>
-
-#include <gtest/gtest.h>
 
 #include "drawing/losa/GraficoLosa.h"
 #include "drawing/qt/ImagenDeHoja.h"
@@ -14,33 +7,21 @@
 #include "reports/ui/qt/VentanaExportarGrafico.h"
 #include "reports/ui/qt/VentanaOpcionesReporte.h"
 #include "slab/CalcularLosa.h"
-#include "support/CarpetaTemporal.h"
 #include "support/LosasDePrueba.h"
 #include "support/ProyectoDePrueba.h"
 #include "support/ShellGuiado.h"
+#include "support/qt/Ventanas.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
-using namespace almacen;
 using namespace dibujo;
 using namespace dibujo::losa;
 using namespace dibujo::qt;
-using namespace losas;
 using namespace montaje;
 using namespace montaje::qt;
-using namespace programa;
 using namespace reportes::ui;
 using namespace reportes::ui::qt;
 namespace {
-
-using namespace prueba;
-
-void Pulsar(QWidget& ventana, const QString& texto) {
-    for (auto* boton : ventana.findChildren<QAbstractButton*>()) {
-        if (boton->text().remove('&') == texto) return boton->click();
-    }
-    ADD_FAILURE() << "no button " << texto.toStdString();
-}
 
 /// A slab with its results, and the sheet on which it is drawn.
 struct LosaDibujada {
@@ -106,27 +87,27 @@ TEST(OpcionesReporte, LoElegidoQuedaAlAceptarYSoloEntonces) {
     {
         VentanaOpcionImpreLosas ventana(estado, {}, nullptr);
         Pulsar(ventana, "Todas las Losas del Proyecto");
-        Pulsar(ventana, " Cancelar ");
+        Pulsar(ventana, "Cancelar");
         EXPECT_FALSE(ventana.Aceptado());
         EXPECT_EQ(estado.OpcionExportarLosas, 0);
     }
     VentanaOpcionImpreLosas ventana(estado, {}, nullptr);
     Pulsar(ventana, "Todas las Losas del Proyecto");
     ventana.findChild<QCheckBox*>()->setChecked(true);
-    Pulsar(ventana, " Aceptar ");
+    Pulsar(ventana, "Aceptar");
     EXPECT_TRUE(ventana.Aceptado());
     EXPECT_EQ(estado.OpcionExportarLosas, 1);
     EXPECT_TRUE(estado.ExportarDesplazamientos);
 
     VentanaOpcionGrafico losas(OpcionGraficoE, estado, {}, nullptr);
     Pulsar(losas, "Reacciones sobre las Vigas");
-    Pulsar(losas, " Aceptar ");
+    Pulsar(losas, "Aceptar");
     EXPECT_EQ(estado.OpcionGrafico, 5);
     VentanaOpcionGrafico escaleras(OpcionGraficoET, estado, {}, nullptr);
     Pulsar(escaleras, "Solicitaciones de las Escaleras");
     Pulsar(escaleras, "Vertical");
     Pulsar(escaleras, "A4");
-    Pulsar(escaleras, " Aceptar ");
+    Pulsar(escaleras, "Aceptar");
     EXPECT_EQ(estado.OpcionGrafico, 3);
     EXPECT_TRUE(estado.Papel.A4 && !estado.Papel.Apaisado);
 }
@@ -156,17 +137,17 @@ TEST(ExportarGrafico, SalvaLaImagenConSuZoomYRecuerdaLaCarpeta) {
             nullptr);
         ventana.show();
         ventana.findChild<QPushButton*>("Carpeta")->click();
-        Pulsar(ventana, " Zoom Más ");
-        Pulsar(ventana, " Zoom Más ");
-        Pulsar(ventana, " Exportar ");
+        Pulsar(ventana, "Zoom Más");
+        Pulsar(ventana, "Zoom Más");
+        Pulsar(ventana, "Exportar");
         EXPECT_DOUBLE_EQ(zoom, 1.2);
         Pulsar(ventana, "Imagen en Formato (JPG)");
-        Pulsar(ventana, " Exportar ");
-        Pulsar(ventana, " Exportar ");
+        Pulsar(ventana, "Exportar");
+        Pulsar(ventana, "Exportar");
         ventana.findChild<QPushButton*>("Carpeta")->click();
         for (const char* formato : {"Dibujo Vectorial (SVG)", "Dibujo para Programas de CAD (DXF)"}) {
             Pulsar(ventana, formato);
-            Pulsar(ventana, " Exportar ");
+            Pulsar(ventana, "Exportar");
         }
     }
     ASSERT_EQ(dialogos.Peticiones.size(), 5U);
@@ -209,4 +190,4 @@ TEST(PanelProgreso, SeVeMientrasDuraYNadaLoCierra) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

@@ -2,15 +2,12 @@
 
 #include "ReportePreparado.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
-using namespace almacen;
 using namespace documento;
-using namespace losas;
-using namespace salidas;
 namespace {
 
-class Disenos : public prueba::ReportePreparado {
+class Disenos : public ReportePreparado {
   protected:
     std::string Falta(const std::string& diseno) {
         try {
@@ -32,8 +29,8 @@ class Disenos : public prueba::ReportePreparado {
         return hallados;
     }
     static std::vector<Losa> DosLosas() {
-        Losa a = prueba::LosaContinua({4, 5, 6}, 300, 100);
-        Losa b = prueba::LosaContinua({7, 8}, 300, 100);
+        Losa a = LosaContinua({4, 5, 6}, 300, 100);
+        Losa b = LosaContinua({7, 8}, 300, 100);
         a.Nombre = "B'1";
         b.Nombre = "A 2";
         b.OpcionMaciza = true;
@@ -114,9 +111,9 @@ TEST_F(Disenos, LasFilasSeEnlazanOrdenanYTotalizan) {
 
 TEST_F(Disenos, UnSubreporteLeeLaBaseDelPrograma) {
     Preparar(DosLosas());
-    prueba::EscribirArchivo(carpeta / "dentro.rpt",
-                            "base \"C:\\\\viejo\\\\Temporal.mdb\"\n"
-                            "tabla LosaEjes con Nombre\ncolumna \"Eje\" Eje\nfin\n");
+    EscribirArchivo(carpeta / "dentro.rpt",
+                    "base \"C:\\\\viejo\\\\Temporal.mdb\"\n"
+                    "tabla LosaEjes con Nombre\ncolumna \"Eje\" Eje\nfin\n");
     Reporte reporte = Abrir("base \"otra.mdb\"\ngrupo LosaDatos\nsubreporte \"dentro.rpt\"\nfin\n");
     EXPECT_EQ(reporte.Subreportes().at(0).Tablas.at(0).Ubicacion, base);
     const auto tablas = Bloques<Tabla>(reporte.Contenido());
@@ -130,8 +127,7 @@ TEST_F(Disenos, SinDatosElReporteSaleVacio) {
         Reporte reporte = Abrir(diseno);  // there is no database
         EXPECT_TRUE(Bloques<Tabla>(reporte.Contenido()).empty());
         Exportar(reporte, FormatoPdf, "vacio.pdf");
-        EXPECT_TRUE(
-            prueba::Correr("pdfinfo", {prueba::Ruta(carpeta / "vacio.pdf")}).contains("Pages:           1"));
+        EXPECT_TRUE(Correr("pdfinfo", {Ruta(carpeta / "vacio.pdf")}).contains("Pages:           1"));
     }
     Losa sinTramos;
     sinTramos.Nombre = "VACÍA";
@@ -146,4 +142,4 @@ TEST_F(Disenos, SinDatosElReporteSaleVacio) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

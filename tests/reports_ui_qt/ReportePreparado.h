@@ -2,8 +2,6 @@
 
 #include <QProcess>
 #include <QString>
-#include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -11,8 +9,7 @@
 #include "reports/salidas/MotorReportes.h"
 #include "reports/salidas/qt/EscritorPdf.h"
 #include "support/CarpetaTemporal.h"
-#include "support/Lugares.h"
-#include "support/ProyectoDePrueba.h"
+#include "support/ShellGuiado.h"
 #include "support/TemporalDePrueba.h"
 
 namespace trabex::prueba {
@@ -36,7 +33,7 @@ inline QString Ruta(const std::filesystem::path& camino) {
 }
 
 /// A scratch database with the results of some slabs, and layouts that read it.
-class ReportePreparado : public testing::Test {
+class ReportePreparado : public testing::Test, protected Maquina {
   protected:
     ReportePreparado() { motor.Registrar(FormatoPdf, EscribirPdf); }
 
@@ -59,7 +56,6 @@ class ReportePreparado : public testing::Test {
         return destino;
     }
 
-    CarpetaTemporal carpeta;
     std::filesystem::path base = carpeta / "Temporal.mdb";
     MotorReportes motor;
 };

@@ -1,16 +1,6 @@
 // The output dialogs, the viewer and the printers, answered by a script and by real widgets.
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QPrinter>
-#include <QRadioButton>
-#include <QSpinBox>
-#include <QTest>
-#include <QTimer>
 
 #include "ReportePreparado.h"
 #include "reports/salidas/qt/VistaPaginas.h"
@@ -21,28 +11,21 @@
 #include "reports/ui/qt/VentanaSeleccionarImpresora.h"
 #include "reports/ui/qt/VentanaVerReportes.h"
 #include "slab/ui/qt/ImprimirGraficos.h"
-#include "support/CarpetaTemporal.h"
 #include "support/ImpresorasGuiadas.h"
 #include "support/LosasDePrueba.h"
-#include "support/Lugares.h"
 #include "support/ProyectoDePrueba.h"
 #include "support/ShellGuiado.h"
+#include "support/qt/Ventanas.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
-using namespace almacen;
-using namespace almacen::tablas;
 using namespace dibujo::losa;
 using namespace documento;
-using namespace losas;
 using namespace losas::ui::qt;
 using namespace montaje;
-using namespace programa;
 using namespace programa::qt;
 using namespace reportes::ui;
 using namespace reportes::ui::qt;
-using namespace salidas;
-using namespace salidas::qt;
 namespace {
 
 struct PantallaGuiada : PantallaSalidaReporte {
@@ -54,29 +37,22 @@ struct PantallaGuiada : PantallaSalidaReporte {
     void Cerrar() override { Cerrada = true; }
 };
 
-class SalidasDeReporte : public prueba::ReportePreparado {
+class SalidasDeReporte : public ReportePreparado {
   protected:
-    SalidasDeReporte()
-        : plataforma(carpeta.Camino()), entorno{aplicacion, estado, motor, impresoras, servicios} {
+    SalidasDeReporte() {
         carpetas.CaminoPrograma = carpeta / "programa";
         carpetas.CaminoUsuario = carpeta / "usuario";
         std::filesystem::create_directories(carpetas.CaminoUsuario / "Trabajo");
         std::filesystem::create_directories(carpetas.ReportesExportados());
-        std::filesystem::copy(std::filesystem::path(prueba::Install()) / "Reportes",
+        std::filesystem::copy(std::filesystem::path(Install()) / "Reportes",
                               carpetas.CaminoPrograma / "Reportes");
         base = carpetas.CaminoUsuario / "Trabajo" / "Temporal.mdb";
-        Preparar({prueba::LosaUniforme(30, 5, 300, 100)});
+        Preparar({LosaUniforme(30, 5, 300, 100)});
         estado.ReporteActual = 4;
     }
-    prueba::PlataformaGuiada plataforma;
-    prueba::CajaGuiada caja;
-    prueba::DialogosGuiados dialogos;
-    Carpetas carpetas;
-    Servicios servicios{caja, dialogos, plataforma, carpetas};
-    prueba::ImpresorasGuiadas impresoras;
-    Aplicacion aplicacion;
+    ImpresorasGuiadas impresoras;
     EstadoSalida estado;
-    EntornoSalida entorno;
+    EntornoSalida entorno{aplicacion, estado, motor, impresoras, servicios};
     PantallaGuiada vista;
 };
 
@@ -87,7 +63,7 @@ TEST_F(SalidasDeReporte, CadaArchivoSePideSeEscribeYSeOfreceAbrir) {
     for (const std::uint8_t salida : std::array<std::uint8_t, 3>{1, 2, 4}) {
         ImpreReport operaciones(entorno, vista);
         const std::filesystem::path archivo = carpeta / ("salida " + std::to_string(salida));
-        prueba::EscribirArchivo(archivo, "anterior");
+        EscribirArchivo(archivo, "anterior");
         dialogos.Elegidos = {archivo};
         caja.Respuestas = {salida == 2 ? RespuestaAceptarONo : RespuestaSi};
         operaciones.Aceptar(salida);
@@ -118,7 +94,7 @@ TEST_F(SalidasDeReporte, CancelarUnErrorOUnReporteDesconocidoDejanLaVentana) {
     }
     EXPECT_TRUE(caja.Mensajes.empty());
     estado.ReporteActual = 4;
-    prueba::EscribirArchivo(carpetas.CaminoPrograma / "Reportes" / "ResultadosLosa.rpt", "nada\n");
+    EscribirArchivo(carpetas.CaminoPrograma / "Reportes" / "ResultadosLosa.rpt", "nada\n");
     operaciones.Aceptar(SalidaPantalla);
     ASSERT_EQ(caja.Mensajes.size(), 1U);
     EXPECT_EQ(caja.Mensajes[0].Encabezado, "Error en el Reporte...");
@@ -143,14 +119,6 @@ TEST_F(SalidasDeReporte, LosGraficosVuelvenALaPantalla) {
     impresoras.Nombres.clear();
     tablas.Aceptar(SalidaImpresora);
     EXPECT_EQ(caja.Mensajes.back().Texto, "No hay impresoras instaladas en el sistema.");
-}
-
-QAbstractButton* BotonDe(QWidget& ventana, const QString& texto) {
-    for (QAbstractButton* boton : ventana.findChildren<QAbstractButton*>()) {
-        if (boton->text().trimmed() == texto) return boton;
-    }
-    ADD_FAILURE() << texto.toStdString();
-    return nullptr;
 }
 
 TEST_F(SalidasDeReporte, ElDialogoMandaLaOpcionMarcada) {
@@ -219,16 +187,16 @@ TEST_F(SalidasDeReporte, LoImpresoEsLoMismoQueElPdf) {
     impresora.setPageSize(QPageSize(QPageSize::Letter));
     const auto paginas = [](const QString& pdf) {
         QStringList textos;
-        for (const QString& pagina : prueba::Correr("pdftotext", {"-layout", pdf, "-"}).split('\f'))
+        for (const QString& pagina : Correr("pdftotext", {"-layout", pdf, "-"}).split('\f'))
             textos.append(pagina.simplified());
         return textos;
     };
     const auto impreso = [&] {
-        impresora.setOutputFileName(prueba::Ruta(carpeta / "impreso.pdf"));
+        impresora.setOutputFileName(Ruta(carpeta / "impreso.pdf"));
         ImprimirPaginas(reporte.Contenido(), impresora);
-        return paginas(prueba::Ruta(carpeta / "impreso.pdf"));
+        return paginas(Ruta(carpeta / "impreso.pdf"));
     };
-    const QStringList esperado = paginas(prueba::Ruta(Exportar(reporte, FormatoPdf, "exportado.pdf")));
+    const QStringList esperado = paginas(Ruta(Exportar(reporte, FormatoPdf, "exportado.pdf")));
     EXPECT_EQ(impreso(), esperado);
     impresora.setFromTo(2, 2);
     EXPECT_EQ(impreso(), (QStringList{esperado[1], ""}));
@@ -251,16 +219,16 @@ TEST_F(SalidasDeReporte, EscapeCancelaElMontaje) {
 }
 
 TEST(ImprimirGraficos, CadaDibujoVaEnSuPaginaConSusDatos) {
-    const prueba::CarpetaTemporal carpeta;
+    const CarpetaTemporal carpeta;
     const auto archivo = carpeta / "obra.los";
-    ASSERT_TRUE(CrearBaseDatos(archivo, prueba::EsquemaDeProyecto()));
+    ASSERT_TRUE(CrearBaseDatos(archivo, EsquemaDeProyecto()));
     ProyectoAbierto proyecto;
-    ASSERT_TRUE(prueba::Abrir(proyecto, archivo));
+    ASSERT_TRUE(Abrir(proyecto, archivo));
     for (const auto& [nombre, tramos] :
          {std::pair{"LOSA A", 2U}, {"LOSA B", 12U}}) {  // the second on two pages
-        Losa losa = prueba::LosaUniforme(tramos, 5, 300, 100);
+        Losa losa = LosaUniforme(tramos, 5, 300, 100);
         losa.Nombre = nombre;
-        ASSERT_TRUE(prueba::AgregarLosa(proyecto, losa));
+        ASSERT_TRUE(AgregarLosa(proyecto, losa));
     }
     DatosDelProyecto datos;
     datos.Proyecto = "LA CEIBA";
@@ -271,12 +239,11 @@ TEST(ImprimirGraficos, CadaDibujoVaEnSuPaginaConSusDatos) {
         estado.OpcionGrafico = opcion;
         QPrinter impresora(QPrinter::HighResolution);
         impresora.setOutputFormat(QPrinter::PdfFormat);
-        impresora.setOutputFileName(prueba::Ruta(carpeta / "dibujos.pdf"));
+        impresora.setOutputFileName(Ruta(carpeta / "dibujos.pdf"));
         ImprimirDibujos(impresora, [&](dibujo::qt::PapelQt& papel, const Avance&) {
             DibujarGraficosLosas(papel, {proyecto, datos, generales, 2}, pantalla, "MARÍA", estado);
         });
-        const QString texto =
-            prueba::Correr("pdftotext", {"-layout", prueba::Ruta(carpeta / "dibujos.pdf"), "-"});
+        const QString texto = Correr("pdftotext", {"-layout", Ruta(carpeta / "dibujos.pdf"), "-"});
         EXPECT_TRUE(texto.contains("PROYECTO: LA CEIBA") && texto.contains("Usuario: MARÍA"));
         return texto.split('\f', Qt::SkipEmptyParts);
     };
@@ -314,4 +281,4 @@ TEST_F(SalidasDeReporte, LaImpresoraSeMarcaYCambiaHastaElFinal) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

@@ -5,12 +5,10 @@
 #include "reports/salidas/ImagenPng.h"
 #include "support/VolcadoXls.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
-using namespace almacen;
 using namespace documento;
 using namespace salidas;
-using namespace xls;
 namespace {
 
 using testing::Contains;
@@ -40,7 +38,7 @@ Documento DocumentoDePrueba() {
 }
 
 TEST(EscritorXls, NumerosYFechasSiguenSiendoloConSusFormatos) {
-    const auto lineas = prueba::VolcarXls(LibroDe(DocumentoDePrueba()));
+    const auto lineas = VolcarXls(LibroDe(DocumentoDePrueba()));
     EXPECT_THAT(lineas, Contains(StartsWith("1,2 250.0 [0\" kgf/cm²\",Arial,9,b,h1")));
     EXPECT_THAT(lineas, Contains(StartsWith("2,2 'Maciza'")));
     EXPECT_THAT(lineas, Contains(StartsWith("3,2 datetime.date(2024, 2, 29) [dd/mm/yyyy")));
@@ -65,7 +63,7 @@ TEST(EscritorXls, LosGraficosSeGuardanComoImagenesYDejanSuSitio) {
     EXPECT_THAT(imagen.Leer(), StartsWith("\x89PNG"));
     EXPECT_NEAR(imagen.Ancho, 2 * imagen.Alto, 0.01);
     EXPECT_NEAR(imagen.Ancho, 100 * 72 / 25.4, 0.01);
-    const auto lineas = prueba::VolcarXls(libro);
+    const auto lineas = VolcarXls(libro);
     EXPECT_THAT(lineas, Contains(StartsWith("13,0 'L1: GEOMETRÍA'")));
     EXPECT_THAT(lineas, Contains(StartsWith("14,0 '" + std::string(ImagenIlegible) + "'")));
 }
@@ -102,4 +100,4 @@ TEST(ImagenDePaleta, LaCompresionDevuelveLosMismosPixeles) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

@@ -4,38 +4,21 @@
 #include "shell/Arranque.h"
 #include "shell/Compactar1.h"
 #include "shell/ConfigurarPrograma.h"
-#include "support/CarpetaTemporal.h"
 #include "support/LosasDePrueba.h"
 #include "support/ProyectoDePrueba.h"
 #include "support/ShellGuiado.h"
 
-namespace trabex {
-
-using namespace almacen;
-using namespace almacen::tablas;
-using namespace losas;
-using namespace programa;
+namespace trabex::prueba {
 namespace {
 
-using prueba::EscribirArchivo;
-using prueba::LeerArchivo;
-
-class Arranque : public testing::Test {
+class Arranque : public testing::Test, protected Maquina {
   protected:
-    Arranque() : plataforma(carpeta.Camino()) {
+    Arranque() {
         for (const char* nombre : {"Ejemplo Demostrativo.tbx", "TapizTBX.jpg", "AnalisisCarga.tbx"})
             EscribirArchivo(carpeta / "programa" / "Imagen" / nombre, std::string("entregado: ") + nombre);
     }
     void Arrancar() { PrepararArranque(plataforma, carpetas, aplicacion); }
     std::filesystem::path Usuario(const std::string& camino) const { return carpetas.CaminoUsuario / camino; }
-
-    prueba::CarpetaTemporal carpeta;
-    prueba::PlataformaGuiada plataforma;
-    prueba::CajaGuiada caja;
-    prueba::DialogosGuiados dialogos;
-    Carpetas carpetas;
-    Servicios servicios{caja, dialogos, plataforma, carpetas};
-    Aplicacion aplicacion;
 };
 
 TEST_F(Arranque, HaceLoQueFaltaYRespetaLoQueEsta) {
@@ -139,11 +122,11 @@ TEST_F(Arranque, RepararRehaceCadaArchivoElegido) {
     Arrancar();
     const auto proyectos = Usuario("Proyectos");
     for (const char* nombre : {"b.los", "Á.LOS"}) {
-        ASSERT_TRUE(CrearBaseDatos(proyectos / nombre, prueba::EsquemaDeProyecto()));
+        ASSERT_TRUE(CrearBaseDatos(proyectos / nombre, EsquemaDeProyecto()));
         ProyectoAbierto proyecto;
-        prueba::Abrir(proyecto, proyectos / nombre);
-        Losa losa = prueba::LosaContinua({4, 5}, 100);
-        ASSERT_TRUE(prueba::AgregarLosa(proyecto, losa));
+        Abrir(proyecto, proyectos / nombre);
+        Losa losa = LosaContinua({4, 5}, 100);
+        ASSERT_TRUE(AgregarLosa(proyecto, losa));
     }
     EscribirArchivo(Usuario("Temporales/resto.txt"), "x");
     EXPECT_EQ(ListarProyectos(proyectos),
@@ -162,7 +145,7 @@ TEST_F(Arranque, RepararRehaceCadaArchivoElegido) {
     EXPECT_FALSE(pantalla.Espera || pantalla.Progreso ||
                  std::filesystem::exists(Usuario("Temporales/resto.txt")));
     ProyectoAbierto proyecto;
-    ASSERT_TRUE(prueba::Abrir(proyecto, proyectos / "b.los"));
+    ASSERT_TRUE(Abrir(proyecto, proyectos / "b.los"));
     EXPECT_EQ(proyecto.RegistrosProyecto.NumeroRegistros(), 1);
     proyecto.ConexionProyecto.Cerrar();
 
@@ -178,7 +161,7 @@ TEST_F(Arranque, RepararRehaceCadaArchivoElegido) {
 
     // Another running program has it open: it stays.
     std::filesystem::permissions(proyectos / "b.los", std::filesystem::perms(0644));
-    ASSERT_TRUE(prueba::Abrir(proyecto, proyectos / "b.los"));
+    ASSERT_TRUE(Abrir(proyecto, proyectos / "b.los"));
     reparacion.Aceptar(proyectos, {"b.los"});
     EXPECT_EQ(caja.Mensajes.back().Texto, "Número de Error: 70\nPermiso denegado");
     EXPECT_EQ(LeerArchivo(proyectos / "b.los"), antes);
@@ -186,7 +169,7 @@ TEST_F(Arranque, RepararRehaceCadaArchivoElegido) {
 
     // Of a damaged one the rest comes back, what was lost is told, and the trash has the file as it was.
     plataforma.HayPapelera = true;
-    CrearBaseDatos(carpeta.Camino() / "programa" / "Imagen" / "LosaImagen.tbx", prueba::EsquemaDeProyecto());
+    CrearBaseDatos(carpeta.Camino() / "programa" / "Imagen" / "LosaImagen.tbx", EsquemaDeProyecto());
     std::string bytes = antes;
     std::fill_n(bytes.begin(), 4096, '\0');  // with it the catalogue
     EscribirArchivo(proyectos / "b.los", bytes);
@@ -197,7 +180,7 @@ TEST_F(Arranque, RepararRehaceCadaArchivoElegido) {
         caja.Mensajes.back().Texto,
         "Archivo: B.LOS\nEstaba Dañado: se Salvaron 6 Filas y se Perdieron 0 Filas y 1 Páginas de Filas");
     EXPECT_EQ(LeerArchivo(carpeta / "Papelera/b.los"), bytes);
-    ASSERT_TRUE(prueba::Abrir(proyecto, proyectos / "b.los"));
+    ASSERT_TRUE(Abrir(proyecto, proyectos / "b.los"));
     EXPECT_EQ(proyecto.RegistrosProyecto.NumeroRegistros(), 1);
     proyecto.ConexionProyecto.Cerrar();
     plataforma.HayPapelera = false;
@@ -220,4 +203,4 @@ TEST(CajaMensajes, MedidasYTeclas) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

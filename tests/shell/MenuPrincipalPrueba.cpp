@@ -9,23 +9,14 @@
 #include "slab/ui/LosaGeneral.h"
 #include "store/antiguo/Convertir.h"
 #include "store/antiguo/EscribirJet.h"
-#include "support/CarpetaTemporal.h"
 #include "support/LosasDePrueba.h"
-#include "support/Lugares.h"
 #include "support/ProyectoDePrueba.h"
 #include "support/ShellGuiado.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
-using namespace almacen;
-using namespace almacen::tablas;
-using namespace losas;
 using namespace losas::ui;
-using namespace programa;
 namespace {
-
-using prueba::EscribirArchivo;
-using prueba::LeerArchivo;
 
 struct PantallaGuiada : PantallaMenuPrincipal {
     void PonerTitulo(const std::string& titulo) override { Titulo = titulo; }
@@ -47,23 +38,16 @@ struct PantallaGuiada : PantallaMenuPrincipal {
     std::filesystem::path Recordado;
 };
 
-class Menu_ : public testing::Test {
+class Menu_ : public testing::Test, protected Maquina {
   protected:
-    Menu_() : plataforma(carpeta.Camino()) {
-        CrearBaseDatos(Plantilla(), prueba::EsquemaDeProyecto());
+    Menu_() {
+        CrearBaseDatos(Plantilla(), EsquemaDeProyecto());
         PrepararArranque(plataforma, carpetas, aplicacion);
         menu.Iniciar();
     }
     std::filesystem::path Plantilla() const { return carpeta / "programa" / "Imagen" / "LosaImagen.tbx"; }
 
-    prueba::CarpetaTemporal carpeta;
-    prueba::PlataformaGuiada plataforma;
-    prueba::CajaGuiada caja;
-    prueba::DialogosGuiados dialogos;
-    Carpetas carpetas;
-    Servicios servicios{caja, dialogos, plataforma, carpetas};
     PantallaGuiada pantalla;
-    Aplicacion aplicacion;
     MenuPrincipal menu{aplicacion, servicios, pantalla};
 };
 
@@ -182,7 +166,7 @@ TEST_F(Menu_, SinPlantillaElNuevoFallaConSuCodigo) {
     EXPECT_TRUE(pantalla.Mostradas.empty());
     EXPECT_FALSE(pantalla.Espera);
     dialogos.Elegidos = {carpeta / "no hay" / "x.los"};
-    CrearBaseDatos(Plantilla(), prueba::EsquemaDeProyecto());
+    CrearBaseDatos(Plantilla(), EsquemaDeProyecto());
     menu.Ejecutar("ID_Nuevo");
     EXPECT_EQ(caja.Mensajes.back().Texto, "Error Número: 76\nNo se encontró la ruta de acceso");
 }
@@ -220,15 +204,15 @@ TEST_F(Menu_, SalvarComoNuncaPisaUnArchivo) {
 /// new rows are in the file, and what takes them back stands beside it.
 void CortarGuardado(const std::filesystem::path& camino) {
     const std::filesystem::path vivo = std::filesystem::path(camino) += ".vivo";
-    ASSERT_TRUE(CrearBaseDatos(vivo, prueba::EsquemaDeProyecto()));
+    ASSERT_TRUE(CrearBaseDatos(vivo, EsquemaDeProyecto()));
     ProyectoAbierto proyecto;
-    ASSERT_TRUE(prueba::Abrir(proyecto, vivo));
-    Losa losa = prueba::LosaUniforme(3, 4, 100);
+    ASSERT_TRUE(Abrir(proyecto, vivo));
+    Losa losa = LosaUniforme(3, 4, 100);
     losa.Nombre = "L-1";
-    ASSERT_TRUE(prueba::AgregarLosa(proyecto, losa));
+    ASSERT_TRUE(AgregarLosa(proyecto, losa));
     proyecto.ConexionProyecto.Ejecutar("PRAGMA cache_size=1");  // pages reach the file before the end
     const Transaccion guardado(proyecto.ConexionProyecto);
-    losa = prueba::LosaUniforme(2000, 5, 200);
+    losa = LosaUniforme(2000, 5, 200);
     losa.Nombre = "L-1";
     EscribirElementos(proyecto.ConexionProyecto, losa.Nombre, losa);
     std::filesystem::copy_file(vivo, camino);
@@ -243,7 +227,7 @@ TEST_F(Menu_, UnGuardadoCortadoNoPasaALaCopiaNiAlQueLoReemplaza) {
     menu.Ejecutar("ID_Abrir");
     menu.Ejecutar("ID_SalvarComo");
     ProyectoAbierto proyecto;
-    ASSERT_TRUE(prueba::Abrir(proyecto, proyectos / "copia.los"));
+    ASSERT_TRUE(Abrir(proyecto, proyectos / "copia.los"));
     Losa losa;
     LeerLosa(proyecto, losa);
     EXPECT_EQ(losa.Tramos.size(), 4U);
@@ -251,7 +235,7 @@ TEST_F(Menu_, UnGuardadoCortadoNoPasaALaCopiaNiAlQueLoReemplaza) {
     CortarGuardado(proyectos / "otra.los");
     dialogos.Elegidos = {proyectos / "otra.los"};
     menu.Ejecutar("ID_Nuevo");
-    ASSERT_TRUE(prueba::Abrir(proyecto, proyectos / "otra.los"));
+    ASSERT_TRUE(Abrir(proyecto, proyectos / "otra.los"));
     EXPECT_EQ(proyecto.RegistrosProyecto.NumeroRegistros(), 0);
     EXPECT_EQ(LeerArchivo(proyectos / "otra.los"), LeerArchivo(Plantilla()));
 }
@@ -265,14 +249,14 @@ TEST_F(Menu_, NiElDiarioAjenoNiElAbiertoPorOtro) {
     menu.Ejecutar("ID_Nuevo");
     EXPECT_FALSE(std::filesystem::exists(proyectos / "obra.los-wal"));
     ProyectoAbierto otro;
-    ASSERT_TRUE(prueba::Abrir(otro, proyectos / "obra.los"));
-    Losa losa = prueba::LosaContinua({4}, 100);
-    ASSERT_TRUE(prueba::AgregarLosa(otro, losa));
+    ASSERT_TRUE(Abrir(otro, proyectos / "obra.los"));
+    Losa losa = LosaContinua({4}, 100);
+    ASSERT_TRUE(AgregarLosa(otro, losa));
     dialogos.Elegidos = {proyectos / "obra.los"};
     menu.Ejecutar("ID_Nuevo");
     EXPECT_EQ(caja.Mensajes.back().Texto, "Error Número: 70\nPermiso denegado");
     EXPECT_EQ(otro.RegistrosProyecto.NumeroRegistros(), 1);
-    ASSERT_TRUE(prueba::Abrir(otro, proyectos / "obra.los"));
+    ASSERT_TRUE(Abrir(otro, proyectos / "obra.los"));
     EXPECT_EQ(otro.RegistrosProyecto.NumeroRegistros(), 1);
 }
 
@@ -314,7 +298,7 @@ TEST_F(Menu_, LosDatosDelProyectoQuedanEnSuUnicaFila) {
     EXPECT_TRUE(datos.Salvar(nuevos));
     EXPECT_TRUE(datos.Salvar(nuevos));
     ProyectoAbierto proyecto;
-    ASSERT_TRUE(prueba::Abrir(proyecto, archivo));
+    ASSERT_TRUE(Abrir(proyecto, archivo));
     Recordset filas;
     AbrirRecordset(proyecto.ConexionProyecto, filas, "Proyecto");
     EXPECT_EQ(filas.NumeroRegistros(), 1);
@@ -345,13 +329,13 @@ TEST(Comandos, CadaUnoUnaVezYConSuIcono) {
         EXPECT_EQ(std::count(claves.begin(), claves.end(), comando.Clave), 0);
         claves.push_back(comando.Clave);
         const auto icono =
-            std::filesystem::path(prueba::Install()) / "iconos" / (std::string(comando.Icono) + ".svg");
+            std::filesystem::path(Install()) / "iconos" / (std::string(comando.Icono) + ".svg");
         EXPECT_TRUE(std::filesystem::exists(icono)) << icono;
     }
 }
 
 TEST_F(Menu_, UnProyectoDelFormatoAnteriorSeConvierteSiSeQuiere) {
-    const std::filesystem::path programa = prueba::Programa();
+    const std::filesystem::path programa = Programa();
     std::filesystem::create_symlink(programa / "trabex-jet", carpeta / "programa" / "trabex-jet");
     const auto viejo = carpeta / "obra.los", apartado = carpeta / "obra (formato anterior).los";
     almacen::antiguo::EscribirJet(programa / "Imagen" / "Ejemplo Demostrativo.tbx", viejo);
@@ -392,4 +376,4 @@ TEST_F(Menu_, UnProyectoDelFormatoAnteriorSeConvierteSiSeQuiere) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

@@ -1,23 +1,5 @@
 // What wiring can break: real widgets, pressed and typed into without a display.
 
-#include <QAbstractButton>
-#include <QAction>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDropEvent>
-#include <QFile>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMenu>
-#include <QMimeData>
-#include <QPlainTextEdit>
-#include <QSettings>
-#include <QTest>
-#include <QTimer>
-#include <QUrl>
-
-#include <gtest/gtest.h>
-
 #include "base/Archivos.h"
 #include "shell/Arranque.h"
 #include "shell/Comandos.h"
@@ -29,45 +11,27 @@
 #include "shell/qt/VentanaMenuPrincipal.h"
 #include "slab/ui/qt/VentanaLosaGeneral.h"
 #include "store/proyecto/TablaProyecto.h"
-#include "support/CarpetaTemporal.h"
 #include "support/ProyectoDePrueba.h"
 #include "support/ShellGuiado.h"
+#include "support/qt/Ventanas.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
-using namespace almacen;
-using namespace almacen::tablas;
 using namespace losas::ui::qt;
-using namespace programa;
 using namespace programa::qt;
 namespace {
 
-QAbstractButton* BotonDe(QWidget& ventana, const QString& texto) {
-    for (QAbstractButton* boton : ventana.findChildren<QAbstractButton*>()) {
-        if (boton->text().remove('&').trimmed() == texto) return boton;
-    }
-    ADD_FAILURE() << texto.toStdString();
-    return nullptr;
-}
-
-class Ventanas : public testing::Test {
+class Ventanas : public testing::Test, protected Maquina {
   protected:
-    Ventanas() : plataforma(carpeta.Camino()) {
+    Ventanas() {
         QPixmap mapa(40, 30);
         mapa.fill(Qt::gray);
         mapa.save(Q((carpeta / "programa" / "Imagen" / "TapizTBX.jpg").string()));
         PrepararArranque(plataforma, carpetas, aplicacion);
         aplicacion.ArchivoProyecto = carpetas.Proyectos() / "obra.los";
         aplicacion.NombreProyecto = "obra.los";
-        CrearBaseDatos(aplicacion.ArchivoProyecto, prueba::EsquemaDeProyecto());
+        CrearBaseDatos(aplicacion.ArchivoProyecto, EsquemaDeProyecto());
     }
-    prueba::CarpetaTemporal carpeta;
-    prueba::PlataformaGuiada plataforma;
-    prueba::CajaGuiada caja;
-    prueba::DialogosGuiados dialogos;
-    Carpetas carpetas;
-    Servicios servicios{caja, dialogos, plataforma, carpetas};
-    Aplicacion aplicacion;
 };
 
 TEST_F(Ventanas, LaCajaRespondePorBotonYPorEscape) {
@@ -269,4 +233,4 @@ TEST_F(Ventanas, LaReparacionTomaLoElegido) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

@@ -6,13 +6,8 @@
 #include "slab/CalcularLosa.h"
 #include "support/LosasDePrueba.h"
 
-namespace trabex {
-
-using namespace losas;
+namespace trabex::prueba {
 namespace {
-
-using prueba::LosaContinua;
-using prueba::LosaUniforme;
 
 ResultadosLosa Calculada(const Losa& losa, const DatosGenerales& generales = {}) {
     ResultadosLosa r;
@@ -191,4 +186,4 @@ TEST(Faltas, LosResultadosAnterioresNoQuedan) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

@@ -2,18 +2,14 @@
 #include <cmath>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "slab/Avisos.h"
 #include "slab/CalcularLosa.h"
 #include "support/LosasDePrueba.h"
 
-namespace trabex {
-
-using namespace losas;
+namespace trabex::prueba {
 namespace {
 
-using prueba::LosaContinua;
 using testing::Contains;
 using testing::IsEmpty;
 using testing::Not;
@@ -94,7 +90,7 @@ TEST(Avisos, LasReaccionesQueNoEquilibran) {
 TEST(Avisos, LasLosasDeIngenierosEquilibran) {
     std::mt19937 azar(23);
     for (int vez = 0; vez < 300; ++vez) {
-        const Losa losa = prueba::LosaAlAzar(azar, vez % 2 == 0);
+        const Losa losa = LosaAlAzar(azar, vez % 2 == 0);
         ResultadosLosa r;
         CalcularLosa(losa, {}, r);
         const Equilibrio e = EquilibrioDe({losa, {}, r}, CasoPermanente);
@@ -187,4 +183,4 @@ TEST(Avisos, ElResumenDiceElMasGrave) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

@@ -1,5 +1,3 @@
-#include <array>
-#include <cmath>
 #include <functional>
 
 #include <gtest/gtest.h>
@@ -8,12 +6,8 @@
 #include "support/DisenoDeReferencia.h"
 #include "support/LosasDePrueba.h"
 
-namespace trabex {
-
-using namespace losas;
+namespace trabex::prueba {
 namespace {
-
-using prueba::Real;
 
 /// One rounded digit, with what the factors of a moment make of it.
 constexpr double Decima8 = 1.01e-8;
@@ -24,7 +18,7 @@ void Cerca(double valor, Real referencia, double tolerancia, const std::string& 
 }
 
 /// The forces of every span and the state of every joint, to the last of their 8 decimals.
-void CompararCaso(const Losa& losa, const ResultadosLosa& r, std::size_t caso, const prueba::PorticoDenso& p,
+void CompararCaso(const Losa& losa, const ResultadosLosa& r, std::size_t caso, const PorticoDenso& p,
                   double tolerancia) {
     for (std::size_t i = 1; i < losa.Tramos.size(); ++i) {
         const EsfuerzosTramo& t = r.ResultadoTramo[caso][i];
@@ -58,7 +52,7 @@ void CompararCaso(const Losa& losa, const ResultadosLosa& r, std::size_t caso, c
 }
 
 /// Every field of the design. Spans that the rules judge by the last digit are left out.
-void CompararDiseno(const Losa& losa, const ResultadosLosa& r, const prueba::DisenoDeReferencia& d,
+void CompararDiseno(const Losa& losa, const ResultadosLosa& r, const DisenoDeReferencia& d,
                     double tolerancia) {
     for (std::size_t j = 1; j <= losa.Tramos.size(); ++j) {
         const DisenoDeEje& eje = r.DisenoEje[j];
@@ -84,7 +78,7 @@ void CompararDiseno(const Losa& losa, const ResultadosLosa& r, const prueba::Dis
 }
 
 /// A slab that hardly holds moves by centimetres, and its forces lose as many digits as it moves more.
-double Holgura(const Losa& losa, const prueba::PorticoDenso& p) {
+double Holgura(const Losa& losa, const PorticoDenso& p) {
     Real mayor = 0;
     for (std::size_t j = 1; j <= losa.Tramos.size(); ++j) {
         const auto d = p.DesplazamientoDe(j);
@@ -99,12 +93,12 @@ void CompararTodo(const Losa& losa) {
     ResultadosLosa r;
     CalcularLosa(losa, g, r);
     ASSERT_FALSE(r.Error);
-    const prueba::PorticoDenso permanente(losa, g.FC, false);
-    const prueba::PorticoDenso variable(losa, g.FC, true);
+    const PorticoDenso permanente(losa, g.FC, false);
+    const PorticoDenso variable(losa, g.FC, true);
     const double holgura = std::max(Holgura(losa, permanente), Holgura(losa, variable));
     CompararCaso(losa, r, CasoPermanente, permanente, Decima8 * holgura);
     CompararCaso(losa, r, CasoVariable, variable, Decima8 * holgura);
-    CompararDiseno(losa, r, prueba::DisenoDeReferencia(losa, g, permanente, variable), Diseno * holgura);
+    CompararDiseno(losa, r, DisenoDeReferencia(losa, g, permanente, variable), Diseno * holgura);
 }
 
 /// Whether the supports leave the rigid slab no motion: their rows on (X, Y, turn) have rank 3.
@@ -154,7 +148,7 @@ TEST(Referencia, CadaTipoDeApoyoEnCadaLugar) {
     for (const std::size_t juntas : {std::size_t{2}, std::size_t{3}, std::size_t{4}}) {
         CadaFilaDeTipos(juntas, [&](const std::vector<std::int16_t>& tipos) {
             for (const bool desplazada : {false, true}) {
-                const Losa losa = prueba::LosaDeTipos(azar, tipos, desplazada);
+                const Losa losa = LosaDeTipos(azar, tipos, desplazada);
                 SCOPED_TRACE(testing::PrintToString(tipos) + (desplazada ? " desplazada" : ""));
                 if (!SeSostiene(losa)) continue;
                 ++sostenidas;
@@ -169,7 +163,7 @@ TEST(Referencia, LosasDeIngenieros) {
     std::mt19937 azar(11);
     for (int vez = 0; vez < 400; ++vez) {
         SCOPED_TRACE(vez);
-        CompararTodo(prueba::LosaAlAzar(azar, vez % 2 == 0));
+        CompararTodo(LosaAlAzar(azar, vez % 2 == 0));
     }
 }
 
@@ -178,15 +172,15 @@ TEST(Referencia, MuchosTramos) {
     std::vector<std::int16_t> tipos(151, RodilloEnX);
     tipos[0] = tipos[150] = SinApoyo;
     tipos[70] = ApoyoFijo;
-    CompararTodo(prueba::LosaDeTipos(azar, tipos, false));
+    CompararTodo(LosaDeTipos(azar, tipos, false));
     // On its two ends alone, the chain is a beam of 40 m.
-    CompararTodo(prueba::LosaUniforme(8, 5, 30, 10));
+    CompararTodo(LosaUniforme(8, 5, 30, 10));
 }
 
 /// Equal spans without end: at the k-th inner support M = −w·L²/12·(1 − (√3 − 2)^k).
 TEST(Referencia, ElMayorNumeroDeTramos) {
     ResultadosLosa r;
-    CalcularLosa(prueba::LosaUniforme(10919, 5, 300, 200), {}, r);
+    CalcularLosa(LosaUniforme(10919, 5, 300, 200), {}, r);
     for (std::size_t k = 0; k < 12; ++k) {
         const double M = -300 * 25 / 12.0 * (1 - std::pow(std::sqrt(3) - 2, static_cast<double>(k)));
         EXPECT_NEAR(r.ResultadoTramo[1][k + 1].MomentoA, M, 0.02) << k;
@@ -200,7 +194,7 @@ TEST(Referencia, SoloLoQueNadaSujetaSeNombra) {
     for (const std::size_t juntas : {std::size_t{2}, std::size_t{3}, std::size_t{5}}) {
         CadaFilaDeTipos(juntas, [&](const std::vector<std::int16_t>& tipos) {
             for (const bool desplazada : {false, true}) {
-                const Losa losa = prueba::LosaDeTipos(azar, tipos, desplazada);
+                const Losa losa = LosaDeTipos(azar, tipos, desplazada);
                 ResultadosLosa r;
                 CalcularLosa(losa, {}, r);
                 EXPECT_EQ(r.DireccionesLibres.empty(), SeSostiene(losa))
@@ -215,7 +209,7 @@ TEST(Referencia, SoloLoQueNadaSujetaSeNombra) {
 
 TEST(Referencia, LaDireccionQueNadaSujeta) {
     const auto libres = [](std::vector<std::int16_t> tipos) {
-        Losa losa = prueba::LosaContinua({4, 5}, 300);
+        Losa losa = LosaContinua({4, 5}, 300);
         for (std::size_t j = 0; j < 3; ++j) losa.Ejes[j + 1].Tipo = tipos[j];
         ResultadosLosa r;
         CalcularLosa(losa, {}, r);
@@ -234,4 +228,4 @@ TEST(Referencia, LaDireccionQueNadaSujeta) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

@@ -4,9 +4,7 @@
 #include "slab/ValoresLosa.h"
 #include "support/LosasDePrueba.h"
 
-namespace trabex {
-
-using namespace losas;
+namespace trabex::prueba {
 namespace {
 
 struct Caso {
@@ -20,7 +18,7 @@ struct Caso {
 
 TEST(ValoresLosa, UnTramoMuyCortoOMuyLargoNoTieneEstaciones) {
     const auto estaciones = [](double longitud) {
-        return EstacionesDeTramo(Caso(prueba::LosaContinua({longitud}, 200)).Calculada(), 1, 0).size();
+        return EstacionesDeTramo(Caso(LosaContinua({longitud}, 200)).Calculada(), 1, 0).size();
     };
     EXPECT_EQ(estaciones(0.124), 0U);  // half a strip goes to the even neighbour
     EXPECT_EQ(estaciones(0.125), 0U);
@@ -29,8 +27,8 @@ TEST(ValoresLosa, UnTramoMuyCortoOMuyLargoNoTieneEstaciones) {
 }
 
 TEST(ValoresLosa, ResultadosDeOtraLosaCuentanComoCeros) {
-    const Caso caso(prueba::LosaContinua({5, 4}, 300, 150));
-    const Losa otra = prueba::LosaContinua({3, 3, 3}, 300);
+    const Caso caso(LosaContinua({5, 4}, 300, 150));
+    const Losa otra = LosaContinua({3, 3, 3}, 300);
     for (const ResultadosLosa& ajenos : {ResultadosLosa{}, caso.Resultados}) {
         const LosaCalculada calculada{otra, caso.Generales, ajenos};
         EXPECT_EQ(ReaccionesEnEje(calculada, 2).Total.V, 0);
@@ -44,4 +42,4 @@ TEST(ValoresLosa, ResultadosDeOtraLosaCuentanComoCeros) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

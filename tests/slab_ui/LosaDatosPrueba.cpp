@@ -3,23 +3,16 @@
 #include "slab/ui/SerieDeEjes.h"
 #include "support/LosasGuiadas.h"
 
-namespace trabex {
-
-using namespace losas;
-using namespace losas::ui;
-using namespace programa;
+namespace trabex::prueba {
 namespace {
-
-using prueba::LosaContinua;
-using prueba::Nombrada;
 
 struct Datos : testing::Test {
     Datos() { datos.Abrir(); }
     std::string Dicho() const { return e.caja.Mensajes.empty() ? "" : e.caja.Mensajes.back().Texto; }
 
-    prueba::EspacioDePrueba e{
+    EspacioDePrueba e{
         {Nombrada(LosaContinua({5, 4, 3}, 300, 90), "L-1"), Nombrada(LosaContinua({6}, 200), "L-2")}};
-    prueba::PantallaLosaDatosGuiada pantalla;
+    PantallaLosaDatosGuiada pantalla;
     LosaDatos datos{e.espacio, pantalla, e.caja};
 };
 
@@ -221,7 +214,7 @@ TEST_F(Datos, UnGuardadoQueFallaDejaLaLosaEntera) {
     datos.PonerNumeroTramos(1);
     datos.PonerSeccion(CampoSeccion::Ho, 0.4);
     {
-        const prueba::ProyectoOcupado ocupado(e.aplicacion.ArchivoProyecto);
+        const ProyectoOcupado ocupado(e.aplicacion.ArchivoProyecto);
         EXPECT_FALSE(datos.Salvar());
     }
     EXPECT_EQ(Dicho().rfind("Error Número: 70", 0), 0U);
@@ -315,4 +308,4 @@ TEST_F(Datos, LasPaginasNoSalenDeSusExtremos) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

@@ -1,20 +1,13 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include "shell/Renombrar.h"
 #include "slab/ui/LosaNueva.h"
 #include "support/LosasGuiadas.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
 using namespace dibujo::losa;
-using namespace losas;
-using namespace losas::ui;
-using namespace programa;
 namespace {
 
-using prueba::LosaContinua;
-using prueba::Nombrada;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -34,7 +27,7 @@ Losa Desplazada() {
 }
 
 struct Espacio : testing::Test {
-    prueba::EspacioDePrueba e{{Desplazada(), Maciza()}};
+    EspacioDePrueba e{{Desplazada(), Maciza()}};
     Losas& espacio = e.espacio;
 
     bool Nueva(const std::string& nombre) { return LosaNueva(espacio).Aceptar(nombre); }
@@ -76,7 +69,7 @@ TEST_F(Espacio, DiceLosAvisosDeLaSeleccionada) {
 TEST(EspacioConFallas, AlAbrirSeMarcanLasLosasQueNoSeSostienen) {
     Losa suelta = Nombrada(LosaContinua({4, 4}, 300), "Suelta");
     suelta.Ejes[1].Tipo = suelta.Ejes[2].Tipo = SinApoyo;
-    prueba::EspacioDePrueba e({Maciza(), suelta, Desplazada()});
+    EspacioDePrueba e({Maciza(), suelta, Desplazada()});
     EXPECT_EQ(e.espacio.Lista().Fila(), 1);
     EXPECT_EQ(e.espacio.Estado().Abierta.Nombre, "BALCON");
     EXPECT_TRUE(e.pantalla.Fallan[3]);
@@ -222,7 +215,7 @@ TEST_F(Espacio, UnNombreConComillaRompeSoloSusSentencias) {
 
 TEST_F(Espacio, UnProyectoQueNoSePuedeEscribirQuedaComoEstaba) {
     espacio.Lista().Seleccionar(2);
-    const prueba::ProyectoOcupado ocupado(e.aplicacion.ArchivoProyecto);
+    const ProyectoOcupado ocupado(e.aplicacion.ArchivoProyecto);
     e.pantalla.LosaNueva = [&] { return Nueva("Azotea"); };
     e.pantalla.SalvarComo = [&] { return Copia("Azotea"); };
     e.pantalla.Renombrar = [&](Renombrar& ventana) {
@@ -269,7 +262,7 @@ TEST_F(Espacio, AbreOtroProyectoYUnoQueNoSePuedeLeerCuentaComoVacio) {
     EXPECT_EQ(espacio.Estado().Hoja.OpcionCarga, CargaTotal);
     EXPECT_EQ(e.pantalla.OpcionCarga, CargaTotal);
 
-    prueba::EscribirArchivo(e.carpeta / "roto.los", "no es un proyecto");
+    EscribirArchivo(e.carpeta / "roto.los", "no es un proyecto");
     e.dialogos.Elegidos = {e.carpeta / "roto.los"};
     espacio.Lista().AbrirProyecto();
     EXPECT_THAT(e.pantalla.Filas, IsEmpty());
@@ -279,4 +272,4 @@ TEST_F(Espacio, AbreOtroProyectoYUnoQueNoSePuedeLeerCuentaComoVacio) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

@@ -1,17 +1,9 @@
 // The entry table, typed into and pasted into as a spreadsheet.
 
-#include <QApplication>
-#include <QClipboard>
-#include <QLineEdit>
-#include <QTest>
-#include <QToolTip>
-#include <QVBoxLayout>
-
-#include <gtest/gtest.h>
-
 #include "shell/qt/TablaDatos.h"
+#include "support/qt/Ventanas.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
 using namespace programa::qt;
 namespace {
@@ -249,4 +241,4 @@ TEST_F(Tabla, CopiaElBloqueElegidoYUnValorLoLlenaTodo) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

@@ -1,27 +1,6 @@
 // The slab's windows through their real widgets.
 
-#include <QAction>
-#include <QClipboard>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMenu>
-#include <QMenuBar>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QScrollBar>
-#include <QSet>
-#include <QSettings>
-#include <QSplitter>
-#include <QTabBar>
-#include <QTabWidget>
-#include <QTest>
-#include <QTimer>
-#include <QToolBar>
-#include <QToolButton>
 #include <set>
-
-#include <gtest/gtest.h>
 
 #include "drawing/qt/WidgetLienzo.h"
 #include "shell/qt/ComunVentanas.h"
@@ -31,36 +10,18 @@
 #include "slab/ui/qt/VentanaLosaDatos.h"
 #include "slab/ui/qt/VentanaLosas.h"
 #include "support/LosasGuiadas.h"
+#include "support/qt/Ventanas.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
 using namespace dibujo::losa;
-using namespace losas;
-using namespace losas::ui;
 using namespace losas::ui::qt;
-using namespace programa;
 using namespace programa::qt;
 namespace {
 
-using prueba::LosaContinua;
-using prueba::Nombrada;
-
-QAbstractButton* BotonDe(QWidget& ventana, const QString& texto) {
-    for (QAbstractButton* boton : ventana.findChildren<QAbstractButton*>()) {
-        if (boton->text().remove('&').trimmed() == texto) return boton;
-    }
-    ADD_FAILURE() << texto.toStdString();
-    return nullptr;
-}
-
 struct Ventanas : testing::Test {
-    prueba::EspacioDePrueba e{
+    EspacioDePrueba e{
         {Nombrada(LosaContinua({5, 4, 3}, 300, 90), "L-1"), Nombrada(LosaContinua({6}, 200), "L-2")}};
-    /// Runs `accion` on the modal window that is about to open.
-    template <class Accion>
-    void EnLaVentana(Accion accion) {
-        QTimer::singleShot(0, qApp, [accion] { accion(*QApplication::activeModalWidget()); });
-    }
 };
 
 TEST_F(Ventanas, LosDatosSeEscribenEnLasTablasYLleganAlArchivo) {
@@ -278,7 +239,7 @@ TEST_F(Espacio, UnaLosaLargaSeVePorGruposQueCompartenUnEje) {
     VentanaLosas ventana(e.aplicacion, e.servicios, e.memoria, {}, nullptr);
     ventana.show();
     EstadoLosas& estado = ventana.Operaciones().Estado();
-    estado.Abierta = prueba::LosaUniforme(25, 5, 300, 100);
+    estado.Abierta = LosaUniforme(25, 5, 300, 100);
     ventana.Operaciones().Calcular();
     const auto mostrar = [&](const char* clave) {
         ventana.Accion(clave)->trigger();
@@ -439,4 +400,4 @@ TEST_F(Espacio, CreaConElDeslizadorDeNombresYRenombra) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

@@ -6,7 +6,7 @@
 #include "stairs/CalcularEscaleraT.h"
 #include "support/EscalerasTrabajadas.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
 using namespace escaleras;
 namespace {
@@ -24,7 +24,7 @@ bool Contiene(const Avisos& avisos, Gravedad peso, const std::string& linea) {
 
 /// The worked stair: a minimum of 8.45 cm² in the flight, 4.68 in the landing, 7.68 kgf/cm² of shear.
 TEST(AvisosDeEscalera, EscaleraTrabajada) {
-    const Avisos avisos = AvisosCon(prueba::EscaleraTTrabajada(), prueba::GeneralesTrabajados);
+    const Avisos avisos = AvisosCon(EscaleraTTrabajada(), GeneralesTrabajados);
     EXPECT_EQ(avisos.size(), 2U);
     EXPECT_TRUE(Contiene(avisos, Gravedad::Nota,
                          "Tramo, X = 0,28 m a 2,52 m: El acero teórico es menor que el mínimo de 8,45 cm²."));
@@ -32,8 +32,8 @@ TEST(AvisosDeEscalera, EscaleraTrabajada) {
 }
 
 TEST(AvisosDeEscalera, SeccionesQueNoDan) {
-    DatosGenerales g = prueba::GeneralesTrabajados;
-    DatosEscaleraT d = prueba::EscaleraTTrabajada();
+    DatosGenerales g = GeneralesTrabajados;
+    DatosEscaleraT d = EscaleraTTrabajada();
     d.HT = 0.12;
     d.WT = 3000;
     d.Wd = 3200;
@@ -64,7 +64,7 @@ TEST(AvisosDeEscalera, CalculoInterrumpidoOSinDatos) {
     EXPECT_TRUE(AvisosCon({}).empty());
     DatosGenerales g;
     g.FiMomento = 0;
-    const Avisos avisos = AvisosCon(prueba::EscaleraTTrabajada(), g);
+    const Avisos avisos = AvisosCon(EscaleraTTrabajada(), g);
     ASSERT_EQ(avisos.size(), 1U);
     EXPECT_EQ(avisos[0].Peso, Gravedad::Falla);
     EXPECT_EQ(avisos[0].Texto,
@@ -75,4 +75,4 @@ TEST(AvisosDeEscalera, CalculoInterrumpidoOSinDatos) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

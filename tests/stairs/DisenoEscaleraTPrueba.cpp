@@ -8,7 +8,7 @@
 #include "stairs/ValoresEscaleraT.h"
 #include "support/EscalerasTrabajadas.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
 using namespace escaleras;
 namespace {
@@ -19,7 +19,7 @@ void Igual(double obtenido, double esperado, const char* que, std::size_t estaci
 }
 
 TEST(DisenoEscaleraT, SeccionesAFlexion) {
-    for (const auto& seccion : prueba::SeccionesAFlexion) {
+    for (const auto& seccion : SeccionesAFlexion) {
         const AceroCaras As = CalculeRefuerzoEscalera(seccion.M, seccion.Ancho, seccion.Alto, seccion.g);
         Igual(As.AsSup, seccion.AsSup, seccion.Que);
         Igual(As.AsInf, seccion.AsInf, seccion.Que);
@@ -29,7 +29,7 @@ TEST(DisenoEscaleraT, SeccionesAFlexion) {
 }
 
 TEST(DisenoEscaleraT, EstribosDeUnTramo) {
-    for (const auto& caso : prueba::EstribosDeTramos) {
+    for (const auto& caso : EstribosDeTramos) {
         DatosEscaleraT d;
         d.B = caso.B;
         d.HT = caso.HT;
@@ -49,17 +49,15 @@ TEST(DisenoEscaleraT, EstribosDeUnTramo) {
 /// A whole stair, worked apart: every field of every station.
 TEST(DisenoEscaleraT, EscaleraTrabajada) {
     ResultadosEscaleraT r;
-    CalcularEscaleraT(prueba::EscaleraTTrabajada(), prueba::GeneralesTrabajados, r);
+    CalcularEscaleraT(EscaleraTTrabajada(), GeneralesTrabajados, r);
     ASSERT_FALSE(r.Error);
     for (std::size_t i = 0; i <= 10; ++i)
-        for (std::size_t k = 0; k < std::size(prueba::ColumnasDeTramo); ++k)
-            Igual(r.TramoT[i].*prueba::ColumnasDeTramo[k], prueba::TramosTrabajados[i][k], "tramo",
-                  100 * i + k);
+        for (std::size_t k = 0; k < std::size(ColumnasDeTramo); ++k)
+            Igual(r.TramoT[i].*ColumnasDeTramo[k], TramosTrabajados[i][k], "tramo", 100 * i + k);
     for (std::size_t j = 1; j <= 7; ++j) {
         const EscaleraDescansoPunto& p = r.DescansoT[j];
-        for (std::size_t k = 0; k < std::size(prueba::ColumnasDeDescanso); ++k)
-            Igual(p.*prueba::ColumnasDeDescanso[k], prueba::DescansosTrabajados[j - 1][k], "descanso",
-                  100 * j + k);
+        for (std::size_t k = 0; k < std::size(ColumnasDeDescanso); ++k)
+            Igual(p.*ColumnasDeDescanso[k], DescansosTrabajados[j - 1][k], "descanso", 100 * j + k);
         Igual(p.TensionAdmisible, std::sqrt(210) * 0.53, "TensionAdmisible", j);
         EXPECT_EQ(p.FallaCorte, j <= 2 ? "Falla por Corte" : "") << j;
     }
@@ -67,7 +65,7 @@ TEST(DisenoEscaleraT, EscaleraTrabajada) {
 
 /// What the flight and the landing do apart: greater of two demands, and the sign of the lateral moment.
 TEST(DisenoEscaleraT, CarasYSignos) {
-    const DatosEscaleraT d = prueba::EscaleraTTrabajada();
+    const DatosEscaleraT d = EscaleraTTrabajada();
     EscaleraTramoPunto p;
     p.EnvolventeNegativa = -9000;  // past the limit moment: steel on both faces
     p.EnvolventePositiva = 10000;
@@ -101,4 +99,4 @@ TEST(DisenoEscaleraT, CarasYSignos) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

@@ -7,20 +7,16 @@
 #include "stairs/ui/EscaleraTG.h"
 #include "store/tablas/TablasEscalera.h"
 #include "store/tablas/TablasMarcus.h"
-#include "support/CarpetaTemporal.h"
 #include "support/ProyectoDePrueba.h"
 #include "support/ShellGuiado.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
-using namespace almacen;
-using namespace almacen::tablas;
 using namespace escaleras;
 using namespace escaleras::ui;
 using namespace helices;
 using namespace helices::ui;
 using namespace marcus;
-using namespace programa;
 namespace {
 
 /// Keeps which fields took the focus, and the beeps.
@@ -40,7 +36,7 @@ class Escaleras : public testing::Test {
   protected:
     Escaleras() {
         EXPECT_TRUE(CrearBaseDatos(carpeta_ / "obra.los",
-                                   prueba::EsquemaDeProyecto() +
+                                   EsquemaDeProyecto() +
                                        "INSERT INTO EscaleraTDatos VALUES ('E-1', 'PRINCIPAL'), ('E-2', '');"
                                        "INSERT INTO EscaleraHDatos VALUES ('H-1', 'CARACOL'), ('H-2', '');"
                                        "INSERT INTO MarcusDatos VALUES ('NIVEL 1', 7), ('NIVEL 2', 0);"));
@@ -55,9 +51,9 @@ class Escaleras : public testing::Test {
         return filas;
     }
 
-    prueba::CarpetaTemporal carpeta_;
+    CarpetaTemporal carpeta_;
     ProyectoAbierto proyecto_;
-    prueba::CajaGuiada caja_;
+    CajaGuiada caja_;
     bool cambiados_ = false;
 };
 
@@ -260,4 +256,4 @@ TEST_F(Escaleras, UnGuardadoQueFallaNoDejaNada) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

@@ -1,7 +1,6 @@
 // The workspace of self-supporting stairs, with scripted answers, down to the file.
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "stairs/ui/EscaleraT.h"
 #include "stairs/ui/EscaleraTG.h"
@@ -10,18 +9,15 @@
 #include "store/tablas/TablasEscalera.h"
 #include "support/EspacioGuiado.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
-using namespace almacen;
-using namespace almacen::tablas;
 using namespace escaleras;
 using namespace escaleras::ui;
-using namespace programa;
 namespace {
 
 using testing::ElementsAre;
 
-struct PantallaGuiada : prueba::PantallaEspacioGuiada, PantallaEscaleraT {
+struct PantallaGuiada : PantallaEspacioGuiada, PantallaEscaleraT {
     bool MostrarEscaleraTNueva() override { return Nueva(); }
     void MostrarEscaleraTDatos(const TrabajoEscaleraT& trabajo) override { Datos(trabajo); }
     bool MostrarEscaleraTG() override { return General(); }
@@ -36,7 +32,7 @@ struct SinFoco : PantallaDeCampos<CampoEscaleraT>, PantallaDeCampos<CampoEscaler
     void Enfocar(CampoEscaleraTG) override {}
 };
 
-struct EspacioEscaleras : testing::Test, prueba::ProgramaGuiado {
+struct EspacioEscaleras : testing::Test, ProgramaGuiado {
     EspacioEscaleras()
         : ProgramaGuiado(
               "INSERT INTO EscaleraTDatos VALUES ('B', 'SEGUNDA'), ('A', 'PRIMERA');"
@@ -192,4 +188,4 @@ TEST_F(EspacioEscaleras, RenombrarTitularYEliminar) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

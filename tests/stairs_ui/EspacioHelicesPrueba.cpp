@@ -1,25 +1,23 @@
 // The workspace of helical stairs, with scripted answers, down to the file.
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "helical/ui/EscaleraH.h"
 #include "stairs/ui/EscaleraTNueva.h"
 #include "stairs/ui/EscaleraTitulo.h"
 #include "support/EspacioGuiado.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
 using namespace helices;
 using namespace helices::ui;
-using namespace programa;
 using dibujo::helice::ModoGiro;
 namespace {
 
 using testing::ElementsAre;
 using testing::StartsWith;
 
-struct PantallaGuiada : prueba::PantallaEspacioGuiada, PantallaEscaleraH {
+struct PantallaGuiada : PantallaEspacioGuiada, PantallaEscaleraH {
     bool MostrarEscaleraTNueva() override { return Nueva(); }
     void MostrarEscaleraHDatos(const TrabajoEscaleraH& trabajo) override { Datos(trabajo); }
     void MostrarEscaleraTG() override { General(); }
@@ -44,7 +42,7 @@ struct SinFoco : PantallaEscaleraHDatos {
 };
 
 /// 'A' is a stair of every day, 'B' one without data, 'C' one whose stirrups come to a spacing of 0.
-struct EspacioHelices : testing::Test, prueba::ProgramaGuiado {
+struct EspacioHelices : testing::Test, ProgramaGuiado {
     EspacioHelices()
         : ProgramaGuiado(
               "INSERT INTO EscaleraHDatos VALUES ('C', 'FALLA'), ('B', 'SEGUNDA'), ('A', 'PRIMERA');"
@@ -191,4 +189,4 @@ TEST_F(EspacioHelices, UnGiroTomaElLugarDelOtroYQuedaComoEstaba) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

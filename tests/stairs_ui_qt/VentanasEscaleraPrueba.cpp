@@ -1,29 +1,14 @@
 // The windows of self-supporting stairs through their real widgets, down to the file.
 
-#include <QAction>
-#include <QImage>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
-#include <QTabBar>
-#include <QTest>
-#include <QTimer>
-
-#include <gtest/gtest.h>
-
 #include "drawing/qt/WidgetLienzo.h"
 #include "shell/qt/CampoNumero.h"
 #include "stairs/ui/qt/VentanaEscaleraT.h"
-#include "support/CarpetaTemporal.h"
-#include "support/ProyectoDePrueba.h"
-#include "support/ShellGuiado.h"
+#include "support/EspacioGuiado.h"
+#include "support/qt/Ventanas.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
-using namespace almacen;
 using namespace escaleras::ui::qt;
-using namespace programa;
 namespace {
 
 /// Types over what a field holds, and leaves it.
@@ -41,15 +26,12 @@ void PulsarElPrincipal(QWidget& ventana) {
     ADD_FAILURE() << ventana.windowTitle().toStdString();
 }
 
-struct VentanasEscalera : testing::Test {
-    VentanasEscalera() {
-        carpetas.CaminoUsuario = carpeta.Camino();
-        aplicacion.ArchivoProyecto = carpeta / "obra.los";
-        CrearBaseDatos(aplicacion.ArchivoProyecto,
-                       prueba::EsquemaDeProyecto() +
-                           "INSERT INTO EscaleraTDatos VALUES ('A', 'UNA'), ('B', 'SIN DATOS'), ('C', '');"
-                           "INSERT INTO EscaleraT VALUES ('A', 2.4, 1.2, 3, 0.15, 0.15, 1200, 1000, 600),"
-                           " ('C', 4, 1, 1.2, 0.3, 0.08, 9000, 9000, 9000);");
+struct VentanasEscalera : testing::Test, ProgramaGuiado {
+    VentanasEscalera()
+        : ProgramaGuiado(
+              "INSERT INTO EscaleraTDatos VALUES ('A', 'UNA'), ('B', 'SIN DATOS'), ('C', '');"
+              "INSERT INTO EscaleraT VALUES ('A', 2.4, 1.2, 3, 0.15, 0.15, 1200, 1000, 600),"
+              " ('C', 4, 1, 1.2, 0.3, 0.08, 9000, 9000, 9000);") {
         ventana.emplace(aplicacion, servicios, OperacionesDeEscaleras{}, nullptr);
         ventana->show();
         lista = ventana->findChild<QListWidget*>("Lista");
@@ -73,13 +55,6 @@ struct VentanasEscalera : testing::Test {
     }
     QString Encabezado() const { return ventana->findChild<QLabel*>("Encabezado")->text(); }
 
-    prueba::CarpetaTemporal carpeta;
-    Aplicacion aplicacion;
-    prueba::CajaGuiada caja;
-    prueba::DialogosGuiados dialogos;
-    prueba::PlataformaGuiada plataforma{carpeta.Camino()};
-    Carpetas carpetas;
-    Servicios servicios{caja, dialogos, plataforma, carpetas};
     std::optional<VentanaEscaleraT> ventana;
     QListWidget* lista = nullptr;
 };
@@ -194,4 +169,4 @@ TEST_F(VentanasEscalera, SeCreaSeTitulaYSeElimina) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

@@ -1,15 +1,9 @@
 #pragma once
 
-#include <filesystem>
-
 #include <gtest/gtest.h>
 
 #include "loads/Creacion.h"
-#include "shell/Aplicacion.h"
-#include "shell/Servicios.h"
 #include "store/tablas/TablasCargas.h"
-#include "support/CarpetaTemporal.h"
-#include "support/Lugares.h"
 #include "support/ProyectoDePrueba.h"
 #include "support/ShellGuiado.h"
 

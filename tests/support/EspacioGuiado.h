@@ -5,11 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "shell/Aplicacion.h"
 #include "shell/PantallaEspacio.h"
 #include "shell/Renombrar.h"
-#include "shell/Servicios.h"
-#include "support/CarpetaTemporal.h"
 #include "support/ProyectoDePrueba.h"
 #include "support/ShellGuiado.h"
 
@@ -44,7 +41,7 @@ struct PantallaEspacioGuiada : PantallaEspacio {
 };
 
 /// A program on a project of its own, on disk, with the given rows.
-struct ProgramaGuiado {
+struct ProgramaGuiado : Maquina {
     explicit ProgramaGuiado(const std::string& filas) {
         carpetas.CaminoUsuario = carpeta.Camino();
         aplicacion.ArchivoProyecto = Proyecto("obra.los", filas);
@@ -67,14 +64,6 @@ struct ProgramaGuiado {
         }
         return valores;
     }
-
-    CarpetaTemporal carpeta;
-    Aplicacion aplicacion;
-    CajaGuiada caja;
-    DialogosGuiados dialogos;
-    PlataformaGuiada plataforma{carpeta.Camino()};
-    Carpetas carpetas;
-    Servicios servicios{caja, dialogos, plataforma, carpetas};
 };
 
 }  // namespace trabex::prueba

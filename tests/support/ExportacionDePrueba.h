@@ -6,23 +6,16 @@
 #include "shell/Arranque.h"
 #include "store/antiguo/BaseEnJet.h"
 #include "store/antiguo/Convertir.h"
-#include "support/CarpetaTemporal.h"
 #include "support/LosasDePrueba.h"
-#include "support/Lugares.h"
 #include "support/ProyectoDePrueba.h"
 #include "support/ShellGuiado.h"
 
 namespace trabex::prueba {
 
-using namespace almacen;
-using namespace almacen::tablas;
-using namespace losas;
-using namespace programa;
-
 /// A connected project of three slabs: a solid one, a ribbed one with a cantilever, and one without spans.
-class Exportacion : public testing::Test {
+class Exportacion : public testing::Test, protected Maquina {
   protected:
-    Exportacion() : plataforma(carpeta.Camino()) {
+    Exportacion() {
         const std::filesystem::path programa = prueba::Programa();
         for (const char* plantilla : {"ImagenCAD8.tbx", "ImagenCAD23.tbx"})
             CopiarArchivo(programa / "Imagen" / plantilla, carpeta / "programa" / "Imagen" / plantilla);
@@ -67,14 +60,7 @@ class Exportacion : public testing::Test {
         base.Guardar(archivo);
     }
 
-    CarpetaTemporal carpeta;
     Conexion conexion;
-    PlataformaGuiada plataforma;
-    CajaGuiada caja;
-    DialogosGuiados dialogos;
-    Carpetas carpetas;
-    Servicios servicios{caja, dialogos, plataforma, carpetas};
-    Aplicacion aplicacion;
 };
 
 }  // namespace trabex::prueba

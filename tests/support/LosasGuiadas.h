@@ -1,9 +1,5 @@
 #pragma once
 
-#include <functional>
-#include <string>
-#include <vector>
-
 #include "slab/ui/LosaDatos.h"
 #include "slab/ui/Losas.h"
 #include "store/Filas.h"

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "shell/CajaMensajes.h"
-#include "shell/DialogosArchivo.h"
-#include "shell/Plataforma.h"
+#include "shell/Aplicacion.h"
+#include "shell/Servicios.h"
+#include "support/CarpetaTemporal.h"
 
 namespace trabex::prueba {
 
@@ -71,6 +71,17 @@ class PlataformaGuiada : public Plataforma {
 
   private:
     std::filesystem::path raiz_;
+};
+
+/// A program on such a machine, whose folder goes with it.
+struct Maquina {
+    CarpetaTemporal carpeta;
+    CajaGuiada caja;
+    DialogosGuiados dialogos;
+    PlataformaGuiada plataforma{carpeta.Camino()};
+    Carpetas carpetas;
+    Servicios servicios{caja, dialogos, plataforma, carpetas};
+    Aplicacion aplicacion;
 };
 
 }  // namespace trabex::prueba

@@ -1,13 +1,8 @@
 #pragma once
 
-#include <filesystem>
-#include <string>
-#include <vector>
-
 #include "slab/CalcularLosa.h"
 #include "slab/salida/ReporteLosas.h"
 #include "support/LosasDePrueba.h"
-#include "support/Lugares.h"
 #include "support/ProyectoDePrueba.h"
 
 namespace trabex::prueba {

@@ -2,7 +2,6 @@
 
 #include <cstdlib>
 #include <sstream>
-#include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
