@@ -101,16 +101,4 @@ inline Losa Nombrada(Losa losa, const std::string& nombre) {
     return losa;
 }
 
-/// Holds the project's write lock, as another program that is writing it would.
-class ProyectoOcupado {
-  public:
-    explicit ProyectoOcupado(const std::filesystem::path& archivo) {
-        AbrirConexion(conexion_, archivo);
-        conexion_.Ejecutar("BEGIN IMMEDIATE");
-    }
-
-  private:
-    Conexion conexion_;
-};
-
 }  // namespace trabex::prueba
