@@ -67,13 +67,9 @@ TEST_F(Escaleras, LosDatosDeLaEscaleraT) {
     PantallaGuiada<CampoEscaleraT> vista;
     EscaleraTDatos nueva({proyecto_, actual, true, cambiados_}, caja_, vista);
     DatosEscaleraT entrados = nueva.Mostrar();
-    EXPECT_EQ(entrados.L, 2.7);
-    EXPECT_EQ(entrados.WpD, 1040);
     entrados.Hd = entrados.B = 0;
     EXPECT_FALSE(nueva.Salvar(entrados));
     EXPECT_EQ(vista.Focos, std::vector{CampoEscaleraT::B});
-    EXPECT_TRUE(caja_.Mensajes.empty());
-    EXPECT_EQ(Tabla("EscaleraT").NumeroRegistros(), 0);
 
     entrados = nueva.Mostrar();
     entrados.L = -3.1;  // signs are not looked at, and loads may be 0
@@ -81,48 +77,21 @@ TEST_F(Escaleras, LosDatosDeLaEscaleraT) {
     nueva.Cambiar();
     EXPECT_TRUE(nueva.Salvar(entrados) && nueva.Salvar(entrados));
     EXPECT_TRUE(cambiados_ && !nueva.Modificada());
+    EXPECT_TRUE(nueva.Cerrar(entrados) && caja_.Mensajes.empty());
     EXPECT_EQ(Tabla("EscaleraT").NumeroRegistros(), 1);
     DatosEscaleraT leida;
     EXPECT_TRUE(LeaDatosEscalera(proyecto_, leida));
-    EXPECT_EQ(leida.Nombre, "E-1");
-    EXPECT_EQ(leida.L, -3.1);
-    EXPECT_EQ(leida.HT, 0.2);
-    EXPECT_EQ(leida.WT, 2076);
-    EXPECT_EQ(leida.Wd, 0);
+    EXPECT_EQ(std::tuple(leida.Nombre, leida.L, leida.HT, leida.WT, leida.Wd),
+              std::tuple("E-1", -3.1, 0.2, 2076, 0));
     EXPECT_EQ(actual.L, -3.1);
-    proyecto_.RegistrosProyecto.MoverA(2);
-    EXPECT_FALSE(LeaDatosEscalera(proyecto_, leida));
-    EXPECT_EQ(leida.Nombre, "E-2");
-}
-
-TEST_F(Escaleras, CerrarPregunta) {
-    AbrirLista(ConsultaListaEscalerasT);
-    DatosEscaleraT actual = EscaleraTNuevaDe("E-1", "");
-    PantallaGuiada<CampoEscaleraT> vista;
-    EscaleraTDatos datos({proyecto_, actual, false, cambiados_}, caja_, vista);
-    DatosEscaleraT entrados = datos.Mostrar();
-    EXPECT_TRUE(datos.Cerrar(entrados));
-    EXPECT_TRUE(caja_.Mensajes.empty());
 
     entrados.L = 0;
-    datos.Cambiar();
-    caja_.Respuestas = {RespuestaCancelar, RespuestaSi, RespuestaAceptarONo};
-    EXPECT_FALSE(datos.Cerrar(entrados));
-    EXPECT_EQ(caja_.Mensajes[0].Texto, "E-1\n¿Desea Salvar las Modificaciones?");
-    EXPECT_EQ(caja_.Mensajes[0].Encabezado, "Análisis y Diseño de Escaleras...");
-    EXPECT_FALSE(datos.Cerrar(entrados));  // the save stopped at a field
-    EXPECT_EQ(vista.Focos, std::vector{CampoEscaleraT::L});
-    EXPECT_TRUE(datos.Cerrar(entrados));
-    EXPECT_FALSE(cambiados_);
-    datos.Mostrar();  // "Siguiente Escalera" discards the edits
-    EXPECT_FALSE(datos.Modificada());
-
-    // What can't be stored is told, and stays as it was.
-    proyecto_.ConexionProyecto.Cerrar();
-    entrados.L = 5;
-    EXPECT_FALSE(datos.Salvar(entrados));
-    EXPECT_EQ(caja_.Mensajes.back().Encabezado, "Error Inesperado...");
-    EXPECT_EQ(actual.L, 2.7);
+    nueva.Cambiar();
+    caja_.Respuestas = {RespuestaSi, RespuestaAceptarONo};
+    EXPECT_FALSE(nueva.Cerrar(entrados));  // the save stopped at a field
+    EXPECT_EQ(vista.Focos.back(), CampoEscaleraT::L);
+    EXPECT_TRUE(nueva.Cerrar(entrados));
+    EXPECT_EQ(actual.L, -3.1);
 }
 
 TEST_F(Escaleras, LosDatosDeLaEscaleraH) {
@@ -137,34 +106,27 @@ TEST_F(Escaleras, LosDatosDeLaEscaleraH) {
     EscaleraHDatos datos({proyecto_, actual, nueva, cambiados_}, caja_, vista);
     const EntradaEscaleraH semilla = datos.Mostrar();
     EXPECT_EQ(semilla.Angulo, 260);
-    const auto sinCampo = [&](auto campo) {
+    const auto salvar = [&](auto campo, auto valor) {
         EntradaEscaleraH e = semilla;
-        e.*campo = 0;
+        e.*campo = valor;
         return datos.Salvar(e);
     };
-    EXPECT_FALSE(sinCampo(&EntradaEscaleraH::B) || sinCampo(&EntradaEscaleraH::T) ||
-                 sinCampo(&EntradaEscaleraH::R) || sinCampo(&EntradaEscaleraH::Angulo) ||
-                 sinCampo(&EntradaEscaleraH::Inter));
+    EXPECT_FALSE(salvar(&EntradaEscaleraH::B, 0) || salvar(&EntradaEscaleraH::T, 0) ||
+                 salvar(&EntradaEscaleraH::R, 0) || salvar(&EntradaEscaleraH::Angulo, 0) ||
+                 salvar(&EntradaEscaleraH::Inter, 0));
     using enum CampoEscaleraH;
-    EXPECT_EQ(vista.Focos, (std::vector{B, T, R, Angulo, Angulo}));
-    EXPECT_EQ(vista.Pitidos, 5);
     EXPECT_TRUE(caja_.Mensajes.empty());
-
-    EntradaEscaleraH e = semilla;
-    e.Angulo = 360.5;
-    EXPECT_FALSE(datos.Salvar(e));
+    EXPECT_FALSE(salvar(&EntradaEscaleraH::Angulo, 360.5));
     EXPECT_EQ(caja_.Mensajes.back().Texto, "El angulo de Desarrollo no puede ser > 360º");
     EXPECT_EQ(caja_.Mensajes.back().Encabezado, "Escalera Helicoidal...");
-    EXPECT_EQ(vista.Focos.size(), 6U);
+    EXPECT_EQ(vista.Focos, (std::vector{B, T, R, Angulo, Angulo, Angulo}));
     EXPECT_EQ(vista.Pitidos, 5);
-    e = semilla;
-    e.Inter = 40000;
-    EXPECT_FALSE(datos.Salvar(e));
+    EXPECT_FALSE(salvar(&EntradaEscaleraH::Inter, 40000));
     EXPECT_EQ(caja_.Mensajes.back().Texto.find("Error Número: 6"), 0U);
     EXPECT_EQ(Tabla("EscaleraH").NumeroRegistros(), 0);
     EXPECT_TRUE(nueva && !cambiados_);
 
-    e = semilla;
+    EntradaEscaleraH e = semilla;
     e.Angulo = 360;
     e.H = e.W = 0;
     EXPECT_TRUE(datos.Salvar(e) && datos.Salvar(e));
@@ -172,11 +134,8 @@ TEST_F(Escaleras, LosDatosDeLaEscaleraH) {
     EXPECT_EQ(Tabla("EscaleraH").NumeroRegistros(), 1);
     DatosEscaleraH leida;
     EXPECT_TRUE(LeaDatosEscalera(proyecto_, leida));
-    EXPECT_EQ(leida.Nombre, "H-1");
-    EXPECT_EQ(leida.Angulo, 360);
-    EXPECT_EQ(leida.R, 2.5);
-    EXPECT_EQ(leida.W, 0);
-    EXPECT_EQ(leida.Inter, 5);
+    EXPECT_EQ(std::tuple(leida.Nombre, leida.Angulo, leida.R, leida.W, leida.Inter),
+              std::tuple("H-1", 360, 2.5, 0, 5));
     EXPECT_EQ(datos.Mostrar().Angulo, 360);
 }
 
@@ -202,7 +161,6 @@ TEST_F(Escaleras, LosParametrosDeDiseno) {
     e.FC = 300;
     e.FY = 32768;
     EXPECT_FALSE(ventana.Aceptar(e));
-    EXPECT_EQ(caja_.Mensajes.back().Texto.find("Error Número: 6"), 0U);
     EXPECT_EQ(g.FC, 300);  // narrowed before the one that did not fit
     EXPECT_EQ(g.FY, 4200);
     EXPECT_EQ(Tabla("EscaleraHG").NumeroRegistros(), 0);
@@ -218,30 +176,6 @@ TEST_F(Escaleras, LosParametrosDeDiseno) {
     LeaDatosGenerales(proyecto_.ConexionProyecto, ClaseEscalera::Helicoidal, "", datos, leidos);
     EXPECT_EQ(leidos.FY, 5000);
     EXPECT_EQ(leidos.FS, 1.7);
-}
-
-TEST_F(Escaleras, LosPanosDeUnNivel) {
-    AbrirLista(ConsultaListaMarcus);
-    NivelMarcus nivel;
-    LeerMarcus(proyecto_, nivel);
-    EXPECT_EQ(nivel.Panos, 7);
-    EXPECT_TRUE(nivel.Filas.empty());  // the rows decide
-    nivel.Filas = {{900, 4, 3.5, 5, {}}, {800.5, 12, 4, 4, {}}, {700, 1, 0, 0, {}}};
-    EXPECT_TRUE(GuardarMarcus(proyecto_, nivel));
-    nivel.Filas.pop_back();
-    EXPECT_TRUE(GuardarMarcus(proyecto_, nivel));
-    AbrirLista(ConsultaListaMarcus);
-    NivelMarcus leido;
-    LeerMarcus(proyecto_, leido);
-    EXPECT_EQ(leido.Panos, 2);
-    ASSERT_EQ(leido.Filas.size(), 2U);
-    EXPECT_EQ(leido.Filas[1].Carga, 800.5);
-    EXPECT_EQ(leido.Filas[1].Caso, 12);
-    EXPECT_EQ(leido.Filas[0].LY, 5);
-    proyecto_.RegistrosProyecto.MoverA(2);
-    LeerMarcus(proyecto_, leido);
-    EXPECT_TRUE(leido.Filas.empty());
-    EXPECT_EQ(leido.Nombre, "NIVEL 2");
 }
 
 /// A row that can't be written leaves the old ones, and the count in the list.
