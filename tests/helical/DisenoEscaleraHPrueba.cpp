@@ -30,7 +30,7 @@ TEST(DisenoEscaleraH, AceroMinimoDeLosaODeViga) {
     EXPECT_NEAR(AceroMinimo(e, {}), 14.0 / 4200 * 27 * 27.5, 1e-12);
 }
 
-/// A whole helix, worked apart: every field of every station of both halves.
+/// A helix worked apart: every field of stations of every kind in both halves.
 TEST(DisenoEscaleraH, HeliceTrabajada) {
     const DatosEscaleraH d = EscaleraHTrabajada();
     ResultadosEscaleraH r;
@@ -46,9 +46,9 @@ TEST(DisenoEscaleraH, HeliceTrabajada) {
         const auto& tramo = superior ? r.TramoSuperior : r.TramoInferior;
         const std::span<const EstacionTrabajada> esperadas =
             superior ? std::span(EstacionesSuperiores) : std::span(EstacionesInferiores);
-        for (std::size_t i = 1; i <= r.NEst; ++i) {
+        for (const EstacionTrabajada& e : esperadas) {
+            const auto i = static_cast<std::size_t>((e.Grados + (superior ? 122 : 0)) / d.Inter + 1);
             const EstacionEscaleraH& p = tramo[i];
-            const EstacionTrabajada& e = esperadas[i - 1];
             const auto igual = [&](double obtenido, double esperado, const char* campo) {
                 EXPECT_NEAR(obtenido, esperado, 1e-5 + 1e-9 * std::fabs(esperado))
                     << campo << " " << e.Grados << (superior ? " superior" : " inferior");

@@ -110,33 +110,18 @@ TEST(HojasEscaleraT, DisenoDelCasoTrabajado) {
          {3.682, "PROGRESIVA (m):", {FilaProgresiva}}});
 }
 
-TEST(HojasEscaleraT, ElEstriboYLaFallaSeLeenDeLaEstacion) {
+TEST(HojasEscaleraT, ElEstriboSeLeeDeLaEstacion) {
     Calculada e(Modelo());
     e.Resultados.TramoT[10].AreaEstribo = 1.27;
     e.Resultados.TramoT[10].SeparacionEstribo = 12.6;
     e.Resultados.TramoT[0].AreaEstribo = 0;
     e.Resultados.TramoT[0].AsTorsion = 1;
-    e.Resultados.DescansoT[1].FallaCorte = TextoFallaCorte;
     const auto diseno = FilasDeDiseno(e.Ver(), {});
     const std::vector<Cifra>& estribos = diseno[4].Lineas[0].Tramo;
     EXPECT_EQ(estribos[0].Texto, "E 1/2@13");
     EXPECT_EQ(estribos[1].Texto, "E 3/8@30");
     EXPECT_EQ(estribos[10].Texto, "E 1/2@30");  // none at all reads so too
     EXPECT_EQ(diseno[0].Lineas[0].Tramo[10].Texto, "3,40");
-    const auto fuerzas = FilasDeSolicitaciones(e.Ver(), {});
-    for (std::size_t fila = 0; fila < fuerzas.size(); ++fila)
-        for (const LineaDeCifras& linea : fuerzas[fila].Lineas)
-            for (std::size_t c = 0; c < linea.Descanso.size(); ++c)
-                EXPECT_EQ(linea.Descanso[c].Falla, fila == 5 && c == 6);
-}
-
-TEST(HojasEscaleraT, SinResultadosTodoEsCero) {
-    const DatosEscaleraT datos = Modelo();
-    const DatosGenerales generales;
-    const ResultadosEscaleraT vacios;
-    const auto filas = FilasDeSolicitaciones({datos, generales, vacios}, {});
-    EXPECT_EQ(En(filas[4].Lineas[0].Tramo), Textos(11, "0"));
-    EXPECT_EQ(En(filas[4].Lineas[0].Descanso), Ceros);
 }
 
 TEST(HojasEscaleraT, PeldanosDeUnTramo) {
