@@ -51,12 +51,6 @@ class NivelesDeMarkus : public testing::Test, public PantallaMarcus {
             niveles.push_back(fila.Nombre + " " + std::to_string(fila.Panos));
         return niveles;
     }
-    /// Text and heading of the last message.
-    std::string Mensaje() const {
-        const auto& mensajes = Programa.caja.Mensajes;
-        return mensajes.empty() ? "" : mensajes.back().Texto + "|" + mensajes.back().Encabezado;
-    }
-
     ProgramaGuiado Programa;
     PantallaEspacioGuiada Espacio;
     std::vector<std::string> Preguntas;
@@ -98,7 +92,7 @@ TEST_F(NivelesDeMarkus, OtroNivelPierdeLoQueNoSeSalvoYAlCerrarSePregunta) {
     Programa.caja.Respuestas = {programa::RespuestaCancelar, programa::RespuestaAceptarONo,
                                 programa::RespuestaSi};
     EXPECT_FALSE(Ventana.PuedeCerrar());
-    EXPECT_EQ(Mensaje(), "¿Desea Salvar las Modificaciones?|Método de Markus...");
+    EXPECT_EQ(Programa.caja.Dicho(), "¿Desea Salvar las Modificaciones?|Método de Markus...");
     Conexion otra;
     AbrirConexion(otra, Programa.aplicacion.ArchivoProyecto);
     otra.Ejecutar("INSERT INTO MarcusDatos VALUES ('Sótano', 1)");
@@ -149,7 +143,7 @@ TEST_F(NivelesDeMarkus, UnBloqueEnUnaColumnaPideSuNumero) {
                 << caso.Respuesta << " fila " << f;
         }
     }
-    EXPECT_EQ(Mensaje(), "Debe Introducir un Número...|Error en Cargas...");
+    EXPECT_EQ(Programa.caja.Dicho(), "Debe Introducir un Número...|Error en Cargas...");
     ASSERT_EQ(Programa.caja.Mensajes.size(), 2U);  // 1250 where the point parts thousands, or 1.25
     EXPECT_EQ(Programa.caja.Mensajes[0].Texto, "Puede leerse 1250 o 1,25: escríbalo sin separador de miles.");
 }
@@ -160,7 +154,8 @@ TEST_F(NivelesDeMarkus, SeCreanRenombranYEliminan) {
         Ventana.Crear();
         EXPECT_EQ(Ventana.Lista().Fila(), 1);
     }
-    EXPECT_EQ(Mensaje(), "Nivel: TECHO\nEl Nivel ya Existe en el Proyecto...|Creando Nuevo Nivel...");
+    EXPECT_EQ(Programa.caja.Dicho(),
+              "Nivel: TECHO\nEl Nivel ya Existe en el Proyecto...|Creando Nuevo Nivel...");
     Respuesta = " Azotea ";
     Ventana.Crear();
     EXPECT_EQ(Niveles(), (Textos{"Piso 1 9", "Techo 4", "Azotea 0"}));
@@ -172,7 +167,7 @@ TEST_F(NivelesDeMarkus, SeCreanRenombranYEliminan) {
     Espacio.Renombrar = [&](programa::Renombrar& o) {
         for (const char* nombre : {" ", "piso 1", "Casa", "Casa"}) {
             o.Aceptar(nombre);
-            mensajes.push_back(Mensaje());
+            mensajes.push_back(Programa.caja.Dicho());
         }
     };
     Programa.caja.Respuestas = {programa::RespuestaAceptarONo, programa::RespuestaAceptarONo,
@@ -187,7 +182,7 @@ TEST_F(NivelesDeMarkus, SeCreanRenombranYEliminan) {
 
     Ventana.SeleccionarNivel(2);
     Ventana.Lista().Eliminar();
-    EXPECT_EQ(Mensaje(),
+    EXPECT_EQ(Programa.caja.Dicho(),
               "Nivel: Piso 1\n¿Esta Usted Seguro de Eliminar El Nivel del Proyecto?|"
               "Eliminar Nivel en Marcus...");
     EXPECT_EQ(Niveles().size(), 3U);
@@ -238,7 +233,7 @@ TEST_F(NivelesDeMarkus, UnNumeroVacioSeAvisaNoSeSalvaYQuedaNuloEnElReporte) {
     EXPECT_TRUE(std::isnan(Pano(2).Reparto.CX) && std::isnan(Pano(3).Reparto.WY));
     EXPECT_EQ(EnUnaLinea(Ventana.Panos().LosAvisos().back()).find("Paño 2: "), 0U);
     EXPECT_FALSE(Ventana.Salvar());
-    EXPECT_EQ(Mensaje().find("Error Número: 13"), 0U);
+    EXPECT_EQ(Programa.caja.Dicho().find("Error Número: 13"), 0U);
     Ventana.Imprimir();
     EXPECT_EQ(Reportes, 1);
     const auto filas = ConsultarSqlite(Programa.carpeta / "Trabajo" / "Temporal.mdb",

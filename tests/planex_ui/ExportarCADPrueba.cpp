@@ -51,8 +51,8 @@ TEST_F(ExportarCAD_, PreguntaEnSuOrdenYNuncaReemplaza) {
     pantalla.Marcas = {};
     ExportarCAD operaciones(aplicacion, servicios, Planex8, pantalla);
     operaciones.ExportarCAD80();
-    EXPECT_EQ(Ultimo().Texto, "No ha Seleccionado Losas para Exportar a Planex Estructural...");
-    EXPECT_EQ(Ultimo().Encabezado, "Planex Estructural 2023");
+    EXPECT_EQ(caja.Dicho(),
+              "No ha Seleccionado Losas para Exportar a Planex Estructural...|Planex Estructural 2023");
     EXPECT_TRUE(dialogos.Peticiones.empty());
 
     const auto viejo = carpeta / "viejo.cad";

@@ -75,8 +75,7 @@ TEST_F(PreviaDeCuadricula, CadaFormatoPideEscribeRegistraYPregunta) {
         EXPECT_EQ(peticion.Nombre, "");
         EXPECT_TRUE(peticion.Guardar && peticion.AvisarReemplazo);
         EXPECT_EQ(peticion.Carpeta, carpetas.ReportesExportados());
-        EXPECT_EQ(caja.Mensajes.back().Texto, caso.Pregunta);
-        EXPECT_EQ(caja.Mensajes.back().Encabezado, caso.Encabezado);
+        EXPECT_EQ(caja.Dicho(), std::string(caso.Pregunta) + "|" + caso.Encabezado);
         EXPECT_EQ(plataforma.Abiertos.back(), archivo);
         EXPECT_NE(LeerArchivo(archivo).find(caso.Contiene), std::string::npos) << caso.Nombre;
         EXPECT_EQ(vista.Esperas, (std::vector<bool>{true, false}));
@@ -100,8 +99,7 @@ TEST_F(PreviaDeCuadricula, CancelarNoHaceNadaYLaFallaSeDice) {
     for (const auto& [formato, texto] : fallas) {
         dialogos.Elegidos = {carpeta / "no existe" / "tabla.xls"};
         const PantallaGuiada vista = Exportar(formato);
-        EXPECT_EQ(caja.Mensajes.back().Texto, texto);
-        EXPECT_EQ(caja.Mensajes.back().Encabezado, "Reportes Exportados...");
+        EXPECT_EQ(caja.Dicho(), texto + std::string("|Reportes Exportados..."));
         EXPECT_EQ(vista.Esperas.back(), false);
     }
     EXPECT_TRUE(plataforma.Abiertos.empty());
@@ -160,8 +158,7 @@ TEST_F(PreviaDeCuadricula, PaginasTituloYZoom) {
 TEST_F(PreviaDeCuadricula, ImprimirPreguntaYTomaSusAjustes) {
     VistaPreviaR operaciones(entorno, grilla, "Cargas", documento::Alineacion::Centro, true);
     EXPECT_FALSE(operaciones.Imprimir({.MargenIzquierdo = 1440, .NumeroDePagina = false}, {2, 3}));
-    EXPECT_EQ(caja.Mensajes.back().Texto, "¿Imprimir el Reporte?");
-    EXPECT_EQ(caja.Mensajes.back().Encabezado, "Reportes del Programa...");
+    EXPECT_EQ(caja.Dicho(), "¿Imprimir el Reporte?|Reportes del Programa...");
     EXPECT_TRUE(impresoras.Impresos.empty());
     EXPECT_EQ(operaciones.Ajustes().MargenIzquierdo, 800);
     caja.Respuestas = {RespuestaSi};

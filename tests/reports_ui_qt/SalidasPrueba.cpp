@@ -97,9 +97,9 @@ TEST_F(SalidasDeReporte, CancelarUnErrorOUnReporteDesconocidoDejanLaVentana) {
     EscribirArchivo(carpetas.CaminoPrograma / "Reportes" / "ResultadosLosa.rpt", "nada\n");
     operaciones.Aceptar(SalidaPantalla);
     ASSERT_EQ(caja.Mensajes.size(), 1U);
-    EXPECT_EQ(caja.Mensajes[0].Encabezado, "Error en el Reporte...");
-    EXPECT_EQ(caja.Mensajes[0].Texto,
-              "Error Número: 321\nResultadosLosa.rpt, línea 1: no existe el elemento \"nada\"");
+    EXPECT_EQ(caja.Dicho(),
+              "Error Número: 321\nResultadosLosa.rpt, línea 1: no existe el elemento \"nada\"|Error en el "
+              "Reporte...");
     impresoras.Nombres.clear();
     EXPECT_EQ(vista.Vistos, 0);
     EXPECT_FALSE(vista.Cerrada || vista.Esperando);

@@ -154,8 +154,9 @@ TEST_F(Arranque, RepararRehaceCadaArchivoElegido) {
     const std::string antes = LeerArchivo(proyectos / "b.los");
     pantalla.Cerrada = false;
     reparacion.Aceptar(proyectos, {"Á.LOS", "b.los"});
-    EXPECT_EQ(caja.Mensajes.back().Texto, "Número de Error: 75\nError de acceso a la ruta o al archivo");
-    EXPECT_EQ(caja.Mensajes.back().Encabezado, "¡Falló la Acción de Reparar Y Compactar el Archivo!");
+    EXPECT_EQ(caja.Dicho(),
+              "Número de Error: 75\nError de acceso a la ruta o al archivo|¡Falló la Acción de Reparar Y "
+              "Compactar el Archivo!");
     EXPECT_EQ(LeerArchivo(proyectos / "b.los"), antes);
     EXPECT_FALSE(pantalla.Cerrada);
 

@@ -142,9 +142,9 @@ TEST_F(Menu_, NuevoSobreUnoExistenteReemplazaSeRespondaLoQueSeResponda) {
         pantalla.Mostradas.clear();
         menu.Ejecutar("ID_Nuevo");
         ASSERT_EQ(caja.Mensajes.size(), 2U);
-        EXPECT_EQ(caja.Mensajes[0].Texto,
-                  "Proyecto: Año Ñ 1.los\n¿Esta Seguro de Reemplazar el Proyecto Existente?");
-        EXPECT_EQ(caja.Mensajes[0].Encabezado, "Crear un Nuevo Proyecto...");
+        EXPECT_EQ(caja.Dicho(),
+                  "Proyecto: Año Ñ 1.los\n¿Esta Seguro de Reemplazar el Proyecto Existente?|Crear un Nuevo "
+                  "Proyecto...");
         EXPECT_EQ(LeerArchivo(archivo), LeerArchivo(Plantilla()));
         EXPECT_EQ(pantalla.Mostradas, std::vector<std::string>{"DatosProyecto"});
         EXPECT_TRUE(pantalla.SalvarComo);
@@ -159,8 +159,7 @@ TEST_F(Menu_, SinPlantillaElNuevoFallaConSuCodigo) {
     std::filesystem::remove(Plantilla());
     dialogos.Elegidos = {archivo};
     menu.Ejecutar("ID_Nuevo");
-    EXPECT_EQ(caja.Mensajes.back().Texto, "Error Número: 53\nNo se encontró el archivo");
-    EXPECT_EQ(caja.Mensajes.back().Encabezado, "Error Inesperado...");
+    EXPECT_EQ(caja.Dicho(), "Error Número: 53\nNo se encontró el archivo|Error Inesperado...");
     EXPECT_FALSE(std::filesystem::exists(archivo));
     EXPECT_EQ(pantalla.Titulo, "Trabex 2024   Proyecto:[obra.los]");
     EXPECT_TRUE(pantalla.Mostradas.empty());

@@ -77,8 +77,7 @@ TEST_F(Espacio, CreaUnaLosaYEntraSusDatos) {
     };
     espacio.CrearNueva();
     ASSERT_EQ(e.caja.Mensajes.size(), 1U);
-    EXPECT_EQ(e.caja.Mensajes[0].Texto, "La Losa: nivel 1\nLa Losa ya Existe en el Proyecto...");
-    EXPECT_EQ(e.caja.Mensajes[0].Encabezado, "Creando Nueva Losa...");
+    EXPECT_EQ(e.caja.Dicho(), "La Losa: nivel 1\nLa Losa ya Existe en el Proyecto...|Creando Nueva Losa...");
     EXPECT_THAT(e.pantalla.Filas, ElementsAre("BALCON", "Nivel 1", "Azotea"));  // last, not in its place
     EXPECT_EQ(espacio.Lista().Fila(), 3);
     const Losa losa = e.Guardada("Azotea");
@@ -95,8 +94,7 @@ TEST_F(Espacio, CopiaTodoLoDeLaSeleccionada) {
     };
     espacio.CrearDesdeSeleccionada();
     ASSERT_EQ(e.caja.Mensajes.size(), 2U);
-    EXPECT_EQ(e.caja.Mensajes[1].Texto, "Crear la Losa: Nivel 2\n\nA Partir de la Losa: Nivel 1\n");
-    EXPECT_EQ(e.caja.Mensajes[1].Encabezado, "Salvar Como...");
+    EXPECT_EQ(e.caja.Dicho(), "Crear la Losa: Nivel 2\n\nA Partir de la Losa: Nivel 1\n|Salvar Como...");
     EXPECT_THAT(e.pantalla.Filas, ElementsAre("BALCON", "Nivel 1", "Nivel 2"));
     const Losa copia = e.Guardada("Nivel 2");
     EXPECT_EQ(copia.Tramos.size(), 4U);
@@ -129,8 +127,8 @@ TEST_F(Espacio, RenombraEnTodasLasTablas) {
 TEST_F(Espacio, EliminaHastaQueNoQuedaNingunaYLosBotonesCallan) {
     espacio.Lista().Eliminar();
     EXPECT_EQ(e.pantalla.Filas.size(), 2U);
-    EXPECT_EQ(e.caja.Mensajes[0].Texto, "Losa: BALCON\n¿Esta Usted Seguro de Eliminar la Losa del Proyecto?");
-    EXPECT_EQ(e.caja.Mensajes[0].Encabezado, "Eliminar la Losa...");
+    EXPECT_EQ(e.caja.Dicho(),
+              "Losa: BALCON\n¿Esta Usted Seguro de Eliminar la Losa del Proyecto?|Eliminar la Losa...");
     espacio.Lista().Seleccionar(2);
     e.caja.Respuestas = {RespuestaSi, RespuestaSi};
     espacio.Lista().Eliminar();

@@ -117,8 +117,7 @@ TEST_F(Escaleras, LosDatosDeLaEscaleraH) {
     using enum CampoEscaleraH;
     EXPECT_TRUE(caja_.Mensajes.empty());
     EXPECT_FALSE(salvar(&EntradaEscaleraH::Angulo, 360.5));
-    EXPECT_EQ(caja_.Mensajes.back().Texto, "El angulo de Desarrollo no puede ser > 360º");
-    EXPECT_EQ(caja_.Mensajes.back().Encabezado, "Escalera Helicoidal...");
+    EXPECT_EQ(caja_.Dicho(), "El angulo de Desarrollo no puede ser > 360º|Escalera Helicoidal...");
     EXPECT_EQ(vista.Focos, (std::vector{B, T, R, Angulo, Angulo, Angulo}));
     EXPECT_EQ(vista.Pitidos, 5);
     EXPECT_FALSE(salvar(&EntradaEscaleraH::Inter, 40000));

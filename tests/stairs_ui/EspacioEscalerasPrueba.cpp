@@ -91,8 +91,8 @@ TEST_F(EspacioEscaleras, CrearYDejarSinSalvarMuestraLaAnterior) {
         EXPECT_FALSE(Agregar("  ", "sin nombre"));
         EXPECT_TRUE(caja.Mensajes.empty());
         EXPECT_FALSE(Agregar(" a ", ""));  // taken, by another case
-        EXPECT_EQ(caja.Mensajes.back().Texto, "La Escalera: a\nLa Escalera ya Existe en el Proyecto...");
-        EXPECT_EQ(caja.Mensajes.back().Encabezado, "Creando Nueva Escalera...");
+        EXPECT_EQ(caja.Dicho(),
+                  "La Escalera: a\nLa Escalera ya Existe en el Proyecto...|Creando Nueva Escalera...");
         return Agregar(" C ", " TERCERA ");
     };
     vista.Datos = [&](const TrabajoEscaleraT& trabajo) {
@@ -158,9 +158,9 @@ TEST_F(EspacioEscaleras, RenombrarTitularYEliminar) {
 
     caja.Respuestas = {RespuestaSi, RespuestaSi};
     espacio.Lista().Eliminar();
-    EXPECT_EQ(caja.Mensajes.back().Texto,
-              "Escalera: Beta\n¿Esta Usted Seguro de Eliminar la Escalera del Proyecto?");
-    EXPECT_EQ(caja.Mensajes.back().Encabezado, "Eliminar Escalera...");
+    EXPECT_EQ(
+        caja.Dicho(),
+        "Escalera: Beta\n¿Esta Usted Seguro de Eliminar la Escalera del Proyecto?|Eliminar Escalera...");
     espacio.Lista().Eliminar();
     EXPECT_TRUE(vista.Filas.empty() && Columna("EscaleraT", "Nombre").empty());
     EXPECT_EQ(vista.Encabezado, "");

@@ -150,9 +150,9 @@ TEST_F(EspacioHelices, TitularYEliminar) {
     EXPECT_EQ(espacio.Calculada().Datos.Titulo, "NUEVO");
     caja.Respuestas.assign(3, RespuestaSi);
     espacio.Lista().Eliminar();
-    EXPECT_EQ(caja.Mensajes.back().Texto,
-              "Escalera: A  (NUEVO)\n¿Esta Usted Seguro de Eliminar la Escalera del Proyecto?");
-    EXPECT_EQ(caja.Mensajes.back().Encabezado, "Eliminar Escalera...");
+    EXPECT_EQ(caja.Dicho(),
+              "Escalera: A  (NUEVO)\n¿Esta Usted Seguro de Eliminar la Escalera del Proyecto?|Eliminar "
+              "Escalera...");
     for (int i = 0; i < 2; ++i) espacio.Lista().Eliminar();
     EXPECT_TRUE(vista.Filas.empty() && Columna("EscaleraH", "Nombre").empty());
     EXPECT_EQ(vista.Encabezado + vista.EnPaneles, "");

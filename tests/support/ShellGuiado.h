@@ -23,6 +23,10 @@ class CajaGuiada : public CajaMensajes {
         Respuestas.pop_front();
         return respuesta;
     }
+    /// Text and heading of the last message, parted by a bar.
+    std::string Dicho() const {
+        return Mensajes.empty() ? "" : Mensajes.back().Texto + "|" + Mensajes.back().Encabezado;
+    }
     std::vector<Mensaje> Mensajes;
     std::deque<std::int16_t> Respuestas;
 };
