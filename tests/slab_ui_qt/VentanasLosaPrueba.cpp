@@ -65,10 +65,9 @@ TEST_F(Ventanas, LosDatosSeEscribenEnLasTablasYLleganAlArchivo) {
     }
     EXPECT_EQ(e.caja.Mensajes.back().Encabezado, "Apoyos Restringidos...");
     apoyos->IrA(4, 1);
-    for (const char* tipo : {"4", "3", "2"})
-        BotonDe(ventana, tipo)->click();  // the last row takes the last two
+    for (const char* tipo : {"4", "3", "2"}) Pulsar(ventana, tipo);  // the last row takes the last two
     EXPECT_EQ(apoyos->FilaActual(), 5);
-    BotonDe(ventana, "Salvar")->click();
+    Pulsar(ventana, "Salvar");
     const Losa losa = e.Guardada("L-1");
     ASSERT_EQ(losa.Tramos.size(), 5U);
     EXPECT_EQ(losa.Tramos[4].LT, 3.75);
@@ -84,14 +83,14 @@ TEST_F(Ventanas, LaSeccionMuestraLoDeSuClase) {
     const auto campo = [&](const char* nombre) { return ventana.findChild<QLineEdit*>(nombre); };
     EXPECT_TRUE(campo("So")->isVisible());
     EXPECT_FALSE(campo("Hm")->isVisible());
-    BotonDe(ventana, "Losa Maciza")->click();
+    Pulsar(ventana, "Losa Maciza");
     EXPECT_FALSE(campo("Bo")->isVisible());
     EXPECT_FALSE(campo("Loseta")->isVisible());
     EXPECT_TRUE(campo("Hm")->isVisible());
     ventana.MostrarPagina(PaginaLosa::Cargas);
     campo("Hm")->clear();
     QTest::keyClicks(campo("Hm"), "0");
-    BotonDe(ventana, "Salvar")->click();
+    Pulsar(ventana, "Salvar");
     EXPECT_EQ(ventana.Pagina(), PaginaLosa::Seccion);
     EXPECT_EQ(ventana.focusWidget(), campo("Hm"));
     EXPECT_TRUE(e.caja.Mensajes.empty());
@@ -141,16 +140,16 @@ TEST_F(Ventanas, LasCargasSeEntranConEnterYSeIgualan) {
             tramo->setValue(3);
             EXPECT_EQ(tramo->value(), 2);
             QTest::keyClick(campos[1], Qt::Key_Tab);
-            BotonDe(carga, "Fijar Carga")->click();
+            Pulsar(carga, "Fijar Carga");
             EXPECT_TRUE(carga.isVisible());
             EXPECT_EQ(carga.focusWidget(), campos[1]);
         }
         escribir(campos[1], "1.120");
         EXPECT_TRUE(campos[1]->toolTip().isEmpty());
         e.caja.Respuestas = {RespuestaSi};
-        BotonDe(carga, "Igualar")->click();
+        Pulsar(carga, "Igualar");
     });
-    BotonDe(ventana, "Carga Uniforme")->click();
+    Pulsar(ventana, "Carga Uniforme");
     auto* cargas = ventana.findChild<TablaDatos*>("Cargas");
     for (int i = 0; i < 3; ++i) {
         EXPECT_EQ(cargas->model()->index(i, 0).data(), "420");
@@ -159,43 +158,50 @@ TEST_F(Ventanas, LasCargasSeEntranConEnterYSeIgualan) {
     EXPECT_TRUE(ventana.LosaModificada());
 }
 
+/// The workspace with one of the operations that other parts give it.
 struct Espacio : Ventanas {
-    Espacio() { e.espacio.Lista().Cerrar(); }
+    Espacio() {
+        e.espacio.Lista().Cerrar();
+        ventana.emplace(e.aplicacion, e.servicios, e.memoria,
+                        OperacionesDeLosas{{"ID_Exportar", [this](Losas&, QWidget&) { ++exportadas; }}},
+                        nullptr);
+        ventana->show();
+        lista = ventana->findChild<QListWidget*>("Lista");
+    }
+    EstadoLosas& Estado() { return ventana->Operaciones().Estado(); }
+
+    int exportadas = 0;
+    std::optional<VentanaLosas> ventana;
+    QListWidget* lista = nullptr;
 };
 
 TEST_F(Espacio, SeleccionaHojaYCargasYDibujaAlMomento) {
-    VentanaLosas ventana(e.aplicacion, e.servicios, e.memoria, {}, nullptr);
-    ventana.show();
-    auto* lista = ventana.findChild<QListWidget*>("Lista");
-    auto* encabezado = ventana.findChild<QLabel*>("Encabezado");
     ASSERT_EQ(lista->count(), 2);
     EXPECT_EQ(lista->currentRow(), 0);
     lista->setCurrentRow(1);
-    EXPECT_EQ(encabezado->text(), "LOSA NERVADA: L-2");
-    ventana.Accion("ID_ZoomIN")->trigger();
-    EXPECT_EQ(ventana.Operaciones().Estado().Hoja.Vista.Zoom, 1.1);
-    ventana.Accion("ID_PanRealtime")->trigger();
+    EXPECT_EQ(ventana->findChild<QLabel*>("Encabezado")->text(), "LOSA NERVADA: L-2");
+    ventana->Accion("ID_ZoomIN")->trigger();
+    EXPECT_EQ(Estado().Hoja.Vista.Zoom, 1.1);
+    ventana->Accion("ID_PanRealtime")->trigger();
     lista->setCurrentRow(0);
-    EXPECT_EQ(ventana.Operaciones().Estado().Hoja.Vista.Zoom, 1);
-    ventana.Accion("ID_ZoomExtents")->trigger();
-    EXPECT_FALSE(ventana.Accion("ID_PanRealtime")->isChecked());
-    BotonDe(ventana, "Permanente + Variable")->click();
-    EXPECT_EQ(ventana.Operaciones().Estado().Hoja.OpcionCarga, CargaPorCasos);
-    QTest::keyClick(&ventana, Qt::Key_Escape);
-    EXPECT_TRUE(ventana.isVisible());
-    EXPECT_EQ(ventana.Accion("ID_Planex")->toolTip(),
+    EXPECT_EQ(Estado().Hoja.Vista.Zoom, 1);
+    ventana->Accion("ID_ZoomExtents")->trigger();
+    EXPECT_FALSE(ventana->Accion("ID_PanRealtime")->isChecked());
+    Pulsar(*ventana, "Permanente + Variable");
+    EXPECT_EQ(Estado().Hoja.OpcionCarga, CargaPorCasos);
+    QTest::keyClick(&*ventana, Qt::Key_Escape);
+    EXPECT_TRUE(ventana->isVisible());
+    EXPECT_EQ(ventana->Accion("ID_Planex")->toolTip(),
               "<b>Exportar a Planex Estructural</b><br>Exportar las losas la programa de dibujo <br>Planex "
               "Estructural 2023. <br>(no disponible en esta edición)");
 }
 
 TEST_F(Espacio, ElPunteroLeeLosDiagramasYElDobleClicAbreLosDatos) {
-    VentanaLosas ventana(e.aplicacion, e.servicios, e.memoria, {}, nullptr);
-    ventana.show();
-    auto* lienzo = ventana.findChild<dibujo::qt::WidgetLienzo*>("Lienzo");
-    const auto* pie = ventana.findChild<QLabel*>("Pie");
+    auto* lienzo = ventana->findChild<dibujo::qt::WidgetLienzo*>("Lienzo");
+    const auto* pie = ventana->findChild<QLabel*>("Pie");
     const QString estado = pie->text();
-    ventana.findChild<QTabBar*>()->setCurrentIndex(1);
-    const HojaLosa& hoja = ventana.Operaciones().Estado().Hoja;
+    ventana->findChild<QTabBar*>()->setCurrentIndex(1);
+    const HojaLosa& hoja = Estado().Hoja;
     const auto en = [&](double metros, double bajo) {
         return QPoint(
             hoja.Vista.OrigenX + static_cast<int>(hoja.Vista.Escala * (hoja.Ejes.EjesX[1] + metros)),
@@ -229,71 +235,60 @@ TEST_F(Espacio, ElPunteroLeeLosDiagramasYElDobleClicAbreLosDatos) {
         EXPECT_TRUE(QTest::qWaitFor([&] { return !vigia.isActive() && celda.first != 0; }));
         return celda;
     };
-    const double LT = ventana.Operaciones().Estado().Abierta.Tramos[1].LT;
+    const double LT = Estado().Abierta.Tramos[1].LT;
     EXPECT_EQ(abierto(en(LT + 0.6, 0), "Luces"), std::pair(2, 0));
     EXPECT_EQ(abierto(en(LT + 0.6, -0.35), "Cargas"), std::pair(2, 0));
     EXPECT_EQ(abierto(en(LT, 0.3), "Apoyos"), std::pair(2, 1));
 }
 
 TEST_F(Espacio, UnaLosaLargaSeVePorGruposQueCompartenUnEje) {
-    VentanaLosas ventana(e.aplicacion, e.servicios, e.memoria, {}, nullptr);
-    ventana.show();
-    EstadoLosas& estado = ventana.Operaciones().Estado();
+    EstadoLosas& estado = Estado();
     estado.Abierta = LosaUniforme(25, 5, 300, 100);
-    ventana.Operaciones().Calcular();
+    ventana->Operaciones().Calcular();
     const auto mostrar = [&](const char* clave) {
-        ventana.Accion(clave)->trigger();
+        ventana->Accion(clave)->trigger();
         return estado.Hoja.Tramos;
     };
     EXPECT_EQ(estado.Hoja.Tramos, (GrupoDeTramos{1, 25}));
     EXPECT_EQ(mostrar("ID_GrupoSiguiente"), (GrupoDeTramos{1, 9}));
-    EXPECT_TRUE(ventana.Accion("ID_PorGrupos")->isChecked());
-    ventana.Accion("ID_ZoomIN")->trigger();
+    EXPECT_TRUE(ventana->Accion("ID_PorGrupos")->isChecked());
+    ventana->Accion("ID_ZoomIN")->trigger();
     EXPECT_EQ(mostrar("ID_GrupoSiguiente"), (GrupoDeTramos{10, 18}));
     EXPECT_EQ(estado.Hoja.Vista.Zoom, 1);
     mostrar("ID_GrupoSiguiente");
     EXPECT_EQ(mostrar("ID_GrupoSiguiente"), (GrupoDeTramos{19, 25}));
     EXPECT_EQ(mostrar("ID_GrupoAnterior"), (GrupoDeTramos{10, 18}));
     EXPECT_EQ(mostrar("ID_PorGrupos"), (GrupoDeTramos{1, 25}));
-    EXPECT_FALSE(ventana.Accion("ID_PorGrupos")->isChecked());
+    EXPECT_FALSE(ventana->Accion("ID_PorGrupos")->isChecked());
 }
 
 TEST_F(Espacio, UnaLosaQueNoSeSostieneSeMarcaYSeDice) {
-    VentanaLosas ventana(e.aplicacion, e.servicios, e.memoria, {}, nullptr);
-    ventana.resize(800, 600);
-    ventana.show();
-    const auto* lista = ventana.findChild<QListWidget*>("Lista");
-    const auto* avisos = ventana.findChild<QLabel*>("Avisos");
+    ventana->resize(800, 600);
+    const auto* avisos = ventana->findChild<QLabel*>("Avisos");
     EXPECT_TRUE(lista->item(0)->icon().isNull());
-    for (EjeLosa& eje : ventana.Operaciones().Estado().Abierta.Ejes) eje.Tipo = SinApoyo;
-    ventana.Operaciones().Calcular();
+    for (EjeLosa& eje : Estado().Abierta.Ejes) eje.Tipo = SinApoyo;
+    ventana->Operaciones().Calcular();
     EXPECT_FALSE(lista->item(0)->icon().isNull());
     EXPECT_TRUE(lista->item(1)->icon().isNull());
     EXPECT_TRUE(avisos->isVisible());
     EXPECT_TRUE(avisos->text().startsWith("Eje 4: La losa no se sostiene")) << avisos->text().toStdString();
     EXPECT_TRUE(avisos->toolTip().contains("no se sostiene"));
     EXPECT_FALSE(lista->item(0)->toolTip().isEmpty());
-    EXPECT_EQ(ventana.width(), 800);  // a long line doesn't widen the window
-    ventana.Operaciones().Lista().Seleccionar(1);
+    EXPECT_EQ(ventana->width(), 800);  // a long line doesn't widen the window
+    ventana->Operaciones().Lista().Seleccionar(1);
     EXPECT_TRUE(lista->item(0)->icon().isNull());
 }
 
 TEST_F(Espacio, LosMandosDeOtrasPartesSeEnchufanYPidenUnaLosa) {
-    int veces = 0;
-    const OperacionesDeLosas otras{{"ID_Exportar", [&](Losas& losas, QWidget&) {
-                                        ++veces;
-                                        EXPECT_EQ(losas.Lista().NumeroDeElementos(), 2);
-                                    }}};
-    VentanaLosas ventana(e.aplicacion, e.servicios, e.memoria, otras, nullptr);
-    EXPECT_FALSE(ventana.Accion("ID_Planex")->isEnabled());
-    ventana.Accion("ID_Exportar")->trigger();
-    EXPECT_EQ(veces, 1);
+    EXPECT_FALSE(ventana->Accion("ID_Planex")->isEnabled());
+    ventana->Accion("ID_Exportar")->trigger();
+    EXPECT_EQ(exportadas, 1);
     e.caja.Respuestas = {RespuestaSi, RespuestaSi};
-    ventana.Accion("ID_Eliminar")->trigger();
-    ventana.Accion("ID_Eliminar")->trigger();
+    ventana->Accion("ID_Eliminar")->trigger();
+    ventana->Accion("ID_Eliminar")->trigger();
     for (const char* clave : {"ID_Exportar", "ID_Editar", "ID_Eliminar", "ID_Generales"})
-        EXPECT_FALSE(ventana.Accion(clave)->isEnabled()) << clave;
-    EXPECT_TRUE(ventana.Accion("ID_Nueva")->isEnabled());
+        EXPECT_FALSE(ventana->Accion(clave)->isEnabled()) << clave;
+    EXPECT_TRUE(ventana->Accion("ID_Nueva")->isEnabled());
 }
 
 /// Letters that Alt reaches in a window, or plain keys in a menu: each must lead to one place.
@@ -311,10 +306,9 @@ void EsperarDistintas(const QString& letras) {
 }
 
 TEST_F(Espacio, TodoSeAlcanzaConElTeclado) {
-    VentanaLosas ventana(e.aplicacion, e.servicios, e.memoria, {}, nullptr);
     QStringList rotulos;
     std::set<QAction*> enMenus;
-    for (const QAction* titulo : ventana.findChild<QMenuBar*>()->actions()) {
+    for (const QAction* titulo : ventana->findChild<QMenuBar*>()->actions()) {
         rotulos << titulo->text();
         QStringList entradas;
         for (QAction* accion : titulo->menu()->actions()) {
@@ -325,16 +319,15 @@ TEST_F(Espacio, TodoSeAlcanzaConElTeclado) {
         EXPECT_EQ(Letras(entradas).size(), entradas.size()) << titulo->text().toStdString();
         EsperarDistintas(Letras(entradas));
     }
-    for (const auto& comando : ComandosLosas) EXPECT_TRUE(enMenus.contains(ventana.Accion(comando.Clave)));
-    for (const auto& comando : ComandosDeVista) EXPECT_TRUE(enMenus.contains(ventana.Accion(comando.Clave)));
-    const auto* hojas = ventana.findChild<QTabBar*>();
+    for (const auto& comando : ComandosLosas) EXPECT_TRUE(enMenus.contains(ventana->Accion(comando.Clave)));
+    for (const auto& comando : ComandosDeVista) EXPECT_TRUE(enMenus.contains(ventana->Accion(comando.Clave)));
+    const auto* hojas = ventana->findChild<QTabBar*>();
     for (int hoja = 0; hoja < hojas->count(); ++hoja) rotulos << hojas->tabText(hoja);
-    for (const auto* rotulo : ventana.findChildren<QLabel*>())
+    for (const auto* rotulo : ventana->findChildren<QLabel*>())
         if (rotulo->buddy() != nullptr) rotulos << rotulo->text();
-    for (const auto* boton : ventana.findChildren<QPushButton*>()) rotulos << boton->text();
-    for (const auto* boton : ventana.findChild<QToolBar*>()->findChildren<QToolButton*>())
+    for (const auto* boton : ventana->findChildren<QPushButton*>()) rotulos << boton->text();
+    for (const auto* boton : ventana->findChild<QToolBar*>()->findChildren<QToolButton*>())
         EXPECT_TRUE((boton->focusPolicy() & Qt::TabFocus) != 0) << boton->text().toStdString();
-    auto* lista = ventana.findChild<QListWidget*>("Lista");
     QTest::keyClick(lista, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QApplication::clipboard()->text(), "L-1");
     EXPECT_EQ(Letras(rotulos).size(), 9) << rotulos.join('|').toStdString();
@@ -344,32 +337,24 @@ TEST_F(Espacio, TodoSeAlcanzaConElTeclado) {
 TEST_F(Espacio, RecuerdaComoSeRepartioLaVentana) {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, Q(e.carpeta.Camino().string()));
     QCoreApplication::setOrganizationName("prueba");
-    QList<int> repartida;
-    {
-        VentanaLosas ventana(e.aplicacion, e.servicios, e.memoria, {}, nullptr);
-        ventana.show();
-        ventana.findChild<QSplitter*>()->setSizes({400, 500});
-        ventana.findChild<QTabBar*>()->setCurrentIndex(2);
-        BotonDe(ventana, "Permanente + Variable")->click();
-        ventana.Accion("ID_PorGrupos")->trigger();
-        repartida = ventana.findChild<QSplitter*>()->sizes();
-        ventana.accept();
-    }
-    VentanaLosas ventana(e.aplicacion, e.servicios, e.memoria, {}, nullptr);
-    ventana.show();
-    EXPECT_EQ(ventana.findChild<QSplitter*>()->sizes(), repartida);
-    EXPECT_EQ(ventana.findChild<QTabBar*>()->currentIndex(), 2);
-    EXPECT_EQ(ventana.Operaciones().Estado().Hoja.VistaActual, VistaLosa(2));
-    EXPECT_EQ(ventana.Operaciones().Estado().Hoja.OpcionCarga, CargaPorCasos);
-    EXPECT_TRUE(ventana.Operaciones().Estado().Hoja.PorGrupos);
-    EXPECT_TRUE(ventana.Accion("ID_PorGrupos")->isChecked());
+    ventana->findChild<QSplitter*>()->setSizes({400, 500});
+    ventana->findChild<QTabBar*>()->setCurrentIndex(2);
+    Pulsar(*ventana, "Permanente + Variable");
+    ventana->Accion("ID_PorGrupos")->trigger();
+    const QList<int> repartida = ventana->findChild<QSplitter*>()->sizes();
+    ventana->accept();
+    VentanaLosas otra(e.aplicacion, e.servicios, e.memoria, {}, nullptr);
+    otra.show();
+    EXPECT_EQ(otra.findChild<QSplitter*>()->sizes(), repartida);
+    EXPECT_EQ(otra.findChild<QTabBar*>()->currentIndex(), 2);
+    EXPECT_EQ(otra.Operaciones().Estado().Hoja.VistaActual, VistaLosa(2));
+    EXPECT_EQ(otra.Operaciones().Estado().Hoja.OpcionCarga, CargaPorCasos);
+    EXPECT_TRUE(otra.Operaciones().Estado().Hoja.PorGrupos);
+    EXPECT_TRUE(otra.Accion("ID_PorGrupos")->isChecked());
     QCoreApplication::setOrganizationName({});
 }
 
 TEST_F(Espacio, CreaConElDeslizadorDeNombres) {
-    VentanaLosas ventana(e.aplicacion, e.servicios, e.memoria, {}, nullptr);
-    ventana.show();
-    auto* lista = ventana.findChild<QListWidget*>("Lista");
     EnLaVentana([&](QWidget& nueva) {
         EXPECT_EQ(nueva.windowTitle(), "CREAR NUEVA LOSA");
         auto* nombre = nueva.findChild<QLineEdit*>("Nombre");
@@ -380,9 +365,9 @@ TEST_F(Espacio, CreaConElDeslizadorDeNombres) {
             EXPECT_EQ(datos.windowTitle(), "Datos Generales Losa: L-0");
             datos.reject();
         });
-        BotonDe(nueva, "Aceptar")->click();
+        Pulsar(nueva, "Aceptar");
     });
-    ventana.Accion("ID_Nueva")->trigger();
+    ventana->Accion("ID_Nueva")->trigger();
     ASSERT_EQ(lista->count(), 3);
     EXPECT_EQ(lista->currentRow(), 2);
     EXPECT_EQ(lista->item(2)->text(), "L-0");
