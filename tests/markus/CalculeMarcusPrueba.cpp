@@ -38,16 +38,6 @@ TEST(Marcus, LasFranjasDescansanIgual) {
     }
 }
 
-TEST(Marcus, PanoCuadrado) {
-    auto panos = UnoPorCaso(1000, 4, 4);
-    CalculeMarcus(panos);
-    constexpr double CX[]{0.5, 0.5, 0.5, 2.0 / 7, 5.0 / 7, 5.0 / 6, 1.0 / 6, 2.0 / 3, 1.0 / 3};
-    for (std::size_t i = 0; i < 9; ++i) EXPECT_NEAR(panos[i].Reparto.CX, CX[i], 1e-12) << i + 1;
-    std::vector<PanoMarcus> alargado{{1, 1, 3, 6, {}}};
-    CalculeMarcus(alargado);
-    EXPECT_NEAR(alargado[0].Reparto.CX, 16.0 / 17, 1e-12);
-}
-
 TEST(Marcus, LongitudesNulasYCasosDeFuera) {
     auto sinX = UnoPorCaso(1000, 0, 5);
     CalculeMarcus(sinX);

@@ -125,8 +125,7 @@ TEST_F(Arranque, RepararRehaceCadaArchivoElegido) {
         ASSERT_TRUE(CrearBaseDatos(proyectos / nombre, EsquemaDeProyecto()));
         ProyectoAbierto proyecto;
         Abrir(proyecto, proyectos / nombre);
-        Losa losa = LosaContinua({4, 5}, 100);
-        ASSERT_TRUE(AgregarLosa(proyecto, losa));
+        ASSERT_TRUE(AgregarLosa(proyecto, LosaContinua({4, 5}, 100)));
     }
     EscribirArchivo(Usuario("Temporales/resto.txt"), "x");
     EXPECT_EQ(ListarProyectos(proyectos),
@@ -194,13 +193,10 @@ TEST_F(Arranque, RepararRehaceCadaArchivoElegido) {
     EXPECT_EQ(caja.Mensajes[1].Texto, "Número de Error: 53\nNo se encontró el archivo");
 }
 
-TEST(CajaMensajes, MedidasYTeclas) {
+TEST(CajaMensajes, Medidas) {
     EXPECT_EQ(AnchoCaja(BotonesCaja::Aceptar, 100, 100), 3900);
     EXPECT_EQ(AnchoCaja(BotonesCaja::SiNo, 5000, 100), 5200);
     EXPECT_EQ(AnchoCaja(BotonesCaja::SiNoCancelar, 100, 20000), 10850);
-    EXPECT_EQ(DisposicionDe(BotonesCaja::Aceptar).Escape, RespuestaAceptarONo);
-    EXPECT_EQ(DisposicionDe(BotonesCaja::SiNo).Escape, std::nullopt);
-    EXPECT_EQ(DisposicionDe(BotonesCaja::SiNoCancelar).Escape, RespuestaCancelar);
 }
 
 }  // namespace

@@ -59,7 +59,7 @@ TEST_F(Ventanas, LaCajaRespondePorBotonYPorEscape) {
         if (caso.tecla != 0)
             QTest::keyClick(&ventana, static_cast<Qt::Key>(caso.tecla));
         else
-            BotonDe(ventana, caso.boton)->click();
+            Pulsar(ventana, caso.boton);
         EXPECT_EQ(ventana.isVisible(), !caso.cierra);
         EXPECT_EQ(ventana.Respuesta(), caso.respuesta);
         EXPECT_GE(ventana.width(), caso.botones == BotonesCaja::Aceptar ? 260 : 286);
@@ -136,7 +136,7 @@ TEST_F(Ventanas, LosDatosTecleadosLleganAlArchivo) {
     const QString largo(121, 'P');
     for (const bool cabe : {false, true}) {
         proyecto->setText(cabe ? "EDIFICIO 1" : largo);
-        BotonDe(ventana, "Salvar")->click();
+        Pulsar(ventana, "Salvar");
         EXPECT_TRUE(ventana.isVisible());  // nothing is cut: the first that does not fit stays and is told
         EXPECT_EQ(ventana.focusWidget(), cabe ? static_cast<QWidget*>(comentario) : proyecto);
         EXPECT_EQ(proyecto->text(), cabe ? "EDIFICIO 1" : largo);
@@ -145,12 +145,12 @@ TEST_F(Ventanas, LosDatosTecleadosLleganAlArchivo) {
     comentario->setPlainText(QString(250, 'a') + "bcdef");
     auto* fecha = ventana.findChild<QLineEdit*>("Fecha");
     fecha->setText("31/02/2024");
-    BotonDe(ventana, "Salvar")->click();
+    Pulsar(ventana, "Salvar");
     EXPECT_TRUE(ventana.isVisible());  // no such day
     EXPECT_EQ(ventana.focusWidget(), fecha);
     EXPECT_TRUE(fecha->toolTip().startsWith("No es una fecha"));
     fecha->setText("29-2-24");
-    BotonDe(ventana, "Salvar")->click();
+    Pulsar(ventana, "Salvar");
     EXPECT_EQ(fecha->text(), "29/02/2024");
     EXPECT_FALSE(ventana.isVisible());
     Conexion conexion;
@@ -171,15 +171,18 @@ TEST_F(Ventanas, UnCeroEnLosGeneralesTomaElFoco) {
     EXPECT_EQ(campos[2]->text(), "0,025");
     campos[1]->clear();
     QTest::keyClicks(campos[1], "40.000");  // 40 or 40000, and that passes 16 bits
-    BotonDe(ventana, "Aceptar")->click();
+    Pulsar(ventana, "Aceptar");
     EXPECT_EQ(ventana.focusWidget(), campos[1]);
     campos[1]->setText("4200");
-    campos[6]->setText("0");
-    BotonDe(ventana, "Aceptar")->click();
-    EXPECT_TRUE(ventana.isVisible());
-    EXPECT_EQ(ventana.focusWidget(), campos[6]);
+    for (const int cero : {4, 6}) {
+        campos[4]->setText(cero == 4 ? "0" : "1,6");
+        campos[6]->setText("0");
+        Pulsar(ventana, "Aceptar");
+        EXPECT_TRUE(ventana.isVisible());
+        EXPECT_EQ(ventana.focusWidget(), campos[cero]);
+    }
     campos[6]->setText("0.85");  // a point does for a comma
-    BotonDe(ventana, "Aceptar")->click();
+    Pulsar(ventana, "Aceptar");
     EXPECT_FALSE(ventana.isVisible());
     EXPECT_EQ(aplicacion.Generales.FiCorte, 0.85);
     EXPECT_EQ(ventana.result(), QDialog::Accepted);
@@ -188,10 +191,10 @@ TEST_F(Ventanas, UnCeroEnLosGeneralesTomaElFoco) {
 TEST_F(Ventanas, LaConfiguracionSeGuardaAlAceptar) {
     caja.Respuestas = {RespuestaSi};
     VentanaConfigurar ventana(aplicacion, servicios, nullptr);
-    BotonDe(ventana, "Ajustar la Imagen")->click();
-    BotonDe(ventana, "Al fondo")->click();
+    Pulsar(ventana, "Ajustar la Imagen");
+    Pulsar(ventana, "Al fondo");
     ventana.findChild<QComboBox*>()->setCurrentIndex(6);
-    BotonDe(ventana, "Aceptar")->click();
+    Pulsar(ventana, "Aceptar");
     EXPECT_TRUE(ventana.Guardada());
     const Tapiz guardada = LeerTapiz(ArchivoTapiz(carpetas), ImagenPorDefecto(carpetas));
     EXPECT_TRUE(guardada.Ajustar);
@@ -210,9 +213,9 @@ TEST_F(Ventanas, LaCapturaSeGuardaAlAceptar) {
             QTimer::singleShot(150, qApp, [&] { visible = ventana.isVisible(); });
             QTimer::singleShot(800, qApp, [&] {
                 EXPECT_EQ(ArchivosDe(carpetas.Tapices()).size(), antes);
-                BotonDe(ventana, "Aceptar")->click();
+                Pulsar(ventana, "Aceptar");
             });
-            BotonDe(ventana, "Capturar Imagen")->click();
+            Pulsar(ventana, "Capturar Imagen");
         });
         ventana.exec();
         EXPECT_FALSE(visible);
@@ -224,10 +227,10 @@ TEST_F(Ventanas, LaReparacionTomaLoElegido) {
     VentanaCompactar ventana(aplicacion, servicios, nullptr);
     ventana.show();
     ASSERT_EQ(ventana.findChild<QListWidget*>()->count(), 1);
-    BotonDe(ventana, "Aceptar")->click();
+    Pulsar(ventana, "Aceptar");
     EXPECT_EQ(caja.Mensajes.back().Encabezado, "Reparar Archivos...");
-    BotonDe(ventana, "Seleccionar Todos")->click();
-    BotonDe(ventana, "Aceptar")->click();
+    Pulsar(ventana, "Seleccionar Todos");
+    Pulsar(ventana, "Aceptar");
     EXPECT_EQ(caja.Mensajes.back().Texto, "¡Se Repararon Y Compactaron ( 1 ) Archivos con Exito!");
     EXPECT_FALSE(ventana.isVisible());
 }
