@@ -62,29 +62,6 @@ TEST(EspacioConFallas, AlAbrirSeMarcanLasLosasQueNoSeSostienen) {
     EXPECT_FALSE(HayFalla(e.pantalla.Puestos));
 }
 
-TEST_F(Espacio, CreaUnaLosaYEntraSusDatos) {
-    e.memoria.UltimoHo = 0.3;
-    e.pantalla.LosaNueva = [&] {
-        EXPECT_FALSE(Nueva("   "));
-        EXPECT_FALSE(Nueva(" nivel 1 "));
-        espacio.Lista().Seleccionar(2);  // the scroller
-        return Nueva("  Azotea ");
-    };
-    e.pantalla.Datos = [&] {
-        EXPECT_EQ(e.pantalla.Encabezado, "LOSA NERVADA: Azotea");
-        EXPECT_EQ(espacio.Estado().Abierta.Tramos.size(), 1U);
-        return false;
-    };
-    espacio.CrearNueva();
-    ASSERT_EQ(e.caja.Mensajes.size(), 1U);
-    EXPECT_EQ(e.caja.Dicho(), "La Losa: nivel 1\nLa Losa ya Existe en el Proyecto...|Creando Nueva Losa...");
-    EXPECT_THAT(e.pantalla.Filas, ElementsAre("BALCON", "Nivel 1", "Azotea"));  // last, not in its place
-    EXPECT_EQ(espacio.Lista().Fila(), 3);
-    const Losa losa = e.Guardada("Azotea");
-    EXPECT_EQ(std::tuple(losa.OpcionMaciza, losa.Bo, losa.Ho, losa.So, losa.Hm, losa.Loseta),
-              std::tuple(false, 0.1, 0.3, 0.5, 0.2, 0.05));
-}
-
 TEST_F(Espacio, CopiaTodoLoDeLaSeleccionada) {
     espacio.Lista().Seleccionar(2);
     e.pantalla.SalvarComo = [&] {

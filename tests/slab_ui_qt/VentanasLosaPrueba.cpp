@@ -354,15 +354,22 @@ TEST_F(Espacio, RecuerdaComoSeRepartioLaVentana) {
     QCoreApplication::setOrganizationName({});
 }
 
-TEST_F(Espacio, CreaConElDeslizadorDeNombres) {
+TEST_F(Espacio, CreaConElDeslizadorDeNombresYEntraSusDatos) {
+    e.memoria.UltimoHo = 0.3;
     EnLaVentana([&](QWidget& nueva) {
         EXPECT_EQ(nueva.windowTitle(), "CREAR NUEVA LOSA");
         auto* nombre = nueva.findChild<QLineEdit*>("Nombre");
         QTest::keyClick(nombre, Qt::Key_Down);
         EXPECT_EQ(lista->currentRow(), 1);
-        QTest::keyClicks(nombre, " L-0 ");
-        EnLaVentana([](QDialog& datos) {
+        for (const char* no : {"   ", " l-1 "}) {
+            nombre->setText(no);
+            Pulsar(nueva, "Aceptar");
+            EXPECT_TRUE(nueva.isVisible());
+        }
+        nombre->setText(" L-0 ");
+        EnLaVentana([this](QDialog& datos) {
             EXPECT_EQ(datos.windowTitle(), "Datos Generales Losa: L-0");
+            EXPECT_EQ(ventana->findChild<QLabel*>("Encabezado")->text(), "LOSA NERVADA: L-0");
             datos.reject();
         });
         Pulsar(nueva, "Aceptar");
@@ -370,7 +377,12 @@ TEST_F(Espacio, CreaConElDeslizadorDeNombres) {
     ventana->Accion("ID_Nueva")->trigger();
     ASSERT_EQ(lista->count(), 3);
     EXPECT_EQ(lista->currentRow(), 2);
-    EXPECT_EQ(lista->item(2)->text(), "L-0");
+    EXPECT_EQ(lista->item(2)->text(), "L-0");  // last, not in its place
+    ASSERT_EQ(e.caja.Mensajes.size(), 1U);
+    EXPECT_EQ(e.caja.Dicho(), "La Losa: l-1\nLa Losa ya Existe en el Proyecto...|Creando Nueva Losa...");
+    const Losa losa = e.Guardada("L-0");
+    EXPECT_EQ(std::tuple(losa.OpcionMaciza, losa.Bo, losa.Ho, losa.So, losa.Hm, losa.Loseta),
+              std::tuple(false, 0.1, 0.3, 0.5, 0.2, 0.05));
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 // The windows of self-supporting stairs through their real widgets, down to the file.
 
+#include <gmock/gmock.h>
+
 #include "drawing/qt/WidgetLienzo.h"
 #include "shell/qt/CampoNumero.h"
 #include "stairs/ui/qt/VentanaEscaleraT.h"
@@ -11,13 +13,9 @@ namespace trabex::prueba {
 using namespace escaleras::ui::qt;
 namespace {
 
-/// Types over what a field holds, and leaves it.
 void Escribir(QWidget& ventana, int campo, const char* texto) {
-    auto* linea = ventana.findChildren<qt::CampoNumero*>().at(campo);
-    linea->setFocus();
-    linea->selectAll();
-    QTest::keyClicks(linea, texto);
-    QTest::keyClick(linea, Qt::Key_Tab);
+    prueba::Escribir(ventana.findChildren<qt::CampoNumero*>().at(campo), texto);
+    QTest::keyClick(ventana.findChildren<qt::CampoNumero*>().at(campo), Qt::Key_Tab);
 }
 
 void PulsarElPrincipal(QWidget& ventana) {
@@ -91,10 +89,10 @@ TEST_F(VentanasEscalera, LoEscritoSeVeSeDescartaYLlegaAlArchivo) {
         datos.reject();
         EXPECT_FALSE(datos.isVisible());
     });
+    EXPECT_NEAR(ventana->Operaciones().Estado().Resultados.ReaccionVertical, 2000 * 2.7, 1e-9);
     lista->setCurrentRow(0);
     lista->setCurrentRow(1);  // read again
     EXPECT_EQ(ventana->Operaciones().Estado().Abierta.WT, 2000);
-    EXPECT_NEAR(ventana->Operaciones().Estado().Resultados.ReaccionVertical, 2000 * 2.7, 1e-9);
 }
 
 TEST_F(VentanasEscalera, CadaPestanaMuestraSuHojaEntera) {
@@ -110,6 +108,7 @@ TEST_F(VentanasEscalera, CadaPestanaMuestraSuHojaEntera) {
 }
 
 TEST_F(VentanasEscalera, LosDatosGeneralesQuedanAbiertosMientrasNoSeGuardan) {
+    lista->setCurrentRow(1);
     Abrir("ID_Generales", [&](QDialog& generales) {
         Escribir(generales, 1, "32768");
         PulsarElPrincipal(generales);
@@ -134,6 +133,7 @@ TEST_F(VentanasEscalera, LosDatosGeneralesQuedanAbiertosMientrasNoSeGuardan) {
 }
 
 TEST_F(VentanasEscalera, SeCreaSeTitulaYSeElimina) {
+    lista->setCurrentRow(2);
     Abrir("ID_Nueva", [&](QDialog& nueva) {
         EXPECT_EQ(nueva.windowTitle(), "CREAR NUEVA ESCALERA");
         auto* nombre = nueva.findChild<QLineEdit*>("Nombre");
@@ -143,9 +143,10 @@ TEST_F(VentanasEscalera, SeCreaSeTitulaYSeElimina) {
             EXPECT_EQ(nueva.focusWidget(), nombre);
         }
         EXPECT_EQ(caja.Mensajes.size(), 1U);
+        EXPECT_EQ(caja.Dicho(),
+                  "La Escalera: b\nLa Escalera ya Existe en el Proyecto...|Creando Nueva Escalera...");
         nombre->setText(" D ");
-        QTimer::singleShot(0, qApp, [] {
-            auto& datos = *QApplication::activeModalWidget();
+        EnLaVentana([](QDialog& datos) {
             EXPECT_EQ(datos.findChild<QLabel*>("Nombre")->text(), "ESCALERA: D");
             EXPECT_EQ(datos.findChildren<qt::CampoNumero*>()[5]->Valor(), 2076);
             datos.close();
@@ -154,7 +155,10 @@ TEST_F(VentanasEscalera, SeCreaSeTitulaYSeElimina) {
     });
     EXPECT_EQ(lista->currentRow(), 3);
     EXPECT_EQ(Encabezado(), "ESCALERA: D");
-    EXPECT_EQ(ventana->Operaciones().Estado().Abierta.L, 2.4);  // left without saving
+    EXPECT_EQ(ventana->Operaciones().Estado().Abierta.Nombre, "D");
+    EXPECT_EQ(ventana->Operaciones().Estado().Abierta.L, 4);  // left without saving: the one before
+    EXPECT_TRUE(lista->item(3)->icon().isNull());             // which fails, and the new one doesn't
+    EXPECT_THAT(Columna("EscaleraTDatos", "Nombre"), testing::ElementsAre("A", "B", "C", "D"));
     Abrir("ID_Titulo", [](QDialog& titulo) {
         titulo.findChild<QLineEdit*>("Titulo")->setText(" CUARTA ");
         PulsarElPrincipal(titulo);
