@@ -2,6 +2,8 @@
 
 #include <set>
 
+#include <gmock/gmock.h>
+
 #include "reports/planex/ui/CuadroCAD.h"
 #include "reports/planex/ui/ExportarCAD.h"
 #include "slab/CalcularLosa.h"
@@ -12,6 +14,8 @@ namespace trabex::prueba {
 
 using namespace planex::ui;
 namespace {
+
+using testing::ElementsAre;
 
 struct PantallaGuiada : PantallaExportarCAD {
     bool Marcada(int fila) const override { return Marcas.contains(fila); }
@@ -42,6 +46,19 @@ class ExportarCAD_ : public Exportacion {
         return Filas(archivo, "SELECT * FROM " + tabla + " WHERE " + Criterio(PorNombre(nombre)))
             .NumeroRegistros();
     }
+    /// What columns of a table hold, each row after its slab's name.
+    std::vector<std::string> Lineas(const std::filesystem::path& archivo, const std::string& tabla,
+                                    const std::vector<std::string>& columnas) {
+        std::string linea = "Nombre";
+        for (const std::string& columna : columnas) linea += " || ' ' || " + columna;
+        Recordset filas = Filas(archivo, "SELECT " + linea + " AS Linea FROM " + tabla + " ORDER BY Nombre");
+        std::vector<std::string> lineas;
+        for (int fila = 1; fila <= filas.NumeroRegistros(); ++fila) {
+            filas.MoverA(fila);
+            lineas.push_back(filas.Texto("Linea"));
+        }
+        return lineas;
+    }
     const Mensaje& Ultimo() const { return caja.Mensajes.back(); }
 
     PantallaGuiada pantalla;
@@ -63,10 +80,9 @@ TEST_F(ExportarCAD_, PreguntaEnSuOrdenYNuncaReemplaza) {
     dialogos.Elegidos = {viejo, nuevo};
     operaciones.ExportarCAD80();
     ASSERT_EQ(caja.Mensajes.size(), 3U);
-    EXPECT_EQ(caja.Mensajes[1].Texto, "viejo.cad Ya Existe...\n¿Desea Usted Reemplazarlo?");
-    EXPECT_EQ(caja.Mensajes[1].Encabezado, "Planex Estructural...");
-    EXPECT_EQ(caja.Mensajes[2].Texto,
-              "nuevo.cad\n¿Anexar las Losas Seleccionadas a Planex Estructural 2023?");
+    EXPECT_EQ(caja.Mensajes[1].Texto + caja.Mensajes[1].Encabezado,
+              "viejo.cad Ya Existe...\n¿Desea Usted Reemplazarlo?Planex Estructural...");
+    EXPECT_EQ(Ultimo().Texto, "nuevo.cad\n¿Anexar las Losas Seleccionadas a Planex Estructural 2023?");
     EXPECT_EQ(LeerArchivo(viejo), "ajeno");
     EXPECT_EQ(Filas(nuevo, "LosaDatos").NumeroRegistros(), 0);  // the template was copied before the question
     EXPECT_FALSE(pantalla.Cerrada);
@@ -97,44 +113,17 @@ TEST_F(ExportarCAD_, LasFilasDeCadaLosa) {
     EXPECT_EQ(aplicacion.Proyecto.RegistrosProyecto.Posicion(), 1);
     EXPECT_EQ(Filas(archivo, "Proyecto").Texto("Comentario"), "dos 'comillas'");
 
-    struct Nervio {
-        const char* losa;
-        int tramo;
-        bool transversal;
-    };
-    for (const Nervio& n : {Nervio{"A MACIZA", 1, false}, Nervio{"B NERVADA", 1, false},
-                            Nervio{"B NERVADA", 2, true}, Nervio{"B NERVADA", 3, false}}) {
-        const Recordset fila = Filas(archivo, std::string("SELECT * FROM LosaNervios WHERE Nombre='") +
-                                                  n.losa + "' AND Tramo=" + std::to_string(n.tramo));
-        ASSERT_EQ(fila.NumeroRegistros(), 1);
-        EXPECT_EQ(fila.Booleano("Opcion"), n.transversal);
-        EXPECT_EQ(std::get<std::string>(fila.Leer("Diametro")), n.transversal ? "1/2" : "");
-        EXPECT_EQ(fila.Doble("Ancho"), n.transversal ? 0.15 : 0);
-    }
-
-    struct Eje {
-        const char* losa;
-        int numero;
-        bool apoyo;
-        double izquierdo, derecho;
-    };
-    for (const Eje& e : {Eje{"A MACIZA", 1, true, 0, 0}, Eje{"A MACIZA", 3, true, 0, 0},
-                         Eje{"B NERVADA", 1, true, 0, 0.15}, Eje{"B NERVADA", 2, true, 0.15, 0.15},
-                         Eje{"B NERVADA", 4, false, 0.1, 0}, Eje{"C SIN TRAMOS", 1, true, 0, 0.15}}) {
-        const Recordset fila = Filas(archivo, std::string("SELECT * FROM LosaEjes WHERE Nombre='") + e.losa +
-                                                  "' AND Numero=" + std::to_string(e.numero));
-        ASSERT_EQ(fila.NumeroRegistros(), 1) << e.losa;
-        EXPECT_EQ(fila.Booleano("Apoyo"), e.apoyo);
-        EXPECT_EQ(fila.Doble("HViga"), e.apoyo ? 0.5 : 0);
-        EXPECT_EQ(fila.Doble("Lizq"), e.apoyo ? 0.15 : 0);
-        EXPECT_EQ(fila.Doble("Lder"), e.apoyo ? 0.15 : 0);
-        EXPECT_EQ(fila.Doble("MczIzq"), e.izquierdo) << e.losa << e.numero;
-        EXPECT_EQ(fila.Doble("MczDer"), e.derecho) << e.losa << e.numero;
-    }
-    const std::array<std::pair<const char*, int>, 4> delVacio{
-        {{"LosaTramos", 0}, {"LosaNervios", 0}, {"LosaEjes", 1}, {"LosaRefTeorico", 1}}};
-    for (const auto& [tabla, filas] : delVacio) EXPECT_EQ(Cuantas(archivo, tabla, "C SIN TRAMOS"), filas);
-    EXPECT_EQ(Filas(archivo, "SELECT * FROM LosaDatos WHERE Nombre='C SIN TRAMOS'").Entero16("NT"), 0);
+    EXPECT_THAT(Lineas(archivo, "LosaNervios", {"Tramo", "Opcion", "Ancho", "Diametro"}),
+                ElementsAre("A MACIZA 1 0 0.0 ", "A MACIZA 2 0 0.0 ", "B NERVADA 1 0 0.0 ",
+                            "B NERVADA 2 1 0.15 1/2", "B NERVADA 3 0 0.0 "));
+    EXPECT_THAT(Lineas(archivo, "LosaEjes", {"Numero", "Apoyo", "HViga", "Lizq", "Lder", "MczIzq", "MczDer"}),
+                ElementsAre("A MACIZA 1 1 0.5 0.15 0.15 0.0 0.0", "A MACIZA 2 1 0.5 0.15 0.15 0.0 0.0",
+                            "A MACIZA 3 1 0.5 0.15 0.15 0.0 0.0", "B NERVADA 1 1 0.5 0.15 0.15 0.0 0.15",
+                            "B NERVADA 2 1 0.5 0.15 0.15 0.15 0.15", "B NERVADA 3 1 0.5 0.15 0.15 0.15 0.15",
+                            "B NERVADA 4 0 0.0 0.0 0.0 0.1 0.0", "C SIN TRAMOS 1 1 0.5 0.15 0.15 0.0 0.15"));
+    EXPECT_THAT(Lineas(archivo, "LosaDatos", {"NT"}),
+                ElementsAre("A MACIZA 2", "B NERVADA 3", "C SIN TRAMOS 0"));
+    EXPECT_EQ(Cuantas(archivo, "LosaTramos", "C SIN TRAMOS"), 0);
     EXPECT_EQ(Filas(archivo, "SELECT * FROM LosaRefTeorico WHERE Nombre='C SIN TRAMOS'").Doble("AsEje"), 0);
 }
 
@@ -182,10 +171,8 @@ TEST_F(ExportarCAD_, UnFalloAMediasDejaLasFilasAnteriores) {
     EXPECT_EQ(Ultimo().Encabezado, "Error Inesperado...");
     EXPECT_TRUE(Ultimo().Texto.starts_with("Error Número: 75\n"));
     EXPECT_FALSE(pantalla.Cerrada);
-    EXPECT_EQ(Filas(archivo, "SELECT * FROM LosaDatos WHERE Nombre='A MACIZA'").Entero16("EscLosa"), 50);
-    EXPECT_EQ(Filas(archivo, "SELECT * FROM LosaDatos WHERE Nombre='B NERVADA'").Entero16("EscLosa"), 75);
+    EXPECT_THAT(Lineas(archivo, "LosaDatos", {"EscLosa"}), ElementsAre("A MACIZA 50", "B NERVADA 75"));
     EXPECT_EQ(Cuantas(archivo, "LosaRefTeorico", "viejo"), 7);
-    EXPECT_EQ(Cuantas(archivo, "LosaDatos", "C SIN TRAMOS"), 0);
 }
 
 TEST_F(ExportarCAD_, LoQueNoEsDePlanexQuedaComoEstaba) {
@@ -237,15 +224,8 @@ TEST_F(ExportarCAD_, UnaComillaEnElNombreRompeSoloLoSuyo) {
         EXPECT_EQ(Ultimo().Texto, "¡Se Exportaron ( 4 ) Losa(s) con Exito a Planex Estructural!");
     }
     // Its own rows could be neither read nor deleted; its neighbours stand once.
-    Recordset filas = Filas(archivo, "SELECT * FROM LosaDatos ORDER BY Nombre");
-    ASSERT_EQ(filas.NumeroRegistros(), 5);
-    const std::vector<std::pair<std::string, int>> esperadas{
-        {"A MACIZA", 2}, {"B NERVADA", 3}, {"B O'HIGGINS", 0}, {"B O'HIGGINS", 0}, {"C SIN TRAMOS", 0}};
-    for (const auto& [nombre, tramos] : esperadas) {
-        EXPECT_EQ(filas.Texto("Nombre"), nombre);
-        EXPECT_EQ(filas.Entero16("NT"), tramos);
-        filas.MoverAlSiguiente();
-    }
+    EXPECT_THAT(Lineas(archivo, "LosaDatos", {"NT"}),
+                ElementsAre("A MACIZA 2", "B NERVADA 3", "B O'HIGGINS 0", "B O'HIGGINS 0", "C SIN TRAMOS 0"));
 }
 
 }  // namespace
