@@ -1,8 +1,9 @@
-// Runs a fuzz target over each line of a text, or the whole of another file, and over a fixed row of
-// mutations.
+// Runs a fuzz target over each line of a text, or the whole of another file, and over so many mutations of it
+// in a fixed row: fuzz_X SEEDS TIMES.
 
 #include <algorithm>
 #include <cstdint>
+#include <cstdlib>
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -14,8 +15,6 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t largo);
 
 namespace {
-
-constexpr int Mutaciones = 300;
 
 void Probar(const std::string& bytes) {
     LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
@@ -57,11 +56,12 @@ std::vector<std::string> Semillas(const std::string& camino) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    if (argc != 3) return 2;
     std::mt19937 azar(1);
-    const std::vector<std::string> semillas = argc == 2 ? Semillas(argv[1]) : std::vector<std::string>();
+    const std::vector<std::string> semillas = Semillas(argv[1]);
     for (const std::string& semilla : semillas) {
         Probar(semilla);
-        for (int vez = 0; vez < Mutaciones; ++vez) Probar(Mutar(semilla, azar));
+        for (int vez = std::atoi(argv[2]); vez > 0; --vez) Probar(Mutar(semilla, azar));
     }
     std::cout << semillas.size() << " seeds\n";
     return semillas.empty() || semillas.front().empty() ? 1 : 0;

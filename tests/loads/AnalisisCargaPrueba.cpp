@@ -48,24 +48,5 @@ TEST(AnalisisDeCarga, ElNumeroRedondeaLasMitadesAlPar) {
     }
 }
 
-/// The second number is drawn when the first was not found, and it is not looked for.
-TEST(AnalisisDeCarga, ElNumeroSeSorteaDeNuevoCuandoNoSeHallo) {
-    for (const bool hallado : {true, false}) {
-        std::vector<double> sorteo{0.5, 0.25};
-        std::vector<std::int32_t> buscados;
-        const auto azar = [&] {
-            const double valor = sorteo.back();
-            sorteo.pop_back();
-            return valor;
-        };
-        const std::int32_t numero = NumeroNuevo(azar, [&](std::int32_t n) {
-            buscados.push_back(n);
-            return hallado;
-        });
-        EXPECT_EQ(numero, hallado ? 2251 : 4501);
-        EXPECT_EQ(buscados, std::vector<std::int32_t>{2251});
-    }
-}
-
 }  // namespace
 }  // namespace trabex

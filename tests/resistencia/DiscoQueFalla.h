@@ -2,7 +2,6 @@
 
 #include <csignal>
 #include <functional>
-#include <string>
 
 #include <sqlite3.h>
 #include <unistd.h>
@@ -10,7 +9,8 @@
 namespace trabex::prueba {
 
 /// A disk in the place of the engine's own, under everything that it writes: it counts each write, cut,
-/// flush, deletion and lock, and at one of them it does what it was told to.
+/// flush, deletion and lock, and from one of them on it does what it was told to. A flush is not done and a
+/// lock is not waited for: no test cuts the power, and who asks again is answered the same.
 class DiscoQueFalla {
   public:
     enum class Falla { Ninguna, Muerte, Lleno, SoloLectura, Bloqueado, Desaparece };
@@ -19,11 +19,10 @@ class DiscoQueFalla {
         static DiscoQueFalla disco;
         return disco;
     }
-    /// From now on step `paso` fails (from 1; none when 0), and with `persiste` those after it too.
-    void Fallar(Falla falla, long paso, bool persiste = true) {
+    /// From now on step `paso` and those after it fail (from 1; none when 0).
+    void Fallar(Falla falla, long paso) {
         falla_ = falla;
         paso_ = paso;
-        persiste_ = persiste;
         pasos_ = 0;
     }
     long Pasos() const { return pasos_; }
@@ -45,94 +44,81 @@ class DiscoQueFalla {
             auto* propio = reinterpret_cast<Archivo*>(archivo);
             propio->Base.pMethods = nullptr;
             if ((banderas & SQLITE_OPEN_MAIN_JOURNAL) != 0) {
-                if (const int codigo = Instalado().Contar(Paso::Otro, nullptr, nullptr, 0, 0)) return codigo;
+                if (const int codigo = Instalado().Contar(Paso::Otro)) return codigo;
             }
             sqlite3_vfs* real = Instalado().real_;
             const int codigo = real->xOpen(real, nombre, propio->Real(), banderas, salen);
             if (propio->Real()->pMethods != nullptr) propio->Base.pMethods = Metodos();
             return codigo;
         };
-        propio_.xDelete = [](sqlite3_vfs*, const char* nombre, int asentar) {
-            if (const int codigo = Instalado().Contar(Paso::Otro, nullptr, nullptr, 0, 0)) return codigo;
+        propio_.xDelete = [](sqlite3_vfs*, const char* nombre, int) {
+            if (const int codigo = Instalado().Contar(Paso::Otro)) return codigo;
             sqlite3_vfs* real = Instalado().real_;
-            return real->xDelete(real, nombre, asentar);
+            return real->xDelete(real, nombre, 0);
         };
+        propio_.xSleep = [](sqlite3_vfs*, int microsegundos) { return microsegundos; };
         sqlite3_vfs_register(&propio_, 1);
     }
 
-    /// One more step. What it answers is what the engine is told; dying in a write leaves half of it.
-    int Contar(Paso paso, Archivo* archivo, const void* bytes, int largo, sqlite3_int64 donde) {
+    /// One more step, of those that the failure hits. What it answers is what the engine is told; who dies in
+    /// a write leaves half of it.
+    int Contar(Paso paso, const std::function<void()>& escribirLaMitad = {}) {
+        const bool deEscritura = falla_ == Falla::Lleno || falla_ == Falla::SoloLectura;
+        if (deEscritura && paso != Paso::Escritura) return SQLITE_OK;
+        if (falla_ == Falla::Bloqueado && paso != Paso::Cierre) return SQLITE_OK;
         ++pasos_;
-        if (paso_ == 0 || pasos_ < paso_ || (pasos_ > paso_ && !persiste_)) return SQLITE_OK;
-        switch (falla_) {
-            case Falla::Muerte:
-                if (bytes != nullptr)
-                    archivo->Real()->pMethods->xWrite(archivo->Real(), bytes, largo / 2, donde);
-                kill(getpid(), SIGKILL);
-                return SQLITE_IOERR;
-            case Falla::Lleno:
-                return paso == Paso::Escritura ? SQLITE_FULL : SQLITE_OK;
-            case Falla::SoloLectura:
-                return paso == Paso::Escritura ? SQLITE_READONLY : SQLITE_OK;
-            case Falla::Bloqueado:
-                return paso == Paso::Cierre ? SQLITE_BUSY : SQLITE_OK;
-            case Falla::Desaparece:
-                if (pasos_ == paso_ && AlDesaparecer) AlDesaparecer();
-                return SQLITE_OK;
-            case Falla::Ninguna:
-                break;
+        if (paso_ == 0 || pasos_ < paso_) return SQLITE_OK;
+        if (falla_ == Falla::Muerte) {
+            if (escribirLaMitad) escribirLaMitad();
+            kill(getpid(), SIGKILL);
         }
-        return SQLITE_OK;
+        if (falla_ == Falla::Desaparece && pasos_ == paso_) AlDesaparecer();
+        if (falla_ == Falla::Bloqueado) return SQLITE_BUSY;
+        return !deEscritura ? SQLITE_OK : falla_ == Falla::Lleno ? SQLITE_FULL : SQLITE_READONLY;
     }
 
+    template <auto Metodo, class... Argumentos>
+    static int Pasar(sqlite3_file* archivo, Argumentos... argumentos) {
+        sqlite3_file* real = reinterpret_cast<Archivo*>(archivo)->Real();
+        return (real->pMethods->*Metodo)(real, argumentos...);
+    }
     static const sqlite3_io_methods* Metodos() {
-        static const sqlite3_io_methods metodos = [] {
-            sqlite3_io_methods m{};
+        using M = sqlite3_io_methods;
+        static const M metodos = [] {
+            M m{};
             m.iVersion = 1;
-            m.xClose = [](sqlite3_file* f) { return M(f)->xClose(R(f)); };
-            m.xRead = [](sqlite3_file* f, void* b, int n, sqlite3_int64 d) {
-                return M(f)->xRead(R(f), b, n, d);
+            m.xClose = Pasar<&M::xClose>;
+            m.xRead = Pasar<&M::xRead>;
+            m.xFileSize = Pasar<&M::xFileSize>;
+            m.xUnlock = Pasar<&M::xUnlock>;
+            m.xCheckReservedLock = Pasar<&M::xCheckReservedLock>;
+            m.xFileControl = Pasar<&M::xFileControl>;
+            m.xSectorSize = Pasar<&M::xSectorSize>;
+            m.xDeviceCharacteristics = Pasar<&M::xDeviceCharacteristics>;
+            m.xSync = [](sqlite3_file*, int) { return Instalado().Contar(Paso::Otro); };
+            m.xWrite = [](sqlite3_file* f, const void* bytes, int largo, sqlite3_int64 donde) {
+                const int codigo = Instalado().Contar(Paso::Escritura,
+                                                      [&] { Pasar<&M::xWrite>(f, bytes, largo / 2, donde); });
+                return codigo != SQLITE_OK ? codigo : Pasar<&M::xWrite>(f, bytes, largo, donde);
             };
-            m.xWrite = [](sqlite3_file* f, const void* b, int n, sqlite3_int64 d) {
-                const int codigo =
-                    Instalado().Contar(Paso::Escritura, reinterpret_cast<Archivo*>(f), b, n, d);
-                return codigo != SQLITE_OK ? codigo : M(f)->xWrite(R(f), b, n, d);
+            m.xTruncate = [](sqlite3_file* f, sqlite3_int64 largo) {
+                const int codigo = Instalado().Contar(Paso::Otro);
+                return codigo != SQLITE_OK ? codigo : Pasar<&M::xTruncate>(f, largo);
             };
-            m.xTruncate = [](sqlite3_file* f, sqlite3_int64 n) {
-                const int codigo = Instalado().Contar(Paso::Otro, nullptr, nullptr, 0, 0);
-                return codigo != SQLITE_OK ? codigo : M(f)->xTruncate(R(f), n);
-            };
-            m.xSync = [](sqlite3_file* f, int banderas) {
-                const int codigo = Instalado().Contar(Paso::Otro, nullptr, nullptr, 0, 0);
-                return codigo != SQLITE_OK ? codigo : M(f)->xSync(R(f), banderas);
-            };
-            m.xFileSize = [](sqlite3_file* f, sqlite3_int64* n) { return M(f)->xFileSize(R(f), n); };
             m.xLock = [](sqlite3_file* f, int clase) {
-                const int codigo = clase <= SQLITE_LOCK_SHARED
-                                       ? SQLITE_OK
-                                       : Instalado().Contar(Paso::Cierre, nullptr, nullptr, 0, 0);
-                return codigo != SQLITE_OK ? codigo : M(f)->xLock(R(f), clase);
+                const int codigo = clase <= SQLITE_LOCK_SHARED ? SQLITE_OK : Instalado().Contar(Paso::Cierre);
+                return codigo != SQLITE_OK ? codigo : Pasar<&M::xLock>(f, clase);
             };
-            m.xUnlock = [](sqlite3_file* f, int clase) { return M(f)->xUnlock(R(f), clase); };
-            m.xCheckReservedLock = [](sqlite3_file* f, int* s) { return M(f)->xCheckReservedLock(R(f), s); };
-            m.xFileControl = [](sqlite3_file* f, int que, void* dato) {
-                return M(f)->xFileControl(R(f), que, dato);
-            };
-            m.xSectorSize = [](sqlite3_file* f) { return M(f)->xSectorSize(R(f)); };
-            m.xDeviceCharacteristics = [](sqlite3_file* f) { return M(f)->xDeviceCharacteristics(R(f)); };
             return m;
         }();
         return &metodos;
     }
-    static sqlite3_file* R(sqlite3_file* archivo) { return reinterpret_cast<Archivo*>(archivo)->Real(); }
-    static const sqlite3_io_methods* M(sqlite3_file* archivo) { return R(archivo)->pMethods; }
 
     sqlite3_vfs* real_;
     sqlite3_vfs propio_;
     Falla falla_ = Falla::Ninguna;
     long paso_ = 0;
     long pasos_ = 0;
-    bool persiste_ = true;
 };
 
 }  // namespace trabex::prueba
