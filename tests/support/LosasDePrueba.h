@@ -81,16 +81,4 @@ inline Losa LosaDeTipos(std::mt19937& azar, const std::vector<std::int16_t>& tip
     return losa;
 }
 
-/// The slab seen from the other end.
-inline Losa Espejo(const Losa& losa) {
-    Losa espejo = losa;
-    const std::size_t N = losa.Tramos.size() - 1;
-    for (std::size_t i = 1; i <= N; ++i) {
-        Tramo& tramo = espejo.Tramos[i] = losa.Tramos[N + 1 - i];
-        if (tramo.p1 != 0) tramo.L1 = tramo.LT - tramo.L1;
-    }
-    for (std::size_t j = 1; j <= N + 1; ++j) espejo.Ejes[j] = losa.Ejes[N + 2 - j];
-    return espejo;
-}
-
 }  // namespace trabex::prueba
