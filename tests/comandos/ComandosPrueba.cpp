@@ -4,6 +4,7 @@
 #include <set>
 
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include "helical/ui/EscaleraH.h"
 #include "markus/ui/Marcus.h"
@@ -15,7 +16,6 @@
 #include "stairs/ui/EscaleraTG.h"
 #include "stairs/ui/EscaleraTNueva.h"
 #include "stairs/ui/EscaleraTitulo.h"
-#include "support/BaseSqlite.h"
 #include "support/CargasDePrueba.h"
 #include "support/LosasGuiadas.h"
 #include "support/VistasDeCarga.h"
@@ -100,15 +100,20 @@ class ConDiscoQueFalla : public CargasDePrueba {
             hacer(c, lista, vista);
         };
     }
+    /// Every value of every table, as another program reads them.
     static std::string Volcar(const std::filesystem::path& camino) {
-        std::string texto;
-        for (const auto& tabla :
-             ConsultarSqlite(camino, "SELECT name FROM sqlite_master WHERE type = 'table'")) {
-            for (const auto& fila : ConsultarSqlite(camino, "SELECT * FROM \"" + tabla.at("name") + "\"")) {
-                texto += "\n" + tabla.at("name");
-                for (const auto& [columna, valor] : fila) texto += ";" + valor;
-            }
-        }
+        const auto agregar = [](void* texto, int columnas, char** valores, char**) {
+            for (int i = 0; i < columnas; ++i)
+                *static_cast<std::string*>(texto) += std::string(valores[i] ? valores[i] : "NULL") + ";";
+            return 0;
+        };
+        std::string tablas, texto;
+        sqlite3* base = nullptr;
+        sqlite3_open(camino.c_str(), &base);
+        sqlite3_exec(base, "SELECT 'SELECT * FROM ' || quote(name) FROM sqlite_master WHERE type = 'table'",
+                     agregar, &tablas, nullptr);
+        sqlite3_exec(base, tablas.c_str(), agregar, &texto, nullptr);
+        sqlite3_close(base);
         return texto;
     }
     /// The code of the error that was told; 0 when none was.
