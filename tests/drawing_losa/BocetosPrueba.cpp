@@ -3,21 +3,13 @@
 
 #include <set>
 
-#include <gtest/gtest.h>
-
+#include "EnHoja.h"
 #include "drawing/losa/Apoyos.h"
 #include "drawing/losa/GraficoLosaDatos.h"
-#include "support/LienzoGrabador.h"
-#include "support/LosasDePrueba.h"
 
 namespace trabex {
-
-using namespace dibujo;
-using namespace dibujo::losa;
-using namespace losas;
 namespace {
 
-using prueba::LienzoGrabador;
 using Puntos = std::vector<PuntoLienzo>;
 
 /// What is drawn, as texts: "5,00 @338,90", a line's two ends, and a figure's colour with its first and third
@@ -97,6 +89,16 @@ TEST_F(BocetoPrueba, LasCargasDeCadaTramo) {
     VaciarLosa(Datos);
     DibujeLosaCargas(Lienzo, Vista, Datos, {}, {});
     EXPECT_TRUE(Lienzo.Textos.empty());
+}
+
+TEST_F(BocetoPrueba, SeDibujanConDatosAMedioEntrar) {
+    Datos.Tramos[2].LT = 0;
+    Datos.JuntasD.push_back({9, 1, 1});
+    Datos.Ejes.pop_back();
+    DibujeLosaDatos(Lienzo, Vista, Datos, {2, 0}, {});
+    EXPECT_TRUE(Lienzo.Hallar("0,00") && Lienzo.Hallar("5,00"));
+    DibujeLosaCargas(Lienzo, Vista, Datos, {1, 0}, {});
+    EXPECT_TRUE(Lienzo.Hallar("300 + 100"));
 }
 
 TEST(Apoyos, CadaTipoTieneSuSimbolo) {

@@ -1,32 +1,17 @@
 #include <array>
-#include <cmath>
 #include <random>
 
-#include <gtest/gtest.h>
-
-#include "drawing/losa/GraficoLosa.h"
+#include "EnHoja.h"
 #include "drawing/losa/LecturaDeHoja.h"
 #include "drawing/losa/LugaresDeHoja.h"
 #include "drawing/losa/ToqueDeHoja.h"
-#include "slab/CalcularLosa.h"
-#include "support/LienzoGrabador.h"
-#include "support/LosasDePrueba.h"
 
 namespace trabex {
-
-using namespace dibujo;
-using namespace dibujo::losa;
-using namespace losas;
 namespace {
 
-/// A slab on its sheet.
-struct EnHoja {
-    EnHoja(Losa datos, std::uint8_t vista) : Datos(std::move(datos)) {
-        CalcularLosa(Datos, Generales, Resultados);
-        Hoja.VistaActual = vista;
-        RedibujeVista(Lienzo, Hoja, Calculada());
-    }
-    LosaCalculada Calculada() const { return {Datos, Generales, Resultados}; }
+/// A slab on a sheet that is pointed at.
+struct Senalada : EnHoja {
+    Senalada(Losa datos, std::uint8_t vista) : EnHoja(std::move(datos)) { Dibujar(vista); }
     /// `arriba` m over the line of a span, at a part of it.
     PuntoLienzo Punto(std::size_t tramo, double parte, double arriba) const {
         const auto entre = [&](const std::vector<double>& ejes) {
@@ -43,12 +28,6 @@ struct EnHoja {
         while (punto.y < 720 && BandaEn(Hoja, punto.x, punto.y) != cual) ++punto.y;
         return {punto.x, punto.y + 2};
     }
-
-    Losa Datos;
-    DatosGenerales Generales;
-    ResultadosLosa Resultados;
-    HojaLosa Hoja;
-    prueba::LienzoGrabador Lienzo{1280, 720};
 };
 
 TEST(Toque, DiceQueSeVeEnCadaLugar) {
@@ -77,7 +56,7 @@ TEST(Toque, DiceQueSeVeEnCadaLugar) {
                                       {1, 0.5, -1.0, std::nullopt},
                                       {1, -0.5, 0, std::nullopt}}};
     for (const std::uint8_t vista : {VistaGeometria, VistaFuerzas, VistaDiseno}) {
-        const EnHoja hoja(losa, vista);
+        const Senalada hoja(losa, vista);
         for (std::size_t k = 0; k < casos.size(); ++k) {
             const Caso& caso = casos[k];
             EXPECT_EQ(ToqueEn(hoja.Hoja, losa, hoja.Punto(caso.Tramo, caso.Parte, caso.Arriba)),
@@ -92,7 +71,7 @@ TEST(Toque, DiceQueSeVeEnCadaLugar) {
 TEST(Lectura, DiceLosEsfuerzosDeSuEstacionYElAceroQuePiden) {
     std::mt19937 azar(19);
     for (int k = 0; k < 30; ++k) {
-        const EnHoja caso(prueba::LosaAlAzar(azar, false), VistaFuerzas);
+        const Senalada caso(prueba::LosaAlAzar(azar, false), VistaFuerzas);
         const double C = caso.Generales.FCP;
         for (std::size_t i = 1; i < caso.Datos.Tramos.size(); ++i) {
             const Tramo& tramo = caso.Datos.Tramos[i];
@@ -115,7 +94,7 @@ TEST(Lectura, DiceLosEsfuerzosDeSuEstacionYElAceroQuePiden) {
             EXPECT_NEAR(AceroPara(caso.Calculada(), campo->Punto.M).AsInf, diseno.AS2, 0.02);
         }
     }
-    EnHoja maciza(prueba::LosaContinua({4, 4}, 300), VistaFuerzas);
+    Senalada maciza(prueba::LosaContinua({4, 4}, 300), VistaFuerzas);
     maciza.Datos.OpcionMaciza = true;
     EXPECT_EQ(
         TextoDeLectura(maciza.Hoja, maciza.Calculada(), {2, {1.5, 0, -123.4}}),
@@ -127,7 +106,7 @@ TEST(Lectura, ElTecladoPasaPorTodasLasEstacionesYVuelve) {
     Losa losa = prueba::LosaContinua({4, 5}, 300);
     losa.Tramos[1].p1 = 500;
     losa.Tramos[1].L1 = 2;  // on a station, which comes twice
-    const EnHoja caso(losa, VistaFuerzas);
+    const Senalada caso(losa, VistaFuerzas);
     std::vector<EstacionDeHoja> pasos;
     std::optional<EstacionDeHoja> actual;
     for (int k = 0; k < 45; ++k) {
@@ -147,7 +126,7 @@ TEST(Lectura, ElTecladoPasaPorTodasLasEstacionesYVuelve) {
         EXPECT_EQ(actual->Punto.V, pasos[k].Punto.V);
     }
     EXPECT_TRUE(MiraDe(caso.Hoja, *actual));
-    const EnHoja otra(losa, VistaDiseno);
+    const Senalada otra(losa, VistaDiseno);
     EXPECT_FALSE(MiraDe(otra.Hoja, *actual));
     EXPECT_FALSE(EstacionVecina(otra.Hoja, otra.Calculada(), std::nullopt, true));
 }

@@ -1,24 +1,13 @@
 // What each sheet of a slab says: every text, of which axis or span it tells and on which row, arrow and
 // side, taken from the records of the calculation by the rules that stand here. No text is left over.
 
-#include <cmath>
 #include <map>
 
-#include <gtest/gtest.h>
-
-#include "drawing/losa/GraficoLosa.h"
-#include "slab/CalcularLosa.h"
-#include "support/LienzoGrabador.h"
-#include "support/LosasDePrueba.h"
+#include "EnHoja.h"
 
 namespace trabex {
-
-using namespace dibujo;
-using namespace dibujo::losa;
-using namespace losas;
 namespace {
 
-using prueba::LienzoGrabador;
 using Texto = LienzoGrabador::TextoGrabado;
 using T = EsfuerzosTramo;
 
