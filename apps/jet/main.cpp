@@ -3,7 +3,7 @@
 //
 //     trabex-jet OLD.mdb NEW.db
 //
-// Exit status 0 done, 2 bad usage, 3 it can't be read, 4 the new file can't be written.
+// Exit status 0 done, 2 bad usage, 3 it can't be read, 4 the new file can't be written, 5 the disk is full.
 
 #include "base/Archivos.h"
 #include "jet/lector/LeerJet.h"
@@ -34,5 +34,6 @@ int main(int argc, char** argv) {
     Limitar();
     trabex::almacen::antiguo::CopiaDeJet copia(trabex::CaminoDeTexto(argv[2]));
     if (!trabex::jet::lector::LeerJet(trabex::CaminoDeTexto(argv[1]), copia)) return 3;
-    return copia.Terminar() ? 0 : 4;
+    if (copia.Terminar()) return 0;
+    return copia.Causa() == trabex::CodigoError::DiscoLleno ? 5 : 4;
 }

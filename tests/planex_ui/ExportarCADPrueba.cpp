@@ -210,6 +210,9 @@ TEST_F(ExportarCAD_, LoQueNoSeConservaSePreguntaYQuedaAlLado) {
         EXPECT_EQ(Cuantas(archivo, "LosaDatos", "B NERVADA"), sigue ? 1 : 0);
     }
     EXPECT_EQ(prueba::LeerArchivo(ocupado), "de nadie");
+    std::filesystem::create_directories(carpeta / "obra.cad.trabajo" / "ocupado");
+    Exportar({1}, ArchivoCAD::AnexarAExistente, archivo);
+    EXPECT_TRUE(Ultimo().Texto.starts_with("Error Número: 75\n")) << Ultimo().Texto;
 }
 
 TEST_F(ExportarCAD_, UnaComillaEnElNombreRompeSoloLoSuyo) {

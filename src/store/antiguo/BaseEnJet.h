@@ -15,6 +15,7 @@ namespace trabex::almacen::antiguo {
 class BaseEnJet {
   public:
     /// `programa` is the program folder, `trabajo` the file where it is held meanwhile; it goes at the end.
+    /// Throws ErrorEjecucion when that can't be written.
     BaseEnJet(const std::filesystem::path& programa, const std::filesystem::path& archivo,
               std::filesystem::path trabajo);
     ~BaseEnJet();

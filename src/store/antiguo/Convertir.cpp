@@ -163,9 +163,13 @@ bool EsBaseAntigua(const std::filesystem::path& camino) {
 bool CopiarBaseAntigua(const std::filesystem::path& programa, const std::filesystem::path& antigua,
                        const std::filesystem::path& destino) {
     Quitar(destino);
-    const bool leida = CorrerPrograma(programa / "trabex-jet", {antigua, destino}, Plazo) == 0;
-    if (!leida) Quitar(destino);
-    return leida;
+    constexpr int Hecho = 0, NoSePuedeEscribir = 4, DiscoLleno = 5;
+    const std::optional<int> estado = CorrerPrograma(programa / "trabex-jet", {antigua, destino}, Plazo);
+    if (estado == Hecho) return true;
+    Quitar(destino);
+    if (estado == NoSePuedeEscribir) throw ErrorEjecucion(CodigoError::ErrorAccesoRuta);
+    if (estado == DiscoLleno) throw ErrorEjecucion(CodigoError::DiscoLleno);
+    return false;
 }
 
 std::optional<Perdidas> ConvertirBaseAntigua(const std::filesystem::path& programa,
@@ -175,9 +179,9 @@ std::optional<Perdidas> ConvertirBaseAntigua(const std::filesystem::path& progra
     if (Existe(nueva)) return std::nullopt;
     const std::filesystem::path copia = std::filesystem::path(nueva) += ".copia";
     const AlSalir quitar([&] { Quitar(copia); });
-    if (!CopiarBaseAntigua(programa, antigua, copia)) return std::nullopt;
     Perdidas perdidas;
     try {
+        if (!CopiarBaseAntigua(programa, antigua, copia)) return std::nullopt;
         CopiarArchivo(plantilla, nueva);
     } catch (const ErrorEjecucion&) {
         return std::nullopt;

@@ -12,7 +12,7 @@ bool EsBaseAntigua(const std::filesystem::path& camino);
 
 /// Reads a Jet database into a new file of the store's, with every table it holds, in a process of its own
 /// (`trabex-jet` in the program folder) that a deadline and limits hold. False, and no file, when it can't be
-/// read.
+/// read. Throws ErrorEjecucion when `destino` can't be written: 61 on a full disk, else 75.
 bool CopiarBaseAntigua(const std::filesystem::path& programa, const std::filesystem::path& antigua,
                        const std::filesystem::path& destino);
 

@@ -26,6 +26,8 @@ class CopiaDeJet : public jet::Receptor {
     void RecibirFalta(jet::Falta falta) override;
     /// False when the file could not be made or something could not be stored.
     bool Terminar();
+    /// The run-time error that stands for why not.
+    CodigoError Causa() const { return motor_.Causa(); }
 
   private:
     void Anotar(const std::string& tabla, std::size_t orden, const jet::Columna& columna);
