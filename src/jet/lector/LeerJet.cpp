@@ -58,7 +58,10 @@ std::optional<std::string> ValorLargo(MdbHandle* base, std::string_view cabecera
     if (cabecera.size() < CabeceraLarga) return std::nullopt;
     const auto marca = Leer<std::uint32_t>(cabecera.data());
     const std::size_t largo = marca & MascaraLargo;
-    if (marca & EnLaFila) return std::string(cabecera.substr(CabeceraLarga, largo));
+    if (marca & EnLaFila) {
+        if (cabecera.size() - CabeceraLarga < largo) return std::nullopt;
+        return std::string(cabecera.substr(CabeceraLarga, largo));
+    }
     auto donde = Leer<std::uint32_t>(cabecera.data() + 4);
     std::string valor;
     while (valor.size() < largo) {
@@ -66,11 +69,15 @@ std::optional<std::string> ValorLargo(MdbHandle* base, std::string_view cabecera
         int lugar = 0;
         std::size_t hay = 0;
         if (mdb_find_pg_row(base, static_cast<int>(donde), &pagina, &lugar, &hay)) return std::nullopt;
-        const char* trozo = static_cast<const char*>(pagina) + lugar;
-        if (marca & EnUnaPagina) return std::string(trozo, std::min(hay, largo));
-        if (hay <= 4) return std::nullopt;
-        donde = Leer<std::uint32_t>(trozo);
-        valor.append(trozo + 4, hay - 4);
+        std::string_view trozo(static_cast<const char*>(pagina) + lugar, hay);
+        if (marca & EnUnaPagina) {
+            donde = 0;
+        } else {
+            if (hay <= 4) return std::nullopt;
+            donde = Leer<std::uint32_t>(trozo.data());
+            trozo.remove_prefix(4);
+        }
+        valor += trozo.substr(0, largo - valor.size());
         if (donde == 0) break;
     }
     return valor.size() < largo ? std::nullopt : std::optional(std::move(valor));
