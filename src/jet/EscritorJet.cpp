@@ -102,7 +102,7 @@ void Encabezar(Pagina& pagina, double ahora) {
     // bytes.
     const auto mascara = static_cast<std::uint32_t>(ahora);
     for (std::size_t i = 0; i < 40; i += 4) clara.Largo(LugarClave + i, mascara);
-    clara.Largo(LugarOrden, 0x0409);
+    clara.Largo(LugarOrden, OrdenGeneral);
     const auto fecha = std::bit_cast<std::uint64_t>(ahora);
     clara.Largo(LugarFecha, static_cast<std::uint32_t>(fecha));
     clara.Largo(LugarFecha + 4, static_cast<std::uint32_t>(fecha >> 32));

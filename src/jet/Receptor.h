@@ -11,6 +11,7 @@ enum class Falta : std::uint8_t {
     Indice,    ///< of a table of users; keys are such
     Objeto,    ///< a relation, query, form, table of another file, property of the whole, …
     Clave,     ///< a password, or pages that lie under a key
+    Orden,     ///< an order of texts other than the general one
     Formato,   ///< it is of Jet 3: the properties of its tables go too
     Ilegible,  ///< a table of users that can't be read whole
 };

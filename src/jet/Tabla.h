@@ -34,6 +34,9 @@ struct Columna {
     bool Automatica = false;  ///< a Largo or Guid that the engine fills in a new row
 };
 
+/// The order of texts that files are written in.
+inline constexpr std::uint16_t OrdenGeneral = 0x0409;
+
 struct Tabla {
     std::string Nombre;
     std::vector<Columna> Columnas;

@@ -12,7 +12,6 @@ namespace {
 
 /// They stand in every definition that the original engine writes, and no reader asks for them.
 constexpr std::uint32_t SelloTabla = 1625, SelloIndice = 1923;
-constexpr std::uint16_t OrdenGeneral = 0x0409;
 /// Marks of a column.
 constexpr std::uint32_t Automatica = 0x04, AutomaticaGuid = 0x40;
 constexpr std::size_t ColumnasDeIndice = 10;

@@ -224,9 +224,11 @@ TEST(Jet, LoQueNoSeConservaSeDice) {
     EXPECT_TRUE(faltas().empty());
     std::string roto = prueba::LeerArchivo(uno);
     roto[0x44] ^= 1;  // its password
+    roto[0x6E] ^= 3;  // its order of texts
     roto[roto.find("original") / 4096 * 4096] = 9;
     prueba::EscribirArchivo(uno, roto);
-    EXPECT_EQ(faltas(), (std::map<Falta, std::size_t>{{Falta::Clave, 1}, {Falta::Ilegible, 1}}));
+    EXPECT_EQ(faltas(),
+              (std::map<Falta, std::size_t>{{Falta::Clave, 1}, {Falta::Orden, 1}, {Falta::Ilegible, 1}}));
 }
 
 /// What the old file has that the program's columns refuse is null and counted; a table that it has not is

@@ -247,6 +247,7 @@ bool LeerJet(const std::filesystem::path& archivo, Receptor& receptor) {
     if (!base) return false;
     if (IS_JET3(base.get())) receptor.RecibirFalta(Falta::Formato);
     if (TieneClave(base.get())) receptor.RecibirFalta(Falta::Clave);
+    if (base->f->lang_id != OrdenGeneral) receptor.RecibirFalta(Falta::Orden);
     const GPtrArray* entradas = mdb_read_catalog(base.get(), MDB_TABLE);
     if (entradas == nullptr) return false;
     Catalogo catalogo(receptor);

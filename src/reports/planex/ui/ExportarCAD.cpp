@@ -40,10 +40,11 @@ struct NoConservado {
     const char* Texto;
     bool SeCuenta = true;
 };
-constexpr std::array<NoConservado, 5> NoConservados{{
+constexpr std::array<NoConservado, 6> NoConservados{{
     {jet::Falta::Indice, "Índices y Claves de sus Tablas"},
     {jet::Falta::Objeto, "Relaciones, Consultas, Formularios y otros Objetos"},
     {jet::Falta::Clave, "Su Contraseña o Cifrado", false},
+    {jet::Falta::Orden, "El Orden Alfabético de sus Textos", false},
     {jet::Falta::Formato, "Su Formato Anterior y los Valores por Defecto de sus Columnas", false},
     {jet::Falta::Ilegible, "Tablas que no se pudieron Leer Completas"},
 }};
