@@ -215,6 +215,9 @@ class Lote(unittest.TestCase):
         imagenes = subprocess.run(["pdfimages", "-list", self.carpeta / "salida" / "memoria.pdf"], capture_output=True,
                                   text=True).stdout
         self.assertEqual(len(imagenes.splitlines()), 2, "its sheets are strokes, not pictures")
+        sola = (self.carpeta / "salida" / "memoria.htm").read_bytes()
+        self.resultados("--solo=memoria,reportes")  # with the reports' drawings
+        self.assertEqual((self.carpeta / "salida" / "memoria.htm").read_bytes(), sola)
 
     def planex(self):
         """The exchange file's rows by table, as mdbtools reads them."""

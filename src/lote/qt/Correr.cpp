@@ -62,7 +62,7 @@ class Salidas {
             std::vector<ArchivoDeMemoria> archivos;
             for (const char* extension : {".pdf", ".htm", ".rtf", ".xls"})
                 archivos.push_back({opciones_.Carpeta / (std::string("memoria") + extension), extension});
-            EscribirMemoria(calculado_, !opciones_.SinDibujos, {}, archivos, marcha_, faltas_);
+            EscribirMemoria(calculado_, !opciones_.SinDibujos, {}, archivos, marcha_, faltas_, &pinturas_);
             Cerrar("Memoria de cálculo", opciones_.Carpeta / "memoria.pdf");
         }
     }
@@ -123,15 +123,19 @@ class Salidas {
             if (!lista.De->Reportes) continue;
             hay = true;
             EscribirReportes(CarpetaDelPrograma(), lista, calculado_.Datos, !opciones_.SinDibujos,
-                             opciones_.Carpeta, marcha_, faltas_);
+                             opciones_.Carpeta, marcha_, faltas_, ParaLaMemoria());
         }
         if (hay) Cerrar("Reportes", opciones_.Carpeta / "reportes");
     }
+
+    /// Where drawings are kept when the memo is to show them too.
+    Pinturas* ParaLaMemoria() { return opciones_.Solo.contains(SalidaMemoria) ? &pinturas_ : nullptr; }
 
     const ProyectoCalculado& calculado_;
     const Opciones& opciones_;
     const Marcha& marcha_;
     Faltas faltas_;
+    Pinturas pinturas_;
     std::string cierreDeResultados_, cierreDeIntercambios_, cierre_;
 };
 

@@ -28,13 +28,15 @@ constexpr std::size_t DibujosALaVez = 48;  // what is drawn and not yet staged s
 class ReportesDeLista {
   public:
     ReportesDeLista(const montaje::EntornoReportes& entorno, const std::filesystem::path& destino,
-                    const Lista& lista, const DatosDelProyecto& datos, const Marcha& marcha, Faltas& faltas)
+                    const Lista& lista, const DatosDelProyecto& datos, const Marcha& marcha, Faltas& faltas,
+                    Pinturas* pinturas)
         : entorno_(entorno),
           destino_(destino),
           lista_(lista),
           datos_(datos),
           marcha_(marcha),
-          faltas_(faltas) {
+          faltas_(faltas),
+          pinturas_(pinturas) {
         motor_.Registrar(salidas::FormatoPdf, salidas::qt::EscribirPdf);
     }
 
@@ -83,10 +85,16 @@ class ReportesDeLista {
     }
 
     void MontarDibujos(almacen::Conexion& temporal) {
-        std::vector<std::pair<const Elemento*, Dibujo>> dibujos;
+        struct DeElemento {
+            const Elemento* Suyo;
+            std::size_t Numero;
+            Dibujo Hoja;
+        };
+        std::vector<DeElemento> dibujos;
         for (const Elemento& elemento : lista_.Elementos) {
+            std::size_t numero = 0;
             for (Dibujo& dibujo : lista_.De->Dibujos(lista_, elemento))
-                dibujos.emplace_back(&elemento, std::move(dibujo));
+                dibujos.push_back({&elemento, numero++, std::move(dibujo)});
         }
         montaje::TablaGraficos tabla(temporal);
         for (std::size_t desde = 0; desde < dibujos.size(); desde += DibujosALaVez) {
@@ -94,12 +102,13 @@ class ReportesDeLista {
             EnParalelo(marcha_.Hilos, tanda.size(), [&](std::size_t i, unsigned) {
                 montaje::qt::SuperficieQt superficie;
                 superficie.Dibujar(dibujo::AnchoGraficoTwips, dibujo::AltoGraficoTwips,
-                                   dibujos[desde + i].second.Dibujar);
+                                   dibujos[desde + i].Hoja.Dibujar);
                 tanda[i] = superficie.Imagen();
                 if (desde + i + 1 == dibujos.size()) montaje::DejarFoto(entorno_, superficie.Foto());
             });
             for (std::size_t i = 0; i < tanda.size(); ++i) {
-                const auto& [elemento, dibujo] = dibujos[desde + i];
+                const auto& [elemento, numero, dibujo] = dibujos[desde + i];
+                if (pinturas_) pinturas_->Guardar(*elemento, numero, tanda[i].Trazos, tanda[i].Png);
                 for (const auto& [columna, valor] : dibujo.Columnas) tabla.Poner(columna, valor);
                 tabla.Agregar(elemento->Nombre, dibujo.Titulo, std::move(tanda[i]));
                 if (marcha_.Avance) marcha_.Avance("Montando los gráficos", desde + i + 1, dibujos.size());
@@ -135,6 +144,7 @@ class ReportesDeLista {
     const DatosDelProyecto& datos_;
     const Marcha& marcha_;
     Faltas& faltas_;
+    Pinturas* pinturas_;
     salidas::MotorReportes motor_;
 };
 
@@ -142,13 +152,13 @@ class ReportesDeLista {
 
 void EscribirReportes(const std::filesystem::path& programa, const Lista& lista,
                       const DatosDelProyecto& datos, bool dibujos, const std::filesystem::path& carpeta,
-                      const Marcha& marcha, Faltas& faltas) {
+                      const Marcha& marcha, Faltas& faltas, Pinturas* pinturas) {
     const std::filesystem::path destino = carpeta / "reportes";
     const montaje::EntornoReportes entorno{programa, carpeta / "Trabajo" / lista.De->Clave, ""};
     std::error_code error;
     std::filesystem::create_directories(destino, error);
     std::filesystem::create_directories(entorno.Trabajo, error);
-    ReportesDeLista reportes(entorno, destino, lista, datos, marcha, faltas);
+    ReportesDeLista reportes(entorno, destino, lista, datos, marcha, faltas, pinturas);
     if (dibujos && lista.De->Reportes->Graficos) reportes.Graficos();
     if (lista.De->Reportes->Resultados) reportes.Resultados();
 }

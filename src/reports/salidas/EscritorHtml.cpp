@@ -66,7 +66,7 @@ std::string Escapado(std::string_view texto) {
     return salida;
 }
 
-void AgregarEscapado(std::string& salida, std::string_view texto) {
+void AgregarMarcado(std::string& salida, std::string_view texto) {
     if (EsLlano(texto, "&<>\""))
         salida += texto;
     else
@@ -193,8 +193,8 @@ void PaginaHtml::Fila(std::string& salida, const documento::Tabla& tabla,
         if (abarca > 1) salida += " colspan=\"" + std::to_string(abarca) + "\"";
         salida += '>';
         if (i < fila.Celdas.size())
-            AgregarEscapado(salida, documento::TextoDeValor(fila.Celdas[i], tabla.Columnas[i].Formato,
-                                                            documento_.Locales));
+            AgregarMarcado(salida, documento::TextoDeValor(fila.Celdas[i], tabla.Columnas[i].Formato,
+                                                           documento_.Locales));
         salida += "</td>";
     }
     salida += "</tr>\n";

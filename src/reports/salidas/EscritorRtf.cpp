@@ -51,7 +51,7 @@ std::string Escapado(std::string_view texto) {
     return salida;
 }
 
-void AgregarEscapado(std::string& salida, std::string_view texto) {
+void AgregarLetras(std::string& salida, std::string_view texto) {
     if (EsLlano(texto, "\\{}"))
         salida += texto;
     else
@@ -249,8 +249,8 @@ std::string TextoRico::De(const documento::Tabla& tabla) const {
             lado = suyo;
             if (i < fila.Celdas.size()) {
                 salida += ' ';
-                AgregarEscapado(salida, documento::TextoDeValor(fila.Celdas[i], tabla.Columnas[i].Formato,
-                                                                documento_.Locales));
+                AgregarLetras(salida, documento::TextoDeValor(fila.Celdas[i], tabla.Columnas[i].Formato,
+                                                              documento_.Locales));
             }
             salida += "\\cell";
         }
