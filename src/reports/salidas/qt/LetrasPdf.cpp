@@ -113,7 +113,7 @@ bool LetrasPdf::AgregarLatino(Letra& letra, std::size_t c, std::string& glifos) 
     if (latino.Glifo == 0) return false;
     if (!latino.Usado) letra.Usados.try_emplace(latino.Glifo, QChar(static_cast<char16_t>(c)));
     latino.Usado = true;
-    glifos += latino.Escrito;
+    for (const char byte : latino.Escrito) glifos += byte;
     return true;
 }
 
