@@ -48,19 +48,17 @@ TEST(Vigilar, SinFaltaTodoQueda) {
 }
 
 TEST(Vigilar, ElCodigoEsElDeLaPrimeraFaltaYLoAnteriorQueda) {
-    struct Caso {
-        Operandos o;
-        int codigo;
-        Registro queda;
-    };
-    for (const Caso& caso : {Caso{{0, 2, 4}, 11, {-1, -1, -1}}, Caso{{2, 1e300, 4}, 6, {0.5, -1, -1}},
-                             Caso{{2, 2, -1}, 5, {0.5, 2e300, -1}}, Caso{{2, 1e300, -1}, 6, {0.5, -1, -1}},
-                             Caso{{0, 2, -1}, 11, {-1, -1, -1}}, Caso{{0, 1e300, -1}, 11, {-1, -1, -1}}}) {
+    for (const auto& [o, codigo, queda] : {std::tuple<Operandos, int, Registro>{{0, 2, 4}, 11, {-1, -1, -1}},
+                                           {{2, 1e300, 4}, 6, {0.5, -1, -1}},
+                                           {{2, 2, -1}, 5, {0.5, 2e300, -1}},
+                                           {{2, 1e300, -1}, 6, {0.5, -1, -1}},
+                                           {{0, 2, -1}, 11, {-1, -1, -1}},
+                                           {{0, 1e300, -1}, 11, {-1, -1, -1}}}) {
         Registro r;
-        EXPECT_EQ(CodigoDe([&] { Llenar(caso.o, r); }), caso.codigo);
-        EXPECT_EQ(r.Cociente, caso.queda.Cociente);
-        EXPECT_EQ(r.Producto, caso.queda.Producto);
-        EXPECT_EQ(r.Raiz, caso.queda.Raiz);
+        EXPECT_EQ(CodigoDe([&] { Llenar(o, r); }), codigo);
+        EXPECT_EQ(r.Cociente, queda.Cociente);
+        EXPECT_EQ(r.Producto, queda.Producto);
+        EXPECT_EQ(r.Raiz, queda.Raiz);
     }
 }
 

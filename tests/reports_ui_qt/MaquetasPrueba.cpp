@@ -40,39 +40,33 @@ class Disenos : public ReportePreparado {
 
 TEST_F(Disenos, LosErroresDicenArchivoLineaYNombre) {
     Preparar(DosLosas());
-    struct Caso {
-        const char* Maqueta;
-        const char* Falta;
-    };
-    for (const Caso& caso : {
-             Caso{"\ntabal LosaDatos\nfin\n", "línea 2: no existe el elemento \"tabal\""},
-             Caso{"tabla LosaNada\ncolumna \"x\" x\nfin\n", "línea 1: no existe la tabla \"LosaNada\""},
-             Caso{"parrafo \"a\"\ntabla LosaDatos # con\n columna \"x\" Boo\nfin\n",
-                  "línea 3: no existe la columna \"Boo\""},
-             Caso{"parrafo \"{Generales.Titulito}\"\n",
-                  "línea 1: no existe la columna \"Generales.Titulito\""},
-             Caso{"grupo LosaDatos\nsi Bo\nparrafo \"{Bo}\"\nsino\nparrafo \"{Nada}\"\nfin\nfin\n",
-                  "línea 5: no existe la columna \"Nada\""},
-             Caso{"tabla LosaTramos orden Nada\ncolumna \"x\" x\nfin\n",
-                  "línea 1: no existe la columna \"LosaTramos.Nada\""},
-             Caso{"grupo Grafico\nimagen Losa\nfin\n", "línea 2: no existe la imagen \"Losa\""},
-             Caso{"grupo Grafico\nparrafo \"{Grafico}\"\nfin\n", "línea 2: no existe la columna \"Grafico\""},
-             Caso{"\n\nseccion \"a\"\n", "línea 3: falta el \"fin\" de lo que empieza aquí"},
-             Caso{"parrafo \"a\n", "línea 1: faltan las comillas que cierran"},
-             Caso{"parrafo \"{Bo\"\n", "línea 1: falta } en \"{Bo\""},
-             Caso{"encabezado 4 \"a\"\n", "línea 1: el nivel de un encabezado es 1, 2 o 3"},
-             Caso{"pagina A3\n", "línea 1: no existe la página \"A3\""},
-             Caso{"salto ya\n", "línea 1: sobra \"ya\""},
-             Caso{"tabla LosaDatos\ncolumna \"x\" lado arriba\nfin\n",
-                  "línea 2: no existe el lado \"arriba\""},
-             Caso{"tabla LosaDatos\ncolumna \"x\"\nfila Bo Ho\nfin\n",
-                  "línea 3: la fila tiene más celdas que la tabla"},
-             Caso{"tabla LosaDatos\ncolumna \"x\" Bo\ntotal media:Bo\nfin\n",
-                  "línea 3: no existe el total \"media:Bo\""},
-             Caso{"parrafo \"a\"\nsubreporte \"prueba.rpt\"\n",
-                  "línea 2: el reporte \"prueba.rpt\" se contiene a sí mismo"},
+    for (const auto& [maqueta, falta] : {
+             std::pair{"\ntabal LosaDatos\nfin\n", "línea 2: no existe el elemento \"tabal\""},
+             {"tabla LosaNada\ncolumna \"x\" x\nfin\n", "línea 1: no existe la tabla \"LosaNada\""},
+             {"parrafo \"a\"\ntabla LosaDatos # con\n columna \"x\" Boo\nfin\n",
+              "línea 3: no existe la columna \"Boo\""},
+             {"parrafo \"{Generales.Titulito}\"\n", "línea 1: no existe la columna \"Generales.Titulito\""},
+             {"grupo LosaDatos\nsi Bo\nparrafo \"{Bo}\"\nsino\nparrafo \"{Nada}\"\nfin\nfin\n",
+              "línea 5: no existe la columna \"Nada\""},
+             {"tabla LosaTramos orden Nada\ncolumna \"x\" x\nfin\n",
+              "línea 1: no existe la columna \"LosaTramos.Nada\""},
+             {"grupo Grafico\nimagen Losa\nfin\n", "línea 2: no existe la imagen \"Losa\""},
+             {"grupo Grafico\nparrafo \"{Grafico}\"\nfin\n", "línea 2: no existe la columna \"Grafico\""},
+             {"\n\nseccion \"a\"\n", "línea 3: falta el \"fin\" de lo que empieza aquí"},
+             {"parrafo \"a\n", "línea 1: faltan las comillas que cierran"},
+             {"parrafo \"{Bo\"\n", "línea 1: falta } en \"{Bo\""},
+             {"encabezado 4 \"a\"\n", "línea 1: el nivel de un encabezado es 1, 2 o 3"},
+             {"pagina A3\n", "línea 1: no existe la página \"A3\""},
+             {"salto ya\n", "línea 1: sobra \"ya\""},
+             {"tabla LosaDatos\ncolumna \"x\" lado arriba\nfin\n", "línea 2: no existe el lado \"arriba\""},
+             {"tabla LosaDatos\ncolumna \"x\"\nfila Bo Ho\nfin\n",
+              "línea 3: la fila tiene más celdas que la tabla"},
+             {"tabla LosaDatos\ncolumna \"x\" Bo\ntotal media:Bo\nfin\n",
+              "línea 3: no existe el total \"media:Bo\""},
+             {"parrafo \"a\"\nsubreporte \"prueba.rpt\"\n",
+              "línea 2: el reporte \"prueba.rpt\" se contiene a sí mismo"},
          })
-        EXPECT_EQ(Falta(caso.Maqueta), std::string("prueba.rpt, ") + caso.Falta) << caso.Maqueta;
+        EXPECT_EQ(Falta(maqueta), std::string("prueba.rpt, ") + falta) << maqueta;
     try {
         Abrir("NoExiste.rpt");
         ADD_FAILURE();

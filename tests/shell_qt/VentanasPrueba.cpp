@@ -35,34 +35,30 @@ class Ventanas : public testing::Test, protected Maquina {
 };
 
 TEST_F(Ventanas, LaCajaRespondePorBotonYPorEscape) {
-    struct Caso {
-        BotonesCaja botones;
-        int tecla;
-        const char* boton;
-        std::int16_t respuesta;
-        bool cierra;
-    };
-    for (const Caso& caso :
-         {Caso{BotonesCaja::Aceptar, Qt::Key_Escape, "", 0, true},
-          Caso{BotonesCaja::SiNo, Qt::Key_Escape, "", 0, false},
-          Caso{BotonesCaja::SiNoCancelar, Qt::Key_Escape, "", 2, true},
-          Caso{BotonesCaja::SiNo, 0, "Sí", 1, true}, Caso{BotonesCaja::SiNo, 0, "No", 0, true},
-          Caso{BotonesCaja::SiNo, Qt::Key_S, "", 1, true}, Caso{BotonesCaja::SiNo, Qt::Key_N, "", 0, true},
-          Caso{BotonesCaja::SiNo, Qt::Key_C, "", 0, false},
-          Caso{BotonesCaja::SiNoCancelar, Qt::Key_C, "", 2, true},
-          Caso{BotonesCaja::SiNoCancelar, Qt::Key_Return, "", 0, true}}) {
+    for (const auto& [botones, tecla, boton, respuesta, cierra] :
+         {std::tuple<BotonesCaja, int, const char*, int, bool>{BotonesCaja::Aceptar, Qt::Key_Escape, "", 0,
+                                                               true},
+          {BotonesCaja::SiNo, Qt::Key_Escape, "", 0, false},
+          {BotonesCaja::SiNoCancelar, Qt::Key_Escape, "", 2, true},
+          {BotonesCaja::SiNo, 0, "Sí", 1, true},
+          {BotonesCaja::SiNo, 0, "No", 0, true},
+          {BotonesCaja::SiNo, Qt::Key_S, "", 1, true},
+          {BotonesCaja::SiNo, Qt::Key_N, "", 0, true},
+          {BotonesCaja::SiNo, Qt::Key_C, "", 0, false},
+          {BotonesCaja::SiNoCancelar, Qt::Key_C, "", 2, true},
+          {BotonesCaja::SiNoCancelar, Qt::Key_Return, "", 0, true}}) {
         Mensaje mensaje = Pregunta("Una línea\nOtra línea", "Encabezado...");
-        mensaje.Botones = caso.botones;
+        mensaje.Botones = botones;
         mensaje.PorDefecto = 1;
         VentanaMensaje ventana(mensaje, nullptr);
         ventana.show();
-        if (caso.tecla != 0)
-            QTest::keyClick(&ventana, static_cast<Qt::Key>(caso.tecla));
+        if (tecla != 0)
+            QTest::keyClick(&ventana, static_cast<Qt::Key>(tecla));
         else
-            Pulsar(ventana, caso.boton);
-        EXPECT_EQ(ventana.isVisible(), !caso.cierra);
-        EXPECT_EQ(ventana.Respuesta(), caso.respuesta);
-        EXPECT_GE(ventana.width(), caso.botones == BotonesCaja::Aceptar ? 260 : 286);
+            Pulsar(ventana, boton);
+        EXPECT_EQ(ventana.isVisible(), !cierra);
+        EXPECT_EQ(ventana.Respuesta(), respuesta);
+        EXPECT_GE(ventana.width(), botones == BotonesCaja::Aceptar ? 260 : 286);
     }
 }
 

@@ -38,25 +38,25 @@ TEST_F(Datos, EditaUnaCopiaYGuardaEntera) {
 }
 
 TEST_F(Datos, UnCeroTomaElFocoSegunLaClaseDeLosa) {
-    struct Caso {
-        bool maciza;
-        CampoSeccion campo;
-        bool salva;
-    };
     using enum CampoSeccion;
-    for (const Caso& caso :
-         {Caso{false, Bo, false}, Caso{false, Ho, false}, Caso{false, So, false}, Caso{false, Hm, true},
-          Caso{true, Bo, true}, Caso{true, Ho, true}, Caso{true, So, true}, Caso{true, Hm, false}}) {
-        datos.PonerMaciza(caso.maciza);
-        const double antes = datos.Seccion(caso.campo);
-        datos.PonerSeccion(caso.campo, 0);
+    for (const auto& [maciza, campo, salva] : {std::tuple{false, Bo, false},
+                                               {false, Ho, false},
+                                               {false, So, false},
+                                               {false, Hm, true},
+                                               {true, Bo, true},
+                                               {true, Ho, true},
+                                               {true, So, true},
+                                               {true, Hm, false}}) {
+        datos.PonerMaciza(maciza);
+        const double antes = datos.Seccion(campo);
+        datos.PonerSeccion(campo, 0);
         pantalla.EnPagina = PaginaLosa::Cargas;
-        EXPECT_EQ(datos.Salvar(), caso.salva);
-        if (!caso.salva) {
+        EXPECT_EQ(datos.Salvar(), salva);
+        if (!salva) {
             EXPECT_EQ(pantalla.EnPagina, PaginaLosa::Seccion);
-            EXPECT_EQ(pantalla.Enfocado, caso.campo);
+            EXPECT_EQ(pantalla.Enfocado, campo);
         }
-        datos.PonerSeccion(caso.campo, antes);
+        datos.PonerSeccion(campo, antes);
     }
     EXPECT_TRUE(e.caja.Mensajes.empty());
 }

@@ -102,28 +102,24 @@ TEST_F(Tabla, EnterBajaYTabVaALaDerechaYSale) {
 TEST_F(Tabla, LoQueNoEsNumeroQuedaALaVistaYNoSale) {
     numeros[0] = 7;
     tabla.Refrescar();
-    struct Caso {
-        const char* Texto;
-        int Columna;
-        const char* Motivo;
-    };
-    for (const Caso& caso :
-         {Caso{"x3a", 0, "No es un número."}, Caso{"1.250", 0, "Puede leerse 1250 o 1,25"},
-          Caso{"1e308", 0, "No es un número."}, Caso{"abcd", 2, "No caben más de 3 letras."}}) {
+    for (const auto& [texto, columna, motivo] : {std::tuple{"x3a", 0, "No es un número."},
+                                                 {"1.250", 0, "Puede leerse 1250 o 1,25"},
+                                                 {"1e308", 0, "No es un número."},
+                                                 {"abcd", 2, "No caben más de 3 letras."}}) {
         for (const Qt::Key salida : {Qt::Key_Return, Qt::Key_Tab, Qt::Key_Down}) {
-            tabla.IrA(1, caso.Columna);
-            Teclas(caso.Texto);
+            tabla.IrA(1, columna);
+            Teclas(texto);
             Tecla(salida);
-            EXPECT_EQ(Celda(1, caso.Columna), caso.Texto);
-            EXPECT_TRUE(tabla.Motivo().startsWith(caso.Motivo)) << tabla.Motivo().toStdString();
+            EXPECT_EQ(Celda(1, columna), texto);
+            EXPECT_TRUE(tabla.Motivo().startsWith(motivo)) << tabla.Motivo().toStdString();
             EXPECT_FALSE(EntradasEnOrden(&marco));
-            tabla.IrA(3, caso.Columna);
+            tabla.IrA(3, columna);
             QTest::qWait(1);
             EXPECT_EQ(tabla.FilaActual(), 1);
             EXPECT_TRUE(tabla.hasFocus());
             EXPECT_EQ(numeros[0], 7);
             Tecla(Qt::Key_Escape);
-            EXPECT_EQ(Celda(1, caso.Columna), caso.Columna == 0 ? "7,00" : "");
+            EXPECT_EQ(Celda(1, columna), columna == 0 ? "7,00" : "");
             EXPECT_TRUE(EntradasEnOrden(&marco));
         }
     }
@@ -168,26 +164,22 @@ TEST_F(Tabla, LoRechazadoVuelveASuValorYNoSigue) {
 
 /// A block goes in whole or not at all, says why, and is taken back whole.
 TEST_F(Tabla, UnBloqueEntraEnteroONoEntra) {
-    struct Caso {
-        const char* Bloque;
-        int Fila;
-        std::vector<double> Numeros;
-        const char* Motivo;
-    };
     const std::vector<double> vacia(4, 0.0);
-    for (const Caso& caso : {Caso{"5,2\r\n4.8\r\n1.234,5\r\n", 1, vacia, ""},  // refused by its column
-                             Caso{"8\ncinco\n9", 1, vacia, "«cinco»: No es un número."},
-                             Caso{"8\n1.250\n9", 1, vacia, "«1.250»: Puede leerse 1250 o 1,25"},
-                             Caso{"1\tno\tA\n2\tno\tLarga", 1, vacia, "«Larga»: No caben más de 3 letras."},
-                             Caso{"1\n2\n3", 3, vacia, "El bloque tiene 3 filas y desde aquí caben 2."},
-                             Caso{"1\tno\tA\tsobra", 1, vacia, "El bloque tiene más columnas"},
-                             Caso{"1\tno\tA\n2,5\tno\tB\n", 3, {0, 0, 1, 2.5}, ""}}) {
-        QApplication::clipboard()->setText(caso.Bloque);
-        tabla.IrA(caso.Fila, 0);
+    for (const auto& [bloque, fila, esperados, motivo] :
+         {std::tuple<const char*, int, std::vector<double>, const char*>{"5,2\r\n4.8\r\n1.234,5\r\n", 1,
+                                                                         vacia, ""},  // refused by its column
+          {"8\ncinco\n9", 1, vacia, "«cinco»: No es un número."},
+          {"8\n1.250\n9", 1, vacia, "«1.250»: Puede leerse 1250 o 1,25"},
+          {"1\tno\tA\n2\tno\tLarga", 1, vacia, "«Larga»: No caben más de 3 letras."},
+          {"1\n2\n3", 3, vacia, "El bloque tiene 3 filas y desde aquí caben 2."},
+          {"1\tno\tA\tsobra", 1, vacia, "El bloque tiene más columnas"},
+          {"1\tno\tA\n2,5\tno\tB\n", 3, {0, 0, 1, 2.5}, ""}}) {
+        QApplication::clipboard()->setText(bloque);
+        tabla.IrA(fila, 0);
         tabla.Pegar();
-        EXPECT_EQ(numeros, caso.Numeros) << caso.Bloque;
-        EXPECT_TRUE(QString(QToolTip::text() + " ").startsWith(caso.Motivo))
-            << caso.Bloque << QToolTip::text().toStdString();
+        EXPECT_EQ(numeros, esperados) << bloque;
+        EXPECT_TRUE(QString(QToolTip::text() + " ").startsWith(motivo))
+            << bloque << QToolTip::text().toStdString();
         EXPECT_EQ(Celda(1, 1), "x");
     }
     EXPECT_EQ(textos[3], "B");

@@ -82,29 +82,26 @@ TEST(EscaleraT, UnErrorDejaLoQueHabia) {
 
 /// The code is that of the first fault, and what was stored before it stays, in its own station too.
 TEST(EscaleraT, ElErrorEsElDeLaPrimeraFalta) {
-    struct Caso {
-        const char* Que;
-        double HT, FiMomento;
-        std::int16_t FC, FY;
-        int Codigo;
-    };
     // A flight as thick as its cover: 0/0 in As1, and only then c = 0 divides. Steel of no strength, past the
     // limit moment: As1 divides by it first. Concrete of none: the same 0/0.
-    for (const Caso& caso :
-         {Caso{"d = 0", 0.025, 0.9, 250, 4200, 5}, Caso{"φ = 0", 0.15, 0, 250, 4200, 11},
-          Caso{"Fy = 0", 0.05, 0.9, 250, 0, 11}, Caso{"F'c < 0", 0.15, 0.9, -250, 4200, 5}}) {
+    for (const auto& [que, HT, fiMomento, FC, FY, codigo] :
+         {std::tuple<const char*, double, double, std::int16_t, std::int16_t, int>{"d = 0", 0.025, 0.9, 250,
+                                                                                   4200, 5},
+          {"φ = 0", 0.15, 0, 250, 4200, 11},
+          {"Fy = 0", 0.05, 0.9, 250, 0, 11},
+          {"F'c < 0", 0.15, 0.9, -250, 4200, 5}}) {
         DatosEscaleraT d = Modelo();
-        d.HT = caso.HT;
+        d.HT = HT;
         DatosGenerales g;
-        g.FiMomento = caso.FiMomento;
-        g.FC = caso.FC;
-        g.FY = caso.FY;
+        g.FiMomento = fiMomento;
+        g.FC = FC;
+        g.FY = FY;
         ResultadosEscaleraT r;
         CalcularEscaleraT(d, g, r);
-        ASSERT_TRUE(r.Error) << caso.Que;
-        EXPECT_EQ(r.Error->Codigo(), caso.Codigo) << caso.Que;
-        EXPECT_NEAR(r.TramoT[0].Torsor, 554.05, 5e-3) << caso.Que;
-        EXPECT_NEAR(r.TramoT[0].EnvolventeNegativa, -720, 5e-3) << caso.Que;
+        ASSERT_TRUE(r.Error) << que;
+        EXPECT_EQ(r.Error->Codigo(), codigo) << que;
+        EXPECT_NEAR(r.TramoT[0].Torsor, 554.05, 5e-3) << que;
+        EXPECT_NEAR(r.TramoT[0].EnvolventeNegativa, -720, 5e-3) << que;
     }
     // A landing as thick as nothing: its steel stands; that of its lateral moment is 0/0, and the stress of
     // its shear, which would divide by 0, is not reached.
