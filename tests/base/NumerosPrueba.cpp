@@ -79,15 +79,12 @@ TEST(Fecha, SeLeeComoSeEscribe) {
     using namespace std::chrono;
     constexpr Fecha hoy = 2026y / November / 26d;
     using enum OrdenFecha;
-    for (const auto& [texto, orden, fecha] : {std::tuple{"07/03/2024", DiaMesAno, 2024y / March / 7d},
-                                              {" 7-3-24 ", MesDiaAno, 2024y / March / 7d},
-                                              {"7.3.46", DiaMesAno, 2046y / March / 7d},
-                                              {"7 3 47", DiaMesAno, 1947y / March / 7d},
-                                              {"31/12/99", DiaMesAno, 1999y / December / 31d},
-                                              {"12/31/24", MesDiaAno, 2024y / December / 31d},
-                                              {"24-12-31", AnoMesDia, 2031y / December / 24d},
-                                              {"2024-02-29", DiaMesAno, 2024y / February / 29d}})
-        EXPECT_EQ(LeerFecha(texto, orden, hoy), Fecha(fecha)) << texto;
+    const std::tuple<const char*, OrdenFecha, Fecha> fechas[]{
+        {"07/03/2024", DiaMesAno, 2024y / March / 7d},   {" 7-3-24 ", MesDiaAno, 2024y / March / 7d},
+        {"7.3.46", DiaMesAno, 2046y / March / 7d},       {"7 3 47", DiaMesAno, 1947y / March / 7d},
+        {"31/12/99", DiaMesAno, 1999y / December / 31d}, {"12/31/24", MesDiaAno, 2024y / December / 31d},
+        {"24-12-31", AnoMesDia, 2031y / December / 24d}, {"2024-02-29", DiaMesAno, 2024y / February / 29d}};
+    for (const auto& [texto, orden, fecha] : fechas) EXPECT_EQ(LeerFecha(texto, orden, hoy), fecha) << texto;
     for (const char* texto : {"", "ayer", "31/02/2024", "12/31/24", "7/3", "7/3/2", "7/3/024", "7/3/2024/1",
                               "1-2-3-4", "00/03/2024", "7//2024", "7/3/0000", "-7/3/2024", "7/3/2024 10"})
         EXPECT_FALSE(LeerFecha(texto, DiaMesAno, hoy)) << texto;
@@ -105,36 +102,31 @@ TEST(Numeros, SeLeenComoSeEscribenOSeRechazan) {
     const Separadores blanco{"\u202F", ","};
     const Separadores programa{"", "."};
     constexpr ClaseNumero numero{};
-    struct Caso {
-        const char* Texto;
-        Separadores En;
-        ClaseNumero Clase;
-        double Valor;
-    };
-    for (const Caso& caso : {Caso{"5", punto, numero, 5},
-                             Caso{" 5,25\u00A0", punto, numero, 5.25},
-                             Caso{"5.25", punto, numero, 5.25},
-                             Caso{"-,5", coma, numero, -0.5},
-                             Caso{"\u22127.", punto, numero, -7},
-                             Caso{"", punto, numero, 0},
-                             Caso{"1.234", programa, numero, 1.234},
-                             Caso{"1.234", coma, numero, 1.234},
-                             Caso{"1,234", punto, numero, 1.234},
-                             Caso{"0.250", punto, numero, 0.25},
-                             Caso{"1234.567", punto, numero, 1234.567},
-                             Caso{"1.250,5", punto, numero, 1250.5},
-                             Caso{"1.250,5", coma, numero, 1250.5},
-                             Caso{"1,234,567.5", punto, numero, 1234567.5},
-                             Caso{"1.234.567", coma, numero, 1234567},
-                             Caso{"-9999999999,99", punto, numero, -9999999999.99},
-                             Caso{"12 500,25", blanco, numero, 12500.25},
-                             Caso{"1’250", {"'", "."}, numero, 1250},
-                             Caso{"1.250", punto, EnteroDe32, 1250},
-                             Caso{"350,00", punto, EnteroDe32, 350}}) {
-        const NumeroJuzgado juzgado = JuzgarNumero(caso.Texto, caso.Clase, caso.En);
-        EXPECT_EQ(juzgado.Valor, caso.Valor) << caso.Texto;
-        EXPECT_EQ(juzgado.Motivo, "") << caso.Texto;
+    const std::tuple<const char*, Separadores, double> casos[]{{"5", punto, 5},
+                                                               {" 5,25\u00A0", punto, 5.25},
+                                                               {"5.25", punto, 5.25},
+                                                               {"-,5", coma, -0.5},
+                                                               {"\u22127.", punto, -7},
+                                                               {"", punto, 0},
+                                                               {"1.234", programa, 1.234},
+                                                               {"1.234", coma, 1.234},
+                                                               {"1,234", punto, 1.234},
+                                                               {"0.250", punto, 0.25},
+                                                               {"1234.567", punto, 1234.567},
+                                                               {"1.250,5", punto, 1250.5},
+                                                               {"1.250,5", coma, 1250.5},
+                                                               {"1,234,567.5", punto, 1234567.5},
+                                                               {"1.234.567", coma, 1234567},
+                                                               {"-9999999999,99", punto, -9999999999.99},
+                                                               {"12 500,25", blanco, 12500.25},
+                                                               {"1’250", {"'", "."}, 1250}};
+    for (const auto& [texto, en, valor] : casos) {
+        const NumeroJuzgado juzgado = JuzgarNumero(texto, numero, en);
+        EXPECT_EQ(juzgado.Valor, valor) << texto;
+        EXPECT_EQ(juzgado.Motivo, "") << texto;
     }
+    EXPECT_EQ(JuzgarNumero("1.250", EnteroDe32, punto).Valor, 1250);
+    EXPECT_EQ(JuzgarNumero("350,00", EnteroDe32, punto).Valor, 350);
     for (const char* texto : {"-", ".", "cinco", "5 m", "1e5", "1,2,3", "1.23.456", "12.34,5", "1.2345,6",
                               "--1", "1,,2", "1 250", "1'250", "nan", "0x1F"})
         EXPECT_EQ(JuzgarNumero(texto, numero, punto).Motivo, "No es un número.") << texto;

@@ -35,18 +35,19 @@ class Ventanas : public testing::Test, protected Maquina {
 };
 
 TEST_F(Ventanas, LaCajaRespondePorBotonYPorEscape) {
-    for (const auto& [botones, tecla, boton, respuesta, cierra] :
-         {std::tuple<BotonesCaja, int, const char*, int, bool>{BotonesCaja::Aceptar, Qt::Key_Escape, "", 0,
-                                                               true},
-          {BotonesCaja::SiNo, Qt::Key_Escape, "", 0, false},
-          {BotonesCaja::SiNoCancelar, Qt::Key_Escape, "", 2, true},
-          {BotonesCaja::SiNo, 0, "Sí", 1, true},
-          {BotonesCaja::SiNo, 0, "No", 0, true},
-          {BotonesCaja::SiNo, Qt::Key_S, "", 1, true},
-          {BotonesCaja::SiNo, Qt::Key_N, "", 0, true},
-          {BotonesCaja::SiNo, Qt::Key_C, "", 0, false},
-          {BotonesCaja::SiNoCancelar, Qt::Key_C, "", 2, true},
-          {BotonesCaja::SiNoCancelar, Qt::Key_Return, "", 0, true}}) {
+    using enum BotonesCaja;
+    const std::tuple<BotonesCaja, int, const char*, int, bool> casos[]{
+        {Aceptar, Qt::Key_Escape, "", 0, true},
+        {SiNo, Qt::Key_Escape, "", 0, false},
+        {SiNoCancelar, Qt::Key_Escape, "", 2, true},
+        {SiNo, 0, "Sí", 1, true},
+        {SiNo, 0, "No", 0, true},
+        {SiNo, Qt::Key_S, "", 1, true},
+        {SiNo, Qt::Key_N, "", 0, true},
+        {SiNo, Qt::Key_C, "", 0, false},
+        {SiNoCancelar, Qt::Key_C, "", 2, true},
+        {SiNoCancelar, Qt::Key_Return, "", 0, true}};
+    for (const auto& [botones, tecla, boton, respuesta, cierra] : casos) {
         Mensaje mensaje = Pregunta("Una línea\nOtra línea", "Encabezado...");
         mensaje.Botones = botones;
         mensaje.PorDefecto = 1;

@@ -150,6 +150,7 @@ TEST_F(Ventanas, LasCargasSeEntranConEnterYSeIgualan) {
         Pulsar(carga, "Igualar");
     });
     Pulsar(ventana, "Carga Uniforme");
+    EXPECT_EQ(e.caja.Mensajes.back().Texto, "¿Igualar Todos los Tramos a la Carga Seleccionada?");
     auto* cargas = ventana.findChild<TablaDatos*>("Cargas");
     for (int i = 0; i < 3; ++i) {
         EXPECT_EQ(cargas->model()->index(i, 0).data(), "420");
