@@ -53,14 +53,14 @@ TEST(SuperficieQt, ElMapaDeBitsEsElDibujoEnLaFinuraDelPapel) {
     SuperficieQt superficie;
     superficie.Dibujar(AnchoGraficoTwips, AltoGraficoTwips, dibujar);
     const auto [mapa, png, trazos] = superficie.Imagen();
-    QImage leida;
-    ASSERT_TRUE(leida.loadFromData(reinterpret_cast<const uchar*>(mapa.data()), static_cast<int>(mapa.size()),
-                                   "BMP"));
+    const auto leer = [](const Bytes& bytes, const char* formato) {
+        return QImage::fromData(reinterpret_cast<const uchar*>(bytes.data()), static_cast<int>(bytes.size()),
+                                formato);
+    };
+    const QImage leida = leer(mapa, "BMP"), comprimida = leer(png, "PNG");
     const QImage esperada = DibujarImagen(940, 580, SuperficieQt::FinuraDePapel, dibujar);
     ASSERT_EQ(leida.size(), esperada.size());
     EXPECT_LT(mapa.size(), 400000U);
-    const QImage comprimida =
-        QImage::fromData(reinterpret_cast<const uchar*>(png.data()), static_cast<int>(png.size()), "PNG");
     ASSERT_EQ(comprimida.size(), esperada.size());
     int distintos = 0;
     // Colours past the 256 most frequent are near to one of them: no pixel is visibly another.
@@ -76,59 +76,45 @@ TEST(SuperficieQt, ElMapaDeBitsEsElDibujoEnLaFinuraDelPapel) {
     }
     EXPECT_LT(mayor, 24);
     EXPECT_EQ(distintos, 0);
-    const Bytes foto = superficie.Foto();
-    EXPECT_TRUE(
-        QImage::fromData(reinterpret_cast<const uchar*>(foto.data()), static_cast<int>(foto.size()), "JPG")
-            .size() == esperada.size());
+    EXPECT_EQ(leer(superficie.Foto(), "JPG").size(), esperada.size());
 }
 
 TEST(OpcionesReporte, LoElegidoQuedaAlAceptarYSoloEntonces) {
     EstadoReportes estado;
-    {
+    for (const bool acepta : {false, true}) {
         VentanaOpcionImpreLosas ventana(estado, {}, nullptr);
         Pulsar(ventana, "Todas las Losas del Proyecto");
-        Pulsar(ventana, "Cancelar");
-        EXPECT_FALSE(ventana.Aceptado());
-        EXPECT_EQ(estado.OpcionExportarLosas, 0);
+        ventana.findChild<QCheckBox*>()->setChecked(true);
+        Pulsar(ventana, acepta ? "Aceptar" : "Cancelar");
+        EXPECT_EQ(ventana.Aceptado(), acepta);
+        EXPECT_EQ(estado.OpcionExportarLosas, acepta ? 1 : 0);
+        EXPECT_EQ(estado.ExportarDesplazamientos, acepta);
     }
-    VentanaOpcionImpreLosas ventana(estado, {}, nullptr);
-    Pulsar(ventana, "Todas las Losas del Proyecto");
-    ventana.findChild<QCheckBox*>()->setChecked(true);
-    Pulsar(ventana, "Aceptar");
-    EXPECT_TRUE(ventana.Aceptado());
-    EXPECT_EQ(estado.OpcionExportarLosas, 1);
-    EXPECT_TRUE(estado.ExportarDesplazamientos);
-
     VentanaOpcionGrafico losas(OpcionGraficoE, estado, {}, nullptr);
     Pulsar(losas, "Reacciones sobre las Vigas");
     Pulsar(losas, "Aceptar");
     EXPECT_EQ(estado.OpcionGrafico, 5);
     VentanaOpcionGrafico escaleras(OpcionGraficoET, estado, {}, nullptr);
-    Pulsar(escaleras, "Solicitaciones de las Escaleras");
-    Pulsar(escaleras, "Vertical");
-    Pulsar(escaleras, "A4");
-    Pulsar(escaleras, "Aceptar");
+    for (const char* boton : {"Solicitaciones de las Escaleras", "Vertical", "A4", "Aceptar"})
+        Pulsar(escaleras, boton);
     EXPECT_EQ(estado.OpcionGrafico, 3);
     EXPECT_TRUE(estado.Papel.A4 && !estado.Papel.Apaisado);
 }
 
-TEST(ExportarGrafico, SalvaLaImagenConSuZoomYRecuerdaLaCarpeta) {
-    const CarpetaTemporal carpeta;
+struct ExportarGrafico : testing::Test, Maquina {};
+
+TEST_F(ExportarGrafico, SalvaLaImagenConSuZoomYRecuerdaLaCarpeta) {
     for (const char* nombre : {"otra", "ReportesExportados"})
         std::filesystem::create_directories(carpeta / nombre);
-    Aplicacion aplicacion;
-    const Carpetas carpetas{.CaminoPrograma = {}, .CaminoUsuario = carpeta.Camino(), .CaminoTemporales = {}};
+    carpetas.CaminoUsuario = carpeta.Camino();
     EstadoReportes estado;
-    CajaGuiada caja;
-    DialogosGuiados dialogos;
-    PlataformaGuiada plataforma(carpeta.Camino());
     dialogos.Elegidos = {carpeta / "otra" / "g.bmp", carpeta / "otra" / "g.jpg", carpeta / "no hay" / "g.bmp",
                          carpeta / "g.svg", carpeta / "g.dxf"};
     LosaDibujada losa;
     double zoom = 0;
     {
         VentanaExportarGrafico ventana(
-            {aplicacion, estado, {caja, dialogos, plataforma, carpetas}},
+            {aplicacion, estado, servicios},
             [&](Lienzo& lienzo, EstadoVista& visor) {
                 EXPECT_TRUE(visor.ExportandoGrafico);
                 zoom = visor.Zoom;
@@ -137,18 +123,13 @@ TEST(ExportarGrafico, SalvaLaImagenConSuZoomYRecuerdaLaCarpeta) {
             nullptr);
         ventana.show();
         ventana.findChild<QPushButton*>("Carpeta")->click();
-        Pulsar(ventana, "Zoom Más");
-        Pulsar(ventana, "Zoom Más");
-        Pulsar(ventana, "Exportar");
+        for (const char* boton : {"Zoom Más", "Zoom Más", "Exportar"}) Pulsar(ventana, boton);
         EXPECT_DOUBLE_EQ(zoom, 1.2);
-        Pulsar(ventana, "Imagen en Formato (JPG)");
-        Pulsar(ventana, "Exportar");
-        Pulsar(ventana, "Exportar");
+        for (const char* boton : {"Imagen en Formato (JPG)", "Exportar", "Exportar"}) Pulsar(ventana, boton);
         ventana.findChild<QPushButton*>("Carpeta")->click();
-        for (const char* formato : {"Dibujo Vectorial (SVG)", "Dibujo para Programas de CAD (DXF)"}) {
-            Pulsar(ventana, formato);
-            Pulsar(ventana, "Exportar");
-        }
+        for (const char* boton :
+             {"Dibujo Vectorial (SVG)", "Exportar", "Dibujo para Programas de CAD (DXF)", "Exportar"})
+            Pulsar(ventana, boton);
     }
     ASSERT_EQ(dialogos.Peticiones.size(), 5U);
     EXPECT_EQ(dialogos.Peticiones[0].Titulo, "Salvar el Gráfico Seleccionado");
@@ -160,8 +141,7 @@ TEST(ExportarGrafico, SalvaLaImagenConSuZoomYRecuerdaLaCarpeta) {
     EXPECT_NE(LeerArchivo(carpeta / "g.svg").find("font-size=\"1360."), std::string::npos);
     EXPECT_NE(LeerArchivo(carpeta / "g.dxf").find("\n0.271006\n"), std::string::npos);
     ASSERT_EQ(caja.Mensajes.size(), 5U);
-    EXPECT_EQ(caja.Mensajes[0].Texto, "¡El Reporte se Exportó con Exito!");
-    EXPECT_EQ(caja.Mensajes[0].Encabezado, "Exportar Gráficos...");
+    EXPECT_EQ(caja.Dicho(), "¡El Reporte se Exportó con Exito!|Exportar Gráficos...");
     EXPECT_EQ(caja.Mensajes[2].Texto.substr(0, 17), "Error Número: 76");
     EXPECT_EQ(plataforma.Abiertos,
               (std::vector<std::filesystem::path>{carpeta / "ReportesExportados", carpeta / "otra"}));
@@ -182,9 +162,7 @@ TEST(PanelProgreso, SeVeMientrasDuraYNadaLoCierra) {
         panel.Avanzar(40, "Exportando la Losa: N+3.00");
         QTest::keyClick(panel.Ventana(), Qt::Key_Escape);
         panel.Ventana()->close();
-        EXPECT_TRUE(panel.Ventana()->isVisible());
-        EXPECT_TRUE(panel.Ventana()->isModal());
-        EXPECT_TRUE(panel.Cancelado());
+        EXPECT_TRUE(panel.Ventana()->isVisible() && panel.Ventana()->isModal() && panel.Cancelado());
     }
     EXPECT_FALSE(panel.Ventana()->isVisible());
 }

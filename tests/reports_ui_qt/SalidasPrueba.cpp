@@ -12,9 +12,6 @@
 #include "reports/ui/qt/VentanaVerReportes.h"
 #include "slab/ui/qt/ImprimirGraficos.h"
 #include "support/ImpresorasGuiadas.h"
-#include "support/LosasDePrueba.h"
-#include "support/ProyectoDePrueba.h"
-#include "support/ShellGuiado.h"
 #include "support/qt/Ventanas.h"
 
 namespace trabex::prueba {
@@ -73,8 +70,8 @@ TEST_F(SalidasDeReporte, CadaArchivoSePideSeEscribeYSeOfreceAbrir) {
         EXPECT_TRUE(peticion.Guardar && peticion.AvisarReemplazo);
         EXPECT_EQ(estado.ArchivoExportado, archivo);
         EXPECT_GT(std::filesystem::file_size(archivo), 2000U);
-        EXPECT_EQ(caja.Mensajes.back().Texto, "¿Desea Abrir el Archivo " + TextoDeCamino(archivo) + "?");
-        EXPECT_EQ(caja.Mensajes.back().Encabezado, "Abrir el Archivo Exportado...");
+        EXPECT_EQ(caja.Dicho(),
+                  "¿Desea Abrir el Archivo " + TextoDeCamino(archivo) + "?|Abrir el Archivo Exportado...");
         EXPECT_EQ(plataforma.Abiertos.size(), salida == 1 || salida == 2 ? 1U : 2U);
         EXPECT_TRUE(vista.Cerrada && !vista.Esperando);
         EXPECT_EQ(estado.FormatoSalida, salida);
@@ -86,8 +83,7 @@ TEST_F(SalidasDeReporte, CancelarUnErrorOUnReporteDesconocidoDejanLaVentana) {
     operaciones.Aceptar(1);  // the file dialog is cancelled
     impresoras.Acepta = false;
     operaciones.Aceptar(SalidaImpresora);
-    EXPECT_TRUE(impresoras.Ultimo.Preguntar);
-    EXPECT_EQ(impresoras.Ultimo.Copias, 1);
+    EXPECT_TRUE(impresoras.Ultimo.Preguntar && impresoras.Ultimo.Copias == 1);
     for (const std::int16_t actual : std::array<std::int16_t, 3>{0, 6, -1}) {
         estado.ReporteActual = actual;
         operaciones.Aceptar(SalidaPantalla);
@@ -100,7 +96,6 @@ TEST_F(SalidasDeReporte, CancelarUnErrorOUnReporteDesconocidoDejanLaVentana) {
     EXPECT_EQ(caja.Dicho(),
               "Error Número: 321\nResultadosLosa.rpt, línea 1: no existe el elemento \"nada\"|Error en el "
               "Reporte...");
-    impresoras.Nombres.clear();
     EXPECT_EQ(vista.Vistos, 0);
     EXPECT_FALSE(vista.Cerrada || vista.Esperando);
 }
@@ -127,20 +122,19 @@ TEST_F(SalidasDeReporte, ElDialogoMandaLaOpcionMarcada) {
     ventana.findChild<QAbstractButton*>("Carpeta")->click();
     EXPECT_EQ(plataforma.Abiertos, std::vector{carpetas.ReportesExportados()});
     dialogos.Elegidos = {carpeta / "desde la ventana.htm"};
-    BotonDe(ventana, "HTML 4.0 (Para la Web)...")->click();
-    BotonDe(ventana, "Aceptar")->click();
+    Pulsar(ventana, "HTML 4.0 (Para la Web)...");
+    Pulsar(ventana, "Aceptar");
     EXPECT_FALSE(ventana.isVisible());
     EXPECT_TRUE(std::filesystem::exists(carpeta / "desde la ventana.htm"));
     VentanaSalidaReporte otra(entorno, VentanaSalidaReporte::Clase::Tabular, nullptr);
     EXPECT_TRUE(qobject_cast<QRadioButton*>(BotonDe(otra, "HTML 4.0 (Para la Web)..."))->isChecked());
-    BotonDe(otra, "En la Pantalla...")->click();
-    QTimer::singleShot(0, [] {
-        ASSERT_NE(QApplication::activeModalWidget(), nullptr);
-        EXPECT_EQ(QApplication::activeModalWidget()->windowTitle(), "TBX-Visualizador de Reportes");
-        BotonDe(*QApplication::activeModalWidget(), "Retorno")->click();
+    Pulsar(otra, "En la Pantalla...");
+    EnLaVentana([](QDialog& visor) {
+        EXPECT_EQ(visor.windowTitle(), "TBX-Visualizador de Reportes");
+        Pulsar(visor, "Retorno");
     });
     otra.show();
-    BotonDe(otra, "Aceptar")->click();
+    Pulsar(otra, "Aceptar");
     EXPECT_FALSE(otra.isVisible());
 }
 
@@ -173,9 +167,8 @@ TEST_F(SalidasDeReporte, ElVisorRecorreBuscaYAmplia) {
     EXPECT_GT(vista_->Zoom(), 100);
     EXPECT_FALSE(ventana.grab().toImage().isNull());
     dialogos.Elegidos = {carpeta / "desde el visor.rtf"};
-    for (QAction* accion : ventana.findChildren<QAction*>()) {
+    for (QAction* accion : ventana.findChildren<QAction*>())
         if (accion->text() == "Microsoft Word (RTF)...") accion->trigger();
-    }
     EXPECT_TRUE(std::filesystem::exists(carpeta / "desde el visor.rtf"));
 }
 
@@ -266,11 +259,11 @@ TEST_F(SalidasDeReporte, LaImpresoraSeMarcaYCambiaHastaElFinal) {
     auto* lista = ventana.findChild<QListWidget*>();
     EXPECT_EQ(lista->currentRow(), 1);
     lista->setCurrentRow(0);
-    BotonDe(ventana, "Aceptar")->click();  // answered no
+    Pulsar(ventana, "Aceptar");  // answered no
     EXPECT_TRUE(ventana.isVisible() && estado.Impresora.empty());
     EXPECT_EQ(caja.Mensajes.back().Texto, "Cambiar a esta Impresora?\nHP LaserJet");
     caja.Respuestas = {RespuestaSi};
-    BotonDe(ventana, "Aceptar")->click();
+    Pulsar(ventana, "Aceptar");
     EXPECT_FALSE(ventana.isVisible());
     EXPECT_EQ(SeleccionarImpresora(entorno).MarcarImpresoraDefecto(), 0U);
     ImpreReport(entorno, vista).Aceptar(SalidaImpresora);
