@@ -19,15 +19,17 @@ namespace {
 
 class Formatos : public ReportePreparado {
   protected:
+    QString Exportado(Reporte& reporte, int codigo, const char* nombre) {
+        return QString::fromStdString(LeerArchivo(Exportar(reporte, codigo, nombre)));
+    }
     static QString Corrido(QString texto) { return texto.replace(QRegularExpression("\\s+"), " "); }
 
     QString TextoPdf(Reporte& reporte) {
         return Correr("pdftotext", {"-layout", Ruta(Exportar(reporte, FormatoPdf, "ñandú 1.pdf")), "-"});
     }
     QString TextoHtml(Reporte& reporte) {
-        const auto archivo = Exportar(reporte, FormatoHtml, "r.htm");
-        EXPECT_EQ(Correr("tidy", {"-q", "-e", "-utf8", Ruta(archivo)}), "");
-        QString texto = QString::fromStdString(LeerArchivo(archivo));
+        QString texto = Exportado(reporte, FormatoHtml, "r.htm");
+        EXPECT_EQ(Correr("tidy", {"-q", "-e", "-utf8", Ruta(carpeta / "r.htm")}), "");
         texto.remove(QRegularExpression("<style.*</style>", QRegularExpression::DotMatchesEverythingOption));
         texto.replace(QRegularExpression("<[^>]*>"), " ");
         return texto.replace("&lt;", "<").replace("&gt;", ">").replace("&quot;", "\"").replace("&amp;", "&");
@@ -80,37 +82,28 @@ TEST_F(Formatos, ElPdfLlevaSusLetrasYSuTitulo) {
     }
 }
 
-/// A bitmap of 5 by 3 pixels, its rows from the bottom: 24 bits, or 8 with a palette.
+/// A picture of 5 by 3 pixels, as the toolkit makes it a bitmap: of 24 bits, or of 8 with a palette.
+QImage Pixeles() {
+    QImage imagen(5, 3, QImage::Format_RGB32);
+    for (int y = 0; y < 3; ++y)
+        for (int x = 0; x < 5; ++x) imagen.setPixelColor(x, y, QColor(50 * x + 10 * y, 90 * y, 0x40));
+    return imagen;
+}
+
 Bytes Mapa(bool conPaleta) {
-    const std::size_t paleta = conPaleta ? 4 * 256 : 0;
-    const std::size_t renglon = conPaleta ? 8 : 16;
-    Bytes mapa(54 + paleta + 3 * renglon);
-    const auto poner = [&](std::size_t lugar, std::uint32_t valor, int bytes) {
-        for (int i = 0; i < bytes; ++i) mapa[lugar++] = static_cast<std::byte>(valor >> (8 * i));
-    };
-    poner(0, 0x4D42, 2);
-    poner(10, static_cast<std::uint32_t>(54 + paleta), 4);
-    poner(14, 40, 4);
-    poner(18, 5, 4);
-    poner(22, 3, 4);
-    poner(26, 1, 2);
-    poner(28, conPaleta ? 8 : 24, 2);
-    for (std::uint32_t i = 0; i < 256 && conPaleta; ++i) poner(54 + 4 * i, i << 16 | 0x40, 4);
-    for (std::size_t y = 0; y < 3; ++y) {
-        for (std::size_t x = 0; x < 5; ++x) {
-            const std::uint32_t rojo = static_cast<std::uint32_t>(50 * x + 10 * y);
-            const std::size_t lugar = 54 + paleta + (2 - y) * renglon;
-            poner(lugar + x * (conPaleta ? 1 : 3), conPaleta ? rojo : rojo << 16 | 0x40, conPaleta ? 1 : 3);
-        }
-    }
-    return mapa;
+    QBuffer archivo;
+    archivo.open(QIODevice::WriteOnly);
+    Pixeles()
+        .convertToFormat(conPaleta ? QImage::Format_Indexed8 : QImage::Format_RGB32)
+        .save(&archivo, "BMP");
+    const auto* datos = reinterpret_cast<const std::byte*>(archivo.data().constData());
+    return {datos, datos + archivo.size()};
 }
 
 void ComprobarPixeles(const QImage& imagen) {
     ASSERT_EQ(imagen.size(), QSize(5, 3));
-    for (int y = 0; y < 3; ++y) {
-        for (int x = 0; x < 5; ++x) EXPECT_EQ(imagen.pixelColor(x, y), QColor(50 * x + 10 * y, 0, 0x40));
-    }
+    for (int y = 0; y < 3; ++y)
+        for (int x = 0; x < 5; ++x) EXPECT_EQ(imagen.pixel(x, y), Pixeles().pixel(x, y));
 }
 
 TEST_F(Formatos, LosGraficosLleganPuntoPorPunto) {
@@ -129,7 +122,7 @@ TEST_F(Formatos, LosGraficosLleganPuntoPorPunto) {
         ASSERT_TRUE(graficos.Actualizar());
     }
     Reporte reporte = Abrir("Grafico.rpt");
-    const QString html = QString::fromStdString(LeerArchivo(Exportar(reporte, FormatoHtml, "g.htm")));
+    const QString html = Exportado(reporte, FormatoHtml, "g.htm");
     auto imagenes = QRegularExpression("base64,([^\"]*)\"").globalMatch(html);
     for (int i = 0; i < 2; ++i) {
         ASSERT_TRUE(imagenes.hasNext());
@@ -141,7 +134,7 @@ TEST_F(Formatos, LosGraficosLleganPuntoPorPunto) {
     ComprobarPixeles(QImage(Ruta(carpeta / "imagen-000.png")));
     ComprobarPixeles(QImage(Ruta(carpeta / "imagen-001.png")));
     EXPECT_EQ(Correr("pdftotext", {pdf, "-"}).count("L'1: GEOMETRÍA DE LA LOSA"), 3);
-    const QString rtf = QString::fromStdString(LeerArchivo(Exportar(reporte, FormatoRtf, "g.rtf")));
+    const QString rtf = Exportado(reporte, FormatoRtf, "g.rtf");
     QString cifras = rtf.mid(rtf.indexOf("89504e47"));
     ComprobarPixeles(QImage::fromData(QByteArray::fromHex(cifras.left(cifras.indexOf('}')).toLatin1())));
 }
@@ -193,7 +186,7 @@ TEST_F(Formatos, UnaFotoDeArchivoVaTalCual) {
     const std::string bytes = LeerArchivo(carpeta / "foto ñ.jpg");
     Reporte reporte =
         Abrir("titulo \"t\"\nimagen \"foto ñ.jpg\" ancho 50 pie \"p\"\nimagen \"no está.png\"\n");
-    const QString html = QString::fromStdString(LeerArchivo(Exportar(reporte, FormatoHtml, "f.htm")));
+    const QString html = Exportado(reporte, FormatoHtml, "f.htm");
     EXPECT_TRUE(html.contains("data:image/jpeg;base64," + QByteArray::fromStdString(bytes).toBase64()));
     EXPECT_EQ(html.count(ImagenIlegible), 1);
     EXPECT_TRUE(LeerArchivo(Exportar(reporte, FormatoRtf, "f.rtf")).find("\\jpegblip\\picw64\\pich48") !=
