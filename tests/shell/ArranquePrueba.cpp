@@ -90,19 +90,6 @@ TEST_F(Arranque, UnaImagenPerdidaDevuelveLasPreferenciasDeFabrica) {
     EXPECT_EQ(aplicacion.Preferencias.Imagen, TextoDeCamino(Usuario("Tapices/TapizTBX.jpg")));
 }
 
-TEST_F(Arranque, AceptarLaConfiguracionPorRespuestas) {
-    Arrancar();
-    Tapiz elegida = aplicacion.Preferencias;
-    elegida.TamanoAyuda = 7;
-    caja.Respuestas = {RespuestaCancelar, RespuestaAceptarONo, RespuestaSi};
-    EXPECT_EQ(AceptarConfiguracion(aplicacion, servicios, elegida), ResultadoConfiguracion::SigueAbierta);
-    EXPECT_EQ(AceptarConfiguracion(aplicacion, servicios, elegida), ResultadoConfiguracion::SinGuardar);
-    EXPECT_EQ(aplicacion.Preferencias.TamanoAyuda, 4);
-    EXPECT_EQ(AceptarConfiguracion(aplicacion, servicios, elegida), ResultadoConfiguracion::Guardada);
-    EXPECT_EQ(LeerRegistros(LeerArchivo(Usuario("Tapiz.tbx"))).TamanoAyuda, 7);
-    EXPECT_EQ(caja.Mensajes[0].Botones, BotonesCaja::SiNoCancelar);
-}
-
 struct VistaReparacion : PantallaCompactar {
     void MostrarProgreso(bool visible) override { Progreso = visible; }
     void Avanzar(double porcentaje, const std::string& rotulo) override {

@@ -186,17 +186,22 @@ TEST_F(Ventanas, UnCeroEnLosGeneralesTomaElFoco) {
 }
 
 TEST_F(Ventanas, LaConfiguracionSeGuardaAlAceptar) {
-    caja.Respuestas = {RespuestaSi};
-    VentanaConfigurar ventana(aplicacion, servicios, nullptr);
-    Pulsar(ventana, "Ajustar la Imagen");
-    Pulsar(ventana, "Al fondo");
-    ventana.findChild<QComboBox*>()->setCurrentIndex(6);
-    Pulsar(ventana, "Aceptar");
-    EXPECT_TRUE(ventana.Guardada());
-    const Tapiz guardada = LeerTapiz(ArchivoTapiz(carpetas), ImagenPorDefecto(carpetas));
-    EXPECT_TRUE(guardada.Ajustar);
-    EXPECT_EQ(guardada.Vertical, 2);
-    EXPECT_EQ(guardada.TamanoAyuda, 7);
+    for (const std::int16_t respuesta : {RespuestaCancelar, RespuestaAceptarONo, RespuestaSi}) {
+        caja.Respuestas = {respuesta};
+        VentanaConfigurar ventana(aplicacion, servicios, nullptr);
+        ventana.show();
+        for (const char* boton : {"Ajustar la Imagen", "Al fondo"}) Pulsar(ventana, boton);
+        ventana.findChild<QComboBox*>()->setCurrentIndex(6);
+        Pulsar(ventana, "Aceptar");
+        EXPECT_EQ(caja.Mensajes.back().Botones, BotonesCaja::SiNoCancelar);
+        EXPECT_EQ(ventana.isVisible(), respuesta == RespuestaCancelar);
+        const bool guardada = respuesta == RespuestaSi;
+        EXPECT_EQ(ventana.Guardada(), guardada);
+        const Tapiz enArchivo = LeerTapiz(ArchivoTapiz(carpetas), ImagenPorDefecto(carpetas));
+        for (const Tapiz& tapiz : {aplicacion.Preferencias, enArchivo})
+            EXPECT_EQ(std::tuple(tapiz.Ajustar, tapiz.Vertical == 2, tapiz.TamanoAyuda),
+                      std::tuple(guardada, guardada, guardada ? 7 : 4));
+    }
 }
 
 /// What is captured has no file before the settings are accepted, and the window is not in the picture.

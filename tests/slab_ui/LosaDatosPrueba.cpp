@@ -38,14 +38,10 @@ TEST_F(Datos, EditaUnaCopiaYGuardaEntera) {
 
 TEST_F(Datos, UnCeroTomaElFocoSegunLaClaseDeLosa) {
     using enum CampoSeccion;
-    for (const auto& [maciza, campo, salva] : {std::tuple{false, Bo, false},
-                                               {false, Ho, false},
-                                               {false, So, false},
-                                               {false, Hm, true},
-                                               {true, Bo, true},
-                                               {true, Ho, true},
-                                               {true, So, true},
-                                               {true, Hm, false}}) {
+    const std::tuple<bool, CampoSeccion, bool> casos[]{
+        {false, Bo, false}, {false, Ho, false}, {false, So, false}, {false, Hm, true},
+        {true, Bo, true},   {true, Ho, true},   {true, So, true},   {true, Hm, false}};
+    for (const auto& [maciza, campo, salva] : casos) {
         datos.PonerMaciza(maciza);
         const double antes = datos.Seccion(campo);
         datos.PonerSeccion(campo, 0);

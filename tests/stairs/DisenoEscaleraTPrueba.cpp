@@ -46,18 +46,21 @@ TEST(DisenoEscaleraT, EstribosDeUnTramo) {
     }
 }
 
-/// A whole stair, worked apart: every field of every station.
+/// A stair worked apart: every field of stations of every kind.
 TEST(DisenoEscaleraT, EscaleraTrabajada) {
     ResultadosEscaleraT r;
     CalcularEscaleraT(EscaleraTTrabajada(), GeneralesTrabajados, r);
     ASSERT_FALSE(r.Error);
-    for (std::size_t i = 0; i <= 10; ++i)
-        for (std::size_t k = 0; k < std::size(ColumnasDeTramo); ++k)
-            Igual(r.TramoT[i].*ColumnasDeTramo[k], TramosTrabajados[i][k], "tramo", 100 * i + k);
-    for (std::size_t j = 1; j <= 7; ++j) {
+    const auto comparar = [](const auto& punto, const auto& columnas, const auto& fila, const char* que) {
+        for (std::size_t k = 0; k < std::size(columnas); ++k)
+            Igual(punto.*columnas[k], fila[k + 1], que, 100 * static_cast<std::size_t>(fila[0]) + k);
+    };
+    for (const auto& fila : TramosTrabajados)
+        comparar(r.TramoT[static_cast<std::size_t>(fila[0])], ColumnasDeTramo, fila, "tramo");
+    for (const auto& fila : DescansosTrabajados) {
+        const auto j = static_cast<std::size_t>(fila[0]);
         const EscaleraDescansoPunto& p = r.DescansoT[j];
-        for (std::size_t k = 0; k < std::size(ColumnasDeDescanso); ++k)
-            Igual(p.*ColumnasDeDescanso[k], DescansosTrabajados[j - 1][k], "descanso", 100 * j + k);
+        comparar(p, ColumnasDeDescanso, fila, "descanso");
         Igual(p.TensionAdmisible, std::sqrt(210) * 0.53, "TensionAdmisible", j);
         EXPECT_EQ(p.FallaCorte, j <= 2 ? "Falla por Corte" : "") << j;
     }
