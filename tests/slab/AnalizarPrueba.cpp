@@ -4,6 +4,7 @@
 
 #include "slab/Banda.h"
 #include "slab/CalcularLosa.h"
+#include "slab/ValoresLosa.h"
 #include "support/LosasDePrueba.h"
 
 namespace trabex::prueba {
@@ -183,6 +184,32 @@ TEST(Faltas, LosResultadosAnterioresNoQuedan) {
     CalcularLosa(LosaContinua({5, -5}, 300), {}, r);
     EXPECT_TRUE(r.DisenoEje.empty());
     EXPECT_EQ(r.ResultadoTramo[1].size(), 3U);
+}
+
+TEST(ValoresLosa, UnTramoMuyCortoOMuyLargoNoTieneEstaciones) {
+    const auto estaciones = [](double longitud) {
+        const Losa losa = LosaContinua({longitud}, 200);
+        return EstacionesDeTramo({losa, {}, Calculada(losa)}, 1, 0).size();
+    };
+    EXPECT_EQ(estaciones(0.124), 0U);  // half a strip goes to the even neighbour
+    EXPECT_EQ(estaciones(0.125), 0U);
+    EXPECT_EQ(estaciones(0.13), 2U);
+    EXPECT_EQ(estaciones(1e9), 0U);
+}
+
+TEST(ValoresLosa, ResultadosDeOtraLosaCuentanComoCeros) {
+    const Losa losa = LosaContinua({3, 3, 3}, 300);
+    const DatosGenerales generales;
+    for (const ResultadosLosa& ajenos : {ResultadosLosa{}, Calculada(LosaContinua({5, 4}, 300, 150))}) {
+        const LosaCalculada calculada{losa, generales, ajenos};
+        EXPECT_EQ(ReaccionesEnEje(calculada, 2).Total.V, 0);
+        EXPECT_EQ(ReaccionMayorada(calculada, 2), 0);
+        EXPECT_EQ(ExtremosDe(calculada, 1).VA, 0);
+        EXPECT_EQ(MomentoSuperior(calculada, 2), 0);
+        EXPECT_EQ(DisenoEnEje(calculada, 2).AS1, 0);
+        EXPECT_EQ(DisenoEnTramo(calculada, 1).AS2, 0);
+        EXPECT_TRUE(EstacionesDeTramo(calculada, 1, 0).empty());
+    }
 }
 
 }  // namespace
