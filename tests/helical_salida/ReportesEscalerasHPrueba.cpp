@@ -2,23 +2,16 @@
 // apart from the program.
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "helical/CalcularEscaleraH.h"
 #include "helical/salida/GraficosEscalerasH.h"
 #include "helical/salida/PanelesEscaleraH.h"
-#include "support/BaseSqlite.h"
-#include "support/CarpetaTemporal.h"
-#include "support/Lugares.h"
 #include "support/MontajeDePrueba.h"
-#include "support/ProyectoDePrueba.h"
 
 namespace trabex {
 
-using namespace almacen;
 using namespace helices;
 using namespace helices::salida;
-using namespace montaje;
 namespace {
 
 /// A row as it shows, cells parted by bars.
@@ -106,52 +99,30 @@ TEST(PanelesEscaleraH, MitadesDesigualesBarraMediaYSinDatos) {
     EXPECT_TRUE(ColoqueDiseno({{}, nada}).Celdas.Filas.empty());
 }
 
-TEST(ReportesEscalerasH, LosDosMontajes) {
-    const prueba::CarpetaTemporal carpeta;
-    std::filesystem::create_directories(carpeta / "programa" / "Imagen");
-    std::filesystem::create_directories(carpeta / "Trabajo");
-    CrearBaseDatos(carpeta / "programa" / "Imagen" / "Temporal.tbx",
-                   prueba::LeerArchivo(prueba::Install() + "/Imagen/Temporal.sql"));
-    const EntornoReportes entorno{carpeta / "programa", carpeta / "Trabajo", "U"};
-    /// Each row of a scratch table in a form of SQLite's printf.
-    const auto filas = [&](const std::string& tabla, const std::string& forma) {
-        std::vector<std::string> textos;
-        for (const auto& fila : prueba::ConsultarSqlite(
-                 TemporalMdb(entorno), "SELECT printf(" + forma + ") AS T FROM " + tabla + " ORDER BY rowid"))
-            textos.push_back(fila.at("T"));
-        return textos;
-    };
-    const auto estaLaEscalera = [&](const char* titulo) {
-        EXPECT_EQ(filas("Generales", "'%s', Titulo"), std::vector<std::string>{titulo});
-        EXPECT_EQ(
-            filas("EscaleraH",
-                  "'%s|%g %g %g %g %g %d %d|%.2f %.2f %d %d', Nombre, B, T, H, Angulo, R, W, Inter, L, Alfa, "
-                  "FV, Fh"),
-            std::vector<std::string>{"H-1|1.5 0.15 3 260 2.5 1500 5|11.34 14.81 8508 10639"});
-    };
-    const Calculo c(EscaleraHNuevaDe("H-1", "TÍTULO"));
-    prueba::SuperficieDeTextos superficie;
-    prueba::PanelAnotado panel;
-    ASSERT_TRUE(GuardeGraficos(entorno, {}, c.Ver(), {}, superficie, panel));
-    EXPECT_EQ(panel.Pasos.back(), 100);
-    EXPECT_THAT(superficie.Textos, testing::EndsWith("|SECCIÖN: 1,50 x 0,15|"));
-    EXPECT_EQ(prueba::LeerArchivo(carpeta / "Trabajo" / "Foto"), "foto de " + superficie.Textos);
-    EXPECT_EQ(filas("Grafico", "'%d %s', Numero, Nombre"), std::vector<std::string>{"1 H-1"});
-    estaLaEscalera("ANALISIS Y DISEÑO DE LOSAS Y VIGAS HELICOIDALES");
-    EXPECT_EQ(filas("EscaleraH1S", "''").size(), 54U);
+using ReportesEscalerasH = prueba::ConMontaje;
 
-    ASSERT_TRUE(LLenarDatos(entorno, {}, c.Ver()));
+/// Their rows are read from the reports by the test of values.
+TEST_F(ReportesEscalerasH, LosDosMontajes) {
+    const Calculo c(EscaleraHNuevaDe("H-1", "TÍTULO"));
+    const auto estaLaEscalera = [&](const char* titulo) {
+        EXPECT_THAT(Montado("Generales", "Titulo"), testing::ElementsAre(titulo));
+        EXPECT_THAT(Montado("EscaleraH", "'%s %g %g %g %d', Nombre, B, T, R, FV"),
+                    testing::ElementsAre("H-1 1.5 0.15 2.5 8508"));
+    };
+    ASSERT_TRUE(GuardeGraficos(Entorno, {}, c.Ver(), {}, Superficie, Panel));
+    EXPECT_EQ(Panel.Pasos.back(), 100);
+    EXPECT_THAT(Superficie.Textos, testing::EndsWith("|SECCIÖN: 1,50 x 0,15|"));
+    EXPECT_EQ(prueba::LeerArchivo(Entorno.Trabajo / "Foto"), "foto de " + Superficie.Textos);
+    EXPECT_THAT(Montado("Grafico", "'%d %s', Numero, Nombre"), testing::ElementsAre("1 H-1"));
+    estaLaEscalera("ANALISIS Y DISEÑO DE LOSAS Y VIGAS HELICOIDALES");
+    EXPECT_EQ(Montado("EscaleraH1S", "''").size(), 54U);
+
+    ASSERT_TRUE(LLenarDatos(Entorno, {}, c.Ver()));
     estaLaEscalera("ANALISIS Y DISEÑO DE LOSAS HELICOIDALES");
-    EXPECT_TRUE(filas("EscaleraH1S", "''").empty());
-    const auto estaciones =
-        filas("EscaleraHS",
-              "'%d: %.2f %.2f %.2f %.2f %.2f %.2f %.2f %.2f %.2f|%.2f %.2f %.2f %.2f %.2f %d %.2f', "
-              "Inter, N, QX, QY, MI1, MS1, MX, MY, MT, TU, ASXS, ASXI, AsY, AsT, LON, SEP, ASMin");
+    EXPECT_TRUE(Montado("EscaleraH1S", "''").empty());
+    const auto estaciones = Montado("EscaleraHS", "'%d %.2f %.2f %d', Inter, N, MT, SEP");
     ASSERT_EQ(estaciones.size(), 54U);
-    EXPECT_EQ(estaciones[0],
-              "130: -9330.21 -6333.65 6210.12 0.00 -4085.27 -4085.27 19259.08 -456.64 -288.14|14.51 0.00 "
-              "5.49 0.71 7.34 30 3.75");
-    EXPECT_THAT(estaciones[27], testing::StartsWith("0: 0.00 0.00 -9661.23 "));
+    EXPECT_EQ(estaciones[0], "130 -9330.21 -456.64 30");
 }
 
 }  // namespace

@@ -3,10 +3,17 @@
 #include <string>
 #include <vector>
 
+#include <gtest/gtest.h>
+
 #include "base/ErrorEjecucion.h"
+#include "reports/montaje/BaseTemporal.h"
+#include "reports/montaje/EstadoReportes.h"
 #include "reports/montaje/PanelProgreso.h"
 #include "reports/montaje/SuperficieOculta.h"
+#include "support/BaseSqlite.h"
+#include "support/CarpetaTemporal.h"
 #include "support/LienzoGrabador.h"
+#include "support/ProyectoDePrueba.h"
 
 namespace trabex::prueba {
 
@@ -50,6 +57,33 @@ struct PanelAnotado : montaje::PanelProgreso {
     bool Visible = false;
     std::vector<double> Pasos;
     std::string Rotulo;
+};
+
+/// The folders of a program that stages reports, a project, and the rows that were staged.
+struct ConMontaje : testing::Test {
+    explicit ConMontaje(const std::string& filas = {}) {
+        std::filesystem::create_directories(Entorno.CaminoPrograma / "Imagen");
+        std::filesystem::create_directories(Entorno.Trabajo);
+        CrearBaseDatos(Entorno.CaminoPrograma / "Imagen" / "Temporal.tbx",
+                       LeerArchivo(Install() + "/Imagen/Temporal.sql"));
+        CrearBaseDatos(Carpeta / "obra.los", EsquemaDeProyecto() + filas);
+    }
+    /// Each row of a scratch table in a form of SQLite's printf.
+    std::vector<std::string> Montado(const std::string& tabla, const std::string& forma) const {
+        std::vector<std::string> textos;
+        for (const FilaSqlite& fila :
+             ConsultarSqlite(montaje::TemporalMdb(Entorno),
+                             "SELECT printf(" + forma + ") AS T FROM " + tabla + " ORDER BY rowid"))
+            textos.push_back(fila.at("T"));
+        return textos;
+    }
+
+    CarpetaTemporal Carpeta;
+    montaje::EntornoReportes Entorno{Carpeta / "programa", Carpeta / "trabajo", "ING. NÚÑEZ"};
+    ProyectoAbierto Proyecto;
+    SuperficieDeTextos Superficie;
+    PanelAnotado Panel;
+    montaje::EstadoReportes Estado;
 };
 
 }  // namespace trabex::prueba
