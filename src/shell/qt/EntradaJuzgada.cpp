@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QFocusEvent>
+#include <QPointer>
 #include <QTabWidget>
 #include <QTimer>
 #include <QToolTip>
@@ -43,8 +44,11 @@ void Retomar(QWidget* control) {
 }  // namespace
 
 bool EntradasEnOrden(QWidget* ventana) {
+    const QList<QWidget*> hijos = ventana->findChildren<QWidget*>();
+    // One that ends may take others away: the tip that is going out when it says its own.
+    const QList<QPointer<QWidget>> controles(hijos.begin(), hijos.end());
     QWidget* primera = nullptr;
-    for (QWidget* control : ventana->findChildren<QWidget*>()) {
+    for (const QPointer<QWidget>& control : controles) {
         EntradaJuzgada* entrada = Juzgada(control);
         if (entrada == nullptr || control->isHidden() || !control->isEnabled()) continue;
         entrada->Terminar();
