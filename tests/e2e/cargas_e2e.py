@@ -2,6 +2,7 @@
 
 from escritorio import CAJA, PRINCIPAL, correr, crear_proyecto, filas, guardar_pdf
 
+SIN_PROYECTO = "Trabex 2024   Proyecto:[]"
 COMPARTIDOS = "Base de Datos Análisis de Carga de Losas"
 PROYECTO = "ANÁLISIS DE CARGA DE LAS LOSAS"
 MODIFICAR = "MODIFICAR EL ANÁLISIS DE CARGA"
@@ -9,85 +10,53 @@ PERMANENTES = "BASE DE DATOS DE CARGAS PERMANENTES"
 VARIABLES = "Base de Datos Cargas Variables"
 
 
+def ver_reporte(e, ventana):
+    e.ir("Reportes TBX", "ctrl+p")
+    e.ir(ventana, "Escape")
+
+
 def ver_compartidos_sin_proyecto(e):
-    e.ventana("Trabex 2024   Proyecto:[]")
-    e.teclas("alt+m", "Return")
-    e.ventana(COMPARTIDOS)
-    e.teclas("ctrl+p")
-    e.ventana("Reportes TBX")
-    e.teclas("Escape")
-    e.ventana(COMPARTIDOS)
-    e.teclas("Escape")
-    e.ventana("Trabex 2024   Proyecto:[]")
+    e.ventana(SIN_PROYECTO)
+    e.ir(COMPARTIDOS, "alt+m", "Return")
+    ver_reporte(e, COMPARTIDOS)
+    e.ir(SIN_PROYECTO, "Escape")
 
 
 def capturar(e):
-    e.teclas("alt+c", *["Up"] * 4, "Return")
-    e.ventana(PROYECTO)
-    e.teclas("ctrl+b")
-    e.ventana(COMPARTIDOS)
-    e.teclas("Down", "ctrl+t")
-    e.ventana(CAJA)   # capture it?
-    e.teclas("Return")
-    e.ventana(COMPARTIDOS)
-    e.teclas("ctrl+t")
-    e.ventana(CAJA)
-    e.teclas("Return")
-    e.ventana(CAJA)   # it is there already
-    e.teclas("Return")
-    e.ventana(COMPARTIDOS)
-    e.teclas("Escape")
-    e.ventana(PROYECTO)
+    e.ir(PROYECTO, "alt+c", *["Up"] * 4, "Return")
+    e.ir(COMPARTIDOS, "ctrl+b")
+    e.ir(CAJA, "Down", "ctrl+t")   # capture it?
+    e.ir(COMPARTIDOS, "Return")
+    e.ir(CAJA, "ctrl+t")
+    e.ir(CAJA, "Return")   # it is there already
+    e.ir(COMPARTIDOS, "Return")
+    e.ir(PROYECTO, "Escape")
+
+
+def elegir(e, busca, lista):
+    """Takes the weight found by its first letters."""
+    e.ir(CAJA, "Return", escribir=busca)
+    e.ir(lista, "Return")
 
 
 def editar(e):
     """A weight of the list, another typed after it, the variable load, and the sums as they are stored."""
-    e.teclas("Return")
-    e.ventana(MODIFICAR)
-    e.teclas("ctrl+b")
-    e.ventana(PERMANENTES)
-    e.escribir("tejas")
-    e.teclas("Return")
-    e.ventana(CAJA)
-    e.teclas("Return")
-    e.ventana(PERMANENTES)
-    e.teclas("ctrl+p")
-    e.ventana("Reportes TBX")
-    e.teclas("Escape")
-    e.ventana(PERMANENTES)
-    e.teclas("Escape")
-    e.ventana(MODIFICAR + "*")
+    e.ir(MODIFICAR, "Return")
+    e.ir(PERMANENTES, "ctrl+b")
+    elegir(e, "tejas", PERMANENTES)
+    ver_reporte(e, PERMANENTES)
+    e.ir(MODIFICAR + "*", "Escape")
     e.teclas("ctrl+n")
-    e.respiro()
-    e.escribir("Equipos")
-    e.teclas("Tab")
-    e.escribir("35,4")
-    e.teclas("Tab", "ctrl+shift+b")
-    e.ventana(VARIABLES)
-    e.escribir("oficinas")
-    e.teclas("Return")
-    e.ventana(CAJA)
-    e.teclas("Return")
-    e.ventana(VARIABLES)
-    e.teclas("ctrl+m")
-    e.ventana("NORMAS DE ACCIONES MÍNIMAS")
-    e.teclas("Return")
-    e.ventana(CAJA)   # it is not installed
-    e.teclas("Return")
-    e.ventana(VARIABLES)
-    e.teclas("Escape")
-    e.ventana(MODIFICAR + "*")
-    e.teclas("Escape")
-    e.ventana(CAJA)   # save it?
-    e.teclas("Return")
-    e.ventana(PROYECTO)
-
-
-def exportar(e):
-    e.teclas("ctrl+e")
-    e.ventana("EXPORTAR LOS ANÁLISIS DE CARGA")
-    e.teclas("Return")
-    assert guardar_pdf(e, "IMPRIMIR Y EXPORTAR EL REPORTE", "cargas.pdf", PROYECTO).startswith(b"%PDF")
+    e.reposo()
+    e.escribir("Equipos\t35,4\t")
+    e.ir(VARIABLES, "ctrl+shift+b")
+    elegir(e, "oficinas", VARIABLES)
+    e.ir("NORMAS DE ACCIONES MÍNIMAS", "ctrl+m")
+    e.ir(CAJA, "Return")   # it is not installed
+    e.ir(VARIABLES, "Return")
+    e.ir(MODIFICAR + "*", "Escape")
+    e.ir(CAJA, "Escape")   # save it?
+    e.ir(PROYECTO, "Return")
 
 
 def recorrer(e):
@@ -106,11 +75,12 @@ def recorrer(e):
     assert suma == cp + items[-2][2] + 35
     assert filas(obra, "SELECT CP, CV, Carga, REL FROM AnalisisCargaG") == [(suma, 250, suma + 250, 250 / suma)]
     assert filas(obra, "SELECT ID, Descripcion, Peso FROM AnalisisCargaCV") == [(clave, "Oficinas", 250)]
-    exportar(e)
+    e.ir("EXPORTAR LOS ANÁLISIS DE CARGA", "ctrl+e")
+    e.teclas("Return")
+    guardar_pdf(e, "IMPRIMIR Y EXPORTAR EL REPORTE", "cargas.pdf", PROYECTO)
     assert filas(e.usuario / "Trabajo" / "Temporal.mdb", "SELECT Carga FROM AnalisisCargaG") == [(suma + 250,)]
     assert compartido.read_bytes() == antes   # what was captured and edited is the project's
-    e.teclas("Escape")
-    e.ventana(PRINCIPAL)
+    e.ir(PRINCIPAL, "Escape")
 
 
 if __name__ == "__main__":

