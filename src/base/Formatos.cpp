@@ -87,16 +87,14 @@ std::string ConMarcas(std::uint32_t numero, bool negativo, int decimales, char m
     std::array<char, 24> texto{};
     char* primera = texto.data() + texto.size();
     const char* const fin = primera;
-    const auto ponerDigito = [&] {
-        *--primera = static_cast<char>('0' + numero % 10);
-        numero /= 10;
-    };
-    for (int i = 0; i < decimales; ++i) ponerDigito();
+    const auto ultimo = [](std::uint32_t digitos) { return static_cast<char>('0' + digitos % 10); };
+    for (int i = 0; i < decimales; ++i, numero /= 10) *--primera = ultimo(numero);
     if (decimales > 0) *--primera = decimal;
-    ponerDigito();
-    for (int i = 1; numero > 0; ++i) {
+    *--primera = ultimo(numero);
+    numero /= 10;
+    for (int i = 1; numero > 0; ++i, numero /= 10) {
         if (i % 3 == 0 && miles != '\0') *--primera = miles;
-        ponerDigito();
+        *--primera = ultimo(numero);
     }
     if (negativo) *--primera = '-';
     return std::string(primera, static_cast<std::size_t>(fin - primera));
