@@ -18,6 +18,12 @@ bool CopiarBase(Motor& destino, Motor& origen) {
     return sqlite3_backup_finish(copia) == SQLITE_OK;
 }
 
+/// For a file that is made anew if something stops its being written.
+void NoEsperarAlDisco(Motor& motor) {
+    motor.Consultar("PRAGMA journal_mode = MEMORY");
+    motor.Consultar("PRAGMA synchronous = OFF");
+}
+
 /// Indexes every table that has names. Only ever on a copy: in a file that stays, no other program could
 /// follow an index in this order. False when it takes too long.
 bool IndexarNombres(Motor& motor) {
@@ -97,14 +103,15 @@ void AbrirBasePropia(Conexion& conexion, const std::filesystem::path& camino) {
     if (!TieneCabecera(camino)) return;
     constexpr int banderas = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
     auto motor = std::make_shared<Motor>(camino, banderas, Procedencia::Propia);
-    if (motor->Abierto()) conexion.Tomar(std::move(motor), {});
+    if (!motor->Abierto()) return;
+    NoEsperarAlDisco(*motor);
+    conexion.Tomar(std::move(motor), {});
 }
 
 void AbrirDeTrabajo(Conexion& conexion, const std::filesystem::path& camino) {
     AbrirConexion(conexion, camino);
     if (!conexion.Abierta()) return;
-    conexion.motor()->Consultar("PRAGMA journal_mode = MEMORY");
-    conexion.motor()->Consultar("PRAGMA synchronous = OFF");
+    NoEsperarAlDisco(*conexion.motor());
 }
 
 void IndexarNombres(Conexion& conexion) {

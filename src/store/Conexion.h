@@ -60,8 +60,8 @@ class Conexion {
 /// is.
 void AbrirConexion(Conexion& conexion, const std::filesystem::path& camino);
 
-/// The same for a database that this program has just made for itself: it is not looked through, and nothing
-/// limits its length.
+/// The same for a database that this program has just made for itself and makes anew each time: it is not
+/// looked through, nothing limits its length and nothing waits for the disk.
 void AbrirBasePropia(Conexion& conexion, const std::filesystem::path& camino);
 
 /// Makes `copia` a connection to a private copy in memory of what `origen` holds, with its names indexed: for
