@@ -13,8 +13,9 @@ namespace {
 constexpr double Decima8 = 1.01e-8;
 constexpr double Diseno = 1e-7;
 
-void Cerca(double valor, Real referencia, double tolerancia, const std::string& que) {
-    EXPECT_NEAR(valor, static_cast<double>(referencia), tolerancia) << que;
+void Cerca(double tolerancia, const std::string& que, std::initializer_list<std::pair<double, Real>> pares) {
+    for (const auto& [valor, referencia] : pares)
+        EXPECT_NEAR(valor, static_cast<double>(referencia), tolerancia) << que;
 }
 
 /// The forces of every span and the state of every joint, to the last of their 8 decimals.
@@ -24,30 +25,27 @@ void CompararCaso(const Losa& losa, const ResultadosLosa& r, std::size_t caso, c
         const EsfuerzosTramo& t = r.ResultadoTramo[caso][i];
         const auto& e = p.ExtremosDeBarras()[i];
         const std::string que = "caso " + std::to_string(caso) + " tramo " + std::to_string(i);
-        Cerca(t.MomentoA, e.MA, tolerancia, que);
-        Cerca(t.CorteA, e.VA, tolerancia, que);
-        Cerca(t.AxialA, e.NA, tolerancia, que);
-        Cerca(t.MomentoB, e.MB, tolerancia, que);
-        Cerca(t.CorteB, e.VB, tolerancia, que);
-        Cerca(t.AxialB, e.NB, tolerancia, que);
+        Cerca(tolerancia, que,
+              {{t.MomentoA, e.MA},
+               {t.CorteA, e.VA},
+               {t.AxialA, e.NA},
+               {t.MomentoB, e.MB},
+               {t.CorteB, e.VB},
+               {t.AxialB, e.NB}});
     }
     for (std::size_t j = 1; j <= losa.Tramos.size(); ++j) {
         const EstadoJunta& junta = r.ResultadoJunta[caso][j];
         const auto d = p.DesplazamientoDe(j);
         const auto [RV, RH] = p.FuerzasEn(j);
         const std::string que = "caso " + std::to_string(caso) + " junta " + std::to_string(j);
-        const double menor = 0.01 * tolerancia;
-        Cerca(junta.DX, d.DX, menor, que);
-        Cerca(junta.DY, d.DY, menor, que);
-        Cerca(junta.Giro, d.Giro, menor, que);
+        Cerca(0.01 * tolerancia, que, {{junta.DX, d.DX}, {junta.DY, d.DY}, {junta.Giro, d.Giro}});
         const int tipo = losa.Ejes[j].Tipo;
         const bool X = tipo == 1 || tipo == 3 || tipo == 4;
         const bool Y = tipo == 1 || tipo == 2 || tipo == 4;
         EXPECT_EQ(junta.RestringidaX, X) << que;
         EXPECT_EQ(junta.RestringidaY, Y) << que;
         EXPECT_EQ(junta.RestringidoGiro, tipo == 4) << que;
-        Cerca(junta.RV, Y ? RV : 0, 2 * tolerancia, que);
-        Cerca(junta.RH, X ? RH : 0, 2 * tolerancia, que);
+        Cerca(2 * tolerancia, que, {{junta.RV, Y ? RV : 0}, {junta.RH, X ? RH : 0}});
     }
 }
 
@@ -57,24 +55,23 @@ void CompararDiseno(const Losa& losa, const ResultadosLosa& r, const DisenoDeRef
     for (std::size_t j = 1; j <= losa.Tramos.size(); ++j) {
         const DisenoDeEje& eje = r.DisenoEje[j];
         const std::string que = "junta " + std::to_string(j);
-        Cerca(eje.AS1, d.Ejes[j].AS1, tolerancia, que);
-        Cerca(eje.AS2, d.Ejes[j].AS2, tolerancia, que);
-        Cerca(eje.MczI, d.Ejes[j].MczI, tolerancia, que);
-        Cerca(eje.MczD, d.Ejes[j].MczD, tolerancia, que);
-        if (j < losa.Tramos.size() && !d.Dudoso[j]) Cerca(eje.PtoD, d.Ejes[j].PtoD, tolerancia, que);
-        if (!d.Dudoso[j - 1]) Cerca(eje.PtoI, d.Ejes[j].PtoI, tolerancia, que);
+        const auto& suyo = d.Ejes[j];
+        Cerca(tolerancia, que,
+              {{eje.AS1, suyo.AS1}, {eje.AS2, suyo.AS2}, {eje.MczI, suyo.MczI}, {eje.MczD, suyo.MczD}});
+        if (j < losa.Tramos.size() && !d.Dudoso[j]) Cerca(tolerancia, que, {{eje.PtoD, suyo.PtoD}});
+        if (!d.Dudoso[j - 1]) Cerca(tolerancia, que, {{eje.PtoI, suyo.PtoI}});
     }
     for (std::size_t i = 1; i < losa.Tramos.size(); ++i) {
         const DisenoDeTramo& tramo = r.DisenoTramo[i];
         const std::string que = "tramo " + std::to_string(i);
-        Cerca(tramo.MT, d.Tramos[i].MT, tolerancia, que);
-        if (!d.Dudoso[i]) Cerca(tramo.x, d.Tramos[i].x, tolerancia, que);
-        Cerca(tramo.AS1, d.Tramos[i].AS1, tolerancia, que);
-        Cerca(tramo.AS2, d.Tramos[i].AS2, tolerancia, que);
+        Cerca(tolerancia, que,
+              {{tramo.MT, d.Tramos[i].MT}, {tramo.AS1, d.Tramos[i].AS1}, {tramo.AS2, d.Tramos[i].AS2}});
+        if (!d.Dudoso[i]) Cerca(tolerancia, que, {{tramo.x, d.Tramos[i].x}});
     }
-    Cerca(r.MaxMomentoApoyo, d.MaxMomentoApoyo, tolerancia, "MaxMomentoApoyo");
-    Cerca(r.MaxCorte, d.MaxCorte, tolerancia, "MaxCorte");
-    Cerca(r.MaxMomentoTramo, d.MaxMomentoTramo, tolerancia, "MaxMomentoTramo");
+    Cerca(tolerancia, "máximos",
+          {{r.MaxMomentoApoyo, d.MaxMomentoApoyo},
+           {r.MaxCorte, d.MaxCorte},
+           {r.MaxMomentoTramo, d.MaxMomentoTramo}});
 }
 
 /// A slab that hardly holds moves by centimetres, and its forces lose as many digits as it moves more.
