@@ -41,11 +41,7 @@ TEST_F(VentanasConWidgets, LasCeldasSoloSeModificanConSuOpcion) {
     const auto escribir = [tabla] {
         tabla->setFocus();
         tabla->IrA(1, 1);
-        QTest::keyClicks(tabla, "1");
-        if (auto* editor = tabla->findChild<QLineEdit*>()) {
-            QTest::keyClicks(editor, "23,5");
-            QTest::keyClick(editor, Qt::Key_Return);
-        }
+        Teclas("123,5\t");  // Enter would open the window of the one in sight
     };
     escribir();
     tabla->Borrar();
@@ -100,8 +96,8 @@ TEST_F(VentanasConWidgets, NadaDeLoEscritoSePierdeAlDesplazarNiAlCerrar) {
     ventana.findChild<QAction*>("ID_CrearLinea")->trigger();
     auto* tabla = ventana.findChild<TablaDatos*>();
     tabla->IrA(tabla->Filas(), 1);
-    QTest::keyClicks(tabla, "4");
-    QTest::keyClicks(tabla->findChild<QLineEdit*>(), "0,6");  // still in its editor
+    tabla->setFocus();
+    Teclas("40,6");  // still in its editor
     caja_.Respuestas = {programa::RespuestaSi};
     deslizador->setValue(2);
     EXPECT_EQ(guardado().CP, cp + 41);
@@ -110,9 +106,7 @@ TEST_F(VentanasConWidgets, NadaDeLoEscritoSePierdeAlDesplazarNiAlCerrar) {
 
     deslizador->setValue(1);
     EXPECT_EQ(caja_.Mensajes.size(), 1U);  // nothing changed, nothing asked
-    long1->setFocus();
-    long1->selectAll();
-    QTest::keyClicks(long1, "1.250,4");
+    Escribir(long1, "1.250,4");
     ventana.findChild<QAction*>("ID_Salvar")->trigger();
     EXPECT_EQ(guardado().CV, 1250);
     EXPECT_FALSE(ventana.isWindowModified());
@@ -120,8 +114,7 @@ TEST_F(VentanasConWidgets, NadaDeLoEscritoSePierdeAlDesplazarNiAlCerrar) {
     // What is no weight, or may be two, stays in sight and holds the window; given up, what stood counts
     // again.
     for (const char* mala : {"-", "3x", "1.250"}) {
-        long1->selectAll();
-        QTest::keyClicks(long1, mala);
+        Escribir(long1, mala);
         deslizador->setValue(3);
         ventana.reject();
         EXPECT_EQ(deslizador->value(), 1);

@@ -36,17 +36,6 @@ class VentanaDeMarkus : public testing::Test {
         for (int fila = 1; fila <= Panos.Filas(); ++fila) celdas += Celda(Panos, fila, columna);
         return celdas.join(' ');
     }
-    static void Teclas(const QString& texto) {
-        for (const QChar letra : texto) {
-            QWidget* destino = QApplication::focusWidget();
-            if (letra == '\n')
-                QTest::keyClick(destino, Qt::Key_Return);
-            else if (letra == '\t')
-                QTest::keyClick(destino, Qt::Key_Tab);
-            else
-                QTest::keyClick(destino, letra.toLatin1());
-        }
-    }
     /// The question for a block is answered as soon as it comes.
     void Responder(const QString& texto) {
         QTimer::singleShot(100, &Ventana, [texto] {

@@ -144,9 +144,7 @@ TEST_F(PreviaDeCuadricula, PaginasTituloYZoom) {
     EXPECT_EQ(pagina->text(), QString("%1  de  %1").arg(paginas));
     auto* titulo = ventana.findChild<QLineEdit*>("Titulo");
     EXPECT_EQ(titulo->text(), "Cargas");
-    titulo->setFocus();
-    titulo->selectAll();
-    QTest::keyClicks(titulo, "Otros pesos");
+    Escribir(titulo, "Otros pesos");
     vista->Buscar("Otros pesos");
     EXPECT_EQ(vista->NumeroHallazgos(), paginas);
     vista->Buscar("Proyecto: Torre");

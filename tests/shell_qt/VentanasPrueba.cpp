@@ -166,8 +166,7 @@ TEST_F(Ventanas, UnCeroEnLosGeneralesTomaElFoco) {
     const auto campos = ventana.findChildren<QLineEdit*>();
     ASSERT_EQ(campos.size(), 7);
     EXPECT_EQ(campos[2]->text(), "0,025");
-    campos[1]->clear();
-    QTest::keyClicks(campos[1], "40.000");  // 40 or 40000, and that passes 16 bits
+    Escribir(campos[1], "40.000");  // 40 or 40000, and that passes 16 bits
     Pulsar(ventana, "Aceptar");
     EXPECT_EQ(ventana.focusWidget(), campos[1]);
     campos[1]->setText("4200");

@@ -45,21 +45,6 @@ class Tabla : public testing::Test {
         tabla.setFocus();
         tabla.IrA(1, 0);
     }
-    /// Keys go where the focus is: to the cell's editor while there is one.
-    void Teclas(const QString& texto) {
-        for (const QChar c : texto) {
-            QTest::keyClick(Destino(), c.toLatin1());
-        }
-    }
-    void Tecla(Qt::Key tecla, Qt::KeyboardModifiers mas = Qt::NoModifier) {
-        QTest::keyClick(Destino(), tecla, mas);
-    }
-    QWidget* Destino() {
-        for (auto* editor : tabla.viewport()->findChildren<QLineEdit*>()) {
-            if (editor->isVisible()) return editor;
-        }
-        return &tabla;
-    }
     QString Celda(int fila, int columna) const {
         return tabla.model()->index(fila - 1, columna).data().toString();
     }
@@ -74,12 +59,7 @@ class Tabla : public testing::Test {
 
 /// Enter goes down, below where a run of Tab began; Tab goes right and, past the end, out.
 TEST_F(Tabla, EnterBajaYTabVaALaDerechaYSale) {
-    Teclas("5,25");
-    Tecla(Qt::Key_Return);
-    Teclas("4.5");
-    Tecla(Qt::Key_Tab);
-    Teclas("abc");
-    Tecla(Qt::Key_Return);
+    Teclas("5,25\n4.5\tabc\n");
     EXPECT_EQ(std::pair(tabla.FilaActual(), tabla.currentIndex().column()), std::pair(3, 0));
     EXPECT_EQ(numeros, (std::vector<double>{5.25, 4.5, 0, 0}));
     EXPECT_EQ(Celda(1, 0), "5,25");
@@ -124,12 +104,10 @@ TEST_F(Tabla, LoQueNoEsNumeroQuedaALaVistaYNoSale) {
         }
     }
     tabla.IrA(1, 0);
-    Teclas("7x");
-    Tecla(Qt::Key_Return);
+    Teclas("7x\n");
     Teclas("8");
     QTest::qWait(50);  // the focus is in the cell, and stays there
-    Teclas("5");
-    Tecla(Qt::Key_Return);
+    Teclas("5\n");
     EXPECT_EQ(numeros[0], 85);
 }
 
@@ -143,8 +121,7 @@ TEST_F(Tabla, EscapeDejaLaCeldaYF2LaEditaConDeshacer) {
     Tecla(Qt::Key_End);
     Teclas("5");
     Tecla(Qt::Key_Z, Qt::ControlModifier);
-    Teclas("1");
-    Tecla(Qt::Key_Return);
+    Teclas("1\n");
     EXPECT_EQ(numeros[0], 7.001);
     Tecla(Qt::Key_Up);
     Tecla(Qt::Key_Delete);
@@ -152,8 +129,7 @@ TEST_F(Tabla, EscapeDejaLaCeldaYF2LaEditaConDeshacer) {
 }
 
 TEST_F(Tabla, LoRechazadoVuelveASuValorYNoSigue) {
-    Teclas("101");
-    Tecla(Qt::Key_Return);
+    Teclas("101\n");
     EXPECT_EQ(rechazos, 1);
     EXPECT_EQ(Celda(1, 0), "0,00");
     EXPECT_EQ(tabla.FilaActual(), 1);

@@ -28,6 +28,23 @@ void EnLaVentana(Accion accion) {
                        [accion] { accion(static_cast<QDialog&>(*QApplication::activeModalWidget())); });
 }
 
+/// A key for what has the focus.
+inline void Tecla(Qt::Key tecla, Qt::KeyboardModifiers mas = Qt::NoModifier) {
+    QTest::keyClick(QApplication::focusWidget(), tecla, mas);
+}
+
+/// Letters for what has the focus, which a tabulator and a line's end may move.
+inline void Teclas(const QString& texto) {
+    for (const QChar letra : texto) {
+        if (letra == '\n')
+            Tecla(Qt::Key_Return);
+        else if (letra == '\t')
+            Tecla(Qt::Key_Tab);
+        else
+            QTest::keyClick(QApplication::focusWidget(), letra.toLatin1());
+    }
+}
+
 /// Types over what a field holds.
 inline void Escribir(QLineEdit* campo, const char* texto) {
     campo->setFocus();
