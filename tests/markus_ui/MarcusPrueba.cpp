@@ -98,8 +98,7 @@ TEST_F(NivelesDeMarkus, OtroNivelPierdeLoQueNoSeSalvoYAlCerrarSePregunta) {
     otra.Ejecutar("INSERT INTO MarcusDatos VALUES ('Sótano', 1)");
     Ventana.NotarCambios();
     EXPECT_EQ(Niveles().size(), 2U);  // not over what was entered
-    EXPECT_TRUE(Ventana.PuedeCerrar());
-    EXPECT_TRUE(Ventana.Modificado());
+    EXPECT_TRUE(Ventana.PuedeCerrar() && Ventana.Modificado());
     EXPECT_TRUE(Ventana.PuedeCerrar());
     EXPECT_FALSE(Ventana.Modificado());
     Ventana.NotarCambios();

@@ -61,11 +61,8 @@ TEST_F(Arranque, LasPreferenciasSonRegistrosDe128Bytes) {
     otros[5 * registro] = 9;
     otros.replace(6 * registro, 4, std::string(4, '\0'));
     Tapiz leido = LeerRegistros(otros);
-    EXPECT_EQ(leido.Horizontal, 0);
-    EXPECT_EQ(leido.Vertical, 1);
-    EXPECT_EQ(leido.Efecto, 0);
-    EXPECT_EQ(leido.TamanoAyuda, 4);
-    EXPECT_EQ(leido.FondoAyuda, 0xD6F4FFU);
+    EXPECT_EQ(std::tuple(leido.Horizontal, leido.Vertical, leido.Efecto, leido.TamanoAyuda, leido.FondoAyuda),
+              std::tuple(0, 1, 0, 4, 0xD6F4FFU));
     leido.Horizontal = 1;
     PonerRegistros(leido, otros);  // one byte is written, the other stays
     EXPECT_EQ(otros.substr(128, 2), "\x01\x01");
@@ -119,65 +116,62 @@ TEST_F(Arranque, RepararRehaceCadaArchivoElegido) {
               (std::vector<std::string>{"Á.LOS", "b.los", "Ejemplo Demostrativo.los"}));
     VistaReparacion pantalla;
     Compactar1 reparacion(aplicacion, servicios, pantalla);
-    reparacion.Aceptar(proyectos, {});
-    EXPECT_EQ(caja.Mensajes.back().Texto, "No ha Seleccionado ningún Archivo...");
+    const auto reparar = [&](const std::vector<std::string>& elegidos) {
+        pantalla.Cerrada = false;
+        reparacion.Aceptar(proyectos, elegidos);
+        return caja.Mensajes.back().Texto;
+    };
+    const auto losas = [&] {
+        ProyectoAbierto proyecto;
+        return Abrir(proyecto, proyectos / "b.los") ? proyecto.RegistrosProyecto.NumeroRegistros() : -1;
+    };
+    EXPECT_EQ(reparar({}), "No ha Seleccionado ningún Archivo...");
     EXPECT_EQ(caja.Mensajes.back().Titulo, "Reparar y Compactar Archivos");
     EXPECT_FALSE(pantalla.Cerrada);
-    reparacion.Aceptar(proyectos, {"Á.LOS", "b.los"});
-    EXPECT_EQ(caja.Mensajes.back().Texto, "¡Se Repararon Y Compactaron ( 2 ) Archivos con Exito!");
+    EXPECT_EQ(reparar({"Á.LOS", "b.los"}), "¡Se Repararon Y Compactaron ( 2 ) Archivos con Exito!");
     EXPECT_EQ(pantalla.Rotulos[0], "Archivo: Á.LOS");
     EXPECT_EQ(pantalla.Avance, 100);
     EXPECT_TRUE(pantalla.Cerrada);
-    EXPECT_FALSE(pantalla.Espera || pantalla.Progreso ||
-                 std::filesystem::exists(Usuario("Temporales/resto.txt")));
-    ProyectoAbierto proyecto;
-    ASSERT_TRUE(Abrir(proyecto, proyectos / "b.los"));
-    EXPECT_EQ(proyecto.RegistrosProyecto.NumeroRegistros(), 1);
-    proyecto.ConexionProyecto.Cerrar();
+    EXPECT_FALSE(pantalla.Espera || pantalla.Progreso || Existe(Usuario("Temporales/resto.txt")));
+    EXPECT_EQ(losas(), 1);
 
     // A read-only file stops the run; what was done before stays done, and the file stays as it was.
     std::filesystem::permissions(proyectos / "b.los", std::filesystem::perms(0444));
     const std::string antes = LeerArchivo(proyectos / "b.los");
-    pantalla.Cerrada = false;
-    reparacion.Aceptar(proyectos, {"Á.LOS", "b.los"});
-    EXPECT_EQ(caja.Dicho(),
-              "Número de Error: 75\nError de acceso a la ruta o al archivo|¡Falló la Acción de Reparar Y "
-              "Compactar el Archivo!");
+    EXPECT_EQ(reparar({"Á.LOS", "b.los"}), "Número de Error: 75\nError de acceso a la ruta o al archivo");
+    EXPECT_EQ(caja.Mensajes.back().Encabezado, "¡Falló la Acción de Reparar Y Compactar el Archivo!");
     EXPECT_EQ(LeerArchivo(proyectos / "b.los"), antes);
     EXPECT_FALSE(pantalla.Cerrada);
 
     // Another running program has it open: it stays.
     std::filesystem::permissions(proyectos / "b.los", std::filesystem::perms(0644));
-    ASSERT_TRUE(Abrir(proyecto, proyectos / "b.los"));
-    reparacion.Aceptar(proyectos, {"b.los"});
-    EXPECT_EQ(caja.Mensajes.back().Texto, "Número de Error: 70\nPermiso denegado");
-    EXPECT_EQ(LeerArchivo(proyectos / "b.los"), antes);
-    proyecto.ConexionProyecto.Cerrar();
+    {
+        ProyectoAbierto proyecto;
+        ASSERT_TRUE(Abrir(proyecto, proyectos / "b.los"));
+        EXPECT_EQ(reparar({"b.los"}), "Número de Error: 70\nPermiso denegado");
+        EXPECT_EQ(LeerArchivo(proyectos / "b.los"), antes);
+    }
 
     // Of a damaged one the rest comes back, what was lost is told, and the trash has the file as it was.
     plataforma.HayPapelera = true;
-    CrearBaseDatos(carpeta.Camino() / "programa" / "Imagen" / "LosaImagen.tbx", EsquemaDeProyecto());
+    CrearBaseDatos(carpeta / "programa/Imagen/LosaImagen.tbx", EsquemaDeProyecto());
     std::string bytes = antes;
     std::fill_n(bytes.begin(), 4096, '\0');  // with it the catalogue
     EscribirArchivo(proyectos / "b.los", bytes);
-    reparacion.Aceptar(proyectos, {"b.los"});
+    EXPECT_EQ(
+        reparar({"b.los"}),
+        "Archivo: B.LOS\nEstaba Dañado: se Salvaron 6 Filas y se Perdieron 0 Filas y 1 Páginas de Filas");
     EXPECT_EQ(caja.Mensajes[caja.Mensajes.size() - 2].Texto,
               "¡Se Repararon Y Compactaron ( 1 ) Archivos con Exito!");
-    EXPECT_EQ(
-        caja.Mensajes.back().Texto,
-        "Archivo: B.LOS\nEstaba Dañado: se Salvaron 6 Filas y se Perdieron 0 Filas y 1 Páginas de Filas");
     EXPECT_EQ(LeerArchivo(carpeta / "Papelera/b.los"), bytes);
-    ASSERT_TRUE(Abrir(proyecto, proyectos / "b.los"));
-    EXPECT_EQ(proyecto.RegistrosProyecto.NumeroRegistros(), 1);
-    proyecto.ConexionProyecto.Cerrar();
+    EXPECT_EQ(losas(), 1);
     plataforma.HayPapelera = false;
 
     // What is no database: the engine's box, then the failure of the copy.
     caja.Mensajes.clear();
-    reparacion.Aceptar(proyectos, {"Ejemplo Demostrativo.los"});
+    EXPECT_EQ(reparar({"Ejemplo Demostrativo.los"}), "Número de Error: 53\nNo se encontró el archivo");
     ASSERT_EQ(caja.Mensajes.size(), 2U);
     EXPECT_EQ(caja.Mensajes[0].Titulo, "Error Inesperado");
-    EXPECT_EQ(caja.Mensajes[1].Texto, "Número de Error: 53\nNo se encontró el archivo");
 }
 
 TEST(CajaMensajes, Medidas) {

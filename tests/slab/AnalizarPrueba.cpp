@@ -136,8 +136,7 @@ TEST(Faltas, ElCasoPermanenteQuedaCuandoFallaElVariable) {
     ASSERT_TRUE(r.Error);
     EXPECT_EQ(r.Error->Codigo(), 6);
     EXPECT_EQ(r.ResultadoTramo[1].size(), 3U);
-    EXPECT_TRUE(r.ResultadoTramo[2].empty());
-    EXPECT_TRUE(r.ResultadoJunta[1].empty());
+    EXPECT_TRUE(r.ResultadoTramo[2].empty() && r.ResultadoJunta[1].empty());
     EXPECT_TRUE(r.DisenoTramo.empty());
 }
 

@@ -75,8 +75,7 @@ TEST_F(Escaleras, LosDatosDeLaEscaleraT) {
     entrados.L = -3.1;  // signs are not looked at, and loads may be 0
     entrados.Wd = entrados.WpD = 0;
     nueva.Cambiar();
-    EXPECT_TRUE(nueva.Salvar(entrados) && nueva.Salvar(entrados));
-    EXPECT_TRUE(cambiados_ && !nueva.Modificada());
+    EXPECT_TRUE(nueva.Salvar(entrados) && nueva.Salvar(entrados) && cambiados_ && !nueva.Modificada());
     EXPECT_TRUE(nueva.Cerrar(entrados) && caja_.Mensajes.empty());
     EXPECT_EQ(Tabla("EscaleraT").NumeroRegistros(), 1);
     DatosEscaleraT leida;
@@ -128,8 +127,7 @@ TEST_F(Escaleras, LosDatosDeLaEscaleraH) {
     EntradaEscaleraH e = semilla;
     e.Angulo = 360;
     e.H = e.W = 0;
-    EXPECT_TRUE(datos.Salvar(e) && datos.Salvar(e));
-    EXPECT_TRUE(!nueva && cambiados_);
+    EXPECT_TRUE(datos.Salvar(e) && datos.Salvar(e) && !nueva && cambiados_);
     EXPECT_EQ(Tabla("EscaleraH").NumeroRegistros(), 1);
     DatosEscaleraH leida;
     EXPECT_TRUE(LeaDatosEscalera(proyecto_, leida));
