@@ -1,11 +1,9 @@
 """Runs the batch program as a script would and reads what it writes with another JSON parser."""
 
-import contextlib
 import json
 import math
 import os
 import pathlib
-import re
 import shutil
 import sqlite3
 import struct
@@ -14,35 +12,18 @@ import sys
 import tempfile
 import unittest
 
-LOTE, IMAGEN = sys.argv[1], pathlib.Path(sys.argv[2])
+from corrida import EJEMPLO, LOTE, DelEjemplo, correr
+
 PLANTILLA, ESQUEMAS = sys.argv[3], pathlib.Path(sys.argv[4])
 
 
-def correr(*argumentos):
-    return subprocess.run([LOTE, *map(str, argumentos)], capture_output=True, text=True)
-
-
-class Lote(unittest.TestCase):
-    @classmethod
-    def setUpClass(cls):
-        carpeta = tempfile.TemporaryDirectory(prefix="lote ñ ")
-        cls.addClassCleanup(carpeta.cleanup)
-        cls.comun = pathlib.Path(carpeta.name)
-        cls.ejemplo = cls.comun / "Ejemplo.los"
-        shutil.copy(IMAGEN / "Ejemplo Demostrativo.tbx", cls.ejemplo)
-        cls.corrida = correr(cls.ejemplo, cls.comun / "salida")
-
-    def del_ejemplo(self):
-        """What the example gave, run once for all who only read it."""
-        self.assertEqual(self.corrida.returncode, 0, self.corrida.stderr)
-        return json.loads((self.comun / "salida" / "resultados.json").read_text()), self.corrida.stdout
-
+class Lote(DelEjemplo):
     def setUp(self):
         carpeta = tempfile.TemporaryDirectory(prefix="lote ñ ")
         self.addCleanup(carpeta.cleanup)
         self.carpeta = pathlib.Path(carpeta.name)
         self.proyecto = self.carpeta / "Obra Año 1.los"
-        shutil.copy(IMAGEN / "Ejemplo Demostrativo.tbx", self.proyecto)
+        shutil.copy(EJEMPLO, self.proyecto)
 
     def resultados(self, *opciones):
         """A run that draws nothing unless it is asked to."""
@@ -56,32 +37,60 @@ class Lote(unittest.TestCase):
                 base.execute(sentencia)
         base.close()
 
-    def test_el_ejemplo_equilibra_sus_cargas(self):
-        documento, resumen = self.del_ejemplo()
-        self.assertEqual(self.ejemplo.read_bytes(), (IMAGEN / "Ejemplo Demostrativo.tbx").read_bytes())
-        self.assertEqual(sorted(os.listdir(self.comun / "salida")),
+    def test_el_ejemplo(self):
+        """Every element is there; its values stand in the reports too, where the test of values reads them."""
+        self.assertEqual(self.ejemplo.read_bytes(), EJEMPLO.read_bytes())
+        self.assertEqual(sorted(os.listdir(self.salida)),
                          ["Trabajo", "escalerasH", "escalerasT", "losas", "planex", "reportes", "resultados.json"])
-        self.assertEqual(documento["Proyecto"]["Calculista"], "ING. MARÍA NÚÑEZ")
-        self.assertEqual(documento["LosaG"]["FC"], 250)
-        self.assertGreaterEqual(len(documento["losas"]), 8)
-        nombres = [losa["Nombre"] for losa in documento["losas"]]
+        self.assertEqual(self.documento["Proyecto"]["Calculista"], "ING. MARÍA NÚÑEZ")
+        self.assertEqual((self.documento["LosaG"]["FC"], self.documento["EscaleraTG"]["FS"]), (250, 1.55))
+        self.assertEqual(set(self.documento["EscaleraHG"]), {"FC", "FY", "D8", "FiMomento", "FiCorte", "FS"})
+        for clave, cuantos in (("losas", 9), ("escalerasT", 5), ("escalerasH", 7), ("marcus", 2), ("analisisCarga", 3)):
+            elementos = self.documento[clave]
+            self.assertEqual(len(elementos), cuantos)
+            for elemento in elementos:
+                self.assertIn(elemento["Descripcion" if clave == "analisisCarga" else "Nombre"], self.resumen)
+                self.assertNotIn("error", elemento)
+        self.assertLessEqual({aviso["gravedad"] for losa in self.documento["losas"] for aviso in losa["avisos"]},
+                             {"nota", "advertencia"})
+        nombres = [losa["Nombre"] for losa in self.documento["losas"]]
         self.assertEqual(nombres, sorted(nombres))
-        for losa in documento["losas"]:
-            self.assertIn(losa["Nombre"], resumen)
-            self.assertNotIn("error", losa)
-            self.assertLessEqual({aviso["gravedad"] for aviso in losa["avisos"]}, {"nota", "advertencia"})
-            tramos, ejes = len(losa["Tramos"]), len(losa["Ejes"])
-            self.assertEqual(ejes, tramos + 1)
-            self.assertEqual([len(caso) for caso in losa["ResultadoJunta"]], [ejes, ejes])
-            self.assertEqual([len(caso) for caso in losa["ResultadoTramo"]], [tramos, tramos])
-            self.assertEqual((len(losa["DisenoEje"]), len(losa["DisenoTramo"])), (ejes, tramos))
+        self.assertEqual([(a["ID"], a["Carga"]) for a in self.documento["analisisCarga"]], [(2741, 770), (6120, 690), (8893, 505)])
+
+    def test_el_ejemplo_equilibra_sus_cargas(self):
+        for losa in self.documento["losas"]:
             for caso, carga in ((0, "Wp"), (1, "WV")):
                 juntas = losa["ResultadoJunta"][caso]
-                total = sum(t[carga] * ((b["x"] - a["x"]) ** 2 + (b["y"] - a["y"]) ** 2) ** 0.5
-                            for t, a, b in zip(losa["Tramos"], juntas, juntas[1:]))
+                total = sum(t[carga] * math.dist((a["x"], a["y"]), (b["x"], b["y"]))
+                            for t, a, b in zip(losa["Tramos"], juntas[:-1], juntas[1:], strict=True))
                 if caso == 0:
                     total += sum(t["p1"] for t in losa["Tramos"])
                 self.assertAlmostEqual(sum(j["RV"] for j in juntas), total, delta=0.5)
+        for e in self.documento["escalerasT"]:
+            self.assertEqual((len(e["TramoT"]), len(e["DescansoT"])), (11, 7))
+            self.assertAlmostEqual(e["ReaccionVertical"], e["WT"] * e["L"] + e["Wd"] * e["B"], places=6)
+            self.assertAlmostEqual(e["EmpujeEstatico"], e["EmpujeFlexion"], places=6)
+        for e in self.documento["escalerasH"]:
+            mitad = round(e["Angulo"] / 2)
+            self.assertEqual([len(e["TramoSuperior"]), len(e["TramoInferior"])], [mitad // e["Inter"] + 1] * 2)
+            self.assertEqual(e["TramoSuperior"][0]["Angulo"], -mitad)
+            self.assertAlmostEqual(e["EmpujeEstatico"], -e["X"] * e["W"] * e["R"] * math.sin(math.radians(e["Angulo"] / 2)), places=6)
+            cortas = {aviso["texto"] for aviso in e["avisos"]}
+            self.assertEqual("El intervalo no da una estación en el centro." in cortas, mitad % e["Inter"] != 0)
+        for fila in (fila for nivel in self.documento["marcus"] for fila in nivel["Filas"]):
+            self.assertAlmostEqual(fila["CX"] + fila["CY"], 1)
+
+    def test_el_ejemplo_muestra_a_que_puede_llegar_una_escalera(self):
+        principal, _, emergencia, auditorio, vestibulo = self.documento["escalerasT"]
+        self.assertEqual({punto["AreaEstribo"] for punto in principal["TramoT"]}, {0.71})
+        self.assertEqual({punto["AreaEstribo"] for punto in emergencia["TramoT"]}, {0})
+        self.assertEqual({punto["FallaCorte"] for punto in auditorio["DescansoT"]}, {"", "Falla por Corte"})
+        self.assertEqual(vestibulo["TramoT"][10]["AreaEstribo"], 1.27)
+        self.assertGreater(vestibulo["TramoT"][10]["AsInferior"], 0)  # under a moment that pulls the top
+        _, _, mirador, biblioteca, torre, balcon, cuadrada = self.documento["escalerasH"]
+        self.assertEqual({punto["AsT"] for punto in mirador["TramoSuperior"]}, {0.71, 1.27})
+        self.assertNotEqual(biblioteca["Angulo"] / 2 % biblioteca["Inter"], 0)
+        self.assertEqual((torre["Angulo"], balcon["Alfa"], cuadrada["B"]), (360, 0, cuadrada["T"]))
 
     def test_una_losa_que_no_se_sostiene_lo_dice(self):
         self.sql("UPDATE LosaEjes SET Tipo = 5")
@@ -90,75 +99,6 @@ class Lote(unittest.TestCase):
             fallas = [aviso for aviso in losa["avisos"] if aviso["gravedad"] == "falla"]
             self.assertTrue(any("La losa no se sostiene" in aviso["texto"] for aviso in fallas), losa["Nombre"])
             self.assertIn(fallas[0]["lugar"], ["Eje " + eje["Eje"] for eje in losa["Ejes"]])
-
-    def test_las_escaleras_del_ejemplo_equilibran_sus_cargas(self):
-        documento, resumen = self.del_ejemplo()
-        self.assertEqual(documento["EscaleraTG"]["FS"], 1.55)
-        self.assertEqual(set(documento["EscaleraHG"]), {"FC", "FY", "D8", "FiMomento", "FiCorte", "FS"})
-        self.assertGreaterEqual(min(len(documento["escalerasT"]), len(documento["escalerasH"])), 2)
-        for e in documento["escalerasT"]:
-            self.assertIn(e["Nombre"], resumen)
-            self.assertTrue(e["Titulo"])
-            self.assertNotIn("error", e)
-            self.assertEqual((len(e["TramoT"]), len(e["DescansoT"])), (11, 7))
-            self.assertAlmostEqual(e["ReaccionVertical"], e["WT"] * e["L"] + e["Wd"] * e["B"], places=6)
-            self.assertAlmostEqual(e["TramoT"][10]["MomentoTotal"], e["MomentoApoyoTotal"], places=6)
-            self.assertAlmostEqual(e["DescansoT"][6]["MomentoTotal"], e["TramoT"][0]["MomentoTotal"], places=6)
-            self.assertEqual([round(punto["X"] / e["L"], 9) for punto in e["TramoT"]], [i / 10 for i in range(11)])
-            self.assertEqual([punto["Angulo"] for punto in e["DescansoT"]], list(range(0, 91, 15)))
-            self.assertAlmostEqual(e["EmpujeEstatico"], e["EmpujeFlexion"], places=6)
-            self.assertLess(e["EmpujeEstatico"], e["ReaccionHorizontal"])
-            self.assertLess(max(punto["AsSuperior"] for punto in e["TramoT"]), 25)  # believable
-        # Between them they show what a stair may come to.
-        principal, _, emergencia, auditorio, vestibulo = documento["escalerasT"]
-        self.assertEqual({punto["AreaEstribo"] for punto in principal["TramoT"]}, {0.71})
-        self.assertEqual({punto["AreaEstribo"] for punto in emergencia["TramoT"]}, {0})
-        self.assertEqual({punto["FallaCorte"] for punto in principal["DescansoT"]}, {""})
-        self.assertEqual({punto["FallaCorte"] for punto in auditorio["DescansoT"]}, {"", "Falla por Corte"})
-        self.assertEqual(vestibulo["TramoT"][10]["AreaEstribo"], 1.27)
-        self.assertGreater(vestibulo["TramoT"][10]["AsInferior"], 0)  # under a moment that pulls the top
-        self.assertEqual(vestibulo["TramoT"][10]["EnvolventePositiva"], 0)
-        _, _, mirador, biblioteca, torre, balcon, cuadrada = documento["escalerasH"]
-        self.assertEqual({punto["AsT"] for punto in mirador["TramoSuperior"]}, {0.71, 1.27})
-        self.assertNotEqual(biblioteca["Angulo"] / 2 % biblioteca["Inter"], 0)
-        self.assertEqual((torre["Angulo"], balcon["Alfa"], cuadrada["B"]), (360, 0, cuadrada["T"]))
-        for e in documento["escalerasH"]:
-            self.assertIn(e["Nombre"], resumen)
-            self.assertNotIn("error", e)
-            estaciones = round(e["Angulo"] / 2) // e["Inter"] + 1
-            self.assertEqual([len(e["TramoSuperior"]), len(e["TramoInferior"])], [estaciones] * 2)
-            self.assertAlmostEqual(e["FV"], e["W"] * e["R"] * math.radians(e["Angulo"] / 2), delta=0.51)
-            self.assertGreaterEqual(min(estacion["SEP"] for estacion in e["TramoSuperior"]), 7)
-            self.assertEqual(e["TramoSuperior"][0]["Angulo"], -round(e["Angulo"] / 2))
-            self.assertEqual([p["Angulo"] for p in e["TramoInferior"]], [i * e["Inter"] for i in range(estaciones)])
-            self.assertAlmostEqual(e["EmpujeEstatico"], -e["X"] * e["W"] * e["R"] *
-                                   math.sin(math.radians(e["Angulo"] / 2)), places=6)
-            cortas = {aviso["texto"] for aviso in e["avisos"] if aviso["gravedad"] == "advertencia"}
-            self.assertEqual("El intervalo no da una estación en el centro." in cortas,
-                             round(e["Angulo"] / 2) % e["Inter"] != 0)
-            if e["Angulo"] / 2 % e["Inter"] == 0:  # elsewhere the halves are no mirror of each other
-                for arriba, abajo in zip(e["TramoSuperior"], reversed(e["TramoInferior"])):
-                    self.assertEqual((arriba["QX"], arriba["MX"]), (-abajo["QX"], abajo["MX"]))
-
-    def test_los_panos_del_ejemplo_reparten_su_carga(self):
-        documento, resumen = self.del_ejemplo()
-        self.assertEqual([nivel["Nombre"] for nivel in documento["marcus"]], ["NIVEL 1", "TECHO"])
-        for nivel in documento["marcus"]:
-            self.assertIn(nivel["Nombre"], resumen)
-            self.assertEqual(nivel["Paños"], len(nivel["Filas"]))
-            for fila in nivel["Filas"]:
-                self.assertAlmostEqual(fila["CX"] + fila["CY"], 1)
-                self.assertAlmostEqual(fila["WX"] + fila["WY"], fila["Carga"])
-
-    def test_los_analisis_de_carga_del_ejemplo_suman_sus_partidas(self):
-        documento, resumen = self.del_ejemplo()
-        self.assertEqual([(a["ID"], a["Descripcion"], a["Carga"]) for a in documento["analisisCarga"]],
-                         [(2741, "ENTREPISO TIPO", 770), (6120, "ENTREPISO DE OFICINAS", 690), (8893, "TECHO", 505)])
-        for analisis in documento["analisisCarga"]:
-            self.assertIn(analisis["Descripcion"], resumen)
-            self.assertEqual(analisis["CP"], sum(item["Peso"] for item in analisis["Permanentes"]))
-            self.assertEqual(analisis["Variable"]["Peso"], analisis["CV"])
-            self.assertAlmostEqual(analisis["REL"], analisis["CV"] / analisis["CP"])
 
     def test_escaleras_sin_datos_y_tablas_que_faltan(self):
         self.sql("INSERT INTO EscaleraTDatos VALUES ('E-9', 'SIN DATOS')",
@@ -198,12 +138,12 @@ class Lote(unittest.TestCase):
         esquemas = [ESQUEMAS / "LosaImagen.sql", ESQUEMAS / "Ejemplo Demostrativo.sql"]
         jet3 = pathlib.Path(__file__).parent.parent / "antiguo" / "escribir_jet3.py"
         for escritor in ([PLANTILLA, "--jet", self.proyecto, *esquemas],
-                         [sys.executable, jet3, IMAGEN / "Ejemplo Demostrativo.tbx", self.proyecto]):
+                         [sys.executable, jet3, EJEMPLO, self.proyecto]):
             subprocess.run(escritor, check=True)
             antes = self.proyecto.read_bytes()
             documento, resumen = self.resultados()
             self.assertEqual((documento, resumen.split("Resultados:")[0]),
-                             (self.del_ejemplo()[0], self.del_ejemplo()[1].split("Resultados:")[0]))
+                             (self.documento, self.resumen.split("Resultados:")[0]))
             self.assertEqual(self.proyecto.read_bytes(), antes)
             self.proyecto.write_bytes(antes[:30000])
             self.assertEqual(correr("--solo=resultados", self.proyecto, self.carpeta / "otra").returncode, 3)
@@ -326,13 +266,12 @@ class Lote(unittest.TestCase):
             self.assertEqual(papeles(), primeros)
 
     def test_cada_elemento_tiene_sus_reportes(self):
-        documento, _ = self.del_ejemplo()
-        self.assertEqual(sorted(os.listdir(self.comun / "salida" / "reportes")),
+        self.assertEqual(sorted(os.listdir(self.salida / "reportes")),
                          sorted(f"{cual}.{formato}" for formato in ("htm", "pdf", "rtf", "xls")
                                 for cual in ("analisisCarga-resultados", "escalerasH-graficos", "escalerasH-resultados",
                                              "escalerasT-graficos", "losas-graficos", "losas-resultados",
                                              "marcus-1-NIVEL 1", "marcus-2-TECHO")))
-        self.assertEqual(len(os.listdir(self.comun / "salida" / "escalerasH")), 2 * len(documento["escalerasH"]))
+        self.assertEqual(len(os.listdir(self.salida / "escalerasH")), 2 * len(self.documento["escalerasH"]))
 
     def test_se_escribe_lo_que_se_pide(self):
         self.sql("DELETE FROM LosaDatos WHERE Nombre <> 'L-7 TECHO'", "DELETE FROM MarcusDatos")

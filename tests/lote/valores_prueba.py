@@ -5,20 +5,16 @@ import contextlib
 import html.parser
 import json
 import math
-import pathlib
 import re
-import shutil
 import sqlite3
 import subprocess
 import sys
-import tempfile
 import types
 import unittest
 from decimal import ROUND_HALF_UP, Decimal
 
 import xlrd
-
-LOTE, IMAGEN = sys.argv[1], pathlib.Path(sys.argv[2])
+from corrida import DelEjemplo
 
 PROYECTO = "{0}Proyecto:=Proyecto.Proyecto; Propietario:=Proyecto.Propietario; Calculista:=Proyecto.Calculista; Fecha:=fecha"
 NERVADA = "Tipo:='LOSA NERVADA'; Ancho del nervio Bo:=Bo:2 m; Altura Ho:=Ho:2 m; Separación So:=So:2 m"
@@ -228,30 +224,27 @@ def de_helice(helice):
         yield De(helice, n=n + 1, s=s, c=n * helice.Inter)
 
 
-class Valores(unittest.TestCase):
+class Valores(DelEjemplo):
     maxDiff = 4000
+    opciones = ("--solo=reportes,memoria",)
+
+    @classmethod
+    def preparar(cls, base):
+        """With cantilevers at each end and at both, and loads at their tips."""
+        for nombre, maciza, apoyos in (("V-1", 0, "512"), ("V-2", 1, "125"), ("V-3", 0, "5125"), ("V-4", 0, "4224")):
+            base.execute("INSERT INTO LosaDatos VALUES (?, ?, 0.12, 0.3, 0.6, 1, 0.18, 0.05)", (nombre, maciza))
+            for n, tipo in enumerate(apoyos, 1):
+                base.execute("INSERT INTO LosaEjes VALUES (?, ?, ?, ?, 0, 0, 0)", (nombre, n, "ABCDE"[n], int(tipo)))
+            for n in range(1, len(apoyos)):
+                base.execute("INSERT INTO LosaTramos VALUES (?, ?, ?, ?, ?, ?, ?)",
+                             (nombre, n, 1.5 + 3.1 * (n == 2) + n / 10, 300 + 40 * n, 90 + 15 * n, 800 + n, 0.4 + n / 10))
+        base.execute("INSERT INTO LosaJuntasD VALUES ('V-4', 2, 0.15, 0.35)")
 
     @classmethod
     def setUpClass(cls):
-        carpeta = tempfile.TemporaryDirectory(prefix="valores ñ ")
-        cls.addClassCleanup(carpeta.cleanup)
-        cls.carpeta = pathlib.Path(carpeta.name)
-        proyecto = cls.carpeta / "obra.los"
-        shutil.copy(IMAGEN / "Ejemplo Demostrativo.tbx", proyecto)
-        with sqlite3.connect(proyecto) as base:  # cantilevers at each end and at both, with loads at their tips
-            for nombre, maciza, apoyos in (("V-1", 0, "512"), ("V-2", 1, "125"), ("V-3", 0, "5125"), ("V-4", 0, "4224")):
-                base.execute("INSERT INTO LosaDatos VALUES (?, ?, 0.12, 0.3, 0.6, 1, 0.18, 0.05)", (nombre, maciza))
-                for n, tipo in enumerate(apoyos, 1):
-                    base.execute("INSERT INTO LosaEjes VALUES (?, ?, ?, ?, 0, 0, 0)", (nombre, n, "ABCDE"[n], int(tipo)))
-                for n in range(1, len(apoyos)):
-                    base.execute("INSERT INTO LosaTramos VALUES (?, ?, ?, ?, ?, ?, ?)",
-                                 (nombre, n, 1.5 + 3.1 * (n == 2) + n / 10, 300 + 40 * n, 90 + 15 * n, 800 + n, 0.4 + n / 10))
-            base.execute("INSERT INTO LosaJuntasD VALUES ('V-4', 2, 0.15, 0.35)")
-        base.close()
-        corrida = subprocess.run([LOTE, "--solo=reportes,memoria", proyecto, cls.carpeta / "salida"], capture_output=True, text=True)
-        assert corrida.returncode == 0, corrida.stderr
-        cls.reportes = cls.carpeta / "salida" / "reportes"
-        cls.d = json.loads((cls.carpeta / "salida" / "resultados.json").read_text(), object_hook=lambda o: types.SimpleNamespace(**o))
+        super().setUpClass()
+        cls.reportes = cls.salida / "reportes"
+        cls.d = json.loads(cls.json, object_hook=lambda o: types.SimpleNamespace(**o))
         año, mes, dia = cls.d.Proyecto.Fecha.split("-")
         cls.obra = De(cls.d, fecha=f"{dia}/{mes}/{año}", g=cls.d.LosaG)
 
@@ -263,7 +256,7 @@ class Valores(unittest.TestCase):
         self.assertEqual(len(leidos), len(esperados))
         corridas = [max(re.findall(r"(?:(?<= )-?[\d.,]+ )+", f" {' | '.join(fila)} ".replace(" | ", " ")), key=len, default="")
                     for bloque in leidos if len(bloque) == 3 for fila in bloque[2]]
-        textos = [subprocess.run(orden, capture_output=True, encoding="utf-8", errors="replace", cwd=self.carpeta).stdout for orden in (
+        textos = [subprocess.run(orden, capture_output=True, encoding="utf-8", errors="replace", cwd=self.comun).stdout for orden in (
             ["pdftotext", "-layout", archivo.with_suffix(".pdf"), "-"], ["unrtf", "--text", archivo.with_suffix(".rtf")])]
         with xlrd.open_workbook(archivo.with_suffix(".xls"), formatting_info=True, logfile=sys.stderr) as libro:
             textos.append(" ".join(self.en_xls(libro, celda) for hoja in libro.sheets() for fila in hoja.get_rows() for celda in fila))
@@ -296,7 +289,7 @@ class Valores(unittest.TestCase):
         self.compara(self.reportes / "losas-resultados.htm", esperados)
 
     def test_el_montaje_de_las_losas(self):
-        with contextlib.closing(sqlite3.connect(self.carpeta / "salida" / "Trabajo" / "losas" / "Temporal.mdb")) as base:
+        with contextlib.closing(sqlite3.connect(self.salida / "Trabajo" / "losas" / "Temporal.mdb")) as base:
             base.row_factory = sqlite3.Row
             for tabla_de, columnas, cual in (("LosaTramos", M_LOSATRAMOS, 0), ("LosaEjes", M_LOSAEJES, 1)):
                 montadas = base.execute(f"SELECT * FROM {tabla_de}").fetchall()
@@ -416,7 +409,7 @@ class Valores(unittest.TestCase):
             otras = [["Carga permanente", numero(a.CP, ",2")], ["Carga variable: " + a.Variable.Descripcion, numero(a.CV, ",2")], ["Carga total", numero(a.Carga, ",2")]]
             esperados += [tabla((a.Descripcion, None), "Partida=f.Descripcion; Peso (kgf/m²)=f.Peso:,2", [De(a, f=f) for f in a.Permanentes] + otras),
                           ficha((a.Descripcion, None), "Relación variable / permanente=REL:3", De(a))]
-        leidos = Pagina(self.carpeta / "salida" / "memoria.htm").bloques[2:]
+        leidos = Pagina(self.salida / "memoria.htm").bloques[2:]
         for leido, esperado in zip(leidos, esperados):
             if isinstance(esperado[-1], dict) and len(esperado) == 3:
                 self.assertEqual(leido[:2], esperado[:2])

@@ -1,11 +1,6 @@
 """The SVG and DXF drawings of the batch program, read with programs of others, under a locale with a decimal comma."""
 
 import collections
-import json
-import os
-import pathlib
-import shutil
-import sqlite3
 import subprocess
 import sys
 import tempfile
@@ -13,9 +8,9 @@ import unittest
 import xml.etree.ElementTree as xml
 
 import ezdxf
+from corrida import DelEjemplo
 from ezdxf.lldxf.encoding import decode_dxf_unicode
 
-LOTE, IMAGEN = sys.argv[1], pathlib.Path(sys.argv[2])
 NOMBRE = 'A 1 Ñandú Ω ^J %%c \\U+0041 <b>&"'  # with what each format writes in its own way
 CAPAS = {"geometria": "COTAS", "fuerzas": "DIAGRAMAS", "diseno": "TABLA"}
 SVG = "{http://www.w3.org/2000/svg}"
@@ -25,28 +20,27 @@ def textos_de(dxf):
     return [decode_dxf_unicode(texto.dxf.text).strip() for texto in dxf.query("TEXT")]
 
 
-class Vectores(unittest.TestCase):
+class Vectores(DelEjemplo):
+    opciones = ("--solo=vectores",)
+
     @classmethod
     def setUpClass(cls):
-        carpeta = tempfile.TemporaryDirectory(prefix="vectores ñ ")
-        cls.addClassCleanup(carpeta.cleanup)
-        cls.carpeta = pathlib.Path(carpeta.name)
-        proyecto = cls.carpeta / "Obra.los"
-        shutil.copy(IMAGEN / "Ejemplo Demostrativo.tbx", proyecto)
-        with sqlite3.connect(proyecto) as base:
-            for tabla in ("LosaDatos", "LosaTramos", "LosaEjes", "LosaJuntasD"):
-                base.execute(f"UPDATE {tabla} SET Nombre=? WHERE Nombre LIKE 'L-1 %'", (NOMBRE,))
-        base.close()
-        locales = cls.carpeta / "locales"
-        locales.mkdir()
-        subprocess.run(["localedef", "-i", "es_ES", "-f", "UTF-8", locales / "es_ES.UTF-8"], check=True)
-        corrida = subprocess.run([LOTE, "--solo=vectores", proyecto, cls.carpeta / "salida"], capture_output=True, text=True,
-                                 env={**os.environ, "LOCPATH": str(locales), "LC_ALL": "es_ES.UTF-8"})
-        assert corrida.returncode == 0, corrida.stderr
-        cls.losas = json.loads((cls.carpeta / "salida" / "resultados.json").read_text())["losas"]
+        locales = tempfile.TemporaryDirectory()
+        cls.addClassCleanup(locales.cleanup)
+        subprocess.run(["localedef", "-i", "es_ES", "-f", "UTF-8", locales.name + "/es_ES.UTF-8"], check=True)
+        cls.entorno = {"LOCPATH": locales.name, "LC_ALL": "es_ES.UTF-8"}
+        super().setUpClass()
+
+    @classmethod
+    def preparar(cls, base):
+        """A level slab, a cantilever, one with a step; a stair and a helix."""
+        for tabla, quedan in (("LosaDatos", "135"), ("EscaleraTDatos", "1"), ("EscaleraHDatos", "1")):
+            base.execute(f"DELETE FROM {tabla} WHERE instr(?, substr(Nombre, 3, 1)) = 0", (quedan,))
+        for tabla in ("LosaDatos", "LosaTramos", "LosaEjes", "LosaJuntasD"):
+            base.execute(f"UPDATE {tabla} SET Nombre=? WHERE Nombre LIKE 'L-1 %'", (NOMBRE,))
 
     def dibujos(self, patron):
-        caminos = sorted((self.carpeta / "salida").glob(patron + ".dxf"))
+        caminos = sorted(self.salida.glob(patron + ".dxf"))
         self.assertTrue(caminos)
         return [(camino, ezdxf.readfile(camino)) for camino in caminos]
 
@@ -62,9 +56,9 @@ class Vectores(unittest.TestCase):
             self.assertEqual(pintado[16:24], (940).to_bytes(4, "big") + (580).to_bytes(4, "big"))
 
     def test_el_dibujo_esta_en_metros_y_con_su_nombre(self):
-        self.assertEqual(self.losas[0]["Nombre"], NOMBRE)
+        self.assertEqual(self.documento["losas"][0]["Nombre"], NOMBRE)
         for camino, dxf in self.dibujos("losas/*"):
-            losa = self.losas[int(camino.name.split("-")[0]) - 1]
+            losa = self.documento["losas"][int(camino.name.split("-")[0]) - 1]
             luces = [tramo["LT"] for tramo in losa["Tramos"]]
             ejes = [sum(luces[:i]) - sum(luces) / 2 for i in range(len(luces) + 1)]
             for junta in losa["JuntasD"]:

@@ -2,14 +2,13 @@
 
 import concurrent.futures
 import html.parser
-import pathlib
 import shutil
 import subprocess
 import sys
-import tempfile
 import unittest
 
-LOTE, IMAGEN = sys.argv[1], pathlib.Path(sys.argv[2])
+from corrida import DelEjemplo
+
 NAVEGADOR = shutil.which("chromium")
 
 
@@ -53,17 +52,14 @@ class Seccion(html.parser.HTMLParser):
         self.abierto = None
 
 
-class Impresion(unittest.TestCase):
+class Impresion(DelEjemplo):
+    opciones = ("--solo=reportes,memoria",)
+
     @classmethod
     def setUpClass(cls):
-        carpeta = tempfile.TemporaryDirectory(prefix="impresion ")
-        cls.addClassCleanup(carpeta.cleanup)
-        raiz = pathlib.Path(carpeta.name)
-        shutil.copy(IMAGEN / "Ejemplo Demostrativo.tbx", raiz / "Obra.los")
-        subprocess.run([LOTE, "--solo=reportes", raiz / "Obra.los", raiz], check=True, capture_output=True)
-        subprocess.run([LOTE, "--sin-dibujos", "--solo=memoria", raiz / "Obra.los", raiz], check=True, capture_output=True)
-        archivos = [raiz / "reportes" / "losas-resultados.htm", raiz / "reportes" / "losas-graficos.htm",
-                    raiz / "memoria.htm"]
+        super().setUpClass()
+        archivos = [cls.salida / "reportes" / "losas-resultados.htm", cls.salida / "reportes" / "losas-graficos.htm",
+                    cls.salida / "memoria.htm"]
         with concurrent.futures.ThreadPoolExecutor(2) as manos:
             cls.paginas = dict(zip(("resultados", "graficos", "memoria"), manos.map(cls.imprimir, archivos)))
         cls.textos = dict(zip(cls.paginas, (Seccion(archivo.read_text()) for archivo in archivos)))
