@@ -41,7 +41,6 @@ TEST(Trazos, SeRepitenComoSeDibujaron) {
     EXPECT_EQ(copia.Textos.at(0).Letra.Puntos, 8.5);
     EXPECT_EQ(copia.Textos.at(0).Tinta, (Color{1, 2, 255}));
     EXPECT_EQ(copia.Lineas.at(0).Puntos, original.Lineas.at(0).Puntos);
-    EXPECT_EQ(copia.Lineas.at(0).Borde->Ancho, 3);
     EXPECT_EQ(copia.Lineas.at(0).Borde->Tinta, (Color{9, 8, 7}));
     EXPECT_EQ(copia.Poligonos.at(0).Puntos, original.Poligonos.at(0).Puntos);
     EXPECT_EQ(copia.Poligonos.at(0).Relleno, (Color{200, 100, 0}));

@@ -15,6 +15,7 @@ using namespace dibujo::escalera;
 using namespace escaleras;
 namespace {
 
+using prueba::Caja;
 using prueba::LienzoGrabador;
 using TextoGrabado = LienzoGrabador::TextoGrabado;
 
@@ -39,32 +40,20 @@ DatosEscaleraT Modelo() {
     return {"E-1", "Escalera principal", 2.4, 1.2, 3, 0.15, 0.15, 1200, 1000, 600};
 }
 
-/// The place that a text takes: level, or turned to be read from the right.
-PiezaTexto PiezaDe(const TextoGrabado& t) {
-    const double ancho = t.Medida.Ancho;
-    const double alto = t.Medida.Alto;
-    if (t.Decimas == 900) return {1.0 * t.Lugar.x, t.Lugar.y - ancho, alto, ancho};
-    return {1.0 * t.Lugar.x, 1.0 * t.Lugar.y, ancho, alto};
-}
-
 /// Descents of letters may touch the line below: boxes may share this part of a line.
 constexpr double Roce = 0.1;
-
-bool SeTocan(const PiezaTexto& a, const PiezaTexto& b, double holgura) {
-    return std::min(a.x + a.Ancho, b.x + b.Ancho) - std::max(a.x, b.x) > holgura &&
-           std::min(a.y + a.Alto, b.y + b.Alto) - std::max(a.y, b.y) > holgura;
-}
 
 std::string Faltas(const LienzoGrabador& lienzo) {
     std::string faltas;
     for (std::size_t i = 0; i < lienzo.Textos.size(); ++i) {
-        const PiezaTexto a = PiezaDe(lienzo.Textos[i]);
-        if (a.x < 0 || a.y < 0 || a.x + a.Ancho > lienzo.ScaleWidth() || a.y + a.Alto > lienzo.ScaleHeight())
-            faltas += "off: " + lienzo.Textos[i].Texto + " at " + std::to_string(a.x) + ", " +
-                      std::to_string(a.y) + "\n";
+        const TextoGrabado& texto = lienzo.Textos[i];
+        const Caja a = texto.SuCaja();
+        if (a.x1 < -0.01 || a.y1 < -0.01 || a.x2 > lienzo.ScaleWidth() + 0.01 ||
+            a.y2 > lienzo.ScaleHeight() + 0.01)
+            faltas += "off: " + texto.Texto + "\n";
         for (std::size_t k = 0; k < i; ++k)
-            if (SeTocan(a, PiezaDe(lienzo.Textos[k]), Roce * lienzo.Textos[i].Medida.Alto))
-                faltas += "met: " + lienzo.Textos[i].Texto + " and " + lienzo.Textos[k].Texto + "\n";
+            if (a.Pisa(lienzo.Textos[k].SuCaja(), Roce * texto.Medida.Alto))
+                faltas += "met: " + texto.Texto + " and " + lienzo.Textos[k].Texto + "\n";
     }
     for (const auto& flecha : lienzo.DeColor({248, 199, 199}))
         for (const PuntoLienzo punto : flecha.Puntos)
@@ -197,8 +186,8 @@ TEST(HojasEscalera, PlantaYSeccion) {
     }
     EXPECT_EQ(PuntosDe(lienzo.Lineas), lineas);
     const auto lugar = [&](const char* texto) {
-        const PiezaTexto caja = PiezaDe(*lienzo.Hallar(texto));
-        return PuntoLienzo{Pixeles(caja.x), Pixeles(caja.y + caja.Alto / 2)};
+        const Caja caja = lienzo.Hallar(texto)->SuCaja();
+        return PuntoLienzo{Pixeles(caja.x1), Pixeles((caja.y1 + caja.y2) / 2)};
     };
     EXPECT_EQ(lugar("e1 = 0,15"), (PuntoLienzo{756, 471}));
     EXPECT_EQ(lugar("e2 = 0,15"), (PuntoLienzo{1052, 477}));
@@ -211,20 +200,15 @@ TEST(HojasEscalera, CadaCifraEnSuColumnaYSuFila) {
     LienzoGrabador lienzo(2400, 1200);  // 175 units to the metre, the origin at 1200, 88
     e.Dibujar(lienzo, VistaSolicitaciones);
     ASSERT_DOUBLE_EQ(e.Hoja.Vista.Escala, 175);
-    const auto centro = [&](const char* texto) {
-        const TextoGrabado* t = lienzo.Hallar(texto);
-        EXPECT_TRUE(t) << texto;
-        const PiezaTexto caja = PiezaDe(*t);
-        return Centro{caja.x + caja.Ancho / 2, caja.y + caja.Alto / 2};
-    };
-    EXPECT_NEAR(centro("-782").x, 1200 - 1.8 * 175, 1);   // the support
-    EXPECT_NEAR(centro("-436").x, 1200 - 1.56 * 175, 1);  // a tenth of the flight further
-    EXPECT_NEAR(centro("-1174").x, 1200 + 1.2 * 175, 1);  // 45 degrees, the middle of the landing
-    EXPECT_NEAR(centro("-941").x, 1200 + 1.8 * 175, 1);   // 0 degrees, its far edge
+    const auto caja = [&](const char* texto) { return lienzo.Hallar(texto)->SuCaja(); };
+    for (const auto& [texto, metros] : {std::pair{"-782", -1.8},  // the support
+                                        {"-436", -1.56},          // a tenth of the flight further
+                                        {"-1174", 1.2},           // 45 degrees, the middle of the landing
+                                        {"-941", 1.8}})           // 0 degrees, its far edge
+        EXPECT_NEAR((caja(texto).x1 + caja(texto).x2) / 2, 1200 + metros * 175, 1) << texto;
     const double base = 88 + (1.5 + 0.4 + 0.374) * 175;
-    const PiezaTexto encima = PiezaDe(*lienzo.Hallar("-782"));
-    EXPECT_NEAR(encima.y + encima.Alto, base - 0.04 * 175, 1);
-    EXPECT_NEAR(PiezaDe(*lienzo.Hallar("257")).y, base + 0.05 * 175, 1);
+    EXPECT_NEAR(caja("-782").y2, base - 0.04 * 175, 1);
+    EXPECT_NEAR(caja("257").y1, base + 0.05 * 175, 1);
     const TextoGrabado& rotulo = *lienzo.Hallar("ENVOL. MOMENTOS (kgf-m) MX:");
     EXPECT_NEAR(rotulo.Lugar.x + rotulo.Medida.Ancho, 1200 - 1.96 * 175, 1);
     EXPECT_NEAR(rotulo.Lugar.y + rotulo.Medida.Alto / 2.0, base, 1);
@@ -242,7 +226,7 @@ TEST(HojasEscalera, CadaCifraEnSuColumnaYSuFila) {
     // What fails in shear is red, in its row alone. Its column moved half a line from the flight's last.
     for (const TextoGrabado& t : lienzo.Textos)
         EXPECT_EQ(t.Tinta == (Color{255, 0, 0}),
-                  t.Texto == "0" && std::fabs(PiezaDe(t).x + t.Medida.Alto / 2.0 - (1207 + 0.6 * 175)) < 2 &&
+                  t.Texto == "0" && std::fabs(t.SuCaja().x1 + t.Medida.Alto / 2.0 - (1207 + 0.6 * 175)) < 2 &&
                       t.Lugar.y > 88 + (1.9 + 2.828) * 175)
             << t.Texto << " " << t.Lugar.x << " " << t.Lugar.y;
 }
@@ -279,45 +263,39 @@ TEST(HojasEscalera, ReaccionesEnLosDosApoyos) {
     ASSERT_EQ(lienzo.Textos.size(), 5U);
     for (const std::size_t i : {0U, 2U}) {
         const int y = i == 0 ? 140 : 440;
-        const PiezaTexto vertical = PiezaDe(lienzo.Textos[i]);
+        const Caja vertical = lienzo.Textos[i].SuCaja();
         EXPECT_EQ(lienzo.Textos[i].Texto, "4.080");
         EXPECT_EQ(lienzo.Textos[i].Decimas, 900);
-        EXPECT_NEAR(vertical.x + vertical.Ancho, 305 - 10.1 - 2, 1);
-        EXPECT_NEAR(vertical.y + vertical.Alto / 2, y - std::max(35.4, vertical.Alto) / 2, 1);
-        const PiezaTexto horizontal = PiezaDe(lienzo.Textos[i + 1]);
+        EXPECT_NEAR(vertical.x2, 305 - 10.1 - 2, 1);
+        EXPECT_NEAR((vertical.y1 + vertical.y2) / 2, y - std::max(35.4, vertical.y2 - vertical.y1) / 2, 1);
+        const Caja horizontal = lienzo.Textos[i + 1].SuCaja();
         EXPECT_EQ(lienzo.Textos[i + 1].Texto, "5.530");
-        EXPECT_EQ(horizontal.x + horizontal.Ancho, 303);
-        EXPECT_EQ(horizontal.y, y + 25 + 10 + 1);
+        EXPECT_EQ(horizontal.x2, 303);
+        EXPECT_EQ(horizontal.y1, y + 25 + 10 + 1);
     }
     EXPECT_EQ(lienzo.Textos[4].Texto, "Escalera principal");
     EXPECT_EQ(lienzo.Textos[4].Letra.Puntos, 9);
-    const PiezaTexto titulo = PiezaDe(lienzo.Textos[4]);
-    EXPECT_NEAR(titulo.y + titulo.Alto, std::min(PiezaDe(lienzo.Textos[0]).y, 140 - 35.0) - 4, 1);
+    EXPECT_NEAR(lienzo.Textos[4].SuCaja().y2, std::min(lienzo.Textos[0].SuCaja().y1, 140 - 35.0) - 4, 1);
 }
 
 TEST(HojasEscalera, SinMedidasOSinPeldanosQuedaLoDibujado) {
-    for (std::uint8_t vista = 0; vista < 4; ++vista) {
-        DatosEscaleraT datos = Modelo();
-        datos.H = 0;
-        Dibujada vacia(datos);
-        LienzoGrabador lienzo(1000, 600);
-        vacia.Dibujar(lienzo, vista);
-        EXPECT_EQ(lienzo.Limpiezas, 1);
-        EXPECT_TRUE(lienzo.Textos.empty() && lienzo.Lineas.empty() && lienzo.Poligonos.empty());
-        for (const auto& [L, H] : {std::pair{0.15, 3.0}, {2.4, 0.18}}) {  // no tread, no rise
-            datos = Modelo();
+    struct Caso {
+        double L, H;
+        std::size_t Figuras;  ///< of the plan
+    };
+    for (std::uint8_t vista = 0; vista < 4; ++vista)
+        for (const auto& [L, H, figuras] : {Caso{2.4, 0, 0}, {0.15, 3.0, 3}, {2.4, 0.18, 3}}) {
+            DatosEscaleraT datos = Modelo();
             datos.L = L;
             datos.H = H;
-            Dibujada corta(datos);
-            LienzoGrabador otro(1000, 600);
-            corta.Dibujar(otro, vista);
-            EXPECT_EQ(otro.Poligonos.size(), vista == VistaGeometria ? 3U : 0U);  // the plan
-            EXPECT_TRUE(otro.Textos.empty());
+            LienzoGrabador lienzo(1000, 600);
+            Dibujada(datos).Dibujar(lienzo, vista);
+            EXPECT_EQ(lienzo.Limpiezas, 1);
+            EXPECT_EQ(lienzo.Poligonos.size(), vista == VistaGeometria ? figuras : 0U);
+            EXPECT_TRUE(lienzo.Textos.empty());
         }
-    }
-    Dibujada e(Modelo());
     LienzoGrabador lienzo(1000, 600);
-    e.Dibujar(lienzo, 4);
+    Dibujada(Modelo()).Dibujar(lienzo, 4);
     EXPECT_EQ(lienzo.Limpiezas, 0);
 }
 

@@ -12,6 +12,8 @@
 namespace trabex {
 namespace {
 
+using prueba::Caja;
+
 struct SuperficieDePrueba {
     const char* Nombre;
     std::int32_t Ancho, Alto, PorPulgada;
@@ -55,20 +57,6 @@ PuntoLienzo Esquina(const RotuloDeHoja& r, double x, double y) {
                 std::lround(r.Caja.y + r.Caja.Alto / 2 - dx * std::sin(giro) + dy * std::cos(giro)))};
 }
 
-struct Caja {
-    explicit Caja(const RotuloDeHoja& r) {
-        for (const auto& [x, y] : {std::pair{0, 0}, {0, 1}, {1, 0}, {1, 1}}) {
-            const PuntoLienzo p = Esquina(r, x, y);
-            x1 = std::min(x1, p.x), x2 = std::max(x2, p.x), y1 = std::min(y1, p.y), y2 = std::max(y2, p.y);
-        }
-    }
-    bool Pisa(const Caja& otra, int roce) const {
-        return std::min(x2, otra.x2) - std::max(x1, otra.x1) > roce &&
-               std::min(y2, otra.y2) - std::max(y1, otra.y1) > roce;
-    }
-    int x1 = 1 << 30, x2 = -(1 << 30), y1 = 1 << 30, y2 = -(1 << 30);
-};
-
 /// Of a whole slab of many spans the foot may lie below the canvas: `cabe` tells that it may not.
 void Revisar(const HojaLosa& hoja, const LienzoGrabador& lienzo, bool cabe) {
     const int roce = 2 * lienzo.LadoDePixel();
@@ -111,7 +99,7 @@ void Revisar(const HojaLosa& hoja, const LienzoGrabador& lienzo, bool cabe) {
         if (r.Grados == 0) {
             ASSERT_EQ(BandaEn(hoja, x, r.Caja.y + r.Caja.Alto / 2), r.De) << r.Texto;
         }
-        const Caja caja(r);
+        const Caja caja = escrito.SuCaja();
         ASSERT_TRUE(caja.x1 >= 0 && caja.x2 <= lienzo.ScaleWidth()) << r.Texto;
         ASSERT_TRUE(!cabe || (caja.y1 >= 0 && caja.y2 <= lienzo.ScaleHeight())) << r.Texto;
         cajas.push_back(caja);

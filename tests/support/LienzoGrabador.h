@@ -11,6 +11,16 @@ namespace trabex::prueba {
 
 using namespace dibujo;
 
+/// A rectangle on a canvas.
+struct Caja {
+    double x1, y1, x2, y2;
+
+    bool Pisa(const Caja& otra, double roce) const {
+        return std::min(x2, otra.x2) - std::max(x1, otra.x1) > roce &&
+               std::min(y2, otra.y2) - std::max(y1, otra.y1) > roce;
+    }
+};
+
 /// A canvas that keeps what is drawn. Its texts are 0.55 of their size wide a character and 1.3 tall.
 class LienzoGrabador : public Lienzo {
   public:
@@ -23,6 +33,14 @@ class LienzoGrabador : public Lienzo {
         Color Tinta;
 
         double CentroX() const { return Lugar.x + Medida.Ancho / 2.0; }
+        /// The place that it takes, turned about its corner.
+        Caja SuCaja() const {
+            const double giro = Decimas / 1800.0 * 3.14159265358979;
+            const double ax = Medida.Ancho * std::cos(giro), ay = -Medida.Ancho * std::sin(giro);
+            const double bx = Medida.Alto * std::sin(giro), by = Medida.Alto * std::cos(giro);
+            return {Lugar.x + std::min({0.0, ax, bx, ax + bx}), Lugar.y + std::min({0.0, ay, by, ay + by}),
+                    Lugar.x + std::max({0.0, ax, bx, ax + bx}), Lugar.y + std::max({0.0, ay, by, ay + by})};
+        }
     };
     struct Figura {
         std::vector<PuntoLienzo> Puntos;
