@@ -1,5 +1,6 @@
 #include <QTest>
 #include <QWheelEvent>
+#include <functional>
 
 #include <gtest/gtest.h>
 
@@ -13,36 +14,12 @@ using namespace dibujo;
 using namespace dibujo::qt;
 namespace {
 
-int PixelesDe(const QImage& imagen, QRgb color) {
-    int cuenta = 0;
-    for (int y = 0; y < imagen.height(); ++y) {
-        for (int x = 0; x < imagen.width(); ++x) cuenta += imagen.pixel(x, y) == color ? 1 : 0;
-    }
-    return cuenta;
-}
-
-TEST(LienzoQt, LasFigurasCaenEnSusPixeles) {
-    const QImage imagen = DibujarImagen(200, 100, 1, [](Lienzo& lienzo) {
-        lienzo.Limpiar();
-        DibujeFlechaPixel(lienzo, 20, 20, HaciaAbajo, {0, 0, 255});
-        DibujeLinea(lienzo, 50, 10, 50, 60, 1, EstiloLinea::Solida, {255, 0, 0});
-        const std::array<PuntoLienzo, 4> caja{{{100, 10}, {110, 10}, {110, 20}, {100, 20}}};
-        lienzo.Poligono(caja, std::nullopt, Color{0, 255, 0});
-    });
-    EXPECT_EQ(imagen.pixel(20, 20), qRgb(0, 0, 255));
-    EXPECT_EQ(PixelesDe(imagen, qRgb(0, 0, 255)), 25);
-    EXPECT_EQ(imagen.pixel(50, 35), qRgb(255, 0, 0));
-    EXPECT_NEAR(PixelesDe(imagen, qRgb(255, 0, 0)), 51, 1);
-    EXPECT_EQ(PixelesDe(imagen, qRgb(0, 255, 0)), 100);
-}
-
-/// Where ink stands: left, top, right, bottom.
-QRect Tinta(const QImage& imagen) {
+/// Where ink of a kind stands.
+QRect Tinta(const QImage& imagen, const std::function<bool(QRgb)>& es) {
     QRect caja;
     for (int y = 0; y < imagen.height(); ++y) {
-        for (int x = 0; x < imagen.width(); ++x) {
-            if (qGray(imagen.pixel(x, y)) < 128) caja |= QRect(x, y, 1, 1);
-        }
+        for (int x = 0; x < imagen.width(); ++x)
+            if (es(imagen.pixel(x, y))) caja |= QRect(x, y, 1, 1);
     }
     return caja;
 }
@@ -54,23 +31,33 @@ TEST(LienzoQt, ElTextoGiradoSubeDesdeSuEsquina) {
             DibujeTexto(lienzo, "HHHH", 100, 100, angulo);
         });
     };
-    const QRect acostado = Tinta(escribir(0));
+    const auto oscuro = [](QRgb pixel) { return qGray(pixel) < 128; };
+    const QRect acostado = Tinta(escribir(0), oscuro);
     EXPECT_GE(acostado.left(), 100);
     EXPECT_GE(acostado.top(), 100);
-    const QRect parado = Tinta(escribir(90));
+    const QRect parado = Tinta(escribir(90), oscuro);
     EXPECT_GE(parado.left(), 100);
     EXPECT_LT(parado.bottom(), 100);
     EXPECT_NEAR(parado.height(), acostado.width(), 2);
 }
 
-TEST(LienzoQt, UnaImagenMasFinaTieneElMismoDibujo) {
-    const auto dibujar = [](Lienzo& lienzo) {
-        const std::array<PuntoLienzo, 4> caja{{{10, 10}, {60, 10}, {60, 40}, {10, 40}}};
-        lienzo.Poligono(caja, std::nullopt, Color{0, 0, 0});
-    };
-    const QImage fina = DibujarImagen(100, 50, 3, dibujar);
-    EXPECT_EQ(fina.size(), QSize(300, 150));
-    EXPECT_EQ(Tinta(fina), QRect(30, 30, 150, 90));
+TEST(LienzoQt, LasFigurasCaenEnSusPixelesEnCualquierFinura) {
+    for (const int finura : {1, 3}) {
+        const QImage imagen = DibujarImagen(200, 100, finura, [](Lienzo& lienzo) {
+            const std::array<PuntoLienzo, 4> caja{{{10, 10}, {60, 10}, {60, 40}, {10, 40}}};
+            lienzo.Poligono(caja, std::nullopt, Color{0, 255, 0});
+            DibujeLinea(lienzo, 90, 10, 90, 60, 1, EstiloLinea::Solida, {255, 0, 0});
+            DibujeFlechaPixel(lienzo, 150, 20, HaciaAbajo, {0, 0, 255});
+        });
+        EXPECT_EQ(imagen.size(), QSize(200, 100) * finura);
+        const auto de = [&](QRgb color) {
+            return Tinta(imagen, [color](QRgb pixel) { return pixel == color; });
+        };
+        EXPECT_EQ(de(qRgb(0, 255, 0)), QRect(10 * finura, 10 * finura, 50 * finura, 30 * finura));
+        EXPECT_NEAR(de(qRgb(255, 0, 0)).center().x(), 90 * finura, 1);
+        EXPECT_NEAR(de(qRgb(255, 0, 0)).height(), 51 * finura, finura);
+        EXPECT_EQ(de(qRgb(0, 0, 255)), QRect(146 * finura, 16 * finura, 9 * finura, 5 * finura));
+    }
 }
 
 TEST(WidgetLienzo, RuedaTeclasYArrastreLleganAlVisor) {

@@ -215,7 +215,7 @@ void PaginasPerdidas(int, Azar& azar, const std::filesystem::path& camino) {
 }
 
 void Costo(int, Azar&, const std::filesystem::path& camino) {
-    constexpr int repeticiones = 200;
+    constexpr int repeticiones = 60;
     std::map<int, std::pair<double, double>> milisegundos;
     for (const int losas : {20, 2000}) {
         CrearProyecto(camino, losas);
