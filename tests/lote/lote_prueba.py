@@ -4,6 +4,7 @@ import json
 import math
 import os
 import pathlib
+import re
 import shutil
 import sqlite3
 import struct
