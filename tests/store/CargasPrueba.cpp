@@ -84,50 +84,52 @@ TEST_F(Cargas, LoEntregadoEstaCompletoYSumado) {
     }
 }
 
-TEST_F(Cargas, SeGuardanRenumeradasYSumadas) {
+/// Without a name no row of the variable load is stored, and it counts: now, and after a save of items alone.
+TEST_F(Cargas, SeGuardanRenumeradasYSumadasYSeBorranConSusFilas) {
     for (const Ambito ambito : Ambitos) {
         Lista(ambito).MoverA(2);
         AnalisisCarga analisis = Leido(ambito);
         const std::string nombre = analisis.Descripcion;
+        const auto guardar = [&] {
+            ASSERT_TRUE(GuardarAnalisis(En(ambito), Lista(ambito), ambito, analisis));
+        };
+        const auto filas = [&](const TablaDeFilas& tabla) { return Filas(ambito, tabla, analisis.ID); };
         analisis.Descripcion = "otro";
         analisis.Permanentes = {{" Losa ", 150}, {"", 0}, {"Friso", 100}};
         analisis.Variable = {" Viviendas ", 175};
-        ASSERT_TRUE(GuardarAnalisis(En(ambito), Lista(ambito), ambito, analisis));
+        guardar();
         analisis.Permanentes.erase(analisis.Permanentes.begin() + 1);
-        ASSERT_TRUE(GuardarAnalisis(En(ambito), Lista(ambito), ambito, analisis));
-
-        Recordset items = Filas(ambito, TablasDe(ambito).Permanentes, analisis.ID);
+        guardar();
+        Recordset items = filas(TablasDe(ambito).Permanentes);
         ASSERT_EQ(items.NumeroRegistros(), 2);
         items.MoverAlUltimo();
         EXPECT_EQ(items.Entero16("Numero"), 2);
-        EXPECT_EQ(items.Texto("Descripcion"), "Friso");
         Reabrir();
         BuscarRegistro(Lista(ambito), Criterio(PorID(analisis.ID)));
-        const AnalisisCarga leido = Leido(ambito);
-        EXPECT_EQ(leido.Descripcion, nombre);
-        EXPECT_EQ(leido.Permanentes[0].Descripcion, "Losa");
-        EXPECT_EQ(leido.Variable.Descripcion, "Viviendas");
-        EXPECT_EQ(leido.CP, 250);
-        EXPECT_EQ(leido.CV, 175);
-        EXPECT_EQ(leido.Carga, 425);
-        EXPECT_DOUBLE_EQ(leido.REL, 0.7);
-    }
-}
+        analisis = Leido(ambito);
+        EXPECT_EQ(analisis.Descripcion, nombre);
+        EXPECT_EQ(analisis.Permanentes[0].Descripcion, "Losa");
+        EXPECT_EQ(analisis.Variable.Descripcion, "Viviendas");
+        EXPECT_EQ(std::tuple(analisis.CP, analisis.CV, analisis.Carga), std::tuple(250, 175, 425));
+        EXPECT_DOUBLE_EQ(analisis.REL, 0.7);
 
-/// Without a name no row of the variable load is stored, and it counts: now, and after a save of items alone.
-TEST_F(Cargas, LaVariableSinNombreCuentaSinFila) {
-    for (const Ambito ambito : Ambitos) {
-        AnalisisCarga analisis = Leido(ambito);
-        analisis.Permanentes = {{"Losa", 500}};
         analisis.Variable = {"   ", 250};
-        ASSERT_TRUE(GuardarAnalisis(En(ambito), Lista(ambito), ambito, analisis));
-        EXPECT_EQ(Filas(ambito, TablasDe(ambito).Variables, analisis.ID).NumeroRegistros(), 0);
-        EXPECT_EQ(Lista(ambito).Doble("Carga"), 750);
+        guardar();
+        EXPECT_EQ(filas(TablasDe(ambito).Variables).NumeroRegistros(), 0);
         analisis = Leido(ambito);
         analisis.Permanentes.push_back({"Friso", 30});
-        ASSERT_TRUE(GuardarAnalisis(En(ambito), Lista(ambito), ambito, analisis));
-        EXPECT_EQ(Lista(ambito).Doble("Carga"), 780);
+        guardar();
+        EXPECT_EQ(Lista(ambito).Doble("Carga"), 530);
         EXPECT_EQ(Lista(ambito).Entero32("CV"), 250);
+
+        analisis.Variable.Descripcion = "Oficinas";
+        guardar();
+        EXPECT_TRUE(BorrarAnalisis(En(ambito), Lista(ambito), ambito));
+        EXPECT_EQ(filas(TablasDe(ambito).Permanentes).NumeroRegistros(), 0);
+        EXPECT_EQ(filas(TablasDe(ambito).Variables).NumeroRegistros(), 0);
+        Lista(ambito).MoverAlPrimero();
+        EXPECT_NE(Lista(ambito).Entero32("ID"), analisis.ID);
+        EXPECT_GT(Leido(ambito).Permanentes.size(), 0U);
     }
 }
 
@@ -153,55 +155,34 @@ TEST_F(Cargas, ElNumeroDeUnoNuevo) {
     EXPECT_TRUE(Leido(Ambito::Compartido).Permanentes.empty());
 }
 
-TEST_F(Cargas, SeBorranConSusFilasYSinLasAjenas) {
-    for (const Ambito ambito : Ambitos) {
-        Lista(ambito).MoverAlPrimero();
-        const std::int32_t primero = Lista(ambito).Entero32("ID");
-        Lista(ambito).MoverA(2);
-        const std::int32_t segundo = Lista(ambito).Entero32("ID");
-        EXPECT_TRUE(BorrarAnalisis(En(ambito), Lista(ambito), ambito));
-        EXPECT_EQ(Filas(ambito, TablasDe(ambito).Permanentes, segundo).NumeroRegistros(), 0);
-        EXPECT_EQ(Filas(ambito, TablasDe(ambito).Variables, segundo).NumeroRegistros(), 0);
-        EXPECT_GT(Filas(ambito, TablasDe(ambito).Permanentes, primero).NumeroRegistros(), 0);
-        EXPECT_NE(Lista(ambito).Entero32("ID"), segundo);
-    }
-}
-
+/// Its rows keep their numbers, gaps and all, and take the place of what stands under its own. One without a
+/// variable row leaves none, its CV as stored.
 TEST_F(Cargas, UnCapturadoEsUnaCopiaConSuNumero) {
     compartidos_.MoverA(3);
     const AnalisisCarga original = Leido(Ambito::Compartido);
     EXPECT_FALSE(YaCapturado(compartidos_, delProyecto_));
-    // Its rows keep their numbers, gaps and all, and take the place of what stands under its own.
     proyecto_.Ejecutar("INSERT INTO AnalisisCargaCP VALUES (" + std::to_string(original.ID) +
                        ", 1, 'Ajena', 1)");
     compartida_.Ejecutar("UPDATE CargaPermanente SET Numero = 10 * Numero");
     ASSERT_TRUE(CapturarAnalisis(compartida_, compartidos_, proyecto_, delProyecto_));
-    EXPECT_TRUE(YaCapturado(compartidos_, delProyecto_));
     EXPECT_EQ(Filas(Ambito::Proyecto, AnalisisDelProyecto.Permanentes, original.ID).Entero16("Numero"), 10);
     AnalisisCarga copia = Leido(Ambito::Proyecto);
-    EXPECT_EQ(copia.ID, original.ID);
-    EXPECT_EQ(copia.Descripcion, original.Descripcion);
-    EXPECT_EQ(copia.Carga, original.Carga);
-    EXPECT_EQ(copia.REL, original.REL);
+    EXPECT_EQ(std::tuple(copia.ID, copia.Descripcion, copia.Carga, copia.REL),
+              std::tuple(original.ID, original.Descripcion, original.Carga, original.REL));
     EXPECT_EQ(copia.Permanentes.size(), original.Permanentes.size());
     EXPECT_EQ(copia.Variable.Peso, original.Variable.Peso);
 
     copia.Permanentes.clear();
     ASSERT_TRUE(GuardarAnalisis(proyecto_, delProyecto_, Ambito::Proyecto, copia));
-    delProyecto_.Poner("Descripcion", "OTRO NOMBRE");
-    delProyecto_.Actualizar();
+    ASSERT_TRUE(CambiarDescripcion(delProyecto_, "OTRO NOMBRE"));
     EXPECT_TRUE(YaCapturado(compartidos_, delProyecto_));
-    EXPECT_EQ(Leido(Ambito::Compartido).Permanentes.size(), original.Permanentes.size());
-}
-
-/// One without a variable row leaves none, its CV as stored, and what stood under its number where it has no
-/// rows.
-TEST_F(Cargas, UnCapturadoSinVariableNoLaInventa) {
-    AnalisisCarga analisis = Leido(Ambito::Compartido);
-    analisis.Variable = {"", 90};
-    ASSERT_TRUE(GuardarAnalisis(compartida_, compartidos_, Ambito::Compartido, analisis));
+    AnalisisCarga sinVariable = Leido(Ambito::Compartido);
+    EXPECT_EQ(sinVariable.Permanentes.size(), original.Permanentes.size());
+    sinVariable.Variable = {"", 90};
+    ASSERT_TRUE(GuardarAnalisis(compartida_, compartidos_, Ambito::Compartido, sinVariable));
+    ASSERT_TRUE(BorrarAnalisis(proyecto_, delProyecto_, Ambito::Proyecto));
     ASSERT_TRUE(CapturarAnalisis(compartida_, compartidos_, proyecto_, delProyecto_));
-    EXPECT_EQ(Filas(Ambito::Proyecto, AnalisisDelProyecto.Variables, analisis.ID).NumeroRegistros(), 0);
+    EXPECT_EQ(Filas(Ambito::Proyecto, AnalisisDelProyecto.Variables, original.ID).NumeroRegistros(), 0);
     EXPECT_EQ(delProyecto_.Entero32("CV"), 90);
 }
 
