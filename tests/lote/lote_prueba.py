@@ -81,18 +81,6 @@ class Lote(DelEjemplo):
         for fila in (fila for nivel in self.documento["marcus"] for fila in nivel["Filas"]):
             self.assertAlmostEqual(fila["CX"] + fila["CY"], 1)
 
-    def test_el_ejemplo_muestra_a_que_puede_llegar_una_escalera(self):
-        principal, _, emergencia, auditorio, vestibulo = self.documento["escalerasT"]
-        self.assertEqual({punto["AreaEstribo"] for punto in principal["TramoT"]}, {0.71})
-        self.assertEqual({punto["AreaEstribo"] for punto in emergencia["TramoT"]}, {0})
-        self.assertEqual({punto["FallaCorte"] for punto in auditorio["DescansoT"]}, {"", "Falla por Corte"})
-        self.assertEqual(vestibulo["TramoT"][10]["AreaEstribo"], 1.27)
-        self.assertGreater(vestibulo["TramoT"][10]["AsInferior"], 0)  # under a moment that pulls the top
-        _, _, mirador, biblioteca, torre, balcon, cuadrada = self.documento["escalerasH"]
-        self.assertEqual({punto["AsT"] for punto in mirador["TramoSuperior"]}, {0.71, 1.27})
-        self.assertNotEqual(biblioteca["Angulo"] / 2 % biblioteca["Inter"], 0)
-        self.assertEqual((torre["Angulo"], balcon["Alfa"], cuadrada["B"]), (360, 0, cuadrada["T"]))
-
     def test_una_losa_que_no_se_sostiene_lo_dice(self):
         self.sql("UPDATE LosaEjes SET Tipo = 5")
         documento, _ = self.resultados()

@@ -97,33 +97,20 @@ void ExigirCoherente(const std::filesystem::path& camino, const std::string& cua
     }
 }
 
-std::string NombreNuevo(const char* cual, int version) {
-    return std::string(cual) + " " + std::to_string(getpid()) + " " + std::to_string(version);
-}
-
-/// What the program does to a project; the second adds a slab and the third deletes one.
-const std::array<std::function<void(ProyectoAbierto&, int version)>, 5> Operaciones{
+/// What the program does to a project: it saves a slab, adds one, deletes one.
+const std::array<std::function<void(ProyectoAbierto&, int version)>, 3> Operaciones{
     [](ProyectoAbierto& proyecto, int version) {
         Losa losa = LosaDe(proyecto.RegistrosProyecto.Texto("Nombre"), version);
         GuardarLosa(proyecto, losa);
     },
     [](ProyectoAbierto& proyecto, int version) {
+        const std::string nombre = "Ñ " + std::to_string(getpid()) + " " + std::to_string(version);
         Transaccion guardado(proyecto.ConexionProyecto);
-        prueba::AgregarLosa(proyecto, LosaDe(NombreNuevo("NUEVA", version), version));
+        prueba::AgregarLosa(proyecto, LosaDe(nombre, version));
         guardado.Confirmar();
     },
     [](ProyectoAbierto& proyecto, int) {
         BorrarElemento(proyecto.ConexionProyecto, TablasDeLosa, proyecto.RegistrosProyecto);
-    },
-    [](ProyectoAbierto& proyecto, int version) {
-        const std::string actual = proyecto.RegistrosProyecto.Texto("Nombre");
-        RenombrarElemento(proyecto.ConexionProyecto, TablasDeLosa, actual, NombreNuevo("Ñ", version));
-        AbrirRecordset(proyecto.ConexionProyecto, proyecto.RegistrosProyecto, ConsultaListaLosas);
-    },
-    [](ProyectoAbierto& proyecto, int version) {
-        DatosGenerales generales;
-        generales.FC = static_cast<std::int16_t>(version);
-        GuardarGeneralesLosa(proyecto.ConexionProyecto, generales);
     },
 };
 

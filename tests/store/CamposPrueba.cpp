@@ -22,24 +22,17 @@ using namespace almacen::tablas;
 namespace {
 
 /// A value of each type that no other field of its record has.
-void Distinto(bool& valor, int) {
-    valor = true;
-}
-void Distinto(std::int16_t& valor, int n) {
-    valor = static_cast<std::int16_t>(100 + n);
-}
-void Distinto(std::int32_t& valor, int n) {
-    valor = 100000 + n;
-}
-void Distinto(double& valor, int n) {
-    valor = 0.1 + n;
-}
-void Distinto(std::string& valor, int n) {
-    valor = "Ñ " + std::to_string(n);
-}
-void Distinto(Fecha& valor, int n) {
+template <class Tipo>
+void Distinto(Tipo& valor, int n) {
     using namespace std::chrono;
-    valor = 2024y / February / day(static_cast<unsigned>(n));
+    if constexpr (std::is_same_v<Tipo, std::string>)
+        valor = "Ñ " + std::to_string(n);
+    else if constexpr (std::is_same_v<Tipo, Fecha>)
+        valor = 2024y / February / day(static_cast<unsigned>(n));
+    else if constexpr (std::is_integral_v<Tipo>)
+        valor = static_cast<Tipo>(100 + n);
+    else
+        valor = 0.1 + n;
 }
 
 class CamposDeRegistros : public testing::Test {
