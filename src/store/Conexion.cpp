@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "store/Compuerta.h"
+#include "store/DeTrabajo.h"
 #include "store/Dialecto.h"
 #include "store/Motor.h"
 

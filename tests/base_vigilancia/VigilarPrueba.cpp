@@ -52,9 +52,9 @@ TEST(Vigilar, ElCodigoEsElDeLaPrimeraFaltaYLoAnteriorQueda) {
         {{0, 2, 4}, 11, {-1, -1, -1}},     {{2, 1e300, 4}, 6, {0.5, -1, -1}},
         {{2, 2, -1}, 5, {0.5, 2e300, -1}}, {{2, 1e300, -1}, 6, {0.5, -1, -1}},
         {{0, 2, -1}, 11, {-1, -1, -1}},    {{0, 1e300, -1}, 11, {-1, -1, -1}}};
-    for (const auto& [o, codigo, queda] : casos) {
+    for (const auto& [operandos, codigo, queda] : casos) {
         Registro r;
-        EXPECT_EQ(CodigoDe([&] { Llenar(o, r); }), codigo);
+        EXPECT_EQ(CodigoDe([&, &o = operandos] { Llenar(o, r); }), codigo);
         EXPECT_EQ(r.Cociente, queda.Cociente);
         EXPECT_EQ(r.Producto, queda.Producto);
         EXPECT_EQ(r.Raiz, queda.Raiz);
