@@ -197,21 +197,6 @@ TEST_F(Formatos, UnaFotoDeArchivoVaTalCual) {
     EXPECT_TRUE(Correr("pdfimages", {"-list", Ruta(carpeta / "f.pdf")}).contains("jpeg"));
 }
 
-TEST_F(Formatos, LoQueSeCancelaDejaLoQueHabia) {
-    Preparar({LosaUniforme(40, 5, 300, 100)});
-    Reporte reporte = Abrir("ResultadosLosa.rpt");
-    for (const int codigo : {FormatoPdf, FormatoHtml, FormatoRtf, FormatoXls}) {
-        EscribirArchivo(carpeta / "viejo", "viejo");
-        double ultima = -1;
-        const auto seguir = [&](double parte) { return std::exchange(ultima, parte) < 0; };
-        EXPECT_THROW(motor.Exportar(reporte.Contenido(), codigo, carpeta / "viejo", seguir),
-                     TrabajoCancelado);
-        EXPECT_GT(ultima, 0);
-        EXPECT_EQ(LeerArchivo(carpeta / "viejo"), "viejo");
-        EXPECT_EQ(ArchivosDe(carpeta.Camino()).size(), 2U) << codigo;  // no half file, and the database
-    }
-}
-
 TEST(ImagenPng, UnMapaRecortadoOAlteradoNoSeLee) {
     for (const bool conPaleta : {false, true}) {
         const Bytes entero = Mapa(conPaleta);
@@ -258,13 +243,17 @@ class DiscoLleno {
     rlimit antes_{};
 };
 
-TEST_F(Formatos, SinDiscoOSinPermisoQuedaElReporteAnterior) {
-    Preparar({LosaUniforme(8, 5, 300, 100)});
+TEST_F(Formatos, CanceladoOSinDiscoOSinPermisoQuedaElReporteAnterior) {
+    Preparar({LosaUniforme(40, 5, 300, 100)});
     Reporte reporte = Abrir("ResultadosLosa.rpt");
-    reporte.Contenido();
+    const std::filesystem::path destino = carpeta / "anterior";
     for (const int codigo : {FormatoPdf, FormatoHtml, FormatoRtf, FormatoXls}) {
-        const std::filesystem::path destino = carpeta / "anterior";
         EscribirArchivo(destino, "anterior");
+        const std::size_t archivos = ArchivosDe(carpeta.Camino()).size();
+        double ultima = -1;
+        const auto seguir = [&](double parte) { return std::exchange(ultima, parte) < 0; };
+        EXPECT_THROW(motor.Exportar(reporte.Contenido(), codigo, destino, seguir), TrabajoCancelado);
+        EXPECT_GT(ultima, 0);
         int error = 0;
         try {
             const DiscoLleno lleno(6000);
@@ -274,11 +263,11 @@ TEST_F(Formatos, SinDiscoOSinPermisoQuedaElReporteAnterior) {
         }
         EXPECT_EQ(error, 61) << codigo;
         EXPECT_EQ(LeerArchivo(destino), "anterior");
+        EXPECT_EQ(ArchivosDe(carpeta.Camino()).size(), archivos) << codigo;  // no half file
         std::filesystem::remove(destino);
         std::filesystem::create_directories(destino / "ocupada");
         EXPECT_THROW(Exportar(reporte, codigo, "anterior"), ErrorEjecucion);
-        EXPECT_TRUE(std::filesystem::exists(destino / "ocupada"));
-        EXPECT_FALSE(std::filesystem::exists(carpeta / "anterior.nuevo"));
+        EXPECT_TRUE(Existe(destino / "ocupada") && !Existe(carpeta / "anterior.nuevo"));
         std::filesystem::remove_all(destino);
     }
     EXPECT_THROW(Exportar(reporte, 99, "x"), ErrorEjecucion);

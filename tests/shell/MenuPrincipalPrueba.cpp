@@ -2,7 +2,6 @@
 
 #include "base/Archivos.h"
 #include "shell/Arranque.h"
-#include "shell/DatosProyecto.h"
 #include "shell/MenuPrincipal.h"
 #include "shell/Respaldos.h"
 #include "store/antiguo/Convertir.h"
@@ -273,27 +272,6 @@ TEST_F(Menu_, LosComandosDeUnProyectoPrimeroLoAbren) {
     EXPECT_EQ(plataforma.Abiertos.back(), carpetas.Proyectos());
     menu.Ejecutar("ID_Salida");
     EXPECT_TRUE(pantalla.Cerrada);
-}
-
-TEST_F(Menu_, LosDatosDelProyectoQuedanEnSuUnicaFila) {
-    const auto archivo = carpetas.Proyectos() / "obra.los";
-    dialogos.Elegidos = {archivo};
-    menu.Ejecutar("ID_Nuevo");
-    DatosProyecto datos(aplicacion, caja);
-    EXPECT_EQ(datos.Leer().Calculista, "ING. NÚÑEZ");
-    DatosDelProyecto nuevos = aplicacion.Datos;
-    nuevos.Proyecto = "EDIFICIO";
-    EXPECT_TRUE(datos.Salvar(nuevos) && datos.Salvar(nuevos));
-    ProyectoAbierto proyecto;
-    ASSERT_TRUE(Abrir(proyecto, archivo));
-    Recordset filas;
-    AbrirRecordset(proyecto.ConexionProyecto, filas, "Proyecto");
-    EXPECT_EQ(filas.NumeroRegistros(), 1);
-    EXPECT_EQ(filas.Texto("Proyecto"), "EDIFICIO");
-
-    EscribirArchivo(archivo, "ya no es un proyecto");
-    EXPECT_FALSE(datos.Salvar(nuevos));
-    EXPECT_EQ(LeerArchivo(archivo), "ya no es un proyecto");
 }
 
 TEST_F(Menu_, UnProyectoDelFormatoAnteriorSeConvierteSiSeQuiere) {

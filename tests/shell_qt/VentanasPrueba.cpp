@@ -125,6 +125,7 @@ TEST_F(Ventanas, LosProyectosRecientesYLosSoltadosSeAbren) {
 TEST_F(Ventanas, LosDatosTecleadosLleganAlArchivo) {
     VentanaDatosProyecto ventana(aplicacion, caja, nullptr);
     ventana.show();
+    EXPECT_EQ(ventana.findChild<QLineEdit*>("Calculista")->text(), "ING. NÚÑEZ");
     auto* comentario = ventana.findChild<QPlainTextEdit*>("Comentario");
     comentario->setPlainText(QString(250, 'a'));
     comentario->moveCursor(QTextCursor::End);
