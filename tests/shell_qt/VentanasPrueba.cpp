@@ -148,6 +148,10 @@ TEST_F(Ventanas, LosDatosTecleadosLleganAlArchivo) {
     EXPECT_EQ(ventana.focusWidget(), fecha);
     EXPECT_TRUE(fecha->toolTip().startsWith("No es una fecha"));
     fecha->setText("29-2-24");
+    std::filesystem::rename(aplicacion.ArchivoProyecto, carpeta / "apartado");
+    Pulsar(ventana, "Salvar");
+    EXPECT_TRUE(ventana.isVisible());  // what could not be saved stays
+    std::filesystem::rename(carpeta / "apartado", aplicacion.ArchivoProyecto);
     Pulsar(ventana, "Salvar");
     EXPECT_EQ(fecha->text(), "29/02/2024");
     EXPECT_FALSE(ventana.isVisible());
@@ -156,6 +160,7 @@ TEST_F(Ventanas, LosDatosTecleadosLleganAlArchivo) {
     AbrirConexion(conexion, aplicacion.ArchivoProyecto);
     proyecto::LeerProyecto(conexion, "", datos);
     EXPECT_EQ(datos.Proyecto, "EDIFICIO 1");
+    EXPECT_EQ(aplicacion.Datos.Proyecto, "EDIFICIO 1");
     EXPECT_EQ(datos.Comentario, std::string(250, 'a') + "bcdef");
     EXPECT_EQ(FormatoFecha(datos.Fecha), "29/02/2024");
 }
