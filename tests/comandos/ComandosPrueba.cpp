@@ -61,7 +61,6 @@ struct SinFoco : escaleras::ui::PantallaDeCampos<escaleras::ui::CampoEscaleraT>,
 
 class ConDiscoQueFalla : public CargasDePrueba {
   public:
-    using CargasDePrueba::aplicacion_, CargasDePrueba::caja_, CargasDePrueba::Servicios;
     using Armar = std::function<void()>;
     using Comando = std::function<void(ConDiscoQueFalla&, const Armar&)>;
 
@@ -72,12 +71,12 @@ class ConDiscoQueFalla : public CargasDePrueba {
         pantalla.Renombrar = [](programa::Renombrar& operaciones) { operaciones.Aceptar("Ñ NUEVO"); };
         if constexpr (std::is_same_v<Espacio, Losas>) {
             MemoriaLosas memoria;
-            Losas espacio(aplicacion_, Servicios(), pantalla, pantalla, memoria);
+            Losas espacio(aplicacion, servicios, pantalla, pantalla, memoria);
             espacio.Lista().Abrir();
             armar();
             hacer(espacio, pantalla);
         } else {
-            Espacio espacio(aplicacion_, Servicios(), pantalla, pantalla);
+            Espacio espacio(aplicacion, servicios, pantalla, pantalla);
             espacio.Lista().Abrir();
             armar();
             hacer(espacio, pantalla);
@@ -94,7 +93,7 @@ class ConDiscoQueFalla : public CargasDePrueba {
         const std::function<void(ConDiscoQueFalla&, ListaAnalisis&, VistaListaGuiada&)>& hacer) {
         return [donde, hacer](ConDiscoQueFalla& c, const Armar& armar) {
             VistaListaGuiada vista;
-            ListaAnalisis lista(c.aplicacion_, c.Servicios(), VarianteDe(donde), Azar());
+            ListaAnalisis lista(c.aplicacion, c.servicios, VarianteDe(donde), Azar());
             lista.Abrir(vista);
             armar();
             hacer(c, lista, vista);
@@ -118,22 +117,20 @@ class ConDiscoQueFalla : public CargasDePrueba {
     }
     /// The code of the error that was told; 0 when none was.
     int Dicho() const {
-        for (const Mensaje& mensaje : caja_.Mensajes)
+        for (const Mensaje& mensaje : caja.Mensajes)
             if (const std::string marca = "Error Número: "; mensaje.Texto.starts_with(marca))
                 return std::stoi(mensaje.Texto.substr(marca.size()));
         return 0;
     }
-    std::vector<std::filesystem::path> Archivos() const {
-        return {aplicacion_.ArchivoProyecto, Compartido()};
-    }
+    std::vector<std::filesystem::path> Archivos() const { return {aplicacion.ArchivoProyecto, Compartido()}; }
     static std::filesystem::path Con(const std::filesystem::path& camino, const char* cola) {
         return std::filesystem::path(camino) += cola;
     }
     /// Of both files, once the program has let go of them: an interrupted save is rolled back by who opens
     /// next.
     std::string Contenido() {
-        aplicacion_.Proyecto.RegistrosProyecto.Cerrar();
-        aplicacion_.Proyecto.ConexionProyecto.Cerrar();
+        aplicacion.Proyecto.RegistrosProyecto.Cerrar();
+        aplicacion.Proyecto.ConexionProyecto.Cerrar();
         std::string texto;
         for (const auto& archivo : Archivos()) {
             const bool movido = std::filesystem::exists(Con(archivo, ".apartado"));
@@ -153,8 +150,8 @@ class ConDiscoQueFalla : public CargasDePrueba {
                 std::filesystem::remove(Con(archivo, cola));
             std::filesystem::copy_file(Con(archivo, ".entero"), archivo);
         }
-        caja_.Mensajes.clear();
-        caja_.Respuestas.assign(9, RespuestaSi);
+        caja.Mensajes.clear();
+        caja.Respuestas.assign(9, RespuestaSi);
     }
     SinFoco sinFoco_;
 };
@@ -169,12 +166,12 @@ TEST_F(ConDiscoQueFalla, LoDichoEsLoGuardadoFalleDondeFalleElDisco) {
         EscaleraTNueva(e.Lista()).Aceptar("Ñ", "TÍTULO");
     };
     const auto titulo = [](ConDiscoQueFalla& c, auto&, auto&) {
-        EscaleraTitulo(c.aplicacion_.Proyecto, c.caja_).Aceptar("OTRO");
+        EscaleraTitulo(c.aplicacion.Proyecto, c.caja).Aceptar("OTRO");
     };
     const auto generales = [](ConDiscoQueFalla& c, almacen::tablas::ClaseEscalera clase) {
         bool cambiados = false;
-        EscaleraTG ventana(c.aplicacion_.Proyecto.ConexionProyecto, clase, c.aplicacion_.Generales, cambiados,
-                           c.caja_, c.sinFoco_);
+        EscaleraTG ventana(c.aplicacion.Proyecto.ConexionProyecto, clase, c.aplicacion.Generales, cambiados,
+                           c.caja, c.sinFoco_);
         EntradaEscaleraTG entrados = ventana.Mostrar();
         entrados.FC = 333;
         ventana.Aceptar(entrados);
@@ -183,10 +180,10 @@ TEST_F(ConDiscoQueFalla, LoDichoEsLoGuardadoFalleDondeFalleElDisco) {
     const std::vector<std::pair<const char*, Comando>> comandos{
         {"losa nueva", En<Losas, L>([](auto&, auto& e, auto&) { LosaNueva(e).Aceptar("NUEVA"); })},
         {"losa copiada",
-         En<Losas, L>([](auto& c, auto& e, auto&) { LosaSalvarComo(e, c.caja_).Aceptar("COPIA"); })},
+         En<Losas, L>([](auto& c, auto& e, auto&) { LosaSalvarComo(e, c.caja).Aceptar("COPIA"); })},
         {"losa salvada", En<Losas, L>([](auto& c, auto& e, auto&) {
              PantallaLosaDatosGuiada pantalla;
-             LosaDatos datos(e, pantalla, c.caja_);
+             LosaDatos datos(e, pantalla, c.caja);
              datos.Abrir();
              datos.PonerNumeroTramos(4);
              datos.PonerLongitud(1, 7.77);
@@ -196,16 +193,16 @@ TEST_F(ConDiscoQueFalla, LoDichoEsLoGuardadoFalleDondeFalleElDisco) {
         {"losa renombrada", En<Losas, L>(renombrar)},
         {"losa eliminada", En<Losas, L>(eliminar)},
         {"generales de losas", En<Losas, L>([](auto& c, auto&, auto&) {
-             DatosGenerales entrados = c.aplicacion_.Generales;
+             DatosGenerales entrados = c.aplicacion.Generales;
              entrados.FC = 333;
-             LosaGeneral(c.aplicacion_.Proyecto.ConexionProyecto, c.aplicacion_.Generales, c.caja_)
+             LosaGeneral(c.aplicacion.Proyecto.ConexionProyecto, c.aplicacion.Generales, c.caja)
                  .Aceptar(entrados);
          })},
         {"escalera nueva", En<EscaleraT, PantallaT>(nueva)},
         {"escalera titulada", En<EscaleraT, PantallaT>(titulo)},
         {"escalera salvada", En<EscaleraT, PantallaT>([](auto& c, auto& e, auto& p) {
              p.Datos = [&](const TrabajoEscaleraT& trabajo) {
-                 EscaleraTDatos ventana(trabajo, c.caja_, c.sinFoco_);
+                 EscaleraTDatos ventana(trabajo, c.caja, c.sinFoco_);
                  escaleras::DatosEscaleraT entrados = ventana.Mostrar();
                  entrados.L = 2.22;
                  ventana.Salvar(entrados);
@@ -221,7 +218,7 @@ TEST_F(ConDiscoQueFalla, LoDichoEsLoGuardadoFalleDondeFalleElDisco) {
         {"hélice titulada", En<EscaleraH, PantallaH>(titulo)},
         {"hélice salvada", En<EscaleraH, PantallaH>([](auto& c, auto& e, auto& p) {
              p.Datos = [&](const helices::ui::TrabajoEscaleraH& trabajo) {
-                 helices::ui::EscaleraHDatos ventana(trabajo, c.caja_, c.sinFoco_);
+                 helices::ui::EscaleraHDatos ventana(trabajo, c.caja, c.sinFoco_);
                  helices::ui::EntradaEscaleraH entrados = ventana.Mostrar();
                  entrados.H = 2.22;
                  ventana.Salvar(entrados);
@@ -280,7 +277,7 @@ TEST_F(ConDiscoQueFalla, LoDichoEsLoGuardadoFalleDondeFalleElDisco) {
                               lista.Modificar();
                           })},
         {"datos del proyecto", [](ConDiscoQueFalla& c, const Armar& armar) {
-             DatosProyecto ventana(c.aplicacion_, c.caja_);
+             DatosProyecto ventana(c.aplicacion, c.caja);
              DatosDelProyecto datos = ventana.Leer();
              datos.Cliente = "OTRO";
              armar();

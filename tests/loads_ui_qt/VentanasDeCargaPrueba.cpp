@@ -17,8 +17,8 @@ namespace {
 
 class VentanasConWidgets : public CargasDePrueba {
   protected:
-    VentanasConWidgets() : entorno_(salida_.Entorno(aplicacion_, Servicios())) {
-        aplicacion_.SeparadoresLocales = {".", ","};
+    VentanasConWidgets() : entorno_(salida_.Entorno(aplicacion, servicios)) {
+        aplicacion.SeparadoresLocales = {".", ","};
     }
     static void Mostrar(QWidget& ventana) {
         ventana.show();
@@ -29,7 +29,7 @@ class VentanasConWidgets : public CargasDePrueba {
 };
 
 TEST_F(VentanasConWidgets, LasCeldasSoloSeModificanConSuOpcion) {
-    ListaAnalisis operaciones(aplicacion_, Servicios(), AnalisisCompartido, Azar());
+    ListaAnalisis operaciones(aplicacion, servicios, AnalisisCompartido, Azar());
     VentanaListaAnalisis ventana(entorno_, operaciones, nullptr);
     Mostrar(ventana);
     auto* tabla = ventana.findChild<TablaDatos*>();
@@ -54,7 +54,7 @@ TEST_F(VentanasConWidgets, LasCeldasSoloSeModificanConSuOpcion) {
 }
 
 TEST_F(VentanasConWidgets, LoQueOtroProgramaCambiaSeLeeAlVenirAlFrente) {
-    ListaAnalisis operaciones(aplicacion_, Servicios(), AnalisisCompartido, Azar());
+    ListaAnalisis operaciones(aplicacion, servicios, AnalisisCompartido, Azar());
     VentanaListaAnalisis ventana(entorno_, operaciones, nullptr);
     ventana.setModal(true);
     Mostrar(ventana);
@@ -79,13 +79,13 @@ TEST_F(VentanasConWidgets, LoQueOtroProgramaCambiaSeLeeAlVenirAlFrente) {
 }
 
 TEST_F(VentanasConWidgets, NadaDeLoEscritoSePierdeAlDesplazarNiAlCerrar) {
-    ListaAnalisis operaciones(aplicacion_, Servicios(), AnalisisDeProyecto, Azar());
+    ListaAnalisis operaciones(aplicacion, servicios, AnalisisDeProyecto, Azar());
     VentanaListaAnalisis lista(entorno_, operaciones, nullptr);
     double total = 0;
     AnalisisCargaModificar edicion(
-        {Ambito::Proyecto, aplicacion_.Proyecto.ConexionProyecto, aplicacion_.Proyecto.RegistrosProyecto,
-         otra_, [&](double carga) { total = carga; }},
-        Servicios());
+        {Ambito::Proyecto, aplicacion.Proyecto.ConexionProyecto, aplicacion.Proyecto.RegistrosProyecto, otra_,
+         [&](double carga) { total = carga; }},
+        servicios);
     VentanaAnalisisCargaModificar ventana(entorno_, AnalisisDeProyecto, edicion, nullptr);
     Mostrar(ventana);
     auto* long1 = ventana.findChild<QLineEdit*>("Long1");
@@ -98,14 +98,14 @@ TEST_F(VentanasConWidgets, NadaDeLoEscritoSePierdeAlDesplazarNiAlCerrar) {
     tabla->IrA(tabla->Filas(), 1);
     tabla->setFocus();
     Teclas("40,6");  // still in its editor
-    caja_.Respuestas = {programa::RespuestaSi};
+    caja.Respuestas = {programa::RespuestaSi};
     deslizador->setValue(2);
     EXPECT_EQ(guardado().CP, cp + 41);
     EXPECT_EQ(total, cp + 41 + 175);
     EXPECT_EQ(ventana.findChild<QLabel*>("DescripcionAnalisis")->text(), "ENTREPISO DE OFICINAS");
 
     deslizador->setValue(1);
-    EXPECT_EQ(caja_.Mensajes.size(), 1U);  // nothing changed, nothing asked
+    EXPECT_EQ(caja.Mensajes.size(), 1U);  // nothing changed, nothing asked
     Escribir(long1, "1.250,4");
     ventana.findChild<QAction*>("ID_Salvar")->trigger();
     EXPECT_EQ(guardado().CV, 1250);
@@ -127,9 +127,9 @@ TEST_F(VentanasConWidgets, NadaDeLoEscritoSePierdeAlDesplazarNiAlCerrar) {
     // A refused save keeps the changes.
     QTest::keyClicks(long1, "-7");
     otra_.Ejecutar("DELETE * FROM AnalisisCargaG WHERE ID=2741");  // another program
-    caja_.Respuestas = {programa::RespuestaSi};
+    caja.Respuestas = {programa::RespuestaSi};
     ventana.reject();
-    EXPECT_EQ(caja_.Mensajes.back().Texto.find("Error Número: "), 0U);
+    EXPECT_EQ(caja.Mensajes.back().Texto.find("Error Número: "), 0U);
     EXPECT_TRUE(ventana.isVisible());
     EXPECT_EQ(ventana.findChild<QLabel*>("SumaTotal")->text(), QString::number(cp + 41 - 7));
     ventana.reject();

@@ -13,30 +13,28 @@ using namespace almacen;
 using namespace almacen::tablas;
 
 /// The example project beside the shared load database as it is delivered, and their services.
-class CargasDePrueba : public testing::Test {
+class CargasDePrueba : public testing::Test, public Maquina {
   protected:
-    CargasDePrueba() : sistema_(carpeta_ / "maquina") {
+    CargasDePrueba() {
         const std::string imagen = Install() + "/Imagen/";
-        carpetas_.CaminoUsuario = carpeta_ / "usuario";
-        carpetas_.CaminoPrograma = carpeta_ / "programa";
-        aplicacion_.ArchivoProyecto = carpeta_ / "p.los";
-        std::filesystem::create_directories(carpetas_.Proyectos());
-        CrearBaseDatos(aplicacion_.ArchivoProyecto,
+        carpetas.CaminoUsuario = carpeta / "usuario";
+        carpetas.CaminoPrograma = carpeta / "programa";
+        aplicacion.ArchivoProyecto = carpeta / "p.los";
+        std::filesystem::create_directories(carpetas.Proyectos());
+        CrearBaseDatos(aplicacion.ArchivoProyecto,
                        EsquemaDeProyecto() + LeerArchivo(imagen + "Ejemplo Demostrativo.sql"));
         CrearBaseDatos(Compartido(), LeerArchivo(imagen + "AnalisisCarga.sql"));
     }
 
-    std::filesystem::path Compartido() const { return carpetas_.AnalisisCarga(); }
-    programa::Servicios Servicios() { return {caja_, dialogos_, sistema_, carpetas_}; }
+    std::filesystem::path Compartido() const { return carpetas.AnalisisCarga(); }
     static cargas::FuenteAzar Azar() {
         return [] { return 0.25; };
     }
-    std::string UltimoTexto() const { return caja_.Mensajes.empty() ? "" : caja_.Mensajes.back().Texto; }
-    std::string UltimoEncabezado() const { return caja_.Mensajes.back().Encabezado; }
+    std::string UltimoTexto() const { return caja.Mensajes.empty() ? "" : caja.Mensajes.back().Texto; }
 
     /// A statement's rows in the file of a place, through another connection.
     Recordset EnArchivo(cargas::Ambito ambito, const std::string& fuente) {
-        AbrirConexion(otra_, ambito == cargas::Ambito::Proyecto ? aplicacion_.ArchivoProyecto : Compartido());
+        AbrirConexion(otra_, ambito == cargas::Ambito::Proyecto ? aplicacion.ArchivoProyecto : Compartido());
         Recordset registros;
         AbrirRecordset(otra_, registros, fuente);
         return registros;
@@ -49,12 +47,6 @@ class CargasDePrueba : public testing::Test {
         return analisis;
     }
 
-    CarpetaTemporal carpeta_;
-    PlataformaGuiada sistema_;
-    CajaGuiada caja_;
-    DialogosGuiados dialogos_;
-    programa::Carpetas carpetas_;
-    programa::Aplicacion aplicacion_;
     Conexion otra_;
 };
 
