@@ -9,18 +9,10 @@
 #include "base/Archivos.h"
 #include "base/Texto.h"
 #include "support/CarpetaTemporal.h"
+#include "support/Errores.h"
 
-namespace trabex {
+namespace trabex::prueba {
 namespace {
-
-int CodigoDe(const std::function<void()>& tarea) {
-    try {
-        tarea();
-    } catch (const ErrorEjecucion& error) {
-        return error.Codigo();
-    }
-    return 0;
-}
 
 /// The code of a task in a process of its own, which may lose rights or room.
 int EnOtroProceso(const std::function<void()>& antes, const std::function<void()>& tarea) {
@@ -35,7 +27,7 @@ int EnOtroProceso(const std::function<void()>& antes, const std::function<void()
 }
 
 TEST(Archivos, LosFallosTienenSuCodigoYDejanElArchivo) {
-    const prueba::CarpetaTemporal carpeta;
+    const CarpetaTemporal carpeta;
     const auto archivo = carpeta / "informe.txt";
     EscribirArchivo(archivo, "viejo");
     const auto grande = [&] { EscribirArchivo(archivo, std::string(1 << 20, 'x')); };
@@ -45,7 +37,7 @@ TEST(Archivos, LosFallosTienenSuCodigoYDejanElArchivo) {
         setrlimit(RLIMIT_FSIZE, &limite);
     };
     EXPECT_EQ(EnOtroProceso(sinSitio, grande), 61);
-    const prueba::CarpetaTemporal otra;
+    const CarpetaTemporal otra;
     EscribirArchivo(otra / "grande", std::string(1 << 20, 'x'));
     EXPECT_EQ(EnOtroProceso(sinSitio, [&] { CopiarArchivo(otra / "grande", archivo); }), 61);
     std::filesystem::permissions(carpeta.Camino(), std::filesystem::perms(0555));
@@ -68,4 +60,4 @@ TEST(Texto, MayusculasConAcentos) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

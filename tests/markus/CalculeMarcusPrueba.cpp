@@ -3,11 +3,11 @@
 
 #include <gtest/gtest.h>
 
-#include "base/ErrorEjecucion.h"
 #include "markus/Avisos.h"
 #include "markus/CalculeMarcus.h"
+#include "support/Errores.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
 using namespace marcus;
 namespace {
@@ -71,12 +71,7 @@ TEST(Marcus, UnFalloDejaLasFilasDeAntes) {
         std::vector<PanoMarcus> panos(3, {100, 1, 4, 4, {}});
         panos[1] = malo;
         panos[2].Reparto.WX = 7;
-        try {
-            CalculeMarcus(panos);
-            ADD_FAILURE();
-        } catch (const ErrorEjecucion& error) {
-            EXPECT_EQ(error.Codigo(), codigo);
-        }
+        EXPECT_EQ(CodigoDe([&] { CalculeMarcus(panos); }), codigo);
         EXPECT_EQ(panos[0].Reparto.WX, 50);
         EXPECT_EQ(panos[1].Reparto.CX, 0);
         EXPECT_EQ(panos[2].Reparto.WX, 7);
@@ -95,4 +90,4 @@ TEST(Marcus, Avisos) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba

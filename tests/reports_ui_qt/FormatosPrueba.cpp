@@ -254,13 +254,10 @@ TEST_F(Formatos, CanceladoOSinDiscoOSinPermisoQuedaElReporteAnterior) {
         const auto seguir = [&](double parte) { return std::exchange(ultima, parte) < 0; };
         EXPECT_THROW(motor.Exportar(reporte.Contenido(), codigo, destino, seguir), TrabajoCancelado);
         EXPECT_GT(ultima, 0);
-        int error = 0;
-        try {
+        const int error = CodigoDe([&, cual = codigo] {
             const DiscoLleno lleno(6000);
-            Exportar(reporte, codigo, "anterior");
-        } catch (const ErrorEjecucion& e) {
-            error = e.Codigo();
-        }
+            Exportar(reporte, cual, "anterior");
+        });
         EXPECT_EQ(error, 61) << codigo;
         EXPECT_EQ(LeerArchivo(destino), "anterior");
         EXPECT_EQ(ArchivosDe(carpeta.Camino()).size(), archivos) << codigo;  // no half file

@@ -67,12 +67,7 @@ TEST_F(Disenos, LosErroresDicenArchivoLineaYNombre) {
               "línea 2: el reporte \"prueba.rpt\" se contiene a sí mismo"},
          })
         EXPECT_EQ(Falta(maqueta), std::string("prueba.rpt, ") + falta) << maqueta;
-    try {
-        Abrir("NoExiste.rpt");
-        ADD_FAILURE();
-    } catch (const ErrorEjecucion& error) {
-        EXPECT_EQ(error.Codigo(), 53);
-    }
+    EXPECT_EQ(CodigoDe([&] { Abrir("NoExiste.rpt"); }), 53);
 }
 
 TEST_F(Disenos, LasFilasSeEnlazanOrdenanYTotalizan) {

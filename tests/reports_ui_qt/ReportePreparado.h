@@ -9,6 +9,7 @@
 #include "reports/salidas/MotorReportes.h"
 #include "reports/salidas/qt/EscritorPdf.h"
 #include "support/CarpetaTemporal.h"
+#include "support/Errores.h"
 #include "support/ShellGuiado.h"
 #include "support/TemporalDePrueba.h"
 

@@ -2,8 +2,9 @@
 
 #include "stairs/CalcularEscaleraT.h"
 #include "stairs/FilasEscaleraT.h"
+#include "support/Errores.h"
 
-namespace trabex {
+namespace trabex::prueba {
 
 using namespace escaleras;
 namespace {
@@ -101,14 +102,7 @@ TEST(HojasEscaleraT, PeldanosDeUnTramo) {
     EXPECT_NEAR(de(2.4, 3).Contrahuella, 1.5 / 8, 1e-15);
     EXPECT_EQ(de(0.2, 3).Huellas, 1);
     EXPECT_EQ(de(0.75, 3).Huellas, 2);  // 2.5 goes to the even neighbour
-    const auto codigo = [&](double L, double H) {
-        try {
-            de(L, H);
-        } catch (const ErrorEjecucion& error) {
-            return error.Codigo();
-        }
-        return 0;
-    };
+    const auto codigo = [&](double L, double H) { return CodigoDe([&] { de(L, H); }); };
     EXPECT_EQ(codigo(0.15, 3), 11);  // 0.5 goes to 0
     EXPECT_EQ(codigo(2.4, 0.18), 11);
     EXPECT_EQ(codigo(2.4, 0.19), 0);
@@ -116,4 +110,4 @@ TEST(HojasEscaleraT, PeldanosDeUnTramo) {
 }
 
 }  // namespace
-}  // namespace trabex
+}  // namespace trabex::prueba
