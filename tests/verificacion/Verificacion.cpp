@@ -32,7 +32,7 @@ std::string Potencia(double valor) {
 void Problema::Comparar(double obtenido, double esperado, double escala) {
     const double diferencia = std::fabs(obtenido - esperado) / escala;
     // A difference that is no number is the worst of all.
-    peor_ = diferencia <= HUGE_VAL ? std::max(peor_, diferencia) : HUGE_VAL;
+    Peor = diferencia <= HUGE_VAL ? std::max(Peor, diferencia) : HUGE_VAL;
 }
 
 std::string Pagina(const Problemas& problemas) {
@@ -40,15 +40,15 @@ std::string Pagina(const Problemas& problemas) {
     std::string elemento;
     int numero = 0;
     for (const Problema& problema : problemas) {
-        if (problema.Elemento() != elemento) {
-            elemento = problema.Elemento();
+        if (problema.Elemento != elemento) {
+            elemento = problema.Elemento;
             texto += "\n## " + elemento +
                      "\n\n| No. | Qué se compara | Con qué | Casos | Diferencia | Límite |\n"
                      "|---|---|---|---|---|---|\n";
         }
-        texto += "| " + std::to_string(++numero) + " | " + problema.Que() + " | " + problema.Fuente() +
-                 " | " + std::to_string(problema.Casos()) + " | " + Potencia(problema.Peor()) + " | " +
-                 Potencia(problema.Limite()) + " |\n";
+        texto += "| " + std::to_string(++numero) + " | " + problema.Que + " | " + problema.Fuente + " | " +
+                 std::to_string(problema.Casos) + " | " + Potencia(problema.Peor) + " | " +
+                 Potencia(problema.Limite) + " |\n";
     }
     return texto;
 }

@@ -8,29 +8,20 @@ namespace trabex::verificacion {
 
 /// A thing that is compared with what others have found: how often, and how far off the worst case is. A
 /// difference is relative to the greatest value of its kind in the case.
-class Problema {
-  public:
+struct Problema {
     Problema(std::string elemento, std::string que, std::string fuente, double limite)
-        : elemento_(std::move(elemento)), que_(std::move(que)), fuente_(std::move(fuente)), limite_(limite) {}
+        : Elemento(std::move(elemento)), Que(std::move(que)), Fuente(std::move(fuente)), Limite(limite) {}
 
     /// One more comparison of the current case.
     void Comparar(double obtenido, double esperado, double escala);
-    void NuevoCaso() { ++casos_; }
-
-    const std::string& Elemento() const { return elemento_; }
-    const std::string& Que() const { return que_; }
-    const std::string& Fuente() const { return fuente_; }
-    std::size_t Casos() const { return casos_; }
-    double Peor() const { return peor_; }
-    double Limite() const { return limite_; }
+    void NuevoCaso() { ++Casos; }
     /// It was compared, and every difference is within its limit.
-    bool Cumple() const { return casos_ > 0 && peor_ <= limite_; }
+    bool Cumple() const { return Casos > 0 && Peor <= Limite; }
 
-  private:
-    std::string elemento_, que_, fuente_;
-    double limite_;
-    std::size_t casos_ = 0;
-    double peor_ = 0;
+    std::string Elemento, Que, Fuente;
+    double Limite;
+    std::size_t Casos = 0;
+    double Peor = 0;
 };
 
 /// All problems, in the order of the page. References to them stay good.

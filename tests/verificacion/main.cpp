@@ -23,8 +23,8 @@ int main(int argc, char** argv) {
     VerificarMarcus(problemas);
     bool bien = true;
     for (const Problema& problema : problemas) {
-        std::printf("%-9s %8.1e (%.0e) %6zu  %s: %s\n", problema.Cumple() ? "" : "NO CUMPLE", problema.Peor(),
-                    problema.Limite(), problema.Casos(), problema.Elemento().c_str(), problema.Que().c_str());
+        std::printf("%-9s %8.1e (%.0e) %6zu  %s: %s\n", problema.Cumple() ? "" : "NO CUMPLE", problema.Peor,
+                    problema.Limite, problema.Casos, problema.Elemento.c_str(), problema.Que.c_str());
         bien = bien && problema.Cumple();
     }
     const std::string pagina = Pagina(problemas);
