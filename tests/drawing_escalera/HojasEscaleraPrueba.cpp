@@ -61,52 +61,44 @@ std::string Faltas(const LienzoGrabador& lienzo) {
     return faltas;
 }
 
-struct SuperficieDePrueba {
-    const char* Nombre;
-    std::int32_t Ancho, Alto, PorPulgada;
-    bool DePapel;
-};
-void PrintTo(const SuperficieDePrueba& s, std::ostream* salida) {
-    *salida << s.Nombre;
-}
-
-class Rejilla : public testing::TestWithParam<SuperficieDePrueba> {};
-
-TEST_P(Rejilla, NingunTextoPisaOtroNiSale) {
-    const SuperficieDePrueba& s = GetParam();
-    for (const double L : {1.8, 2.4, 3.2, 4.0})
-        for (const double B : {0.9, 1.2, 1.5, 2.0})
-            for (const double H : {2.4, 3.0, 4.0}) {
-                Dibujada e({"E-1", "Escalera principal del edificio", L, B, H, 0.2, 0.2, 2076, 1865, 1040});
-                ASSERT_FALSE(e.Resultados.Error);
-                for (std::uint8_t vista = 0; vista < 4; ++vista) {
-                    LienzoGrabador lienzo(s.Ancho, s.Alto, s.PorPulgada);
-                    e.Hoja = {};
-                    e.Hoja.VistaActual = vista;
-                    if (s.DePapel)
-                        GuardeGraficos1(lienzo, e.Hoja, e.Ver(), {"U", "P", "C"});
-                    else
-                        e.Dibujar(lienzo, vista);
-                    EXPECT_EQ(lienzo.Hallar("PROYECTO: P") != nullptr, s.DePapel);
-                    EXPECT_EQ(Faltas(lienzo), "")
-                        << "sheet " << int(vista) << ", " << L << " " << B << " " << H;
-                    EXPECT_GT(lienzo.Textos.size(), 4U);
+TEST(HojasEscalera, NingunTextoPisaOtroNiSale) {
+    struct Superficie {
+        const char* Nombre;
+        std::int32_t Ancho, Alto, PorPulgada;
+        bool DePapel;
+    };
+    for (const Superficie& s : {Superficie{"screen", 1120, 632, 96, false},
+                                {"small", 555, 464, 96, false},
+                                {"report", 940, 580, 96, false},
+                                {"report letter", 931, 581, 96, false},
+                                {"report letter upright", 691, 821, 96, false},
+                                {"report A4", 997, 559, 96, false},
+                                {"report A4 upright", 668, 888, 96, false},
+                                {"letter upright", 4533, 6033, 600, true},
+                                {"A4 upright", 4394, 6449, 600, true},
+                                {"letter", 6033, 4533, 600, true},
+                                {"A4", 6449, 4394, 600, true}})
+        for (const double L : {1.8, 2.4, 3.2, 4.0})
+            for (const double B : {0.9, 1.2, 1.5, 2.0})
+                for (const double H : {2.4, 3.0, 4.0}) {
+                    Dibujada e(
+                        {"E-1", "Escalera principal del edificio", L, B, H, 0.2, 0.2, 2076, 1865, 1040});
+                    ASSERT_FALSE(e.Resultados.Error);
+                    for (std::uint8_t vista = 0; vista < 4; ++vista) {
+                        LienzoGrabador lienzo(s.Ancho, s.Alto, s.PorPulgada);
+                        e.Hoja = {};
+                        e.Hoja.VistaActual = vista;
+                        if (s.DePapel)
+                            GuardeGraficos1(lienzo, e.Hoja, e.Ver(), {"U", "P", "C"});
+                        else
+                            e.Dibujar(lienzo, vista);
+                        EXPECT_EQ(lienzo.Hallar("PROYECTO: P") != nullptr, s.DePapel);
+                        EXPECT_EQ(Faltas(lienzo), "")
+                            << s.Nombre << ", sheet " << int(vista) << ", " << L << " " << B << " " << H;
+                        EXPECT_GT(lienzo.Textos.size(), 4U);
+                    }
                 }
-            }
 }
-
-INSTANTIATE_TEST_SUITE_P(Superficies, Rejilla,
-                         testing::Values(SuperficieDePrueba{"screen", 1120, 632, 96, false},
-                                         SuperficieDePrueba{"small", 555, 464, 96, false},
-                                         SuperficieDePrueba{"report", 940, 580, 96, false},
-                                         SuperficieDePrueba{"report letter", 931, 581, 96, false},
-                                         SuperficieDePrueba{"report letter upright", 691, 821, 96, false},
-                                         SuperficieDePrueba{"report A4", 997, 559, 96, false},
-                                         SuperficieDePrueba{"report A4 upright", 668, 888, 96, false},
-                                         SuperficieDePrueba{"letter upright", 4533, 6033, 600, true},
-                                         SuperficieDePrueba{"A4 upright", 4394, 6449, 600, true},
-                                         SuperficieDePrueba{"letter", 6033, 4533, 600, true},
-                                         SuperficieDePrueba{"A4", 6449, 4394, 600, true}));
 
 struct Origen {
     std::uint8_t Vista;

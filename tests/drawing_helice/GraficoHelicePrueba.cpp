@@ -32,15 +32,12 @@ std::vector<std::string> Ultimos(const LienzoGrabador& lienzo, std::size_t deLaP
             textos.end() - static_cast<std::ptrdiff_t>(deLaPagina)};
 }
 
-struct Zona {
-    std::int32_t x1 = 1 << 20, y1 = 1 << 20, x2 = -1, y2 = -1;
-};
-Zona ZonaDe(std::span<const LienzoGrabador::Figura> figuras) {
-    Zona zona;
+prueba::Caja ZonaDe(std::span<const LienzoGrabador::Figura> figuras) {
+    prueba::Caja zona{1e9, 1e9, -1e9, -1e9};
     for (const auto& figura : figuras)
-        for (const PuntoLienzo& p : figura.Puntos)
-            zona = {std::min(zona.x1, p.x), std::min(zona.y1, p.y), std::max(zona.x2, p.x),
-                    std::max(zona.y2, p.y)};
+        for (const auto& [x, y] : figura.Puntos)
+            zona = {std::min<double>(zona.x1, x), std::min<double>(zona.y1, y), std::max<double>(zona.x2, x),
+                    std::max<double>(zona.y2, y)};
     return zona;
 }
 
@@ -55,8 +52,8 @@ TEST(GraficoHelice, CadaFiguraEnSuSitio) {
                 hoja.ElGiro = {giro, 2 * giro};
                 LienzoGrabador lienzo(ancho, alto);
                 RedibujeVista(lienzo, hoja, {e, {}});
-                const Zona planta = ZonaDe(std::span(lienzo.Poligonos).first(1));
-                const Zona vista = ZonaDe(std::span(lienzo.Poligonos).subspan(2));
+                const prueba::Caja planta = ZonaDe(std::span(lienzo.Poligonos).first(1));
+                const prueba::Caja vista = ZonaDe(std::span(lienzo.Poligonos).subspan(2));
                 EXPECT_TRUE(planta.x2 < vista.x1 || planta.y2 < vista.y1) << R << " " << giro << " " << ancho;
                 EXPECT_GT(std::min(planta.y1, vista.y1), lienzo.Hallar("T")->Lugar.y + 12)
                     << R << " " << giro;

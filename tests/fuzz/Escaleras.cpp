@@ -20,31 +20,25 @@ void Exigir(bool condicion) {
 }
 
 /// Values cut from the bytes, zeros once they are over.
-class Bytes {
-  public:
-    Bytes(const std::uint8_t* datos, std::size_t largo) : datos_(datos), largo_(largo) {}
-
-    template <class Numero>
-    void Poner(Numero& numero) {
-        numero = 0;
-        if (sizeof numero > largo_) return;
-        std::memcpy(&numero, datos_, sizeof numero);
-        datos_ += sizeof numero;
-        largo_ -= sizeof numero;
-    }
+struct Bytes {
     template <class... Numeros>
-    void PonerTodos(Numeros&... numeros) {
-        (Poner(numeros), ...);
+    void Poner(Numeros&... numeros) {
+        const auto uno = [this](auto& numero) {
+            numero = 0;
+            if (sizeof numero > Largo) return;
+            std::memcpy(&numero, Datos, sizeof numero);
+            Datos += sizeof numero;
+            Largo -= sizeof numero;
+        };
+        (uno(numeros), ...);
     }
-
-  private:
-    const std::uint8_t* datos_;
-    std::size_t largo_;
+    const std::uint8_t* Datos;
+    std::size_t Largo;
 };
 
 void ProbarEscalera(Bytes& bytes, const DatosGenerales& generales) {
     escaleras::DatosEscaleraT e;
-    bytes.PonerTodos(e.L, e.B, e.H, e.HT, e.Hd, e.WT, e.Wd, e.WpD);
+    bytes.Poner(e.L, e.B, e.H, e.HT, e.Hd, e.WT, e.Wd, e.WpD);
     escaleras::ResultadosEscaleraT r;
     escaleras::CalcularEscaleraT(e, generales, r);
     Exigir(r.TramoT.empty() || (r.TramoT.size() == 11 && r.DescansoT.size() == 8));
@@ -52,7 +46,7 @@ void ProbarEscalera(Bytes& bytes, const DatosGenerales& generales) {
 
 void ProbarHelice(Bytes& bytes, const DatosGenerales& generales) {
     helices::DatosEscaleraH e;
-    bytes.PonerTodos(e.B, e.T, e.H, e.R, e.Angulo, e.W, e.Inter);
+    bytes.Poner(e.B, e.T, e.H, e.R, e.Angulo, e.W, e.Inter);
     helices::ResultadosEscaleraH r;
     helices::CalcularEscaleraH(e, generales, r);
     Exigir(r.TramoSuperior.size() == r.TramoInferior.size());
@@ -61,7 +55,7 @@ void ProbarHelice(Bytes& bytes, const DatosGenerales& generales) {
 
 void ProbarPanos(Bytes& bytes) {
     std::vector<marcus::PanoMarcus> panos(2);
-    for (marcus::PanoMarcus& pano : panos) bytes.PonerTodos(pano.Carga, pano.Caso, pano.LX, pano.LY);
+    for (marcus::PanoMarcus& pano : panos) bytes.Poner(pano.Carga, pano.Caso, pano.LX, pano.LY);
     try {
         marcus::CalculeMarcus(panos);
     } catch (const ErrorEjecucion&) {
@@ -73,9 +67,9 @@ void ProbarPanos(Bytes& bytes) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t largo) {
-    Bytes bytes(datos, largo);
+    Bytes bytes{datos, largo};
     DatosGenerales g;
-    bytes.PonerTodos(g.FC, g.FY, g.D8, g.FiMomento, g.FS);
+    bytes.Poner(g.FC, g.FY, g.D8, g.FiMomento, g.FS);
     ProbarHelice(bytes, g);
     ProbarEscalera(bytes, g);
     ProbarPanos(bytes);

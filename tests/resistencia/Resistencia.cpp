@@ -59,15 +59,11 @@ Losa LosaDe(const std::string& nombre, int version) {
     return losa;
 }
 
-void CrearProyecto(const std::filesystem::path& camino, int losas) {
+void CrearProyecto(const std::filesystem::path& camino, int cuantas) {
+    std::vector<Losa> losas;
+    for (int i = 1; i <= cuantas; ++i) losas.push_back(LosaDe("LOSA Ñ " + std::to_string(i), i));
     std::filesystem::remove(camino);
-    Exigir(CrearBaseDatos(camino, prueba::EsquemaDeProyecto()), "no se crea el proyecto");
-    ProyectoAbierto proyecto;
-    prueba::Abrir(proyecto, camino);
-    Transaccion todo(proyecto.ConexionProyecto);
-    for (int i = 1; i <= losas; ++i)
-        Exigir(prueba::AgregarLosa(proyecto, LosaDe("LOSA Ñ " + std::to_string(i), i)), "no se agrega");
-    Exigir(todo.Confirmar(), "no se crean las losas");
+    Exigir(prueba::CrearProyecto(camino, losas), "no se crea el proyecto");
 }
 
 /// Each slab is one version whole, and no row is without its slab.

@@ -20,24 +20,17 @@ namespace {
 using prueba::EscribirArchivo;
 using prueba::LeerArchivo;
 
-Losa Version(char letra, std::size_t tramos) {
+Losa Version(char letra, std::size_t tramos, const char* nombre = "L-1") {
     Losa losa = prueba::LosaUniforme(tramos, 4, letra);
-    losa.Nombre = "L-1";
-    for (EjeLosa& eje : losa.Ejes) eje.Eje = std::string(1, letra);
+    losa.Nombre = nombre;
     losa.Ho = letra;
     return losa;
 }
 
 /// A project with one slab of two dozen spans and its neighbours.
 void CrearProyecto(const std::filesystem::path& camino) {
-    ASSERT_TRUE(CrearBaseDatos(camino, prueba::EsquemaDeProyecto()));
-    ProyectoAbierto proyecto;
-    ASSERT_TRUE(prueba::Abrir(proyecto, camino));
-    for (const char* nombre : {"L-1", "L-2", "L-3"}) {
-        Losa losa = Version('A', 24);
-        losa.Nombre = nombre;
-        ASSERT_TRUE(prueba::AgregarLosa(proyecto, losa));
-    }
+    ASSERT_TRUE(
+        prueba::CrearProyecto(camino, {Version('A', 24), Version('A', 24, "L-2"), Version('A', 24, "L-3")}));
 }
 
 int EnOtroProceso(const std::function<int()>& tarea) {

@@ -32,16 +32,12 @@ void ConOtraHerramienta(const std::filesystem::path& camino, const std::string& 
 
 /// A project with slabs whose names the order of other tools does not tell apart or sorts otherwise.
 void CrearProyecto(const std::filesystem::path& camino) {
-    std::filesystem::remove(camino);
-    ASSERT_TRUE(CrearBaseDatos(camino, prueba::EsquemaDeProyecto()));
-    ProyectoAbierto proyecto;
-    ASSERT_TRUE(prueba::Abrir(proyecto, camino));
-    std::size_t tramos = 0;
+    std::vector<Losa> losas;
     for (const char* nombre : {"Ñandú", "nube", "Ábaco", "oro", "zeta", "LOSA É"}) {
-        Losa losa = prueba::LosaUniforme(++tramos, 4, 100);
-        losa.Nombre = nombre;
-        ASSERT_TRUE(prueba::AgregarLosa(proyecto, losa));
+        losas.push_back(prueba::LosaUniforme(losas.size() + 1, 4, 100));
+        losas.back().Nombre = nombre;
     }
+    ASSERT_TRUE(prueba::CrearProyecto(camino, losas));
 }
 
 struct Caso {

@@ -4,6 +4,7 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <vector>
 
 #include "slab/Losa.h"
 #include "store/Mantenimiento.h"
@@ -43,6 +44,15 @@ inline bool AgregarLosa(ProyectoAbierto& proyecto, Losa losa) {
     proyecto.RegistrosProyecto.AgregarNuevo();
     proyecto.RegistrosProyecto.Poner("Nombre", losa.Nombre);
     return proyecto.RegistrosProyecto.Actualizar() && GuardarLosa(proyecto, losa);
+}
+
+/// A new project with the given slabs, in one save.
+inline bool CrearProyecto(const std::filesystem::path& camino, const std::vector<Losa>& losas) {
+    ProyectoAbierto proyecto;
+    if (!CrearBaseDatos(camino, EsquemaDeProyecto()) || !Abrir(proyecto, camino)) return false;
+    Transaccion guardado(proyecto.ConexionProyecto);
+    for (const Losa& losa : losas) AgregarLosa(proyecto, losa);
+    return guardado.Confirmar();
 }
 
 }  // namespace trabex::prueba
