@@ -1,6 +1,10 @@
 #include "store/antiguo/Tipos.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <string_view>
+#include <utility>
 
 #include "store/Columna.h"
 #include "store/Dialecto.h"
@@ -13,6 +17,9 @@ namespace {
 using jet::Tipo;
 
 constexpr std::size_t MayorTexto = 255;
+/// Tables in which the copy of a Jet database keeps what its own have not room for.
+constexpr std::array<std::string_view, 3> DeLaCopia{CopiaDeJet::TablaDeTipos, CopiaDeJet::TablaDeTablas,
+                                                    CopiaDeJet::TablaDeFaltas};
 /// Of money, in its own unit.
 constexpr double Unidad = 10000;
 
@@ -71,13 +78,9 @@ std::vector<std::string> TablasDe(Motor& base) {
         "ORDER BY rowid");
     bool hayFila = false;
     while (lectura && base.Avanzar(lectura.get(), hayFila) && hayFila) {
-        tablas.push_back(Texto(lectura.get(), 0));
-        for (const char* propia :
-             {CopiaDeJet::TablaDeTipos, CopiaDeJet::TablaDeTablas, CopiaDeJet::TablaDeFaltas})
-            if (tablas.back() == propia) {
-                tablas.pop_back();
-                break;
-            }
+        std::string nombre = Texto(lectura.get(), 0);
+        if (std::find(DeLaCopia.begin(), DeLaCopia.end(), nombre) == DeLaCopia.end())
+            tablas.push_back(std::move(nombre));
     }
     return tablas;
 }

@@ -26,7 +26,7 @@ dibujo::Color Tono(const QColor& color) {
 
 /// How many decimals tell a place to a thousandth of a millimetre.
 unsigned DecimalesPara(double puntosPorUnidad) {
-    constexpr double milesima = 72 / 25.4 / 1000;
+    constexpr double milesima = PuntosPorPulgada / 25.4 / 1000;
     unsigned decimales = 0;
     for (double error = puntosPorUnidad; error > 1.01 * milesima && decimales < DecimalesDeEscala;
          error /= 10)
